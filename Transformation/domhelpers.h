@@ -1,0 +1,30 @@
+#ifndef DOMHELPERS_H
+#define DOMHELPERS_H
+
+#include <QDomElement>
+#include <QJsonObject>
+#include <QString>
+
+//! The document element of xml, parsed without namespace processing into a document of its own. What the parser built
+//! before an error stays: "<animations>" gives an empty element. A text without a start tag gives a null element.
+QDomElement elementFromXml(const QString &xml);
+
+//! An empty element in a document of its own, for tags that are known to be names.
+QDomElement newElement(const QString &tag);
+
+//! The first direct child element with this tag, or null.
+QDomElement childByTag(const QDomElement &parent, const QString &tag);
+
+//! The first direct child element with this tag that has child nodes, or that has none, or null.
+QDomElement childByTagAndContent(const QDomElement &parent, const QString &tag, bool withChildren);
+
+//! The first element with this tag in document order at any depth below parent, or null. Needs no stack for the depth.
+QDomElement descendantByTag(const QDomElement &parent, const QString &tag);
+
+//! The first direct child element whose attribute "name" is name, or null. A missing attribute counts as empty.
+QDomElement childByNameAttribute(const QDomElement &parent, const QString &name);
+
+//! One text member per attribute.
+QJsonObject attributesAsJson(const QDomElement &element);
+
+#endif // DOMHELPERS_H

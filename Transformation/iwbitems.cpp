@@ -1,0 +1,59 @@
+#include "iwbitems.h"
+
+#include "zqhtran.h"
+
+namespace {
+
+// Kind and value of the link that a target text stands for. The texts are looked for anywhere, but their length is
+// always cut from the front.
+void readLinkTarget(const QString &href, QJsonObject &json)
+{
+    const auto setLink = [&json](const char *kind, const QString &value) {
+        json.insert(QLatin1String("InteractiveType"), QLatin1String(kind));
+        json.insert(QLatin1String("InteractiveValue"), value);
+    };
+    if (href.contains(QLatin1String("http://")) || href.contains(QLatin1String("https://"))) {
+        setLink("ACTION_OPENWEB", href);
+    } else if (href.contains(QLatin1String("txt://"))) {
+        setLink("ACTION_TOOLTIP", href.mid(6));
+    } else if (href.contains(QLatin1String("#page"))) {
+        setLink("ACTION_GOTOSLIDE", href.mid(5));
+    } else if (href.contains(QLatin1String("tool://"))) {
+        setLink("ACTION_OPENTOOL", href.mid(7));
+    } else if (href.endsWith(QLatin1String(".txt"))) {
+        setLink("ACTION_OPENFILE", json.value(QLatin1String("path")).toString() + href);
+    }
+}
+
+} // namespace
+
+QDomElement wrapInIwbLink(QDomDocument &document, const QDomElement &item, const QJsonObject &json)
+{
+    const QString reference = json.value(QLatin1String("ID")).toString() + QLatin1String("_link");
+    QDomElement link = document.createElement(QStringLiteral("svg:a"));
+    link.appendChild(item);
+    link.setAttribute(QStringLiteral("id"), reference);
+    ZQHTran::setLinkHref(link, json.value(QLatin1String("InteractiveType")).toString(),
+                         json.value(QLatin1String("InteractiveValue")).toString(),
+                         json.value(QLatin1String("tmpFilePath")).toString());
+    ZQHTran::appendIwbRecord(document, QStringLiteral("iwb:link"),
+                             {{QStringLiteral("ref"), reference}, {QStringLiteral("file"), QStringLiteral("internal")}});
+    return link;
+}
+
+QJsonObject iwbItemToJson(const QDomElement &element, const QJsonObject &json)
+{
+    // Links within links are taken apart from the outside in and their targets read from the inside out, without
+    // recursion: the depth is that of the file.
+    QVector<QString> targets;
+    QDomElement item = element;
+    while (item.nodeName() == QLatin1String("svg:a") && item.hasChildNodes()) {
+        targets.append(item.attribute(QStringLiteral("xlink:href")));
+        item = item.firstChildElement();
+    }
+    QJsonObject result = json;
+    for (auto it = targets.crbegin(); it != targets.crend(); ++it) {
+        readLinkTarget(*it, result);
+    }
+    return result;
+}

@@ -1,0 +1,138 @@
+#include "keypaths.h"
+
+#include <QJsonArray>
+#include <QMap>
+
+namespace {
+
+QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+KeyPaths row(const QString &key, const QStringList &path)
+{
+    return KeyPaths(KeyPaths::Row {key, path});
+}
+
+} // namespace
+
+KeyPaths::KeyPaths(std::initializer_list<KeyPaths> groups)
+{
+    for (const KeyPaths &group : groups) {
+        m_rows += group.m_rows;
+    }
+}
+
+KeyPaths::KeyPaths(const Row &row)
+    : m_rows(1, row)
+{
+}
+
+KeyPaths attribute(const char *key)
+{
+    return row(text(key), {text(key)});
+}
+
+KeyPaths attribute(const char *key, const char *name)
+{
+    return row(text(key), {text(name)});
+}
+
+KeyPaths childAttribute(const char *key, const char *element, const char *name)
+{
+    return row(text(key), {text(element), text(name)});
+}
+
+KeyPaths path(const char *key, const char *child, const char *inner, const char *name)
+{
+    return row(text(key), {text(child), text(inner), text(name)});
+}
+
+KeyPaths property(const char *key, const char *label)
+{
+    return path(key, "properties", "property", label);
+}
+
+KeyPaths property(const char *key)
+{
+    return property(key, key);
+}
+
+KeyPaths coordinatePair(const char *name)
+{
+    const QString element = text(name);
+    const QString x = QStringLiteral("x");
+    const QString y = QStringLiteral("y");
+    return {row(element + x, {element, x}), row(element + y, {element, y})};
+}
+
+KeyPaths coordinatePairs(const char *name, int first, int last)
+{
+    KeyPaths pairs;
+    for (int i = first; i <= last; ++i) {
+        pairs = {pairs, coordinatePair(QByteArray(name + QByteArray::number(i)).constData())};
+    }
+    return pairs;
+}
+
+KeyPaths without(const char *key)
+{
+    return row(text(key), {});
+}
+
+PreparedPaths::PreparedPaths(const KeyPaths &paths)
+{
+    QMap<QString, QJsonValue> sorted;
+    for (const KeyPaths::Row &row : paths.rows()) {
+        sorted[row.key] = row.path.isEmpty() ? QJsonValue() : QJsonValue(QJsonArray::fromStringList(row.path));
+    }
+    m_rows.reserve(sorted.size());
+    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
+        m_rows.append({it.key(), it.value()});
+    }
+}
+
+void PreparedPaths::storeIn(QJsonObject &map) const
+{
+    for (const Row &row : m_rows) {
+        if (row.path.isNull()) {
+            map.remove(row.key);
+        } else {
+            map.insert(row.key, row.path);
+        }
+    }
+}
+
+FamilyVocabulary::FamilyVocabulary(const TypeVocabulary &common, std::initializer_list<TypeVocabulary> lines)
+    : m_common {common.xml, common.tx, common.iwb}
+{
+    for (const TypeVocabulary &line : lines) {
+        const KeyPaths xml = {common.xml, line.xml};
+        const KeyPaths tx = {common.tx, line.tx};
+        const KeyPaths iwb = {common.iwb, line.iwb};
+        for (const char *type : line.types) {
+            m_lines.insert(text(type), m_maps.size());
+            m_types.append(text(type));
+        }
+        m_maps.append({xml, tx, iwb});
+    }
+}
+
+void FamilyVocabulary::storeIn(const QString &type, QJsonObject &xmlKeyMap, QJsonObject &txKeyMap,
+                               QJsonObject &iwbKeyMap) const
+{
+    const int line = m_lines.value(type, -1);
+    const Maps &maps = line < 0 ? m_common : m_maps.at(line);
+    maps.xml.storeIn(xmlKeyMap);
+    maps.tx.storeIn(txKeyMap);
+    maps.iwb.storeIn(iwbKeyMap);
+}
+
+TypePairs::TypePairs(std::initializer_list<Pair> pairs)
+{
+    for (const Pair &pair : pairs) {
+        m_toTx.insert(text(pair.itemType), text(pair.txType));
+        m_fromTx.insert(text(pair.txType), text(pair.itemType));
+    }
+}

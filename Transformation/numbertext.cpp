@@ -1,0 +1,96 @@
+#include "numbertext.h"
+
+#include <array>
+
+namespace {
+
+const QLatin1Char separator(',');
+
+// The first N parts of a text in single precision, if it has as many. Walks the text without making a list.
+template <std::size_t N> std::optional<std::array<float, N>> leadingFloats(const QString &text)
+{
+    std::array<float, N> numbers {};
+    int start = 0;
+    for (std::size_t i = 0; i < N; ++i) {
+        if (start < 0) {
+            return std::nullopt;
+        }
+        const int end = text.indexOf(separator, start);
+        numbers[i] = text.midRef(start, end < 0 ? -1 : end - start).toFloat();
+        start = end < 0 ? -1 : end + 1;
+    }
+    return numbers;
+}
+
+} // namespace
+
+QString numberText(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+QVector<double> numbersFromText(const QString &text)
+{
+    QVector<double> numbers;
+    numbers.reserve(text.count(separator) + 1);
+    int start = 0;
+    while (start >= 0) {
+        const int end = text.indexOf(separator, start);
+        numbers.append(text.midRef(start, end < 0 ? -1 : end - start).toDouble());
+        start = end < 0 ? -1 : end + 1;
+    }
+    return numbers;
+}
+
+int integerPart(const QStringList &parts, int index)
+{
+    return index < parts.size() ? parts.at(index).toInt() : 0;
+}
+
+std::optional<QMatrix> matrixFromText(const QString &text)
+{
+    const auto numbers = leadingFloats<6>(text);
+    if (!numbers) {
+        return std::nullopt;
+    }
+    const auto &n = *numbers;
+    return QMatrix(qreal(n[0]), qreal(n[1]), qreal(n[2]), qreal(n[3]), qreal(n[4]), qreal(n[5]));
+}
+
+QString matrixToText(const QMatrix &matrix)
+{
+    return numberText(matrix.m11()) + separator + numberText(matrix.m12()) + separator + numberText(matrix.m21())
+        + separator + numberText(matrix.m22()) + separator + numberText(matrix.dx()) + separator
+        + numberText(matrix.dy());
+}
+
+std::optional<QRectF> boxFromText(const QString &text)
+{
+    const auto numbers = leadingFloats<4>(text);
+    if (!numbers) {
+        return std::nullopt;
+    }
+    const auto &n = *numbers;
+    return QRectF(QPointF(qreal(n[0]), qreal(n[1])), QPointF(qreal(n[2]), qreal(n[3])));
+}
+
+QString boxToText(const QRectF &box)
+{
+    return numberText(box.left()) + separator + numberText(box.top()) + separator + numberText(box.right()) + separator
+        + numberText(box.bottom());
+}
+
+std::optional<QRectF> rectangleFromText(const QString &text)
+{
+    const auto numbers = leadingFloats<4>(text);
+    if (!numbers) {
+        return std::nullopt;
+    }
+    const auto &n = *numbers;
+    return QRectF(qreal(n[0]), qreal(n[1]), qreal(n[2]), qreal(n[3]));
+}
+
+int majorVersion(const QString &version)
+{
+    return version.section(QLatin1Char('.'), 0, 0).toInt();
+}

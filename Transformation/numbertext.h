@@ -1,0 +1,42 @@
+#ifndef NUMBERTEXT_H
+#define NUMBERTEXT_H
+
+#include <QMatrix>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+// The number texts of items: decimal numbers between commas. All readers know how many numbers they need and give
+// nothing when the text is too short; a part that does not read as a number counts as 0.
+
+//! A number in the format 'g' with six significant digits.
+QString numberText(double value);
+
+//! The numbers of a text, split at every comma; an empty text gives the single number 0.
+QVector<double> numbersFromText(const QString &text);
+
+//! Part number index of a text split at every comma, read as a decimal integer, or 0.
+int integerPart(const QStringList &parts, int index);
+
+//! m11,m12,m21,m22,dx,dy in single precision; nothing if there are fewer than six parts.
+std::optional<QMatrix> matrixFromText(const QString &text);
+
+//! m11,m12,m21,m22,dx,dy, six digits each.
+QString matrixToText(const QMatrix &matrix);
+
+//! left,top,right,bottom in single precision as a rectangle; nothing if there are fewer than four parts.
+std::optional<QRectF> boxFromText(const QString &text);
+
+//! left,top,right,bottom, six digits each.
+QString boxToText(const QRectF &box);
+
+//! x,y,width,height in single precision as a rectangle; nothing if there are fewer than four parts.
+std::optional<QRectF> rectangleFromText(const QString &text);
+
+//! The first number of a version such as "3.0.1", 0 if it is no number.
+int majorVersion(const QString &version);
+
+#endif // NUMBERTEXT_H

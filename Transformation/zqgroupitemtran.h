@@ -1,0 +1,24 @@
+#ifndef ZQGROUPITEMTRAN_H
+#define ZQGROUPITEMTRAN_H
+
+#include "zqcomitemcontroltran.h"
+
+/*!
+ * An item that holds other items, in the array Children. On writing it makes the group's own element only; the host
+ * puts the children into <data>.
+ */
+class ZQGroupItemTran : public ZQComItemControlTran
+{
+public:
+    explicit ZQGroupItemTran(const QString &type);
+
+    static QString toTxType(const QString &type);
+    static QString fromTxType(const QString &type);
+
+    //! Children come out in the reverse of their order in the document.
+    QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+};
+
+#endif // ZQGROUPITEMTRAN_H

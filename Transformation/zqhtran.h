@@ -1,0 +1,65 @@
+#ifndef ZQHTRAN_H
+#define ZQHTRAN_H
+
+#include <QDomElement>
+#include <QJsonArray>
+#include <QJsonObject>
+
+/*!
+ * Base of all translators. Three key maps, filled by the constructors of a class chain, say where in XML each JSON key
+ * lives; generic walks copy the values. A subclass overrides a conversion for what a plain copy can't do, and as a
+ * rule calls the inherited one first.
+ *
+ * A translator lives for one conversion. Elements are shared handles, so writes reach the caller's tree; JSON objects
+ * are copies.
+ */
+class ZQHTran
+{
+public:
+    ZQHTran();
+    virtual ~ZQHTran();
+    ZQHTran(const ZQHTran &) = delete;
+    ZQHTran &operator=(const ZQHTran &) = delete;
+
+    //! Fills json from an element of the raw form by xmlKeyMap. An object without ID gets a generated one, which is
+    //! also written to the element's attribute "ID".
+    virtual QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context);
+
+    //! Fills json from a ZQTX element by txKeyMap. A key whose place is missing stays out.
+    virtual QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context);
+
+    //! Writes the texts of json into a ZQTX element by txKeyMap and returns it. A null element takes nothing.
+    virtual QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context);
+
+    //! Writes position, rotation and the one-segment keys of iwbKeyMap into an svg element and returns it.
+    virtual QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context);
+
+    //! Fills json with the attribute texts of an svg element by iwbKeyMap, and Angle from its "transform".
+    virtual QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context);
+
+    //! Adds a record about an element to the child <iwb> of the document. Members of record: ref, file and
+    //! iwb_background (texts), iwb_locked (boolean).
+    static void appendIwbRecord(QDomDocument &document, const QString &tag, const QJsonObject &record);
+
+    //! Sets "xlink:href" of a link from an ACTION_ kind and its value. The file of ACTION_OPENFILE is copied to
+    //! tmpFilePath/additional/; one that doesn't exist gives an empty target.
+    static void setLinkHref(QDomElement &link, const QString &kind, const QString &value, const QString &tmpFilePath);
+
+protected:
+    //! A new ID: the milliseconds since 1970 plus a counter of this process, in decimal.
+    static QString nextGeneratedId();
+
+    QJsonObject xmlKeyMap;
+    QJsonObject txKeyMap;
+    QJsonObject iwbKeyMap;
+
+private:
+    static int idCounter;
+
+    void readKeysFromXml(QDomElement &element, QJsonObject &json) const;
+    void readKeysFromTx(const QDomElement &element, QJsonObject &json) const;
+    void writeKeysToTx(QDomElement &element, const QJsonObject &json) const;
+    static void writeThreeSegmentPath(QDomElement &child, const QString &value, const QJsonArray &path);
+};
+
+#endif // ZQHTRAN_H

@@ -1,0 +1,6 @@
+#include "zqinkstroketran.h"
+
+ZQInkStrokeTran::ZQInkStrokeTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+}

@@ -1,0 +1,28 @@
+#ifndef ZQSTROKESTRAN_H
+#define ZQSTROKESTRAN_H
+
+#include "zqinkstroketran.h"
+
+#include <memory>
+
+/*!
+ * Freehand ink: curves, brushes, chalk, stamps, textures and records of deleted pixels, and the two formula strokes,
+ * which hold nested items as a group does.
+ */
+class ZQStrokesTran : public ZQInkStrokeTran
+{
+public:
+    explicit ZQStrokesTran(const QString &type);
+
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+    static QString toTxType(const QString &type);
+    static QString fromTxType(const QString &type);
+
+    QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+    //! Children of a formula stroke are not written: the host puts them into <data>.
+    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+};
+
+#endif // ZQSTROKESTRAN_H

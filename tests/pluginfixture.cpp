@@ -1,0 +1,60 @@
+#include "pluginfixture.h"
+
+#include <QJsonDocument>
+#include <QPluginLoader>
+#include <QTextStream>
+#include <QVector>
+
+QObject *pluginObject()
+{
+    static QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
+    QObject *object = loader.instance();
+    if (!object) {
+        qFatal("%s", qPrintable(loader.errorString()));
+    }
+    return object;
+}
+
+IZQTransformation *plugin()
+{
+    auto *interface = qobject_cast<IZQTransformation *>(pluginObject());
+    if (!interface) {
+        qFatal("the plug-in has another interface");
+    }
+    return interface;
+}
+
+QDomElement xml(const QString &text)
+{
+    static QVector<QDomDocument> documents;
+    QDomDocument document;
+    QString error;
+    if (!document.setContent(text, false, &error)) {
+        qFatal("%s in %s", qPrintable(error), qPrintable(text));
+    }
+    documents.append(document);
+    return document.documentElement();
+}
+
+QString toText(const QDomElement &element)
+{
+    QString text;
+    QTextStream stream(&text);
+    element.save(stream, -1);
+    return text;
+}
+
+QJsonObject json(const char *text)
+{
+    QJsonParseError error {};
+    const auto document = QJsonDocument::fromJson(QByteArray(text).replace('\'', '"'), &error);
+    if (!document.isObject()) {
+        qFatal("%s in %s", qPrintable(error.errorString()), text);
+    }
+    return document.object();
+}
+
+QString toText(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}

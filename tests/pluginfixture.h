@@ -1,0 +1,28 @@
+#ifndef PLUGINFIXTURE_H
+#define PLUGINFIXTURE_H
+
+#include "izqtransformation.h"
+
+#include <QDomElement>
+#include <QJsonObject>
+#include <QString>
+
+// What tests of the plug-in share: the plug-in itself, loaded once, and short ways to write XML and JSON.
+
+//! The plug-in's object, loaded through the Qt plug-in loader. Fails the program if it can't be loaded.
+QObject *pluginObject();
+IZQTransformation *plugin();
+
+//! The document element of xml, in a document that lives to the end of the test.
+QDomElement xml(const QString &text);
+
+//! The element as text without indentation.
+QString toText(const QDomElement &element);
+
+//! The object of a JSON text, in which ' stands for ".
+QJsonObject json(const char *text);
+
+//! The object as compact text, members in ascending order.
+QString toText(const QJsonObject &object);
+
+#endif // PLUGINFIXTURE_H
