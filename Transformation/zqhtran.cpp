@@ -39,7 +39,7 @@ const BaseVocabulary &baseVocabulary()
 }
 
 // Stores the attribute's text under key if the attribute exists.
-void readAttribute(const QDomElement &element, const QString &name, const QString &key, QJsonObject &json)
+void readAttribute(QDomElement element, const QString &name, const QString &key, QJsonObject &json)
 {
     const QDomAttr attribute = element.attributeNode(name);
     if (!attribute.isNull()) {

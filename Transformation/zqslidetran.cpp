@@ -174,7 +174,7 @@ QString notebookPaper(int number)
 }
 
 // What a raw slide says in attributes of its own, where the object doesn't say it already.
-void readSlideAttributes(const QDomElement &element, QJsonObject &json)
+void readSlideAttributes(QDomElement element, QJsonObject &json)
 {
     for (const char *key : {"SlideTagsInfo", "BackColor", "AttachFile", "TextureLineType", "SlideSourceRect"}) {
         const QLatin1String name(key);
