@@ -1,12 +1,25 @@
 #include "domhelpers.h"
 
-#include <QDomDocument>
-
 QDomElement elementFromXml(const QString &xml)
 {
     QDomDocument document;
     document.setContent(xml, false);
     return document.documentElement();
+}
+
+ElementTemplate::ElementTemplate(const QString &xml)
+{
+    m_document.setContent(xml, false);
+}
+
+QDomElement ElementTemplate::instance() const
+{
+    return m_document.cloneNode().toDocument().documentElement();
+}
+
+QDomElement ElementTemplate::part() const
+{
+    return m_document.documentElement().cloneNode().toElement();
 }
 
 QDomElement newElement(const QString &tag)

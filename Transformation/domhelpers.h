@@ -1,6 +1,7 @@
 #ifndef DOMHELPERS_H
 #define DOMHELPERS_H
 
+#include <QDomDocument>
 #include <QDomElement>
 #include <QJsonObject>
 #include <QString>
@@ -8,6 +9,24 @@
 //! The document element of xml, parsed without namespace processing into a document of its own. What the parser built
 //! before an error stays: "<animations>" gives an empty element. A text without a start tag gives a null element.
 QDomElement elementFromXml(const QString &xml);
+
+/*!
+ * A literal template text, parsed once per process. For texts that take no values.
+ */
+class ElementTemplate
+{
+public:
+    explicit ElementTemplate(const QString &xml);
+
+    //! A new copy of the element in a document of its own, as elementFromXml gives.
+    QDomElement instance() const;
+
+    //! A new copy for a caller that appends it to a tree at once. Costs less; until then it belongs to the template.
+    QDomElement part() const;
+
+private:
+    QDomDocument m_document;
+};
 
 //! An empty element in a document of its own, for tags that are known to be names.
 QDomElement newElement(const QString &tag);

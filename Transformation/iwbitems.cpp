@@ -36,8 +36,9 @@ QDomElement wrapInIwbLink(QDomDocument &document, const QDomElement &item, const
     ZQHTran::setLinkHref(link, json.value(QLatin1String("InteractiveType")).toString(),
                          json.value(QLatin1String("InteractiveValue")).toString(),
                          json.value(QLatin1String("tmpFilePath")).toString());
-    ZQHTran::appendIwbRecord(document, QStringLiteral("iwb:link"),
-                             {{QStringLiteral("ref"), reference}, {QStringLiteral("file"), QStringLiteral("internal")}});
+    ZQHTran::appendIwbRecord(
+        document, QStringLiteral("iwb:link"),
+        {{QStringLiteral("ref"), reference}, {QStringLiteral("file"), QStringLiteral("internal")}});
     return link;
 }
 

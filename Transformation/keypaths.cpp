@@ -12,7 +12,7 @@ QString text(const char *latin1)
 
 KeyPaths row(const QString &key, const QStringList &path)
 {
-    return KeyPaths(KeyPaths::Row {key, path});
+    return KeyPaths(KeyPaths::Row{key, path});
 }
 
 } // namespace
@@ -104,8 +104,14 @@ void PreparedPaths::storeIn(QJsonObject &map) const
     }
 }
 
+QJsonObject PreparedPaths::storedIn(QJsonObject map) const
+{
+    storeIn(map);
+    return map;
+}
+
 FamilyVocabulary::FamilyVocabulary(const TypeVocabulary &common, std::initializer_list<TypeVocabulary> lines)
-    : m_common {common.xml, common.tx, common.iwb}
+    : m_common{common.xml, common.tx, common.iwb}
 {
     for (const TypeVocabulary &line : lines) {
         const KeyPaths xml = {common.xml, line.xml};

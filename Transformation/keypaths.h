@@ -66,7 +66,12 @@ public:
     PreparedPaths() = default;
     PreparedPaths(const KeyPaths &paths);
 
+    //! Inserts the rows, replacing those of the same key, and takes out what without() names.
     void storeIn(QJsonObject &map) const;
+
+    //! A map with the rows stored in it. For the classes whose constructor always starts from the same map: they make
+    //! the result once and give it to each translator.
+    QJsonObject storedIn(QJsonObject map) const;
 
 private:
     struct Row

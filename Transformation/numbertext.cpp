@@ -9,7 +9,7 @@ const QLatin1Char separator(',');
 // The first N parts of a text in single precision, if it has as many. Walks the text without making a list.
 template <std::size_t N> std::optional<std::array<float, N>> leadingFloats(const QString &text)
 {
-    std::array<float, N> numbers {};
+    std::array<float, N> numbers{};
     int start = 0;
     for (std::size_t i = 0; i < N; ++i) {
         if (start < 0) {

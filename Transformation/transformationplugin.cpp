@@ -11,8 +11,7 @@ namespace {
 
 QString typeOf(const QDomElement &element, const QJsonObject &json)
 {
-    return element.isNull() ? json.value(QLatin1String("Type")).toString()
-                            : element.attribute(QStringLiteral("type"));
+    return element.isNull() ? json.value(QLatin1String("Type")).toString() : element.attribute(QStringLiteral("type"));
 }
 
 } // namespace
@@ -25,7 +24,7 @@ TransformationPlugin::TransformationPlugin()
 
 TransformationPlugin::~TransformationPlugin() = default;
 
-void TransformationPlugin::reservedHook(void *) {}
+void TransformationPlugin::reservedHook(void *) { }
 
 QJsonObject TransformationPlugin::tranPresXML2JSON(QDomElement element, QJsonObject context)
 {

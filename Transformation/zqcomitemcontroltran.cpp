@@ -10,9 +10,9 @@
 
 namespace {
 
-struct ItemVocabulary
+const KeyPaths &xmlPaths()
 {
-    const PreparedPaths xml = KeyPaths {
+    static const KeyPaths paths = {
         attribute("Matrix", "TransformMatrix"),
         attribute("BoundingBox", "Bound"),
         attribute("Visible"),
@@ -20,7 +20,12 @@ struct ItemVocabulary
         attribute("InfiniteClone"),
         attribute("Angle"),
     };
-    const PreparedPaths tx = KeyPaths {
+    return paths;
+}
+
+const KeyPaths &txPaths()
+{
+    static const KeyPaths paths = {
         attribute("Visible", "visible"),
         attribute("LockIn", "locked"),
         attribute("InfiniteClone", "uclone"),
@@ -34,12 +39,7 @@ struct ItemVocabulary
         attribute("CoverLayer", "coverlayer"),
         attribute("CoverLayerType"),
     };
-};
-
-const ItemVocabulary &itemVocabulary()
-{
-    static const ItemVocabulary vocabulary;
-    return vocabulary;
+    return paths;
 }
 
 // A raw bound has at least six numbers: right, bottom, two more, left, top. The item's box is left, top, right, bottom.
@@ -50,7 +50,7 @@ void reorderBound(QJsonObject &json)
         return;
     }
     json.insert(QLatin1String("BoundingBox"),
-                QStringList {parts.at(4), parts.at(5), parts.at(0), parts.at(1)}.join(QLatin1Char(',')));
+                QStringList{parts.at(4), parts.at(5), parts.at(0), parts.at(1)}.join(QLatin1Char(',')));
 }
 
 void normalizeFlag(QJsonObject &json, QLatin1String key)
@@ -79,9 +79,11 @@ bool isAcceptedLink(const QString &kind)
 ZQComItemControlTran::ZQComItemControlTran(const QString &type)
     : itemType(type)
 {
-    const ItemVocabulary &vocabulary = itemVocabulary();
-    vocabulary.xml.storeIn(xmlKeyMap);
-    vocabulary.tx.storeIn(txKeyMap);
+    // The base constructor leaves the same maps each time, and so does this one.
+    static const QJsonObject xml = PreparedPaths(xmlPaths()).storedIn(xmlKeyMap);
+    static const QJsonObject tx = PreparedPaths(txPaths()).storedIn(txKeyMap);
+    xmlKeyMap = xml;
+    txKeyMap = tx;
 }
 
 QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

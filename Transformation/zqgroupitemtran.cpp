@@ -8,7 +8,7 @@ namespace {
 
 const TypePairs &typePairs()
 {
-    static const TypePairs pairs {{"ZQGroupItem", "group"}};
+    static const TypePairs pairs{{"ZQGroupItem", "group"}};
     return pairs;
 }
 
@@ -77,8 +77,10 @@ QJsonObject ZQGroupItemTran::tranZQTX2JSON(QDomElement element, QJsonObject json
 QDomElement ZQGroupItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
     if (element.isNull()) {
-        element = elementFromXml(QStringLiteral(R"(<group><transform><rotate angle="0"/></transform><element/>)"
-                                                R"(<data><rect points=""/></data></group>)"));
+        static const ElementTemplate group(
+            QStringLiteral(R"(<group><transform><rotate angle="0"/></transform><element/>)"
+                           R"(<data><rect points=""/></data></group>)"));
+        element = group.instance();
     }
     return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
 }

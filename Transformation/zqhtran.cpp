@@ -9,34 +9,14 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QHash>
+#include <QSet>
+#include <QVarLengthArray>
 
 #include <optional>
 
 namespace {
 
 const QLatin1String propertiesTag("properties");
-
-struct BaseVocabulary
-{
-    const PreparedPaths xml = KeyPaths {attribute("ID", "NetID"), attribute("Delete")};
-    const PreparedPaths tx = KeyPaths {attribute("ID", "id"), attribute("Delete")};
-    const PreparedPaths iwb = KeyPaths {
-        attribute("ID", "id"),
-        attribute("x"),
-        attribute("y"),
-        attribute("Width", "width"),
-        attribute("Height", "height"),
-        attribute("InfiniteClone", "infiniteclone"),
-        attribute("Visible", "visible"),
-        attribute("LockIn", "lockin"),
-    };
-};
-
-const BaseVocabulary &baseVocabulary()
-{
-    static const BaseVocabulary vocabulary;
-    return vocabulary;
-}
 
 // Stores the attribute's text under key if the attribute exists.
 void readAttribute(QDomElement element, const QString &name, const QString &key, QJsonObject &json)
@@ -47,27 +27,87 @@ void readAttribute(QDomElement element, const QString &name, const QString &key,
     }
 }
 
-// The rows of <properties>, found by name at the first look, so that reading many keys costs one walk.
-class PropertyRows
+// The places of a ZQTX element that paths lead to. Child elements and property rows are looked up once and kept for the
+// length of one walk, during which the tree must not change.
+class TxPlaces
 {
 public:
-    explicit PropertyRows(const QDomElement &element)
+    explicit TxPlaces(const QDomElement &element)
         : m_element(element)
     {
     }
 
-    QDomElement row(const QString &name)
+    // The text at a path, or nothing if its place is missing.
+    std::optional<QString> text(const QJsonArray &path)
     {
-        if (!m_indexed) {
-            index();
+        const QString first = path.at(0).toString();
+        switch (path.size()) {
+        case 1:
+            return attributeText(m_element, first);
+        case 2: {
+            const QDomElement holder = first == propertiesTag ? descendantByTag(m_element, first)
+                                                              : childByTagAndContent(m_element, first, false);
+            return holder.isNull() ? std::nullopt : attributeText(holder, path.at(1).toString());
         }
-        return m_rows.value(name);
+        case 3:
+            return first == propertiesTag ? propertyText(path) : innerText(first, path);
+        default:
+            return std::nullopt;
+        }
     }
 
 private:
-    void index()
+    struct Child
     {
-        m_indexed = true;
+        QString tag;
+        QDomElement element;
+    };
+
+    static std::optional<QString> attributeText(QDomElement element, const QString &name)
+    {
+        const QDomAttr attribute = element.attributeNode(name);
+        return attribute.isNull() ? std::nullopt : std::make_optional(attribute.value());
+    }
+
+    std::optional<QString> propertyText(const QJsonArray &path)
+    {
+        if (!m_rowsFound) {
+            findRows();
+        }
+        if (m_rows.isEmpty()) {
+            return std::nullopt;
+        }
+        const auto row = m_rows.constFind(path.at(2).toString());
+        if (row == m_rows.constEnd()) {
+            return std::nullopt;
+        }
+        return row->attribute(QStringLiteral("value"));
+    }
+
+    std::optional<QString> innerText(const QString &tag, const QJsonArray &path)
+    {
+        const QDomElement child = childWithContent(tag);
+        if (child.isNull()) {
+            return std::nullopt;
+        }
+        const QDomElement inner = descendantByTag(child, path.at(1).toString());
+        return inner.isNull() ? std::nullopt : attributeText(inner, path.at(2).toString());
+    }
+
+    QDomElement childWithContent(const QString &tag)
+    {
+        for (const Child &child : qAsConst(m_children)) {
+            if (child.tag == tag) {
+                return child.element;
+            }
+        }
+        m_children.append({tag, childByTagAndContent(m_element, tag, true)});
+        return m_children.last().element;
+    }
+
+    void findRows()
+    {
+        m_rowsFound = true;
         const QString nameAttribute = QStringLiteral("name");
         const QDomElement properties = childByTagAndContent(m_element, propertiesTag, true);
         for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
@@ -79,39 +119,17 @@ private:
     }
 
     QDomElement m_element;
-    QHash<QString, QDomElement> m_rows;
-    bool m_indexed = false;
+    QVarLengthArray<Child, 6> m_children;
+    QHash<QString, QDomElement> m_rows; // the first row of each name
+    bool m_rowsFound = false;
 };
 
-QDomElement newPropertyRow(const QString &value, const QString &name)
+// Items of the mathematics box are left alone by the eraser. At this moment Type is still the ZQTX type.
+void ignoreEraserForMathematics(QJsonObject &json)
 {
-    QDomElement row = newElement(QStringLiteral("property"));
-    row.setAttribute(QStringLiteral("value"), value);
-    row.setAttribute(QStringLiteral("name"), name);
-    return row;
-}
-
-// Puts a value into the first row that has the name or none. An empty value leaves no row behind.
-void writePropertyRow(QDomElement &properties, const QString &name, const QString &value)
-{
-    const QString nameAttribute = QStringLiteral("name");
-    for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
-        const QString rowName = row.attribute(nameAttribute);
-        if (rowName != name && !rowName.isEmpty()) {
-            continue;
-        }
-        if (value.isEmpty()) {
-            properties.removeChild(row);
-            return;
-        }
-        row.setAttribute(QStringLiteral("value"), value);
-        if (rowName.isEmpty()) {
-            row.setAttribute(nameAttribute, name);
-        }
-        return;
-    }
-    if (!value.isEmpty()) {
-        properties.appendChild(newPropertyRow(value, name));
+    const QLatin1String ignoreEraser("IgnoreEraser");
+    if (json.value(QLatin1String("Type")).toString().contains(QLatin1String("Math")) && !json.contains(ignoreEraser)) {
+        json.insert(ignoreEraser, true);
     }
 }
 
@@ -141,8 +159,7 @@ QString linkTarget(const QString &kind, const QString &value, const QString &tmp
         return copyLinkedFile(value, tmpFilePath);
     }
     if (kind == QLatin1String("ACTION_OPENWEB")) {
-        const bool hasScheme
-            = value.contains(QLatin1String("http://")) || value.contains(QLatin1String("https://"));
+        const bool hasScheme = value.contains(QLatin1String("http://")) || value.contains(QLatin1String("https://"));
         return hasScheme ? value : QLatin1String("http://") + value;
     }
     if (kind == QLatin1String("ACTION_TOOLTIP")) {
@@ -200,14 +217,93 @@ std::optional<QString> angleOfTransform(const QString &transform)
 
 } // namespace
 
+/*!
+ * Puts values into the rows of a <properties> element: into the first row that has the name or none, or else into a new
+ * one at the end. An empty value leaves no row behind.
+ */
+class ZQHTran::PropertyRows
+{
+public:
+    void write(QDomElement &properties, const QString &name, const QString &value)
+    {
+        if (!m_namesFound) {
+            findNames(properties);
+        }
+        if (m_unnamed > 0 || m_names.contains(name)) {
+            writeExisting(properties, name, value);
+        } else if (!value.isEmpty()) {
+            static const ElementTemplate rowTemplate(QStringLiteral(R"(<property value="" name=""/>)"));
+            QDomElement row = rowTemplate.part();
+            row.setAttribute(QStringLiteral("value"), value);
+            row.setAttribute(QStringLiteral("name"), name);
+            properties.appendChild(row);
+            m_names.insert(name);
+        }
+    }
+
+private:
+    void findNames(const QDomElement &properties)
+    {
+        m_namesFound = true;
+        for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+            const QString name = row.attribute(QStringLiteral("name"));
+            if (name.isEmpty()) {
+                ++m_unnamed;
+            } else {
+                m_names.insert(name);
+            }
+        }
+    }
+
+    void writeExisting(QDomElement &properties, const QString &name, const QString &value)
+    {
+        const QString nameAttribute = QStringLiteral("name");
+        for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+            const QString rowName = row.attribute(nameAttribute);
+            if (rowName != name && !rowName.isEmpty()) {
+                continue;
+            }
+            if (rowName.isEmpty()) {
+                --m_unnamed;
+            }
+            if (value.isEmpty()) {
+                properties.removeChild(row);
+            } else {
+                row.setAttribute(QStringLiteral("value"), value);
+                row.setAttribute(nameAttribute, name);
+                m_names.insert(name);
+            }
+            return;
+        }
+        m_names.remove(name);
+        write(properties, name, value);
+    }
+
+    QSet<QString> m_names; // may still hold the name of a row that was taken out
+    int m_unnamed = 0;
+    bool m_namesFound = false;
+};
+
 int ZQHTran::idCounter = 1;
 
 ZQHTran::ZQHTran()
 {
-    const BaseVocabulary &vocabulary = baseVocabulary();
-    vocabulary.xml.storeIn(xmlKeyMap);
-    vocabulary.tx.storeIn(txKeyMap);
-    vocabulary.iwb.storeIn(iwbKeyMap);
+    static const QJsonObject xml = PreparedPaths({attribute("ID", "NetID"), attribute("Delete")}).storedIn({});
+    static const QJsonObject tx = PreparedPaths({attribute("ID", "id"), attribute("Delete")}).storedIn({});
+    static const QJsonObject iwb = PreparedPaths({
+                                                     attribute("ID", "id"),
+                                                     attribute("x"),
+                                                     attribute("y"),
+                                                     attribute("Width", "width"),
+                                                     attribute("Height", "height"),
+                                                     attribute("InfiniteClone", "infiniteclone"),
+                                                     attribute("Visible", "visible"),
+                                                     attribute("LockIn", "lockin"),
+                                                 })
+                                       .storedIn({});
+    xmlKeyMap = xml;
+    txKeyMap = tx;
+    iwbKeyMap = iwb;
 }
 
 ZQHTran::~ZQHTran() = default;
@@ -348,38 +444,21 @@ void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json) const
 
 void ZQHTran::readKeysFromTx(const QDomElement &element, QJsonObject &json) const
 {
-    PropertyRows properties(element);
+    TxPlaces places(element);
+    bool typeMayBeNew = true;
     for (auto it = txKeyMap.constBegin(); it != txKeyMap.constEnd(); ++it) {
         const QJsonArray path = it.value().toArray();
-        const QString first = path.first().toString();
-        switch (path.size()) {
-        case 1:
-            readAttribute(element, first, it.key(), json);
-            if (!json.contains(QLatin1String("IgnoreEraser"))
-                && json.value(QLatin1String("Type")).toString().contains(QLatin1String("Math"))) {
-                json.insert(QLatin1String("IgnoreEraser"), true);
-            }
-            break;
-        case 2: {
-            const QDomElement holder = first == propertiesTag ? descendantByTag(element, first)
-                                                              : childByTagAndContent(element, first, false);
-            readAttribute(holder, path.at(1).toString(), it.key(), json);
-            break;
+        if (path.isEmpty()) {
+            continue;
         }
-        case 3:
-            if (first == propertiesTag) {
-                const QDomElement row = properties.row(path.at(2).toString());
-                if (!row.isNull()) {
-                    json.insert(it.key(), row.attribute(QStringLiteral("value")));
-                }
-            } else {
-                const QDomElement child = childByTagAndContent(element, first, true);
-                const QDomElement holder = descendantByTag(child, path.at(1).toString());
-                readAttribute(holder, path.at(2).toString(), it.key(), json);
-            }
-            break;
-        default:
-            break;
+        if (const auto text = places.text(path)) {
+            const QString key = it.key();
+            json.insert(key, *text);
+            typeMayBeNew = typeMayBeNew || key == QLatin1String("Type");
+        }
+        if (typeMayBeNew && path.size() == 1) {
+            typeMayBeNew = false;
+            ignoreEraserForMathematics(json);
         }
     }
 }
@@ -389,46 +468,43 @@ void ZQHTran::writeKeysToTx(QDomElement &element, const QJsonObject &json) const
     if (element.isNull()) {
         return;
     }
+    PropertyRows propertyRows;
     for (auto it = json.constBegin(); it != json.constEnd(); ++it) {
         const QJsonArray path = txKeyMap.value(it.key()).toArray();
-        if (path.isEmpty()) {
+        if (path.isEmpty() || path.size() > 3) {
             continue;
         }
-        const QString first = path.first().toString();
+        const QString first = path.at(0).toString();
         const QString value = it.value().toString();
         if (path.size() == 1) {
             if (first == QLatin1String("visible")) {
-                element.setAttribute(first, it.value().toBool() ? 1 : 0);
+                element.setAttribute(first, it.value().toBool() ? QStringLiteral("1") : QStringLiteral("0"));
             } else {
                 element.setAttribute(first, value);
             }
             continue;
         }
-        if (path.size() > 3 || element.firstChildElement().isNull()) {
+        if (element.firstChildElement().isNull()) {
             continue;
         }
         QDomElement child = childByTag(element, first);
-        const bool isNew = child.isNull();
-        if (isNew) {
-            child = newElement(first);
+        if (child.isNull()) {
+            child = element.appendChild(newElement(first)).toElement();
         }
         if (path.size() == 2) {
             child.setAttribute(path.at(1).toString(), value);
         } else {
-            writeThreeSegmentPath(child, value, path);
-        }
-        if (isNew) {
-            element.appendChild(child);
+            writeThreeSegmentPath(child, value, path, propertyRows);
         }
     }
 }
 
-void ZQHTran::writeThreeSegmentPath(QDomElement &child, const QString &value, const QJsonArray &path)
+void ZQHTran::writeThreeSegmentPath(QDomElement child, const QString &value, const QJsonArray &path,
+                                    PropertyRows &propertyRows)
 {
-    if (path.first().toString() == propertiesTag) {
-        writePropertyRow(child, path.at(2).toString(), value);
-        return;
+    if (path.at(0).toString() == propertiesTag) {
+        propertyRows.write(child, path.at(2).toString(), value);
+    } else {
+        childByTag(child, path.at(1).toString()).setAttribute(path.at(2).toString(), value);
     }
-    QDomElement inner = childByTag(child, path.at(1).toString());
-    inner.setAttribute(path.at(2).toString(), value);
 }

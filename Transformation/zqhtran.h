@@ -54,12 +54,15 @@ protected:
     QJsonObject iwbKeyMap;
 
 private:
+    class PropertyRows;
+
     static int idCounter;
 
     void readKeysFromXml(QDomElement &element, QJsonObject &json) const;
     void readKeysFromTx(const QDomElement &element, QJsonObject &json) const;
     void writeKeysToTx(QDomElement &element, const QJsonObject &json) const;
-    static void writeThreeSegmentPath(QDomElement &child, const QString &value, const QJsonArray &path);
+    static void writeThreeSegmentPath(QDomElement child, const QString &value, const QJsonArray &path,
+                                      PropertyRows &propertyRows);
 };
 
 #endif // ZQHTRAN_H

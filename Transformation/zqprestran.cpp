@@ -10,7 +10,7 @@ namespace {
 
 const PreparedPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths {
+    static const PreparedPaths paths = KeyPaths{
         attribute("Width", "width"),
         attribute("Height", "height"),
         attribute("Version", "version"),
@@ -81,10 +81,11 @@ QJsonObject ZQPresTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJs
 QDomDocument ZQPresTran::tranJSON2ZQTXDocument(QDomDocument document, QJsonObject json, QJsonObject context)
 {
     if (document.isNull()) {
-        document.setContent(QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                                           R"(<main version_app="" date_modified="" date="" version="" author="" title ="">)"
-                                           "<slides></slides></main>"),
-                            false);
+        document.setContent(
+            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                           R"(<main version_app="" date_modified="" date="" version="" author="" title ="">)"
+                           "<slides></slides></main>"),
+            false);
     }
     QDomElement root = document.documentElement();
     QDomElement slides = childByTag(root, QStringLiteral("slides"));
@@ -93,8 +94,7 @@ QDomDocument ZQPresTran::tranJSON2ZQTXDocument(QDomDocument document, QJsonObjec
         for (const QJsonValue &slide : slideObjects) {
             QDomElement file = document.createElement(QStringLiteral("file"));
             const QString id = slide.toObject().value(QLatin1String("ID")).toString();
-            file.setAttribute(QStringLiteral("href"),
-                              QString(QLatin1String("slides/") + id + QLatin1String(".xml")));
+            file.setAttribute(QStringLiteral("href"), QString(QLatin1String("slides/") + id + QLatin1String(".xml")));
             slides.appendChild(file);
         }
     }

@@ -11,7 +11,7 @@ namespace {
 
 const PreparedPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths {
+    static const PreparedPaths paths = KeyPaths{
         path("color", "background", "color", "value"),
         path("document", "background", "picture", "document"),
         childAttribute("effect_type", "effect", "type"),
@@ -257,8 +257,7 @@ QDomDocument ZQSlideTran::tranJSON2ZQTXDocument(QDomDocument document, QJsonObje
 
 void ZQSlideTran::readTags(QJsonObject &json)
 {
-    const QStringList parts
-        = json.value(QLatin1String("SlideTagsInfo")).toString().split(QLatin1String("|$|"));
+    const QStringList parts = json.value(QLatin1String("SlideTagsInfo")).toString().split(QLatin1String("|$|"));
     for (const QString &part : parts) {
         if (part.contains(QLatin1String("<pageEffect>"))) {
             QDomDocument document;
@@ -269,8 +268,7 @@ void ZQSlideTran::readTags(QJsonObject &json)
             const QString typeTag = QStringLiteral("type");
             const QDomElement type = root.tagName() == typeTag ? root : descendantByTag(root, typeTag);
             if (!type.isNull()) {
-                json.insert(QLatin1String("EffectType"),
-                            pageEffectOfRawName(type.attribute(QStringLiteral("value"))));
+                json.insert(QLatin1String("EffectType"), pageEffectOfRawName(type.attribute(QStringLiteral("value"))));
             }
         }
     }

@@ -27,7 +27,8 @@ const FamilyVocabulary &vocabulary()
             {{"ZQSmoothStroke"}, {}, {childAttribute("DashStyle", "property", "stroke_type")}},
             {{"ZQBrushStrokeVelocity"}, {childAttribute("Time", "Time", "Value")}, pointRows},
             {{"ZQChalkStroke", "ZQBrChalkStroke"}, {}, pointRows},
-            {{"ZQStrokesMathFormula", "ZQStrokesChemFormula"}, {},
+            {{"ZQStrokesMathFormula", "ZQStrokesChemFormula"},
+             {},
              {path("Formula_Strokes", "element", "property", "Formula_Strokes")}},
             {{"ZQBrushStroke", "ZQCombineStroke", "ZQStrokesCombine", "ZQFluorescentStroke", "ZQStrokeTexture",
               "ZQStrokesDeletePixel", "ZQStrokesStamp", "stroke"},
@@ -39,7 +40,7 @@ const FamilyVocabulary &vocabulary()
 
 const TypePairs &typePairs()
 {
-    static const TypePairs pairs {
+    static const TypePairs pairs{
         {"ZQSmoothStroke", "Curve"},
         {"ZQFluorescentStroke", "FluorescentCurve"},
         {"ZQStrokesCombine", "BambooBrush"},
@@ -103,8 +104,8 @@ QString pointsAsSteps(const QString &text)
     for (int i = 2; i + 1 < numbers.size(); i += 2) {
         const float x = single(i) + x0;
         const float y = single(i + 1) + y0;
-        steps += QLatin1Char(',') + numberText(qreal(x - previousX)) + QLatin1Char(',')
-            + numberText(qreal(y - previousY));
+        steps +=
+            QLatin1Char(',') + numberText(qreal(x - previousX)) + QLatin1Char(',') + numberText(qreal(y - previousY));
         previousX = x;
         previousY = y;
     }
@@ -151,8 +152,7 @@ QJsonObject ZQStrokesTran::tranXML2JSON(QDomElement element, QJsonObject json, Q
     const QLatin1String texture("DrawTexture");
     if (json.contains(texture)) {
         json.insert(texture,
-                    joinResourcePath(json.value(texture).toString(),
-                                     context.value(QLatin1String("path")).toString()));
+                    joinResourcePath(json.value(texture).toString(), context.value(QLatin1String("path")).toString()));
     }
     return json;
 }
@@ -188,13 +188,13 @@ QJsonObject ZQStrokesTran::tranZQTX2JSON(QDomElement element, QJsonObject json, 
 QDomElement ZQStrokesTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
     if (element.isNull()) {
-        element = elementFromXml(
-            isFormula(json.value(QLatin1String("Type")).toString())
-                ? QStringLiteral(R"(<group><element/><data><rect points=""/></data></group>)")
-                : QStringLiteral(
-                    R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
-                    R"(<transform><rotate angle="0"/></transform>)"
-                    R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
+        static const ElementTemplate formula(
+            QStringLiteral(R"(<group><element/><data><rect points=""/></data></group>)"));
+        static const ElementTemplate stroke(
+            QStringLiteral(R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
+                           R"(<transform><rotate angle="0"/></transform>)"
+                           R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
+        element = (isFormula(json.value(QLatin1String("Type")).toString()) ? formula : stroke).instance();
     }
     return ZQInkStrokeTran::tranJSON2ZQTX(element, json, context);
 }

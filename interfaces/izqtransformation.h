@@ -24,7 +24,7 @@
 class IZQTransformation
 {
 public:
-    virtual ~IZQTransformation() {}
+    virtual ~IZQTransformation() { }
 
     //! Has no effect; keeps its place in the table of operations.
     virtual void reservedHook(void *reserved) = 0;

@@ -46,7 +46,7 @@ QString toText(const QDomElement &element)
 
 QJsonObject json(const char *text)
 {
-    QJsonParseError error {};
+    QJsonParseError error{};
     const auto document = QJsonDocument::fromJson(QByteArray(text).replace('\'', '"'), &error);
     if (!document.isObject()) {
         qFatal("%s in %s", qPrintable(error.errorString()), text);
