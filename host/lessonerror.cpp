@@ -1,0 +1,37 @@
+#include "lessonerror.h"
+
+LessonError::LessonError(const QString &problem, const QString &remedy)
+    : m_problem(problem)
+    , m_remedy(remedy)
+    , m_what(problem.toUtf8())
+{
+}
+
+LessonError &LessonError::in(const QString &file, int line)
+{
+    m_file = file;
+    m_line = line;
+    return *this;
+}
+
+QString LessonError::message() const
+{
+    QString text;
+    if (!m_file.isEmpty()) {
+        text = m_file;
+        if (m_line > 0) {
+            text += QLatin1String(", line ") + QString::number(m_line);
+        }
+        text += QLatin1String(": ");
+    }
+    text += m_problem + QLatin1Char('.');
+    if (!m_remedy.isEmpty()) {
+        text += QLatin1Char(' ') + m_remedy + QLatin1Char('.');
+    }
+    return text;
+}
+
+const char *LessonError::what() const noexcept
+{
+    return m_what.constData();
+}

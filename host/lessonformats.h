@@ -1,0 +1,11 @@
+#ifndef LESSONFORMATS_H
+#define LESSONFORMATS_H
+
+#include "lesson.h"
+
+// The rows of lessonFormats(), one function each in the file of its format.
+LessonFormat jsonFormat();
+LessonFormat zqtxFormat();
+LessonFormat rawXmlFormat();
+
+#endif // LESSONFORMATS_H

@@ -1,0 +1,143 @@
+#include "lossreport.h"
+
+#include <QJsonArray>
+#include <QMap>
+#include <QStringList>
+
+namespace {
+
+// Longer lists are cut in the summary; the JSON has every entry.
+constexpr int maximumNamed = 20;
+
+QLatin1String kindName(Loss::Kind kind)
+{
+    switch (kind) {
+    case Loss::Value:
+        return QLatin1String("value");
+    case Loss::Item:
+        return QLatin1String("item");
+    case Loss::Kept:
+        return QLatin1String("kept");
+    case Loss::File:
+        return QLatin1String("file");
+    case Loss::Note:
+        break;
+    }
+    return QLatin1String("note");
+}
+
+QString place(const Loss &loss)
+{
+    QString text = loss.itemType;
+    if (!loss.key.isEmpty()) {
+        text += (text.isEmpty() ? QString() : QStringLiteral(".")) + loss.key;
+    }
+    if (loss.slide > 0) {
+        text += QLatin1String(" on slide ") + QString::number(loss.slide);
+    }
+    return text;
+}
+
+QString named(const QStringList &names)
+{
+    if (names.size() <= maximumNamed) {
+        return names.join(QLatin1String(", "));
+    }
+    return names.mid(0, maximumNamed).join(QLatin1String(", "))
+        + QStringLiteral(" and %1 more").arg(names.size() - maximumNamed);
+}
+
+// "9 ZQPhysicsDianZu, 3 ZQMindMapItem", the most frequent first.
+QString countedByType(const QVector<Loss> &losses)
+{
+    QMap<QString, int> counts;
+    for (const Loss &loss : losses) {
+        ++counts[loss.itemType];
+    }
+    QVector<QPair<int, QString>> rows;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        rows.append({-it.value(), it.key()});
+    }
+    std::sort(rows.begin(), rows.end());
+    QStringList texts;
+    for (const auto &row : qAsConst(rows)) {
+        texts.append(QString::number(-row.first) + QLatin1Char(' ') + row.second);
+    }
+    return named(texts);
+}
+
+QString listed(const QVector<Loss> &losses)
+{
+    QStringList texts;
+    for (const Loss &loss : losses) {
+        texts.append(place(loss));
+    }
+    return named(texts);
+}
+
+QString line(Loss::Kind kind, const QVector<Loss> &losses)
+{
+    const int count = losses.size();
+    const QString number = QString::number(count);
+    switch (kind) {
+    case Loss::Value:
+        return number + QLatin1String(count == 1 ? " value lost: " : " values lost: ") + listed(losses);
+    case Loss::Item:
+        return number + QLatin1String(count == 1 ? " item has no form here: " : " items have no form here: ")
+            + countedByType(losses);
+    case Loss::Kept:
+        return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ")
+            + countedByType(losses);
+    case Loss::File:
+        return number + QLatin1String(count == 1 ? " file missing: " : " files missing: ") + listed(losses);
+    case Loss::Note:
+        break;
+    }
+    QStringList texts;
+    for (const Loss &loss : losses) {
+        texts.append(place(loss) + QLatin1String(": ") + loss.detail);
+    }
+    return QLatin1String("Note: ") + named(texts);
+}
+
+} // namespace
+
+void LossReport::add(const Loss &loss)
+{
+    m_entries.append(loss);
+    if (loss.kind != Loss::Kept && loss.kind != Loss::Note) {
+        ++m_lossCount;
+    }
+}
+
+QString LossReport::summary() const
+{
+    QStringList lines;
+    for (const auto kind : {Loss::Value, Loss::Item, Loss::File, Loss::Kept, Loss::Note}) {
+        QVector<Loss> losses;
+        std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
+                     [kind](const Loss &loss) { return loss.kind == kind; });
+        if (!losses.isEmpty()) {
+            lines.append(line(kind, losses));
+        }
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+QJsonObject LossReport::toJson() const
+{
+    QJsonArray entries;
+    for (const Loss &loss : m_entries) {
+        QJsonObject entry{{QStringLiteral("kind"), kindName(loss.kind)}, {QStringLiteral("type"), loss.itemType}};
+        if (loss.slide > 0) {
+            entry.insert(QStringLiteral("slide"), loss.slide);
+        }
+        for (const auto &[name, text] : {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail}}) {
+            if (!text.isEmpty()) {
+                entry.insert(QLatin1String(name), text);
+            }
+        }
+        entries.append(entry);
+    }
+    return {{QStringLiteral("losses"), m_lossCount}, {QStringLiteral("entries"), entries}};
+}

@@ -1,0 +1,21 @@
+#ifndef XMLLOADER_H
+#define XMLLOADER_H
+
+#include <QByteArray>
+#include <QDomDocument>
+#include <QString>
+
+//! Deeper XML is refused: the DOM needs stack for each level.
+constexpr int maximumXmlDepth = 512;
+//! Larger XML files are refused, in bytes.
+constexpr qint64 maximumXmlSize = 256 * 1024 * 1024;
+
+//! The document in an XML file, without namespace processing. The text is checked before a DOM is built: well-formed,
+//! no document type, not too deep, not too large. Throws LessonError with file and line. displayName stands for the
+//! file in messages; if empty, fileName does.
+QDomDocument loadXmlFile(const QString &fileName, const QString &displayName = {});
+
+//! The same for a text in memory.
+QDomDocument loadXml(const QByteArray &text, const QString &displayName);
+
+#endif // XMLLOADER_H
