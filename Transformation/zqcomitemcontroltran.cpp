@@ -55,15 +55,19 @@ void reorderBound(QJsonObject &json)
 
 void normalizeFlag(QJsonObject &json, QLatin1String key)
 {
-    const bool isOn = json.value(key).toString().toInt() != 0;
-    json.insert(key, isOn ? QStringLiteral("1") : QStringLiteral("0"));
+    const QString text = json.value(key).toString();
+    const QString flag = text.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0");
+    if (text != flag) {
+        json.insert(key, flag);
+    }
 }
 
 // Visible becomes a boolean and is true unless the text says 0; LockIn and InfiniteClone become "1" or "0".
 void normalizeFlags(QJsonObject &json)
 {
     const QLatin1String visible("Visible");
-    json.insert(visible, !json.contains(visible) || json.value(visible).toString().toInt() != 0);
+    const QJsonValue value = json.value(visible);
+    json.insert(visible, value.isUndefined() || value.toString().toInt() != 0);
     normalizeFlag(json, QLatin1String("LockIn"));
     normalizeFlag(json, QLatin1String("InfiniteClone"));
 }

@@ -11,7 +11,7 @@ namespace {
 
 const FamilyVocabulary &vocabulary()
 {
-    const KeyPaths pointRows = {
+    static const KeyPaths pointRows = {
         path("Weight", "data", "weight", "points"),
         path("Time", "data", "time", "points"),
         path("PointBrushWid", "data", "path_width", "points"),
