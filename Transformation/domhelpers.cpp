@@ -53,22 +53,15 @@ QDomElement childByTagAndContent(const QDomElement &parent, const QString &tag, 
 
 QDomElement descendantByTag(const QDomElement &parent, const QString &tag)
 {
-    QDomNode node = parent.firstChild();
-    while (!node.isNull()) {
-        const QDomElement element = node.toElement();
-        if (!element.isNull() && element.tagName() == tag) {
-            return element;
+    QDomElement found;
+    forEachDescendant(parent, [&found, &tag](const QDomElement &descendant) {
+        if (descendant.tagName() != tag) {
+            return true;
         }
-        QDomNode next = node.firstChild();
-        while (next.isNull() && node != parent) {
-            next = node.nextSibling();
-            if (next.isNull()) {
-                node = node.parentNode();
-            }
-        }
-        node = next;
-    }
-    return {};
+        found = descendant;
+        return false;
+    });
+    return found;
 }
 
 QDomElement childByNameAttribute(const QDomElement &parent, const QString &name)

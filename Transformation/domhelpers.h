@@ -40,6 +40,25 @@ QDomElement childByTagAndContent(const QDomElement &parent, const QString &tag, 
 //! The first element with this tag in document order at any depth below parent, or null. Needs no stack for the depth.
 QDomElement descendantByTag(const QDomElement &parent, const QString &tag);
 
+//! Calls visit for each element below parent in document order until it answers false. Needs no stack for the depth.
+template <typename Visit> void forEachDescendant(const QDomElement &parent, Visit visit)
+{
+    QDomNode node = parent.firstChild();
+    while (!node.isNull()) {
+        if (node.isElement() && !visit(node.toElement())) {
+            return;
+        }
+        QDomNode next = node.firstChild();
+        while (next.isNull() && node != parent) {
+            next = node.nextSibling();
+            if (next.isNull()) {
+                node = node.parentNode();
+            }
+        }
+        node = next;
+    }
+}
+
 //! The first direct child element whose attribute "name" is name, or null. A missing attribute counts as empty.
 QDomElement childByNameAttribute(const QDomElement &parent, const QString &name);
 

@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+class PropertyRows;
+
 /*!
  * Base of all translators. Three key maps, filled by the constructors of a class chain, say where in XML each JSON key
  * lives; generic walks copy the values. A subclass overrides a conversion for what a plain copy can't do, and as a
@@ -54,8 +56,6 @@ protected:
     QJsonObject iwbKeyMap;
 
 private:
-    class PropertyRows;
-
     static int idCounter;
 
     void readKeysFromXml(QDomElement &element, QJsonObject &json) const;

@@ -1,0 +1,168 @@
+#include "xmlplaces.h"
+
+#include "domhelpers.h"
+
+namespace {
+
+const QLatin1String propertiesTag("properties");
+
+} // namespace
+
+std::optional<QString> attributeText(QDomElement element, const QString &name)
+{
+    const QDomAttr attribute = element.attributeNode(name);
+    return attribute.isNull() ? std::nullopt : std::make_optional(attribute.value());
+}
+
+RawPlaces::RawPlaces(const QDomElement &element)
+    : m_element(element)
+{
+}
+
+QDomElement RawPlaces::descendant(const QString &tag)
+{
+    if (!m_descendantsFound) {
+        findDescendants();
+    }
+    return m_descendants.value(tag);
+}
+
+std::optional<QString> RawPlaces::descendantText(const QJsonArray &path)
+{
+    QDomElement holder = descendant(path.at(0).toString());
+    for (int i = 1; i + 1 < path.size(); ++i) {
+        holder = descendantByTag(holder, path.at(i).toString());
+    }
+    return attributeText(holder, path.last().toString());
+}
+
+void RawPlaces::findDescendants()
+{
+    m_descendantsFound = true;
+    forEachDescendant(m_element, [this](const QDomElement &descendant) {
+        const QString tag = descendant.tagName();
+        if (!m_descendants.contains(tag)) {
+            m_descendants.insert(tag, descendant);
+        }
+        return true;
+    });
+}
+
+TxPlaces::TxPlaces(const QDomElement &element)
+    : m_element(element)
+{
+}
+
+std::optional<QString> TxPlaces::text(const QJsonArray &path)
+{
+    const QString first = path.at(0).toString();
+    switch (path.size()) {
+    case 1:
+        return attributeText(m_element, first);
+    case 2:
+        return attributeText(first == propertiesTag ? descendantByTag(m_element, first)
+                                                    : childByTagAndContent(m_element, first, false),
+                             path.at(1).toString());
+    case 3:
+        return first == propertiesTag ? propertyText(path.at(2).toString()) : innerText(first, path);
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<QString> TxPlaces::propertyText(const QString &name)
+{
+    if (!m_rowsFound) {
+        findRows();
+    }
+    const auto row = m_rows.constFind(name);
+    return row == m_rows.constEnd() ? std::nullopt : std::make_optional(row->attribute(QStringLiteral("value")));
+}
+
+std::optional<QString> TxPlaces::innerText(const QString &tag, const QJsonArray &path)
+{
+    const QDomElement child = childWithContent(tag);
+    if (child.isNull()) {
+        return std::nullopt;
+    }
+    return attributeText(descendantByTag(child, path.at(1).toString()), path.at(2).toString());
+}
+
+QDomElement TxPlaces::childWithContent(const QString &tag)
+{
+    for (const Child &child : qAsConst(m_children)) {
+        if (child.tag == tag) {
+            return child.element;
+        }
+    }
+    m_children.append({tag, childByTagAndContent(m_element, tag, true)});
+    return m_children.last().element;
+}
+
+void TxPlaces::findRows()
+{
+    m_rowsFound = true;
+    const QString nameAttribute = QStringLiteral("name");
+    const QDomElement properties = childByTagAndContent(m_element, propertiesTag, true);
+    for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+        const QString name = row.attribute(nameAttribute);
+        if (!m_rows.contains(name)) {
+            m_rows.insert(name, row);
+        }
+    }
+}
+
+void PropertyRows::write(QDomElement &properties, const QString &name, const QString &value)
+{
+    if (!m_namesFound) {
+        findNames(properties);
+    }
+    if (m_unnamed > 0 || m_names.contains(name)) {
+        writeExisting(properties, name, value);
+    } else if (!value.isEmpty()) {
+        static const ElementTemplate rowTemplate(QStringLiteral(R"(<property value="" name=""/>)"));
+        QDomElement row = rowTemplate.part();
+        row.setAttribute(QStringLiteral("value"), value);
+        row.setAttribute(QStringLiteral("name"), name);
+        properties.appendChild(row);
+        m_names.insert(name);
+    }
+}
+
+void PropertyRows::findNames(const QDomElement &properties)
+{
+    m_namesFound = true;
+    for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+        const QString name = row.attribute(QStringLiteral("name"));
+        if (name.isEmpty()) {
+            ++m_unnamed;
+        } else {
+            m_names.insert(name);
+        }
+    }
+}
+
+void PropertyRows::writeExisting(QDomElement &properties, const QString &name, const QString &value)
+{
+    const QString nameAttribute = QStringLiteral("name");
+    for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+        const QString rowName = row.attribute(nameAttribute);
+        if (rowName != name && !rowName.isEmpty()) {
+            continue;
+        }
+        if (rowName.isEmpty()) {
+            --m_unnamed;
+        }
+        if (value.isEmpty()) {
+            properties.removeChild(row);
+        } else {
+            row.setAttribute(QStringLiteral("value"), value);
+            row.setAttribute(nameAttribute, name);
+            m_names.insert(name);
+        }
+        return;
+    }
+    // Only the name of a row that was taken out leads here.
+    m_names.remove(name);
+    write(properties, name, value);
+}

@@ -1,0 +1,90 @@
+#ifndef XMLPLACES_H
+#define XMLPLACES_H
+
+#include <QDomElement>
+#include <QHash>
+#include <QJsonArray>
+#include <QSet>
+#include <QString>
+#include <QVarLengthArray>
+
+#include <optional>
+
+// The places in an element's tree that the paths of key maps lead to. What is found once is kept for the length of one
+// walk over a map, so that a walk costs one look at the tree and not one a key.
+
+//! The text of an attribute, or nothing if the element is null or has no such attribute.
+std::optional<QString> attributeText(QDomElement element, const QString &name);
+
+/*!
+ * Places in an element of the raw form. The tree must not change while it lives.
+ */
+class RawPlaces
+{
+public:
+    explicit RawPlaces(const QDomElement &element);
+
+    //! The first element with this tag in document order at any depth, or null.
+    QDomElement descendant(const QString &tag);
+
+    //! The text at a path of two or more segments: tags on the way down, an attribute at the end.
+    std::optional<QString> descendantText(const QJsonArray &path);
+
+private:
+    void findDescendants();
+
+    QDomElement m_element;
+    QHash<QString, QDomElement> m_descendants; //!< the first of each tag
+    bool m_descendantsFound = false;
+};
+
+/*!
+ * Places in a ZQTX element. The tree must not change while it lives.
+ */
+class TxPlaces
+{
+public:
+    explicit TxPlaces(const QDomElement &element);
+
+    //! The text at a path of one to three segments, or nothing if its place is missing. A property row without a value
+    //! gives the empty text.
+    std::optional<QString> text(const QJsonArray &path);
+
+private:
+    struct Child
+    {
+        QString tag;
+        QDomElement element;
+    };
+
+    std::optional<QString> propertyText(const QString &name);
+    std::optional<QString> innerText(const QString &tag, const QJsonArray &path);
+    QDomElement childWithContent(const QString &tag);
+    void findRows();
+
+    QDomElement m_element;
+    QVarLengthArray<Child, 6> m_children;
+    QHash<QString, QDomElement> m_rows; //!< the first row of each name
+    bool m_rowsFound = false;
+};
+
+/*!
+ * Writes into the rows of one <properties> element, which nobody else changes meanwhile.
+ */
+class PropertyRows
+{
+public:
+    //! Puts a value into the first row that has the name or none, or else into a new row at the end. An empty value
+    //! leaves no row behind.
+    void write(QDomElement &properties, const QString &name, const QString &value);
+
+private:
+    void findNames(const QDomElement &properties);
+    void writeExisting(QDomElement &properties, const QString &name, const QString &value);
+
+    QSet<QString> m_names; //!< may still hold the name of a row that was taken out
+    int m_unnamed = 0;
+    bool m_namesFound = false;
+};
+
+#endif // XMLPLACES_H

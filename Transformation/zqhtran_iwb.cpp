@@ -1,0 +1,167 @@
+#include "zqhtran.h"
+
+#include "domhelpers.h"
+#include "numbertext.h"
+#include "xmlplaces.h"
+
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+
+// The conversions of the base class to and from IWB, and what the IWB writers share.
+
+namespace {
+
+QString fileNameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+// Copies a file into tmpFilePath/additional/ and gives the reference to it; empty for a file that doesn't exist.
+QString copyLinkedFile(const QString &file, const QString &tmpFilePath)
+{
+    if (!QFile::exists(file)) {
+        return {};
+    }
+    const QString directory = tmpFilePath + QLatin1String("/additional/");
+    if (!QDir(directory).exists()) {
+        QDir().mkdir(directory);
+    }
+    const QString name = fileNameOf(file);
+    QFile::copy(file, directory + name);
+    return QLatin1String("additional/") + name;
+}
+
+QString linkTarget(const QString &kind, const QString &value, const QString &tmpFilePath)
+{
+    if (kind == QLatin1String("ACTION_OPENFILE")) {
+        return copyLinkedFile(value, tmpFilePath);
+    }
+    if (kind == QLatin1String("ACTION_OPENWEB")) {
+        const bool hasScheme = value.contains(QLatin1String("http://")) || value.contains(QLatin1String("https://"));
+        return hasScheme ? value : QLatin1String("http://") + value;
+    }
+    if (kind == QLatin1String("ACTION_TOOLTIP")) {
+        return QLatin1String("txt://") + value;
+    }
+    if (kind == QLatin1String("ACTION_GOTOSLIDE")) {
+        return QLatin1String("#page") + value;
+    }
+    if (kind == QLatin1String("ACTION_OPENTOOL")) {
+        return QLatin1String("tool://") + value;
+    }
+    return {};
+}
+
+// x, y, Width and Height of the box under the matrix, and "transform" if the item has an angle.
+void writeMappedBox(QDomElement &element, QJsonObject &json)
+{
+    const auto box = boxFromText(json.value(QLatin1String("BoundingBox")).toString());
+    const auto matrix = matrixFromText(json.value(QLatin1String("Matrix")).toString());
+    if (!box || !matrix) {
+        return;
+    }
+    // The differences are taken in single precision, as the numbers of the text are.
+    const QRectF rectangle(box->left(), box->top(), qreal(float(box->right()) - float(box->left())),
+                           qreal(float(box->bottom()) - float(box->top())));
+    const QRectF mapped = matrix->mapRect(rectangle);
+    json.insert(QLatin1String("x"), numberText(mapped.left()));
+    json.insert(QLatin1String("y"), numberText(mapped.top()));
+    json.insert(QLatin1String("Width"), numberText(mapped.width()));
+    json.insert(QLatin1String("Height"), numberText(mapped.height()));
+    if (json.contains(QLatin1String("Angle"))) {
+        const double centerX = (mapped.right() + mapped.left()) * 0.5;
+        const double centerY = (mapped.bottom() + mapped.top()) * 0.5;
+        element.setAttribute(QStringLiteral("transform"),
+                             QString(QLatin1String("rotate(") + json.value(QLatin1String("Angle")).toString()
+                                     + QLatin1Char(',') + numberText(centerX) + QLatin1Char(',') + numberText(centerY)
+                                     + QLatin1Char(')')));
+    }
+}
+
+// The angle of a transform with exactly three numbers between its brackets, such as "rotate(0.5,10,20)".
+std::optional<QString> angleOfTransform(const QString &transform)
+{
+    const int open = transform.indexOf(QLatin1Char('('));
+    const int close = transform.lastIndexOf(QLatin1Char(')'));
+    if (open < 0 || close < open) {
+        return std::nullopt;
+    }
+    const QStringList parts = transform.mid(open + 1, close - open - 1).split(QLatin1Char(','));
+    if (parts.size() != 3) {
+        return std::nullopt;
+    }
+    return parts.first();
+}
+
+} // namespace
+
+QDomElement ZQHTran::tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject)
+{
+    if (element.isNull()) {
+        return element;
+    }
+    if (json.contains(QLatin1String("BoundingBox"))) {
+        writeMappedBox(element, json);
+    }
+    for (auto it = iwbKeyMap.constBegin(); it != iwbKeyMap.constEnd(); ++it) {
+        const QJsonArray path = it.value().toArray();
+        const auto value = json.constFind(it.key());
+        if (path.size() != 1 || value == json.constEnd()) {
+            continue;
+        }
+        if (it.key() == QLatin1String("Visible")) {
+            element.setAttribute(path.first().toString(), value->toBool() ? QStringLiteral("1") : QStringLiteral("0"));
+        } else {
+            element.setAttribute(path.first().toString(), value->toString());
+        }
+    }
+    return element;
+}
+
+QJsonObject ZQHTran::tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject)
+{
+    if (element.hasAttribute(QStringLiteral("transform"))) {
+        if (const auto angle = angleOfTransform(element.attribute(QStringLiteral("transform")))) {
+            json.insert(QLatin1String("Angle"), *angle);
+        }
+    }
+    for (auto it = iwbKeyMap.constBegin(); it != iwbKeyMap.constEnd(); ++it) {
+        const QJsonArray path = it.value().toArray();
+        if (path.isEmpty() || path.size() > 3) {
+            continue;
+        }
+        QDomElement holder = element;
+        for (int i = 0; i + 1 < path.size(); ++i) {
+            // Only the last element on the way is a leaf.
+            holder = childByTagAndContent(holder, path.at(i).toString(), i + 2 < path.size());
+        }
+        if (const auto text = attributeText(holder, path.last().toString())) {
+            json.insert(it.key(), *text);
+        }
+    }
+    return json;
+}
+
+void ZQHTran::appendIwbRecord(QDomDocument &document, const QString &tag, const QJsonObject &record)
+{
+    QDomElement iwb = document.firstChildElement(QStringLiteral("iwb"));
+    QDomElement element = document.createElement(tag);
+    element.setAttribute(QStringLiteral("ref"), record.value(QLatin1String("ref")).toString());
+    if (record.contains(QLatin1String("iwb_locked"))) {
+        const bool locked = record.value(QLatin1String("iwb_locked")).toBool();
+        element.setAttribute(QStringLiteral("locked"), locked ? QStringLiteral("true") : QStringLiteral("false"));
+    }
+    if (record.contains(QLatin1String("iwb_background"))) {
+        element.setAttribute(QStringLiteral("backgorund"), record.value(QLatin1String("iwb_background")).toString());
+    }
+    if (record.contains(QLatin1String("file"))) {
+        element.setAttribute(QStringLiteral("file"), record.value(QLatin1String("file")).toString());
+    }
+    iwb.appendChild(element);
+}
+
+void ZQHTran::setLinkHref(QDomElement &link, const QString &kind, const QString &value, const QString &tmpFilePath)
+{
+    link.setAttribute(QStringLiteral("xlink:href"), linkTarget(kind, value, tmpFilePath));
+}
