@@ -1,0 +1,188 @@
+#include "zqdisciplineitemtran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+#include "numbertext.h"
+#include "xmlplaces.h"
+
+namespace {
+
+const KeyPaths &xmlPaths()
+{
+    static const KeyPaths paths = {
+        attribute("Discipline_xCreate"),
+        attribute("Discipline_yCreate"),
+        attribute("ArtObj_Width"),
+    };
+    return paths;
+}
+
+const KeyPaths &txPaths()
+{
+    static const KeyPaths paths = {
+        path("Control", "data", "rect", "controlpoints"),
+        property("ArtObj_Width", "width"),
+    };
+    return paths;
+}
+
+QStringList allColorKeys()
+{
+    QStringList keys;
+    const auto addNumbered = [&keys](const char *key, int last) {
+        const QString name = QLatin1String(key);
+        keys.append(name);
+        for (int i = 0; i <= last; ++i) {
+            keys.append(name + QString::number(i));
+        }
+    };
+    addNumbered("ArtObj_Color", 10);
+    addNumbered("DisciplineObj_Color", 10);
+    addNumbered("ArtObj_LiquidColor", 3);
+    for (const char *key : {"ArtVectObj_RegionColor", "ArtVectObj_FrameColor", "ArtObj_LineColor", "ArtObj_FillColor",
+                            "LineColor", "FillColor"}) {
+        keys.append(QLatin1String(key));
+    }
+    return keys;
+}
+
+QJsonObject colorObject(double solid, double alpha)
+{
+    return {{QStringLiteral("Alpha"), alpha}, {QStringLiteral("Solid"), solid}};
+}
+
+// The colour of an element with the attributes a, r, g, b in decimal; a is 255 if missing, the others 0.
+QJsonObject colorOfElement(const QDomElement &element)
+{
+    // Channels of any size are taken as they are, so the sum needs more than 32 bits.
+    const auto channel = [&element](const char *name, const char *missing) {
+        return qint64(element.attribute(QLatin1String(name), QLatin1String(missing)).toInt());
+    };
+    const qint64 solid = ((channel("r", "0") * 256) + channel("g", "0")) * 256 + channel("b", "0");
+    return colorObject(double(solid), double(channel("a", "255")) / 255.0);
+}
+
+// The colour of the parts r, g, b that start at first, in single precision, which holds three channels exactly.
+QJsonObject colorOfParts(const QStringList &parts, int first, double alpha)
+{
+    const auto channel = [&parts, first](int i) { return parts.at(first + i).toFloat(); };
+    const float solid = channel(0) * 65536.0F + channel(1) * 256.0F + channel(2);
+    return colorObject(double(solid), alpha);
+}
+
+// The colour of a text a,r,g,b, or r,g,b if opaque ones are taken; an empty object for any other text.
+QJsonObject colorOfText(const QString &text, bool acceptsOpaque)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (parts.size() == 4) {
+        return colorOfParts(parts, 1, double(parts.at(0).toFloat()) / 255.0);
+    }
+    if (parts.size() == 3 && acceptsOpaque) {
+        return colorOfParts(parts, 0, 1.0);
+    }
+    return {};
+}
+
+// The pairs Discipline_xControl0, Discipline_yControl0 and so on, up to the first that isn't whole.
+void readRawControl(const QDomElement &element, QJsonObject &json)
+{
+    QJsonArray control;
+    for (int i = 0;; ++i) {
+        const QString number = QString::number(i);
+        const auto x = attributeText(element, QLatin1String("Discipline_xControl") + number);
+        const auto y = attributeText(element, QLatin1String("Discipline_yControl") + number);
+        if (!x || !y) {
+            break;
+        }
+        control.append(double(x->toFloat()));
+        control.append(double(y->toFloat()));
+    }
+    if (!control.isEmpty()) {
+        json.insert(QLatin1String("Control"), control);
+    }
+}
+
+} // namespace
+
+ZQDisciplineItemTran::ZQDisciplineItemTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    static const QStringList keys = allColorKeys();
+    colorKeys = keys;
+    // The base constructor leaves the same maps each time, and so does this one.
+    static const QJsonObject xml = PreparedPaths(xmlPaths()).storedIn(xmlKeyMap);
+    static const QJsonObject tx = PreparedPaths(txPaths()).storedIn(txKeyMap);
+    xmlKeyMap = xml;
+    txKeyMap = tx;
+}
+
+QJsonObject ZQDisciplineItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQComItemControlTran::tranXML2JSON(element, json, context);
+    readRawControl(element, json);
+    readRawColors(element, json);
+    json.remove(QLatin1String("BoundingBox"));
+    return json;
+}
+
+QJsonObject ZQDisciplineItemTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQComItemControlTran::tranZQTX2JSON(element, json, context);
+    readTxColors(json);
+    const QLatin1String controlKey("Control");
+    if (json.contains(controlKey)) {
+        const QString text = json.value(controlKey).toString();
+        QJsonArray control;
+        if (!text.isEmpty()) {
+            const QVector<double> numbers = numbersFromText(text);
+            for (const double number : numbers) {
+                control.append(number);
+            }
+        }
+        json.insert(controlKey, control);
+    }
+    return json;
+}
+
+QDomElement ZQDisciplineItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        static const ElementTemplate discipline(
+            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                           R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
+                           R"(<properties><property value="" name=""/></properties>)"
+                           R"(<transform><rotate angle="0"/></transform>)"
+                           R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
+        element = discipline.instance();
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}
+
+void ZQDisciplineItemTran::readRawColors(const QDomElement &element, QJsonObject &json) const
+{
+    RawPlaces places(element);
+    for (const QString &key : colorKeys) {
+        const QDomElement color = places.descendant(key);
+        if (!color.isNull()) {
+            json.insert(key, colorOfElement(color));
+        } else if (const auto text = attributeText(element, key)) {
+            // A text without four parts stays as it came.
+            const QJsonObject object = colorOfText(*text, false);
+            if (object.isEmpty()) {
+                json.insert(key, *text);
+            } else {
+                json.insert(key, object);
+            }
+        }
+    }
+}
+
+void ZQDisciplineItemTran::readTxColors(QJsonObject &json) const
+{
+    for (const QString &key : colorKeys) {
+        const QJsonValue color = json.value(key);
+        if (!color.isUndefined()) {
+            json.insert(key, colorOfText(color.toString(), true));
+        }
+    }
+}

@@ -1,0 +1,108 @@
+#include "ratiobench.h"
+
+#include <QDomDocument>
+
+#include <memory>
+
+// Cost must grow with the size and no faster: the time per unit of a large piece over the time per unit of one with 100
+// units. Each piece is converted from ZQTX to JSON and back.
+
+namespace {
+
+using Make = QString (*)(int units);
+
+QString repeated(int count, const std::function<QString(int)> &piece)
+{
+    QString text;
+    for (int i = 0; i < count; ++i) {
+        text += piece(i);
+    }
+    return text;
+}
+
+QString stroke(int points)
+{
+    const QString steps = repeated(points, [](int i) { return QStringLiteral(",%1.25,-%2.5").arg(i % 7).arg(i % 5); });
+    return QStringLiteral(R"(<stroke id="1" type="Curve"><data><vertex points="%1"/></data></stroke>)")
+        .arg(steps.mid(1));
+}
+
+QString vectorPath(int points)
+{
+    const QString outline = repeated(points, [](int i) {
+        return QStringLiteral(R"(<ArtVectObj_Point%1 x0="1" y0="2" x1="3" y1="4" x2="5" y2="6" Type="1"/>)").arg(i);
+    });
+    return QStringLiteral(R"(<discipline id="1" type="Vector:juxing"><data><rect points=""/></data>)"
+                          R"(<ArtVectObj_Manager><ArtVectObj_Path0>%1</ArtVectObj_Path0></ArtVectObj_Manager>)"
+                          R"(</discipline>)")
+        .arg(outline);
+}
+
+QString wideGroup(int children)
+{
+    return QStringLiteral(R"(<group id="1" type="group"><data><rect points=""/>%1</data></group>)")
+        .arg(repeated(children, [](int) { return stroke(2); }));
+}
+
+QString deepGroup(int levels)
+{
+    const QString open = QStringLiteral(R"(<group id="1" type="group"><data><rect points="0,0,1,1"/>)");
+    return open.repeated(levels) + QStringLiteral("</data></group>").repeated(levels);
+}
+
+QString mindMap(int nodes)
+{
+    const QString node = QStringLiteral("<node><pos>1,2</pos><width>100</width><nodeHtml>leaf</nodeHtml></node>");
+    return QStringLiteral(R"(<mindmap id="1" type="ZQMindMapItem"><data><mapItemInfo><node><childNodes>%1</childNodes>)"
+                          R"(</node></mapItemInfo></data></mindmap>)")
+        .arg(node.repeated(nodes));
+}
+
+// Reads the piece once per call, as often as keeps the number of units the same for every size.
+std::function<void()> reading(Make make, int units, int total)
+{
+    const auto document = std::make_shared<QDomDocument>();
+    document->setContent(make(units), false);
+    const QJsonObject context = itemContext();
+    return [=] {
+        for (int done = 0; done < total; done += units) {
+            plugin()->tranItemZQTX2JSON(document->documentElement(), context);
+        }
+    };
+}
+
+std::function<void()> writing(Make make, int units, int total)
+{
+    QDomDocument document;
+    document.setContent(make(units), false);
+    const QJsonObject json = plugin()->tranItemZQTX2JSON(document.documentElement(), itemContext());
+    return [=] {
+        for (int done = 0; done < total; done += units) {
+            plugin()->tranItemJSON2ZQTX({}, json);
+        }
+    };
+}
+
+void registerGrowth(const QString &name, Make make, const std::vector<int> &sizes)
+{
+    const int largest = sizes.back();
+    for (const int size : sizes) {
+        const QString row = QStringLiteral("%1 %2").arg(name).arg(size);
+        registerRatio(QStringLiteral("read, per unit"), row, reading(make, size, largest), reading(make, 100, largest));
+        registerRatio(QStringLiteral("write, per unit"), row, writing(make, size, largest),
+                      writing(make, 100, largest));
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    registerGrowth(QStringLiteral("points of a stroke"), stroke, {10, 1000, 100000});
+    registerGrowth(QStringLiteral("points of a vector path"), vectorPath, {10, 1000, 10000});
+    registerGrowth(QStringLiteral("children of a group"), wideGroup, {10, 1000, 10000});
+    registerGrowth(QStringLiteral("levels of groups"), deepGroup, {10, 200, 500});
+    registerGrowth(QStringLiteral("nodes of a mind map"), mindMap, {10, 1000, 10000});
+    return runRatios(argc, argv);
+}

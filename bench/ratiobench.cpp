@@ -1,0 +1,134 @@
+#include "ratiobench.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QMap>
+#include <QPluginLoader>
+#include <QTextStream>
+#include <QVector>
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cmath>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// The last ratio of each benchmark, by group and name.
+QMap<QString, QMap<QString, double>> &results()
+{
+    static QMap<QString, QMap<QString, double>> all;
+    return all;
+}
+
+double secondsOf(const std::function<void()> &work)
+{
+    const auto start = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+void printSummary()
+{
+    QTextStream out(stdout);
+    for (auto group = results().cbegin(); group != results().cend(); ++group) {
+        double logarithms = 0;
+        double largest = 0;
+        QString slowest;
+        for (auto it = group->cbegin(); it != group->cend(); ++it) {
+            logarithms += std::log(it.value());
+            if (it.value() > largest) {
+                largest = it.value();
+                slowest = it.key();
+            }
+        }
+        out << group.key() << ": geometric mean " << QString::number(std::exp(logarithms / group->size()), 'f', 2)
+            << ", largest " << QString::number(largest, 'f', 2) << " (" << slowest << ")\n";
+    }
+}
+
+} // namespace
+
+IZQTransformation *plugin()
+{
+    static QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
+    static auto *interface = qobject_cast<IZQTransformation *>(loader.instance());
+    if (!interface) {
+        qFatal("%s", qPrintable(loader.errorString()));
+    }
+    return interface;
+}
+
+std::vector<QDomElement> samples(const QString &file)
+{
+    static QVector<QDomDocument> documents;
+    QFile input(QStringLiteral(SAMPLES_DIR "/") + file);
+    QDomDocument document;
+    if (!input.open(QIODevice::ReadOnly) || !document.setContent(&input, false)) {
+        qFatal("can't read %s", qPrintable(input.fileName()));
+    }
+    documents.append(document);
+    std::vector<QDomElement> elements;
+    const QDomElement root = document.documentElement();
+    for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        elements.push_back(child);
+    }
+    return elements;
+}
+
+QString xmlText(const QDomElement &element)
+{
+    QString text;
+    QTextStream stream(&text);
+    element.save(stream, -1);
+    return text;
+}
+
+QJsonObject itemContext()
+{
+    return {
+        {QStringLiteral("pres"), QJsonObject{{QStringLiteral("Version"), QStringLiteral("4.0")}}},
+        {QStringLiteral("slide"), QJsonObject{{QStringLiteral("SlideSourceRect"), QStringLiteral("0,0,1024,768")}}}};
+}
+
+void parse(const QString &xml)
+{
+    QDomDocument document;
+    document.setContent(xml, false);
+    benchmark::DoNotOptimize(document);
+}
+
+void registerRatio(const QString &group, const QString &name, const std::function<void()> &work,
+                   const std::function<void()> &base)
+{
+    const auto measure = [=](benchmark::State &state) {
+        work();
+        base();
+        double workSeconds = 0;
+        double baseSeconds = 0;
+        for (auto _ : state) {
+            const double seconds = secondsOf(work);
+            baseSeconds += secondsOf(base);
+            workSeconds += seconds;
+            state.SetIterationTime(seconds);
+        }
+        state.counters["ratio"] = workSeconds / baseSeconds;
+        results()[group][name] = workSeconds / baseSeconds;
+    };
+    benchmark::RegisterBenchmark(qPrintable(group + QLatin1Char('/') + name), measure)
+        ->UseManualTime()
+        ->Unit(benchmark::kMicrosecond);
+}
+
+int runRatios(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    printSummary();
+    return 0;
+}

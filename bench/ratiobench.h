@@ -1,0 +1,36 @@
+#ifndef RATIOBENCH_H
+#define RATIOBENCH_H
+
+#include "izqtransformation.h"
+
+#include <QDomElement>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+// Every figure of the benchmarks is a ratio within one run, so that it means the same on any machine. Both sides of a
+// ratio are measured in turns, so that noise disturbs both alike.
+
+IZQTransformation *plugin();
+
+//! The children of the root of a file beside the benchmarks. Their document lives to the end.
+std::vector<QDomElement> samples(const QString &file);
+
+//! The element's own XML text.
+QString xmlText(const QDomElement &element);
+
+//! What items are read with: a lesson of the current version on a slide of 1024 x 768.
+QJsonObject itemContext();
+
+//! Parses the text and drops the document.
+void parse(const QString &xml);
+
+//! Registers a benchmark "group/name" whose figure is the time of work over the time of base.
+void registerRatio(const QString &group, const QString &name, const std::function<void()> &work,
+                   const std::function<void()> &base);
+
+//! Runs what was registered and prints the geometric mean and the largest ratio of every group.
+int runRatios(int argc, char **argv);
+
+#endif // RATIOBENCH_H
