@@ -75,7 +75,13 @@ QString listed(const QVector<Loss> &losses)
     return named(texts);
 }
 
-QString line(Loss::Kind kind, const QVector<Loss> &losses)
+// "no IWB form", or "no form here" where the format has no name.
+QString missingForm(const QString &format)
+{
+    return QLatin1String("no ") + (format.isEmpty() ? QStringLiteral("form here") : format + QLatin1String(" form"));
+}
+
+QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format)
 {
     const int count = losses.size();
     const QString number = QString::number(count);
@@ -83,8 +89,8 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses)
     case Loss::Value:
         return number + QLatin1String(count == 1 ? " value lost: " : " values lost: ") + listed(losses);
     case Loss::Item:
-        return number + QLatin1String(count == 1 ? " item has no form here: " : " items have no form here: ")
-            + countedByType(losses);
+        return number + QLatin1String(count == 1 ? " item has " : " items have ") + missingForm(format)
+            + QLatin1String(": ") + countedByType(losses);
     case Loss::Kept:
         return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ")
             + countedByType(losses);
@@ -118,7 +124,7 @@ QString LossReport::summary() const
         std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
                      [kind](const Loss &loss) { return loss.kind == kind; });
         if (!losses.isEmpty()) {
-            lines.append(line(kind, losses));
+            lines.append(line(kind, losses, m_format));
         }
     }
     return lines.join(QLatin1Char('\n'));

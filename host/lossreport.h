@@ -39,6 +39,9 @@ public:
     int lossCount() const { return m_lossCount; }
     bool isEmpty() const { return m_entries.isEmpty(); }
 
+    //! What the summary calls the format being written, such as "IWB".
+    void setFormat(const QString &name) { m_format = name; }
+
     //! A line for each kind: "2 values lost: ZQChalkStroke.Weight on slide 3, ...". No text without entries.
     QString summary() const;
 
@@ -47,6 +50,7 @@ public:
 
 private:
     QVector<Loss> m_entries;
+    QString m_format;
     int m_lossCount = 0;
 };
 

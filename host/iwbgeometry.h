@@ -1,0 +1,47 @@
+#ifndef IWBGEOMETRY_H
+#define IWBGEOMETRY_H
+
+#include "iwbshapes.h"
+
+#include <QTransform>
+
+class IZQTransformation;
+
+/*!
+ * Where an item stands on its page: a box that is turned about its centre.
+ */
+struct ItemPlace
+{
+    QRectF box;
+    double angle = 0; //!< radians, clockwise on the screen
+};
+
+//! The place of an item of text or media. An item with a Matrix has its BoundingBox under it; without one the box is
+//! that of the page, turned by Angle. Nothing for an item without a box. A slant of the Matrix is lost.
+std::optional<ItemPlace> itemPlace(const QJsonObject &item);
+
+/*!
+ * A shape as the plug-in's export takes it.
+ */
+struct PlacedShape
+{
+    const ShapeForm *form = nullptr; //!< of the type that is handed over, which may be another than the item's
+    QJsonObject geometry; //!< Type, Matrix, Control, XYValue, BoundingBox, ... as texts
+    std::optional<QRectF> box; //!< of the page, before the turn
+    double angle = 0; //!< turn of the finished element about the centre of its box, radians
+};
+
+/*!
+ * Gives a shape the Matrix and points under which the plug-in draws it where it belongs. A shape with a Matrix of its
+ * own keeps it; one without fills its BoundingBox, turned by Angle. The plug-in is asked for the outlines that only it
+ * works out.
+ *
+ * Rotations are worked into the points where a shape has points; a rectangle or ellipse keeps its box and gets a turn,
+ * since the plug-in's own rotation of rectangles moves them.
+ */
+PlacedShape placeShape(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin);
+
+//! What a svg element of the plug-in covers before its transform, or nothing for one without geometry.
+std::optional<QRectF> drawnExtent(const class QDomElement &element);
+
+#endif // IWBGEOMETRY_H

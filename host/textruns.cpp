@@ -1,0 +1,420 @@
+#include "textruns.h"
+
+#include <QFont>
+#include <QSet>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFragment>
+#include <QTextList>
+#include <QVariant>
+
+namespace {
+
+const QLatin1String listKey("IWB_TEXTINFO-VECTOR");
+const QLatin1String destroyerKey("IWB_TEXTINFO-DELVECTOR");
+
+// Text boards come from strangers, so nothing that their HTML names is loaded.
+class ClosedTextDocument : public QTextDocument
+{
+protected:
+    QVariant loadResource(int, const QUrl &) override { return {}; }
+};
+
+// Weights as svg numbers them and as fonts here do.
+struct Weight
+{
+    int svg;
+    int font;
+};
+constexpr Weight weights[] = {{100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
+                              {600, 63}, {700, 75}, {800, 81}, {900, 87}};
+
+QString svgWeight(int fontWeight)
+{
+    int best = 400;
+    int bestDistance = 1000;
+    for (const Weight &weight : weights) {
+        const int distance = qAbs(weight.font - fontWeight);
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = weight.svg;
+        }
+    }
+    switch (best) {
+    case 400:
+        return QStringLiteral("normal");
+    case 700:
+        return QStringLiteral("bold");
+    default:
+        return QString::number(best);
+    }
+}
+
+// The weight as style sheets of text documents write it: eight times the font's.
+QString htmlWeight(const QString &svg)
+{
+    bool isNumber = false;
+    const int number = svg.toInt(&isNumber);
+    if (!isNumber) {
+        return svg.startsWith(QLatin1String("bold")) ? QStringLiteral("bold") : QStringLiteral("normal");
+    }
+    int font = 50;
+    for (const Weight &weight : weights) {
+        if (weight.svg <= number) {
+            font = weight.font;
+        }
+    }
+    return QString::number(font * 8);
+}
+
+struct AlignmentName
+{
+    Qt::AlignmentFlag flag;
+    const char *svg;
+    const char *html;
+};
+constexpr AlignmentName alignments[] = {
+    {Qt::AlignLeft, "start", "left"},
+    {Qt::AlignRight, "end", "right"},
+    {Qt::AlignHCenter, "center", "center"},
+    {Qt::AlignJustify, "justify", "justify"},
+};
+
+QString svgAlignment(Qt::Alignment alignment)
+{
+    for (const AlignmentName &name : alignments) {
+        if (alignment & name.flag) {
+            return QLatin1String(name.svg);
+        }
+    }
+    return QStringLiteral("start");
+}
+
+QLatin1String htmlAlignment(const QString &svg)
+{
+    for (const AlignmentName &name : alignments) {
+        if (svg == QLatin1String(name.svg) || svg == QLatin1String(name.html)) {
+            return QLatin1String(name.html);
+        }
+    }
+    return QLatin1String("left");
+}
+
+// Pixels of a text whose size isn't given.
+constexpr double defaultPixels = 28;
+constexpr double pixelsOfPoint = 96.0 / 72.0;
+
+double pixelSize(const QTextCharFormat &format)
+{
+    double pixels = defaultPixels;
+    if (format.hasProperty(QTextFormat::FontPixelSize)) {
+        pixels = format.intProperty(QTextFormat::FontPixelSize);
+    } else if (format.hasProperty(QTextFormat::FontPointSize)) {
+        pixels = format.doubleProperty(QTextFormat::FontPointSize) * pixelsOfPoint;
+    }
+    // <h1>, <font size="+2"> and the like: steps around the size.
+    static constexpr double steps[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2, 2.4};
+    const int step = format.intProperty(QTextFormat::FontSizeAdjustment);
+    return pixels * steps[qBound(0, step + 2, 6)];
+}
+
+QString familyNames(const QTextCharFormat &format)
+{
+    QStringList names = format.fontFamilies().toStringList();
+    if (names.isEmpty() && !format.fontFamily().isEmpty()) {
+        names.append(format.fontFamily());
+    }
+    return names.isEmpty() ? QStringLiteral("Arial") : names.join(QLatin1String(", "));
+}
+
+QString decoration(const QTextCharFormat &format)
+{
+    QStringList lines;
+    if (format.fontUnderline()) {
+        lines.append(QStringLiteral("underline"));
+    }
+    if (format.fontStrikeOut()) {
+        lines.append(QStringLiteral("line-through"));
+    }
+    return lines.isEmpty() ? QStringLiteral("none") : lines.join(QLatin1Char(' '));
+}
+
+IwbTextInfo runOf(const QTextCharFormat &format, Qt::Alignment alignment)
+{
+    IwbTextInfo run;
+    const QBrush brush = format.foreground();
+    run.fill = brush.style() == Qt::NoBrush ? QStringLiteral("#000000") : brush.color().name();
+    run.fontWeight =
+        format.hasProperty(QTextFormat::FontWeight) ? svgWeight(format.fontWeight()) : QStringLiteral("normal");
+    run.fontStyle = format.fontItalic() ? QStringLiteral("italic") : QStringLiteral("normal");
+    run.fontFamily = withoutControlCharacters(familyNames(format));
+    run.fontSize = QString::number(pixelSize(format));
+    run.textDecoration = decoration(format);
+    run.textAlign = svgAlignment(alignment);
+    return run;
+}
+
+// Where a run must end at the latest: behind the end of a line, where other programs need an element of their own, and
+// within the three characters that would end the CDATA section that its text becomes.
+int runEnd(const QString &text, int start)
+{
+    for (int i = start; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('\n') || text.at(i) == QChar::LineSeparator) {
+            return i + 1;
+        }
+        if (text.midRef(i, 3) == QLatin1String("]]>")) {
+            return i + 2;
+        }
+    }
+    return text.size();
+}
+
+void appendRuns(IwbTextInfoList &runs, const IwbTextInfo &format, const QString &text)
+{
+    int start = 0;
+    do {
+        const int end = runEnd(text, start);
+        IwbTextInfo run = format;
+        run.text = text.mid(start, end - start);
+        runs.append(run);
+        start = end;
+    } while (start < text.size());
+}
+
+bool sameFormat(const IwbTextInfo &a, const IwbTextInfo &b)
+{
+    return a.fill == b.fill && a.fontWeight == b.fontWeight && a.fontStyle == b.fontStyle
+        && a.fontFamily == b.fontFamily && a.fontSize == b.fontSize && a.textDecoration == b.textDecoration
+        && a.textAlign == b.textAlign;
+}
+
+struct Piece
+{
+    IwbTextInfo format;
+    QString text;
+};
+
+void appendPiece(QVector<Piece> &pieces, const IwbTextInfo &format, const QString &text)
+{
+    if (!pieces.isEmpty() && sameFormat(pieces.constLast().format, format)) {
+        pieces.last().text += text;
+    } else {
+        pieces.append({format, text});
+    }
+}
+
+QString listMarker(const QTextBlock &block)
+{
+    const QTextList *list = block.textList();
+    if (!list) {
+        return {};
+    }
+    const QString number = list->itemText(block);
+    return (number.isEmpty() ? QString(QChar(0x2022)) : number) + QLatin1Char(' ');
+}
+
+TextRuns runsOf(const QTextDocument &document)
+{
+    TextRuns result;
+    QVector<Piece> pieces;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const Qt::Alignment alignment = block.blockFormat().alignment();
+        IwbTextInfo format = runOf(block.charFormat(), alignment);
+        QString marker = listMarker(block);
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            format = runOf(fragment.charFormat(), alignment);
+            QString text = withoutControlCharacters(fragment.text(), &result.droppedCharacters);
+            const int before = text.size();
+            text.remove(QChar::ObjectReplacementCharacter);
+            result.droppedPictures += before - text.size();
+            if (!text.isEmpty()) {
+                appendPiece(pieces, format, marker + text);
+                marker.clear();
+            }
+        }
+        const QString end = block.next().isValid() ? QString(QLatin1Char('\n')) : QString();
+        if (!marker.isEmpty() || !end.isEmpty() || pieces.isEmpty()) {
+            appendPiece(pieces, format, marker + end);
+        }
+    }
+    for (const Piece &piece : qAsConst(pieces)) {
+        appendRuns(result.runs, piece.format, piece.text);
+    }
+    return result;
+}
+
+// The value of a style attribute must not end it.
+QString styleSafe(QString text)
+{
+    for (const char c : {'\'', '"', ';', '<', '>', '&'}) {
+        text.remove(QLatin1Char(c));
+    }
+    return text.trimmed();
+}
+
+QString styleOf(const IwbTextInfo &run)
+{
+    QStringList families;
+    for (const QString &family : run.fontFamily.split(QLatin1Char(','))) {
+        const QString name = styleSafe(family);
+        if (!name.isEmpty()) {
+            families.append(QLatin1Char('\'') + name + QLatin1Char('\''));
+        }
+    }
+    const double pixels = run.fontSize.toDouble();
+    const double points = (pixels > 0 ? pixels : defaultPixels) / pixelsOfPoint;
+    return QLatin1String("font-family:") + families.join(QLatin1Char(',')) + QLatin1String("; font-size:")
+        + QString::number(points, 'g', 10) + QLatin1String("pt; font-weight:") + htmlWeight(run.fontWeight)
+        + QLatin1String("; font-style:")
+        + (run.fontStyle == QLatin1String("normal") ? QLatin1String("normal") : QLatin1String("italic"))
+        + QLatin1String("; text-decoration:") + styleSafe(run.textDecoration) + QLatin1String("; color:")
+        + styleSafe(run.fill) + QLatin1Char(';');
+}
+
+// What stands between two ends of paragraphs.
+struct Paragraph
+{
+    QString align;
+    QString spans;
+    bool isEmpty = true;
+};
+
+void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &text)
+{
+    if (paragraph.align.isEmpty()) {
+        paragraph.align = run.textAlign;
+    }
+    QString escaped = text.toHtmlEscaped();
+    escaped.replace(QChar(0x2028), QLatin1String("<br/>"));
+    paragraph.isEmpty = paragraph.isEmpty && text.isEmpty();
+    paragraph.spans +=
+        QLatin1String("<span style=\"") + styleOf(run) + QLatin1String("\">") + escaped + QLatin1String("</span>");
+}
+
+// A paragraph without text needs a line break within, and the mark that text documents know it by.
+QString paragraphHtml(const Paragraph &paragraph)
+{
+    return QLatin1String("<p align=\"") + htmlAlignment(paragraph.align)
+        + QLatin1String("\" style=\"margin:0px; white-space:pre-wrap;")
+        + (paragraph.isEmpty ? QLatin1String(" -qt-paragraph-type:empty;\"><br/>") : QLatin1String("\">"))
+        + (paragraph.isEmpty ? QString() : paragraph.spans) + QLatin1String("</p>");
+}
+
+QSet<void *> &lentLists()
+{
+    static QSet<void *> lists;
+    return lists;
+}
+
+void destroyLentList(void *list)
+{
+    if (lentLists().remove(list)) {
+        delete static_cast<IwbTextInfoList *>(list);
+    }
+}
+
+quintptr addressIn(const QJsonObject &item, QLatin1String key)
+{
+    return quintptr(item.value(key).toString().toULongLong());
+}
+
+} // namespace
+
+TextRuns textRunsFromHtml(const QString &html)
+{
+    ClosedTextDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setHtml(html);
+    return runsOf(document);
+}
+
+TextRuns textRunsFromPlainText(const QString &text)
+{
+    ClosedTextDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setPlainText(text);
+    return runsOf(document);
+}
+
+QString htmlFromTextRuns(const IwbTextInfoList &runs)
+{
+    QVector<Paragraph> paragraphs(1);
+    for (const IwbTextInfo &run : runs) {
+        const QStringList parts = run.text.split(QLatin1Char('\n'));
+        for (int i = 0; i < parts.size(); ++i) {
+            if (i > 0) {
+                paragraphs.append(Paragraph());
+            }
+            // The rest behind a last newline belongs to the next run, which may be formatted otherwise.
+            if (i == 0 || !parts.at(i).isEmpty()) {
+                appendSpan(paragraphs.last(), run, parts.at(i));
+            }
+        }
+    }
+    QString html = QStringLiteral("<html><body>");
+    for (const Paragraph &paragraph : qAsConst(paragraphs)) {
+        html += paragraphHtml(paragraph);
+    }
+    return html + QLatin1String("</body></html>");
+}
+
+QString withoutControlCharacters(const QString &text, int *dropped)
+{
+    QString clean;
+    clean.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (isPair) {
+            clean += c;
+            clean += text.at(++i);
+            continue;
+        }
+        const ushort code = c.unicode();
+        const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+        if (isControl || c.isSurrogate() || code >= 0xfffe) {
+            if (dropped) {
+                ++*dropped;
+            }
+        } else {
+            clean += c;
+        }
+    }
+    return clean;
+}
+
+TextRunLoan::TextRunLoan(QJsonObject &item, const IwbTextInfoList &runs)
+    : m_list(new IwbTextInfoList(runs))
+{
+    lentLists().insert(m_list);
+    IwbTextInfoListDeleter destroyer = destroyLentList;
+    item.insert(listKey, QString::number(quintptr(m_list)));
+    item.insert(destroyerKey, QString::number(quintptr(destroyer)));
+}
+
+TextRunLoan::~TextRunLoan()
+{
+    destroyLentList(m_list);
+}
+
+int TextRunLoan::liveLists()
+{
+    return lentLists().size();
+}
+
+std::optional<IwbTextInfoList> takeTextRuns(QJsonObject &item)
+{
+    const quintptr listAddress = addressIn(item, listKey);
+    const quintptr destroyerAddress = addressIn(item, destroyerKey);
+    item.remove(listKey);
+    item.remove(destroyerKey);
+    if (!listAddress) {
+        return std::nullopt;
+    }
+    const IwbTextInfoList runs = *reinterpret_cast<IwbTextInfoList *>(listAddress);
+    if (destroyerAddress) {
+        reinterpret_cast<IwbTextInfoListDeleter>(destroyerAddress)(reinterpret_cast<void *>(listAddress));
+    }
+    return runs;
+}

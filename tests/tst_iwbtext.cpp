@@ -1,0 +1,133 @@
+#include "textruns.h"
+
+#include <QtTest>
+
+namespace {
+
+// Runs as lines: text|size|weight|style|decoration|colour|align|family, with \n shown as a slash.
+QStringList lines(const IwbTextInfoList &runs)
+{
+    QStringList result;
+    for (const IwbTextInfo &run : runs) {
+        QString text = run.text;
+        text.replace(QLatin1Char('\n'), QLatin1Char('/')).replace(QChar(0x2028), QLatin1Char('^'));
+        result << QStringList{text,     run.fontSize,  run.fontWeight, run.fontStyle, run.textDecoration,
+                              run.fill, run.textAlign, run.fontFamily}
+                      .join(QLatin1Char('|'));
+    }
+    return result;
+}
+
+QStringList list(const char *text)
+{
+    return QString::fromUtf8(text).split(QLatin1String(" ;; "));
+}
+
+int destroyedLists = 0;
+
+void destroyAndCount(void *address)
+{
+    ++destroyedLists;
+    delete static_cast<IwbTextInfoList *>(address);
+}
+
+} // namespace
+
+/*!
+ * HTML of text boards, runs of text areas, and the way back.
+ */
+class TestIwbText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void htmlBecomesRuns_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QStringList>("expected");
+
+        QTest::newRow("nothing is set: plain 28 pixels")
+            << "Hello" << list("Hello|28|normal|normal|none|#000000|start|Arial");
+        QTest::newRow("nothing at all") << "" << list("|28|normal|normal|none|#000000|start|Arial");
+        // 12 points are 12 * 96 / 72 = 16 pixels.
+        QTest::newRow("points and names") << "<p align=center><span style=\"font-family:'Times New Roman'; "
+                                             "font-size:12pt; color:red; font-weight:600; "
+                                             "font-style:italic; text-decoration:underline\">a</span>b</p>"
+                                          << list("a|16|bold|italic|underline|#ff0000|center|Times New Roman ;; "
+                                                  "b|28|normal|normal|none|#000000|center|Arial");
+        QTest::newRow("paragraphs and a line")
+            << "<p align=right>one<br/>two</p><p style='-qt-paragraph-type:empty'><br/></p><p align=justify>three</p>"
+            << list("one^|28|normal|normal|none|#000000|end|Arial ;; two/|28|normal|normal|none|#000000|end|Arial ;; "
+                    "/|28|normal|normal|none|#000000|start|Arial ;; three|28|normal|normal|none|#000000|justify|Arial");
+        QTest::newRow("the end of a CDATA section is divided")
+            << "a]]&gt;b"
+            << list("a]]|28|normal|normal|none|#000000|start|Arial ;; >b|28|normal|normal|none|#000000|start|Arial");
+        QTest::newRow("struck out, thin, in pixels")
+            << "<span style='font-size:30px; font-weight:200; text-decoration:underline line-through'>x</span>"
+            << list("x|30|300|normal|underline line-through|#000000|start|Arial");
+    }
+
+    void htmlBecomesRuns()
+    {
+        QFETCH(QString, html);
+        QFETCH(QStringList, expected);
+        const IwbTextInfoList runs = textRunsFromHtml(html).runs;
+        QCOMPARE(lines(runs), expected);
+        // Three trips give the same.
+        IwbTextInfoList trip = runs;
+        for (int i = 0; i < 3; ++i) {
+            trip = textRunsFromHtml(htmlFromTextRuns(trip)).runs;
+            QCOMPARE(lines(trip), expected);
+        }
+    }
+
+    void namesWhatRunsCantHold()
+    {
+        const TextRuns text = textRunsFromHtml(QStringLiteral("a<img src='file:///etc/passwd'/>b"));
+        QCOMPARE(text.droppedPictures, 1);
+        QCOMPARE(text.runs.first().text, QStringLiteral("ab"));
+        const TextRuns plain = textRunsFromPlainText(QString::fromUtf8("a\x01"
+                                                                       "b\x1f\n\xf0\x9f\x8d\x8e")
+                                                     + QChar(0xd800));
+        QCOMPARE(plain.droppedCharacters, 3);
+        QCOMPARE(plain.runs.first().text, QStringLiteral("ab\n"));
+        QCOMPARE(plain.runs.last().text, QString::fromUtf8("\xf0\x9f\x8d\x8e"));
+    }
+
+    void hostileFieldsStayText()
+    {
+        IwbTextInfo run;
+        run.text = QStringLiteral("<b>& \"x\"");
+        run.fontFamily = QStringLiteral("A'; color:red; x:'");
+        run.fill = QStringLiteral("blue\"><script>");
+        const IwbTextInfoList back = textRunsFromHtml(htmlFromTextRuns({run})).runs;
+        QCOMPARE(back.size(), 1);
+        QCOMPARE(back.first().text, run.text);
+    }
+
+    void listsAreDestroyedOnce()
+    {
+        QJsonObject item;
+        {
+            const TextRunLoan loan(item, {IwbTextInfo()});
+            QCOMPARE(TextRunLoan::liveLists(), 1);
+            QCOMPARE(takeTextRuns(item)->size(), 1); // as a reader does, through the destroyer
+            QCOMPARE(TextRunLoan::liveLists(), 0);
+        }
+        QVERIFY(item.isEmpty());
+        {
+            const TextRunLoan left(item, {IwbTextInfo()});
+        }
+        QCOMPARE(TextRunLoan::liveLists(), 0);
+
+        auto *foreign = new IwbTextInfoList{IwbTextInfo(), IwbTextInfo()};
+        item = {{QStringLiteral("IWB_TEXTINFO-VECTOR"), QString::number(quintptr(foreign))},
+                {QStringLiteral("IWB_TEXTINFO-DELVECTOR"), QString::number(quintptr(&destroyAndCount))}};
+        QCOMPARE(takeTextRuns(item)->size(), 2);
+        QCOMPARE(destroyedLists, 1);
+        QVERIFY(!takeTextRuns(item));
+    }
+};
+
+QTEST_MAIN(TestIwbText)
+#include "tst_iwbtext.moc"

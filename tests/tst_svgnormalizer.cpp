@@ -1,0 +1,271 @@
+#include "svgnormalizer.h"
+#include "svgvalues.h"
+
+#include <QDomDocument>
+#include <QtTest>
+
+#include <cmath>
+
+namespace {
+
+const char *const head = "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xmlns:svg='http://www.w3.org/2000/svg' "
+                         "xmlns:xlink='http://www.w3.org/1999/xlink'><svg:svg viewBox='0 0 800 600'>";
+const char *const foot = "</svg:svg></iwb>";
+const char *const nativeHead = "<iwb version='1.0'><svg:svg version='tesselmark' width='800' height='600'>";
+
+QDomDocument parsed(const QString &text)
+{
+    QDomDocument document;
+    QString error;
+    if (!document.setContent(text, false, &error)) {
+        qFatal("%s in %s", qPrintable(error), qPrintable(text));
+    }
+    return document;
+}
+
+// "rect x=1 y=2 ..." with attributes in ascending order, those of paint after a bar.
+QString describe(const IwbElement &item)
+{
+    QMap<QString, QString> place;
+    QMap<QString, QString> paint;
+    const QDomNamedNodeMap attributes = item.element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        const bool isPaint =
+            attribute.name().startsWith(QLatin1String("stroke")) || attribute.name() == QLatin1String("fill");
+        (isPaint ? paint : place).insert(attribute.name(), attribute.value());
+    }
+    QString text = item.element.tagName().mid(4);
+    for (auto it = place.constBegin(); it != place.constEnd(); ++it) {
+        text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
+    }
+    if (item.angle != 0) {
+        text += QStringLiteral(" turned %1").arg(item.angle * 180 / M_PI, 0, 'g', 6);
+    }
+    text += QLatin1String(" |");
+    for (auto it = paint.constBegin(); it != paint.constEnd(); ++it) {
+        text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
+    }
+    return text;
+}
+
+IwbPage firstPage(const QString &content, const char *start = head)
+{
+    const QDomDocument document = parsed(QLatin1String(start) + content + QLatin1String(foot));
+    return SvgNormalizer(document.documentElement()).page(0);
+}
+
+} // namespace
+
+/*!
+ * Content of other programs in the forms that the plug-in reads. Expected numbers are worked out by hand.
+ */
+class TestSvgNormalizer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void shapes_data()
+    {
+        QTest::addColumn<QString>("svg");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const char *svg, const char *expected) {
+            QTest::newRow(name) << QString::fromUtf8(svg) << QString::fromUtf8(expected);
+        };
+
+        // A fill that isn't named is black, a line that isn't named isn't there.
+        row("defaults of svg", "<svg:rect x='1' y='2' width='3' height='4'/>",
+            "rect height=4 width=3 x=1 y=2 | fill=rgb(0,0,0) stroke=rgb(0,0,0,0) stroke-opacity=255 stroke-width=1");
+        row("units and percents: 1in is 96, 50% of 800 is 400",
+            "<svg:rect x='1in' y='10pt' width='50%' height='50%' fill='none' stroke='red'/>",
+            "rect height=300 width=400 x=96 y=13.33333333 | stroke=rgb(255,0,0) stroke-width=1");
+        row("style goes over attributes",
+            "<svg:circle cx='5' cy='6' r='7' fill='red' style='fill:#0f0; stroke: rgb(10%,20,30) "
+            ";stroke-width:2.5px'/>",
+            "circle cx=5 cy=6 r=7 | fill=rgb(0,255,0) stroke=rgb(26,20,30) stroke-opacity=255 stroke-width=2.5");
+        row("half a fill and a quarter of a line: 127.5 and 63.75",
+            "<svg:circle r='7' fill='blue' fill-opacity='.5' stroke='black' stroke-opacity='0.25'/>",
+            "circle cx=0 cy=0 r=7 | fill=rgb(0,0,255) stroke=rgb(64,0,0,0) stroke-opacity=128 stroke-width=1");
+        row("opacity of the element counts for both", "<svg:circle r='7' fill='blue' stroke='black' opacity='.5'/>",
+            "circle cx=0 cy=0 r=7 | fill=rgb(0,0,255) stroke=rgb(128,0,0,0) stroke-opacity=128 stroke-width=1");
+        row("a polygon is closed", "<svg:polygon points='0,0 10,0 10,10' fill='none' stroke='black'/>",
+            "polyline points=0,0,10,0,10,10,0,0 | stroke=rgb(0,0,0) stroke-width=1");
+        row("three points stay a polyline", "<svg:polyline points='0 0 10 0 10-10' fill='none' stroke='black'/>",
+            "polyline points=0,0,10,0,10,-10,10,-10 | stroke=rgb(0,0,0) stroke-width=1");
+        row("a path of straight lines: 1,1 5,1 5,4 2,4 and back",
+            "<svg:path d='M1 1h4v3l-3 0z' fill='none' stroke='black'/>",
+            "polyline points=1,1,5,1,5,4,2,4,1,1 | stroke=rgb(0,0,0) stroke-width=1");
+        row("an arrow at the end turns the line",
+            "<svg:line x1='1' y1='2' x2='3' y2='4' stroke='black' stroke-lineshape-end='arrow'/>",
+            "line x1=3 x2=1 y1=4 y2=2 | stroke=rgb(0,0,0) stroke-lineshape-start=arrow stroke-width=1");
+        row("a single dash is two", "<svg:line x2='3' stroke='black' stroke-dasharray='5'/>",
+            "line x1=0 x2=3 y1=0 y2=0 | stroke=rgb(0,0,0) stroke-dasharray=1,1 stroke-width=1");
+
+        // translate(10,20) scale(2): 3,4 goes to 16,28, lengths double, the line's width too.
+        row("nested groups",
+            "<svg:g transform='translate(10,20)' stroke='blue' fill='none'><svg:g transform='scale(2)'>"
+            "<svg:rect x='3' y='4' width='5' height='6'/></svg:g></svg:g>",
+            "rect height=12 width=10 x=16 y=28 | stroke=rgb(0,0,255) stroke-width=2");
+        // 90 degrees about 0,0 take the centre 20,10 to -10,20; the sides keep their lengths.
+        row("a turned rectangle keeps its sides",
+            "<svg:rect x='10' y='5' width='20' height='10' fill='red' transform='rotate(90)'/>",
+            "rect height=10 width=20 x=-20 y=15 turned 90 | fill=rgb(255,0,0) stroke=rgb(0,0,0,0) stroke-opacity=255 "
+            "stroke-width=1");
+        row("a stretched circle is an ellipse",
+            "<svg:circle cx='1' cy='1' r='5' fill='red' transform='matrix(2 0 0 3 0 0)'/>",
+            "ellipse cx=2 cy=3 rx=10 ry=15 | fill=rgb(255,0,0) stroke=rgb(0,0,0,0) stroke-opacity=255 "
+            "stroke-width=2.449489743");
+        // skewX(45) moves x by y: 0,0 10,0 20,10 10,10.
+        row("a slanted rectangle is an outline",
+            "<svg:rect width='10' height='10' fill='none' stroke='black' transform='skewX(45)'/>",
+            "polyline points=0,0,10,0,20,10,10,10,0,0 | stroke=rgb(0,0,0) stroke-width=1");
+    }
+
+    void shapes()
+    {
+        QFETCH(QString, svg);
+        QFETCH(QString, expected);
+        const IwbPage page = firstPage(svg);
+        QCOMPARE(page.items.size(), 1);
+        QCOMPARE(describe(page.items.first()), expected);
+    }
+
+    void nativeConventions()
+    {
+        // Commas: 0.5235987756 radians are 30 degrees. Blanks: degrees. An alpha of fills out of 255.
+        const IwbPage page = firstPage(
+            QStringLiteral(
+                "<svg:rect x='10' y='10' width='20' height='10' transform='rotate(0.5235987756,20,15)' "
+                "fill='rgb(1,2,3)' stroke='rgb(4,5,6)' stroke-opacity='128'/>"
+                "<svg:rect x='10' y='10' width='20' height='10' transform='rotate(30 20 15)' stroke='rgb(4,5,6)'/>"
+                "<svg:polyline points='0,0,10,0,10,10' stroke='rgb(4,5,6)'/>"),
+            nativeHead);
+        QCOMPARE(describe(page.items.at(0)),
+                 QStringLiteral("rect height=10 width=20 x=10 y=10 turned 30 | fill=rgb(1,2,3) stroke=rgb(4,5,6) "
+                                "stroke-opacity=128 stroke-width=2"));
+        QCOMPARE(describe(page.items.at(1)),
+                 QStringLiteral("rect height=10 width=20 x=10 y=10 turned 30 | stroke=rgb(4,5,6) stroke-width=2"));
+        QCOMPARE(describe(page.items.at(2)), // an angle
+                 QStringLiteral("polyline points=0,0,10,0,10,10 | stroke=rgb(4,5,6) stroke-width=2"));
+    }
+
+    void prefixesDoNotMatter_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::newRow("svg without a prefix")
+            << "<iwb:iwb xmlns:iwb='http://www.becta.org.uk/iwb'><svg xmlns='http://www.w3.org/2000/svg' viewbox='0 0 "
+               "9 9'>"
+               "<page id='p'><rect width='1' height='1'/></page></svg><iwb:element ref='x' locked='true'/></iwb:iwb>";
+        QTest::newRow("another prefix, no page")
+            << "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xmlns:s='http://www.w3.org/2000/svg'>"
+               "<s:svg width='9px' height='9px'><s:rect width='1' height='1'/></s:svg></iwb>";
+        QTest::newRow("a svg document alone")
+            << "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><g><rect width='1' height='1'/></g></svg>";
+    }
+
+    void prefixesDoNotMatter()
+    {
+        QFETCH(QString, document);
+        const QDomDocument content = parsed(document);
+        const SvgNormalizer normalizer(content.documentElement());
+        QCOMPARE(normalizer.pageCount(), 1);
+        QDomDocument size;
+        QCOMPARE(normalizer.sizeElement(size).attribute(QStringLiteral("width")), QStringLiteral("9"));
+        const IwbPage page = normalizer.page(0);
+        QCOMPARE(page.items.size(), 1);
+        QCOMPARE(page.items.first().element.tagName(), QStringLiteral("svg:rect"));
+    }
+
+    void backgroundsAreFoundByTheirRecords()
+    {
+        const QDomDocument document =
+            parsed(QLatin1String(head)
+                   + QLatin1String(
+                       "<svg:page><svg:rect id='r' width='5' height='5' fill='red'/>"
+                       "<svg:rect id='b' width='800' height='600' fill='blue'/><svg:image id='i' xlink:href='b.png'/>"
+                       "</svg:page><svg:page><svg:rect id='r2' width='5' height='5' fill='red'/></svg:page></svg:svg>"
+                       "<element ref='b' background='true'/><element ref='i' background='true'/>"
+                       "<element ref='r' locked='true'/></iwb>"));
+        const SvgNormalizer normalizer(document.documentElement());
+        const IwbPage first = normalizer.page(0);
+        const QDomElement rect = first.page.firstChildElement(QStringLiteral("svg:rect"));
+        QCOMPARE(rect.attribute(QStringLiteral("fill")), QStringLiteral("rgb(0,0,255)"));
+        QCOMPARE(first.backgroundReference, QStringLiteral("b.png"));
+        QCOMPARE(first.items.size(), 1);
+        QVERIFY(first.items.first().isLocked);
+        // Without a record a rectangle is an item, and the page is white.
+        const IwbPage second = normalizer.page(1);
+        QCOMPARE(second.items.size(), 1);
+        QCOMPARE(second.page.firstChildElement().attribute(QStringLiteral("fill")), QStringLiteral("rgb(255,255,255)"));
+    }
+
+    void textBecomesSpans()
+    {
+        const IwbPage page =
+            firstPage(QStringLiteral("<svg:text x='100' y='50' font-size='20' text-anchor='middle' fill='#f00'>one "
+                                     "<svg:tspan font-weight='bold'>two"
+                                     "</svg:tspan><svg:tspan x='100' dy='1.2em'>three</svg:tspan></svg:text>"));
+        const QDomElement area = page.items.first().element;
+        QStringList spans;
+        for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+            spans << span.text() + QLatin1Char('|') + span.attribute(QStringLiteral("font-weight")) + QLatin1Char('|')
+                    + span.attribute(QStringLiteral("font-style")) + QLatin1Char('|')
+                    + span.attribute(QStringLiteral("text-align"));
+        }
+        QCOMPARE(spans,
+                 QStringList({QStringLiteral("one |normal|normal|center"), QStringLiteral("two\n|bold|normal|center"),
+                              QStringLiteral("three|normal|normal|center")}));
+        const double width = area.attribute(QStringLiteral("width")).toDouble();
+        QVERIFY(width > 20);
+        QVERIFY(qAbs(area.attribute(QStringLiteral("x")).toDouble() + width / 2 - 100) < 1e-6);
+        QVERIFY(area.attribute(QStringLiteral("y")).toDouble() < 50);
+    }
+
+    void nothingIsDroppedSilently_data()
+    {
+        QTest::addColumn<QString>("svg");
+        QTest::addColumn<QString>("remark");
+        QTest::newRow("curves") << "<svg:path id='p' d='M0 0C1 1 2 2 3 3'/>"
+                                << "svg:path p: it has curves";
+        QTest::newRow("use") << "<svg:use id='u'/>"
+                             << "svg:use u: lessons have nothing like it";
+        QTest::newRow("other vocabulary") << "<x:y xmlns:x='urn:x'/>"
+                                          << "x:y : lessons have nothing like it";
+        QTest::newRow("gradient") << "<svg:circle r='1' fill='url(#g)'/>"
+                                  << "svg:circle : fill \"url(#g)\" (a gradient";
+        QTest::newRow("round corners") << "<svg:rect width='9' height='9' rx='2'/>"
+                                       << "svg:rect : its corners";
+        QTest::newRow("odd points") << "<svg:polyline points='1 2 3'/>"
+                                    << "svg:polyline : its last point has no y";
+        QTest::newRow("clip") << "<svg:g clip-path='url(#c)'/>"
+                              << "svg:g : clip-path is left out";
+        QTest::newRow("transform") << "<svg:rect width='1' height='1' transform='bend(3)'/>"
+                                   << "svg:rect : transform \"bend(3)\"";
+        QTest::newRow("no size") << "<svg:rect width='0' height='4'/>"
+                                 << "svg:rect : it has no size";
+    }
+
+    void nothingIsDroppedSilently()
+    {
+        QFETCH(QString, svg);
+        QFETCH(QString, remark);
+        const IwbPage page = firstPage(svg);
+        QVERIFY(!page.remarks.isEmpty());
+        const SvgRemark &first = page.remarks.first();
+        const QString text = first.tag + QLatin1Char(' ') + first.id + QLatin1String(": ") + first.text;
+        QVERIFY2(text.startsWith(remark), qPrintable(text));
+    }
+
+    void slantedEllipsesKeepTheirAxes()
+    {
+        // The image of the unit circle under x' = x + y, y' = y has the half axes (1 + sqrt 5)/2 and (sqrt 5 - 1)/2.
+        const ScaleAndTurn axes = ellipseUnder(QTransform(1, 0, 1, 1, 0, 0), 1, 1);
+        QCOMPARE(axes.scaleX, (std::sqrt(5.0) + 1) / 2);
+        QCOMPARE(axes.scaleY, (std::sqrt(5.0) - 1) / 2);
+        // The long axis lies where tan(2a) = 2 * (1 * 1) / (1 + 1 - 1) = 2.
+        QVERIFY(qAbs(std::tan(2 * axes.angle) - 2) < 1e-9);
+    }
+};
+
+QTEST_MAIN(TestSvgNormalizer)
+#include "tst_svgnormalizer.moc"
