@@ -109,16 +109,17 @@ void registerRatio(const QString &group, const QString &name, const std::functio
         double workSeconds = 0;
         double baseSeconds = 0;
         for (auto _ : state) {
-            const double seconds = secondsOf(work);
+            workSeconds += secondsOf(work);
             baseSeconds += secondsOf(base);
-            workSeconds += seconds;
-            state.SetIterationTime(seconds);
         }
+        const auto turns = double(state.iterations());
+        state.counters["work_us"] = workSeconds * 1e6 / turns;
+        state.counters["base_us"] = baseSeconds * 1e6 / turns;
         state.counters["ratio"] = workSeconds / baseSeconds;
         results()[group][name] = workSeconds / baseSeconds;
     };
     benchmark::RegisterBenchmark(qPrintable(group + QLatin1Char('/') + name), measure)
-        ->UseManualTime()
+        ->UseRealTime()
         ->Unit(benchmark::kMicrosecond);
 }
 
