@@ -1,6 +1,10 @@
 #include "iwbitems.h"
 
-#include "zqhtran.h"
+#include "zqmathematicstran.h"
+#include "zqmediaitemtran.h"
+#include "zqtextboxtran.h"
+
+#include <memory>
 
 namespace {
 
@@ -23,6 +27,43 @@ void readLinkTarget(const QString &href, QJsonObject &json)
     } else if (href.endsWith(QLatin1String(".txt"))) {
         setLink("ACTION_OPENFILE", json.value(QLatin1String("path")).toString() + href);
     }
+}
+
+template <typename Translator>
+QJsonObject convertAs(const QDomElement &element, const QJsonObject &json, const QString &type)
+{
+    return Translator(type).tranIWB2JSON(element, json, {});
+}
+
+struct SvgItem
+{
+    const char *tag;
+    const char *itemType;
+    QJsonObject (*convert)(const QDomElement &element, const QJsonObject &json, const QString &type);
+};
+
+// An "svg:a" gets here without child nodes only: a link around an item is taken off before.
+const SvgItem svgItems[] = {
+    {"svg:image", "ZQImagePic", convertAs<ZQMediaItemTran>},
+    {"svg:rect", "ZQMath2DRectangle", convertAs<ZQMathematicsTran>},
+    {"svg:textarea", "ZQTextBoard", convertAs<ZQTextBoxTran>},
+    {"svg:line", "ZQMath2DSegment", convertAs<ZQMathematicsTran>},
+    {"svg:polyline", "ZQMath2DAngle", convertAs<ZQMathematicsTran>},
+    {"svg:circle", "ZQMath2DCircle", convertAs<ZQMathematicsTran>},
+    {"svg:ellipse", "ZQMath2DEllipse", convertAs<ZQMathematicsTran>},
+    {"svg:a", "ZQMediaAudio", convertAs<ZQMediaItemTran>},
+    {"svg:video", "ZQMediaVideo", convertAs<ZQMediaItemTran>},
+};
+
+QJsonObject convertSvgItem(const QDomElement &element, const QJsonObject &json)
+{
+    const QString tag = element.nodeName();
+    for (const SvgItem &item : svgItems) {
+        if (tag == QLatin1String(item.tag)) {
+            return item.convert(element, json, QLatin1String(item.itemType));
+        }
+    }
+    return json;
 }
 
 } // namespace
@@ -52,7 +93,7 @@ QJsonObject iwbItemToJson(const QDomElement &element, const QJsonObject &json)
         targets.append(item.attribute(QStringLiteral("xlink:href")));
         item = item.firstChildElement();
     }
-    QJsonObject result = json;
+    QJsonObject result = convertSvgItem(item, json);
     for (auto it = targets.crbegin(); it != targets.crend(); ++it) {
         readLinkTarget(*it, result);
     }

@@ -1,7 +1,10 @@
 #include "translatorchains.h"
 
 #include "zqgroupitemtran.h"
+#include "zqmathematicstran.h"
+#include "zqmediaitemtran.h"
 #include "zqstrokestran.h"
+#include "zqtextboxtran.h"
 
 namespace {
 
@@ -9,20 +12,30 @@ using Create = std::unique_ptr<ZQHTran> (*)(const QString &type);
 using MapType = QString (*)(const QString &type);
 
 const Create itemFamilies[] = {
+    ZQMathematicsTran::create,
     ZQStrokesTran::create,
+    ZQMediaItemTran::create,
+    ZQTextBoxTran::create,
 };
 
 const Create iwbFamilies[] = {
+    ZQMathematicsTran::create,
     ZQStrokesTran::create,
+    ZQMediaItemTran::create,
+    ZQTextBoxTran::create,
 };
 
 const MapType toTxTypeFamilies[] = {
+    ZQMathematicsTran::toTxType,
     ZQStrokesTran::toTxType,
+    ZQMediaItemTran::toTxType,
     ZQGroupItemTran::toTxType,
 };
 
 const MapType fromTxTypeFamilies[] = {
+    ZQMathematicsTran::fromTxType,
     ZQStrokesTran::fromTxType,
+    ZQMediaItemTran::fromTxType,
     ZQGroupItemTran::fromTxType,
 };
 

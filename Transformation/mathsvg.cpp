@@ -1,0 +1,614 @@
+#include "mathsvg.h"
+
+#include "numbertext.h"
+
+#include <QHash>
+#include <QLineF>
+#include <QStringList>
+#include <QVector>
+
+#include <cmath>
+#include <optional>
+
+namespace {
+
+QString textOf(const QJsonObject &json, const char *key)
+{
+    return json.value(QLatin1String(key)).toString();
+}
+
+QString pointText(const QPointF &point)
+{
+    return numberText(point.x()) + QLatin1Char(',') + numberText(point.y());
+}
+
+// The item's matrix: the identity if it has none, nothing if its text is too short.
+std::optional<QMatrix> itemMatrix(const QJsonObject &json)
+{
+    const QJsonValue text = json.value(QLatin1String("Matrix"));
+    return text.isUndefined() ? QMatrix() : matrixFromText(text.toString());
+}
+
+// The pairs of the numbers, each mapped by the matrix; a single number at the end is dropped.
+QVector<QPointF> mappedPairs(const QMatrix &matrix, const QVector<double> &numbers)
+{
+    QVector<QPointF> points;
+    points.reserve(numbers.size() / 2);
+    for (int i = 0; i + 1 < numbers.size(); i += 2) {
+        points.append(matrix.map(QPointF(numbers.at(i), numbers.at(i + 1))));
+    }
+    return points;
+}
+
+QString pointsText(const QVector<QPointF> &points)
+{
+    QString text;
+    for (const QPointF &point : points) {
+        if (!text.isEmpty()) {
+            text += QLatin1Char(',');
+        }
+        text += pointText(point);
+    }
+    return text;
+}
+
+QString closedOutline(QVector<QPointF> corners)
+{
+    corners.append(corners.first());
+    return pointsText(corners);
+}
+
+void setPoints(QJsonObject &json, const QString &points)
+{
+    json.insert(QLatin1String("points"), points);
+}
+
+void polygonGeometry(QJsonObject &json)
+{
+    const auto matrix = itemMatrix(json);
+    const QVector<double> numbers = numbersFromText(textOf(json, "Control"));
+    if (matrix && numbers.size() >= 6) {
+        setPoints(json, closedOutline(mappedPairs(*matrix, numbers)));
+    }
+}
+
+// The three control points are the middle of the one side and the ends of the other. The width follows from the height
+// by the proportion of 4 to 3.
+void parallelogramGeometry(QJsonObject &json)
+{
+    const auto matrix = itemMatrix(json);
+    const QVector<double> numbers = numbersFromText(textOf(json, "Control"));
+    if (!matrix || numbers.size() < 6) {
+        return;
+    }
+    const QVector<QPointF> p = mappedPairs(*matrix, numbers);
+    const QPointF middle = (p.at(1) + p.at(2)) / 2.0;
+    const float height = float(QLineF(p.at(0), middle).length());
+    const qreal width = qreal(float(qreal(height) * 1.33333));
+    const QPointF &p1 = p.at(1);
+    const QPointF &p2 = p.at(2);
+    setPoints(json,
+              closedOutline({p2, QPointF(p1.x() - width * 0.5, p1.y()), QPointF(p1.x() + width * 0.5, p1.y()),
+                             QPointF(p2.x() + width, p2.y())}));
+}
+
+void normalPolygonGeometry(QJsonObject &json)
+{
+    if (const auto matrix = itemMatrix(json)) {
+        setPoints(json, regularPolygonPoints(*matrix, textOf(json, "ArtObj_Ln").toInt()));
+    }
+}
+
+// XYValue has one more character at its end, which is cut whatever it is.
+void polylineGeometry(QJsonObject &json)
+{
+    const auto matrix = itemMatrix(json);
+    const QJsonValue value = json.value(QLatin1String("XYValue"));
+    if (!matrix || !value.isString()) {
+        return;
+    }
+    QString text = value.toString();
+    text.chop(1);
+    const QVector<double> numbers = numbersFromText(text);
+    if (numbers.size() >= 2) {
+        setPoints(json, pointsText(mappedPairs(*matrix, numbers)));
+    }
+}
+
+// The two control points and the item's origin.
+void angleGeometry(QJsonObject &json)
+{
+    const auto matrix = itemMatrix(json);
+    const QJsonValue control = json.value(QLatin1String("Control"));
+    QVector<double> numbers = numbersFromText(control.toString());
+    if (matrix && control.isString() && numbers.size() == 4) {
+        numbers << 0 << 0;
+        setPoints(json, pointsText(mappedPairs(*matrix, numbers)));
+    }
+}
+
+void setLineEnds(QJsonObject &json, const char *start, const char *end)
+{
+    if (start) {
+        json.insert(QLatin1String("stroke-lineshape-start"), QLatin1String(start));
+    }
+    if (end) {
+        json.insert(QLatin1String("stroke-lineshape-end"), QLatin1String(end));
+    }
+}
+
+void lineCoordinates(QJsonObject &json)
+{
+    const auto matrix = itemMatrix(json);
+    const QJsonValue control = json.value(QLatin1String("Control"));
+    const QVector<double> numbers = numbersFromText(control.toString());
+    if (!matrix || !control.isString() || numbers.size() < 4) {
+        return;
+    }
+    const QVector<QPointF> ends = mappedPairs(*matrix, numbers.mid(0, 4));
+    json.insert(QLatin1String("x1"), numberText(ends.at(0).x()));
+    json.insert(QLatin1String("y1"), numberText(ends.at(0).y()));
+    json.insert(QLatin1String("x2"), numberText(ends.at(1).x()));
+    json.insert(QLatin1String("y2"), numberText(ends.at(1).y()));
+}
+
+void segmentGeometry(QJsonObject &json)
+{
+    switch (textOf(json, "ArtObj_ArrowType").toInt()) {
+    case 0:
+        setLineEnds(json, "circle", "circle");
+        break;
+    case 1:
+        setLineEnds(json, "arrow", nullptr);
+        break;
+    case 2:
+        setLineEnds(json, "arrow", "arrow");
+        break;
+    default:
+        break;
+    }
+    lineCoordinates(json);
+}
+
+void geoSegmentGeometry(QJsonObject &json)
+{
+    setLineEnds(json, "circle", "circle");
+    lineCoordinates(json);
+}
+
+// Pair number index of the control points, or what stands for it.
+QPointF rimPoint(const QVector<double> &numbers, int index, const QPointF &missing)
+{
+    const int first = 2 * index;
+    return first + 1 < numbers.size() ? QPointF(numbers.at(first), numbers.at(first + 1)) : missing;
+}
+
+// The centre is the item's origin; a radius is the distance of a mapped rim point from it.
+void roundGeometry(QJsonObject &json, const QVector<QPointF> &missingRim, const QStringList &radiusKeys)
+{
+    const auto matrix = itemMatrix(json);
+    if (!matrix) {
+        return;
+    }
+    const QPointF center = matrix->map(QPointF(0, 0));
+    json.insert(QLatin1String("cx"), numberText(center.x()));
+    json.insert(QLatin1String("cy"), numberText(center.y()));
+    const QVector<double> numbers = numbersFromText(textOf(json, "Control"));
+    for (int i = 0; i < radiusKeys.size(); ++i) {
+        const QPointF rim = matrix->map(rimPoint(numbers, i, missingRim.at(i)));
+        json.insert(radiusKeys.at(i), numberText(QLineF(center, rim).length()));
+    }
+}
+
+void circleGeometry(QJsonObject &json)
+{
+    roundGeometry(json, {QPointF(50, 0)}, {QStringLiteral("r")});
+}
+
+void ellipseGeometry(QJsonObject &json)
+{
+    roundGeometry(json, {QPointF(100, 0), QPointF(0, 100)}, {QStringLiteral("rx"), QStringLiteral("ry")});
+}
+
+float degreesOf(float radians)
+{
+    return float(double(radians) * 180.0 / 3.14159);
+}
+
+// The item's matrix with the rotation about the centre of its box taken out, as "transform" carries it.
+std::optional<QMatrix> unrotatedMatrix(const QJsonObject &json)
+{
+    const auto matrix = matrixFromText(textOf(json, "Matrix"));
+    const auto box = boxFromText(textOf(json, "BoundingBox"));
+    if (!matrix || !box) {
+        return std::nullopt;
+    }
+    const QPointF center = matrix->mapRect(*box).center();
+    const float degrees = degreesOf(textOf(json, "Angle").toFloat());
+    return rotationAbout(degrees, center).inverted() * *matrix;
+}
+
+// The extent of the mapped corners, over the mapped box that the common attributes gave.
+void finishRectangle(QDomElement &element, const QJsonObject &json)
+{
+    const auto matrix = json.contains(QLatin1String("Matrix")) ? unrotatedMatrix(json) : QMatrix();
+    if (!matrix) {
+        return;
+    }
+    const QVector<QPointF> corners = mappedPairs(*matrix, numbersFromText(textOf(json, "Control")));
+    if (corners.isEmpty()) {
+        return;
+    }
+    double minX = 1000000;
+    double minY = 1000000;
+    double maxX = -1000000;
+    double maxY = -1000000;
+    for (const QPointF &corner : corners) {
+        minX = qMin(minX, corner.x());
+        minY = qMin(minY, corner.y());
+        maxX = qMax(maxX, corner.x());
+        maxY = qMax(maxY, corner.y());
+    }
+    element.setAttribute(QStringLiteral("x"), numberText(minX));
+    element.setAttribute(QStringLiteral("y"), numberText(minY));
+    element.setAttribute(QStringLiteral("width"), numberText(maxX - minX));
+    element.setAttribute(QStringLiteral("height"), numberText(maxY - minY));
+}
+
+// clang-format off
+const SvgShape segmentToSvg       = {"svg:line",     segmentGeometry,       "ArtObj_Color1", SvgShape::KeepsStroke, nullptr,            SvgShape::NoFill,      "ArtObj_Style", nullptr};
+const SvgShape geoSegmentToSvg    = {"svg:line",     geoSegmentGeometry,    "ArtObj_Color1", SvgShape::KeepsStroke, nullptr,            SvgShape::NoFill,      "ArtObj_Style", nullptr};
+const SvgShape angleToSvg         = {"svg:polyline", angleGeometry,         "LineColor",     SvgShape::KeepsStroke, nullptr,            SvgShape::NoFill,      "ArtObj_Mode",  nullptr};
+const SvgShape polylineToSvg      = {"svg:polyline", polylineGeometry,      "ArtObj_Color",  SvgShape::KeepsStroke, "ArtObj_FillColor", SvgShape::FillsAlways, "ArtObj_Mode",  nullptr};
+const SvgShape normalPolygonToSvg = {"svg:polyline", normalPolygonGeometry, "LineColor",     SvgShape::KeepsStroke, "ArtObj_Color",     SvgShape::FillsAlways, "ArtObj_Mode",  nullptr};
+const SvgShape circleToSvg        = {"svg:circle",   circleGeometry,        "LineColor",     SvgShape::CutsStroke,  "ArtObj_Color",     SvgShape::FillsByFlag, "ArtObj_Mode",  nullptr};
+const SvgShape ellipseToSvg       = {"svg:ellipse",  ellipseGeometry,       "LineColor",     SvgShape::CutsStroke,  "ArtObj_Color",     SvgShape::FillsByFlag, "ArtObj_Mode",  nullptr};
+const SvgShape rectangleToSvg     = {"svg:rect",     nullptr,               "LineColor",     SvgShape::CutsStroke,  "ArtObj_Color",     SvgShape::FillsByFlag, "ArtObj_Mode",  finishRectangle};
+const SvgShape polygonToSvg       = {"svg:polyline", polygonGeometry,       "LineColor",     SvgShape::CutsStroke,  "ArtObj_Color",     SvgShape::FillsAlways, "ArtObj_Mode",  nullptr};
+const SvgShape geoTriangleToSvg   = {"svg:polyline", polygonGeometry,       "ArtObj_Color1", SvgShape::CutsStroke,  "ArtObj_Color",     SvgShape::FillsAlways, "ArtObj_Mode",  nullptr};
+const SvgShape parallelogramToSvg = {"svg:polyline", parallelogramGeometry, "LineColor",     SvgShape::CutsStroke,  "ArtObj_Color",     SvgShape::FillsByFlag, "ArtObj_Mode",  nullptr};
+// clang-format on
+
+struct TypeShape
+{
+    const char *itemType;
+    const SvgShape *shape;
+};
+
+const TypeShape typeShapes[] = {
+    {"ZQMath2DSegment", &segmentToSvg},
+    {"ZQMath2DSegmentWith1Arrow", &segmentToSvg},
+    {"ZQMath2DSegmentWith2Arrow", &segmentToSvg},
+    {"ZQMath2DGeoSegment", &geoSegmentToSvg},
+    {"ZQMath2DAngle", &angleToSvg},
+    {"ZQMath2DPolyline", &polylineToSvg},
+    {"ZQMath2DCircle", &circleToSvg},
+    {"ZQMath2DEllipse", &ellipseToSvg},
+    {"ZQMath2DRectangle", &rectangleToSvg},
+    {"ZQMath2DTriangle", &polygonToSvg},
+    {"ZQMath2DGeoTriangle", &geoTriangleToSvg},
+    {"ZQMath2DQuadrangle", &polygonToSvg},
+    {"ZQMath2DParallelogram", &parallelogramToSvg},
+};
+
+void addStroke(const SvgShape &shape, QJsonObject &json)
+{
+    const QJsonValue color = json.value(QLatin1String(shape.strokeKey));
+    QString text = QStringLiteral("0,0,0");
+    if (color.isString()) {
+        text = color.toString().mid(shape.cut == SvgShape::CutsStroke ? 4 : 0);
+    }
+    json.insert(QLatin1String("stroke"), QString(QLatin1String("rgb(") + text + QLatin1Char(')')));
+}
+
+void addFill(const SvgShape &shape, QJsonObject &json)
+{
+    if (shape.fill == SvgShape::NoFill) {
+        return;
+    }
+    const QJsonValue value = json.value(QLatin1String(shape.fillKey));
+    const bool isHollow = shape.fill == SvgShape::FillsByFlag && textOf(json, "ArtObj_Fill") == QLatin1String("0");
+    if (!value.isString() || isHollow) {
+        return;
+    }
+    const QColor color = parseColorText(value.toString());
+    json.insert(QLatin1String("fill"),
+                QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue()));
+    json.insert(QLatin1String("stroke-opacity"), QString::number(color.alpha()));
+}
+
+// The pen styles of the line styles 0 to 3; any other is solid.
+int penStyleOf(const QString &lineStyle)
+{
+    switch (lineStyle.toInt()) {
+    case 1:
+        return Qt::DashDotDotLine;
+    case 2:
+        return Qt::DashLine;
+    case 3:
+        return Qt::DashDotLine;
+    default:
+        return Qt::SolidLine;
+    }
+}
+
+void readStroke(const QDomElement &element, const char *key, QJsonObject &json)
+{
+    json.insert(QLatin1String(key), stripRgb(element.attribute(QStringLiteral("stroke"))));
+}
+
+void readWidth(const QDomElement &element, QJsonObject &json)
+{
+    json.insert(QLatin1String("ArtObj_Width"), element.attribute(QStringLiteral("stroke-width")));
+}
+
+// The opacity of the whole shape goes in front of the colour as its alpha; any but "0" makes the shape a filled one.
+void readFill(const QDomElement &element, const char *key, QJsonObject &json)
+{
+    QString color = stripRgb(element.attribute(QStringLiteral("fill")));
+    const QString opacity = element.attribute(QStringLiteral("stroke-opacity"));
+    if (!opacity.isEmpty()) {
+        color = opacity + QLatin1Char(',') + color;
+        if (opacity != QLatin1String("0")) {
+            json.insert(QLatin1String("ArtObj_Fill"), QStringLiteral("1"));
+        }
+    }
+    json.insert(QLatin1String(key), color);
+}
+
+void readDash(const QDomElement &element, const char *key, QJsonObject &json)
+{
+    const int style = dashArrayToLineStyle(element.attribute(QStringLiteral("stroke-dasharray")));
+    json.insert(QLatin1String(key), QString::number(style));
+}
+
+float floatAttribute(const QDomElement &element, const char *name)
+{
+    return element.attribute(QLatin1String(name)).toFloat();
+}
+
+// The sum of two attributes in single precision, as a number text.
+QString sumText(const QDomElement &element, const char *first, const char *second)
+{
+    return numberText(qreal(floatAttribute(element, first) + floatAttribute(element, second)));
+}
+
+void readCenter(const QDomElement &element, QJsonObject &json)
+{
+    json.insert(QLatin1String("Discipline_xCreate"), element.attribute(QStringLiteral("cx")));
+    json.insert(QLatin1String("Discipline_yCreate"), element.attribute(QStringLiteral("cy")));
+}
+
+void setType(QJsonObject &json, const char *type)
+{
+    json.insert(QLatin1String("Type"), QLatin1String(type));
+}
+
+void setControl(QJsonObject &json, const QStringList &numbers)
+{
+    json.insert(QLatin1String("Control"), numbers.join(QLatin1Char(',')));
+}
+
+// The matrix that puts a rectangle at its place and turns it by the angle of "rotate(radians,x,y)"; any other transform
+// turns nothing.
+QMatrix matrixFromSvgRect(const QDomElement &element, QJsonObject &json)
+{
+    QMatrix matrix;
+    matrix.translate(qreal(floatAttribute(element, "x")), qreal(floatAttribute(element, "y")));
+    QString rotation = element.attribute(QStringLiteral("transform"));
+    rotation.remove(QLatin1String("rotate")).remove(QLatin1Char('(')).remove(QLatin1Char(')'));
+    const QStringList parts = rotation.split(QLatin1Char(','));
+    if (parts.size() == 3) {
+        const QPointF center(qreal(parts.at(1).toFloat()), qreal(parts.at(2).toFloat()));
+        matrix = matrix * rotationAbout(degreesOf(parts.at(0).toFloat()), center);
+    }
+    json.insert(QLatin1String("Matrix"), matrixToText(matrix));
+    return matrix;
+}
+
+} // namespace
+
+const SvgShape *svgShapeOf(const QString &itemType)
+{
+    static const auto shapes = [] {
+        QHash<QString, const SvgShape *> byType;
+        for (const TypeShape &row : typeShapes) {
+            byType.insert(QLatin1String(row.itemType), row.shape);
+        }
+        return byType;
+    }();
+    if (const SvgShape *shape = shapes.value(itemType)) {
+        return shape;
+    }
+    return itemType.contains(QLatin1String("Normal")) ? &normalPolygonToSvg : nullptr;
+}
+
+void addSvgPaint(const SvgShape &shape, QJsonObject &json)
+{
+    addStroke(shape, json);
+    addFill(shape, json);
+    const QJsonValue widthValue = json.value(QLatin1String("ArtObj_Width"));
+    int width = 2;
+    if (!widthValue.isUndefined()) {
+        width = widthValue.toString().toInt();
+        json.insert(QLatin1String("stroke-width"), widthValue);
+    }
+    const QString dashes = dashArrayFor(penStyleOf(textOf(json, shape.dashKey)), width);
+    if (!dashes.isEmpty()) {
+        json.insert(QLatin1String("stroke-dasharray"), dashes);
+    }
+}
+
+QJsonObject svgLineToJson(const QDomElement &element, QJsonObject json)
+{
+    const QString arrow = QStringLiteral("arrow");
+    const bool startsInArrow = element.attribute(QStringLiteral("stroke-lineshape-start")) == arrow;
+    const bool endsInArrow = element.attribute(QStringLiteral("stroke-lineshape-end")) == arrow;
+    // A line that only ends in an arrow has no type of its own.
+    if (startsInArrow || !endsInArrow) {
+        setType(json,
+                !startsInArrow     ? "ZQMath2DSegment"
+                    : !endsInArrow ? "ZQMath2DSegmentWith1Arrow"
+                                   : "ZQMath2DSegmentWith2Arrow");
+        json.insert(QLatin1String("ArtObj_ArrowType"), QString::number(int(startsInArrow) + int(endsInArrow)));
+    }
+    setControl(json,
+               {element.attribute(QStringLiteral("x1")), element.attribute(QStringLiteral("y1")),
+                element.attribute(QStringLiteral("x2")), element.attribute(QStringLiteral("y2"))});
+    readStroke(element, "ArtObj_Color1", json);
+    readWidth(element, json);
+    readDash(element, "ArtObj_Style", json);
+    return json;
+}
+
+QJsonObject svgAngleToJson(const QDomElement &element, QJsonObject json)
+{
+    const QVector<double> numbers = numbersFromText(element.attribute(QStringLiteral("points")));
+    Q_ASSERT(numbers.size() == 6);
+    setType(json, "ZQMath2DAngle");
+    setControl(
+        json,
+        {numberText(numbers.at(0)), numberText(numbers.at(1)), numberText(numbers.at(2)), numberText(numbers.at(3))});
+    json.insert(QLatin1String("Discipline_xCreate"), numberText(numbers.at(4)));
+    json.insert(QLatin1String("Discipline_yCreate"), numberText(numbers.at(5)));
+    readStroke(element, "LineColor", json);
+    readWidth(element, json);
+    readDash(element, "ArtObj_Mode", json);
+    return json;
+}
+
+QJsonObject svgPolylineToJson(const QDomElement &element, QJsonObject json)
+{
+    setType(json, "ZQMath2DPolyline");
+    json.insert(QLatin1String("XYValue"), element.attribute(QStringLiteral("points")));
+    readStroke(element, "ArtObj_Color", json);
+    readWidth(element, json);
+    readFill(element, "ArtObj_FillColor", json);
+    readDash(element, "ArtObj_Mode", json);
+    return json;
+}
+
+QJsonObject svgCircleToJson(const QDomElement &element, QJsonObject json)
+{
+    setType(json, "ZQMath2DCircle");
+    readCenter(element, json);
+    setControl(json, {sumText(element, "cx", "r"), element.attribute(QStringLiteral("cy"))});
+    readStroke(element, "LineColor", json);
+    readWidth(element, json);
+    readFill(element, "ArtObj_Color", json);
+    readDash(element, "ArtObj_Mode", json);
+    return json;
+}
+
+QJsonObject svgEllipseToJson(const QDomElement &element, QJsonObject json)
+{
+    setType(json, "ZQMath2DEllipse");
+    readCenter(element, json);
+    setControl(json,
+               {sumText(element, "cx", "rx"), element.attribute(QStringLiteral("cy")),
+                element.attribute(QStringLiteral("cx")), sumText(element, "cy", "ry")});
+    readStroke(element, "LineColor", json);
+    readWidth(element, json);
+    readFill(element, "ArtObj_Color", json);
+    readDash(element, "ArtObj_Mode", json);
+    return json;
+}
+
+QJsonObject readSvgRect(const QDomElement &element, QJsonObject json)
+{
+    setType(json, "ZQMath2DRectangle");
+    matrixFromSvgRect(element, json);
+    const QString width = numberText(qreal(floatAttribute(element, "width")));
+    const QString height = numberText(qreal(floatAttribute(element, "height")));
+    const QString zero = QStringLiteral("0");
+    setControl(json, {width, zero, zero, height});
+    readStroke(element, "LineColor", json);
+    readFill(element, "ArtObj_Color", json);
+    readWidth(element, json);
+    readDash(element, "ArtObj_Mode", json);
+    json.insert(QLatin1String("BoundingBox_IWB_RECT"), QStringList{zero, zero, width, height}.join(QLatin1Char(',')));
+    return json;
+}
+
+QColor parseColorText(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (parts.size() == 4) {
+        return {integerPart(parts, 1), integerPart(parts, 2), integerPart(parts, 3), integerPart(parts, 0)};
+    }
+    if (parts.size() == 3) {
+        return {integerPart(parts, 0), integerPart(parts, 1), integerPart(parts, 2)};
+    }
+    return {};
+}
+
+QString dashArrayFor(int penStyle, int width)
+{
+    // Products of any width in a file need more than 32 bits.
+    const auto times = [width](int factor) { return QString::number(qint64(width) * factor); };
+    QStringList pattern;
+    switch (penStyle) {
+    case Qt::DashLine:
+        pattern = QStringList{times(5), times(5)};
+        break;
+    case Qt::DashDotLine:
+        pattern = QStringList{times(10), times(2), times(10)};
+        break;
+    case Qt::DashDotDotLine:
+        pattern = QStringList{times(10), times(2), times(2), times(2)};
+        break;
+    default:
+        break;
+    }
+    return pattern.join(QLatin1Char(','));
+}
+
+int dashArrayToLineStyle(const QString &text)
+{
+    switch (text.count(QLatin1Char(',')) + 1) {
+    case 4:
+        return 1;
+    case 2:
+        return 2;
+    case 3:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
+QString stripRgb(const QString &text)
+{
+    QString stripped = text;
+    return stripped.remove(QLatin1String("rgb")).remove(QLatin1Char('(')).remove(QLatin1Char(')'));
+}
+
+QMatrix rotationAbout(float degrees, const QPointF &center)
+{
+    QMatrix toOrigin;
+    toOrigin.translate(-center.x(), -center.y());
+    QMatrix rotation;
+    rotation.rotate(qreal(degrees));
+    QMatrix back;
+    back.translate(center.x(), center.y());
+    return toOrigin * rotation * back;
+}
+
+QString regularPolygonPoints(const QMatrix &matrix, int corners)
+{
+    if (corners <= 0 || corners > 10000) {
+        return {};
+    }
+    const double pi = 3.1415926;
+    const QPointF first = corners == 4 ? QPointF(70, 70) : QPointF(86, 50);
+    const double radius = QLineF(QPointF(), first).length();
+    const int step = 360 / corners; // whole degrees: the remainder is dropped
+    const double start = 360 - std::atan(first.y() / first.x()) / pi * 180;
+    QVector<QPointF> outline{matrix.map(first)};
+    outline.reserve(corners + 1);
+    for (int i = 1; i < corners; ++i) {
+        const double angle = (i * step + start) / 180 * pi;
+        outline.append(matrix.map(QPointF(radius * std::cos(angle), -std::sin(angle) * radius)));
+    }
+    return closedOutline(outline);
+}

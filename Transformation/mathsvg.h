@@ -1,0 +1,77 @@
+#ifndef MATHSVG_H
+#define MATHSVG_H
+
+#include <QColor>
+#include <QDomElement>
+#include <QJsonObject>
+#include <QMatrix>
+#include <QPointF>
+#include <QString>
+
+// The svg shapes of mathematics items: how each leaves, what each tag gives back, and the texts that they share.
+
+/*!
+ * How a type leaves as an svg shape. The parts that most shapes have in common are told by keys; the geometry is a
+ * function that adds the svg attributes to the object under their own names, or leaves them out where control points
+ * or matrix don't suffice.
+ */
+struct SvgShape
+{
+    enum Cut {
+        KeepsStroke, //!< the colour text goes out as it is
+        CutsStroke //!< its first four characters are cut, the alpha of 255 as a rule
+    };
+    enum Fill {
+        NoFill,
+        FillsAlways, //!< whenever the colour is a text
+        FillsByFlag //!< and ArtObj_Fill is not "0"
+    };
+
+    const char *tag;
+    void (*addGeometry)(QJsonObject &json); //!< may be null
+    const char *strokeKey;
+    Cut cut;
+    const char *fillKey;
+    Fill fill;
+    const char *dashKey;
+    //! Attributes set at the very end, over what the common ones gave; may be null.
+    void (*finish)(QDomElement &element, const QJsonObject &json);
+};
+
+//! The svg shape of an item type, or null.
+const SvgShape *svgShapeOf(const QString &itemType);
+
+//! Adds stroke, fill, stroke-width and stroke-dasharray to the object, under the names of the svg attributes.
+void addSvgPaint(const SvgShape &shape, QJsonObject &json);
+
+//! Reads an svg shape other than a rectangle: type, geometry and paint. An angle's "points" are six numbers.
+QJsonObject svgLineToJson(const QDomElement &element, QJsonObject json);
+QJsonObject svgAngleToJson(const QDomElement &element, QJsonObject json);
+QJsonObject svgPolylineToJson(const QDomElement &element, QJsonObject json);
+QJsonObject svgCircleToJson(const QDomElement &element, QJsonObject json);
+QJsonObject svgEllipseToJson(const QDomElement &element, QJsonObject json);
+
+//! Type, matrix, control points and paint of an svg:rect, for an object that holds its attributes already.
+QJsonObject readSvgRect(const QDomElement &element, QJsonObject json);
+
+//! The colour of a,r,g,b or r,g,b in decimal, opaque without an alpha. Another number of parts gives an invalid,
+//! opaque colour, and so do channels beyond 0 to 255, but a transparent one.
+QColor parseColorText(const QString &text);
+
+//! The dash pattern of a pen style (2 dash, 4 dash dot, 5 dash dot dot) for a line width in pixels; otherwise empty.
+QString dashArrayFor(int penStyle, int width);
+
+//! The line style (0 to 3) that a dash pattern stands for, by the number of its parts alone.
+int dashArrayToLineStyle(const QString &text);
+
+//! "rgb(1,2,3)" without "rgb", "(" and ")".
+QString stripRgb(const QString &text);
+
+//! A rotation by degrees about a point.
+QMatrix rotationAbout(float degrees, const QPointF &center);
+
+//! The closed outline of a regular polygon as svg points, mapped by the matrix. Empty for fewer than one corner, and
+//! for more than 10000, which no lesson means.
+QString regularPolygonPoints(const QMatrix &matrix, int corners);
+
+#endif // MATHSVG_H
