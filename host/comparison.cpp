@@ -1,0 +1,145 @@
+#include "comparison.h"
+
+#include "lessonerror.h"
+#include "lossreport.h"
+#include "modelforms.h"
+#include "xmlloader.h"
+#include "xmltext.h"
+
+#include <QJsonDocument>
+
+namespace {
+
+constexpr int longestDetail = 60;
+
+struct Difference
+{
+    QString key;
+    QString detail;
+};
+
+QString detailOf(const QJsonValue &value)
+{
+    const QString text = valueText(value);
+    return text.isNull() ? (value.isArray() ? QStringLiteral("a list") : QStringLiteral("an object"))
+                         : text.left(longestDetail);
+}
+
+bool isEmptyValue(const QJsonValue &value)
+{
+    const QString text = valueText(value);
+    return text.isEmpty() && !text.isNull();
+}
+
+// Two XML texts are the same if they are the same tree.
+bool isSameXml(const QString &one, const QString &other)
+{
+    try {
+        return xmlNodeText(loadXml(one.toUtf8(), {}).documentElement())
+            == xmlNodeText(loadXml(other.toUtf8(), {}).documentElement());
+    } catch (const LessonError &) {
+        return false;
+    }
+}
+
+void compareValues(const QString &key, const QJsonValue &given, const QJsonValue &found,
+                   QVector<Difference> &differences)
+{
+    if (isEmptyValue(given)) {
+        return;
+    }
+    if (given.isArray() && found.isArray() && valueText(given).isNull()) {
+        const QJsonArray givenArray = given.toArray();
+        const QJsonArray foundArray = found.toArray();
+        for (int i = 0; i < givenArray.size(); ++i) {
+            compareValues(QStringLiteral("%1[%2]").arg(key).arg(i), givenArray.at(i), foundArray.at(i), differences);
+        }
+        return;
+    }
+    if (given.isObject() && found.isObject() && valueText(given).isNull()) {
+        const QJsonObject givenObject = given.toObject();
+        const QJsonObject foundObject = found.toObject();
+        for (auto it = givenObject.constBegin(); it != givenObject.constEnd(); ++it) {
+            compareValues(key + QLatin1Char('.') + it.key(), it.value(), foundObject.value(it.key()), differences);
+        }
+        return;
+    }
+    if (given.isString() && found.isArray() && valueText(found).isNull()) {
+        compareValues(key, QJsonDocument::fromJson(given.toString().toUtf8()).array(), found, differences);
+        return;
+    }
+    const bool isXml = key == QLatin1String("manager");
+    const bool isSame = valueText(given).isNull() ? given == found
+        : isXml                                   ? isSameXml(given.toString(), found.toString())
+                                                  : isSameValue(key, given, found);
+    if (!isSame) {
+        differences.append({key, detailOf(given)});
+    }
+}
+
+// Opacity of ink is read into its colour.
+QJsonObject withOpacityInColor(QJsonObject item)
+{
+    const QLatin1String opacity("Opacity");
+    const QLatin1String color("Color");
+    const QString text = item.value(color).toString();
+    if (item.contains(opacity) && text.startsWith(QLatin1Char('#'))) {
+        const int alpha = valueText(item.value(opacity)).toInt();
+        item.insert(
+            color,
+            QString(QLatin1Char('#') + QStringLiteral("%1").arg(alpha & 255, 2, 16, QLatin1Char('0')) + text.right(6)));
+        item.remove(opacity);
+    }
+    return item;
+}
+
+} // namespace
+
+Comparison::Comparison(LossReport *losses, int slide)
+    : m_losses(losses)
+    , m_slide(slide)
+{
+}
+
+void Comparison::compareProperties(const QString &type, const QJsonObject &given, const QJsonObject &found) const
+{
+    QVector<Difference> differences;
+    for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
+        compareValues(it.key(), it.value(), found.value(it.key()), differences);
+    }
+    for (const Difference &difference : qAsConst(differences)) {
+        Loss loss;
+        loss.slide = m_slide;
+        loss.itemType = type;
+        loss.itemId = given.value(QLatin1String("ID")).toString();
+        loss.key = difference.key;
+        loss.detail = difference.detail;
+        m_losses->add(loss);
+    }
+}
+
+void Comparison::compareItems(const QJsonArray &given, const QJsonArray &found) const
+{
+    for (int i = 0; i < given.size(); ++i) {
+        compareItem(given.at(i).toObject(), found.at(i).toObject());
+    }
+}
+
+void Comparison::compareItem(const QJsonObject &given, const QJsonObject &found) const
+{
+    const QString type = given.value(QLatin1String("Type")).toString();
+    QJsonObject own = given;
+    const QLatin1String box("BoundingBox");
+    if (isContainer(type)) {
+        own.remove(HostKeys::children);
+        compareItems(given.value(HostKeys::children).toArray(), found.value(HostKeys::children).toArray());
+        // Version 3 has the box of a container under another key.
+        if (own.value(box) == found.value(HostKeys::ignoredBox)) {
+            own.remove(box);
+        }
+    }
+    if (found.contains(QLatin1String("Color"))) {
+        own = withOpacityInColor(own);
+    }
+    compareProperties(type, own, found);
+}

@@ -1,0 +1,57 @@
+#include "conversion.h"
+
+#include "lessonerror.h"
+#include "lossreport.h"
+#include "modelforms.h"
+
+namespace {
+
+void reportKeptItems(const QJsonArray &items, int slide, LossReport *losses)
+{
+    for (const QJsonValue &value : items) {
+        const QJsonObject item = value.toObject();
+        if (item.contains(HostKeys::keptXml)) {
+            Loss kept;
+            kept.kind = Loss::Kept;
+            kept.slide = slide;
+            kept.itemType = item.value(QLatin1String("Type")).toString();
+            kept.itemId = item.value(QLatin1String("ID")).toString();
+            losses->add(kept);
+        }
+        reportKeptItems(item.value(HostKeys::children).toArray(), slide, losses);
+    }
+}
+
+} // namespace
+
+void convertLesson(const LessonFormat &from, const QString &input, const LessonFormat &to, const QString &output,
+                   const LessonContext &context, const Progress &progress)
+{
+    if (!from.canRead()) {
+        throw LessonError(QStringLiteral("The format \"%1\" can't be read").arg(from.name),
+                          QStringLiteral("See lessonconv formats"))
+            .in(input);
+    }
+    if (!to.canWrite()) {
+        throw LessonError(QStringLiteral("The format \"%1\" can't be written").arg(to.name),
+                          QStringLiteral("See lessonconv formats"))
+            .in(output);
+    }
+    const auto reader = from.open(input, context);
+    const auto writer = to.create(output, context);
+    writer->begin(reader->presentation());
+    const QStringList resources = reader->resources();
+    for (const QString &resource : resources) {
+        writer->addResource(resource, reader->resourceFile(resource));
+    }
+    const int count = reader->slideCount();
+    for (int i = 0; i < count; ++i) {
+        const LessonSlide slide = reader->slide(i);
+        if (context.losses) {
+            reportKeptItems(slide.items, i + 1, context.losses);
+        }
+        writer->writeSlide(slide);
+        progress(i + 1, count);
+    }
+    writer->finish();
+}

@@ -1,0 +1,13 @@
+#ifndef CONVERSION_H
+#define CONVERSION_H
+
+#include "lesson.h"
+
+//! Called with the number of slides done and their total.
+using Progress = std::function<void(int done, int total)>;
+
+//! Converts a lesson. Losses are added to context.losses. Throws LessonError; then the output is as it was.
+void convertLesson(const LessonFormat &from, const QString &input, const LessonFormat &to, const QString &output,
+                   const LessonContext &context, const Progress &progress);
+
+#endif // CONVERSION_H

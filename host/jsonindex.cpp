@@ -1,0 +1,217 @@
+#include "jsonindex.h"
+
+#include "lessonerror.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+// As deep as Qt's own parser goes, less what stands around an item.
+constexpr int maximumDepth = 1000;
+// Positions in a text that Qt parses are ints.
+constexpr qint64 maximumSize = 1024 * 1024 * 1024;
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+} // namespace
+
+JsonIndex::JsonIndex(const QString &path)
+    : m_path(path)
+    , m_file(path)
+{
+    if (!m_file.open(QIODevice::ReadOnly)) {
+        throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
+                          QStringLiteral("Check that it exists and that you may read it"))
+            .in(path);
+    }
+    m_size = m_file.size();
+    if (m_size > maximumSize) {
+        throw LessonError(QStringLiteral("The file is larger than 1 GiB"),
+                          QStringLiteral("Check that this is a lesson"))
+            .in(path);
+    }
+    if (m_size > 0) {
+        m_data = reinterpret_cast<const char *>(m_file.map(0, m_size));
+        if (!m_data) {
+            throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
+                              QStringLiteral("Check that it is a file on a disk"))
+                .in(path);
+        }
+    }
+    scan();
+}
+
+void JsonIndex::fail(const QString &problem, qint64 position) const
+{
+    const auto line = 1 + std::count(m_data, m_data + qMin(position, m_size), '\n');
+    throw LessonError(problem, QStringLiteral("Check that the file is complete and is a lesson in JSON"))
+        .in(m_path, int(line));
+}
+
+QJsonValue JsonIndex::value(const Range &range) const
+{
+    // In brackets, so that texts and numbers can be parsed like everything else.
+    const QByteArray text = '[' + QByteArray::fromRawData(m_data + range.begin, int(range.end - range.begin)) + ']';
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    if (error.error != QJsonParseError::NoError) {
+        fail(QStringLiteral("This is not JSON: %1").arg(error.errorString()), range.begin + error.offset - 1);
+    }
+    return document.array().at(0);
+}
+
+QByteArray JsonIndex::text(const Range &range) const
+{
+    const qint64 size = range.end - range.begin - 2;
+    if (size < 0 || m_data[range.begin] != '"' || std::memchr(m_data + range.begin + 1, '\\', size_t(size))) {
+        return value(range).toString().toUtf8();
+    }
+    return QByteArray::fromRawData(m_data + range.begin + 1, int(size));
+}
+
+void JsonIndex::scan()
+{
+    if (m_size >= 3 && std::memcmp(m_data, "\xef\xbb\xbf", 3) == 0) {
+        m_at = 3;
+    }
+    bool hasSlides = false;
+    QSet<QString> names;
+    eachMember([this, &hasSlides, &names](const QString &name) {
+        if (names.contains(name)) {
+            fail(QStringLiteral("The lesson has \"%1\" twice").arg(name), m_at);
+        }
+        names.insert(name);
+        if (name == QLatin1String("Slides")) {
+            hasSlides = true;
+            expect('[');
+            while (!comesNext(']')) {
+                if (!slides.isEmpty()) {
+                    expect(',');
+                }
+                slides.append(skipValue());
+            }
+            expect(']');
+        } else if (name == QLatin1String("Resources")) {
+            eachMember([this](const QString &path) { resources.append({path, skipValue()}); });
+        } else {
+            members.append({name, skipValue()});
+        }
+    });
+    skipBlanks();
+    if (m_at != m_size) {
+        fail(QStringLiteral("This is not JSON: there is something behind the end of the lesson"), m_at);
+    }
+    if (!hasSlides) {
+        fail(QStringLiteral("This is no lesson: it has no \"Slides\""), 0);
+    }
+}
+
+template <typename Take> void JsonIndex::eachMember(const Take &take)
+{
+    expect('{');
+    bool isFirst = true;
+    while (!comesNext('}')) {
+        if (!isFirst) {
+            expect(',');
+        }
+        isFirst = false;
+        const QString name = memberName();
+        take(name);
+    }
+    expect('}');
+}
+
+QString JsonIndex::memberName()
+{
+    skipBlanks();
+    const qint64 begin = m_at;
+    skipString();
+    const QString name = value({begin, m_at}).toString();
+    expect(':');
+    return name;
+}
+
+void JsonIndex::skipBlanks()
+{
+    while (m_at < m_size && isBlank(m_data[m_at])) {
+        ++m_at;
+    }
+}
+
+bool JsonIndex::comesNext(char c)
+{
+    skipBlanks();
+    return m_at < m_size && m_data[m_at] == c;
+}
+
+void JsonIndex::expect(char c)
+{
+    if (!comesNext(c)) {
+        fail(m_at >= m_size ? QStringLiteral("This is not JSON: the file ends too early")
+                            : QStringLiteral("This is not JSON: \"%1\" was expected here").arg(QLatin1Char(c)),
+             m_at);
+    }
+    ++m_at;
+}
+
+void JsonIndex::skipString()
+{
+    const qint64 begin = m_at;
+    expect('"');
+    while (m_at < m_size && m_data[m_at] != '"') {
+        m_at += m_data[m_at] == '\\' ? 2 : 1;
+    }
+    if (m_at >= m_size) {
+        fail(QStringLiteral("This is not JSON: a text has no end"), begin);
+    }
+    ++m_at;
+}
+
+JsonIndex::Range JsonIndex::skipValue()
+{
+    skipBlanks();
+    Range range{m_at, m_at};
+    int depth = 0;
+    do {
+        skipBlanks();
+        const char c = m_at < m_size ? m_data[m_at] : '\0';
+        if (c == '"') {
+            skipString();
+        } else if (c == '{' || c == '[') {
+            if (++depth > maximumDepth) {
+                fail(QStringLiteral("Values are nested deeper than %1 levels").arg(maximumDepth), m_at);
+            }
+            ++m_at;
+        } else if ((c == '}' || c == ']') && depth > 0) {
+            --depth;
+            ++m_at;
+        } else if ((c == ',' || c == ':') && depth > 0) {
+            ++m_at;
+        } else {
+            skipLiteral();
+        }
+    } while (depth > 0);
+    range.end = m_at;
+    return range;
+}
+
+void JsonIndex::skipLiteral()
+{
+    const qint64 begin = m_at;
+    while (m_at < m_size && !isBlank(m_data[m_at]) && !std::strchr(",:]}[{\"", m_data[m_at])) {
+        ++m_at;
+    }
+    if (m_at == begin) {
+        fail(m_at >= m_size ? QStringLiteral("This is not JSON: the file ends too early")
+                            : QStringLiteral("This is not JSON: a value was expected here"),
+             m_at);
+    }
+}

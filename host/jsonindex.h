@@ -1,0 +1,56 @@
+#ifndef JSONINDEX_H
+#define JSONINDEX_H
+
+#include <QFile>
+#include <QHash>
+#include <QJsonValue>
+#include <QString>
+#include <QVector>
+
+/*!
+ * Where the parts of a lesson in one JSON file stand: found in one pass over the mapped file, parsed one at a time when
+ * they are asked for. Every function throws LessonError.
+ */
+class JsonIndex
+{
+public:
+    struct Range
+    {
+        qint64 begin = 0;
+        qint64 end = 0;
+    };
+
+    explicit JsonIndex(const QString &path);
+
+    //! The members of the outermost object but those two, in the order of the file.
+    QVector<QPair<QString, Range>> members;
+    //! The elements of "Slides".
+    QVector<Range> slides;
+    //! The members of "Resources".
+    QVector<QPair<QString, Range>> resources;
+
+    QJsonValue value(const Range &range) const;
+    //! The bytes of a text, without a copy where it has no backslash in it.
+    QByteArray text(const Range &range) const;
+
+    [[noreturn]] void fail(const QString &problem, qint64 position) const;
+
+private:
+    void scan();
+    void skipBlanks();
+    void skipString();
+    void skipLiteral();
+    Range skipValue();
+    void expect(char c);
+    bool comesNext(char c);
+    QString memberName();
+    template <typename Take> void eachMember(const Take &take);
+
+    QString m_path;
+    QFile m_file;
+    const char *m_data = nullptr;
+    qint64 m_size = 0;
+    qint64 m_at = 0;
+};
+
+#endif // JSONINDEX_H

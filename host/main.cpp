@@ -1,0 +1,208 @@
+#include "conversion.h"
+#include "lessonerror.h"
+#include "lessoninfo.h"
+#include "lossreport.h"
+#include "packagetarget.h"
+#include "pluginhost.h"
+#include "progressbar.h"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QGuiApplication>
+#include <QJsonDocument>
+#include <QTextStream>
+
+namespace {
+
+enum ExitCode { Done = 0, DoneWithLosses = 1, NotDone = 2 };
+
+void print(const QString &text)
+{
+    QTextStream(stdout) << text;
+}
+
+void complain(const QString &text)
+{
+    QTextStream(stderr) << "lessonconv: " << text << '\n';
+}
+
+// The plug-in logs whole items while it writes.
+void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        complain(text);
+    }
+}
+
+QCommandLineOption option(const char *name, const char *description, const char *value = nullptr)
+{
+    return QCommandLineOption(QLatin1String(name), QLatin1String(description), QLatin1String(value ? value : ""));
+}
+
+const char *const usage = R"(Converts lessons of interactive whiteboards and tells what is in them.
+
+  lessonconv convert INPUT OUTPUT   converts a lesson; the names say the formats
+  lessonconv info INPUT             page size, slides, items, missing files
+  lessonconv formats                the formats and their file names
+
+Examples:
+  lessonconv convert lesson.zqtx lesson.json
+  lessonconv convert lesson.json lesson.zqtx --report losses.json
+  lessonconv info lesson.zqtx
+
+Exit code: 0 done, 1 done with losses and --strict, 2 not done.)";
+
+class Command
+{
+public:
+    Command()
+    {
+        m_parser.setApplicationDescription(QLatin1String(usage));
+        m_parser.addVersionOption();
+        m_parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("convert, info or formats"));
+        m_parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("the lessons"),
+                                       QStringLiteral("[files...]"));
+        m_parser.addOption(
+            QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this text.")));
+        m_parser.addOptions({
+            option("from", "The format of the input, where its name doesn't tell.", "format"),
+            option("to", "The format of the output, where its name doesn't tell.", "format"),
+            option("report", "Write everything that was lost or kept aside into this file, as JSON.", "file"),
+            option("strict", "Treat losses as a failure: exit code 1."),
+            option("no-check", "Don't read back what was written. Faster, but losses stay unnoticed."),
+            option("json", "With info: print JSON."),
+            option("quiet", "No progress bar and no list of losses."),
+            option("verbose", "Print what the libraries log."),
+            option("plugin", "The plug-in's file, where it is in an unusual place.", "file"),
+        });
+    }
+
+    int run(const QStringList &arguments)
+    {
+        if (!m_parser.parse(arguments)) {
+            throw LessonError(m_parser.errorText(), QStringLiteral("See lessonconv --help"));
+        }
+        if (isSet("version")) {
+            m_parser.showVersion();
+        }
+        if (isSet("verbose")) {
+            qInstallMessageHandler(nullptr);
+        }
+        const QStringList words = m_parser.positionalArguments();
+        if (isSet("help") || words.isEmpty()) {
+            print(m_parser.helpText());
+            return words.isEmpty() && !isSet("help") ? NotDone : Done;
+        }
+        const QString command = words.first();
+        const QStringList files = words.mid(1);
+        if (command == QLatin1String("formats") && files.isEmpty()) {
+            return formats();
+        }
+        if (command == QLatin1String("info") && files.size() == 1) {
+            return info(files.first());
+        }
+        if (command == QLatin1String("convert") && files.size() == 2) {
+            return convert(files.first(), files.last());
+        }
+        throw LessonError(
+            QStringLiteral("The command \"%1\" isn't complete or isn't known").arg(words.join(QLatin1Char(' '))),
+            QStringLiteral("See lessonconv --help"));
+    }
+
+private:
+    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
+    QString value(const char *name) const { return m_parser.value(QLatin1String(name)); }
+
+    const LessonFormat &inputFormat(const QString &input) const
+    {
+        return isSet("from") ? lessonFormatByName(value("from")) : lessonFormatOfInput(input);
+    }
+
+    int formats() const
+    {
+        for (const LessonFormat &format : lessonFormats()) {
+            const QString use = format.canRead() && format.canWrite() ? QStringLiteral("read, written")
+                : format.canRead()                                    ? QStringLiteral("read")
+                                                                      : QStringLiteral("written");
+            print(QStringLiteral("%1 %2 %3 %4\n")
+                      .arg(format.name, -8)
+                      .arg(QLatin1Char('.') + format.extensions.join(QLatin1String(" .")), -8)
+                      .arg(use, -14)
+                      .arg(format.description));
+        }
+        return Done;
+    }
+
+    int info(const QString &input) const
+    {
+        const LessonFormat &format = inputFormat(input);
+        const PluginHost host(value("plugin"));
+        LessonContext context;
+        context.plugin = host.plugin();
+        context.verify = false;
+        ProgressBar bar(!isSet("quiet"));
+        const auto reader = format.open(input, context);
+        const LessonInfo info = lessonInfo(*reader, [&bar](int done, int total) { bar.show(done, total); });
+        bar.clear();
+        print(isSet("json") ? QString::fromUtf8(QJsonDocument(info.toJson()).toJson()) : info.toText());
+        return Done;
+    }
+
+    int convert(const QString &input, const QString &output) const
+    {
+        const LessonFormat &from = inputFormat(input);
+        const LessonFormat &to = isSet("to") ? lessonFormatByName(value("to")) : lessonFormatOfOutput(output);
+        const PluginHost host(value("plugin"));
+        LossReport losses;
+        LessonContext context;
+        context.plugin = host.plugin();
+        context.losses = &losses;
+        context.verify = !isSet("no-check");
+        ProgressBar bar(!isSet("quiet"));
+        convertLesson(from, input, to, output, context, [&bar](int done, int total) { bar.show(done, total); });
+        bar.clear();
+        if (isSet("report")) {
+            writeReport(value("report"), losses);
+        }
+        if (!losses.isEmpty() && !isSet("quiet")) {
+            complain(losses.summary());
+        }
+        return isSet("strict") && losses.lossCount() > 0 ? DoneWithLosses : Done;
+    }
+
+    static void writeReport(const QString &path, const LossReport &losses)
+    {
+        PackageTarget target(path);
+        QFile file(target.file());
+        const QByteArray text = QJsonDocument(losses.toJson()).toJson();
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush()) {
+            throw LessonError(QStringLiteral("The report can't be written: %1").arg(file.errorString())).in(path);
+        }
+        target.commitFile();
+    }
+
+    QCommandLineParser m_parser;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(keepQuiet);
+    // The same lesson gives the same bytes, whichever run writes it.
+    qSetGlobalQHashSeed(0);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QGuiApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("lessonconv"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(LESSONCONV_VERSION));
+    try {
+        return Command().run(QCoreApplication::arguments());
+    } catch (const LessonError &error) {
+        complain(error.message());
+    } catch (const std::exception &error) {
+        complain(QStringLiteral("Something unexpected happened: %1").arg(QString::fromLocal8Bit(error.what())));
+    }
+    return NotDone;
+}
