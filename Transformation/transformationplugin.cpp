@@ -107,9 +107,9 @@ QDomDocument TransformationPlugin::tranPresJSON2IWB(QDomDocument document, QJson
     return ZQPresTran().tranJSON2IWBDocument(document, json, {});
 }
 
-QDomElement TransformationPlugin::tranSlideJSON2IWB(QDomDocument &, QJsonObject)
+QDomElement TransformationPlugin::tranSlideJSON2IWB(QDomDocument &document, QJsonObject json)
 {
-    return {};
+    return ZQSlideTran().tranJSON2IWBPage(document, json, {});
 }
 
 QDomElement TransformationPlugin::tranItemJSON2IWB(QDomDocument &document, QJsonObject json)
@@ -130,9 +130,9 @@ QJsonObject TransformationPlugin::tranPresIWB2JSON(QDomElement element, QJsonObj
     return ZQPresTran().tranIWBDocument2JSON(element, json);
 }
 
-QJsonObject TransformationPlugin::tranSlideIWB2JSON(QDomElement, QDomElement, QJsonObject json)
+QJsonObject TransformationPlugin::tranSlideIWB2JSON(QDomElement root, QDomElement page, QJsonObject json)
 {
-    return json;
+    return ZQSlideTran().tranIWBPage2JSON(root, page, json, {});
 }
 
 QJsonObject TransformationPlugin::tranItemIWB2JSON(QDomElement element, QJsonObject json)

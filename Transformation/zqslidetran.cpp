@@ -2,6 +2,7 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "slideactivity.h"
 #include "zqcomitemcontroltran.h"
 
 #include <QDomDocument>
@@ -17,6 +18,18 @@ const PreparedPaths &txPaths()
         childAttribute("effect_type", "effect", "type"),
         childAttribute("effect_time", "effect", "time"),
         childAttribute("effect_direction", "effect", "direction"),
+    };
+    return paths;
+}
+
+// Page colour and picture under the attributes that svg readers know.
+const PreparedPaths &iwbPaths()
+{
+    static const PreparedPaths paths = KeyPaths{
+        attribute("rgb", "fill"),
+        attribute("alp", "fill-opacity"),
+        attribute("href", "xlink:href"),
+        attribute("background-posture"),
     };
     return paths;
 }
@@ -198,11 +211,27 @@ void convertBackColor(QJsonObject &json)
     json.insert(key, (field(1) * 256 + field(2)) * 256 + field(3));
 }
 
+// A tag part with the page effect: an element "type" somewhere in it names it. A part that is no XML says nothing.
+void readPageEffect(const QString &part, QJsonObject &json)
+{
+    QDomDocument document;
+    if (!document.setContent(part, false)) {
+        return;
+    }
+    const QDomElement root = document.documentElement();
+    const QString typeTag = QStringLiteral("type");
+    const QDomElement type = root.tagName() == typeTag ? root : descendantByTag(root, typeTag);
+    if (!type.isNull()) {
+        json.insert(QLatin1String("EffectType"), pageEffectOfRawName(type.attribute(QStringLiteral("value"))));
+    }
+}
+
 } // namespace
 
 ZQSlideTran::ZQSlideTran()
 {
     txPaths().storeIn(txKeyMap);
+    iwbPaths().storeIn(iwbKeyMap);
 }
 
 QJsonObject ZQSlideTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
@@ -240,7 +269,8 @@ QJsonObject ZQSlideTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJ
     if (json.contains(transition)) {
         json.insert(QLatin1String("EffectType"), pageEffectOfTransition(json.value(transition).toString()));
     }
-    return json;
+    json = readSlideAnimations(element, json, context);
+    return readClassActivity(element, json, context);
 }
 
 QDomDocument ZQSlideTran::tranJSON2ZQTXDocument(QDomDocument document, QJsonObject json, QJsonObject context)
@@ -252,6 +282,8 @@ QDomDocument ZQSlideTran::tranJSON2ZQTXDocument(QDomDocument document, QJsonObje
     }
     QDomElement slide = document.documentElement();
     tranJSON2ZQTX(slide, json, context);
+    writeSlideAnimations(slide, json, context);
+    writeClassActivity(slide, json, context);
     return document;
 }
 
@@ -260,16 +292,32 @@ void ZQSlideTran::readTags(QJsonObject &json)
     const QStringList parts = json.value(QLatin1String("SlideTagsInfo")).toString().split(QLatin1String("|$|"));
     for (const QString &part : parts) {
         if (part.contains(QLatin1String("<pageEffect>"))) {
-            QDomDocument document;
-            if (!document.setContent(part, false)) {
-                continue;
-            }
-            const QDomElement root = document.documentElement();
-            const QString typeTag = QStringLiteral("type");
-            const QDomElement type = root.tagName() == typeTag ? root : descendantByTag(root, typeTag);
-            if (!type.isNull()) {
-                json.insert(QLatin1String("EffectType"), pageEffectOfRawName(type.attribute(QStringLiteral("value"))));
-            }
+            readPageEffect(part, json);
         }
+    }
+    for (const QString &part : parts) {
+        if (part.contains(QLatin1String("<interactive>"))) {
+            json.insert(QLatin1String("objAnimationData"), interactiveToJson(part));
+            json.insert(QLatin1String("iszqt"), true);
+            break;
+        }
+    }
+}
+
+QJsonObject ZQSlideTran::readClassActivity(QDomElement element, QJsonObject json, QJsonObject)
+{
+    const QString tag = QStringLiteral("activity");
+    const QDomElement activity = childByTag(element, tag);
+    if (!activity.isNull()) {
+        json.insert(tag, SlideActivity().read(activity));
+    }
+    return json;
+}
+
+void ZQSlideTran::writeClassActivity(QDomElement element, QJsonObject json, QJsonObject)
+{
+    const QJsonValue activity = json.value(QLatin1String("activity"));
+    if (!activity.isUndefined()) {
+        element.appendChild(SlideActivity().write(activity.toObject()));
     }
 }

@@ -65,7 +65,8 @@ void finishInk(QColor color, QJsonObject &json)
 {
     const QLatin1String opacity("Opacity");
     if (json.contains(opacity)) {
-        color.setAlphaF(json.value(opacity).toString().toInt() / 255.0);
+        // Out of range, Qt takes the nearer end, but complains.
+        color.setAlphaF(qBound(0.0, json.value(opacity).toString().toInt() / 255.0, 1.0));
         json.remove(opacity);
     }
     json.insert(QLatin1String("Color"), color.name(QColor::HexArgb));

@@ -1,0 +1,167 @@
+#include "zqslidetran.h"
+
+#include "domhelpers.h"
+#include "numbertext.h"
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+
+// One slide as an svg:page and back. Background colour and picture move with it, its items do not.
+
+namespace {
+
+// The size of a picture in pixels, or nothing for a file that is no picture. Pictures of a usual size are loaded to see
+// that they can be; of huge ones the header is believed, so that a small file can't fill the memory.
+QRect pictureRect(const QString &file)
+{
+    const qint64 largestLoaded = 16 * 1024 * 1024;
+    QImageReader reader(file);
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > largestLoaded) {
+        return {QPoint(), size};
+    }
+    return reader.read().rect();
+}
+
+void setRect(QJsonObject &json, const QRect &rect)
+{
+    json.insert(QLatin1String("x"), QString::number(rect.left()));
+    json.insert(QLatin1String("y"), QString::number(rect.top()));
+    json.insert(QLatin1String("Width"), QString::number(rect.width()));
+    json.insert(QLatin1String("Height"), QString::number(rect.height()));
+}
+
+// The rectangle of a page: the first below an svg:page, or the element itself if it is one.
+QDomElement pageRectangle(const QDomElement &page)
+{
+    const QString rectangle = QStringLiteral("svg:rect");
+    const QString tag = page.nodeName();
+    if (tag == QLatin1String("svg:page")) {
+        return descendantByTag(page, rectangle);
+    }
+    return tag == rectangle ? page : QDomElement();
+}
+
+// The colour name of "rgb(r,g,b)", or the text itself where it is of another form.
+QString backgroundColor(const QString &rgb, const QString &alpha)
+{
+    if (!rgb.contains(QLatin1String("rgb"))) {
+        return rgb;
+    }
+    const QStringList channels = rgb.mid(4, rgb.size() - 5).split(QLatin1Char(','));
+    return QColor(integerPart(channels, 0), integerPart(channels, 1), integerPart(channels, 2), alpha.toInt()).name();
+}
+
+// Whether the first record about the rectangle lets it have a picture.
+bool recordAllowsPicture(const QDomElement &root, const QString &rectangleId)
+{
+    for (QDomElement record = root.firstChildElement(); !record.isNull(); record = record.nextSiblingElement()) {
+        if (record.tagName() == QLatin1String("iwb:element")
+            && record.attribute(QStringLiteral("ref")) == rectangleId) {
+            return record.attribute(QStringLiteral("background")) != QLatin1String("false");
+        }
+    }
+    return false;
+}
+
+QString withoutEnd(const QString &text, int length)
+{
+    return text.left(qMax(0, text.size() - length));
+}
+
+} // namespace
+
+QDomElement ZQSlideTran::tranJSON2IWBPage(QDomDocument &document, QJsonObject json, QJsonObject context)
+{
+    const QString id = json.value(QLatin1String("ID")).toString();
+    const QString rectangleId = id + QLatin1String("_rect");
+    QDomElement page = document.createElement(QStringLiteral("svg:page"));
+    QDomElement rectangle = document.createElement(QStringLiteral("svg:rect"));
+    page.appendChild(rectangle);
+
+    const QColor color(json.value(QLatin1String("BackColor")).toString());
+    QJsonObject rectangleJson{
+        {QStringLiteral("ID"), rectangleId},
+        {QStringLiteral("rgb"), QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue())},
+        {QStringLiteral("alp"), QString::number(color.alphaF(), 'g', 6)},
+    };
+    for (const char *key : {"x", "y", "Width", "Height"}) {
+        rectangleJson.insert(QLatin1String(key), json.value(QLatin1String(key)).toString());
+    }
+    tranJSON2IWB(rectangle, rectangleJson, context);
+    if (!json.value(QLatin1String("AttachFile")).toString().isEmpty()) {
+        QDomElement image = document.createElement(QStringLiteral("svg:image"));
+        page.appendChild(image);
+        tranJSON2IWB(image, exportBackground(json), context);
+    }
+    appendIwbRecord(document, QStringLiteral("iwb:element"),
+                    {{QStringLiteral("ref"), rectangleId}, {QStringLiteral("iwb_background"), QStringLiteral("true")}});
+    const int index = json.value(QLatin1String("index")).toInt();
+    tranJSON2IWB(page, {{QStringLiteral("ID"), QString(QLatin1String("page") + QString::number(index))}}, context);
+    return page;
+}
+
+QJsonObject ZQSlideTran::exportBackground(const QJsonObject &json)
+{
+    const QString directory = json.value(QLatin1String("filePath")).toString();
+    const QString images = directory + QLatin1String("/images");
+    if (!QDir(images).exists()) {
+        QDir().mkdir(images);
+    }
+    const QString id = json.value(QLatin1String("ID")).toString() + QLatin1String("_bgd");
+    const QString name = id + QLatin1String(".png");
+    const QString target = images + QLatin1Char('/') + name;
+    QFile::copy(withoutEnd(directory, 4) + QLatin1String("/filelibrary/")
+                    + json.value(QLatin1String("AttachFile")).toString(),
+                target);
+    QJsonObject image{
+        {QStringLiteral("ID"), id},
+        {QStringLiteral("href"), QString(QLatin1String("images/") + name)},
+        {QStringLiteral("background-posture"), QStringLiteral("stretched-to-fill")},
+    };
+    setRect(image, pictureRect(target));
+    return image;
+}
+
+QJsonObject ZQSlideTran::tranIWBPage2JSON(QDomElement root, QDomElement page, QJsonObject json, QJsonObject context)
+{
+    QDomElement rectangle = pageRectangle(page);
+    rectangle.setAttribute(QStringLiteral("isloaded"), 1);
+    const QJsonObject rectangleJson = tranIWB2JSON(rectangle, json, context);
+    json.insert(QLatin1String("ID"), nextGeneratedId());
+    json.insert(QLatin1String("BackColor"),
+                backgroundColor(rectangleJson.value(QLatin1String("rgb")).toString(),
+                                rectangleJson.value(QLatin1String("alp")).toString()));
+    const QString rectangleId = rectangleJson.value(QLatin1String("ID")).toString();
+    if (recordAllowsPicture(root, rectangleId)) {
+        importBackground(page, rectangleId, json);
+    }
+    json.insert(QLatin1String("EffectType"), QString());
+    return json;
+}
+
+void ZQSlideTran::importBackground(const QDomElement &page, const QString &rectangleId, QJsonObject &json)
+{
+    const QString stem = withoutEnd(rectangleId, 5);
+    const QString tag = QStringLiteral("svg:image");
+    for (QDomElement image = page.firstChildElement(tag); !image.isNull(); image = image.nextSiblingElement(tag)) {
+        if (withoutEnd(image.attribute(QStringLiteral("id")), 4) != stem) {
+            continue;
+        }
+        image.setAttribute(QStringLiteral("isloaded"), 1);
+        const QJsonObject imageJson = tranIWB2JSON(image, {}, {});
+        const QString path = json.value(QLatin1String("path")).toString();
+        const QString source = path + imageJson.value(QLatin1String("href")).toString();
+        QString parent = withoutEnd(path, 1);
+        parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
+        const QString name = nextGeneratedId() + QLatin1String(".png");
+        if (QFile::exists(source)) {
+            QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
+            json.insert(QLatin1String("AttachFile"), name);
+        }
+        return;
+    }
+}
