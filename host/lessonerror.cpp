@@ -28,7 +28,8 @@ QString LessonError::message() const
     if (!m_remedy.isEmpty()) {
         text += QLatin1Char(' ') + m_remedy + QLatin1Char('.');
     }
-    return text;
+    // Names of files may hold line breaks.
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 const char *LessonError::what() const noexcept

@@ -1,5 +1,6 @@
 #include "lossreport.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QMap>
 #include <QStringList>
@@ -68,11 +69,21 @@ QString countedByType(const QVector<Loss> &losses)
 
 QString listed(const QVector<Loss> &losses)
 {
-    QStringList texts;
+    QStringList places;
+    QHash<QString, int> counts;
     for (const Loss &loss : losses) {
-        texts.append(place(loss));
+        const QString text = place(loss);
+        if (++counts[text] == 1) {
+            places.append(text);
+        }
     }
-    return named(texts);
+    for (QString &text : places) {
+        const int count = counts.value(text);
+        if (count > 1) {
+            text += QStringLiteral(" (%1 times)").arg(count);
+        }
+    }
+    return named(places);
 }
 
 // "no IWB form", or "no form here" where the format has no name.

@@ -16,14 +16,25 @@ namespace {
 
 enum ExitCode { Done = 0, DoneWithLosses = 1, NotDone = 2 };
 
+// Names come from files of strangers; what they hold must not move a terminal's cursor.
+QString printable(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control && c != QLatin1Char('\n')) {
+            c = QChar::ReplacementCharacter;
+        }
+    }
+    return text;
+}
+
 void print(const QString &text)
 {
-    QTextStream(stdout) << text;
+    QTextStream(stdout) << printable(text);
 }
 
 void complain(const QString &text)
 {
-    QTextStream(stderr) << "lessonconv: " << text << '\n';
+    QTextStream(stderr) << "lessonconv: " << printable(text) << '\n';
 }
 
 // The plug-in logs whole items while it writes.

@@ -22,6 +22,7 @@ namespace {
 
 const QLatin1String rootTag("presentation");
 const QLatin1String slideTag("slide");
+const QLatin1String groupSons("GroupSonItems");
 const QLatin1String resourceFolder("resources");
 const QLatin1String idKey("ID");
 const QLatin1String netId("NetID");
@@ -191,10 +192,11 @@ private:
         QVector<QDomElement> nested;
         QDomElement sons;
         if (isContainer(element.tagName())) {
-            sons = element.firstChildElement(QStringLiteral("GroupSonItems"));
+            sons = element.firstChildElement(groupSons);
             nested = takeElements(sons, sons.firstChildElement());
         }
-        const QDomElement untouched = element.cloneNode(true).toElement();
+        QDomElement untouched = element.cloneNode(true).toElement();
+        untouched.removeChild(untouched.firstChildElement(groupSons));
         QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
         if (item.isEmpty()) {
             for (const QDomElement &son : qAsConst(nested)) {

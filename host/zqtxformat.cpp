@@ -367,7 +367,7 @@ LessonFormat zqtxFormat()
     format.extensions = QStringList{QStringLiteral("zqtx")};
     format.description =
         QStringLiteral("lesson package: a folder with index.xml and slides/, or the same zipped as .zqtx");
-    format.recognizes = isZqtxFolder;
+    format.recognizes = [](const QString &path) { return QFileInfo(path + QLatin1Char('/') + indexFile).isFile(); };
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<ZqtxReader>(path, context);
     };
