@@ -66,7 +66,7 @@ private:
     }
 
 private slots:
-    void packagesComeBack_data() { addExamples({QStringLiteral("index.xml"), QStringLiteral("*.zqtx")}, "<presentation"); }
+    void packagesComeBack_data() { addExamples({QStringLiteral("index.xml"), QStringLiteral("*.zqtx")}, {}); }
 
     void packagesComeBack()
     {
