@@ -63,7 +63,7 @@ struct IwbForm
     const char *type;
     const char *tag;
     const char *directory;
-    bool replacesFile; //!< the copy is attempted even if the target is there
+    bool replacesFile; //!< attempts the copy even if the target is there, which a plain copy then leaves alone
 };
 
 const IwbForm iwbForms[] = {
@@ -85,13 +85,19 @@ const IwbForm *iwbFormOf(const QString &type)
 
 const QLatin1String fileKey("MultiMediaFile");
 
+// Qt warns about other names, and nothing may be printed.
+bool isFileName(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar::Null);
+}
+
 void copyToPackage(const QString &source, const QString &directory, const QString &name, bool replacesFile)
 {
     if (!QDir(directory).exists()) {
         QDir().mkdir(directory);
     }
     const QString target = directory + name;
-    if (replacesFile || !QFile::exists(target)) {
+    if (isFileName(source) && isFileName(target) && (replacesFile || !QFile::exists(target))) {
         QFile::copy(source, target);
     }
 }
@@ -119,7 +125,7 @@ void importFile(const QString &file, const QString &path, QJsonObject &json)
     parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
     const QString name = QFileInfo(file).fileName();
     const QString source = path + file;
-    if (QFile::exists(source)) {
+    if (!path.isEmpty() && isFileName(source) && QFile::exists(source)) {
         QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
     }
     json.insert(fileKey, name);
@@ -189,8 +195,11 @@ QDomElement ZQMediaItemTran::tranJSON2IWB(QDomElement element, QJsonObject json,
     const QString file = json.value(fileKey).toString();
     const QString name = file.mid(file.lastIndexOf(QLatin1Char('/')) + 1);
     const QLatin1String directory(form->directory);
-    copyToPackage(source, json.value(QLatin1String("tmpFilePath")).toString() + QLatin1Char('/') + directory, name,
-                  form->replacesFile);
+    const QString package = json.value(QLatin1String("tmpFilePath")).toString();
+    // Without a package, "/images/" would be a directory of the machine.
+    if (isFileName(package)) {
+        copyToPackage(source, package + QLatin1Char('/') + directory, name, form->replacesFile);
+    }
     json.insert(fileKey, QString(directory + name));
     return ZQComItemControlTran::tranJSON2IWB(newElement(QLatin1String(form->tag)), json, context);
 }

@@ -114,8 +114,11 @@ QDomElement ZQTextBoxTran::tranJSON2IWB(QDomElement, QJsonObject json, QJsonObje
     auto *list = reinterpret_cast<IwbTextInfoList *>(addressFromText(json.value(listKey)));
     if (json.contains(QLatin1String("BoundingBox"))) {
         if (const auto box = boxFromText(json.value(QLatin1String("BoundingBox")).toString())) {
-            const auto matrix = matrixFromText(json.value(QLatin1String("Matrix")).toString());
-            writeTurnedBox(area, *box, matrix.value_or(QMatrix()));
+            const QJsonValue matrixText = json.value(QLatin1String("Matrix"));
+            const auto matrix = matrixText.isUndefined() ? QMatrix() : matrixFromText(matrixText.toString());
+            if (matrix) {
+                writeTurnedBox(area, *box, *matrix);
+            }
             writeTextInfo(area, list && !list->isEmpty() ? list->first() : IwbTextInfo(), json, false);
         }
     }
