@@ -58,3 +58,27 @@ QString toText(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
+
+QJsonObject attributesOf(const QDomElement &element)
+{
+    QJsonObject object;
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        object.insert(attributes.item(i).nodeName(), attributes.item(i).nodeValue());
+    }
+    return object;
+}
+
+QString differences(const QJsonObject &actual, const QJsonObject &expected)
+{
+    const auto written = [](const QJsonValue &value) { return toText(QJsonObject{{QString(), value}}); };
+    QString lines;
+    for (auto it = expected.constBegin(); it != expected.constEnd(); ++it) {
+        const QJsonValue value = actual.value(it.key());
+        if (it->isNull() ? !value.isUndefined() : value != *it) {
+            lines += it.key() + QLatin1String(" is ") + written(value) + QLatin1String(", not ") + written(*it)
+                + QLatin1Char('\n');
+        }
+    }
+    return lines;
+}

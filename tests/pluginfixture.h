@@ -25,4 +25,10 @@ QJsonObject json(const char *text);
 //! The object as compact text, members in ascending order.
 QString toText(const QJsonObject &object);
 
+//! The attributes of an element as text members.
+QJsonObject attributesOf(const QDomElement &element);
+
+//! What of expected isn't so in actual, a line a member; a null stands for a member that must be missing.
+QString differences(const QJsonObject &actual, const QJsonObject &expected);
+
 #endif // PLUGINFIXTURE_H
