@@ -48,6 +48,7 @@ PluginHost::PluginHost(const QString &path)
 QStringList PluginHost::usualPlaces()
 {
     const QString beside = QCoreApplication::applicationDirPath();
-    return {QDir::cleanPath(beside + QLatin1String("/../lib")), QStringLiteral(INSTALLED_PLUGIN_FOLDER),
-            beside + QLatin1String("/zqtransformation")};
+    return {QDir::cleanPath(beside + QLatin1String("/../lib")),
+            QDir::cleanPath(beside + QLatin1String("/../" PLUGIN_FOLDER_BELOW_PREFIX)),
+            QStringLiteral(INSTALLED_PLUGIN_FOLDER), beside + QLatin1String("/zqtransformation")};
 }

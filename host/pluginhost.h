@@ -18,7 +18,8 @@ public:
     IZQTransformation *plugin() const { return m_plugin; }
     QString fileName() const { return m_loader.fileName(); }
 
-    //! Where the plug-in is looked for: beside the build's command, then in the folder of the installation.
+    //! Where the plug-in is looked for: beside the build's command, then in the folder of the
+    //! installation, wherever that was moved to as a whole.
     static QStringList usualPlaces();
 
 private:

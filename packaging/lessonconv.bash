@@ -1,0 +1,27 @@
+# Completion of lessonconv for bash.
+_lessonconv()
+{
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} command= i
+    for ((i = 1; i < COMP_CWORD; i++)); do
+        case ${COMP_WORDS[i]} in
+            convert | info | formats) command=${COMP_WORDS[i]}; break ;;
+        esac
+    done
+    case $before in
+        --from | --to)
+            mapfile -t COMPREPLY < <(compgen -W "$(lessonconv formats 2>/dev/null | cut -d' ' -f1)" -- "$word")
+            return ;;
+    esac
+    local options="--help --version --plugin --from --quiet --json"
+    case $command in
+        "") options="convert info formats --help --version" ;;
+        convert) options+=" --to --report --strict --no-check" ;;
+    esac
+    if [[ -z $command || $word == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+    else
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+    fi
+}
+complete -F _lessonconv lessonconv
