@@ -110,29 +110,38 @@ QJsonObject PreparedPaths::storedIn(QJsonObject map) const
     return map;
 }
 
-FamilyVocabulary::FamilyVocabulary(const TypeVocabulary &common, std::initializer_list<TypeVocabulary> lines)
-    : m_common{common.xml, common.tx, common.iwb}
+FamilyVocabulary::Line::Line(const TypeVocabulary &rows)
+    : xml(rows.xml)
+    , tx(rows.tx)
+    , iwb(rows.iwb)
 {
+}
+
+FamilyVocabulary::FamilyVocabulary(const TypeVocabulary &common, std::initializer_list<TypeVocabulary> lines)
+{
+    m_table.append(Line(common));
     for (const TypeVocabulary &line : lines) {
-        const KeyPaths xml = {common.xml, line.xml};
-        const KeyPaths tx = {common.tx, line.tx};
-        const KeyPaths iwb = {common.iwb, line.iwb};
         for (const char *type : line.types) {
-            m_lines.insert(text(type), m_maps.size());
+            m_lines.insert(text(type), m_table.size());
             m_types.append(text(type));
         }
-        m_maps.append({xml, tx, iwb});
+        m_table.append(Line({{}, {common.xml, line.xml}, {common.tx, line.tx}, {common.iwb, line.iwb}}));
     }
 }
 
 void FamilyVocabulary::storeIn(const QString &type, QJsonObject &xmlKeyMap, QJsonObject &txKeyMap,
                                QJsonObject &iwbKeyMap) const
 {
-    const int line = m_lines.value(type, -1);
-    const Maps &maps = line < 0 ? m_common : m_maps.at(line);
-    maps.xml.storeIn(xmlKeyMap);
-    maps.tx.storeIn(txKeyMap);
-    maps.iwb.storeIn(iwbKeyMap);
+    const Line &line = m_table.at(m_lines.value(type, 0));
+    if (!line.isReady) {
+        line.xmlKeyMap = line.xml.storedIn(xmlKeyMap);
+        line.txKeyMap = line.tx.storedIn(txKeyMap);
+        line.iwbKeyMap = line.iwb.storedIn(iwbKeyMap);
+        line.isReady = true;
+    }
+    xmlKeyMap = line.xmlKeyMap;
+    txKeyMap = line.txKeyMap;
+    iwbKeyMap = line.iwbKeyMap;
 }
 
 TypePairs::TypePairs(std::initializer_list<Pair> pairs)

@@ -108,20 +108,28 @@ public:
     //! The types in the order of the lines.
     const QStringList &types() const { return m_types; }
 
-    //! Stores the common rows and then the rows of the type's line, if there is one.
+    //! Stores the common rows and then the rows of the type's line, if there is one. The constructors before this one
+    //! leave the same maps each time, so what comes out is the same for each translator of a type: it is worked out for
+    //! the first and given to all.
     void storeIn(const QString &type, QJsonObject &xmlKeyMap, QJsonObject &txKeyMap, QJsonObject &iwbKeyMap) const;
 
 private:
-    struct Maps
+    struct Line
     {
+        Line() = default;
+        explicit Line(const TypeVocabulary &rows);
+
         PreparedPaths xml;
         PreparedPaths tx;
         PreparedPaths iwb;
+        mutable bool isReady = false;
+        mutable QJsonObject xmlKeyMap;
+        mutable QJsonObject txKeyMap;
+        mutable QJsonObject iwbKeyMap;
     };
 
-    Maps m_common; //!< for a type that no line names
-    QVector<Maps> m_maps; //!< common rows and line rows in one, a line each
-    QHash<QString, int> m_lines; //!< type to index of m_maps
+    QVector<Line> m_table; //!< the common rows for a type that no line names, then common and line rows, a line each
+    QHash<QString, int> m_lines; //!< type to index of m_table
     QStringList m_types;
 };
 

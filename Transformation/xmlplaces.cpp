@@ -60,8 +60,7 @@ std::optional<QString> TxPlaces::text(const QJsonArray &path)
     case 1:
         return attributeText(m_element, first);
     case 2:
-        return attributeText(first == propertiesTag ? descendantByTag(m_element, first)
-                                                    : childByTagAndContent(m_element, first, false),
+        return attributeText(first == propertiesTag ? descendantByTag(m_element, first) : child(first, false),
                              path.at(1).toString());
     case 3:
         return first == propertiesTag ? propertyText(path.at(2).toString()) : innerText(first, path);
@@ -81,21 +80,21 @@ std::optional<QString> TxPlaces::propertyText(const QString &name)
 
 std::optional<QString> TxPlaces::innerText(const QString &tag, const QJsonArray &path)
 {
-    const QDomElement child = childWithContent(tag);
-    if (child.isNull()) {
+    const QDomElement holder = child(tag, true);
+    if (holder.isNull()) {
         return std::nullopt;
     }
-    return attributeText(descendantByTag(child, path.at(1).toString()), path.at(2).toString());
+    return attributeText(descendantByTag(holder, path.at(1).toString()), path.at(2).toString());
 }
 
-QDomElement TxPlaces::childWithContent(const QString &tag)
+QDomElement TxPlaces::child(const QString &tag, bool withContent)
 {
     for (const Child &child : qAsConst(m_children)) {
-        if (child.tag == tag) {
+        if (child.hasContent == withContent && child.tag == tag) {
             return child.element;
         }
     }
-    m_children.append({tag, childByTagAndContent(m_element, tag, true)});
+    m_children.append({tag, withContent, childByTagAndContent(m_element, tag, withContent)});
     return m_children.last().element;
 }
 

@@ -54,12 +54,13 @@ private:
     struct Child
     {
         QString tag;
+        bool hasContent;
         QDomElement element;
     };
 
     std::optional<QString> propertyText(const QString &name);
     std::optional<QString> innerText(const QString &tag, const QJsonArray &path);
-    QDomElement childWithContent(const QString &tag);
+    QDomElement child(const QString &tag, bool withContent);
     void findRows();
 
     QDomElement m_element;

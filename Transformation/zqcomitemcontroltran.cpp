@@ -45,12 +45,14 @@ const KeyPaths &txPaths()
 // A raw bound has at least six numbers: right, bottom, two more, left, top. The item's box is left, top, right, bottom.
 void reorderBound(QJsonObject &json)
 {
-    const QStringList parts = json.value(QLatin1String("BoundingBox")).toString().split(QLatin1Char(','));
+    const QString bound = json.value(QLatin1String("BoundingBox")).toString();
+    const QLatin1Char comma(',');
+    const QVector<QStringRef> parts = bound.splitRef(comma);
     if (parts.size() < 6) {
         return;
     }
     json.insert(QLatin1String("BoundingBox"),
-                QStringList{parts.at(4), parts.at(5), parts.at(0), parts.at(1)}.join(QLatin1Char(',')));
+                QString(parts.at(4) + comma + parts.at(5) + comma + parts.at(0) + comma + parts.at(1)));
 }
 
 void normalizeFlag(QJsonObject &json, QLatin1String key)

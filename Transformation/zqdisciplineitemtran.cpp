@@ -179,10 +179,11 @@ void ZQDisciplineItemTran::readRawColors(const QDomElement &element, QJsonObject
 
 void ZQDisciplineItemTran::readTxColors(QJsonObject &json) const
 {
-    for (const QString &key : colorKeys) {
-        const QJsonValue color = json.value(key);
-        if (!color.isUndefined()) {
-            json.insert(key, colorOfText(color.toString(), true));
+    // An item has few keys and fewer colours, so its keys are asked and not each colour key in turn.
+    for (auto it = json.begin(); it != json.end(); ++it) {
+        const QString key = it.key();
+        if (key.contains(QLatin1String("Color")) && colorKeys.contains(key)) {
+            *it = colorOfText(it->toString(), true);
         }
     }
 }
