@@ -1,9 +1,72 @@
 #include "domhelpers.h"
 
+#include <QXmlDefaultHandler>
+
+namespace {
+
+// Reading, printing and releasing a DOM takes stack for each level.
+const int deepestNesting = 1000;
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
+// Stops the reader at the first element that lies too deep.
+class NestingCheck : public QXmlDefaultHandler
+{
+public:
+    bool startElement(const QString &, const QString &, const QString &, const QXmlAttributes &) override
+    {
+        m_tooDeep = ++m_depth > deepestNesting;
+        return !m_tooDeep;
+    }
+
+    bool endElement(const QString &, const QString &, const QString &) override
+    {
+        --m_depth;
+        return true;
+    }
+
+    bool isTooDeep() const { return m_tooDeep; }
+
+private:
+    int m_depth = 0;
+    bool m_tooDeep = false;
+};
+
+// The deprecated reader is the one that fills the DOM: only it sees the elements that the DOM will see.
+bool isNestedTooDeep(const QString &xml)
+{
+    if (xml.count(QLatin1Char('<')) <= deepestNesting) {
+        return false;
+    }
+    NestingCheck check;
+    QXmlInputSource source;
+    source.setData(xml);
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&check);
+    reader.parse(source);
+    return check.isTooDeep();
+}
+
+QT_WARNING_POP
+
+} // namespace
+
 QDomElement elementFromXml(const QString &xml)
 {
     QDomDocument document;
-    document.setContent(xml, false);
+    if (!isNestedTooDeep(xml)) {
+        document.setContent(xml, false);
+    }
+    return document.documentElement();
+}
+
+QDomElement elementFromWellFormedXml(const QString &xml)
+{
+    QDomDocument document;
+    if (isNestedTooDeep(xml) || !document.setContent(xml, false)) {
+        return {};
+    }
     return document.documentElement();
 }
 
