@@ -146,6 +146,9 @@ QJsonObject ZQHTran::tranIWB2JSON(QDomElement element, QJsonObject json, QJsonOb
 void ZQHTran::appendIwbRecord(QDomDocument &document, const QString &tag, const QJsonObject &record)
 {
     QDomElement iwb = document.firstChildElement(QStringLiteral("iwb"));
+    if (iwb.isNull()) {
+        return;
+    }
     QDomElement element = document.createElement(tag);
     element.setAttribute(QStringLiteral("ref"), record.value(QLatin1String("ref")).toString());
     if (record.contains(QLatin1String("iwb_locked"))) {

@@ -214,11 +214,7 @@ void convertBackColor(QJsonObject &json)
 // A tag part with the page effect: an element "type" somewhere in it names it. A part that is no XML says nothing.
 void readPageEffect(const QString &part, QJsonObject &json)
 {
-    QDomDocument document;
-    if (!document.setContent(part, false)) {
-        return;
-    }
-    const QDomElement root = document.documentElement();
+    const QDomElement root = elementFromWellFormedXml(part);
     const QString typeTag = QStringLiteral("type");
     const QDomElement type = root.tagName() == typeTag ? root : descendantByTag(root, typeTag);
     if (!type.isNull()) {
@@ -317,7 +313,7 @@ QJsonObject ZQSlideTran::readClassActivity(QDomElement element, QJsonObject json
 void ZQSlideTran::writeClassActivity(QDomElement element, QJsonObject json, QJsonObject)
 {
     const QJsonValue activity = json.value(QLatin1String("activity"));
-    if (!activity.isUndefined()) {
+    if (!element.isNull() && !activity.isUndefined()) {
         element.appendChild(SlideActivity().write(activity.toObject()));
     }
 }

@@ -4,7 +4,6 @@
 #include "zqhtran.h"
 
 #include <QDomDocument>
-#include <QMap>
 
 /*!
  * One slide: background, page effect, tags, notebook paper, the list of animated items and the classroom activity. Its
@@ -43,7 +42,6 @@ private:
     //! The interaction script of a raw slide as indented JSON text: numbered triggers, each with numbered actions. The
     //! script is cut at its triggers, each of which is parsed alone.
     static QString interactiveToJson(const QString &text);
-    static QString numberedTriggers(QMap<QString, QJsonObject> triggers);
 
     // The classroom activity, see SlideActivity.
     static QJsonObject readClassActivity(QDomElement element, QJsonObject json, QJsonObject context);

@@ -5,6 +5,9 @@
 #include <QHash>
 #include <QJsonDocument>
 #include <QMap>
+#include <QVector>
+
+#include <algorithm>
 
 // What plays on a slide: the list of animated items, and the interaction script of a raw slide.
 
@@ -73,6 +76,23 @@ void readSettings(const QDomElement &action, QJsonObject &json)
     }
 }
 
+// The objects under the names PREFIX0, PREFIX1, ... They are inserted in the order in which an object keeps its
+// members, as text, so that none has to make room for a later one.
+QJsonObject numbered(QLatin1String prefix, const QVector<QJsonObject> &objects)
+{
+    QVector<QPair<QString, int>> names;
+    names.reserve(objects.size());
+    for (int i = 0; i < objects.size(); ++i) {
+        names.append({prefix + QString::number(i), i});
+    }
+    std::sort(names.begin(), names.end());
+    QJsonObject members;
+    for (const auto &name : qAsConst(names)) {
+        members.insert(name.first, objects.at(name.second));
+    }
+    return members;
+}
+
 } // namespace
 
 QJsonObject ZQSlideTran::readSlideAnimations(QDomElement element, QJsonObject json, QJsonObject)
@@ -92,7 +112,7 @@ QJsonObject ZQSlideTran::readSlideAnimations(QDomElement element, QJsonObject js
 void ZQSlideTran::writeSlideAnimations(QDomElement element, QJsonObject json, QJsonObject)
 {
     const QJsonValue value = json.value(QLatin1String("animations"));
-    if (value.isUndefined()) {
+    if (element.isNull() || value.isUndefined()) {
         return;
     }
     QDomElement animations = newElement(QStringLiteral("animations"));
@@ -108,7 +128,9 @@ void ZQSlideTran::writeSlideAnimations(QDomElement element, QJsonObject json, QJ
 QString ZQSlideTran::interactiveToJson(const QString &text)
 {
     const QLatin1String start("<activeItem");
-    QMap<QString, QJsonObject> triggers;
+    const QString slide = QStringLiteral("slide");
+    // The actions by the item that triggers them, in the order in which the triggers are numbered.
+    QMap<QString, QVector<QJsonObject>> triggers;
     const QStringList parts = text.split(start);
     for (int i = 1; i < parts.size(); ++i) {
         QString part = start + parts.at(i);
@@ -119,10 +141,9 @@ QString ZQSlideTran::interactiveToJson(const QString &text)
         const QDomElement trigger = elementFromXml(part);
         QString item = trigger.attribute(valueAttribute);
         if (item.isEmpty() || item == QLatin1String("0")) {
-            item = QStringLiteral("slide");
+            item = slide;
         }
-        QJsonObject &actions = triggers[QLatin1String("activeItem==") + item];
-        int number = actions.size();
+        QVector<QJsonObject> &actions = triggers[item];
         for (QDomElement action = trigger.firstChildElement(); !action.isNull(); action = action.nextSiblingElement()) {
             QJsonObject json{
                 {QStringLiteral("valid"), true},
@@ -132,27 +153,19 @@ QString ZQSlideTran::interactiveToJson(const QString &text)
                 {QStringLiteral("loopState"), action.attribute(QStringLiteral("loopState"), QStringLiteral("0"))},
             };
             readSettings(action, json);
-            actions.insert(QLatin1String("animation_NO==") + QString::number(number), json);
-            ++number;
+            actions.append(json);
         }
     }
-    return numberedTriggers(triggers);
-}
 
-QString ZQSlideTran::numberedTriggers(QMap<QString, QJsonObject> triggers)
-{
-    QJsonObject table;
-    int number = 0;
-    const auto store = [&table, &number](const QJsonObject &actions) {
-        table.insert(QLatin1String("src_NO==") + QString::number(number), actions);
-        ++number;
+    QVector<QJsonObject> rows;
+    const auto addRow = [&rows](const QVector<QJsonObject> &actions) {
+        rows.append(numbered(QLatin1String("animation_NO=="), actions));
     };
-    const QString slideKey = QStringLiteral("activeItem==slide");
-    if (triggers.contains(slideKey)) {
-        store(triggers.take(slideKey));
+    if (triggers.contains(slide)) {
+        addRow(triggers.take(slide));
     }
-    for (const QJsonObject &actions : qAsConst(triggers)) {
-        store(actions);
+    for (const QVector<QJsonObject> &actions : qAsConst(triggers)) {
+        addRow(actions);
     }
-    return QString::fromUtf8(QJsonDocument(table).toJson());
+    return QString::fromUtf8(QJsonDocument(numbered(QLatin1String("src_NO=="), rows)).toJson());
 }

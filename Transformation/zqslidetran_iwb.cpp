@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 
@@ -13,13 +14,20 @@
 
 namespace {
 
-// The size of a picture in pixels, or nothing for a file that is no picture. Pictures of a usual size are loaded to see
-// that they can be; of huge ones the header is believed, so that a small file can't fill the memory.
+// The size of a picture in pixels, or nothing for a file that is no picture. A QImage measures the same as a QPixmap,
+// and can be made in a host without a QGuiApplication. Pictures of a usual size are loaded to see that they can be; of
+// huge ones the header is believed, so that a small file can't fill the memory.
 QRect pictureRect(const QString &file)
 {
     const qint64 largestLoaded = 16 * 1024 * 1024;
+    if (!QFileInfo(file).isFile()) {
+        return {0, 0, 0, 0};
+    }
     QImageReader reader(file);
     const QSize size = reader.size();
+    if (size.isEmpty()) {
+        return {0, 0, 0, 0};
+    }
     if (qint64(size.width()) * size.height() > largestLoaded) {
         return {QPoint(), size};
     }
@@ -72,6 +80,32 @@ QString withoutEnd(const QString &text, int length)
     return text.left(qMax(0, text.size() - length));
 }
 
+// Copies a regular file. Directories, pipes and the like stay where they are.
+void copyFile(const QString &source, const QString &target)
+{
+    if (QFileInfo(source).isFile()) {
+        QFile::copy(source, target);
+    }
+}
+
+// The first image of the page whose id and the rectangle's have the same beginning before "_bgd" and "_rect". An id
+// that is shorter than such an ending has no beginning.
+QDomElement pictureOfRectangle(const QDomElement &page, const QString &rectangleId)
+{
+    const int length = rectangleId.size() - 5;
+    if (length < 0) {
+        return {};
+    }
+    const QString tag = QStringLiteral("svg:image");
+    for (QDomElement image = page.firstChildElement(tag); !image.isNull(); image = image.nextSiblingElement(tag)) {
+        const QString id = image.attribute(QStringLiteral("id"));
+        if (id.size() - 4 == length && id.leftRef(length) == rectangleId.leftRef(length)) {
+            return image;
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 QDomElement ZQSlideTran::tranJSON2IWBPage(QDomDocument &document, QJsonObject json, QJsonObject context)
@@ -108,15 +142,18 @@ QJsonObject ZQSlideTran::exportBackground(const QJsonObject &json)
 {
     const QString directory = json.value(QLatin1String("filePath")).toString();
     const QString images = directory + QLatin1String("/images");
-    if (!QDir(images).exists()) {
-        QDir().mkdir(images);
-    }
     const QString id = json.value(QLatin1String("ID")).toString() + QLatin1String("_bgd");
     const QString name = id + QLatin1String(".png");
     const QString target = images + QLatin1Char('/') + name;
-    QFile::copy(withoutEnd(directory, 4) + QLatin1String("/filelibrary/")
-                    + json.value(QLatin1String("AttachFile")).toString(),
-                target);
+    // Without a directory there is nothing to export into, and an ID with a separator would lead out of it.
+    if (!directory.isEmpty() && !name.contains(QLatin1Char('/'))) {
+        if (!QDir(images).exists()) {
+            QDir().mkdir(images);
+        }
+        copyFile(withoutEnd(directory, 4) + QLatin1String("/filelibrary/")
+                     + json.value(QLatin1String("AttachFile")).toString(),
+                 target);
+    }
     QJsonObject image{
         {QStringLiteral("ID"), id},
         {QStringLiteral("href"), QString(QLatin1String("images/") + name)},
@@ -145,23 +182,21 @@ QJsonObject ZQSlideTran::tranIWBPage2JSON(QDomElement root, QDomElement page, QJ
 
 void ZQSlideTran::importBackground(const QDomElement &page, const QString &rectangleId, QJsonObject &json)
 {
-    const QString stem = withoutEnd(rectangleId, 5);
-    const QString tag = QStringLiteral("svg:image");
-    for (QDomElement image = page.firstChildElement(tag); !image.isNull(); image = image.nextSiblingElement(tag)) {
-        if (withoutEnd(image.attribute(QStringLiteral("id")), 4) != stem) {
-            continue;
-        }
-        image.setAttribute(QStringLiteral("isloaded"), 1);
-        const QJsonObject imageJson = tranIWB2JSON(image, {}, {});
-        const QString path = json.value(QLatin1String("path")).toString();
-        const QString source = path + imageJson.value(QLatin1String("href")).toString();
-        QString parent = withoutEnd(path, 1);
-        parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
-        const QString name = nextGeneratedId() + QLatin1String(".png");
-        if (QFile::exists(source)) {
-            QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
-            json.insert(QLatin1String("AttachFile"), name);
-        }
+    QDomElement image = pictureOfRectangle(page, rectangleId);
+    if (image.isNull()) {
         return;
     }
+    image.setAttribute(QStringLiteral("isloaded"), 1);
+    const QJsonObject imageJson = tranIWB2JSON(image, {}, {});
+    const QString path = json.value(QLatin1String("path")).toString();
+    const QString source = path + imageJson.value(QLatin1String("href")).toString();
+    // Without a directory there is no package to take the picture from.
+    if (path.isEmpty() || !QFileInfo(source).isFile()) {
+        return;
+    }
+    QString parent = withoutEnd(path, 1);
+    parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
+    const QString name = nextGeneratedId() + QLatin1String(".png");
+    QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
+    json.insert(QLatin1String("AttachFile"), name);
 }
