@@ -1,8 +1,8 @@
 #include "pluginfixture.h"
 
 #include <QJsonDocument>
+#include <QMap>
 #include <QPluginLoader>
-#include <QTextStream>
 #include <QVector>
 
 QObject *pluginObject()
@@ -38,10 +38,23 @@ QDomElement xml(const QString &text)
 
 QString toText(const QDomElement &element)
 {
-    QString text;
-    QTextStream stream(&text);
-    element.save(stream, -1);
-    return text;
+    QMap<QString, QString> attributes;
+    for (int i = 0; i < element.attributes().count(); ++i) {
+        const QDomAttr attribute = element.attributes().item(i).toAttr();
+        attributes.insert(attribute.name(), attribute.value());
+    }
+    QString text = QLatin1Char('<') + element.tagName();
+    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
+        text += QStringLiteral(" %1=\"%2\"").arg(it.key(), it.value());
+    }
+    if (!element.hasChildNodes()) {
+        return text + QStringLiteral("/>");
+    }
+    text += QLatin1Char('>');
+    for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        text += node.isElement() ? toText(node.toElement()) : node.nodeValue();
+    }
+    return text + QStringLiteral("</%1>").arg(element.tagName());
 }
 
 QJsonObject json(const char *text)

@@ -16,7 +16,7 @@ IZQTransformation *plugin();
 //! The document element of xml, in a document that lives to the end of the test.
 QDomElement xml(const QString &text);
 
-//! The element as text without indentation.
+//! The element as text without indentation, its attributes in ascending order.
 QString toText(const QDomElement &element);
 
 //! The object of a JSON text, in which ' stands for ".

@@ -159,6 +159,27 @@ private slots:
         QCOMPARE(toText(triggers), toText(expected));
     }
 
+    void survivesLongAndDeepScripts()
+    {
+        const auto triggers = [](const QString &script) {
+            QDomElement slide = xml(QStringLiteral("<slide/>"));
+            slide.setAttribute(QStringLiteral("SlideTagsInfo"), QString(QLatin1String("<interactive>") + script));
+            const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
+            return QJsonDocument::fromJson(read.value(QLatin1String("objAnimationData")).toString().toUtf8()).object();
+        };
+        const QJsonObject actions =
+            triggers(QLatin1String("<activeItem>") + QStringLiteral("<a value='1'/>").repeated(20000))
+                .value(QLatin1String("src_NO==0"))
+                .toObject();
+        QCOMPARE(actions.size(), 20000);
+        // Members stand in the order of their texts.
+        QCOMPARE(actions.keys().mid(0, 4).last(), QStringLiteral("animation_NO==100"));
+        QVERIFY(actions.contains(QLatin1String("animation_NO==19999")));
+        // Too deep for a DOM: a trigger of the slide without actions.
+        QCOMPARE(toText(triggers(QLatin1String("<activeItem>") + QStringLiteral("<a>").repeated(200000))),
+                 QStringLiteral("{\"src_NO==0\":{}}"));
+    }
+
     void writesSlides()
     {
         const QDomElement slide =

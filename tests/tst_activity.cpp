@@ -1,0 +1,264 @@
+#include "pluginfixture.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QStandardPaths>
+#include <QtTest>
+
+namespace {
+
+// "DATA" in a text stands for the application's data directory.
+QString withData(const char *text)
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return QString::fromLatin1(text).replace(QLatin1String("DATA"), data);
+}
+
+QJsonObject readActivity(const QString &activity)
+{
+    const QDomElement slide = xml(QStringLiteral("<slide>%1</slide>").arg(activity));
+    return plugin()->tranSlideZQTX2JSON(slide, {}).value(QLatin1String("activity")).toObject();
+}
+
+// The activity that is written, in a document that lives to the end of the test.
+QDomElement writtenActivity(const QJsonObject &activity)
+{
+    static QVector<QDomDocument> documents;
+    documents.append(plugin()->tranSlideJSON2ZQTX({}, {{QStringLiteral("activity"), activity}}));
+    return documents.last().documentElement().firstChildElement(QStringLiteral("activity"));
+}
+
+} // namespace
+
+/*!
+ * Classroom activities of slides: attributes, pictures below two directories, and the forms of their entries.
+ */
+class TestActivity : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void init() { QDir::setSearchPaths(QStringLiteral("imageDir"), {QStringLiteral("/i/"), QStringLiteral("/j/")}); }
+
+    void keepsTheAttributes()
+    {
+        const QString text =
+            QStringLiteral("<activity type='T' audio='' time='5' hotoffset='1' gametime='9' title=''/>");
+        QJsonObject read = readActivity(text);
+        read.remove(QLatin1String("templet"));
+        const QJsonObject expected =
+            json("{'type':'T','audio':'','countdown':'5','hotoffset':'1','time':'9','matchs':[],'unmatchs':[]}");
+        QCOMPARE(toText(read), toText(expected));
+
+        QDomElement written = writtenActivity(read);
+        QCOMPARE(written.lastChildElement().tagName(), QStringLiteral("unmatchs"));
+        while (written.hasChildNodes()) {
+            written.removeChild(written.firstChild());
+        }
+        QCOMPARE(toText(written),
+                 toText(xml(QStringLiteral("<activity type='T' audio='' time='5' hotoffset='1' gametime='9'/>"))));
+    }
+
+    void readsPictures_data()
+    {
+        QTest::addColumn<QString>("templet");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("expected");
+
+        const auto row = [](const char *templet, const char *key, const char *expected) {
+            QTest::addRow("%s of %s", key, templet) << QString::fromLatin1(templet) << QString::fromLatin1(key)
+                                                    << (expected ? withData(expected) : QString());
+        };
+        row("index='2'><background pic='a'/>", "background", "/i/Canvas/a");
+        row("index='3'><background pic='a'/>", "background", "DATA/a");
+        row("index='3'><background pic='x/ActivityInfo/ActivityInfo/a'/>", "background", "DATA/ClassActivity/a");
+        row("index='2'><background pic='ActivityInfo/a'/>", "background", "/i/Canvas/ActivityInfo/a");
+        row(">", "background", "/i/Canvas/");
+        row("index='3'>", "background", "DATA/");
+        row("index='3'>", "backgroundx2", "DATA");
+        row("index='3'><backgroundx2 pic='/ActivityInfo/a'/>", "backgroundx2", "DATA/ActivityInfo/a");
+        row("index='3'><right pic='a'/>", "right", "DATAa");
+        row("index='x'><stop_disable pic='a'/>", "stop_disable", "/i/Canvas/a");
+        row("index='3'>", "right", nullptr);
+        row("index='3'><answer_font_color answer_font_color='#1' pic='x'/>", "answer_font_color", "#1");
+        row("index='3'><unknown pic='a'/>", "unknown", nullptr);
+        row("index='3'><container path='/x/ActivityInfo/a'/>", "container/path", "DATA/ClassActivity/a");
+        row("index='3'><container path='ActivityInfo/a'/>", "container/path", "DATAActivityInfo/a");
+        row("index='2'><container hotpath='/ActivityInfo/a'/>", "container/hotpath", "/i/Canvas//ActivityInfo/a");
+        row("index='2'><container/>", "container/path", "/i/Canvas/");
+        row("index='2'><container/>", "container/process_bar_back", nullptr);
+        row("index='2'><material process_bar_rate='a'/>", "material/process_bar_rate", "/i/Canvas/a");
+        row("index='2'><material/>", "material/font_align", "");
+        row("index='2'><material hotoffset='1'/>", "material/hotoffset", nullptr);
+        row("index='2'>", "container/font_align", nullptr);
+    }
+    void readsPictures()
+    {
+        QFETCH(QString, templet);
+        QFETCH(QString, key);
+        QFETCH(QString, expected);
+        const QJsonObject activity =
+            readActivity(QStringLiteral("<activity><templet %1</templet></activity>").arg(templet));
+        QJsonValue value = activity.value(QLatin1String("templet"));
+        const QStringList keys = key.split(QLatin1Char('/'));
+        for (const QString &step : keys) {
+            value = value.toObject().value(step);
+        }
+        QCOMPARE(value.isUndefined(), expected.isNull());
+        QCOMPARE(value.toString(), expected);
+    }
+
+    void readsPicturesWithoutSearchPath()
+    {
+        QDir::setSearchPaths(QStringLiteral("imageDir"), {});
+        const QJsonObject activity =
+            readActivity(QStringLiteral("<activity><templet><board pic='a'/></templet></activity>"));
+        QCOMPARE(toText(activity.value(QLatin1String("templet")).toObject()),
+                 toText(json("{'index':'','background':'','backgroundx2':'','board':'a'}")));
+    }
+
+    void writesPictures_data()
+    {
+        QTest::addColumn<QString>("activity");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("expected");
+
+        const auto row = [](const char *activity, const char *path, const char *expected) {
+            QTest::addRow("%s of %s", path, activity) << withData(activity) << QString::fromLatin1(path)
+                                                      << (expected ? QString::fromLatin1(expected) : QString());
+        };
+        row("'templet':{'index':'3','background':'DATA/ClassActivity/a'}", "background@pic", "/ClassActivity/a");
+        row("'templet':{'background':'/x/ActivityInfo/y/ActivityInfo/a'}", "background@pic",
+            "ActivityInfo/y/ActivityInfo/a");
+        row("'templet':{'background':'DATA/ActivityInfo/DATA/a'}", "background@pic", "/a");
+        row("'templet':{'background':'/x/a'},'background':'b'", "background@pic", "/x/a");
+        row("'templet':{'index':'3'},'background':'/x/ActivityInfo/a'", "background@pic", "/ClassActivity/a");
+        row("'templet':{'index':'2'},'background':'/x/ActivityInfo/a'", "background@pic", "ActivityInfo/a");
+        row("'type':'x'", "background@pic", "");
+        row("'templet':{'right':'DATA'}", "right@pic", nullptr);
+        row("'templet':{'own':'DATA/a'}", "own@pic", "/a");
+        row("'templet':{'answer_font_color':'#1'}", "answer_font_color@answer_font_color", "#1");
+        row("'templet':{'answer_font_color':''}", "answer_font_color@answer_font_color", nullptr);
+        row("'templet':{'container':{'path':'DATA/a','hotoffset':'2'}}", "container@path", "/a");
+        row("'templet':{'container':{'path':'DATA/a','hotoffset':'2'}}", "container@hotoffset", "2");
+        row("'templet':{'container':{'process_bar_back':'DATA'}}", "container@process_bar_back", nullptr);
+        row("'templet':{'material':{'font_align':'l','path2':'/ActivityInfo/a'}}", "material@path2", "ActivityInfo/a");
+        row("'templet':{'material':{'path2':'a'}}", "material@path2", nullptr);
+    }
+    void writesPictures()
+    {
+        QFETCH(QString, activity);
+        QFETCH(QString, path);
+        QFETCH(QString, expected);
+        const QByteArray text = QStringLiteral("{%1}").arg(activity).toLatin1();
+        const QDomElement templet = writtenActivity(json(text.constData())).firstChildElement();
+        const QDomElement element = templet.firstChildElement(path.section(QLatin1Char('@'), 0, 0));
+        const QString attribute = path.section(QLatin1Char('@'), 1);
+        QCOMPARE(element.hasAttribute(attribute), !expected.isNull());
+        QCOMPARE(element.attribute(attribute), expected);
+    }
+
+    void writesTheTemplateInOrder()
+    {
+        const QDomElement templet =
+            writtenActivity(json("{'templet':{'symbol_less':'','board':'','background':'','name':'','type':'',"
+                                 "'material':{'font_align':'l'},'not a name?':'','zoom':''}}"))
+                .firstChildElement();
+        QStringList tags;
+        for (QDomElement child = templet.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            tags.append(child.tagName());
+        }
+        // A key that is no name makes no element.
+        QCOMPARE(tags.join(QLatin1Char(' ')), QStringLiteral("background board symbol_less zoom container material"));
+    }
+
+    void convertsEntries_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("read");
+        QTest::addColumn<QJsonObject>("entries");
+        QTest::addColumn<QString>("written");
+
+        const auto row = [](const char *type, const char *read, const char *entries, const char *written) {
+            QTest::addRow("%s: %s", type, read) << QString::fromLatin1(type) << QString::fromLatin1(read)
+                                                << json(entries) << QString::fromLatin1(written);
+        };
+        const char *const emptyMatch = "<match><container id='' txt=''/><materials/><answers/></match>";
+        row("Judgment", "<match><question question='q'/><answer answer='a'/></match>",
+            "{'matchs':[{'question':'q','answer':'a'}]}",
+            "<match><question question='q'/><answer answer='a'/></match>");
+        row("Judgment", "<match/>", "{'matchs':[{'question':'','answer':''}]}",
+            "<match><question question=''/><answer answer=''/></match>");
+        row("JudgmentTest", "<x/>", "{'matchs':[{'container':{'id':'','txt':''},'materials':[],'answers':[]}]}",
+            emptyMatch);
+        row("NumberComparison",
+            "<x><condition id='1' condition='c' symbol='s'/><condition id='2' symbol='s'/><symbol id='3'/></x>",
+            "{'matchs':[[{'id':'1','condition':'c'},{'id':'2','symbol':'s'},{'id':'3'}]]}",
+            "<match><condition id='1' condition='c'/><symbol id='2' symbol='s'/></match>");
+        row("PronunciationTest", "<match><text text='t'/></match><match/>", "{'matchs':['t','']}",
+            "<match><text text='t'/></match><match><text text=''/></match>");
+        row("PronunciationGame", "<match><text text='t'/></match>", "{'matchs':['t']}", emptyMatch);
+        row("ComparisonPronunciationTest", "<match><x id='1'/></match>", "{'matchs':[[{'id':'1'}]]}",
+            "<match><text text=''/></match>");
+        row("Group",
+            "<match><container id='1' txt='c'/><materials><material id='2' txt='m' juxtaposedColor='#f'/></materials>"
+            "<answers><container id='3'><answer value='v'/><answer "
+            "value='w'/></container><container/></answers></match>",
+            "{'matchs':[{'container':{'id':'1','txt':'c'},'materials':[{'id':'2','txt':'m','juxtaposedColor':'#f'}],"
+            "'answers':[{'3':['v','w']},{'':[]}]}]}",
+            "<match><container id='1' txt='c'/><materials><material id='2' txt='m' juxtaposedColor='#f'/></materials>"
+            "<answers><container id='3'><answer value='v'/><answer value='w'/></container><container id=''/></answers>"
+            "</match>");
+    }
+    void convertsEntries()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, read);
+        QFETCH(QJsonObject, entries);
+        QFETCH(QString, written);
+        const QJsonObject activity =
+            readActivity(QStringLiteral("<activity type='%1'><matchs>%2</matchs></activity>").arg(type, read));
+        const QString matchs = QStringLiteral("matchs");
+        QCOMPARE(toText(QJsonObject{{matchs, activity.value(matchs)}}), toText(entries));
+        QCOMPARE(toText(writtenActivity(activity).firstChildElement(matchs)),
+                 toText(xml(QStringLiteral("<matchs>%1</matchs>").arg(written))));
+    }
+
+    void convertsWhatMatchesNothing()
+    {
+        const QString unmatchs = QStringLiteral("unmatchs");
+        const QString text = QStringLiteral("<unmatchs><match><container id='1' txt='c'/><materials><material id='2' "
+                                            "txt='m'%1/></materials></match></unmatchs>");
+        const QJsonObject activity = readActivity(QStringLiteral("<activity type='Judgment'>%1</activity>")
+                                                      .arg(text.arg(QStringLiteral(" juxtaposedColor='#f'"))));
+        QCOMPARE(toText(QJsonObject{{unmatchs, activity.value(unmatchs)}}),
+                 toText(json("{'unmatchs':[{'container':{'id':'1','txt':'c'},'materials':[{'id':'2','txt':'m'}]}]}")));
+        QCOMPARE(toText(writtenActivity(activity).lastChildElement()), toText(xml(text.arg(QString()))));
+    }
+
+    void writesAGroupWithoutKeys()
+    {
+        const QDomElement answers = writtenActivity(json("{'matchs':[{'answers':[{}]}]}"))
+                                        .firstChildElement(QStringLiteral("matchs"))
+                                        .firstChildElement()
+                                        .lastChildElement();
+        QCOMPARE(toText(answers), QStringLiteral("<answers><container id=\"\"/></answers>"));
+    }
+
+    void leavesSlidesWithoutActivityAlone()
+    {
+        QVERIFY(!plugin()->tranSlideZQTX2JSON(xml(QStringLiteral("<slide/>")), {}).contains(QLatin1String("activity")));
+        QDomDocument slide;
+        slide.setContent(QStringLiteral("<slide><activity id='old'/></slide>"));
+        plugin()->tranSlideJSON2ZQTX(slide, json("{}"));
+        QCOMPARE(toText(slide.documentElement()), QStringLiteral("<slide><activity id=\"old\"/></slide>"));
+        plugin()->tranSlideJSON2ZQTX(slide, json("{'activity':{}}"));
+        QCOMPARE(slide.documentElement().childNodes().count(), 2);
+        QVERIFY(slide.documentElement().firstChildElement().hasAttribute(QStringLiteral("id")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestActivity)
+#include "tst_activity.moc"
