@@ -265,7 +265,8 @@ private:
         if (points.size() < 3) {
             return;
         }
-        const QPointF origin(double(float(points.at(2).x())), double(float(points.at(2).y())));
+        const auto single = [](double value) { return qAbs(value) < 1e-9 ? 0 : double(float(value)); };
+        const QPointF origin(single(points.at(2).x()), single(points.at(2).y()));
         set(matrixKey,
             QLatin1String("1,0,0,1,") + QString::number(origin.x(), 'g', 17) + QLatin1Char(',')
                 + QString::number(origin.y(), 'g', 17));
@@ -367,7 +368,7 @@ std::optional<QRectF> drawnExtent(const QDomElement &element)
         const QPointF center(number(element, "cx"), number(element, "cy"));
         return QRectF(center - radii, center + radii);
     }
-    if (tag == QLatin1String("svg:line")) {
+    if (tag == QLatin1String("svg:line") && element.hasAttribute(QStringLiteral("x1"))) {
         return QRectF(QPointF(number(element, "x1"), number(element, "y1")),
                       QPointF(number(element, "x2"), number(element, "y2")))
             .normalized();
@@ -375,7 +376,8 @@ std::optional<QRectF> drawnExtent(const QDomElement &element)
     if (element.hasAttribute(QStringLiteral("points"))) {
         return extentOf(pointsOf(svgNumbers(element.attribute(QStringLiteral("points")))));
     }
-    if (element.hasAttribute(QStringLiteral("width"))) {
+    if (tag != QLatin1String("svg:line") && tag != QLatin1String("svg:polyline")
+        && element.hasAttribute(QStringLiteral("width"))) {
         return QRectF(number(element, "x"), number(element, "y"), number(element, "width"), number(element, "height"));
     }
     return std::nullopt;

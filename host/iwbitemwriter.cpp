@@ -155,16 +155,19 @@ void setBox(QDomElement &element, const QRectF &box)
     setNumber(element, "height", box.height());
 }
 
-// A turn as svg tells it, in degrees. The numbers have blanks between them: with commas they would be in radians.
-void setTurn(QDomElement &element, double angle, const QPointF &center)
+// A turn as svg tells it, in degrees, about the very centre of what is written: another would move the element when it
+// is read. The numbers have blanks between them: with commas they would be in radians.
+void setTurn(QDomElement &element, double angle)
 {
     const double degrees = std::remainder(angle * 180 / M_PI, 360);
     if (qAbs(degrees) < 1e-4) {
         element.removeAttribute(QStringLiteral("transform"));
         return;
     }
-    element.setAttribute(QStringLiteral("transform"),
-                         QStringLiteral("rotate(%1 %2 %3)").arg(degrees).arg(center.x()).arg(center.y()));
+    const QPointF center = drawnExtent(element).value_or(QRectF()).center();
+    element.setAttribute(
+        QStringLiteral("transform"),
+        QStringLiteral("rotate(%1 %2 %3)").arg(degrees).arg(exactText(center.x()), exactText(center.y())));
 }
 
 // The item's own element, within a link around it.
@@ -174,6 +177,19 @@ QDomElement innermost(QDomElement element)
         element = element.firstChildElement();
     }
     return element;
+}
+
+// False for a shape that svg readers would see nothing of.
+bool isDrawn(const QDomElement &element)
+{
+    const QString tag = element.tagName();
+    if (tag == QLatin1String("svg:line") || tag == QLatin1String("svg:polyline")) {
+        return drawnExtent(element).has_value();
+    }
+    const bool hasArea =
+        tag == QLatin1String("svg:rect") || tag == QLatin1String("svg:circle") || tag == QLatin1String("svg:ellipse");
+    const QRectF extent = drawnExtent(element).value_or(QRectF());
+    return !hasArea || (extent.width() > 0 && extent.height() > 0);
 }
 
 // Points of a stroke: the first pair is a place, each further one a step.
@@ -246,15 +262,10 @@ void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
             shape.setAttribute(QStringLiteral("stroke-linecap"), QStringLiteral("round"));
         }
     }
-    const auto extent = drawnExtent(shape);
-    if (extent) {
-        const bool isRectangle = placed.form->outline == ShapeForm::Rectangle;
-        const QRectF box = isRectangle ? placed.box.value_or(*extent) : *extent;
-        setBox(shape, box);
-        setTurn(shape, placed.angle, box.center());
-    } else {
-        report(item, Loss::Note, {}, QStringLiteral("it has too few points to be drawn"));
-    }
+    const QRectF extent = drawnExtent(shape).value_or(QRectF());
+    const QRectF box = placed.form->outline == ShapeForm::Rectangle ? placed.box.value_or(extent) : extent;
+    setBox(shape, box);
+    setTurn(shape, placed.angle);
     reportUncarried(item, carriedByShapes, &form);
     append(item, element);
 }
@@ -325,7 +336,7 @@ void IwbItemWriter::writeText(const QJsonObject &item)
     }
     if (place) {
         setBox(area, place->box);
-        setTurn(area, place->angle, place->box.center());
+        setTurn(area, place->angle);
     }
     reportUncarried(item, carriedByText);
     append(item, element);
@@ -367,7 +378,7 @@ void IwbItemWriter::writeMedia(const QJsonObject &item)
     }
     if (place) {
         setBox(media, place->box);
-        setTurn(media, place->angle, place->box.center());
+        setTurn(media, place->angle);
     }
     if (media.tagName() == QLatin1String("svg:image")) {
         media.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
@@ -438,21 +449,22 @@ QString IwbItemWriter::linkedFile(const QJsonObject &item, const QString &refere
     return path;
 }
 
-// Null, and named in the report, for an item that the plug-in gives no element of its own for.
+// Null, and named in the report, for an item that the plug-in gives no element of its own for, or one without geometry.
 QDomElement IwbItemWriter::convert(const QJsonObject &item, const QJsonObject &prepared)
 {
     QDomElement root = m_document.documentElement();
     const QDomNode lastRecord = root.lastChild();
     const QDomElement element = m_setting.plugin->tranItemJSON2IWB(m_document, prepared);
     const bool isEmptyLink = prepared.contains(linkTypeKey) && element.firstChildElement().isNull();
-    if (!element.isNull() && !isEmptyLink) {
+    const bool hasForm = !element.isNull() && !isEmptyLink;
+    if (hasForm && isDrawn(innermost(element))) {
         return element;
     }
     // A link around nothing would come back as a sound.
-    if (isEmptyLink && root.lastChild() != lastRecord) {
+    if (root.lastChild() != lastRecord) {
         root.removeChild(root.lastChild());
     }
-    report(item, Loss::Item, {}, {});
+    report(item, Loss::Item, {}, hasForm ? QStringLiteral("it has too few points to be drawn") : QString());
     return {};
 }
 

@@ -12,6 +12,7 @@ const QVector<LessonFormat> &lessonFormats()
         jsonFormat(),
         zqtxFormat(),
         rawXmlFormat(),
+        iwbFormat(),
     };
     return formats;
 }

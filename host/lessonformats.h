@@ -7,5 +7,6 @@
 LessonFormat jsonFormat();
 LessonFormat zqtxFormat();
 LessonFormat rawXmlFormat();
+LessonFormat iwbFormat();
 
 #endif // LESSONFORMATS_H

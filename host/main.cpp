@@ -59,6 +59,7 @@ const char *const usage = R"(Converts lessons of interactive whiteboards and tel
 Examples:
   lessonconv convert lesson.zqtx lesson.json
   lessonconv convert lesson.json lesson.zqtx --report losses.json
+  lessonconv convert lesson.zqtx lesson.iwb
   lessonconv info lesson.zqtx
 
 Exit code: 0 done, 1 done with losses and --strict, 2 not done.)";
@@ -81,6 +82,7 @@ public:
             option("report", "Write everything that was lost or kept aside into this file, as JSON.", "file"),
             option("strict", "Treat losses as a failure: exit code 1."),
             option("no-check", "Don't read back what was written. Faster, but losses stay unnoticed."),
+            option("ink", "What becomes of handwriting in IWB: polyline (the default) or drop.", "choice"),
             option("json", "With info: print JSON."),
             option("quiet", "No progress bar and no list of losses."),
             option("verbose", "Print what the libraries log."),
@@ -129,6 +131,16 @@ private:
         return isSet("from") ? lessonFormatByName(value("from")) : lessonFormatOfInput(input);
     }
 
+    QString inkChoice() const
+    {
+        const QString choice = isSet("ink") ? value("ink") : QStringLiteral("polyline");
+        if (choice != QLatin1String("polyline") && choice != QLatin1String("drop")) {
+            throw LessonError(QStringLiteral("Ink can't be treated as \"%1\"").arg(choice),
+                              QStringLiteral("Say --ink polyline or --ink drop"));
+        }
+        return choice;
+    }
+
     int formats() const
     {
         for (const LessonFormat &format : lessonFormats()) {
@@ -169,6 +181,7 @@ private:
         context.plugin = host.plugin();
         context.losses = &losses;
         context.verify = !isSet("no-check");
+        context.options.insert(QStringLiteral("ink"), inkChoice());
         ProgressBar bar(!isSet("quiet"));
         convertLesson(from, input, to, output, context, [&bar](int done, int total) { bar.show(done, total); });
         bar.clear();

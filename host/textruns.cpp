@@ -209,8 +209,8 @@ QString listMarker(const QTextBlock &block)
     if (!list) {
         return {};
     }
-    const QString number = list->itemText(block);
-    return (number.isEmpty() ? QString(QChar(0x2022)) : number) + QLatin1Char(' ');
+    const bool isNumbered = list->format().style() <= QTextListFormat::ListDecimal;
+    return (isNumbered ? list->itemText(block) : QString(QChar(0x2022))) + QLatin1Char(' ');
 }
 
 TextRuns runsOf(const QTextDocument &document)
@@ -223,12 +223,12 @@ TextRuns runsOf(const QTextDocument &document)
         QString marker = listMarker(block);
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            format = runOf(fragment.charFormat(), alignment);
             QString text = withoutControlCharacters(fragment.text(), &result.droppedCharacters);
             const int before = text.size();
             text.remove(QChar::ObjectReplacementCharacter);
             result.droppedPictures += before - text.size();
             if (!text.isEmpty()) {
+                format = runOf(fragment.charFormat(), alignment);
                 appendPiece(pieces, format, marker + text);
                 marker.clear();
             }
@@ -276,29 +276,35 @@ QString styleOf(const IwbTextInfo &run)
 struct Paragraph
 {
     QString align;
-    QString spans;
-    bool isEmpty = true;
+    QString firstStyle;
+    QString spans; // empty for a paragraph without text
 };
 
 void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &text)
 {
+    const QString style = styleOf(run);
     if (paragraph.align.isEmpty()) {
         paragraph.align = run.textAlign;
+        paragraph.firstStyle = style;
     }
-    QString escaped = text.toHtmlEscaped();
-    escaped.replace(QChar(0x2028), QLatin1String("<br/>"));
-    paragraph.isEmpty = paragraph.isEmpty && text.isEmpty();
-    paragraph.spans +=
-        QLatin1String("<span style=\"") + styleOf(run) + QLatin1String("\">") + escaped + QLatin1String("</span>");
+    if (!text.isEmpty()) {
+        QString escaped = text.toHtmlEscaped();
+        escaped.replace(QChar::LineSeparator, QLatin1String("<br/>"));
+        paragraph.spans +=
+            QLatin1String("<span style=\"") + style + QLatin1String("\">") + escaped + QLatin1String("</span>");
+    }
 }
 
-// A paragraph without text needs a line break within, and the mark that text documents know it by.
+// A paragraph without text needs a line break within, the mark that text documents know it by, and its font.
 QString paragraphHtml(const Paragraph &paragraph)
 {
-    return QLatin1String("<p align=\"") + htmlAlignment(paragraph.align)
-        + QLatin1String("\" style=\"margin:0px; white-space:pre-wrap;")
-        + (paragraph.isEmpty ? QLatin1String(" -qt-paragraph-type:empty;\"><br/>") : QLatin1String("\">"))
-        + (paragraph.isEmpty ? QString() : paragraph.spans) + QLatin1String("</p>");
+    const QString start = QLatin1String("<p align=\"") + htmlAlignment(paragraph.align)
+        + QLatin1String("\" style=\"margin:0px; white-space:pre-wrap;");
+    if (paragraph.spans.isEmpty()) {
+        return start + QLatin1String(" -qt-paragraph-type:empty; ") + paragraph.firstStyle
+            + QLatin1String("\"><br/></p>");
+    }
+    return start + QLatin1String("\">") + paragraph.spans + QLatin1String("</p>");
 }
 
 QSet<void *> &lentLists()
@@ -346,8 +352,9 @@ QString htmlFromTextRuns(const IwbTextInfoList &runs)
             if (i > 0) {
                 paragraphs.append(Paragraph());
             }
-            // The rest behind a last newline belongs to the next run, which may be formatted otherwise.
-            if (i == 0 || !parts.at(i).isEmpty()) {
+            // What follows on a last newline belongs to the next run, which may be formatted otherwise.
+            const bool isRest = i > 0 && i + 1 == parts.size() && parts.at(i).isEmpty() && &run != &runs.constLast();
+            if (!isRest) {
                 appendSpan(paragraphs.last(), run, parts.at(i));
             }
         }

@@ -1,0 +1,22 @@
+#include "lessonformats.h"
+
+#include "iwbpackage.h"
+#include "iwbreader.h"
+#include "iwbwriter.h"
+
+LessonFormat iwbFormat()
+{
+    LessonFormat format;
+    format.name = QStringLiteral("iwb");
+    format.extensions = QStringList{QStringLiteral("iwb")};
+    format.description =
+        QStringLiteral("interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb");
+    format.recognizes = isIwbFolder;
+    format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
+        return std::make_unique<IwbReader>(path, context);
+    };
+    format.create = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonWriter> {
+        return std::make_unique<IwbWriter>(path, context);
+    };
+    return format;
+}

@@ -1,0 +1,46 @@
+#ifndef IWBREADER_H
+#define IWBREADER_H
+
+#include "iwbitemreader.h"
+#include "iwbpackage.h"
+#include "lesson.h"
+#include "lossreport.h"
+#include "svgnormalizer.h"
+
+#include <QSet>
+
+/*!
+ * Reads an IWB package into the lesson model.
+ */
+class IwbReader : public LessonReader
+{
+public:
+    IwbReader(const QString &path, const LessonContext &context);
+
+    QJsonObject presentation() override;
+    int slideCount() override { return m_content.pageCount(); }
+    LessonSlide slide(int index) override;
+    QStringList resources() override { return m_package.resources(); }
+    QString resourceFile(const QString &relativePath) override { return m_package.file(relativePath); }
+
+private:
+    QJsonObject readProperties(IwbPage &page);
+    QString backgroundPicture(const IwbPage &page);
+    QJsonObject readItem(IwbElement item, QSet<QString> &usedIds);
+    QString mediaFile(const IwbElement &item);
+    void readLink(const IwbElement &item, QJsonObject &json);
+    QString pictureProblem(const QString &resource) const;
+    void report(Loss::Kind kind, const QString &type, const QString &id, const QString &key, const QString &detail);
+    void reportRemark(const SvgRemark &remark);
+
+    LessonContext m_context;
+    IwbPackage m_package;
+    SvgNormalizer m_content;
+    IwbItemReader m_items;
+    QHash<QString, int> m_pageNumbers;
+    QSet<int> m_reportedSlides;
+    int m_slide = 0; // counted from 1, 0 where nothing is to be reported again
+    bool m_isReporting = true;
+};
+
+#endif // IWBREADER_H

@@ -1,0 +1,440 @@
+#include "conversion.h"
+#include "lessonerror.h"
+#include "lessonformats.h"
+#include "lossreport.h"
+#include "pluginfixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+
+namespace {
+
+QDomDocument load(const QString &file)
+{
+    QFile opened(file);
+    QDomDocument document;
+    QString error;
+    if (!opened.open(QIODevice::ReadOnly) || !document.setContent(opened.readAll(), false, &error)) {
+        qFatal("%s: %s", qPrintable(file), qPrintable(error));
+    }
+    return document;
+}
+
+QDomElement byId(const QDomElement &root, const QString &id)
+{
+    for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QDomElement found = child.attribute(QStringLiteral("id")) == id ? child : byId(child, id);
+        if (!found.isNull()) {
+            return found;
+        }
+    }
+    return {};
+}
+
+QVector<double> numbers(QString text)
+{
+    QVector<double> values;
+    const QStringList parts = text.replace(QLatin1Char(' '), QLatin1Char(',')).split(QLatin1Char(','));
+    for (const QString &part : parts) {
+        values.append(part.toDouble());
+    }
+    return values;
+}
+
+// What a svg element covers before its transform, measured from the attributes that svg readers draw it from.
+QRectF measured(const QDomElement &element)
+{
+    const auto value = [&element](const char *name) { return element.attribute(QLatin1String(name)).toDouble(); };
+    const QString tag = element.tagName();
+    if (tag == QLatin1String("svg:line")) {
+        return QRectF(QPointF(value("x1"), value("y1")), QPointF(value("x2"), value("y2"))).normalized();
+    }
+    if (tag == QLatin1String("svg:circle")) {
+        return QRectF(value("cx") - value("r"), value("cy") - value("r"), 2 * value("r"), 2 * value("r"));
+    }
+    if (tag == QLatin1String("svg:ellipse")) {
+        return QRectF(value("cx") - value("rx"), value("cy") - value("ry"), 2 * value("rx"), 2 * value("ry"));
+    }
+    if (tag == QLatin1String("svg:polyline")) {
+        const QVector<double> n = numbers(element.attribute(QStringLiteral("points")));
+        QPolygonF points;
+        for (int i = 0; i + 1 < n.size(); i += 2) {
+            points.append(QPointF(n.at(i), n.at(i + 1)));
+        }
+        return points.boundingRect();
+    }
+    return QRectF(value("x"), value("y"), value("width"), value("height"));
+}
+
+void write(const QString &file, const QByteArray &content)
+{
+    QDir().mkpath(QFileInfo(file).path());
+    QFile opened(file);
+    if (!opened.open(QIODevice::WriteOnly) || opened.write(content) != content.size()) {
+        qFatal("can't write %s", qPrintable(file));
+    }
+}
+
+void convert(const QString &from, const QString &to, const char *format, LossReport *losses = nullptr,
+             const QHash<QString, QString> &options = {})
+{
+    LessonContext context;
+    context.plugin = plugin();
+    LossReport unread;
+    context.losses = losses ? losses : &unread;
+    context.options = options;
+    try {
+        convertLesson(lessonFormatOfInput(from), from, lessonFormatByName(QLatin1String(format)), to, context,
+                      [](int, int) {});
+    } catch (const LessonError &error) {
+        qFatal("%s", qPrintable(error.message()));
+    }
+}
+
+// A page's svg without the identifiers that every reading makes anew.
+QString content(const QString &package)
+{
+    QFile file(package + QLatin1String("/content.xml"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("no content in %s", qPrintable(package));
+    }
+    QString text = QString::fromUtf8(file.readAll());
+    text.replace(QRegularExpression(QStringLiteral("\"(images/)?[^\"/]*_(rect|bgd)(\\.png)?\"")),
+                 QStringLiteral("\"background\""));
+    return text;
+}
+
+QByteArray picture()
+{
+    QImage image(4, 3, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, "png");
+    return bytes;
+}
+
+QByteArray foreignPage(const QByteArray &items)
+{
+    return "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xmlns:svg='http://www.w3.org/2000/svg' "
+           "xmlns:xlink='http://www.w3.org/1999/xlink'><svg:svg viewBox='0 0 800 600'><svg:page id='p'>"
+        + items + "</svg:page></svg:svg></iwb>";
+}
+
+QStringList details(const LossReport &losses)
+{
+    QStringList texts;
+    for (const Loss &loss : losses.entries()) {
+        texts.append(loss.itemType + QLatin1Char(' ') + loss.key + QLatin1String(": ") + loss.detail);
+    }
+    return texts;
+}
+
+} // namespace
+
+/*!
+ * Lessons on their way to IWB packages and back, through the plug-in.
+ */
+class TestIwbPackages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void itemsFillTheirBoxes()
+    {
+        QTemporaryDir work;
+        const QString example = QStringLiteral(EXAMPLES_DIR "/geometry");
+        const QString package = work.filePath(QStringLiteral("out"));
+        convert(example, package, "iwb");
+        const QDomElement written = load(package + QLatin1String("/content.xml")).documentElement();
+        int count = 0;
+        for (const char *slide : {"figures", "triangles"}) {
+            const QDomElement items =
+                load(example + QLatin1String("/slides/") + QLatin1String(slide) + QLatin1String(".xml"))
+                    .documentElement()
+                    .firstChildElement(QStringLiteral("items"));
+            for (QDomElement item = items.firstChildElement(); !item.isNull(); item = item.nextSiblingElement()) {
+                const QString id = item.attribute(QStringLiteral("id"));
+                const QVector<double> box = numbers(item.firstChildElement(QStringLiteral("data"))
+                                                        .firstChildElement(QStringLiteral("rect"))
+                                                        .attribute(QStringLiteral("points")));
+                if (item.tagName() == QLatin1String("group") || item.tagName() == QLatin1String("stroke")) {
+                    continue; // it comes as what it holds; its points are its own
+                }
+                const QDomElement element = byId(written, id);
+                QVERIFY2(!element.isNull(), qPrintable(id));
+                const QRectF found = measured(element);
+                const QString where = QStringLiteral("%1: %2,%3,%4,%5")
+                                          .arg(id)
+                                          .arg(found.left())
+                                          .arg(found.top())
+                                          .arg(found.right())
+                                          .arg(found.bottom());
+                QVERIFY2(qAbs(found.left() - box.at(0)) < 1 && qAbs(found.top() - box.at(1)) < 1
+                             && qAbs(found.right() - box.at(2)) < 1 && qAbs(found.bottom() - box.at(3)) < 1,
+                         qPrintable(where));
+                const double angle = item.firstChildElement(QStringLiteral("transform"))
+                                         .firstChildElement(QStringLiteral("rotate"))
+                                         .attribute(QStringLiteral("angle"))
+                                         .toDouble();
+                const QVector<double> turn =
+                    numbers(element.attribute(QStringLiteral("transform"))
+                                .mid(7)
+                                .chopped(element.hasAttribute(QStringLiteral("transform")) ? 1 : 0));
+                QVERIFY2(qAbs(turn.at(0) - angle * 180 / M_PI) < 1e-3, qPrintable(id));
+                QVERIFY2(
+                    angle == 0
+                        || (qAbs(turn.at(1) - found.center().x()) < 1 && qAbs(turn.at(2) - found.center().y()) < 1),
+                    qPrintable(id));
+                ++count;
+            }
+        }
+        QCOMPARE(count, 20 + 6);
+    }
+
+    void nothingDrifts_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::newRow("every shape, text and picture") << QStringLiteral(EXAMPLES_DIR "/geometry");
+        QTest::newRow("written by another program") << QStringLiteral(EXAMPLES_DIR "/fractions.iwb");
+    }
+
+    void nothingDrifts()
+    {
+        QFETCH(QString, input);
+        QTemporaryDir work;
+        QString package = work.filePath(QStringLiteral("0"));
+        convert(input, package, "iwb");
+        const QString first = content(package);
+        for (int trip = 1; trip <= 3; ++trip) {
+            const QString json = work.filePath(QString::number(trip) + QLatin1String(".json"));
+            convert(package, json, "json");
+            package = work.filePath(QString::number(trip));
+            convert(json, package, "iwb");
+            const QStringList was = first.split(QLatin1Char('\n'));
+            const QStringList is = content(package).split(QLatin1Char('\n'));
+            for (int i = 0; i < qMin(was.size(), is.size()); ++i) {
+                QCOMPARE(is.at(i), was.at(i));
+            }
+            QCOMPARE(is.size(), was.size());
+        }
+    }
+
+    void comesBackAsZqtx()
+    {
+        QTemporaryDir work;
+        const QString iwb = work.filePath(QStringLiteral("a.iwb"));
+        const QString zqtx = work.filePath(QStringLiteral("b"));
+        const QString again = work.filePath(QStringLiteral("c"));
+        convert(QStringLiteral(EXAMPLES_DIR "/geometry"), iwb, "iwb");
+        LossReport losses;
+        convert(iwb, zqtx, "zqtx", &losses);
+        QVERIFY2(losses.lossCount() == 0, qPrintable(losses.summary()));
+        convert(iwb, work.filePath(QStringLiteral("d")), "iwb");
+        convert(zqtx, again, "iwb");
+        QCOMPARE(content(again), content(work.filePath(QStringLiteral("d"))));
+    }
+
+    void readsOtherPrograms_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QStringList>("types");
+        QTest::newRow("IWB elements without a prefix, groups and styles")
+            << foreignPage("<svg:g transform='scale(2)'><svg:circle id='c' cx='5' cy='5' r='4' style='fill:red'/>"
+                           "<svg:polygon id='t' points='0,0 9,0 9,9' fill='none' stroke='blue'/></svg:g>"
+                           "<svg:image id='i' x='9' y='9' width='40' height='30' xlink:href='images/a.png'/>")
+            << QStringList{QStringLiteral("ZQMath2DCircle c 2,2,18,18"), QStringLiteral("ZQMath2DPolyline t 0,0,18,18"),
+                           QStringLiteral("ZQImagePic i 9,9,49,39 images/a.png")};
+        QTest::newRow("svg without a prefix, IWB with one")
+            << QByteArray(
+                   "<iwb:iwb xmlns:iwb='http://www.becta.org.uk/iwb' version='1.0'>"
+                   "<svg xmlns='http://www.w3.org/2000/svg' xmlns:x='http://www.w3.org/1999/xlink' width='800' "
+                   "height='600' viewbox='0 0 800 600'><page id='p1'><rect id='r' x='1' y='2' width='3' height='4' "
+                   "fill='none' stroke='#000'/><line id='l' x1='0' y1='9' x2='9' y2='0' stroke='#000'/><a id='s' "
+                   "x:href='images/a.png'/></page></svg></iwb:iwb>")
+            << QStringList{QStringLiteral("ZQMath2DRectangle r 1,2,4,6"), QStringLiteral("ZQMath2DSegment l 0,0,9,9"),
+                           QStringLiteral("ZQMediaAudio s 0,0,0,0 images/a.png")};
+        QTest::newRow("no pages, paths, embedded picture, window's separators")
+            << QByteArray(
+                   "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'><s:svg xmlns:s='http://www.w3.org/2000/svg' "
+                   "xmlns:xlink='http://www.w3.org/1999/xlink' width='640px' height='480px'>"
+                   "<s:path id='p' d='M10 10 L20 10 L20 30 Z' stroke='black'/>"
+                   "<s:image id='i' width='8' height='6' xlink:href='data:image/png;base64,"
+                   + picture().toBase64()
+                   + "'/><s:image id='j' width='8' height='6' xlink:href='images\\a.png'/></s:svg></iwb>")
+            << QStringList{QStringLiteral("ZQMath2DPolyline p 10,10,20,30"),
+                           QStringLiteral("ZQImagePic i 0,0,8,6 images/embedded-1.png"),
+                           QStringLiteral("ZQImagePic j 0,0,8,6 images/a.png")};
+    }
+
+    void readsOtherPrograms()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(QStringList, types);
+        QTemporaryDir work;
+        write(work.filePath(QStringLiteral("in/content.xml")), document);
+        write(work.filePath(QStringLiteral("in/images/a.png")), picture());
+        LessonContext context;
+        context.plugin = plugin();
+        LossReport losses;
+        context.losses = &losses;
+        const auto reader =
+            lessonFormatByName(QStringLiteral("iwb")).open(work.filePath(QStringLiteral("in")), context);
+        const LessonSlide slide = reader->slide(0);
+        QStringList found;
+        for (const QJsonValue &value : slide.items) {
+            const QJsonObject item = value.toObject();
+            QStringList words;
+            for (const char *key : {"Type", "ID", "BoundingBox", "resource"}) {
+                words.append(item.value(QLatin1String(key)).toString());
+            }
+            found.append(words.join(QLatin1Char(' ')).trimmed());
+            const QString resource = words.last();
+            QVERIFY(resource.isEmpty() || QFile::exists(reader->resourceFile(resource)));
+        }
+        QCOMPARE(found, types);
+        QVERIFY2(losses.lossCount() == 0, qPrintable(losses.summary()));
+    }
+
+    void refusesReferencesThatLeaveThePackage_data()
+    {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<QString>("problem");
+        const auto image = [](const char *reference) -> QByteArray {
+            return QByteArray("<svg:image id='i' width='4' height='3' xlink:href='") + reference + "'/>";
+        };
+        QTest::newRow("up") << image("../../secret.png") << "svg:image ../../secret.png: it leads out of the package";
+        QTest::newRow("absolute") << image("/etc/passwd") << "svg:image /etc/passwd: it is an absolute path";
+        QTest::newRow("escaped") << image("images/%2e%2e/%2e%2e/x")
+                                 << "svg:image images/%2e%2e/%2e%2e/x: it leads out of the package";
+        QTest::newRow("web") << image("http://example.org/a.png")
+                             << "svg:image http://example.org/a.png: it lies outside of the package and isn't fetched";
+        QTest::newRow("file") << image("file:///etc/passwd")
+                              << "svg:image file:///etc/passwd: it lies outside of the package and isn't fetched";
+        QTest::newRow("nothing") << image("") << "svg:image : it names no file";
+        QTest::newRow("folder") << image("images") << "svg:image images: it is a folder";
+        QTest::newRow("missing") << image("images/b.png") << "svg:image images/b.png: the package has no such file";
+        QTest::newRow("link in the package")
+            << image("images/link.png") << "svg:image images/link.png: the package has no such file";
+        QTest::newRow("no picture") << image("images/text.png")
+                                    << "svg:image images/text.png: it is no picture that can be read";
+        QTest::newRow("a page's link")
+            << QByteArray("<svg:a xlink:href='../x.txt'><svg:rect id='i' width='9' height='9'/></svg:a>")
+            << "ZQMath2DRectangle InteractiveValue: link to \"../x.txt\": it leads out of the package";
+    }
+
+    void refusesReferencesThatLeaveThePackage()
+    {
+        QFETCH(QByteArray, item);
+        QFETCH(QString, problem);
+        QTemporaryDir work;
+        const QString package = work.filePath(QStringLiteral("a/b/in"));
+        write(package + QLatin1String("/content.xml"), foreignPage(item));
+        write(package + QLatin1String("/images/a.png"), picture());
+        write(package + QLatin1String("/images/text.png"), "not a picture");
+        write(work.filePath(QStringLiteral("a/secret.png")), picture());
+        QFile::link(work.filePath(QStringLiteral("a/secret.png")), package + QLatin1String("/images/link.png"));
+        LossReport losses;
+        const QString json = work.filePath(QStringLiteral("out.json"));
+        convert(package, json, "json", &losses);
+        QVERIFY2(details(losses).contains(problem), qPrintable(details(losses).join(QLatin1Char('\n'))));
+        // The item itself stays, without the file.
+        QFile written(json);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        const QByteArray text = written.readAll();
+        QVERIFY(text.contains("\"ID\":\"i\""));
+        QVERIFY(!text.contains("passwd") && !text.contains("secret"));
+        QVERIFY(!QDir(work.filePath(QStringLiteral("a/b/filelibrary"))).exists());
+    }
+
+    void hostileLessonsStayInside()
+    {
+        // Addresses in memory, folders to write into, names that lead away.
+        QTemporaryDir work;
+        const QString json = work.filePath(QStringLiteral("in.json"));
+        QByteArray text = "{'Width':'800','Height':'600','Slides':[{'ID':'../../evil','AttachFile':'../x.png','Items':["
+                          "{'Type':'ZQTextBoard','ID':'t','BoundingBox':'0,0,9,9','Text':'x\\u0001]]>y',"
+                          "'IWB_TEXTINFO-VECTOR':'4096','IWB_TEXTINFO-DELVECTOR':'4096'},"
+                          "{'Type':'ZQImagePic','ID':'i','BoundingBox':'0,0,9,9','AbsMediaFile':'/etc/passwd',"
+                          "'MultiMediaFile':'/etc/passwd','tmpFilePath':'/tmp/evil'},"
+                          "{'Type':'ZQMath2DRectangle','ID':'r','Matrix':'1,0','BoundingBox':'5','Control':'7'},"
+                          "{'Type':'ZQMath2DNormalPentagon','ID':'n','ArtObj_Ln':'-3','BoundingBox':'0,0,9,9'},"
+                          "{'Type':'ZQMindMapItem','ID':'m'},{'Type':'ZQPhysicsDianZu','ID':'p',"
+                          "'InteractiveType':'ACTION_OPENWEB','InteractiveValue':'http://example.org'},"
+                          "{'Type':'ZQPhysicsDianZu','ID':'q'}]}]}";
+        write(json, text.replace('\'', '"'));
+        LossReport losses;
+        const QString package = work.filePath(QStringLiteral("out"));
+        convert(json, package, "iwb", &losses);
+        QVERIFY2(losses.summary().contains(QLatin1String(
+                     "4 items have no IWB form: 2 ZQPhysicsDianZu, 1 ZQMath2DRectangle, 1 ZQMindMapItem")),
+                 qPrintable(losses.summary()));
+        const QStringList found = details(losses);
+        QVERIFY(found.contains(QStringLiteral("ZQTextBoard TextHtml: 1 control characters")));
+        QVERIFY(found.contains(QStringLiteral("ZQImagePic /etc/passwd: the lesson has no such file")));
+        QVERIFY(found.contains(QStringLiteral("slide ../x.png: the lesson has no such file")));
+        const QDomDocument document = load(package + QLatin1String("/content.xml"));
+        QCOMPARE(byId(document.documentElement(), QStringLiteral("t")).text(), QStringLiteral("x]]>y"));
+        QVERIFY(!byId(document.documentElement(), QStringLiteral("i")).hasAttribute(QStringLiteral("xlink:href")));
+        QVERIFY(document.documentElement().firstChildElement(QStringLiteral("iwb:link")).isNull());
+        QCOMPARE(QDir(work.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList({QStringLiteral("in.json"), QStringLiteral("out")}));
+    }
+
+    void inkBecomesLines()
+    {
+        QTemporaryDir work;
+        const QString example = QStringLiteral(EXAMPLES_DIR "/geometry");
+        LossReport losses;
+        convert(example, work.filePath(QStringLiteral("a")), "iwb", &losses);
+        QVERIFY(losses.summary().contains(QLatin1String("2 strokes became polylines")));
+        const QDomElement marker =
+            byId(load(work.filePath(QStringLiteral("a/content.xml"))).documentElement(), QStringLiteral("marker"));
+        // Steps of 300,6 and 300,-4 from 120,930; three points are padded to four.
+        QCOMPARE(marker.attribute(QStringLiteral("points")), QStringLiteral("120,930,420,936,720,932,720,932"));
+        QCOMPARE(marker.attribute(QStringLiteral("stroke")), QStringLiteral("rgb(255,238,0)"));
+        QCOMPARE(marker.attribute(QStringLiteral("stroke-width")), QStringLiteral("24"));
+        QCOMPARE(marker.attribute(QStringLiteral("stroke-opacity")).toDouble(), 0.501961); // 128 / 255
+        LossReport dropped;
+        convert(example, work.filePath(QStringLiteral("b")), "iwb", &dropped,
+                {{QStringLiteral("ink"), QStringLiteral("drop")}});
+        QVERIFY(byId(load(work.filePath(QStringLiteral("b/content.xml"))).documentElement(), QStringLiteral("marker"))
+                    .isNull());
+        QVERIFY(dropped.summary().contains(QLatin1String("1 ZQFluorescentStroke")));
+    }
+
+    void failsWithWords_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("another root") << QByteArray("<html/>")
+                                      << "The document begins with <html> where an IWB file has <iwb>";
+        QTest::newRow("no svg") << QByteArray("<iwb/>") << "The document has no svg element with pages";
+        QTest::newRow("no XML") << QByteArray("nothing") << "";
+    }
+
+    void failsWithWords()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(QString, sentence);
+        QTemporaryDir work;
+        write(work.filePath(QStringLiteral("in/content.xml")), document);
+        LessonContext context;
+        context.plugin = plugin();
+        try {
+            lessonFormatByName(QStringLiteral("iwb")).open(work.filePath(QStringLiteral("in")), context);
+            QFAIL("it was opened");
+        } catch (const LessonError &error) {
+            QVERIFY2(error.message().contains(sentence) && error.message().contains(QLatin1String("content.xml")),
+                     qPrintable(error.message()));
+        }
+    }
+};
+
+QTEST_MAIN(TestIwbPackages)
+#include "tst_iwbpackages.moc"
