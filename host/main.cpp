@@ -5,6 +5,7 @@
 #include "packagetarget.h"
 #include "pluginhost.h"
 #include "progressbar.h"
+#include "rendering.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -53,6 +54,7 @@ QCommandLineOption option(const char *name, const char *description, const char 
 const char *const usage = R"(Converts lessons of interactive whiteboards and tells what is in them.
 
   lessonconv convert INPUT OUTPUT   converts a lesson; the names say the formats
+  lessonconv render INPUT OUTPUT    draws the slides as .html, .pdf, .svg or .png
   lessonconv info INPUT             page size, slides, items, missing files
   lessonconv formats                the formats and their file names
 
@@ -60,6 +62,9 @@ Examples:
   lessonconv convert lesson.zqtx lesson.json
   lessonconv convert lesson.json lesson.zqtx --report losses.json
   lessonconv convert lesson.zqtx lesson.iwb
+  lessonconv render lesson.zqtx lesson.html
+  lessonconv render lesson.zqtx slide%d.png --slides 2-5 --size 1280x720
+  lessonconv render --diff lesson.zqtx lesson.iwb difference.html
   lessonconv info lesson.zqtx
 
 Exit code: 0 done, 1 done with losses and --strict, 2 not done.)";
@@ -71,7 +76,7 @@ public:
     {
         m_parser.setApplicationDescription(QLatin1String(usage));
         m_parser.addVersionOption();
-        m_parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("convert, info or formats"));
+        m_parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("convert, render, info or formats"));
         m_parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("the lessons"),
                                        QStringLiteral("[files...]"));
         m_parser.addOption(
@@ -83,7 +88,10 @@ public:
             option("strict", "Treat losses as a failure: exit code 1."),
             option("no-check", "Don't read back what was written. Faster, but losses stay unnoticed."),
             option("ink", "What becomes of handwriting in IWB: polyline (the default) or drop.", "choice"),
-            option("json", "With info: print JSON."),
+            option("size", "With render: the size of a picture or page in pixels.", "widthxheight"),
+            option("slides", "With render: only these slides, such as 2-5 or 1,4.", "slides"),
+            option("diff", "With render: two lessons side by side, with the values that the second lacks."),
+            option("json", "With info and render: print JSON."),
             option("quiet", "No progress bar and no list of losses."),
             option("verbose", "Print what the libraries log."),
             option("plugin", "The plug-in's file, where it is in an unusual place.", "file"),
@@ -116,6 +124,9 @@ public:
         }
         if (command == QLatin1String("convert") && files.size() == 2) {
             return convert(files.first(), files.last());
+        }
+        if (command == QLatin1String("render") && files.size() == (isSet("diff") ? 3 : 2)) {
+            return render(files);
         }
         throw LessonError(
             QStringLiteral("The command \"%1\" isn't complete or isn't known").arg(words.join(QLatin1Char(' '))),
@@ -192,6 +203,38 @@ private:
             complain(losses.summary());
         }
         return isSet("strict") && losses.lossCount() > 0 ? DoneWithLosses : Done;
+    }
+
+    int render(const QStringList &files) const
+    {
+        RenderSettings settings;
+        settings.size = sizeFromText(value("size"));
+        settings.slides = slidesFromText(value("slides"));
+        const PluginHost host(value("plugin"));
+        LessonContext context;
+        context.plugin = host.plugin();
+        context.verify = false;
+        ProgressBar bar(!isSet("quiet"));
+        const auto progress = [&bar](int done, int total) { bar.show(done, total); };
+        const auto reader = inputFormat(files.first()).open(files.first(), context);
+        QJsonObject result;
+        if (isSet("diff")) {
+            const auto second = lessonFormatOfInput(files.at(1)).open(files.at(1), context);
+            result = renderDifference(*reader, files.first(), *second, files.at(1), context, files.last(), settings,
+                                      progress);
+        } else {
+            result = renderLesson(*reader, context, files.last(), settings, progress);
+        }
+        bar.clear();
+        if (isSet("json")) {
+            print(QString::fromUtf8(QJsonDocument(result).toJson()));
+        } else if (!isSet("quiet")) {
+            const int named = result.value(QLatin1String("named")).toArray().size();
+            print(QStringLiteral("Slides drawn: %1.%2\n")
+                      .arg(result.value(QLatin1String("slides")).toInt())
+                      .arg(named ? QStringLiteral(" Items shown by their name: %1.").arg(named) : QString()));
+        }
+        return Done;
     }
 
     static void writeReport(const QString &path, const LossReport &losses)

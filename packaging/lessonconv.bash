@@ -4,7 +4,7 @@ _lessonconv()
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} command= i
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-            convert | info | formats) command=${COMP_WORDS[i]}; break ;;
+            convert | render | info | formats) command=${COMP_WORDS[i]}; break ;;
         esac
     done
     case $before in
@@ -14,7 +14,8 @@ _lessonconv()
     esac
     local options="--help --version --plugin --from --quiet --json"
     case $command in
-        "") options="convert info formats --help --version" ;;
+        "") options="convert render info formats --help --version" ;;
+        render) options+=" --size --slides --diff" ;;
         convert) options+=" --to --report --strict --no-check" ;;
     esac
     if [[ -z $command || $word == -* ]]; then
