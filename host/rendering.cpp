@@ -248,7 +248,9 @@ QByteArray lossesAsHtml(const LossReport &losses, int from)
         html += QLatin1String("</li>\n");
     }
     return html.isEmpty() ? QByteArray("<p class=\"none\">Nothing is lost.</p>\n")
-                          : "<ul class=\"losses\">\n" + html.toUtf8() + "</ul>\n";
+                          : "<details class=\"losses\"><summary>The second lacks, or has otherwise: "
+            + QByteArray::number(losses.entries().size() - from) + " values</summary>\n<ul>" + html.toUtf8()
+            + "</ul></details>\n";
 }
 
 } // namespace

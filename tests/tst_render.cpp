@@ -54,8 +54,8 @@ QString TestRender::lesson()
 {
     const QByteArray text = R"({"Width":"400","Height":"300","Slides":[
         {"ID":"1","Items":[
-            {"ID":"1","Type":"ZQMath2DRectangle","BoundingBox":"100,100,300,200","ArtObj_PenColor":"255,0,0,0",
-             "ArtObj_Fill":"1","ArtObj_BrushColor":"255,255,0,0"},
+            {"ID":"1","Type":"ZQMath2DRectangle","BoundingBox":"100,100,300,200","LineColor":"255,0,0,0",
+             "ArtObj_Color":"255,255,0,0"},
             {"ID":"2","Type":"ZQMindMapItem","BoundingBox":"0,0,90,90","mindMapData":[{},{},
                 {"nodeHtml":"Animals","childNodes":[{"nodeHtml":"<b>Cats</b> & dogs"},{"nodeHtml":"Birds"}]}]}]},
         {"ID":"2","Items":[
@@ -76,7 +76,7 @@ void TestRender::drawsEveryItem()
     const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
     QCOMPARE(json.value("slides").toInt(), 2);
     QCOMPARE(json.value("named"),
-             QJsonValue(QJsonArray {QJsonObject {{"slide", 2}, {"type", "General:spotlight"}, {"id", "3"}}}));
+             QJsonValue(QJsonArray{QJsonObject{{"slide", 2}, {"type", "General:spotlight"}, {"id", "3"}}}));
     const QByteArray html = content("lesson.html");
     QCOMPARE(html.count("<svg "), 2);
     for (const char *shown : {"Animals", "Cats &amp; dogs", "Birds", "General: spotlight", "&lt;script"}) {
@@ -128,12 +128,12 @@ void TestRender::refuses_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("message");
-    QTest::newRow("one file for two slides") << QStringList {"p.png"} << "%d";
-    QTest::newRow("form") << QStringList {"p.bmp"} << ".html, .pdf, .svg or .png";
-    QTest::newRow("slide beyond") << QStringList {"p.html", "--slides", "3"} << "no slide 3";
-    QTest::newRow("slides") << QStringList {"p.html", "--slides", "5-2"} << "names no slides";
-    QTest::newRow("size") << QStringList {"p.html", "--size", "12"} << "is no size";
-    QTest::newRow("huge") << QStringList {"p.html", "--size", "99999x1"} << "is no size";
+    QTest::newRow("one file for two slides") << QStringList{"p.png"} << "%d";
+    QTest::newRow("form") << QStringList{"p.bmp"} << ".html, .pdf, .svg or .png";
+    QTest::newRow("slide beyond") << QStringList{"p.html", "--slides", "3"} << "no slide 3";
+    QTest::newRow("slides") << QStringList{"p.html", "--slides", "5-2"} << "names no slides";
+    QTest::newRow("size") << QStringList{"p.html", "--size", "12"} << "is no size";
+    QTest::newRow("huge") << QStringList{"p.html", "--size", "99999x1"} << "is no size";
 }
 
 void TestRender::refuses()
@@ -141,7 +141,7 @@ void TestRender::refuses()
     QFETCH(QStringList, arguments);
     QFETCH(QString, message);
     arguments[0] = m_folder.filePath(arguments.at(0));
-    const Result result = run(QStringList {"render", lesson()} + arguments);
+    const Result result = run(QStringList{"render", lesson()} + arguments);
     QCOMPARE(result.exitCode, 2);
     QVERIFY2(result.errors.contains(message), qPrintable(result.errors));
     QVERIFY(!QFile::exists(arguments.at(0)));
