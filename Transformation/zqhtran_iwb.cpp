@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
+#include <QFileInfo>
 
 // The conversions of the base class to and from IWB, and what the IWB writers share.
 
@@ -20,15 +21,18 @@ QString fileNameOf(const QString &path)
 // Copies a file into tmpFilePath/additional/ and gives the reference to it; empty for a file that doesn't exist.
 QString copyLinkedFile(const QString &file, const QString &tmpFilePath)
 {
-    if (!QFile::exists(file)) {
+    if (!QFileInfo(file).isFile()) {
         return {};
     }
-    const QString directory = tmpFilePath + QLatin1String("/additional/");
-    if (!QDir(directory).exists()) {
-        QDir().mkdir(directory);
-    }
     const QString name = fileNameOf(file);
-    QFile::copy(file, directory + name);
+    // Without a directory there is no package to copy into.
+    if (!tmpFilePath.isEmpty()) {
+        const QString directory = tmpFilePath + QLatin1String("/additional/");
+        if (!QDir(directory).exists()) {
+            QDir().mkdir(directory);
+        }
+        QFile::copy(file, directory + name);
+    }
     return QLatin1String("additional/") + name;
 }
 

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QVector>
 
@@ -208,6 +209,25 @@ QJsonValue writableAnimations(const QJsonValue &value)
     return animations;
 }
 
+// The background of a game comes in as the data directory, a separator and the reference, and goes out as all that
+// stands behind the directory: each trip would leave one separator more.
+QJsonObject withShortBackground(QJsonObject activity)
+{
+    const QLatin1String templetKey("templet");
+    const QLatin1String backgroundKey("background");
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/');
+    QJsonObject templet = activity.value(templetKey).toObject();
+    QString background = templet.value(backgroundKey).toString();
+    if (background.startsWith(data)) {
+        while (background.midRef(data.size()).startsWith(QLatin1Char('/'))) {
+            background.remove(data.size(), 1);
+        }
+        templet.insert(backgroundKey, background);
+        activity.insert(templetKey, templet);
+    }
+    return activity;
+}
+
 QJsonValue plainValue(const QJsonValue &value)
 {
     const QString text = valueText(value);
@@ -353,6 +373,10 @@ QJsonObject writableProperties(const QJsonObject &properties)
     QJsonObject written = properties;
     for (auto it = written.begin(); it != written.end(); ++it) {
         it.value() = plainValue(it.value());
+    }
+    const QLatin1String activity("activity");
+    if (written.contains(activity)) {
+        written.insert(activity, withShortBackground(written.value(activity).toObject()));
     }
     return written;
 }
