@@ -80,6 +80,13 @@ bool isAcceptedLink(const QString &kind)
         || kind == QLatin1String("ACTION_GOTOSLIDE");
 }
 
+// Whether an attribute of the script may be the id. A script can be long and most items have no part in it, so it is
+// parsed only if its text has the id, or if it has references or the id has blanks, which a parser changes.
+bool mayName(const QString &script, const QString &id)
+{
+    return script.contains(id) || script.contains(QLatin1Char('&')) || id.contains(QLatin1Char(' '));
+}
+
 } // namespace
 
 ZQComItemControlTran::ZQComItemControlTran(const QString &type)
@@ -249,7 +256,7 @@ void ZQComItemControlTran::readLink(QJsonObject &json, const QJsonObject &slide)
     const QString valueAttribute = QStringLiteral("value");
     const QStringList parts = tags.split(QLatin1String("|$|"));
     for (const QString &part : parts) {
-        if (!part.contains(QLatin1String("<interactive>"))) {
+        if (!part.contains(QLatin1String("<interactive>")) || !mayName(part, id)) {
             continue;
         }
         const QDomElement root = elementFromXml(part);

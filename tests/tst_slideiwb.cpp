@@ -240,6 +240,52 @@ private slots:
         QCOMPARE(QDir(root.filePath(QStringLiteral("filelibrary"))).entryList(QDir::Files).size(), isTaken ? 1 : 0);
     }
 
+    void writesLinks_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("href");
+        const auto row = [](const char *kind, const char *value, const char *href) {
+            QTest::addRow("%s %s", kind, value)
+                << QString::fromLatin1(kind) << QString::fromLatin1(value) << QString::fromLatin1(href);
+        };
+        row("ACTION_OPENWEB", "a.example", "http://a.example");
+        row("ACTION_OPENWEB", "go?to=https://a.example", "go?to=https://a.example");
+        row("ACTION_TOOLTIP", "hint", "txt://hint");
+        row("ACTION_GOTOSLIDE", "12", "#page12");
+        row("ACTION_OPENTOOL", "clock", "tool://clock");
+        row("ACTION_DANCE", "x", "");
+        row("ACTION_OPENFILE", "DIR/a.txt", "additional/a.txt");
+        row("ACTION_OPENFILE", "DIR/missing.txt", "");
+        row("ACTION_OPENFILE", "DIR", "");
+    }
+    void writesLinks()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, value);
+        QFETCH(QString, href);
+        QTemporaryDir directory;
+        const QDir root(directory.path());
+        QVERIFY(root.mkpath(QStringLiteral("export")));
+        QFile file(root.filePath(QStringLiteral("a.txt")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("text") == 4);
+        file.close();
+        QDomDocument document = iwbRoot();
+        // Ink has no svg form of its own: the link around it is empty.
+        const QDomElement link = plugin()->tranItemJSON2IWB(
+            document,
+            {{QStringLiteral("Type"), QStringLiteral("ZQSmoothStroke")},
+             {QStringLiteral("ID"), QStringLiteral("5")},
+             {QStringLiteral("tmpFilePath"), root.filePath(QStringLiteral("export"))},
+             {QStringLiteral("InteractiveType"), kind},
+             {QStringLiteral("InteractiveValue"), value.replace(QLatin1String("DIR"), directory.path())}});
+        QCOMPARE(toText(link), toText(xml(QStringLiteral("<svg:a id='5_link' xlink:href='%1'/>").arg(href))));
+        QCOMPARE(toText(document.documentElement().lastChildElement()),
+                 QStringLiteral("<iwb:link file=\"internal\" ref=\"5_link\"/>"));
+        const bool isCopied = href.startsWith(QLatin1String("additional/"));
+        QCOMPARE(QFile::exists(root.filePath(QStringLiteral("export/additional/a.txt"))), isCopied);
+    }
+
     void keepsQuiet()
     {
         messages = 0;
