@@ -354,6 +354,13 @@ std::optional<ItemPlace> itemPlace(const QJsonObject &item)
     return matrix ? placeUnder(*matrix, *box) : ItemPlace{*box, angleOf(item)};
 }
 
+double itemScale(const QJsonObject &item)
+{
+    const auto matrix = matrixOf(item);
+    const double scale = matrix ? std::sqrt(qAbs(matrix->determinant())) : 1;
+    return scale > 0 ? scale : 1;
+}
+
 PlacedShape placeShape(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)
 {
     return ShapePlacer(item, form, plugin).place();

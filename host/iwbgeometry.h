@@ -20,6 +20,9 @@ struct ItemPlace
 //! that of the page, turned by Angle. Nothing for an item without a box. A slant of the Matrix is lost.
 std::optional<ItemPlace> itemPlace(const QJsonObject &item);
 
+//! How much larger an item's Matrix draws what has no length of its own, such as letters; 1 without a Matrix.
+double itemScale(const QJsonObject &item);
+
 /*!
  * A shape as the plug-in's export takes it.
  */

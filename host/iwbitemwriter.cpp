@@ -322,6 +322,9 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         prepared.insert(QLatin1String("BoundingBox"), boxText(place->box));
         prepared.insert(QLatin1String("Matrix"), QStringLiteral("1,0,0,1,0,0"));
     }
+    for (IwbTextInfo &run : text.runs) {
+        run.fontSize = QString::number(run.fontSize.toDouble() * itemScale(item));
+    }
     const TextRunLoan loan(prepared, text.runs);
     QDomElement element = convert(item, prepared);
     if (element.isNull()) {

@@ -156,5 +156,8 @@ QJsonObject LossReport::toJson() const
         }
         entries.append(entry);
     }
-    return {{QStringLiteral("losses"), m_lossCount}, {QStringLiteral("entries"), entries}};
+    return {
+        {QStringLiteral("losses"), m_lossCount},
+        {QStringLiteral("summary"), QJsonArray::fromStringList(summary().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},
+        {QStringLiteral("entries"), entries}};
 }

@@ -45,7 +45,7 @@ public:
     //! A line for each kind: "2 values lost: ZQChalkStroke.Weight on slide 3, ...". No text without entries.
     QString summary() const;
 
-    //! {"losses": number, "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
+    //! {"losses": number, "summary": lines, "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
     QJsonObject toJson() const;
 
 private:

@@ -197,6 +197,43 @@ private slots:
         QCOMPARE(count, 20 + 6);
     }
 
+    void rawItemsKeepTheirMatrix()
+    {
+        // A page of 1024 x 768 goes into 1440 x 1080: everything is 1.40625 times as large.
+        QTemporaryDir work;
+        const QString raw = work.filePath(QStringLiteral("raw.xml"));
+        write(raw,
+              "<presentation><slide NetID='1' BackColor='255,10,20,30'>"
+              "<ZQMath2DRectangle NetID='r' TransformMatrix='0.8660254,0.5,-0.5,0.8660254,100,50' Angle='0.5235988' "
+              "Discipline_xControl0='80' Discipline_yControl0='0' Discipline_xControl1='0' Discipline_yControl1='40'/>"
+              "<ZQMath2DCircle NetID='c' TransformMatrix='2,0,0,2,300,200' Discipline_xControl0='10' "
+              "Discipline_yControl0='0'/>"
+              "<ZQTextBoard NetID='t' TransformMatrix='1,0,0,1,5,6' Bound='110,60,0,0,10,10' Text='hi'/>"
+              "</slide></presentation>");
+        LessonContext context;
+        context.plugin = plugin();
+        const QString package = work.filePath(QStringLiteral("out"));
+        convertLesson(lessonFormatByName(QStringLiteral("rawxml")), raw, lessonFormatByName(QStringLiteral("iwb")),
+                      package, context, [](int, int) {});
+        const QDomElement root = load(package + QLatin1String("/content.xml")).documentElement();
+        QCOMPARE(byId(root, QStringLiteral("1_rect")).attribute(QStringLiteral("fill")),
+                 QStringLiteral("rgb(10,20,30)"));
+        // 80 x 40 turned by 30 degrees: its centre 40,20 comes to 100 + 40 cos 30 - 20 sin 30 = 124.641 and
+        // 50 + 40 sin 30 + 20 cos 30 = 87.3205, on the page 175.276, 122.794; its sides are 112.5 and 56.25.
+        const QRectF rectangle = measured(byId(root, QStringLiteral("r")));
+        QVERIFY(qAbs(rectangle.center().x() - 175.276) < 0.01 && qAbs(rectangle.center().y() - 122.794) < 0.01);
+        QVERIFY(qAbs(rectangle.width() - 112.5) < 0.01 && qAbs(rectangle.height() - 56.25) < 0.01);
+        QVERIFY(byId(root, QStringLiteral("r"))
+                    .attribute(QStringLiteral("transform"))
+                    .startsWith(QLatin1String("rotate(30 ")));
+        // 300,200 and a radius of 20.
+        QCOMPARE(measured(byId(root, QStringLiteral("c"))), QRectF(421.875 - 28.125, 281.25 - 28.125, 56.25, 56.25));
+        // 28 pixels become 39.375.
+        const QDomElement text = byId(root, QStringLiteral("t"));
+        QCOMPARE(text.attribute(QStringLiteral("font-size")), QStringLiteral("39.375"));
+        QVERIFY(qAbs(measured(text).x() - 15 * 1.40625) < 0.001 && qAbs(measured(text).y() - 16 * 1.40625) < 0.001);
+    }
+
     void nothingDrifts_data()
     {
         QTest::addColumn<QString>("input");
