@@ -218,7 +218,9 @@ QSizeF SvgText::size() const
 QRectF SvgText::boxAt(double x, double y) const
 {
     const SvgStyle &first = m_runs.isEmpty() ? m_style : m_runs.first().style;
-    const QSizeF textSize = size();
+    // Other machines draw the letters with other fonts: without some room the last word would go to a line of its own.
+    QSizeF textSize = size();
+    textSize.rwidth() = textSize.width() * 1.05 + first.fontPixels() / 2;
     const QString align = alignment(m_style);
     const double shift = align == QLatin1String("center") ? 0.5 : align == QLatin1String("end") ? 1 : 0;
     return QRectF(QPointF(x - shift * textSize.width(), y - metrics(first).ascent()), textSize);
