@@ -15,6 +15,15 @@ KeyPaths row(const QString &key, const QStringList &path)
     return KeyPaths(KeyPaths::Row{key, path});
 }
 
+KeyPaths rowsOf(std::initializer_list<const char *> keys, KeyPaths (*rowOf)(const char *key))
+{
+    KeyPaths rows;
+    for (const char *key : keys) {
+        rows = {rows, rowOf(key)};
+    }
+    return rows;
+}
+
 } // namespace
 
 KeyPaths::KeyPaths(std::initializer_list<KeyPaths> groups)
@@ -39,6 +48,11 @@ KeyPaths attribute(const char *key, const char *name)
     return row(text(key), {text(name)});
 }
 
+KeyPaths attributes(std::initializer_list<const char *> keys)
+{
+    return rowsOf(keys, attribute);
+}
+
 KeyPaths childAttribute(const char *key, const char *element, const char *name)
 {
     return row(text(key), {text(element), text(name)});
@@ -57,6 +71,11 @@ KeyPaths property(const char *key, const char *label)
 KeyPaths property(const char *key)
 {
     return property(key, key);
+}
+
+KeyPaths properties(std::initializer_list<const char *> keys)
+{
+    return rowsOf(keys, property);
 }
 
 KeyPaths coordinatePair(const char *name)

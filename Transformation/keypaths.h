@@ -37,6 +37,9 @@ private:
 KeyPaths attribute(const char *key);
 KeyPaths attribute(const char *key, const char *name);
 
+//! Several attributes of the same names.
+KeyPaths attributes(std::initializer_list<const char *> keys);
+
 //! An attribute of a child or descendant element.
 KeyPaths childAttribute(const char *key, const char *element, const char *name);
 
@@ -46,6 +49,9 @@ KeyPaths path(const char *key, const char *child, const char *inner, const char 
 //! A row of <properties>: <property name="label" value="..."/>. Without a label, the key is the label.
 KeyPaths property(const char *key, const char *label);
 KeyPaths property(const char *key);
+
+//! Several rows of <properties> whose keys are their labels.
+KeyPaths properties(std::initializer_list<const char *> keys);
 
 //! The two keys NAMEx and NAMEy of a raw point element NAME with the attributes x and y.
 KeyPaths coordinatePair(const char *name);

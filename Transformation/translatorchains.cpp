@@ -1,8 +1,13 @@
 #include "translatorchains.h"
 
+#include "zqchemistrytran.h"
+#include "zqcomplexortran.h"
+#include "zqfiguretran.h"
 #include "zqgroupitemtran.h"
+#include "zqliteraturetran.h"
 #include "zqmathematicstran.h"
 #include "zqmediaitemtran.h"
+#include "zqphysicstran.h"
 #include "zqstrokestran.h"
 #include "zqtextboxtran.h"
 
@@ -11,15 +16,27 @@ namespace {
 using Create = std::unique_ptr<ZQHTran> (*)(const QString &type);
 using MapType = QString (*)(const QString &type);
 
+// Each list in the order its families are asked, one a line.
+// clang-format off
 const Create itemFamilies[] = {
+    ZQChemistryTran::create,
+    ZQComplexorTran::create,
+    ZQFigureTran::create,
+    ZQLiteratureTran::create,
     ZQMathematicsTran::create,
+    ZQPhysicsTran::create,
     ZQStrokesTran::create,
     ZQMediaItemTran::create,
     ZQTextBoxTran::create,
 };
 
 const Create iwbFamilies[] = {
+    ZQChemistryTran::create,
+    ZQComplexorTran::create,
+    ZQFigureTran::create,
+    ZQLiteratureTran::create,
     ZQMathematicsTran::create,
+    ZQPhysicsTran::create,
     ZQStrokesTran::create,
     ZQMediaItemTran::create,
     ZQTextBoxTran::create,
@@ -27,17 +44,27 @@ const Create iwbFamilies[] = {
 
 const MapType toTxTypeFamilies[] = {
     ZQMathematicsTran::toTxType,
+    ZQChemistryTran::toTxType,
+    ZQPhysicsTran::toTxType,
     ZQStrokesTran::toTxType,
     ZQMediaItemTran::toTxType,
+    ZQComplexorTran::toTxType,
     ZQGroupItemTran::toTxType,
+    ZQLiteratureTran::toTxType,
 };
 
 const MapType fromTxTypeFamilies[] = {
     ZQMathematicsTran::fromTxType,
+    ZQChemistryTran::fromTxType,
+    ZQPhysicsTran::fromTxType,
     ZQStrokesTran::fromTxType,
     ZQMediaItemTran::fromTxType,
+    ZQComplexorTran::fromTxType,
+    ZQLiteratureTran::fromTxType,
+    ZQFigureTran::fromTxType,
     ZQGroupItemTran::fromTxType,
 };
+// clang-format on
 
 template <std::size_t N> QString firstAnswer(const MapType (&families)[N], const QString &type)
 {

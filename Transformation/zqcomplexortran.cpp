@@ -1,0 +1,186 @@
+#include "zqcomplexortran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+#include "numbertext.h"
+#include "xmlplaces.h"
+
+#include <QtMath>
+
+#include <cmath>
+
+namespace {
+
+const FamilyVocabulary &vocabulary()
+{
+    static const FamilyVocabulary table(
+        {{}, {}, {}},
+        {
+            {{"ZQVectorJiantou1",        "ZQVectorJiantou2",        "ZQVectorJiantou3",   "ZQVectorJiantou4",
+              "ZQVectorJiantou5",        "ZQVectorJiantou6",        "ZQVectorJiantou7",   "ZQVectorTuoyuan",
+              "ZQVectorSanjiaoxing",     "ZQVectorLiubianxing",     "ZQVectorJuxing",     "ZQVectorYuanjiaojuxing",
+              "ZQVectorYuanjiaojuxing1", "ZQVectorYuanjiaojuxing2", "ZQVectorWujiaoxing", "ZQVectorBaozhaxing",
+              "ZQVectorBaozhaer",        "ZQVectorShandian",        "ZQVectorXingxing",   "ZQVectorXiaolian",
+              "ZQVectorXiaolian1",       "ZQVectorWapianxing",      "ZQVectorZidanxing",  "ZQVectorBolangxing",
+              "ZQVectorBolangxing1",     "ZQVectorPianduan",        "ZQVectorYemian",     "ZQVectorYueliang",
+              "ZQVectorXinxing"},
+             {attribute("Discipline_xCreate", "ArtInner_CenterPointX"),
+              attribute("Discipline_yCreate", "ArtInner_CenterPointY")},
+             {property("ArtVectObj_FrameColor", "Color of edge"), property("ArtVectObj_RegionColor", "Fill color")}},
+        });
+    return table;
+}
+
+const QLatin1String managerKey("manager");
+
+QDomElement managerOf(const QDomElement &item)
+{
+    return descendantByTag(item, QStringLiteral("ArtVectObj_Manager"));
+}
+
+void appendPoint(const QDomElement &point, QJsonArray &numbers)
+{
+    for (const QString &name : {QStringLiteral("x0"), QStringLiteral("y0"), QStringLiteral("x1"), QStringLiteral("y1"),
+                                QStringLiteral("x2"), QStringLiteral("y2")}) {
+        numbers.append(double(point.attribute(name).toFloat()));
+    }
+}
+
+// The points of up to four paths, each numbered from 0; the first missing number ends a path.
+void readPaths(const QDomElement &manager, QJsonObject &json)
+{
+    for (int i = 0; i <= 3; ++i) {
+        const QString number = QString::number(i);
+        const QDomElement path = descendantByTag(manager, QLatin1String("ArtVectObj_Path") + number);
+        RawPlaces points(path);
+        QJsonArray numbers;
+        for (int j = 0;; ++j) {
+            const QDomElement point = points.descendant(QLatin1String("ArtVectObj_Point") + QString::number(j));
+            if (point.isNull()) {
+                break;
+            }
+            appendPoint(point, numbers);
+            if (i == 0 && j == 0) {
+                json.insert(QLatin1String("VectorPathType"), point.attribute(QStringLiteral("Type")).toInt());
+            }
+        }
+        if (!numbers.isEmpty()) {
+            json.insert(QLatin1String("VectorControl") + number, numbers);
+        }
+    }
+}
+
+// Moves the element out of its tree into text, and reads its points.
+void takeManager(const QDomElement &manager, QJsonObject &json)
+{
+    QDomDocument document;
+    // An empty document takes no child before it has made a node.
+    document.createAttributeNS(QStringLiteral("Temp"), QStringLiteral("Temp"));
+    document.appendChild(manager);
+    json.insert(managerKey, document.toString(1));
+    readPaths(document.documentElement(), json);
+}
+
+} // namespace
+
+ZQComplexorTran::ZQComplexorTran(const QString &type)
+    : ZQDisciplineItemTran(type)
+{
+    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQComplexorTran::create(const QString &type)
+{
+    return vocabulary().contains(type) ? std::make_unique<ZQComplexorTran>(type) : nullptr;
+}
+
+QString ZQComplexorTran::toTxType(const QString &type)
+{
+    const QLatin1String prefix("ZQVector");
+    if (!type.contains(prefix)) {
+        return {};
+    }
+    QString txType = type;
+    if (txType.size() > prefix.size()) {
+        txType[prefix.size()] = txType.at(prefix.size()).toLower();
+    }
+    return txType.replace(prefix, QLatin1String("Vector:"));
+}
+
+QString ZQComplexorTran::fromTxType(const QString &type)
+{
+    const QLatin1String prefix("Vector:");
+    if (!type.contains(prefix)) {
+        return {};
+    }
+    QString itemType = type;
+    if (itemType.size() > prefix.size()) {
+        itemType[prefix.size()] = itemType.at(prefix.size()).toUpper();
+    }
+    return itemType.replace(prefix, QLatin1String("ZQVector"));
+}
+
+QJsonObject ZQComplexorTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQDisciplineItemTran::tranXML2JSON(element, json, context);
+    storeInnerMatrix(element, json);
+    const QDomElement manager = managerOf(element);
+    if (!manager.isNull()) {
+        takeManager(manager, json);
+    }
+    return json;
+}
+
+QJsonObject ZQComplexorTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQDisciplineItemTran::tranZQTX2JSON(element, json, context);
+    const QDomElement manager = managerOf(element);
+    if (manager.isNull()) {
+        json.insert(managerKey, QString());
+    } else {
+        takeManager(manager, json);
+    }
+    return json;
+}
+
+QDomElement ZQComplexorTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    element = ZQDisciplineItemTran::tranJSON2ZQTX(element, json, context);
+    QDomDocument manager;
+    if (manager.setContent(json.value(managerKey).toString(), false)) {
+        element.appendChild(manager.documentElement());
+    }
+    return element;
+}
+
+QMatrix ZQComplexorTran::innerMatrix(const QDomElement &element)
+{
+    const auto number = [&element](const QString &name, float missing) {
+        const auto text = attributeText(element, name);
+        return text ? text->toFloat() : missing;
+    };
+    const auto sign = [&element](const QString &flip) {
+        return element.attribute(flip) == QLatin1String("0") ? 1.0 : -1.0;
+    };
+    const double zoomX = double(number(QStringLiteral("ArtInner_Zoom"), 1.0F));
+    const double zoomY = double(number(QStringLiteral("ArtInner_Zoom_Y"), 1.0F));
+    const auto angle = float(-double(number(QStringLiteral("ArtInner_Rotate"), 0.0F)) * M_PI / 180.0);
+    const double cosine = std::cos(double(angle));
+    const double sine = std::sin(double(angle));
+    const double signX = sign(QStringLiteral("ArtInner_HorzFlip"));
+    const double signY = sign(QStringLiteral("ArtInner_VertFlip"));
+    // The products pass through single precision before they get their signs.
+    const auto product = [](double factor, double zoom) { return double(float(factor * zoom)); };
+    return QMatrix(signX * product(cosine, zoomX), signY * product(sine, zoomY), -signX * product(sine, zoomX),
+                   signY * product(cosine, zoomY),
+                   double(number(QStringLiteral("ArtInner_CenterPointX"), 0.0F))
+                       + signX * double(number(QStringLiteral("ArtInner_OfpX"), 0.0F)),
+                   double(number(QStringLiteral("ArtInner_CenterPointY"), 0.0F))
+                       + signY * double(number(QStringLiteral("ArtInner_OfpY"), 0.0F)));
+}
+
+void ZQComplexorTran::storeInnerMatrix(const QDomElement &element, QJsonObject &json)
+{
+    const auto slide = matrixFromText(json.value(QLatin1String("SlideMatrix")).toString());
+    json.insert(QLatin1String("Matrix"), matrixToText(innerMatrix(element) * slide.value_or(QMatrix())));
+}

@@ -1,0 +1,26 @@
+#ifndef ZQPHYSICSTRAN_H
+#define ZQPHYSICSTRAN_H
+
+#include "zqdisciplineitemtran.h"
+
+#include <memory>
+
+/*!
+ * The apparatus of the physics box: circuit parts, lenses, mechanics, measuring tools. A vocabulary and nothing else.
+ */
+class ZQPhysicsTran : public ZQDisciplineItemTran
+{
+public:
+    explicit ZQPhysicsTran(const QString &type);
+
+    //! Null for a type that isn't of this family.
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The ZQTX type of any text with "ZQPhysics" in it, listed or not: ZQPhysicsKaiGuan1 gives Physics:kaiguan1.
+    static QString toTxType(const QString &type);
+
+    //! The item type of a text with "Physics:" in it; what stands behind may be written in any case.
+    static QString fromTxType(const QString &type);
+};
+
+#endif // ZQPHYSICSTRAN_H

@@ -1,0 +1,389 @@
+#include "pluginfixture.h"
+
+#include <QJsonArray>
+#include <QtTest>
+
+namespace {
+
+// A slide of 1440 x 1080, which raw items fill as they are.
+QJsonObject fittingSlide()
+{
+    return json("{'slide': {'SlideSourceRect': '0,0,1440,1080'}}");
+}
+
+// What a conversion read beyond the keys that every item has.
+QJsonObject ownKeys(QJsonObject item)
+{
+    for (const char *key : {"Type", "ID", "Visible", "LockIn", "InfiniteClone", "Matrix", "SlideMatrix"}) {
+        item.remove(QLatin1String(key));
+    }
+    return item;
+}
+
+QJsonObject readRaw(const QString &text)
+{
+    return plugin()->tranItemXML2JSON(xml(text), fittingSlide());
+}
+
+QJsonObject readZqtx(const QString &text)
+{
+    return plugin()->tranItemZQTX2JSON(xml(text), {});
+}
+
+QString discipline(const QString &type, const QString &content = {})
+{
+    return QStringLiteral(R"(<discipline type="%1">%2</discipline>)").arg(type, content);
+}
+
+QString row(const char *label, const char *value)
+{
+    return QStringLiteral(R"(<property name="%1" value="%2"/>)").arg(QLatin1String(label), QLatin1String(value));
+}
+
+// The property rows of a ZQTX element that have a label, as "label=value" in ascending order between bars.
+QString propertyRows(const QDomElement &element)
+{
+    QStringList rows;
+    const QDomElement properties = element.firstChildElement(QStringLiteral("properties"));
+    for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+        const QString label = row.attribute(QStringLiteral("name"));
+        if (!label.isEmpty()) {
+            rows.append(label + QLatin1Char('=') + row.attribute(QStringLiteral("value")));
+        }
+    }
+    rows.sort();
+    return rows.join(QLatin1Char('|'));
+}
+
+} // namespace
+
+/*!
+ * The subject boxes: physics, chemistry, vector shapes, figures and literature, and the base of the first four.
+ */
+class TestSubjects : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void typesGoToZqtx_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("txType");
+        const auto add = [](const char *type, const char *txType) {
+            QTest::newRow(type) << QString::fromLatin1(type) << QString::fromLatin1(txType);
+        };
+        add("ZQPhysicsHuaDongBianZuQi2", "Physics:huadongbianzuqi2");
+        add("ZQChemistryQLBoLiDaoGuan", "Chemistry:qlbolidaoguan");
+        add("ZQChemistryExpressions", "Chemistry:expressions");
+        add("ZQVectorYuanjiaojuxing2", "Vector:yuanjiaojuxing2");
+        add("ZQShapeFeiji", "ZQShapeFeiji");
+        add("ZQLiteratureHanzibihua", "Chinese:hanzibihua");
+        add("ZQLiteratureYinbiao", "English:yinbiao");
+        add("ZQCommonYishuzi", "ZQCommonYishuzi");
+    }
+
+    void typesGoToZqtx()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, txType);
+        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, {{QStringLiteral("Type"), type}});
+        QCOMPARE(element.tagName(), QStringLiteral("discipline"));
+        QCOMPARE(element.attribute(QStringLiteral("type")), txType);
+    }
+
+    void typesComeFromZqtx_data()
+    {
+        QTest::addColumn<QString>("txType");
+        QTest::addColumn<QString>("type");
+        const auto add = [](const char *txType, const char *type) {
+            QTest::newRow(txType) << QString::fromLatin1(txType) << QString::fromLatin1(type);
+        };
+        add("Physics:kaiguan1", "ZQPhysicsKaiGuan1");
+        add("Physics:KAIGUAN1", "ZQPhysicsKaiGuan1");
+        add("physics:kaiguan1", "");
+        add("Physics:nothing", "");
+        add("ZQPhysicsLaBa", "ZQPhysicsLaBa");
+        add("Chemistry:jiujingdeng", "ZQChemistryJiujingdeng");
+        add("Chemistry:Jiujingdeng", "");
+        add("Chemistry:expressions", "");
+        add("ZQChemistryExpressions", "ZQChemistryExpressions");
+        add("Vector:xiaolian1", "ZQVectorXiaolian1");
+        add("Vector:", "");
+        add("Shape:quxianjiantou", "ZQShapeQuxianjiantou");
+        add("Shape:Feiji", "");
+        add("ZQShapeFeiji", "ZQShapeFeiji");
+        add("Chinese:pinyin", "ZQLiteraturePinyin");
+        add("English:pinyin", "");
+        add("ZQCommonYishuzi", "ZQCommonYishuzi");
+    }
+
+    void typesComeFromZqtx()
+    {
+        QFETCH(QString, txType);
+        QFETCH(QString, type);
+        QCOMPARE(readZqtx(discipline(txType)).value(QLatin1String("Type")).toString(), type);
+    }
+
+    void readsRaw_data()
+    {
+        QTest::addColumn<QString>("raw");
+        QTest::addColumn<QJsonObject>("expected");
+        const auto add = [](const char *name, const char *raw, const char *expected) {
+            QTest::newRow(name) << QString::fromLatin1(raw) << json(expected);
+        };
+        add("control points end at a hole",
+            R"(<ZQPhysicsLaBa Bound="9,9,0,0,1,1" Discipline_xControl0="1.5" Discipline_yControl0="x" )"
+            R"(Discipline_xControl2="3" Discipline_yControl2="4"/>)",
+            "{'Control': [1.5, 0]}");
+        add("half a control point", R"(<ZQPhysicsLaBa Discipline_xControl0="1"/>)", "{}");
+        add("control points in single precision",
+            R"(<ZQPhysicsLaBa Discipline_xControl0="0.1" )"
+            R"(Discipline_yControl0="16777217"/>)",
+            "{'Control': [0.10000000149011612, 16777216]}");
+        add("a colour element before an attribute, alpha and channels left out",
+            R"(<ZQPhysicsLaBa ArtObj_Color="51,1,2,3" LineColor="51,1,2,3"><x><ArtObj_Color r="255"/></x></ZQPhysicsLaBa>)",
+            "{'ArtObj_Color': {'Alpha': 1, 'Solid': 16711680}, 'LineColor': {'Alpha': 0.2, 'Solid': 66051}}");
+        add("a colour attribute that is too short", R"(<ZQPhysicsLaBa ArtObj_Color10="1,2,3"/>)",
+            "{'ArtObj_Color10': '1,2,3'}");
+        add("points under names of their own",
+            R"(<ZQPhysicsDianHe ArtObj_Prop="1" ArtObj_Sound="2"><ArtObj_Point x="3" y="4"/></ZQPhysicsDianHe>)",
+            "{'ArtObj_PointX': '3', 'ArtObj_PointY': '4', 'ArtObj_Prop': '1'}");
+        add("ranges of points",
+            R"(<ZQPhysicsLi><ArtObj_Point9 x="1" y="2"/><ArtObj_Point10 x="3" y="4"/></ZQPhysicsLi>)",
+            "{'ArtObj_Point9x': '1', 'ArtObj_Point9y': '2'}");
+        add("width left out", R"(<ZQPhysicsUXingCiTie ArtObj_Width="5" ArtObj_Height="6"/>)", "{'ArtObj_Height': '6'}");
+        add("width kept", R"(<ZQPhysicsTiaoXingCiTie ArtObj_Width="5"/>)", "{'ArtObj_Width': '5'}");
+        add("chemistry's common keys", R"(<ZQChemistryTiejiatai XScale="2" ArtObj_Mh="3" ArtObj_DisplayX="1"/>)",
+            "{'XScale': '2', 'ArtObj_Mh': '3', 'ArtObj_DisplayX': '1'}");
+        add("a colour that is also plain", R"(<ZQChemistryQiPao ArtObj_Color="255,0,1,0"/>)",
+            "{'ArtObj_Color': {'Alpha': 1, 'Solid': 256}}");
+        add("control points that are also plain",
+            R"(<ZQChemistryFlask Discipline_xControl0="1" Discipline_yControl0="2"/>)",
+            "{'Control': [1, 2], 'Discipline_xControl0': '1', 'Discipline_yControl0': '2'}");
+        add("a figure's control points and corners",
+            R"(<ZQShapeLianjiexian Discipline_xControl0="1" Discipline_yControl0="2" ArtObj_InterpointNumber="1">)"
+            R"(<ArtObj_InterPoint19 x="3" y="4"/><ArtObj_InterPoint20 x="5" y="6"/></ZQShapeLianjiexian>)",
+            "{'ArtObj_InterPoint19x': '3', 'ArtObj_InterPoint19y': '4', 'ArtObj_InterpointNumber': '1',"
+            " 'Control': [1, 2]}");
+        add("a word that is always hidden", R"(<ZQLiteratureYinbiao ArtObj_WriteDanci="0" ArtObj_DanciPos="0"/>)",
+            "{'WordAtLeft': '0', 'WordHide': '1'}");
+        add("a word that isn't told", R"(<ZQLiteratureYinbiao ArtObj_English="cat"/>)", "{'ArtObj_English': 'cat'}");
+        add("art text keeps its bound", R"(<ZQCommonYishuzi Bound="3,4,0,0,1,2" ArtObj_Height="7"/>)",
+            "{'ArtObj_Height': '7', 'BoundingBox': '1,2,3,4'}");
+    }
+
+    void readsRaw()
+    {
+        QFETCH(QString, raw);
+        QFETCH(QJsonObject, expected);
+        QCOMPARE(toText(ownKeys(readRaw(raw))), toText(expected));
+    }
+
+    void cardsWithoutRawFormReadEmpty()
+    {
+        QVERIFY(readRaw(QStringLiteral(R"(<ZQLiteraturePinyin NetID="1" ArtObj_Pinyin="ma"/>)")).isEmpty());
+        QVERIFY(readRaw(QStringLiteral(R"(<ZQLiteratureHanzibihua NetID="1"/>)")).isEmpty());
+    }
+
+    void readsZqtx_data()
+    {
+        QTest::addColumn<QString>("zqtx");
+        QTest::addColumn<QJsonObject>("expected");
+        const auto add = [](const char *name, const char *type, const QString &content, const char *expected) {
+            QTest::newRow(name) << discipline(QLatin1String(type), content) << json(expected);
+        };
+        const auto properties = [](const QString &rows) -> QString {
+            return QStringLiteral("<properties>") + rows + QStringLiteral("</properties>");
+        };
+        const auto rect = [](const char *control) {
+            return QStringLiteral(R"(<data><rect points="1,2,3,4" controlpoints="%1"/></data>)")
+                .arg(QLatin1String(control));
+        };
+        add("a colour with alpha", "Physics:laba", properties(row("Color of edge", "51,255,0,0")),
+            "{'ArtObj_Color0': {'Alpha': 0.2, 'Solid': 16711680}}");
+        add("a colour without alpha", "Physics:laba", properties(row("Color of edge", "255,0,x")),
+            "{'ArtObj_Color0': {'Alpha': 1, 'Solid': 16711680}}");
+        add("an empty colour", "Physics:laba", properties(row("Color of edge", "")), "{'ArtObj_Color0': {}}");
+        add("a short colour", "Physics:laba", properties(row("Color of edge", "1,2")), "{'ArtObj_Color0': {}}");
+        add("control points in double precision", "Physics:laba", rect("0.1,16777217,"),
+            "{'BoundingBox': '1,2,3,4', 'Control': [0.1, 16777217, 0]}");
+        add("no control points", "Physics:laba", rect(""), "{'BoundingBox': '1,2,3,4', 'Control': []}");
+        add("two keys of one label", "Physics:tutoujing", properties(row("Fill color", "0,0,1")),
+            "{'ArtObj_Color0': {'Alpha': 1, 'Solid': 1}, 'ArtObj_Color1': {'Alpha': 1, 'Solid': 1}}");
+        add("liquids of a funnel", "Chemistry:fenyeloudoua", properties(row("Color of underlayer liquid", "0,0,1")),
+            "{'ArtObj_LiquidColor1': {'Alpha': 1, 'Solid': 1}}");
+        add("liquids of a round funnel", "Chemistry:qiuxingfenyeloudou",
+            properties(row("Color of underlayer liquid", "0,0,1") + row("Color of liquid", "0,0,1") + row("m_h", "5")),
+            "{'ArtObj_Color0': {'Alpha': 1, 'Solid': 1}}");
+        add("a figure has no control points", "Shape:feiji", rect("1,2"), "{'BoundingBox': '1,2,3,4'}");
+        add("a card's texts", "Chinese:pinyin", rect("1,2") + properties(row("Chinese word", "ma")),
+            "{'BoundingBox': '1,2,3,4', 'ChineseWord': 'ma', 'Control': '1,2', 'InitBound': '1,2,3,4'}");
+        add("a shape without outline", "Vector:juxing", {}, "{'manager': ''}");
+    }
+
+    void readsZqtx()
+    {
+        QFETCH(QString, zqtx);
+        QFETCH(QJsonObject, expected);
+        QCOMPARE(toText(ownKeys(readZqtx(zqtx))), toText(expected));
+    }
+
+    void writesProperties_data()
+    {
+        QTest::addColumn<QJsonObject>("item");
+        QTest::addColumn<QString>("rows");
+        const auto add = [](const char *name, const char *item, const char *rows) {
+            QTest::newRow(name) << json(item) << QString::fromLatin1(rows);
+        };
+        add("the later key of one label",
+            "{'Type': 'ZQPhysicsAotoujing', 'ArtObj_Color0': '1,2,3', 'ArtObj_Color1': '4,5,6'}", "Fill color=4,5,6");
+        add("a key that only the raw form has", "{'Type': 'ZQPhysicsDianHe', 'ArtObj_Prop': '1', 'ArtObj_Width': '2'}",
+            "width=2");
+        add("the same key where ZQTX has it", "{'Type': 'ZQPhysicsDianZi', 'ArtObj_Prop': '1'}", "Positron-electron=1");
+        add("renamed common rows",
+            "{'Type': 'ZQChemistryJiujingdeng', 'ArtObj_LiquidColor': '1,2,3', 'ArtObj_DisplayLiquid': '1', "
+            "'ArtObj_Mw': '4'}",
+            "Alohol color=1,2,3|With alcohol inside=1|m_x=4");
+        add("some common rows taken out",
+            "{'Type': 'ZQChemistryXiangPiGuan', 'ArtObj_LiquidColor': '1,2,3', 'ArtObj_DisplayLiquid': '1', "
+            "'ArtObj_Mh': '4'}",
+            "m_h=4");
+        add("all common rows taken out", "{'Type': 'ZQChemistryJian', 'ArtObj_Type': '1', 'ArtObj_Mh': '4'}", "Type=1");
+        add("colours of the cloud", "{'Type': 'ZQShapeYuntu', 'ArtObj_Color0': '1,2,3'}", "Fill Color=1,2,3");
+        add("colours of the plane", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': '1,2,3'}", "Color of edge=1,2,3");
+        add("twenty corners",
+            "{'Type': 'ZQShapeYiduiduoshu', 'ArtObj_InterPoint19y': '1', 'ArtObj_InterPoint20x': '2', "
+            "'ArtObj_Point3x': '3'}",
+            "ArtObj_InterPoint19y=1|Point3x=3");
+        add("only texts", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': {'Solid': 1, 'Alpha': 1}, 'ArtObj_Fill': '1'}",
+            "isFill=1");
+    }
+
+    void writesProperties()
+    {
+        QFETCH(QJsonObject, item);
+        QFETCH(QString, rows);
+        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, item);
+        QCOMPARE(propertyRows(element), rows);
+    }
+
+    void cardsAreWrittenWithoutTransform()
+    {
+        const QDomElement card = plugin()->tranItemJSON2ZQTX(
+            {},
+            json("{'Type': 'ZQLiteratureYinbiao', 'Angle': '1', 'BoundingBox': '0,0,1,1', 'InitBound': '0,0,2,2',"
+                 " 'Control': '5,6'}"));
+        QCOMPARE(toText(card.firstChildElement(QStringLiteral("transform"))), QStringLiteral("<transform/>"));
+        const QDomElement rect = card.firstChildElement(QStringLiteral("data")).firstChildElement();
+        QCOMPARE(rect.attribute(QStringLiteral("points")), QStringLiteral("0,0,2,2"));
+        QCOMPARE(rect.attribute(QStringLiteral("controlpoints")), QStringLiteral("5,6"));
+        const QDomElement apparatus = plugin()->tranItemJSON2ZQTX({}, json("{'Type': 'ZQPhysicsLaBa', 'Angle': '1'}"));
+        QCOMPARE(toText(apparatus.firstChildElement(QStringLiteral("transform"))),
+                 QStringLiteral(R"(<transform><rotate angle="1"/></transform>)"));
+    }
+
+    void placesByInnerMatrix_data()
+    {
+        QTest::addColumn<QString>("attributes");
+        QTest::addColumn<QString>("sourceRect");
+        QTest::addColumn<QVector<double>>("matrix");
+        const auto add = [](const char *name, const char *attributes, const char *sourceRect,
+                            const QVector<double> &matrix) {
+            QTest::newRow(name) << QString::fromLatin1(attributes) << QString::fromLatin1(sourceRect) << matrix;
+        };
+        add("flips are on unless they say 0", R"(TransformMatrix="5,5,5,5,5,5")", "0,0,1440,1080",
+            {-1, 0, 0, -1, 0, 0});
+        add("a quarter turn", R"(ArtInner_HorzFlip="0" ArtInner_VertFlip="0" ArtInner_Rotate="90")", "0,0,1440,1080",
+            {0, -1, 1, 0, 0, 0});
+        add("one flip, zoom and offset",
+            R"(ArtInner_VertFlip="0" ArtInner_Rotate="90" ArtInner_Zoom="2" ArtInner_Zoom_Y="3")"
+            R"( ArtInner_CenterPointX="10" ArtInner_CenterPointY="20" ArtInner_OfpX="1" ArtInner_OfpY="2")",
+            "0,0,1440,1080", {0, -3, -2, 0, 9, 22});
+        add("then fitted to the page",
+            R"(ArtInner_HorzFlip="0" ArtInner_VertFlip="0" ArtInner_CenterPointX="100" ArtInner_CenterPointY="50")",
+            "0,0,1024,768", {1.40625, 0, 0, 1.40625, 140.625, 70.3125});
+    }
+
+    void placesByInnerMatrix()
+    {
+        QFETCH(QString, attributes);
+        QFETCH(QString, sourceRect);
+        QFETCH(QVector<double>, matrix);
+        QJsonObject slide{{QLatin1String("SlideSourceRect"), sourceRect}};
+        const QJsonObject context{{QLatin1String("slide"), slide}};
+        for (const char *type : {"ZQVectorJuxing", "ZQShapeFeiji"}) {
+            const QString raw = QStringLiteral("<%1 %2/>").arg(QLatin1String(type), attributes);
+            const QJsonObject item = plugin()->tranItemXML2JSON(xml(raw), context);
+            const QStringList numbers = item.value(QLatin1String("Matrix")).toString().split(QLatin1Char(','));
+            QCOMPARE(numbers.size(), matrix.size());
+            for (int i = 0; i < matrix.size(); ++i) {
+                QVERIFY2(qAbs(numbers.at(i).toDouble() - matrix.at(i)) < 1e-6,
+                         qPrintable(numbers.join(QLatin1Char(','))));
+            }
+        }
+    }
+
+    void readsOutlines_data()
+    {
+        QTest::addColumn<QString>("paths");
+        QTest::addColumn<QJsonObject>("expected");
+        const auto add = [](const char *name, const char *paths, const char *expected) {
+            QTest::newRow(name) << QString::fromLatin1(paths) << json(expected);
+        };
+        add("a path left out and one too many",
+            R"(<ArtVectObj_Path0><ArtVectObj_Point0 x0="1" y0="2" x1="3" x2="5" y2="0.1" Type="2"/></ArtVectObj_Path0>)"
+            R"(<ArtVectObj_Path2><ArtVectObj_Point0 x0="7" Type="9"/></ArtVectObj_Path2>)"
+            R"(<ArtVectObj_Path4><ArtVectObj_Point0 x0="8"/></ArtVectObj_Path4>)",
+            "{'VectorControl0': [1, 2, 3, 0, 5, 0.10000000149011612], 'VectorControl2': [7, 0, 0, 0, 0, 0],"
+            " 'VectorPathType': 2}");
+        add("a point left out, in any order and at any depth",
+            R"(<ArtVectObj_Path1><ArtVectObj_Point3 x0="4"/><ArtVectObj_Point1 x0="2"/>)"
+            R"(<g><ArtVectObj_Point0 x0="1"/></g><ArtVectObj_Point0 x0="9"/></ArtVectObj_Path1>)",
+            "{'VectorControl1': [1, 0, 0, 0, 0, 0, 2, 0, 0, 0, 0, 0]}");
+        add("a type that is no number",
+            R"(<ArtVectObj_Path0><ArtVectObj_Point0 Type="x"/></ArtVectObj_Path0><ArtVectObj_Path3/>)",
+            "{'VectorControl0': [0, 0, 0, 0, 0, 0], 'VectorPathType': 0}");
+    }
+
+    void readsOutlines()
+    {
+        QFETCH(QString, paths);
+        QFETCH(QJsonObject, expected);
+        const QString manager = QStringLiteral("<ArtVectObj_Manager>%1</ArtVectObj_Manager>").arg(paths);
+        for (const QString &text :
+             {QStringLiteral("<ZQVectorJuxing><x>%1</x></ZQVectorJuxing>").arg(manager),
+              discipline(QStringLiteral("Vector:juxing"), QStringLiteral("<x>%1</x>").arg(manager))}) {
+            const bool raw = text.startsWith(QLatin1String("<ZQ"));
+            const QDomElement element = xml(text);
+            const auto read = [raw, &element] {
+                return ownKeys(raw ? plugin()->tranItemXML2JSON(element, fittingSlide())
+                                   : plugin()->tranItemZQTX2JSON(element, {}));
+            };
+            QJsonObject item = read();
+            const QString taken = item.take(QLatin1String("manager")).toString();
+            QCOMPARE(toText(item), toText(expected));
+            QCOMPARE(toText(element.firstChildElement()), QStringLiteral("<x/>"));
+            // The outline is gone from the tree; a second look finds none.
+            QCOMPARE(toText(read()), raw ? QStringLiteral("{}") : QStringLiteral(R"({"manager":""})"));
+
+            const QDomElement written = plugin()->tranItemJSON2ZQTX(
+                {}, {{QStringLiteral("Type"), QStringLiteral("ZQVectorJuxing")}, {QStringLiteral("manager"), taken}});
+            const QJsonObject again = plugin()->tranItemZQTX2JSON(written, {});
+            for (auto it = expected.constBegin(); it != expected.constEnd(); ++it) {
+                QCOMPARE(again.value(it.key()), it.value());
+            }
+        }
+    }
+
+    void writesNoBrokenOutline()
+    {
+        for (const char *manager : {"''", "'<ArtVectObj_Manager><ArtVectObj_Path0>'", "'text'", "{}"}) {
+            const QByteArray item = QByteArray("{'Type': 'ZQVectorJuxing', 'manager': ") + manager + '}';
+            const QDomElement written = plugin()->tranItemJSON2ZQTX({}, json(item.constData()));
+            QCOMPARE(written.lastChildElement().tagName(), QStringLiteral("data"));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSubjects)
+#include "tst_subjects.moc"
