@@ -5,7 +5,7 @@
 namespace {
 
 // Reading, printing and releasing a DOM takes stack for each level.
-const int deepestNesting = 1000;
+const int deepestNesting = 4000;
 
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED

@@ -1,24 +1,35 @@
 #include "translatorchains.h"
 
+#include "zqactivityitemtran.h"
+#include "zqbasicgraphitemtran.h"
+#include "zqcharacteritemtran.h"
 #include "zqchemistrytran.h"
+#include "zqchinesealphabetitemtran.h"
 #include "zqcomplexortran.h"
 #include "zqfiguretran.h"
+#include "zqgentooltran.h"
 #include "zqgroupitemtran.h"
 #include "zqliteraturetran.h"
 #include "zqmathematicstran.h"
+#include "zqmathsubjecttran.h"
 #include "zqmediaitemtran.h"
+#include "zqmindmaptran.h"
+#include "zqphoneticitemtran.h"
 #include "zqphysicstran.h"
+#include "zqquestionsitemtran.h"
 #include "zqstrokestran.h"
 #include "zqtextboxtran.h"
+#include "zqwordlatticeitemtran.h"
 
 namespace {
 
 using Create = std::unique_ptr<ZQHTran> (*)(const QString &type);
 using MapType = QString (*)(const QString &type);
 
-// Each list in the order its families are asked, one a line.
+// Each list in the order in which its families are asked, one a line.
 // clang-format off
 const Create itemFamilies[] = {
+    ZQActivityItemTran::create,
     ZQChemistryTran::create,
     ZQComplexorTran::create,
     ZQFigureTran::create,
@@ -28,6 +39,15 @@ const Create itemFamilies[] = {
     ZQStrokesTran::create,
     ZQMediaItemTran::create,
     ZQTextBoxTran::create,
+    ZQGenToolTran::create,
+    ZQMindMapTran::create,
+    ZQBasicGraphItemTran::create,
+    ZQCharacterItemTran::create,
+    ZQChineseAlphabetItemTran::create,
+    ZQMathSubjectTran::create,
+    ZQWordLatticeItemTran::create,
+    ZQPhoneticItemTran::create,
+    ZQQuestionsItemTran::create,
 };
 
 const Create iwbFamilies[] = {
@@ -40,9 +60,17 @@ const Create iwbFamilies[] = {
     ZQStrokesTran::create,
     ZQMediaItemTran::create,
     ZQTextBoxTran::create,
+    ZQGenToolTran::create,
+    ZQMindMapTran::create,
+    ZQQuestionsItemTran::create,
 };
 
 const MapType toTxTypeFamilies[] = {
+    ZQWordLatticeItemTran::toTxType,
+    ZQChineseAlphabetItemTran::toTxType,
+    ZQCharacterItemTran::toTxType,
+    ZQMathSubjectTran::toTxType,
+    ZQActivityItemTran::toTxType,
     ZQMathematicsTran::toTxType,
     ZQChemistryTran::toTxType,
     ZQPhysicsTran::toTxType,
@@ -54,6 +82,11 @@ const MapType toTxTypeFamilies[] = {
 };
 
 const MapType fromTxTypeFamilies[] = {
+    ZQWordLatticeItemTran::fromTxType,
+    ZQChineseAlphabetItemTran::fromTxType,
+    ZQCharacterItemTran::fromTxType,
+    ZQMathSubjectTran::fromTxType,
+    ZQActivityItemTran::fromTxType,
     ZQMathematicsTran::fromTxType,
     ZQChemistryTran::fromTxType,
     ZQPhysicsTran::fromTxType,

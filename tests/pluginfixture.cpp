@@ -39,22 +39,28 @@ QDomElement xml(const QString &text)
 QString toText(const QDomElement &element)
 {
     QMap<QString, QString> attributes;
-    for (int i = 0; i < element.attributes().count(); ++i) {
-        const QDomAttr attribute = element.attributes().item(i).toAttr();
-        attributes.insert(attribute.name(), attribute.value());
+    const QDomNamedNodeMap nodes = element.attributes();
+    for (int i = 0; i < nodes.count(); ++i) {
+        attributes.insert(nodes.item(i).nodeName(), nodes.item(i).nodeValue().toHtmlEscaped());
     }
     QString text = QLatin1Char('<') + element.tagName();
     for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
-        text += QStringLiteral(" %1=\"%2\"").arg(it.key(), it.value());
+        text += QLatin1Char(' ') + it.key() + QLatin1String("=\"") + it.value() + QLatin1Char('"');
     }
-    if (!element.hasChildNodes()) {
-        return text + QStringLiteral("/>");
+    QString content;
+    QTextStream stream(&content);
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isElement()) {
+            stream << toText(child.toElement());
+        } else {
+            child.save(stream, -1);
+        }
     }
-    text += QLatin1Char('>');
-    for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-        text += node.isElement() ? toText(node.toElement()) : node.nodeValue();
+    stream.flush();
+    if (content.isEmpty()) {
+        return text + QLatin1String("/>");
     }
-    return text + QStringLiteral("</%1>").arg(element.tagName());
+    return text + QLatin1Char('>') + content + QLatin1String("</") + element.tagName() + QLatin1Char('>');
 }
 
 QJsonObject json(const char *text)

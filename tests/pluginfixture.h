@@ -9,6 +9,11 @@
 
 // What tests of the plug-in share: the plug-in itself, loaded once, and short ways to write XML and JSON.
 
+inline QString operator""_s(const char *text, std::size_t size)
+{
+    return QString::fromUtf8(text, int(size));
+}
+
 //! The plug-in's object, loaded through the Qt plug-in loader. Fails the program if it can't be loaded.
 QObject *pluginObject();
 IZQTransformation *plugin();
@@ -16,7 +21,7 @@ IZQTransformation *plugin();
 //! The document element of xml, in a document that lives to the end of the test.
 QDomElement xml(const QString &text);
 
-//! The element as text without indentation, its attributes in ascending order.
+//! The element as text without indentation, attributes in ascending order.
 QString toText(const QDomElement &element);
 
 //! The object of a JSON text, in which ' stands for ".

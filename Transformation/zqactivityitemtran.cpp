@@ -1,0 +1,211 @@
+#include "zqactivityitemtran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+
+namespace {
+
+const QLatin1String flipCard("ZQActivityFlipItem");
+const QLatin1String attachments("attachments");
+
+const FamilyVocabulary &vocabulary()
+{
+    static const KeyPaths defaultText = {
+        path("defaultTextSize", "data", "content", "defaultTextSize"),
+        path("defaultTextFamily", "data", "content", "defaultTextFamily"),
+        path("defaultTextAlignment", "data", "content", "defaultTextAlignment"),
+        path("defaultTextColor", "data", "content", "defaultTextColor"),
+    };
+    static const FamilyVocabulary table(
+        {{},
+         {},
+         {path("document", "background", "picture", "document"), path("TextHtml", "data", "content", "text"),
+          path("offset", "data", "hot", "offset"), path("TextVOffset", "data", "content", "offset"),
+          path("GapFillingContent", "data", "content", "content"), path("hole", "data", "content", "hole"),
+          path("animal", "data", "content", "animal")}},
+        {
+            {{"ZQActivityFlipItem"},
+             {},
+             {path("frontContent", "data", "front", "frontContent"),
+              path("defaultFrontFontFormat", "data", "frontFont", "defaultFrontFontFormat"),
+              path("defaultBackFontFormat", "data", "backFont", "defaultBackFontFormat")}},
+            {{"container", "material", "ZQActiveContainerItem", "ZQActiveMaterialItem", "ZQActiveContainerClassifyItem",
+              "ZQActiveMaterialClassifyItem", "container_classify", "material_classify",
+              "ZQActiveContainerGapFillingItem", "ZQActiveMaterialGapFillingItem", "container_gapfilling",
+              "material_gapfilling", "ZQActiveMaterialCompetitionItem", "material_competitionItem",
+              "ZQActiveMaterialSentenceItem", "ZQActiveContainerSentenceItem"},
+             {},
+             defaultText},
+        });
+    return table;
+}
+
+// Types of which only a part of the name is told. They have the keys of a container.
+bool hasActivityName(const QString &type)
+{
+    static const QLatin1String parts[] = {
+        QLatin1String("ZQActiveMaterialStudent"),
+        QLatin1String("ZQActiveMaterialComparison"),
+        QLatin1String("ZQActiveContainerComparison"),
+        QLatin1String("ZQActiveMaterialMark"),
+        QLatin1String("ZQActivityPronunciationTestTextItem"),
+        QLatin1String("ZQActivityPronunciationTestTipItem"),
+    };
+    // Most types of a lesson are none of these, and this family is the first to be asked.
+    if (!type.contains(QLatin1String("ZQActiv"))) {
+        return false;
+    }
+    return std::any_of(std::begin(parts), std::end(parts), [&type](QLatin1String part) { return type.contains(part); });
+}
+
+const TypePairs &typePairs()
+{
+    static const TypePairs pairs{
+        {"ZQActiveContainerItem", "container"},
+        {"ZQActiveMaterialItem", "material"},
+        {"ZQActiveContainerClassifyItem", "container_classify"},
+        {"ZQActiveMaterialClassifyItem", "material_classify"},
+        {"ZQActiveContainerGapFillingItem", "container_gapfilling"},
+        {"ZQActiveMaterialGapFillingItem", "material_gapfilling"},
+        {"ZQActiveMaterialCompetitionItem", "material_competitionItem"},
+        {"ZQActivityFlipItem", "ZQActivityFlipItem"},
+        {"ZQActiveMaterialSentenceItem", "ZQActiveMaterialSentenceItem"},
+        {"ZQActiveContainerSentenceItem", "ZQActiveContainerSentenceItem"},
+        {"ZQActiveMaterialStudent1Item", "ZQActiveMaterialStudent1Item"},
+        {"ZQActiveMaterialStudent2Item", "ZQActiveMaterialStudent2Item"},
+        {"ZQActiveMaterialMarkPKItem", "ZQActiveMaterialMarkPKItem"},
+        {"ZQActiveMaterialMarkTipItem", "ZQActiveMaterialMarkTipItem"},
+        {"ZQActivityPronunciationTestTipItem", "ZQActivityPronunciationTestTipItem"},
+        {"ZQActivityPronunciationTestTextItem", "ZQActivityPronunciationTestTextItem"},
+    };
+    return pairs;
+}
+
+bool keepsItsName(const QString &type)
+{
+    return type.contains(QLatin1String("ComparisonItem"));
+}
+
+QString templateHead()
+{
+    return QStringLiteral(
+        R"(<?xml version="1.0" encoding="UTF-8"?>)"
+        R"(<activity_item visible="1" locked="0" type="" uclone="0" id="" name="">)"
+        R"(<transform><rotate angle="0"/></transform><background><picture document=""/></background>)");
+}
+
+QString templateTail(bool isFlipCard)
+{
+    const QLatin1String flipRows(R"(<front frontContent=""/><frontFont defaultFrontFontFormat=""/>)"
+                                 R"(<backFont defaultBackFontFormat=""/>)");
+    const QLatin1String textRows(R"(<content defaultTextSize=""/><content defaultTextFamily=""/>)"
+                                 R"(<content defaultTextAlignment=""/><content defaultTextColor=""/>)");
+    return QLatin1String(R"(<data><rect points="" controlpoints=""/><content text=""/><content content=""/>)")
+        + (isFlipCard ? flipRows : textRows) + QLatin1String(R"(<hot offset=""/></data></activity_item>)");
+}
+
+QString attachmentText(const QJsonObject &texts)
+{
+    return QLatin1String(R"(<attachments><attachment back=")") + texts.value(QLatin1String("back")).toString()
+        + QLatin1String(R"(" front=")") + texts.value(QLatin1String("front")).toString() + QLatin1String(R"(" error=")")
+        + texts.value(QLatin1String("error")).toString() + QLatin1String(R"("/></attachments>)");
+}
+
+QDomElement activityElement(bool isFlipCard, const QJsonObject &json)
+{
+    const auto found = json.constFind(attachments);
+    if (found != json.constEnd()) {
+        return elementFromXml(templateHead() + attachmentText(found->toObject()) + templateTail(isFlipCard));
+    }
+    static const ElementTemplate flip(templateHead() + templateTail(true));
+    static const ElementTemplate other(templateHead() + templateTail(false));
+    return (isFlipCard ? flip : other).instance();
+}
+
+QJsonObject backAndFront(const QDomElement &element)
+{
+    const QString back = QStringLiteral("back");
+    const QString front = QStringLiteral("front");
+    return {{back, element.attribute(back)}, {front, element.attribute(front)}};
+}
+
+} // namespace
+
+ZQActivityItemTran::ZQActivityItemTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    const QString line = vocabulary().contains(type) ? type : QStringLiteral("container");
+    vocabulary().storeIn(line, xmlKeyMap, txKeyMap, iwbKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQActivityItemTran::create(const QString &type)
+{
+    const bool isMine = vocabulary().contains(type) || hasActivityName(type);
+    return isMine ? std::make_unique<ZQActivityItemTran>(type) : nullptr;
+}
+
+QString ZQActivityItemTran::toTxType(const QString &type)
+{
+    const QString txType = typePairs().toTxType(type);
+    if (!txType.isEmpty()) {
+        return txType;
+    }
+    const bool isTxType = keepsItsName(type) || !typePairs().fromTxType(type).isEmpty();
+    return isTxType ? type : QString();
+}
+
+QString ZQActivityItemTran::fromTxType(const QString &type)
+{
+    const QString ownType = typePairs().fromTxType(type);
+    if (!ownType.isEmpty()) {
+        return ownType;
+    }
+    const bool isItemType = keepsItsName(type) || !typePairs().toTxType(type).isEmpty();
+    return isItemType ? type : QString();
+}
+
+QJsonObject ZQActivityItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQComItemControlTran::tranXML2JSON(element, json, context);
+    foldMatrixIntoBox(json);
+    if (element.tagName() == attachments) {
+        json.insert(attachments, backAndFront(element));
+    }
+    return json;
+}
+
+QJsonObject ZQActivityItemTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQComItemControlTran::tranZQTX2JSON(element, json, context);
+    const QString listTag = attachments;
+    const QString entryTag = QStringLiteral("attachment");
+    QDomElement last;
+    for (auto list = element.firstChildElement(listTag); !list.isNull(); list = list.nextSiblingElement(listTag)) {
+        const QDomElement entry = list.lastChildElement(entryTag);
+        if (!entry.isNull()) {
+            last = entry;
+        }
+    }
+    if (!last.isNull()) {
+        json.insert(attachments, backAndFront(last));
+    }
+    return json;
+}
+
+QDomElement ZQActivityItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        element = activityElement(itemType == flipCard, json);
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}
+
+QDomElement ZQActivityItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)
+{
+    return element;
+}
+
+QJsonObject ZQActivityItemTran::tranIWB2JSON(QDomElement, QJsonObject json, QJsonObject)
+{
+    return json;
+}

@@ -1,0 +1,57 @@
+#include "zqcharacteritemtran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+
+namespace {
+
+const PreparedPaths &txPaths()
+{
+    static const PreparedPaths paths = KeyPaths{
+        property("current_text"), property("play_time"),      property("current_background_type"),
+        property("show_right"),   property("current_pinyin"), attribute("document"),
+    };
+    return paths;
+}
+
+const TypePairs &typePairs()
+{
+    static const TypePairs pairs{{"ZQChineseCharacterItem", "character"}};
+    return pairs;
+}
+
+} // namespace
+
+ZQCharacterItemTran::ZQCharacterItemTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    txPaths().storeIn(txKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQCharacterItemTran::create(const QString &type)
+{
+    return type == QLatin1String("ZQChineseCharacterItem") ? std::make_unique<ZQCharacterItemTran>(type) : nullptr;
+}
+
+QString ZQCharacterItemTran::toTxType(const QString &type)
+{
+    return typePairs().toTxType(type);
+}
+
+QString ZQCharacterItemTran::fromTxType(const QString &type)
+{
+    return typePairs().fromTxType(type);
+}
+
+QDomElement ZQCharacterItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        static const ElementTemplate item(
+            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                           R"(<character visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                           R"(<transform><rotate angle="0"/></transform>)"
+                           R"(<data><rect points="" controlpoints=""/></data></character>)"));
+        element = item.instance();
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}

@@ -1,0 +1,23 @@
+#ifndef ZQCHARACTERITEMTRAN_H
+#define ZQCHARACTERITEMTRAN_H
+
+#include "zqcomitemcontroltran.h"
+
+#include <memory>
+
+/*!
+ * The card of a Chinese character: the character, its pinyin and how it is shown.
+ */
+class ZQCharacterItemTran : public ZQComItemControlTran
+{
+public:
+    explicit ZQCharacterItemTran(const QString &type);
+
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+    static QString toTxType(const QString &type);
+    static QString fromTxType(const QString &type);
+
+    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+};
+
+#endif // ZQCHARACTERITEMTRAN_H

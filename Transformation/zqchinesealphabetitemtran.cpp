@@ -1,0 +1,78 @@
+#include "zqchinesealphabetitemtran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+
+namespace {
+
+const PreparedPaths &txPaths()
+{
+    static const PreparedPaths paths = KeyPaths{
+        path("original_alphabet", "data", "content", "original_alphabet"),
+        path("notaion_type", "data", "content", "notaion_type"),
+        path("brick_width", "data", "content", "brick_width"),
+        path("notaion_visible", "data", "content", "notaion_visible"),
+        property("play_time"),
+    };
+    return paths;
+}
+
+const TypePairs &typePairs()
+{
+    static const TypePairs pairs{{"ZQChineseAlphabetItem", "ZQChineseAlphabetItem"}};
+    return pairs;
+}
+
+} // namespace
+
+ZQChineseAlphabetItemTran::ZQChineseAlphabetItemTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    txPaths().storeIn(txKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQChineseAlphabetItemTran::create(const QString &type)
+{
+    return type == QLatin1String("ZQChineseAlphabetItem") ? std::make_unique<ZQChineseAlphabetItemTran>(type) : nullptr;
+}
+
+QString ZQChineseAlphabetItemTran::toTxType(const QString &type)
+{
+    return typePairs().toTxType(type);
+}
+
+QString ZQChineseAlphabetItemTran::fromTxType(const QString &type)
+{
+    return typePairs().fromTxType(type);
+}
+
+QJsonObject ZQChineseAlphabetItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQComItemControlTran::tranXML2JSON(element, json, context);
+    foldMatrixIntoBox(json);
+    return json;
+}
+
+QDomElement ZQChineseAlphabetItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)
+{
+    return element;
+}
+
+QJsonObject ZQChineseAlphabetItemTran::tranIWB2JSON(QDomElement, QJsonObject json, QJsonObject)
+{
+    return json;
+}
+
+QDomElement ZQChineseAlphabetItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        static const ElementTemplate item(
+            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                           R"(<pinyin_item visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                           R"(<transform><rotate angle="0"/></transform>)"
+                           R"(<background><picture document=""/></background>)"
+                           R"(<data><rect points="" controlpoints=""/><content/></data></pinyin_item>)"));
+        element = item.instance();
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}

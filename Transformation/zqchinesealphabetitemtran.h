@@ -1,0 +1,27 @@
+#ifndef ZQCHINESEALPHABETITEMTRAN_H
+#define ZQCHINESEALPHABETITEMTRAN_H
+
+#include "zqcomitemcontroltran.h"
+
+#include <memory>
+
+/*!
+ * A brick of the pinyin alphabet. It has no IWB form.
+ */
+class ZQChineseAlphabetItemTran : public ZQComItemControlTran
+{
+public:
+    explicit ZQChineseAlphabetItemTran(const QString &type);
+
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+    static QString toTxType(const QString &type);
+    static QString fromTxType(const QString &type);
+
+    //! Folds a scale into the box.
+    QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+};
+
+#endif // ZQCHINESEALPHABETITEMTRAN_H

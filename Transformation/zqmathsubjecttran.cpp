@@ -1,0 +1,104 @@
+#include "zqmathsubjecttran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+
+namespace {
+
+const QLatin1String coursewareType("ZQDyCoursewareItem");
+const QLatin1String documentKey("document");
+
+const FamilyVocabulary &vocabulary()
+{
+    static const FamilyVocabulary table(
+        {},
+        {
+            {{"ZQFormulaEditorItem"}, {}, {property("mml"), property("color"), attribute("document")}},
+            {{"ZQDyCoursewareItem"},
+             {},
+             {property("editable"), property("name"), property("dyitemtype"), attribute("document")}},
+        });
+    return table;
+}
+
+const TypePairs &typePairs()
+{
+    static const TypePairs pairs{
+        {"ZQFormulaEditorItem", "mathformula"},
+        {"ZQDyCoursewareItem", "dycourseware"},
+    };
+    return pairs;
+}
+
+// The text of an item; resources is the text of a child or empty.
+QString itemText(const QString &tag, const QString &resources)
+{
+    return QLatin1String(R"(<?xml version="1.0" encoding="UTF-8"?><)") + tag
+        + QLatin1String(R"( visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                        R"(<transform><rotate angle="0"/></transform><data><rect points=""/></data>)")
+        + resources + QLatin1String("</") + tag + QLatin1Char('>');
+}
+
+QDomElement coursewareElement(const QJsonValue &document)
+{
+    const QString tag = QStringLiteral("dycourseware");
+    const QJsonArray files = document.toArray();
+    if (files.size() != 2) {
+        static const ElementTemplate courseware(itemText(tag, {}));
+        return courseware.instance();
+    }
+    return elementFromWellFormedXml(itemText(tag,
+                                        QLatin1String(R"(<res ggb=")") + files.at(1).toString()
+                                            + QLatin1String(R"(" pix=")") + files.at(0).toString()
+                                            + QLatin1String(R"("/>)")));
+}
+
+} // namespace
+
+ZQMathSubjectTran::ZQMathSubjectTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQMathSubjectTran::create(const QString &type)
+{
+    return vocabulary().contains(type) ? std::make_unique<ZQMathSubjectTran>(type) : nullptr;
+}
+
+QString ZQMathSubjectTran::toTxType(const QString &type)
+{
+    return typePairs().toTxType(type);
+}
+
+QString ZQMathSubjectTran::fromTxType(const QString &type)
+{
+    return typePairs().fromTxType(type);
+}
+
+QJsonObject ZQMathSubjectTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    json = ZQComItemControlTran::tranZQTX2JSON(element, json, context);
+    if (itemType == coursewareType && element.tagName() == QLatin1String("dycourseware")) {
+        const QDomElement resources = childByTag(element, QStringLiteral("res"));
+        if (!resources.isNull()) {
+            json.insert(
+                documentKey,
+                QJsonArray{resources.attribute(QStringLiteral("pix")), resources.attribute(QStringLiteral("ggb"))});
+        }
+    }
+    return json;
+}
+
+QDomElement ZQMathSubjectTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        if (itemType == coursewareType) {
+            element = coursewareElement(json.value(documentKey));
+        } else {
+            static const ElementTemplate formula(itemText(QStringLiteral("mathformula"), {}));
+            element = formula.instance();
+        }
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}

@@ -1,0 +1,27 @@
+#ifndef ZQMATHSUBJECTTRAN_H
+#define ZQMATHSUBJECTTRAN_H
+
+#include "zqcomitemcontroltran.h"
+
+#include <memory>
+
+/*!
+ * The formula, a text in a property, and the dynamic courseware, which refers to two files: in JSON under "document"
+ * the picture and the file of the courseware, in ZQTX the attributes pix and ggb of a child <res>.
+ */
+class ZQMathSubjectTran : public ZQComItemControlTran
+{
+public:
+    explicit ZQMathSubjectTran(const QString &type);
+
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+    static QString toTxType(const QString &type);
+    static QString fromTxType(const QString &type);
+
+    QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+    //! References go into a new element as they stand. One that breaks the XML gives a null element.
+    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+};
+
+#endif // ZQMATHSUBJECTTRAN_H

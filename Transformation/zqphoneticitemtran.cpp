@@ -1,0 +1,42 @@
+#include "zqphoneticitemtran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+
+namespace {
+
+const PreparedPaths &txPaths()
+{
+    static const PreparedPaths paths = KeyPaths{
+        path("TextPhonetic", "data", "content", "text"),
+        path("BoundingBox", "data", "rect", "points"),
+        property("Fill_Color", "Fill color"),
+        property("Opacity"),
+    };
+    return paths;
+}
+
+} // namespace
+
+ZQPhoneticItemTran::ZQPhoneticItemTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    txPaths().storeIn(txKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQPhoneticItemTran::create(const QString &type)
+{
+    return type == QLatin1String("ZQChinesePhoneticItem") ? std::make_unique<ZQPhoneticItemTran>(type) : nullptr;
+}
+
+QDomElement ZQPhoneticItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        static const ElementTemplate item(QStringLiteral(
+            R"(<phonetic id="" visible="1" locked="0" uclone="0"  type="phonetic">)"
+            R"(<transform><rotate angle="0"/></transform>)"
+            R"(<data><content text="" type="text"/><rect points="" controlpoints=""/></data></phonetic>)"));
+        element = item.instance();
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}

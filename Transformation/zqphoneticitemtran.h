@@ -1,0 +1,21 @@
+#ifndef ZQPHONETICITEMTRAN_H
+#define ZQPHONETICITEMTRAN_H
+
+#include "zqcomitemcontroltran.h"
+
+#include <memory>
+
+/*!
+ * A text with its phonetic notation. The item type is its own ZQTX type.
+ */
+class ZQPhoneticItemTran : public ZQComItemControlTran
+{
+public:
+    explicit ZQPhoneticItemTran(const QString &type);
+
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+};
+
+#endif // ZQPHONETICITEMTRAN_H

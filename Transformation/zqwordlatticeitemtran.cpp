@@ -1,0 +1,58 @@
+#include "zqwordlatticeitemtran.h"
+
+#include "domhelpers.h"
+#include "keypaths.h"
+
+namespace {
+
+const PreparedPaths &txPaths()
+{
+    static const PreparedPaths paths = KeyPaths{
+        property("Text"),
+        property("FontSize"),
+        property("TextWidth"),
+    };
+    return paths;
+}
+
+const TypePairs &typePairs()
+{
+    static const TypePairs pairs{{"ZQWordLatticeItem", "wordlattice"}};
+    return pairs;
+}
+
+} // namespace
+
+ZQWordLatticeItemTran::ZQWordLatticeItemTran(const QString &type)
+    : ZQComItemControlTran(type)
+{
+    txPaths().storeIn(txKeyMap);
+}
+
+std::unique_ptr<ZQHTran> ZQWordLatticeItemTran::create(const QString &type)
+{
+    return type == QLatin1String("ZQWordLatticeItem") ? std::make_unique<ZQWordLatticeItemTran>(type) : nullptr;
+}
+
+QString ZQWordLatticeItemTran::toTxType(const QString &type)
+{
+    return typePairs().toTxType(type);
+}
+
+QString ZQWordLatticeItemTran::fromTxType(const QString &type)
+{
+    return typePairs().fromTxType(type);
+}
+
+QDomElement ZQWordLatticeItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+{
+    if (element.isNull()) {
+        static const ElementTemplate item(
+            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                           R"(<wordlattice visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                           R"(<transform><rotate angle="0"/></transform>)"
+                           R"(<data><rect points="" controlpoints=""/></data></wordlattice>)"));
+        element = item.instance();
+    }
+    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+}

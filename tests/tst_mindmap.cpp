@@ -1,0 +1,173 @@
+#include "pluginfixture.h"
+
+#include <QtTest>
+
+namespace {
+
+// The writer's log is expected, so that it doesn't count as output of the test. logged is what stands for the item.
+QDomElement written(const QJsonObject &item, const QJsonObject &logged)
+{
+    QString text;
+    QDebug(&text) << logged;
+    QTest::ignoreMessage(QtDebugMsg, "##############ZQComItemControlTran###################");
+    QTest::ignoreMessage(QtDebugMsg, text.trimmed().toUtf8().constData());
+    return plugin()->tranItemJSON2ZQTX({}, item);
+}
+
+QDomElement mapElement(const QString &data)
+{
+    return xml(R"(<mindmap id="" visible="1" locked="0" uclone="0" type="ZQMindMapItem"><transform>)"
+               R"(<rotate angle="0"/></transform><data>)"_s
+               + data + "</data></mindmap>"_s);
+}
+
+// The node that a writer makes of an object with only the keys in more, which is their XML.
+QString node(const QString &more = {})
+{
+    return "<node><pos/><position>0</position><width>0</width><height>0</height><fillColor/><lineColor/>"
+           "<visiable>0</visiable><childrenVisiable>0</childrenVisiable><nodeHtml><![CDATA[]]></nodeHtml>"_s
+        + more + "</node>"_s;
+}
+
+QString mapAround(const QString &root)
+{
+    return "<mapItemInfo><title/><type>0</type><style>0</style><spreadStyle>0</spreadStyle><fillColor/><borderColor/>"
+           "<lineColor/><edge><style>0</style></edge>"_s
+        + root + "</mapItemInfo>"_s;
+}
+
+QJsonArray array(const QString &text)
+{
+    return json(QString("{'a':"_s + text + "}"_s).toUtf8().constData()).value("a"_s).toArray();
+}
+
+} // namespace
+
+/*!
+ * The tree of a mind map in both directions.
+ */
+class TestMindMap : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writesTheTree_data()
+    {
+        QTest::addColumn<QString>("tree");
+        QTest::addColumn<QString>("data");
+
+        QTest::newRow("two entries are no tree") << "[{},{}]"
+                                                 << "";
+        QTest::newRow("a node without keys") << "[{},{},{}]" << mapAround(node());
+        QTest::newRow("empty lists stay lists")
+            << "[{},{},{'childNodes':[],'attachments':[]}]" << mapAround(node("<attachments/><childNodes/>"_s));
+        QTest::newRow("every key")
+            << "[{'title':'T %1','type':1,'style':2,'spreadStyle':3,'fillColor':'f','borderColor':'b','lineColor':'l'},"
+               "{'style':4},{'pos':'1,2','position':5,'width':6,'height':7,'fillColor':'ff','lineColor':'ll',"
+               "'visiable':true,'childrenVisiable':'1','nodeHtml':'<p>a & b</p>','link':'','shade':true,'stamp':8,"
+               "'attachments':[{'type':'t','path':'p','name':'n'}],'childNodes':[]}]"
+            << "<mapItemInfo><title>T %1</title><type>1</type><style>2</style><spreadStyle>3</spreadStyle>"
+               "<fillColor>f</fillColor><borderColor>b</borderColor><lineColor>l</lineColor><edge><style>4</style></"
+               "edge>"
+               "<node><pos>1,2</pos><position>5</position><width>6</width><height>7</height><fillColor>ff</fillColor>"
+               "<lineColor>ll</lineColor><visiable>1</visiable><childrenVisiable>0</childrenVisiable>"
+               "<nodeHtml><![CDATA[<p>a & b</p>]]></nodeHtml><link/><shade>1</shade><stamp>8</stamp><attachments>"
+               "<attachment type='t' path='p' name='n'/></attachments><childNodes/></node></mapItemInfo>";
+        QTest::newRow("descendants in order")
+            << "[{},{},{'childNodes':[{'stamp':1,'childNodes':[{'stamp':2}]},{'stamp':3}]}]"
+            << mapAround(node(
+                   QString("<childNodes>"_s
+                           + node("<stamp>1</stamp><childNodes>"_s + node("<stamp>2</stamp>"_s) + "</childNodes>"_s)
+                           + node("<stamp>3</stamp>"_s) + "</childNodes>"_s)));
+        QTest::newRow("the tree ends where a text breaks it") << "[{'title':'a < b & c'},{},{}]"
+                                                              << "<mapItemInfo><title>a </title></mapItemInfo>";
+        QTest::newRow("nothing grows behind the item")
+            << "[{'title':'</title></mapItemInfo></data></mindmap><!DOCTYPE x><evil>'},{},{}]"
+            << "<mapItemInfo><title/></mapItemInfo>";
+    }
+
+    void writesTheTree()
+    {
+        QFETCH(QString, tree);
+        QFETCH(QString, data);
+        const QJsonObject item{{"Type"_s, "ZQMindMapItem"_s}, {"mindMapData"_s, array(tree)}};
+        QCOMPARE(toText(written(item, item)), toText(mapElement(data)));
+    }
+
+    void readsTheTree_data()
+    {
+        QTest::addColumn<QString>("data");
+        QTest::addColumn<QString>("tree");
+
+        QTest::newRow("no data") << ""
+                                 << "[]";
+        QTest::newRow("no map") << "<rect/><rect/><mapItemInfo/>"
+                                << "[]";
+        QTest::newRow("first") << "<mapItemInfo/>"
+                               << "[{},{},{}]";
+        QTest::newRow("behind the rectangle") << "<rect/><mapItemInfo/>"
+                                              << "[{},{},{}]";
+        QTest::newRow("values of the map, the later one of two")
+            << "<mapItemInfo><title>a</title><title>T</title><style>2</style><borderColor>b</borderColor><other/>"
+               "<edge><style>x</style></edge><edge><style>4</style></edge><node><pos>1</pos></node>"
+               "<node><width>1.5</width></node></mapItemInfo>"
+            << "[{'title':'T','style':2,'borderColor':'b'},{'style':4},{'width':0}]";
+        QTest::newRow("values of a node")
+            << "<mapItemInfo><node><pos>1,2</pos><visiable>1</visiable><shade>1</shade><stamp>7</stamp>"
+               "<nodeHtml><![CDATA[<p>&]]></nodeHtml><attachments><attachment path='p' x='y'/></attachments>"
+               "<childNodes><node><shade>2</shade><childNodes/></node><node><link>l</link></node></childNodes>"
+               "</node></mapItemInfo>"
+            << "[{},{},{'pos':'1,2','visiable':'1','shade':true,'stamp':7,'nodeHtml':'<p>&',"
+               "'attachments':[{'type':'','name':'','path':'p'}],"
+               "'childNodes':[{'shade':false,'childNodes':[]},{'link':'l'}]}]";
+    }
+
+    void readsTheTree()
+    {
+        QFETCH(QString, data);
+        QFETCH(QString, tree);
+        const QJsonObject item = plugin()->tranItemZQTX2JSON(mapElement(data), {});
+        QVERIFY(item.value("mindMapData"_s).isArray());
+        QCOMPARE(item.value("mindMapData"_s).toArray(), array(tree));
+    }
+
+    void leavesAGivenElementItsTree()
+    {
+        const QDomElement given = mapElement("<mapItemInfo><title>old</title></mapItemInfo>"_s);
+        const QJsonObject item = json("{'Type':'ZQMindMapItem','ID':'7','mindMapData':[{'title':'new'},{},{}]}");
+        const QDomElement result = plugin()->tranItemJSON2ZQTX(given, item);
+        QCOMPARE(result.attribute("id"_s), "7"_s);
+        QCOMPARE(result.firstChildElement("data"_s).text(), "old"_s);
+    }
+
+    // Qt can hold this tree, but not save it, and to print it would take most of the stack.
+    void readsAnyDepthAndWritesWhatCanBeSaved()
+    {
+        const int depth = 6000;
+        const QDomElement given = mapElement("<mapItemInfo><node/></mapItemInfo>"_s);
+        QDomDocument document = given.ownerDocument();
+        QDomNode node = given.firstChildElement("data"_s).firstChildElement().firstChildElement();
+        for (int i = 1; i < depth; ++i) {
+            node =
+                node.appendChild(document.createElement("childNodes"_s)).appendChild(document.createElement("node"_s));
+        }
+        QJsonObject item = plugin()->tranItemZQTX2JSON(given, {});
+        int levels = 0;
+        QJsonArray children = {item.value("mindMapData"_s).toArray().at(2)};
+        for (; !children.isEmpty(); ++levels) {
+            children = children.at(0).toObject().value("childNodes"_s).toArray();
+        }
+        QCOMPARE(levels, depth);
+
+        QJsonObject logged = item;
+        logged.remove("mindMapData"_s);
+        const QDomElement result = written(item, logged);
+        QString text;
+        QTextStream stream(&text);
+        result.save(stream, -1);
+        QVERIFY(text.count("<node>"_s) > 512);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMindMap)
+#include "tst_mindmap.moc"
