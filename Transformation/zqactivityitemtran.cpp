@@ -3,6 +3,9 @@
 #include "domhelpers.h"
 #include "keypaths.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 const QLatin1String flipCard("ZQActivityFlipItem");
