@@ -8,7 +8,8 @@
 #include <QPointF>
 #include <QString>
 
-// The svg shapes of mathematics items: how each leaves, what each tag gives back, and the texts that they share.
+// The svg shapes of mathematics items: how each leaves (mathsvg.cpp), what each tag gives back (mathsvgreader.cpp), and
+// the texts that they share.
 
 /*!
  * How a type leaves as an svg shape. The parts that most shapes have in common are told by keys; the geometry is a
@@ -66,6 +67,9 @@ int dashArrayToLineStyle(const QString &text);
 
 //! "rgb(1,2,3)" without "rgb", "(" and ")".
 QString stripRgb(const QString &text);
+
+//! The degrees of an angle in radians, with 3.14159 for pi as the format has it.
+float degreesOf(float radians);
 
 //! A rotation by degrees about a point.
 QMatrix rotationAbout(float degrees, const QPointF &center);
