@@ -10,14 +10,20 @@ const int deepestNesting = 4000;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 
-// Stops the reader at the first element that lies too deep.
+// Stops the reader at the first element that lies too deep, and remembers its line.
 class NestingCheck : public QXmlDefaultHandler
 {
 public:
+    void setDocumentLocator(QXmlLocator *locator) override { m_locator = locator; }
+
     bool startElement(const QString &, const QString &, const QString &, const QXmlAttributes &) override
     {
-        m_tooDeep = ++m_depth > deepestNesting;
-        return !m_tooDeep;
+        if (++m_depth <= deepestNesting) {
+            return true;
+        }
+        m_line = m_locator->lineNumber();
+        m_column = m_locator->columnNumber();
+        return false;
     }
 
     bool endElement(const QString &, const QString &, const QString &) override
@@ -26,26 +32,41 @@ public:
         return true;
     }
 
-    bool isTooDeep() const { return m_tooDeep; }
+    bool isTooDeep() const { return m_line > 0; }
+
+    // The text up to about the tag that lies too deep.
+    QString shallowPart(const QString &xml) const
+    {
+        int start = 0;
+        for (int line = 1; line < m_line; ++line) {
+            start = xml.indexOf(QLatin1Char('\n'), start) + 1;
+        }
+        return xml.left(start + m_column - 1);
+    }
 
 private:
+    QXmlLocator *m_locator = nullptr;
     int m_depth = 0;
-    bool m_tooDeep = false;
+    int m_line = 0;
+    int m_column = 0;
 };
 
 // The deprecated reader is the one that fills the DOM: only it sees the elements that the DOM will see.
-bool isNestedTooDeep(const QString &xml)
+bool parse(QDomDocument &document, const QString &xml)
 {
-    if (xml.count(QLatin1Char('<')) <= deepestNesting) {
-        return false;
+    if (xml.count(QLatin1Char('<')) > deepestNesting) {
+        NestingCheck check;
+        QXmlInputSource source;
+        source.setData(xml);
+        QXmlSimpleReader reader;
+        reader.setContentHandler(&check);
+        reader.parse(source);
+        if (check.isTooDeep()) {
+            document.setContent(check.shallowPart(xml), false);
+            return false;
+        }
     }
-    NestingCheck check;
-    QXmlInputSource source;
-    source.setData(xml);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&check);
-    reader.parse(source);
-    return check.isTooDeep();
+    return document.setContent(xml, false);
 }
 
 QT_WARNING_POP
@@ -55,19 +76,14 @@ QT_WARNING_POP
 QDomElement elementFromXml(const QString &xml)
 {
     QDomDocument document;
-    if (!isNestedTooDeep(xml)) {
-        document.setContent(xml, false);
-    }
+    parse(document, xml);
     return document.documentElement();
 }
 
 QDomElement elementFromWellFormedXml(const QString &xml)
 {
     QDomDocument document;
-    if (isNestedTooDeep(xml) || !document.setContent(xml, false)) {
-        return {};
-    }
-    return document.documentElement();
+    return parse(document, xml) ? document.documentElement() : QDomElement();
 }
 
 ElementTemplate::ElementTemplate(const QString &xml)

@@ -7,8 +7,8 @@
 #include <QString>
 
 //! The document element of xml, parsed without namespace processing into a document of its own. What the parser built
-//! before an error stays: "<animations>" gives an empty element. A text without a start tag gives a null element,
-//! and so does one that nests elements more than 4000 deep.
+//! before an error stays: "<animations>" gives an empty element. A text without a start tag gives a null element.
+//! A text that nests elements more than 4000 deep ends there, as if by an error.
 QDomElement elementFromXml(const QString &xml);
 
 //! The same, but null for a text with any error in it.

@@ -175,9 +175,9 @@ private slots:
         // Members stand in the order of their texts.
         QCOMPARE(actions.keys().mid(0, 4).last(), QStringLiteral("animation_NO==100"));
         QVERIFY(actions.contains(QLatin1String("animation_NO==19999")));
-        // Too deep for a DOM: a trigger of the slide without actions.
-        QCOMPARE(toText(triggers(QLatin1String("<activeItem>") + QStringLiteral("<a>").repeated(200000))),
-                 QStringLiteral("{\"src_NO==0\":{}}"));
+        // Too deep for a DOM: the parse stops early, within the one action.
+        const QString deep = QLatin1String("<activeItem>") + QStringLiteral("<a>").repeated(200000);
+        QCOMPARE(triggers(deep).value(QLatin1String("src_NO==0")).toObject().size(), 1);
     }
 
     void writesSlides()
