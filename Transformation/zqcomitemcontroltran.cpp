@@ -2,6 +2,7 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "nesteditems.h"
 #include "numbertext.h"
 #include "transformationplugin.h"
 #include "translatorchains.h"
@@ -213,21 +214,13 @@ void ZQComItemControlTran::readNestedItems(const QDomElement &element, QJsonObje
     if (item.tagName() == QLatin1String("rect")) {
         item = item.nextSiblingElement();
     }
-    QJsonArray children;
-    bool found = false;
-    for (; !item.isNull(); item = item.nextSiblingElement()) {
-        if (!createTranslator(item.attribute(QStringLiteral("type")))) {
-            continue;
-        }
-        if (!found) {
-            found = true;
-            children = json.take(QLatin1String("Children")).toArray();
-        }
-        children.append(transformationInterface->tranItemZQTX2JSON(item, context));
-    }
-    if (found) {
-        json.insert(QLatin1String("Children"), children);
-    }
+    static const NestedItems::Form form{
+        [](const QDomElement &child) { return createTranslator(child.attribute(QStringLiteral("type"))) != nullptr; },
+        [](const QDomElement &child, const QJsonObject &context) {
+            return transformationInterface->tranItemZQTX2JSON(child, context);
+        },
+        false};
+    NestedItems::read(element, item, json, context, form);
 }
 
 void ZQComItemControlTran::fitToSlide(QJsonObject &json, const QJsonObject &slide)

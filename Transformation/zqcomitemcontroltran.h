@@ -45,7 +45,8 @@ protected:
     static int lessonVersion(const QJsonObject &context);
 
     //! Appends to "Children" what the plug-in makes of the items in the child <data> of a ZQTX element, but for a
-    //! leading <rect> and for items of a type that no family knows.
+    //! leading <rect> and for items of a type that no family knows. Must be the last step of a conversion: an item
+    //! within another one gets its children after its conversion has returned.
     static void readNestedItems(const QDomElement &element, QJsonObject &json, const QJsonObject &context);
 
     QString itemType; //!< as given to the constructor

@@ -2,6 +2,7 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "nesteditems.h"
 #include "translatorchains.h"
 
 namespace {
@@ -39,28 +40,14 @@ QString ZQGroupItemTran::fromTxType(const QString &type)
 QJsonObject ZQGroupItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     json = ZQComItemControlTran::tranXML2JSON(element, json, context);
-    const QLatin1String childrenKey("Children");
-    // Each child goes in front of the ones before it. They are gathered first and turned round once, so that a wide
-    // group costs no more than its children.
-    QVector<QJsonObject> converted;
+    static const NestedItems::Form form{
+        [](const QDomElement &son) { return createTranslator(son.nodeName()) != nullptr; },
+        [](const QDomElement &son, const QJsonObject &context) {
+            return createTranslator(son.nodeName())->tranXML2JSON(son, {}, context);
+        },
+        true};
     const QDomElement sons = childByTag(element, QStringLiteral("GroupSonItems"));
-    for (QDomElement son = sons.firstChildElement(); !son.isNull(); son = son.nextSiblingElement()) {
-        if (const auto translator = createTranslator(son.nodeName())) {
-            converted.append(translator->tranXML2JSON(son, {}, context));
-        }
-    }
-    if (converted.isEmpty()) {
-        return json;
-    }
-    QJsonArray reversed;
-    for (auto it = converted.crbegin(); it != converted.crend(); ++it) {
-        reversed.append(*it);
-    }
-    const QJsonArray former = json.value(childrenKey).toArray();
-    for (const QJsonValue &child : former) {
-        reversed.append(child);
-    }
-    json.insert(childrenKey, reversed);
+    NestedItems::read(element, sons.firstChildElement(), json, context, form);
     return json;
 }
 
