@@ -93,6 +93,14 @@ QJsonObject withOpacityInColor(QJsonObject item)
     return item;
 }
 
+// Some values are found under a name of the host's own.
+void removeIfKept(QJsonObject &item, QLatin1String key, const QJsonValue &kept)
+{
+    if (!kept.isUndefined() && isSameValue(key, item.value(key), kept)) {
+        item.remove(key);
+    }
+}
+
 } // namespace
 
 Comparison::Comparison(LossReport *losses, int slide)
@@ -129,15 +137,12 @@ void Comparison::compareItem(const QJsonObject &given, const QJsonObject &found)
 {
     const QString type = given.value(QLatin1String("Type")).toString();
     QJsonObject own = given;
-    const QLatin1String box("BoundingBox");
     if (isContainer(type)) {
         own.remove(HostKeys::children);
         compareItems(given.value(HostKeys::children).toArray(), found.value(HostKeys::children).toArray());
-        // Version 3 has the box of a container under another key.
-        if (own.value(box) == found.value(HostKeys::ignoredBox)) {
-            own.remove(box);
-        }
     }
+    removeIfKept(own, QLatin1String("BoundingBox"), found.value(HostKeys::ignoredBox));
+    removeIfKept(own, QLatin1String("Control"), found.value(HostKeys::ignoredControl));
     if (found.contains(QLatin1String("Color"))) {
         own = withOpacityInColor(own);
     }

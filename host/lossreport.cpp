@@ -27,11 +27,18 @@ QLatin1String kindName(Loss::Kind kind)
     return QLatin1String("note");
 }
 
+// Deep in a tree, the two ends of the way tell enough.
+QString shortened(const QString &key)
+{
+    constexpr int longest = 80;
+    return key.size() <= longest ? key : key.left(longest / 2) + QLatin1String("...") + key.right(longest / 2);
+}
+
 QString place(const Loss &loss)
 {
     QString text = loss.itemType;
     if (!loss.key.isEmpty()) {
-        text += (text.isEmpty() ? QString() : QStringLiteral(".")) + loss.key;
+        text += (text.isEmpty() ? QString() : QStringLiteral(".")) + shortened(loss.key);
     }
     if (loss.slide > 0) {
         text += QLatin1String(" on slide ") + QString::number(loss.slide);

@@ -261,11 +261,17 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QGuiApplication application(argc, argv);
+    // Qt's own options, "--plugin" among them, are not for it to take.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    int applicationArguments = 1;
+    QGuiApplication application(applicationArguments, argv);
     QCoreApplication::setApplicationName(QStringLiteral("lessonconv"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LESSONCONV_VERSION));
     try {
-        return Command().run(QCoreApplication::arguments());
+        return Command().run(arguments);
     } catch (const LessonError &error) {
         complain(error.message());
     } catch (const std::exception &error) {

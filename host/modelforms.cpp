@@ -234,6 +234,15 @@ QJsonValue plainValue(const QJsonValue &value)
     return text.isNull() ? value : QJsonValue(text);
 }
 
+// What a read had to keep under a name of its own.
+void putBack(QJsonObject &written, QLatin1String keptKey, QLatin1String key)
+{
+    const QJsonValue kept = written.take(keptKey);
+    if (!kept.isUndefined() && !written.contains(key)) {
+        written.insert(key, kept);
+    }
+}
+
 bool isQuestionNumber(const QString &key)
 {
     return std::any_of(std::begin(question), std::end(question), [&key](const KeyChange &row) {
@@ -324,6 +333,11 @@ bool isContainer(const QString &itemType)
         || itemType == QLatin1String("ZQStrokesMathFormula") || itemType == QLatin1String("ZQStrokesChemFormula");
 }
 
+bool isFigure(const QString &itemType)
+{
+    return itemType.startsWith(QLatin1String("ZQShape"));
+}
+
 QString valueText(const QJsonValue &value)
 {
     switch (value.type()) {
@@ -386,7 +400,8 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
     const QString type = item.value(typeKey).toString();
     QJsonObject written = item;
     written.remove(HostKeys::children);
-    written.remove(HostKeys::ignoredBox);
+    putBack(written, HostKeys::ignoredBox, QLatin1String("BoundingBox"));
+    putBack(written, HostKeys::ignoredControl, QLatin1String("Control"));
     const bool isQuestion = type == QLatin1String("ZQQuestionItem");
     if (isQuestion) {
         applyChanges(written, question);
@@ -411,10 +426,6 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
         } else if (!isQuestion || !isQuestionNumber(key)) {
             it.value() = plainValue(value);
         }
-    }
-    const QLatin1String box("BoundingBox");
-    if (item.contains(HostKeys::ignoredBox) && !item.contains(box)) {
-        written.insert(box, item.value(HostKeys::ignoredBox).toString());
     }
     return written;
 }

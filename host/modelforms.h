@@ -13,6 +13,7 @@ namespace HostKeys {
 constexpr QLatin1String children("Children"); //!< nested items of a group or a formula
 constexpr QLatin1String keptXml("KeptXml"); //!< an item nobody can convert, as the XML text that it came as
 constexpr QLatin1String ignoredBox("IgnoredBoundingBox"); //!< the box that a version 3 file has for a group
+constexpr QLatin1String ignoredControl("IgnoredControl"); //!< the control points that a file has for a figure
 constexpr QLatin1String title("Title"); //!< of the presentation
 } // namespace HostKeys
 
@@ -40,5 +41,8 @@ QString pointsAsOffsets(const QString &steps);
 
 //! True for groups and formulas, which hold other items.
 bool isContainer(const QString &itemType);
+
+//! True for the drawn figures, whose control points are written and not read.
+bool isFigure(const QString &itemType);
 
 #endif // MODELFORMS_H

@@ -143,6 +143,11 @@ QString escapedForXml(const QString &text)
 
 QString escapedForCData(const QString &text)
 {
+    if (text.contains(QLatin1Char('\r'))) {
+        // Only a reference keeps it, and only a node of text can hold one. All of the text goes there, since a node of
+        // blanks alone would be dropped.
+        return QLatin1String("]]>") + escapedForXml(text) + QLatin1String("<![CDATA[");
+    }
     QString out;
     out.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
@@ -150,7 +155,5 @@ QString escapedForCData(const QString &text)
             out += text.at(i);
         }
     }
-    out.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
-    out.replace(QLatin1String("\r"), QLatin1String("]]>&#13;<![CDATA["));
-    return out;
+    return out.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
 }

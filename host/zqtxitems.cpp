@@ -66,14 +66,16 @@ QJsonObject keptItem(const QDomElement &element)
     return item;
 }
 
-// The box of a version 3 container, which the plug-in leaves out because an editor works it out from the children.
-void keepIgnoredBox(const QDomElement &element, QJsonObject &item)
+// What stands in the rectangle of an item and is left out by the plug-in: the box of a version 3 container, which an
+// editor works out from the children, and the control points of a figure.
+void keepIgnored(const QDomElement &element, const char *attribute, QLatin1String key, QLatin1String keptKey,
+                 QJsonObject &item)
 {
     const QDomElement rect =
         childWithContent(element, QStringLiteral("data"), true).firstChildElement(QStringLiteral("rect"));
-    const QString points = rect.attribute(QStringLiteral("points"));
-    if (!points.isEmpty() && !item.contains(QLatin1String("BoundingBox"))) {
-        item.insert(HostKeys::ignoredBox, points);
+    const QString text = rect.attribute(QLatin1String(attribute));
+    if (!text.isEmpty() && !item.contains(key)) {
+        item.insert(keptKey, text);
     }
 }
 
@@ -224,7 +226,9 @@ QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &contex
     QJsonObject item = m_plugin->tranItemZQTX2JSON(element, context);
     const QString type = item.value(typeKey).toString();
     if (m_majorVersion == 3 && isContainer(type)) {
-        keepIgnoredBox(element, item);
+        keepIgnored(element, "points", QLatin1String("BoundingBox"), HostKeys::ignoredBox, item);
+    } else if (isFigure(type)) {
+        keepIgnored(element, "controlpoints", QLatin1String("Control"), HostKeys::ignoredControl, item);
     }
     if (type == QLatin1String("ZQQuestionItem")) {
         readQuestionMarkup(element, item);

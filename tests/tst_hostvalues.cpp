@@ -46,6 +46,26 @@ private slots:
         row("box of a version 2 group", "{'Type':'ZQGroupItem','BoundingBox':'1,2,3,4'}", "2.0");
         row("steps of an old stroke", "{'Type':'ZQSmoothStroke','XY':'1000.12,-3,0.333313,0.25,-0.666687,1e+06'}",
             "2.9");
+        row("mind map full of markup",
+            R"({'Type':'ZQMindMapItem','BoundingBox':'1,2,3,4','mindMapData':[{'title':'a < b & c ]]>\r\n','type':1,'style':2,
+            'spreadStyle':0,'fillColor':'<','borderColor':'&amp;','lineColor':''},{'style':3},{'pos':'<1,2>','position':1,
+            'width':2,'height':3,'fillColor':'','lineColor':'','visiable':'1','childrenVisiable':'0','shade':true,'stamp':4,
+            'nodeHtml':'<p>]]>\r\n&lt;</p>','link':'a?b&c','attachments':[{'type':'<','name':'&','path':'\t'}],
+            'childNodes':[{'pos':'','position':0,'width':0,'height':0,'fillColor':'','lineColor':'','visiable':'0',
+            'childrenVisiable':'1','nodeHtml':'deeper','childNodes':[]}]}]})");
+        row("question full of markup",
+            "{'Type':'ZQQuestionItem','R_Content_svg':'<svg>a & b</svg>','R_Answer_svg':']]>','page_state':'<',"
+            "'page_scale':1.23456789,'answer_width':1234567.8,'answer_height':0,'content_width':0.1,'content_height':"
+            "3}");
+        row("courseware", "{'Type':'ZQDyCoursewareItem','document':['a&<>.png','b&.ggb'],'Angle':'1'}");
+        row("wrong answer of a flip card",
+            "{'Type':'ZQActivityFlipItem','attachments':{'back':'<&','front':'f','error':'e'}}");
+        row("colours and points",
+            "{'Type':'ZQPhysicsDianZu','ArtObj_Color0':{'Solid':16711680,'Alpha':0.2},'Control':[1,2.5,3.123456789,4]"
+            "}");
+        row("points of a figure", "{'Type':'ZQShapeFeiji','IgnoredControl':'1,2'}");
+        row("text of a circle, angle of a card", "{'Type':'ZQMath2DCircle','TextHtml':'<b>x</b>'}");
+        row("angle of a card", "{'Type':'ZQLiteraturePinyin','Angle':'0.5','ChineseWord':'<'}");
         row("flags, link and animations of other names",
             "{'Type':'ZQSmoothStroke','Visible':false,'InteractiveValue':'<&>\\t\\n\\r','InteractiveType':'ACTION_"
             "TOOLTIP',"
