@@ -10,20 +10,32 @@ const int deepestNesting = 4000;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 
-// Stops the reader at the first element that lies too deep, and remembers its line.
+// Knows how much of the text has been read, where a line number would depend on what the reader takes for a line.
+class CountingSource : public QXmlInputSource
+{
+public:
+    explicit CountingSource(const QString &xml) { setData(xml); }
+
+    QChar next() override
+    {
+        ++m_read;
+        return QXmlInputSource::next();
+    }
+
+    int charactersRead() const { return m_read; }
+
+private:
+    int m_read = 0;
+};
+
+// Stops the reader at the first element that lies too deep.
 class NestingCheck : public QXmlDefaultHandler
 {
 public:
-    void setDocumentLocator(QXmlLocator *locator) override { m_locator = locator; }
-
     bool startElement(const QString &, const QString &, const QString &, const QXmlAttributes &) override
     {
-        if (++m_depth <= deepestNesting) {
-            return true;
-        }
-        m_line = m_locator->lineNumber();
-        m_column = m_locator->columnNumber();
-        return false;
+        m_isTooDeep = ++m_depth > deepestNesting;
+        return !m_isTooDeep;
     }
 
     bool endElement(const QString &, const QString &, const QString &) override
@@ -32,41 +44,37 @@ public:
         return true;
     }
 
-    bool isTooDeep() const { return m_line > 0; }
-
-    // The text up to about the tag that lies too deep.
-    QString shallowPart(const QString &xml) const
-    {
-        int start = 0;
-        for (int line = 1; line < m_line; ++line) {
-            start = xml.indexOf(QLatin1Char('\n'), start) + 1;
-        }
-        return xml.left(start + m_column - 1);
-    }
+    bool isTooDeep() const { return m_isTooDeep; }
 
 private:
-    QXmlLocator *m_locator = nullptr;
     int m_depth = 0;
-    int m_line = 0;
-    int m_column = 0;
+    bool m_isTooDeep = false;
 };
 
-// The deprecated reader is the one that fills the DOM: only it sees the elements that the DOM will see.
+// The text up to the first tag that lies too deep; nothing of it if the depth comes out of entities. The deprecated
+// reader is the one that fills the DOM: only it sees the elements that the DOM will see.
+QString shallowPart(const QString &xml)
+{
+    const bool hasEntities = xml.contains(QLatin1String("<!ENTITY"));
+    if (xml.count(QLatin1Char('<')) <= deepestNesting && !hasEntities) {
+        return xml;
+    }
+    NestingCheck check;
+    CountingSource source(xml);
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&check);
+    reader.parse(source);
+    if (!check.isTooDeep()) {
+        return xml;
+    }
+    // At that moment the reader has the end of the tag, and may have the character behind it.
+    return hasEntities ? QString() : xml.left(xml.lastIndexOf(QLatin1Char('<'), source.charactersRead() - 2));
+}
+
 bool parse(QDomDocument &document, const QString &xml)
 {
-    if (xml.count(QLatin1Char('<')) > deepestNesting) {
-        NestingCheck check;
-        QXmlInputSource source;
-        source.setData(xml);
-        QXmlSimpleReader reader;
-        reader.setContentHandler(&check);
-        reader.parse(source);
-        if (check.isTooDeep()) {
-            document.setContent(check.shallowPart(xml), false);
-            return false;
-        }
-    }
-    return document.setContent(xml, false);
+    const QString parsed = shallowPart(xml);
+    return document.setContent(parsed, false) && parsed.size() == xml.size();
 }
 
 QT_WARNING_POP

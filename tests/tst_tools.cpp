@@ -236,17 +236,37 @@ private slots:
         QVERIFY(!item.contains("ArtObj_Center"_s));
     }
 
+    void nestedTextsAreBounded_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("tags") << "<a>"_s.repeated(200000);
+        // What counts as a line must not move the place where the text is cut.
+        QTest::newRow("carriage returns")
+            << QString(QString("<a>"_s + "\r"_s.repeated(30)).repeated(4500) + "<a>\n"_s.repeated(200000));
+        QTest::newRow("markup that is no tag")
+            << QString("<!-- <a> --><![CDATA[<a>]]><?a <a>?>"_s.repeated(5000) + "<a b='>'>"_s.repeated(200000));
+    }
+
     // A text of tags that never end must neither grow a tree that can't be saved nor end the process.
     void nestedTextsAreBounded()
     {
-        const QString deep = "<a>"_s.repeated(200000);
-        const QString behindQuote = "\"/>"_s + deep;
+        QFETCH(QString, text);
+        const QString behindQuote = "\"/>"_s + text;
         QJsonObject item{{"Type"_s, "ZQActiveMaterialItem"_s}, {"attachments"_s, QJsonObject{{"back"_s, behindQuote}}}};
-        const QDomElement made = plugin()->tranItemJSON2ZQTX({}, item);
-        QCOMPARE(made.tagName(), "activity_item"_s);
-        const QString closed = deep + "</a>"_s.repeated(200000);
-        item = {{"Type"_s, "ZQQuestionItem"_s}, {"R_Answer_svg"_s, closed}};
+        QCOMPARE(plugin()->tranItemJSON2ZQTX({}, item).tagName(), "activity_item"_s);
+        item = {{"Type"_s, "ZQQuestionItem"_s}, {"R_Answer_svg"_s, text}};
         QVERIFY(plugin()->tranItemJSON2ZQTX({}, item).isNull());
+    }
+
+    // Entities unfold to levels that no tag of the text shows.
+    void entitiesAreBounded()
+    {
+        const QString tags = "<!DOCTYPE a [<!ENTITY b '"_s + "<c>"_s.repeated(1300) + "'>]><interactive>"_s
+            + "&b;"_s.repeated(1000) + "<d value='7'/>"_s;
+        const QJsonObject slide{{"SlideTagsInfo"_s, tags}};
+        const QJsonObject item =
+            plugin()->tranItemXML2JSON(xml("<ZQBasicPlusItem NetID='7'/>"_s), {{"slide"_s, slide}});
+        QVERIFY(!item.contains("InteractiveType"_s));
     }
 
     void haveNoSvgForm_data()
