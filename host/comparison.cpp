@@ -48,7 +48,7 @@ void compareValues(const QString &key, const QJsonValue &given, const QJsonValue
     if (isEmptyValue(given)) {
         return;
     }
-    if (given.isArray() && found.isArray() && valueText(given).isNull()) {
+    if (given.isArray() && found.isArray() && (valueText(given).isNull() || valueText(found).isNull())) {
         const QJsonArray givenArray = given.toArray();
         const QJsonArray foundArray = found.toArray();
         for (int i = 0; i < givenArray.size(); ++i) {

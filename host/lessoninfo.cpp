@@ -17,6 +17,9 @@ namespace {
 constexpr const char *fileKeys[] = {"resource", "document",       "DrawTexture", "Stamp", "AudioPath",
                                     "picture",  "MultiMediaFile", "AttachFile",  "path"};
 
+// The pictures of a game lie in directories of the editor, not in the package.
+const QLatin1String activityKey("activity");
+
 constexpr const char *cardTypes[] = {"General:everCard", "ZQActivityFlipItem", "ZQLiteraturePinyin",
                                      "ZQLiteratureHanzibihua", "ZQChineseCharacterItem"};
 
@@ -44,7 +47,7 @@ public:
     void countSlide(const LessonSlide &slide)
     {
         collectFiles(slide.properties);
-        const QJsonObject activity = slide.properties.value(QLatin1String("activity")).toObject();
+        const QJsonObject activity = slide.properties.value(activityKey).toObject();
         if (!activity.isEmpty()) {
             ++m_info.activities[activity.value(QLatin1String("type")).toString()];
         }
@@ -103,7 +106,7 @@ private:
         for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
             if (isOneOf(it.key(), std::begin(fileKeys), std::end(fileKeys))) {
                 collectFile(it.value());
-            } else if (it.key() != HostKeys::children && !it.value().isString()) {
+            } else if (it.key() != HostKeys::children && it.key() != activityKey && !it.value().isString()) {
                 collectFiles(it.value());
             }
         }

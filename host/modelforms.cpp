@@ -5,7 +5,6 @@
 #include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QStandardPaths>
 #include <QStringList>
 #include <QVector>
 
@@ -199,33 +198,24 @@ QJsonValue writableAttachments(const QJsonValue &value)
     return attachments;
 }
 
-// Members of members, as texts.
-QJsonValue writableAnimations(const QJsonValue &value)
+// The same tree with texts for numbers and flags.
+QJsonValue treeOfTexts(const QJsonValue &value)
 {
-    QJsonObject animations = value.toObject();
-    for (auto it = animations.begin(); it != animations.end(); ++it) {
-        it.value() = writableProperties(it.value().toObject());
-    }
-    return animations;
-}
-
-// The background of a game comes in as the data directory, a separator and the reference, and goes out as all that
-// stands behind the directory: each trip would leave one separator more.
-QJsonObject withShortBackground(QJsonObject activity)
-{
-    const QLatin1String templetKey("templet");
-    const QLatin1String backgroundKey("background");
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/');
-    QJsonObject templet = activity.value(templetKey).toObject();
-    QString background = templet.value(backgroundKey).toString();
-    if (background.startsWith(data)) {
-        while (background.midRef(data.size()).startsWith(QLatin1Char('/'))) {
-            background.remove(data.size(), 1);
+    if (value.isObject()) {
+        QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            it.value() = treeOfTexts(it.value());
         }
-        templet.insert(backgroundKey, background);
-        activity.insert(templetKey, templet);
+        return object;
     }
-    return activity;
+    if (value.isArray()) {
+        QJsonArray array = value.toArray();
+        for (QJsonValueRef element : array) {
+            element = treeOfTexts(element);
+        }
+        return array;
+    }
+    return valueText(value);
 }
 
 QJsonValue plainValue(const QJsonValue &value)
@@ -386,11 +376,8 @@ QJsonObject writableProperties(const QJsonObject &properties)
 {
     QJsonObject written = properties;
     for (auto it = written.begin(); it != written.end(); ++it) {
-        it.value() = plainValue(it.value());
-    }
-    const QLatin1String activity("activity");
-    if (written.contains(activity)) {
-        written.insert(activity, withShortBackground(written.value(activity).toObject()));
+        const bool isTree = it.key() == QLatin1String("activity") || it.key() == QLatin1String("animations");
+        it.value() = isTree ? treeOfTexts(it.value()) : plainValue(it.value());
     }
     return written;
 }
@@ -414,7 +401,7 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
         } else if (key == QLatin1String("mindMapData")) {
             it.value() = writableMindMap(value);
         } else if (key == QLatin1String("animations")) {
-            it.value() = writableAnimations(value);
+            it.value() = treeOfTexts(value);
         } else if (key == QLatin1String("attachments")) {
             it.value() = writableAttachments(value);
         } else if (key == QLatin1String("document") && type == QLatin1String("ZQDyCoursewareItem")) {

@@ -43,6 +43,39 @@ QDomElement rootOf(const QDomDocument &document, const QString &tag, const QStri
     return root;
 }
 
+// The pictures of a game as the document names them. The plug-in puts directories of this machine before them, which a
+// lesson can't take to another one.
+void shortenPictures(const QDomElement &root, QJsonObject &properties)
+{
+    const QLatin1String activityKey("activity");
+    const QLatin1String templetKey("templet");
+    QJsonObject activity = properties.value(activityKey).toObject();
+    if (activity.isEmpty()) {
+        return;
+    }
+    QJsonObject templet = activity.value(templetKey).toObject();
+    const QDomElement element = root.firstChildElement(activityKey).firstChildElement(templetKey);
+    const QStringList keys = templet.keys();
+    for (const QString &key : keys) {
+        const QDomElement child = element.firstChildElement(key);
+        const QJsonValue value = templet.value(key);
+        if (value.isObject()) {
+            QJsonObject look = value.toObject();
+            for (const char *name : {"path", "path2", "hotpath", "process_bar_back", "process_bar_rate"}) {
+                const QLatin1String picture(name);
+                if (look.contains(picture)) {
+                    look.insert(picture, child.attribute(picture));
+                }
+            }
+            templet.insert(key, look);
+        } else if (key != QLatin1String("index") && key != QLatin1String("answer_font_color")) {
+            templet.insert(key, child.attribute(QStringLiteral("pic")));
+        }
+    }
+    activity.insert(templetKey, templet);
+    properties.insert(activityKey, activity);
+}
+
 /*!
  * A ZQTX slide document and its two forms: the model and the XML.
  */
@@ -62,11 +95,11 @@ public:
         const QDomElement items = root.firstChildElement(itemsTag);
         const QVector<QDomElement> elements = takeElements(items, items.firstChildElement());
         LessonSlide slide;
-        slide.properties = m_plugin->tranSlideZQTX2JSON(root, context);
+        slide.properties = readProperties(root, context);
         if (check) {
             check->examine(
                 slideTag, slide.properties.value(idKey).toString(), root,
-                [this, &context](const QDomElement &copy) { return m_plugin->tranSlideZQTX2JSON(copy, context); },
+                [this, &context](const QDomElement &copy) { return readProperties(copy, context); },
                 [this, &slide] { return writeProperties(slide.properties).documentElement(); });
         }
         QJsonObject itemContext = context;
@@ -88,6 +121,13 @@ public:
     }
 
 private:
+    QJsonObject readProperties(const QDomElement &root, const QJsonObject &context) const
+    {
+        QJsonObject properties = m_plugin->tranSlideZQTX2JSON(root, context);
+        shortenPictures(root, properties);
+        return properties;
+    }
+
     QDomDocument writeProperties(const QJsonObject &properties) const
     {
         return m_plugin->tranSlideJSON2ZQTX({}, writableProperties(properties));

@@ -22,6 +22,9 @@ private:
         const QJsonObject presentation{{"Version", version}};
         const ZqtxItems items(plugin(), presentation);
         const QDomElement element = items.write(item);
+        if (element.tagName() == "item") {
+            return {}; // held as JSON, since no translator knew it
+        }
         const QDomDocument document = loadXml(xmlDocumentText(element), {});
         return items.read(document.documentElement(), {{"pres", presentation}}, nullptr);
     }
