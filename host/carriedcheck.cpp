@@ -10,6 +10,7 @@ namespace {
 constexpr int numberedDepth = 2;
 constexpr int distinctDepth = 8;
 constexpr int distinctSiblings = 3;
+constexpr int distinctData = 10;
 constexpr int longestDetail = 60;
 
 QString withoutDigits(const QString &tag)
@@ -43,6 +44,19 @@ QDomElement elementAt(QDomElement element, const QVector<int> &position)
     return element;
 }
 
+// What decides beside the type how the values of an element are read: the kind of a slide's game, and the order of what
+// an item's data holds.
+QString formOf(const QDomElement &element)
+{
+    const QDomElement activity = element.firstChildElement(QStringLiteral("activity"));
+    QString form = QLatin1Char(' ') + activity.attribute(QStringLiteral("type")) + QLatin1Char(' ');
+    QDomElement child = element.firstChildElement(QStringLiteral("data")).firstChildElement();
+    for (int i = 0; i < distinctData && !child.isNull(); ++i, child = child.nextSiblingElement()) {
+        form += child.tagName() + QLatin1Char(' ');
+    }
+    return form;
+}
+
 void replaceText(QDomElement element, const QString &text)
 {
     QDomNode child = element.firstChild();
@@ -72,8 +86,9 @@ void CarriedCheck::examine(const QString &type, const QString &id, const QDomEle
     collect(element, {}, {}, {}, values);
     m_unchanged = {};
     QVector<Value> lost;
+    const QString form = type + formOf(element);
     for (const Value &value : qAsConst(values)) {
-        if (!isCarried(type, element, value, read)) {
+        if (!isCarried(form + value.kind, element, value, read)) {
             lost.append(value);
         }
     }
@@ -141,9 +156,8 @@ void CarriedCheck::collect(const QDomElement &element, const QString &path, cons
     }
 }
 
-bool CarriedCheck::isCarried(const QString &type, const QDomElement &element, const Value &value, const Read &read)
+bool CarriedCheck::isCarried(const QString &place, const QDomElement &element, const Value &value, const Read &read)
 {
-    const QString place = type + QLatin1Char(' ') + value.kind;
     const auto known = m_known.constFind(place);
     if (known != m_known.constEnd()) {
         return *known;

@@ -46,11 +46,11 @@ private:
 
     void collect(const QDomElement &element, const QString &path, const QString &kind, const QVector<int> &position,
                  QVector<Value> &values) const;
-    bool isCarried(const QString &type, const QDomElement &element, const Value &value, const Read &read);
+    bool isCarried(const QString &place, const QDomElement &element, const Value &value, const Read &read);
 
     LossReport *m_losses;
     int m_slide = 0;
-    QHash<QString, bool> m_known; // type and kind
+    QHash<QString, bool> m_known; // by the form of an element and the kind of a value
     QJsonObject m_unchanged; // the JSON of the element that is examined, empty until it is needed
 };
 

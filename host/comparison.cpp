@@ -6,6 +6,7 @@
 #include "xmlloader.h"
 #include "xmltext.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace {
@@ -20,9 +21,12 @@ struct Difference
 
 QString detailOf(const QJsonValue &value)
 {
-    const QString text = valueText(value);
-    return text.isNull() ? (value.isArray() ? QStringLiteral("a list") : QStringLiteral("an object"))
-                         : text.left(longestDetail);
+    QString text = valueText(value);
+    if (text.isNull()) {
+        text = QString::fromUtf8((value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject()))
+                                     .toJson(QJsonDocument::Compact));
+    }
+    return text.left(longestDetail);
 }
 
 bool isEmptyValue(const QJsonValue &value)
@@ -43,17 +47,72 @@ bool isSameXml(const QString &one, const QString &other)
 }
 
 void compareValues(const QString &key, const QJsonValue &given, const QJsonValue &found,
+                   QVector<Difference> &differences);
+
+// How many values of the one are not in the same place of the other.
+int differenceCount(const QJsonValue &given, const QJsonValue &found)
+{
+    int count = 0;
+    if (given.isArray() && found.isArray()) {
+        const QJsonArray array = given.toArray();
+        for (int i = 0; i < array.size(); ++i) {
+            count += differenceCount(array.at(i), found.toArray().at(i));
+        }
+    } else if (given.isObject() && found.isObject()) {
+        const QJsonObject object = given.toObject();
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+            count += differenceCount(it.value(), found.toObject().value(it.key()));
+        }
+    } else if (!isEmptyValue(given)) {
+        count = (valueText(given).isNull() ? given == found : isSameValue({}, given, found)) ? 0 : 1;
+    }
+    return count;
+}
+
+// True if what was found at a place is rather one of the next values than the one of this place. missing: how many
+// fewer were found than given.
+bool isMissing(const QJsonArray &given, int place, const QJsonValue &found, int missing)
+{
+    constexpr int furthest = 8;
+    if (isEmptyValue(given.at(place))) {
+        return !isEmptyValue(found);
+    }
+    const int own = differenceCount(given.at(place), found);
+    for (int i = 1; i <= qMin(missing, furthest) && own > 0; ++i) {
+        if (differenceCount(given.at(place + i), found) < own) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Where values are missing from a list, those that came through are told by what they hold, so that a missing one is
+// one difference and doesn't shift the others.
+void compareArrays(const QString &key, const QJsonArray &given, const QJsonArray &found,
+                   QVector<Difference> &differences)
+{
+    int missing = qMax(0, given.size() - found.size());
+    int next = 0;
+    for (int i = 0; i < given.size(); ++i) {
+        const QString place = QStringLiteral("%1[%2]").arg(key).arg(i);
+        if (missing > 0 && isMissing(given, i, found.at(next), missing)) {
+            compareValues(place, given.at(i), {}, differences);
+            --missing;
+        } else {
+            compareValues(place, given.at(i), found.at(next), differences);
+            ++next;
+        }
+    }
+}
+
+void compareValues(const QString &key, const QJsonValue &given, const QJsonValue &found,
                    QVector<Difference> &differences)
 {
     if (isEmptyValue(given)) {
         return;
     }
     if (given.isArray() && found.isArray() && (valueText(given).isNull() || valueText(found).isNull())) {
-        const QJsonArray givenArray = given.toArray();
-        const QJsonArray foundArray = found.toArray();
-        for (int i = 0; i < givenArray.size(); ++i) {
-            compareValues(QStringLiteral("%1[%2]").arg(key).arg(i), givenArray.at(i), foundArray.at(i), differences);
-        }
+        compareArrays(key, given.toArray(), found.toArray(), differences);
         return;
     }
     if (given.isObject() && found.isObject() && valueText(given).isNull()) {

@@ -1,8 +1,12 @@
 #include "conversion.h"
 
+#include "activitypictures.h"
 #include "lessonerror.h"
 #include "lossreport.h"
 #include "modelforms.h"
+
+#include <QMap>
+#include <QSet>
 
 namespace {
 
@@ -41,14 +45,23 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
     const auto writer = to.create(output, context);
     writer->begin(reader->presentation());
     const QStringList resources = reader->resources();
+    QSet<QString> added;
     for (const QString &resource : resources) {
         writer->addResource(resource, reader->resourceFile(resource));
+        added.insert(resource);
     }
     const int count = reader->slideCount();
     for (int i = 0; i < count; ++i) {
         const LessonSlide slide = reader->slide(i);
         if (context.losses) {
             reportKeptItems(slide.items, i + 1, context.losses);
+        }
+        const QMap<QString, QString> pictures = picturesInData(slide.properties);
+        for (auto it = pictures.constBegin(); it != pictures.constEnd(); ++it) {
+            if (!added.contains(it.key())) {
+                writer->addResource(it.key(), it.value());
+                added.insert(it.key());
+            }
         }
         writer->writeSlide(slide);
         progress(i + 1, count);

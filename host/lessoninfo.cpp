@@ -13,9 +13,9 @@
 
 namespace {
 
-// Keys of items, slides and mind map attachments whose texts are paths of files.
-constexpr const char *fileKeys[] = {"resource", "document",       "DrawTexture", "Stamp", "AudioPath",
-                                    "picture",  "MultiMediaFile", "AttachFile",  "path"};
+// Keys of items, slides and attachments whose texts are paths of files.
+constexpr const char *fileKeys[] = {"resource",       "document",   "DrawTexture", "Stamp", "AudioPath", "picture",
+                                    "MultiMediaFile", "AttachFile", "path",        "back",  "front",     "error"};
 
 // The pictures of a game lie in directories of the editor, not in the package.
 const QLatin1String activityKey("activity");

@@ -1,5 +1,6 @@
 #include "lessonformats.h"
 
+#include "activitypictures.h"
 #include "carriedcheck.h"
 #include "comparison.h"
 #include "domtools.h"
@@ -41,39 +42,6 @@ QDomElement rootOf(const QDomDocument &document, const QString &tag, const QStri
             .in(file);
     }
     return root;
-}
-
-// The pictures of a game as the document names them. The plug-in puts directories of this machine before them, which a
-// lesson can't take to another one.
-void shortenPictures(const QDomElement &root, QJsonObject &properties)
-{
-    const QLatin1String activityKey("activity");
-    const QLatin1String templetKey("templet");
-    QJsonObject activity = properties.value(activityKey).toObject();
-    if (activity.isEmpty()) {
-        return;
-    }
-    QJsonObject templet = activity.value(templetKey).toObject();
-    const QDomElement element = root.firstChildElement(activityKey).firstChildElement(templetKey);
-    const QStringList keys = templet.keys();
-    for (const QString &key : keys) {
-        const QDomElement child = element.firstChildElement(key);
-        const QJsonValue value = templet.value(key);
-        if (value.isObject()) {
-            QJsonObject look = value.toObject();
-            for (const char *name : {"path", "path2", "hotpath", "process_bar_back", "process_bar_rate"}) {
-                const QLatin1String picture(name);
-                if (look.contains(picture)) {
-                    look.insert(picture, child.attribute(picture));
-                }
-            }
-            templet.insert(key, look);
-        } else if (key != QLatin1String("index") && key != QLatin1String("answer_font_color")) {
-            templet.insert(key, child.attribute(QStringLiteral("pic")));
-        }
-    }
-    activity.insert(templetKey, templet);
-    properties.insert(activityKey, activity);
 }
 
 /*!
@@ -123,9 +91,7 @@ public:
 private:
     QJsonObject readProperties(const QDomElement &root, const QJsonObject &context) const
     {
-        QJsonObject properties = m_plugin->tranSlideZQTX2JSON(root, context);
-        shortenPictures(root, properties);
-        return properties;
+        return withReferencesOf(root, m_plugin->tranSlideZQTX2JSON(root, context));
     }
 
     QDomDocument writeProperties(const QJsonObject &properties) const
@@ -320,7 +286,7 @@ public:
     void writeSlide(const LessonSlide &slide) override
     {
         const int number = m_ids.size() + 1;
-        LessonSlide written = slide;
+        LessonSlide written{withShortPictures(slide.properties), slide.items};
         const QString id = usableId(valueText(slide.properties.value(idKey)), number);
         written.properties.insert(idKey, id);
         const QDomElement root = m_slides->write(written).documentElement();

@@ -119,6 +119,22 @@ private slots:
         keys.sort();
         QCOMPARE(keys, QStringList({"@mood=good", "data/rect@tilt=3", "note=Look!"}));
     }
+
+    // The same value is carried by one question and not by the next, whose texts stand in each other's place.
+    void findsWhatTheOrderLoses()
+    {
+        LossReport losses;
+        CarriedCheck check(&losses);
+        const ZqtxItems items(plugin(), {});
+        const QString question(
+            "<question type=\"ZQQuestionItem\"><data>%1<page_scale>2</page_scale></data></question>");
+        const QString content("<R_Content_svg>c</R_Content_svg>");
+        const QString answer("<R_Answer_svg>a</R_Answer_svg>");
+        items.read(xml(question.arg(content + answer)), {}, &check);
+        QCOMPARE(losses.lossCount(), 0);
+        items.read(xml(question.arg(answer + content)), {}, &check);
+        QCOMPARE(losses.lossCount(), 2);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHostValues)

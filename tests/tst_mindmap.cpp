@@ -36,6 +36,13 @@ QString mapAround(const QString &root)
         + root + "</mapItemInfo>"_s;
 }
 
+QStringList loggedLines;
+
+void keepLine(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    loggedLines.append((type == QtDebugMsg ? ""_s : "not debug: "_s) + text);
+}
+
 QJsonArray array(const QString &text)
 {
     return json(QString("{'a':"_s + text + "}"_s).toUtf8().constData()).value("a"_s).toArray();
@@ -138,6 +145,27 @@ private slots:
         const QDomElement result = plugin()->tranItemJSON2ZQTX(given, item);
         QCOMPARE(result.attribute("id"_s), "7"_s);
         QCOMPARE(result.firstChildElement("data"_s).text(), "old"_s);
+    }
+
+    // Nothing else of the library writes a line, whatever it is given.
+    void logsTwoLinesForANewMap()
+    {
+        const QJsonObject map =
+            json("{'Type':'ZQMindMapItem','ID':'7','mindMapData':[{'title':'a < b & \u6c34'},{},{'childNodes':1}]}");
+        loggedLines.clear();
+        const QtMessageHandler usual = qInstallMessageHandler(keepLine);
+        plugin()->tranItemJSON2ZQTX({}, map);
+        plugin()->tranItemJSON2ZQTX(mapElement(QString()), map);
+        plugin()->tranItemZQTX2JSON({}, {});
+        plugin()->tranItemZQTX2JSON(mapElement("<mapItemInfo><node/></mapItemInfo>"_s), {});
+        plugin()->tranItemXML2JSON(xml("<ZQMindMapItem Bound='1' TransformMatrix='2'/>"_s), {});
+        plugin()->tranItemJSON2ZQTX({}, json("{'Type':'ZQQuestionItem','R_Answer_svg':'<'}"));
+        plugin()->tranSlideJSON2ZQTX({}, json("{'activity':{'templet':{'no name':'x'}}}"));
+        qInstallMessageHandler(usual);
+
+        QString item;
+        QDebug(&item) << map;
+        QCOMPARE(loggedLines, QStringList({"##############ZQComItemControlTran###################"_s, item.trimmed()}));
     }
 
     // Qt can hold this tree, but not save it, and to print it would take most of the stack.

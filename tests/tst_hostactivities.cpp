@@ -1,0 +1,228 @@
+#include "conversion.h"
+#include "lossreport.h"
+#include "pluginfixture.h"
+#include "xmlloader.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// "DATA" in a text stands for the application's data directory.
+QString withData(const QString &text)
+{
+    return QString(text).replace("DATA", QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void put(const QString &path, const QByteArray &content)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+/*!
+ * Classroom games of lessons on disk: their pictures, which an editor knows by the paths of its machine, and what of
+ * their entries a package has no place for.
+ */
+class TestHostActivities : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    LossReport m_losses;
+
+    QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    void convert(const QString &input, const QString &output)
+    {
+        LessonContext context;
+        context.plugin = plugin();
+        context.losses = &m_losses;
+        convertLesson(lessonFormatOfInput(input), input, lessonFormatOfOutput(output), output, context,
+                      [](int, int) {});
+    }
+
+    QString lessonWith(const QJsonObject &activity) const
+    {
+        const QJsonObject slide{{"ID", "1"}, {"activity", activity}};
+        const QString file = path("lesson.json");
+        put(file, QJsonDocument(QJsonObject{{"Slides", QJsonArray{slide}}}).toJson());
+        return file;
+    }
+
+    QStringList lostKeys() const
+    {
+        QStringList keys;
+        for (const Loss &loss : m_losses.entries()) {
+            keys.append(loss.key);
+        }
+        return keys;
+    }
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void init()
+    {
+        QDir(m_folder.path()).removeRecursively();
+        QDir().mkpath(m_folder.path());
+        m_losses = {};
+        QDir::setSearchPaths("imageDir", {"/i/", "/j/"});
+    }
+
+    void picturesDontDrift_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("templet");
+        QTest::addColumn<QString>("written");
+        const auto row = [](const char *name, const char *type, const char *templet, const char *written) {
+            QTest::addRow("%s, %s", type, name) << type << templet << written;
+        };
+        const char *const canvas = R"(<templet index="2"><background pic="a.png"/><backgroundx2/>)"
+                                   R"(<right pic="x/r.png"/><container %1 hotpath="h.png" path="p.png"/></templet>)";
+        for (const char *type : {"Judgment", "NumberComparison", "PronunciationTest", "Grouping"}) {
+            row("pictures of the application", type,
+                "'index':'2','background':'/i/Canvas/a.png','right':'/i/Canvas/x/r.png',"
+                "'container':{'path':'/i/Canvas/p.png','hotpath':'h.png'}",
+                canvas);
+        }
+        row("paths that have grown", "Grouping",
+            "'index':'2','background':'/i/Canvas//i/Canvas/a.png','right':'/i/Canvas//i/Canvas//i/Canvas/x/r.png',"
+            "'container':{'path':'p.png','hotpath':'/i/Canvas/h.png'}",
+            canvas);
+        row("pictures of the data", "Grouping",
+            "'index':'3','background':'DATA//ClassActivity/a.png','right':'DATA/r.png',"
+            "'container':{'path':'DATA/ClassActivity/p.png','hotpath':'','process_bar_back':'DATA/b.png'},"
+            "'material':{'font_align':'l','path2':'DATA/ClassActivity/p2.png'}",
+            R"(<templet index="3"><background pic="ClassActivity/a.png"/><backgroundx2/><right pic="/r.png"/>)"
+            R"(<container %1 hotpath="" path="/ClassActivity/p.png" process_bar_back="/b.png"/>)"
+            R"(<material font_align="l" font_color="" font_family="" font_offsetup="" font_size="" path="")"
+            R"( path2="/ClassActivity/p2.png"/></templet>)");
+        // What a lesson itself names is nobody's machine.
+        row("references", "Grouping",
+            "'index':'3','background':'/ClassActivity/a.png','container':{'path':'/x/y','hotpath':''}",
+            R"(<templet index="3"><background pic="/ClassActivity/a.png"/><backgroundx2/>)"
+            R"(<container %1 hotpath="" path="/x/y"/></templet>)");
+    }
+
+    // Three trips, each into a document that is the same.
+    void picturesDontDrift()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, templet);
+        QFETCH(QString, written);
+        QJsonObject look = json(withData("{" + templet + "}").toUtf8());
+        look.insert("backgroundx2", "");
+        QString file = lessonWith({{"type", type}, {"templet", look}});
+        const QDomElement expected =
+            xml(written.contains("%1") ? written.arg(
+                    R"(font_align="" font_color="" font_family="" font_offsetup="" font_size="" hotoffset="")")
+                                       : written);
+        for (int trip = 1; trip <= 3; ++trip) {
+            const QString package = m_folder.filePath(QString::number(trip));
+            convert(file, package);
+            const QDomDocument slide = loadXmlFile(package + "/slides/1.xml");
+            QCOMPARE(toText(slide.documentElement().firstChildElement("activity").firstChildElement("templet")),
+                     toText(expected));
+            file = package + ".json";
+            convert(package, file);
+        }
+        QCOMPARE(m_losses.summary(), QString());
+        QCOMPARE(contentOf(path("3/slides/1.xml")), contentOf(path("1/slides/1.xml")));
+        QCOMPARE(contentOf(path("3.json")), contentOf(path("1.json")));
+    }
+
+    // An editor that opens the package has its paths again.
+    void editorsFindTheirPictures()
+    {
+        const QJsonObject look = json(withData("{'index':'3','background':'DATA/ClassActivity/a.png',"
+                                               "'backgroundx2':'DATA/b.png','board':'DATA/ClassActivity/c.png',"
+                                               "'container':{'path':'DATA/ClassActivity/p.png'}}")
+                                          .toUtf8());
+        convert(lessonWith({{"type", "Grouping"}, {"templet", look}}), path("out"));
+        const QDomDocument slide = loadXmlFile(path("out/slides/1.xml"));
+        const QJsonObject read = plugin()->tranSlideZQTX2JSON(slide.documentElement(), {});
+        const QJsonObject found = read.value("activity").toObject().value("templet").toObject();
+        for (const char *key : {"background", "backgroundx2", "board"}) {
+            QCOMPARE(found.value(key), look.value(key));
+        }
+        QCOMPARE(found.value("container").toObject().value("path"), look.value("container").toObject().value("path"));
+    }
+
+    void picturesOfTheDataTravel()
+    {
+        const QString shared = withData("DATA/ClassActivity/Reading/a.png");
+        put(shared, "picture");
+        const QString outside = withData("DATA/../outside.png");
+        put(outside, "secret");
+        put(path("in/index.xml"), "<main><slides><file href=\"slides/1.xml\"/></slides></main>");
+        put(path("in/slides/1.xml"),
+            R"(<slide id="1"><background><color value=""/><picture document=""/></background><items/><activity>)"
+            R"(<templet index="3"><background pic="x/ActivityInfo/Reading/a.png"/>)"
+            R"(<board pic="/../outside.png"/><container path="/ClassActivity/none.png"/></templet></activity></slide>)");
+        convert(path("in"), path("out.json"));
+        convert(path("out.json"), path("out"));
+        QCOMPARE(contentOf(path("out/ClassActivity/Reading/a.png")), "picture");
+        QCOMPARE(QDir(path("out")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList({"ClassActivity", "index.xml", "slides"}));
+        QFile::remove(shared);
+        QFile::remove(outside);
+    }
+
+    void lossesAreNamed_data()
+    {
+        QTest::addColumn<QString>("activity");
+        QTest::addColumn<QStringList>("keys");
+        QTest::newRow("rows without content")
+            << "{'type':'Comparison','matchs':[[{'id':'1','condition':'3'},{'id':'2'},{'id':'3','symbol':'='},"
+               "{'id':'4'},{'id':'5','condition':'3'}],[{'id':'6'}]]}"
+            << QStringList{"activity.matchs[0][1]", "activity.matchs[0][3]", "activity.matchs[1][0]"};
+        QTest::newRow("a row with both")
+            << "{'type':'Comparison','matchs':[[{'id':'1','condition':'3','symbol':'='},{'id':'2','symbol':'<'}]]}"
+            << QStringList{"activity.matchs[0][0].symbol"};
+        QTest::newRow("material without its place for text")
+            << "{'type':'Grouping','templet':{'material':{'font_color':'#f','path':'a.png'}}}"
+            << QStringList{"activity.templet.material"};
+        QTest::newRow("a text that no form takes") << "{'type':'PronunciationGame','matchs':['a','b']}"
+                                                   << QStringList{"activity.matchs[0]", "activity.matchs[1]"};
+        QTest::newRow("colours of what matches nothing")
+            << "{'type':'Grouping','unmatchs':[{'materials':[{'id':'1','juxtaposedColor':'#f'},{'id':'2'}]}]}"
+            << QStringList{"activity.unmatchs[0].materials[0].juxtaposedColor"};
+        QTest::newRow("a group of answers with two names")
+            << "{'type':'Grouping','matchs':[{'answers':[{'a':['1'],'b':['2']},{}]}]}"
+            << QStringList{"activity.matchs[0].answers[0].b"};
+        QTest::newRow("two backgrounds") << "{'background':'a.png','templet':{'background':'b.png'}}"
+                                         << QStringList{"activity.background"};
+        QTest::newRow("one background beside its place")
+            << "{'background':'/i/Canvas/a.png','templet':{'index':'1'}}" << QStringList{};
+        QTest::newRow("numbers and flags") << "{'type':'Judgment','countdown':5,'templet':{'index':2},"
+                                              "'matchs':[{'question':7,'answer':true}]}"
+                                           << QStringList{};
+    }
+
+    void lossesAreNamed()
+    {
+        QFETCH(QString, activity);
+        QFETCH(QStringList, keys);
+        convert(lessonWith(json(activity.toUtf8())), path("out"));
+        QCOMPARE(lostKeys(), keys);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestHostActivities)
+#include "tst_hostactivities.moc"
