@@ -190,13 +190,13 @@ void ZQSlideTran::importBackground(const QDomElement &page, const QString &recta
     const QJsonObject imageJson = tranIWB2JSON(image, {}, {});
     const QString path = json.value(QLatin1String("path")).toString();
     const QString source = path + imageJson.value(QLatin1String("href")).toString();
+    const QString name = nextGeneratedId() + QLatin1String(".png");
     // Without a directory there is no package to take the picture from.
     if (path.isEmpty() || !QFileInfo(source).isFile()) {
         return;
     }
     QString parent = withoutEnd(path, 1);
     parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
-    const QString name = nextGeneratedId() + QLatin1String(".png");
     QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
     json.insert(QLatin1String("AttachFile"), name);
 }
