@@ -2,12 +2,10 @@
 
 #include "domhelpers.h"
 #include "numbertext.h"
+#include "packagefiles.h"
 #include "xmlplaces.h"
 
-#include <QDir>
 #include <QDomDocument>
-#include <QFile>
-#include <QFileInfo>
 
 // The conversions of the base class to and from IWB, and what the IWB writers share.
 
@@ -21,17 +19,15 @@ QString fileNameOf(const QString &path)
 // Copies a file into tmpFilePath/additional/ and gives the reference to it; empty for a file that doesn't exist.
 QString copyLinkedFile(const QString &file, const QString &tmpFilePath)
 {
-    if (!QFileInfo(file).isFile()) {
+    if (!isFile(file)) {
         return {};
     }
     const QString name = fileNameOf(file);
     // Without a directory there is no package to copy into.
     if (!tmpFilePath.isEmpty()) {
         const QString directory = tmpFilePath + QLatin1String("/additional/");
-        if (!QDir(directory).exists()) {
-            QDir().mkdir(directory);
-        }
-        QFile::copy(file, directory + name);
+        makeDirectory(directory);
+        copyFile(file, directory + name);
     }
     return QLatin1String("additional/") + name;
 }

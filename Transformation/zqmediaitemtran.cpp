@@ -3,9 +3,8 @@
 #include "domhelpers.h"
 #include "keypaths.h"
 #include "numbertext.h"
+#include "packagefiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -63,14 +62,13 @@ struct IwbForm
     const char *type;
     const char *tag;
     const char *directory;
-    bool replacesFile; //!< attempts the copy even if the target is there, which a plain copy then leaves alone
 };
 
 const IwbForm iwbForms[] = {
-    {"ZQImagePic", "svg:image", "images/", false},
-    {"ZQMediaVideo", "svg:video", "videos/", true},
-    {"ZQMediaFlash", "svg:video", "videos/", true},
-    {"ZQMediaAudio", "svg:a", "audio/", true},
+    {"ZQImagePic", "svg:image", "images/"},
+    {"ZQMediaVideo", "svg:video", "videos/"},
+    {"ZQMediaFlash", "svg:video", "videos/"},
+    {"ZQMediaAudio", "svg:a", "audio/"},
 };
 
 const IwbForm *iwbFormOf(const QString &type)
@@ -84,23 +82,6 @@ const IwbForm *iwbFormOf(const QString &type)
 }
 
 const QLatin1String fileKey("MultiMediaFile");
-
-// Qt warns about other names, and nothing may be printed.
-bool isFileName(const QString &path)
-{
-    return !path.isEmpty() && !path.contains(QChar::Null);
-}
-
-void copyToPackage(const QString &source, const QString &directory, const QString &name, bool replacesFile)
-{
-    if (!QDir(directory).exists()) {
-        QDir().mkdir(directory);
-    }
-    const QString target = directory + name;
-    if (isFileName(source) && isFileName(target) && (replacesFile || !QFile::exists(target))) {
-        QFile::copy(source, target);
-    }
-}
 
 QString mediaTypeOf(const QString &tag, const QString &file)
 {
@@ -124,9 +105,8 @@ void importFile(const QString &file, const QString &path, QJsonObject &json)
     parent.chop(1);
     parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
     const QString name = QFileInfo(file).fileName();
-    const QString source = path + file;
-    if (!path.isEmpty() && isFileName(source) && QFile::exists(source)) {
-        QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
+    if (!path.isEmpty()) {
+        copyFile(path + file, parent + QLatin1String("filelibrary/") + name);
     }
     json.insert(fileKey, name);
     json.insert(QLatin1String("saveType"), QStringLiteral("local"));
@@ -197,8 +177,10 @@ QDomElement ZQMediaItemTran::tranJSON2IWB(QDomElement element, QJsonObject json,
     const QLatin1String directory(form->directory);
     const QString package = json.value(QLatin1String("tmpFilePath")).toString();
     // Without a package, "/images/" would be a directory of the machine.
-    if (isFileName(package)) {
-        copyToPackage(source, package + QLatin1Char('/') + directory, name, form->replacesFile);
+    if (!package.isEmpty()) {
+        const QString target = package + QLatin1Char('/') + directory;
+        makeDirectory(target);
+        copyFile(source, target + name);
     }
     json.insert(fileKey, QString(directory + name));
     return ZQComItemControlTran::tranJSON2IWB(newElement(QLatin1String(form->tag)), json, context);

@@ -2,11 +2,9 @@
 
 #include "domhelpers.h"
 #include "numbertext.h"
+#include "packagefiles.h"
 
 #include <QColor>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 
@@ -20,7 +18,7 @@ namespace {
 QRect pictureRect(const QString &file)
 {
     const qint64 largestLoaded = 16 * 1024 * 1024;
-    if (!QFileInfo(file).isFile()) {
+    if (!isFile(file)) {
         return {0, 0, 0, 0};
     }
     QImageReader reader(file);
@@ -78,14 +76,6 @@ bool recordAllowsPicture(const QDomElement &root, const QString &rectangleId)
 QString withoutEnd(const QString &text, int length)
 {
     return text.left(qMax(0, text.size() - length));
-}
-
-// Copies a regular file. Directories, pipes and the like stay where they are.
-void copyFile(const QString &source, const QString &target)
-{
-    if (QFileInfo(source).isFile()) {
-        QFile::copy(source, target);
-    }
 }
 
 // The first image of the page whose id and the rectangle's have the same beginning before "_bgd" and "_rect". An id
@@ -147,9 +137,7 @@ QJsonObject ZQSlideTran::exportBackground(const QJsonObject &json)
     const QString target = images + QLatin1Char('/') + name;
     // Without a directory there is nothing to export into, and an ID with a separator would lead out of it.
     if (!directory.isEmpty() && !name.contains(QLatin1Char('/'))) {
-        if (!QDir(images).exists()) {
-            QDir().mkdir(images);
-        }
+        makeDirectory(images);
         copyFile(withoutEnd(directory, 4) + QLatin1String("/filelibrary/")
                      + json.value(QLatin1String("AttachFile")).toString(),
                  target);
@@ -192,11 +180,11 @@ void ZQSlideTran::importBackground(const QDomElement &page, const QString &recta
     const QString source = path + imageJson.value(QLatin1String("href")).toString();
     const QString name = nextGeneratedId() + QLatin1String(".png");
     // Without a directory there is no package to take the picture from.
-    if (path.isEmpty() || !QFileInfo(source).isFile()) {
+    if (path.isEmpty() || !isFile(source)) {
         return;
     }
     QString parent = withoutEnd(path, 1);
     parent.truncate(parent.lastIndexOf(QLatin1Char('/')) + 1);
-    QFile::copy(source, parent + QLatin1String("filelibrary/") + name);
+    copyFile(source, parent + QLatin1String("filelibrary/") + name);
     json.insert(QLatin1String("AttachFile"), name);
 }

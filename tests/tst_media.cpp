@@ -131,14 +131,18 @@ private slots:
         QCOMPARE(missing.attribute(QStringLiteral("xlink:href")), QString(directory + QLatin1String("a.bin")));
     }
 
-    // Odd names lead to no file and no message of Qt's.
+    // Odd names and devices lead to no file and no message of Qt's.
     void staysSilentAboutOddNames()
     {
         messages = 0;
         const auto before =
             qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
-        const QStringList names = {QString(), QStringLiteral(".."), QStringLiteral("a/"), QString(1, QChar::Null),
-                                   QStringLiteral("file:///")};
+        const QStringList names = {QString(),
+                                   QStringLiteral(".."),
+                                   QStringLiteral("a/"),
+                                   QString(1, QChar::Null),
+                                   QStringLiteral("file:///"),
+                                   QStringLiteral("/dev/null")};
         for (const QString &name : names) {
             QDomDocument document;
             for (const QString &package : {m_directory->path(), QString(), QString(1, QChar::Null)}) {
@@ -147,13 +151,19 @@ private slots:
                                                {{QStringLiteral("Type"), QStringLiteral("ZQMediaVideo")},
                                                 {QStringLiteral("AbsMediaFile"), name},
                                                 {QStringLiteral("MultiMediaFile"), name},
+                                                {QStringLiteral("InteractiveType"), QStringLiteral("ACTION_OPENFILE")},
+                                                {QStringLiteral("InteractiveValue"), name},
                                                 {QStringLiteral("tmpFilePath"), package}});
+                QCOMPARE(element.attribute(QStringLiteral("xlink:href")), QString());
                 plugin()->tranItemIWB2JSON(element, {{QStringLiteral("path"), package}});
             }
         }
         qInstallMessageHandler(before);
         QCOMPARE(messages, 0);
         QVERIFY(!QDir(QStringLiteral("/videos")).exists());
+        QCOMPARE(QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+                 QStringList(QStringLiteral("videos")));
+        QVERIFY(QDir(file("videos")).isEmpty());
     }
 
     void exportsNoDocuments() { QVERIFY(exported(QStringLiteral("ZQMediaDoc"), file("a.bin")).isNull()); }
