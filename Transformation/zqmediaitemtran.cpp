@@ -4,6 +4,7 @@
 #include "keypaths.h"
 #include "numbertext.h"
 #include "packagefiles.h"
+#include "xmlplaces.h"
 
 #include <QFileInfo>
 
@@ -138,6 +139,11 @@ QString ZQMediaItemTran::fromTxType(const QString &type)
 QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     json = ZQComItemControlTran::tranXML2JSON(element, json, context);
+    // The files stand in an attribute that no key map names; what the object says already comes first.
+    const auto attribute = attributeText(element, fileKey);
+    if (attribute && !json.contains(fileKey)) {
+        json.insert(fileKey, *attribute);
+    }
     if (json.contains(fileKey)) {
         const QString files = json.value(fileKey).toString();
         // A text with neither separator stays one entry.

@@ -91,6 +91,34 @@ private slots:
         QCOMPARE(differences(item, expected), QString());
     }
 
+    void joinsRawFilesWithThePath_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("files");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *path, const char *files, const char *expected) {
+            QTest::newRow(files) << QString::fromLatin1(path) << QString::fromLatin1(files)
+                                 << QString::fromLatin1(expected);
+        };
+        row("p/q/", "C:\\films\\a.swf|b.swf||", "p/q/a.swf,p/q/b.swf");
+        // Only a name with a separator goes to the last separator of the path.
+        row("p/q", "films/a.swf;b.swf", "p/a.swf,p/qb.swf");
+        row("p/", "a;1.swf|b;2.swf", "p/a;1.swf,p/b;2.swf");
+        row("p/", "a.swf|||b.swf", "p/a.swf,,,p/b.swf");
+        row("p/", "films/a.swf", "p/a.swf");
+        row("p/", "||", "");
+    }
+
+    void joinsRawFilesWithThePath()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, files);
+        QFETCH(QString, expected);
+        const QDomElement raw = xml(QStringLiteral("<ZQMediaFlash MultiMediaFile='%1'/>").arg(files));
+        const QJsonObject item = plugin()->tranItemXML2JSON(raw, {{QStringLiteral("path"), path}});
+        QCOMPARE(item.value(QLatin1String("MultiMediaFile")).toString(), expected);
+    }
+
     void exportsFiles_data()
     {
         QTest::addColumn<QString>("type");
