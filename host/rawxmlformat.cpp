@@ -65,6 +65,20 @@ QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
     return object;
 }
 
+// A package names a media item's file under another key than a raw lesson, which lists several. One alone moves there.
+void nameMediaFile(QJsonObject &item)
+{
+    const QLatin1String filesKey("MultiMediaFile");
+    const QString files = item.value(filesKey).toString();
+    if (files.isEmpty()) {
+        return;
+    }
+    item.insert(QStringLiteral("resource"), files.section(QLatin1Char(','), 0, 0));
+    if (!files.contains(QLatin1Char(','))) {
+        item.remove(filesKey);
+    }
+}
+
 /*!
  * A lesson in raw XML: <presentation> with <slide> elements, whose children are the items; files in the folder
  * "resources" beside it.
@@ -211,6 +225,7 @@ private:
                            },
                            {});
         }
+        nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
         QJsonArray children;
         for (auto son = nested.crbegin(); son != nested.crend(); ++son) {

@@ -98,6 +98,16 @@ private slots:
         QTemporaryDir folder;
         QCOMPARE(convert(example, folder.filePath(QStringLiteral("1.json"))), QString());
     }
+
+    void rawPicturesKeepTheirFile()
+    {
+        QTemporaryDir folder;
+        const QString package = folder.filePath(QStringLiteral("package"));
+        const QString losses = convert(QStringLiteral(EXAMPLES_DIR "/rawxml/standard.xml"), package);
+        QVERIFY2(!losses.contains("MultiMediaFile"), qPrintable(losses));
+        QVERIFY(contentOfFile(package + "/slides/2.xml").contains("resource=\"resources/bamboo.png\""));
+        QVERIFY(contentOf(package).contains("resources/bamboo.png"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHostRoundTrip)
