@@ -162,9 +162,8 @@ QJsonObject readSvgRect(const QDomElement &element, QJsonObject json)
 {
     setType(json, "ZQMath2DRectangle");
     matrixFromSvgRect(element, json);
-    // The sum with the corner at 0 takes the sign off a negative zero.
-    const QString width = numberText(qreal(floatAttribute(element, "width") + 0.0F));
-    const QString height = numberText(qreal(floatAttribute(element, "height") + 0.0F));
+    const QString width = numberText(qreal(floatAttribute(element, "width")));
+    const QString height = numberText(qreal(floatAttribute(element, "height")));
     const QString zero = QStringLiteral("0");
     setControl(json, {width, zero, zero, height});
     readStroke(element, "LineColor", json);

@@ -27,9 +27,8 @@ template <std::size_t N> std::optional<std::array<float, N>> leadingFloats(const
 
 QString numberText(double value)
 {
-    // Most numbers are whole, and whole numbers of up to six digits read the same as integers, only faster. The
-    // negative zero keeps its sign.
-    if (std::fabs(value) < 1e6 && value == std::trunc(value) && !(value == 0.0 && std::signbit(value))) {
+    // Most numbers are whole, and whole numbers of up to six digits read the same as integers, only faster.
+    if (std::fabs(value) < 1e6 && value == std::trunc(value)) {
         return QString::number(int(value));
     }
     return QString::number(value, 'g', 6);
