@@ -28,6 +28,15 @@ void reportKeptItems(const QJsonArray &items, int slide, LossReport *losses)
 
 } // namespace
 
+void checkCanWrite(const LessonFormat &format, const QString &output)
+{
+    if (!format.canWrite()) {
+        throw LessonError(QStringLiteral("The format \"%1\" can't be written").arg(format.name),
+                          QStringLiteral("See lessonconv formats"))
+            .in(output);
+    }
+}
+
 void convertLesson(const LessonFormat &from, const QString &input, const LessonFormat &to, const QString &output,
                    const LessonContext &context, const Progress &progress)
 {
@@ -36,11 +45,7 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
                           QStringLiteral("See lessonconv formats"))
             .in(input);
     }
-    if (!to.canWrite()) {
-        throw LessonError(QStringLiteral("The format \"%1\" can't be written").arg(to.name),
-                          QStringLiteral("See lessonconv formats"))
-            .in(output);
-    }
+    checkCanWrite(to, output);
     const auto reader = from.open(input, context);
     const auto writer = to.create(output, context);
     writer->begin(reader->presentation());

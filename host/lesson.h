@@ -81,6 +81,9 @@ struct LessonFormat
     QString description; //!< a line for "lessonconv formats"
     //! True for a directory or file that is this format whatever its name says; may be empty.
     std::function<bool(const QString &path)> recognizes;
+    //! False for a file that has the extension and plainly is something else; may be empty.
+    std::function<bool(const QString &path)> mayBe;
+    QString folderBeside; //!< the name of a folder beside a file that belongs to it; may be empty
     std::function<std::unique_ptr<LessonReader>(const QString &path, const LessonContext &context)> open;
     //! Empty where the format is only read.
     std::function<std::unique_ptr<LessonWriter>(const QString &path, const LessonContext &context)> create;

@@ -32,6 +32,21 @@ QString LessonError::message() const
     return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
+QJsonObject LessonError::toJson() const
+{
+    QJsonObject object{{QStringLiteral("message"), message()}, {QStringLiteral("problem"), m_problem}};
+    if (!m_file.isEmpty()) {
+        object.insert(QStringLiteral("file"), m_file);
+    }
+    if (m_line > 0) {
+        object.insert(QStringLiteral("line"), m_line);
+    }
+    if (!m_remedy.isEmpty()) {
+        object.insert(QStringLiteral("remedy"), m_remedy);
+    }
+    return object;
+}
+
 const char *LessonError::what() const noexcept
 {
     return m_what.constData();

@@ -1,6 +1,7 @@
 #ifndef LESSONERROR_H
 #define LESSONERROR_H
 
+#include <QJsonObject>
 #include <QString>
 
 #include <exception>
@@ -24,6 +25,8 @@ public:
 
     //! "FILE, line N: PROBLEM. REMEDY." without the parts that aren't known.
     QString message() const;
+    //! {"file", "line", "problem", "remedy", "message"} without the parts that aren't known.
+    QJsonObject toJson() const;
     const char *what() const noexcept override;
 
 private:

@@ -73,6 +73,11 @@ const LessonFormat &lessonFormatOfInput(const QString &path)
     if (const LessonFormat *format = formatByExtension(path)) {
         return *format;
     }
+    if (QFileInfo(path).isDir()) {
+        throw LessonError(QStringLiteral("This folder is no lesson: it has neither index.xml nor content.xml"),
+                          QStringLiteral("To convert all lessons in a folder, say --to FORMAT --out-dir FOLDER"))
+            .in(path);
+    }
     failWithoutFormat(path, QStringLiteral("--from"));
 }
 

@@ -76,24 +76,23 @@ void restoreReplaced(const QString &staging, const QString &parent)
     }
 }
 
-// Removes the staging folders in parent whose runs are no more.
-void sweep(const QString &parent)
+} // namespace
+
+void PackageTarget::sweep(const QString &folder)
 {
-    const QStringList locks = QDir(parent).entryList({stagingPrefix + QLatin1Char('*') + lockSuffix},
+    const QStringList locks = QDir(folder).entryList({stagingPrefix + QLatin1Char('*') + lockSuffix},
                                                      QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QString &name : locks) {
-        const QString lockPath = parent + QLatin1Char('/') + name;
+        const QString lockPath = folder + QLatin1Char('/') + name;
         QLockFile lock(lockPath);
         lock.setStaleLockTime(0);
         if (lock.tryLock(0)) {
             const QString staging = lockPath.chopped(lockSuffix.size());
-            restoreReplaced(staging, parent);
+            restoreReplaced(staging, folder);
             QDir(staging).removeRecursively();
         }
     }
 }
-
-} // namespace
 
 PackageTarget::PackageTarget(const QString &target)
     : m_shownTarget(target)

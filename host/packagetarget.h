@@ -22,6 +22,9 @@ public:
     PackageTarget(const PackageTarget &) = delete;
     PackageTarget &operator=(const PackageTarget &) = delete;
 
+    //! Removes what runs that are no more left behind in a folder.
+    static void sweep(const QString &folder);
+
     //! What the user called it, for messages.
     QString target() const { return m_shownTarget; }
     //! The folder in which a package is put together, without a separator at its end.

@@ -4,13 +4,27 @@
 
 #include <cstdio>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace {
 
-constexpr int barWidth = 40;
+constexpr int barWidth = 30;
 constexpr qint64 quickWork = 500; // milliseconds for which a bar would only flicker
 constexpr qint64 shortestPause = 100;
+
+// A line that the terminal would break could not be taken back. Names of files may hold what moves the cursor.
+QString fitted(QString line)
+{
+    winsize size{};
+    const int width = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+    for (QChar &c : line) {
+        if (!c.isPrint()) {
+            c = QChar::ReplacementCharacter;
+        }
+    }
+    return line.left(width - 1);
+}
 
 } // namespace
 
@@ -26,7 +40,7 @@ ProgressBar::~ProgressBar()
     clear();
 }
 
-void ProgressBar::show(int done, int total)
+void ProgressBar::show(int done, int total, const char *what, const QString &name)
 {
     if (!m_isWanted || total <= 0 || m_sinceStart.elapsed() < quickWork || m_sinceShown.elapsed() < shortestPause) {
         return;
@@ -36,7 +50,12 @@ void ProgressBar::show(int done, int total)
     const int filled = int(qint64(done) * barWidth / total);
     QByteArray bar(filled, '#');
     bar.append(barWidth - filled, '.');
-    std::fprintf(stderr, "\r[%s] %d of %d slides", bar.constData(), done, total);
+    QString line =
+        QStringLiteral("[%1] %2 of %3 %4").arg(QLatin1String(bar)).arg(done).arg(total).arg(QLatin1String(what));
+    if (!name.isEmpty()) {
+        line += QLatin1String(": ") + name;
+    }
+    std::fprintf(stderr, "\r%s\033[K", qPrintable(fitted(line)));
     std::fflush(stderr);
 }
 

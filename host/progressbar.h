@@ -2,6 +2,7 @@
 #define PROGRESSBAR_H
 
 #include <QElapsedTimer>
+#include <QString>
 
 /*!
  * A bar on the terminal's error output for work that takes a while. Nothing is shown where that is no terminal.
@@ -14,7 +15,8 @@ public:
     ProgressBar(const ProgressBar &) = delete;
     ProgressBar &operator=(const ProgressBar &) = delete;
 
-    void show(int done, int total);
+    //! what: what is counted, such as "slides"; name: what is being worked on, cut to the width of the terminal.
+    void show(int done, int total, const char *what = "slides", const QString &name = {});
     void clear();
 
 private:

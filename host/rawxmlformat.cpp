@@ -10,10 +10,12 @@
 #include "xmltext.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSize>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <cmath>
@@ -255,6 +257,14 @@ private:
     QJsonObject m_presentation;
 };
 
+// What can't be read so far may be a damaged lesson.
+bool mayBeLesson(const QString &path)
+{
+    QFile file(path);
+    QXmlStreamReader xml(&file);
+    return !file.open(QIODevice::ReadOnly) || !xml.readNextStartElement() || xml.name() == rootTag;
+}
+
 } // namespace
 
 LessonFormat rawXmlFormat()
@@ -263,6 +273,8 @@ LessonFormat rawXmlFormat()
     format.name = QStringLiteral("rawxml");
     format.extensions = QStringList{QStringLiteral("xml")};
     format.description = QStringLiteral("flat XML in one file, files in the folder \"resources\" beside it; only read");
+    format.mayBe = mayBeLesson;
+    format.folderBeside = resourceFolder;
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<RawXmlReader>(path, context);
     };

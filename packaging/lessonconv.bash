@@ -11,12 +11,19 @@ _lessonconv()
         --from | --to)
             mapfile -t COMPREPLY < <(compgen -W "$(lessonconv formats 2>/dev/null | cut -d' ' -f1)" -- "$word")
             return ;;
+        --ink)
+            mapfile -t COMPREPLY < <(compgen -W "polyline drop" -- "$word")
+            return ;;
+        --out-dir)
+            compopt -o filenames 2>/dev/null
+            mapfile -t COMPREPLY < <(compgen -d -- "$word")
+            return ;;
     esac
     local options="--help --version --plugin --from --quiet --json"
     case $command in
         "") options="convert render info formats --help --version" ;;
         render) options+=" --size --slides --diff" ;;
-        convert) options+=" --to --report --strict --no-check" ;;
+        convert) options+=" --to --out-dir --jobs --resume --report --strict --no-check --ink" ;;
     esac
     if [[ -z $command || $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")

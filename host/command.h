@@ -1,0 +1,50 @@
+#ifndef COMMAND_H
+#define COMMAND_H
+
+#include <QCommandLineParser>
+
+struct BatchSettings;
+struct LessonContext;
+struct LessonFormat;
+class LossReport;
+class PluginHost;
+
+//! On standard output; what would move a terminal's cursor is replaced.
+void print(const QString &text);
+
+//! On standard error, as a sentence of the command.
+void complain(const QString &text);
+
+/*!
+ * The command: its options, and what each of its words does.
+ */
+class Command
+{
+public:
+    Command();
+
+    //! The exit code. Throws LessonError.
+    int run(const QStringList &arguments);
+
+private:
+    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
+    QString value(const char *name) const { return m_parser.value(QLatin1String(name)); }
+
+    int formats() const;
+    int info(const QString &input) const;
+    int convert(const QStringList &files) const;
+    int convertOne(const QString &input, const QString &output) const;
+    int convertMany(const QStringList &inputs) const;
+    int serve() const;
+    int render(const QStringList &files) const;
+
+    const LessonFormat &inputFormat(const QString &input) const;
+    LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
+    BatchSettings batchSettings(const PluginHost &host, const LessonFormat &to) const;
+    QString inkChoice() const;
+    int jobs() const;
+
+    QCommandLineParser m_parser;
+};
+
+#endif // COMMAND_H
