@@ -147,6 +147,11 @@ std::unique_ptr<ZQHTran> ZQActivityItemTran::create(const QString &type)
     return isMine ? std::make_unique<ZQActivityItemTran>(type) : nullptr;
 }
 
+QStringList ZQActivityItemTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQActivityItemTran::toTxType(const QString &type)
 {
     const QString txType = typePairs().toTxType(type);

@@ -77,6 +77,11 @@ std::unique_ptr<ZQHTran> ZQBasicGraphItemTran::create(const QString &type)
     return servingType(type).isEmpty() ? nullptr : std::make_unique<ZQBasicGraphItemTran>(type);
 }
 
+QStringList ZQBasicGraphItemTran::types()
+{
+    return vocabulary().types();
+}
+
 QDomElement ZQBasicGraphItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
     if (element.isNull()) {

@@ -122,6 +122,11 @@ std::unique_ptr<ZQHTran> ZQChemistryTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQChemistryTran>(type) : nullptr;
 }
 
+QStringList ZQChemistryTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQChemistryTran::toTxType(const QString &type)
 {
     if (!type.contains(QLatin1String("ZQChemistry"))) {

@@ -94,6 +94,11 @@ std::unique_ptr<ZQHTran> ZQComplexorTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQComplexorTran>(type) : nullptr;
 }
 
+QStringList ZQComplexorTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQComplexorTran::toTxType(const QString &type)
 {
     const QLatin1String prefix("ZQVector");

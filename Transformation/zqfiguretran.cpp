@@ -99,6 +99,11 @@ std::unique_ptr<ZQHTran> ZQFigureTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQFigureTran>(type) : nullptr;
 }
 
+QStringList ZQFigureTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQFigureTran::fromTxType(const QString &type)
 {
     static const QHash<QString, QString> types = readableTypes();

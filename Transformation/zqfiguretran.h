@@ -3,6 +3,8 @@
 
 #include "zqdisciplineitemtran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 /*!
@@ -16,6 +18,9 @@ public:
 
     //! Null for a type that isn't of this family.
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
 
     //! The item type of a ZQTX type such as Shape:feiji. There is no way to this form: figures are written with their
     //! item type.

@@ -62,6 +62,11 @@ std::unique_ptr<ZQHTran> ZQGenToolTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQGenToolTran>(type) : nullptr;
 }
 
+QStringList ZQGenToolTran::types()
+{
+    return vocabulary().types();
+}
+
 QDomElement ZQGenToolTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
     if (element.isNull()) {

@@ -3,6 +3,8 @@
 
 #include "zqcomitemcontroltran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 /*!
@@ -15,6 +17,9 @@ public:
     explicit ZQGenToolTran(const QString &type);
 
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
 
     QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 

@@ -54,6 +54,11 @@ std::unique_ptr<ZQHTran> ZQLiteratureTran::create(const QString &type)
     return known ? std::make_unique<ZQLiteratureTran>(type) : nullptr;
 }
 
+QStringList ZQLiteratureTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQLiteratureTran::toTxType(const QString &type)
 {
     return typePairs().toTxType(type);

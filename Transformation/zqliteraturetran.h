@@ -3,6 +3,8 @@
 
 #include "zqcomitemcontroltran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 /*!
@@ -17,6 +19,9 @@ public:
 
     //! Takes item types and ZQTX types alike; null for a type that isn't of this family.
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 

@@ -233,6 +233,11 @@ std::unique_ptr<ZQHTran> ZQMathematicsTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQMathematicsTran>(type) : nullptr;
 }
 
+QStringList ZQMathematicsTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQMathematicsTran::toTxType(const QString &type)
 {
     return typePairs().toTxType(type);

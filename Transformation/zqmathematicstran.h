@@ -3,6 +3,8 @@
 
 #include "zqdisciplineitemtran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 struct SvgShape;
@@ -20,6 +22,9 @@ public:
     explicit ZQMathematicsTran(const QString &type);
 
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 

@@ -66,6 +66,11 @@ std::unique_ptr<ZQHTran> ZQMathSubjectTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQMathSubjectTran>(type) : nullptr;
 }
 
+QStringList ZQMathSubjectTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQMathSubjectTran::toTxType(const QString &type)
 {
     return typePairs().toTxType(type);

@@ -126,6 +126,11 @@ std::unique_ptr<ZQHTran> ZQMediaItemTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQMediaItemTran>(type) : nullptr;
 }
 
+QStringList ZQMediaItemTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQMediaItemTran::toTxType(const QString &type)
 {
     return typePairs().toTxType(type);

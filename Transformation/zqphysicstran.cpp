@@ -202,6 +202,11 @@ std::unique_ptr<ZQHTran> ZQPhysicsTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQPhysicsTran>(type) : nullptr;
 }
 
+QStringList ZQPhysicsTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQPhysicsTran::toTxType(const QString &type)
 {
     if (!type.contains(QLatin1String("ZQPhysics"))) {

@@ -3,6 +3,8 @@
 
 #include "zqdisciplineitemtran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 /*!
@@ -15,6 +17,9 @@ public:
 
     //! Null for a type that isn't of this family.
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
 
     //! The ZQTX type of any text with "ZQPhysics" in it, listed or not: ZQPhysicsKaiGuan1 gives Physics:kaiguan1.
     static QString toTxType(const QString &type);

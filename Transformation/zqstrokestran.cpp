@@ -126,6 +126,11 @@ std::unique_ptr<ZQHTran> ZQStrokesTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQStrokesTran>(type) : nullptr;
 }
 
+QStringList ZQStrokesTran::types()
+{
+    return vocabulary().types();
+}
+
 QString ZQStrokesTran::toTxType(const QString &type)
 {
     return typePairs().toTxType(type);

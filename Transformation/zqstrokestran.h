@@ -3,6 +3,8 @@
 
 #include "zqinkstroketran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 /*!
@@ -15,6 +17,9 @@ public:
     explicit ZQStrokesTran(const QString &type);
 
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 

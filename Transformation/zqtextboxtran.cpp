@@ -89,6 +89,11 @@ std::unique_ptr<ZQHTran> ZQTextBoxTran::create(const QString &type)
     return vocabulary().contains(type) ? std::make_unique<ZQTextBoxTran>(type) : nullptr;
 }
 
+QStringList ZQTextBoxTran::types()
+{
+    return vocabulary().types();
+}
+
 QJsonObject ZQTextBoxTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     return ZQComItemControlTran::tranXML2JSON(element, json, context);

@@ -4,6 +4,8 @@
 #include "iwbtextinfo.h"
 #include "zqcomitemcontroltran.h"
 
+#include <QStringList>
+
 #include <memory>
 
 /*!
@@ -17,6 +19,9 @@ public:
     explicit ZQTextBoxTran(const QString &type);
 
     static std::unique_ptr<ZQHTran> create(const QString &type);
+
+    //! The types that the family's table names.
+    static QStringList types();
 
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
     QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
