@@ -162,6 +162,27 @@ QDomElement childByNameAttribute(const QDomElement &parent, const QString &name)
     return {};
 }
 
+bool nestsTooDeep(const QDomElement &element)
+{
+    int depth = 1;
+    QDomNode node = element;
+    while (!node.isNull()) {
+        QDomNode next = node.firstChild();
+        if (!next.isNull() && ++depth > deepestNesting) {
+            return true;
+        }
+        while (next.isNull() && node != element) {
+            next = node.nextSibling();
+            if (next.isNull()) {
+                node = node.parentNode();
+                --depth;
+            }
+        }
+        node = next;
+    }
+    return false;
+}
+
 QJsonObject attributesAsJson(const QDomElement &element)
 {
     QJsonObject object;

@@ -33,9 +33,11 @@ const FamilyVocabulary &vocabulary()
 
 const QLatin1String managerKey("manager");
 
+// The element with the paths, or null. One that can't be printed counts as missing.
 QDomElement managerOf(const QDomElement &item)
 {
-    return descendantByTag(item, QStringLiteral("ArtVectObj_Manager"));
+    const QDomElement manager = descendantByTag(item, QStringLiteral("ArtVectObj_Manager"));
+    return nestsTooDeep(manager) ? QDomElement() : manager;
 }
 
 void appendPoint(const QDomElement &point, QJsonArray &numbers)
@@ -151,10 +153,7 @@ QJsonObject ZQComplexorTran::tranZQTX2JSON(QDomElement element, QJsonObject json
 QDomElement ZQComplexorTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
     element = ZQDisciplineItemTran::tranJSON2ZQTX(element, json, context);
-    QDomDocument manager;
-    if (manager.setContent(json.value(managerKey).toString(), false)) {
-        element.appendChild(manager.documentElement());
-    }
+    element.appendChild(elementFromWellFormedXml(json.value(managerKey).toString()));
     return element;
 }
 

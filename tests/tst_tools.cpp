@@ -256,6 +256,17 @@ private slots:
         QCOMPARE(plugin()->tranItemJSON2ZQTX({}, item).tagName(), "activity_item"_s);
         item = {{"Type"_s, "ZQQuestionItem"_s}, {"R_Answer_svg"_s, text}};
         QVERIFY(plugin()->tranItemJSON2ZQTX({}, item).isNull());
+        item = {{"Type"_s, "ZQVectorJuxing"_s}, {"manager"_s, text}};
+        QCOMPARE(plugin()->tranItemJSON2ZQTX({}, item).lastChildElement().tagName(), "data"_s);
+    }
+
+    // What goes into the JSON as text is printed, and printing takes more stack than the tree itself.
+    void treesTooDeepToPrintAreLeftOut()
+    {
+        const QDomElement item =
+            xml(QString(R"(<discipline type="Vector:juxing"><ArtVectObj_Manager>)"_s + "<a>"_s.repeated(7000)
+                        + "</a>"_s.repeated(7000) + "</ArtVectObj_Manager></discipline>"_s));
+        QCOMPARE(plugin()->tranItemZQTX2JSON(item, {}).value("manager"_s), QJsonValue(""_s));
     }
 
     // Entities unfold to levels that no tag of the text shows.
