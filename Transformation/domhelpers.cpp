@@ -79,24 +79,41 @@ bool parse(QDomDocument &document, const QString &xml)
 
 QT_WARNING_POP
 
+// The document element, alone in its document. When the document goes, an element keeps its pointers to what stood
+// beside it, be it only the declaration.
+QDomElement loneElement(QDomDocument &document)
+{
+    const QDomElement element = document.documentElement();
+    QDomNode node = document.firstChild();
+    while (!node.isNull()) {
+        const QDomNode next = node.nextSibling();
+        if (node != element) {
+            document.removeChild(node);
+        }
+        node = next;
+    }
+    return element;
+}
+
 } // namespace
 
 QDomElement elementFromXml(const QString &xml)
 {
     QDomDocument document;
     parse(document, xml);
-    return document.documentElement();
+    return loneElement(document);
 }
 
 QDomElement elementFromWellFormedXml(const QString &xml)
 {
     QDomDocument document;
-    return parse(document, xml) ? document.documentElement() : QDomElement();
+    return parse(document, xml) ? loneElement(document) : QDomElement();
 }
 
 ElementTemplate::ElementTemplate(const QString &xml)
 {
     m_document.setContent(xml, false);
+    loneElement(m_document);
 }
 
 QDomElement ElementTemplate::instance() const

@@ -252,6 +252,25 @@ private slots:
         QCOMPARE(element.attribute(attribute), expected);
     }
 
+    void givesElementsWithoutNeighbours_data()
+    {
+        QTest::addColumn<QJsonObject>("item");
+        QTest::newRow("declaration in front") << json("{'Type':'ZQImagePic'}");
+        QTest::newRow("declaration and values") << json("{'Type':'ZQChineseAlphabetItem'}");
+        QTest::newRow("a title that ends the map") << json(
+            "{'Type':'ZQMindMapItem','mindMapData':[{'title':'</title></mapItemInfo></data></mindmap><!-- x -->'},"
+            "{},{}]}");
+    }
+    // A neighbour would have gone with the document of the template.
+    void givesElementsWithoutNeighbours()
+    {
+        QFETCH(QJsonObject, item);
+        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, item);
+        QVERIFY(!element.isNull());
+        QVERIFY(element.previousSibling().isNull());
+        QVERIFY(element.nextSibling().isNull());
+    }
+
     void keepsTheOrderOfGroups()
     {
         const QDomElement raw =
