@@ -28,11 +28,7 @@ std::optional<QRectF> boxOf(const QJsonObject &item)
 
 std::optional<QTransform> matrixOf(const QJsonObject &item)
 {
-    const QVector<double> n = itemNumbers(item.value(matrixKey));
-    if (n.size() < 6) {
-        return std::nullopt;
-    }
-    return QTransform(n.at(0), n.at(1), n.at(2), n.at(3), n.at(4), n.at(5));
+    return transformOfText(item.value(matrixKey).toString());
 }
 
 double angleOf(const QJsonObject &item)
@@ -47,18 +43,6 @@ QTransform turnAbout(const QPointF &center, double angle)
     const double s = std::sin(angle);
     return QTransform::fromTranslate(-center.x(), -center.y()) * QTransform(c, s, -s, c, 0, 0)
         * QTransform::fromTranslate(center.x(), center.y());
-}
-
-// A box under a matrix: the lengths of its sides, its centre, and its turn.
-ItemPlace placeUnder(const QTransform &matrix, const QRectF &box)
-{
-    if (matrix.type() <= QTransform::TxScale && matrix.m11() > 0 && matrix.m22() > 0) {
-        return {matrix.mapRect(box), 0};
-    }
-    const QSizeF size(box.width() * std::hypot(matrix.m11(), matrix.m12()),
-                      box.height() * std::hypot(matrix.m21(), matrix.m22()));
-    const QPointF corner = matrix.map(box.center()) - QPointF(size.width(), size.height()) / 2;
-    return {QRectF(corner, size), std::atan2(matrix.m12(), matrix.m11())};
 }
 
 // Scale along one axis; points that have no extent of their own stay together.
@@ -122,6 +106,9 @@ QPolygonF ownPoints(const QJsonObject &item, const ShapeForm &form, IZQTransform
     switch (form.outline) {
     case ShapeForm::Polyline:
         return polylinePoints(item);
+    case ShapeForm::Circle:
+    case ShapeForm::Ellipse:
+        return points;
     case ShapeForm::Derived:
         return derivedOutline(item, plugin);
     case ShapeForm::Segment:
@@ -211,7 +198,13 @@ private:
 
     void pointsUnder(const QTransform &matrix)
     {
-        Q_UNUSED(matrix)
+        if (m_form.outline == ShapeForm::Derived && m_item.contains(controlKey)) {
+            // Under a matrix of its own a parallelogram would lie flat whichever way it is turned.
+            m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
+            set(matrixKey, identityText);
+            set(controlKey, pointsText(matrix.map(derivedOutline(m_item, m_plugin))));
+            return;
+        }
         copy(matrixKey);
         if (m_form.outline == ShapeForm::Polyline) {
             set(pointsKey, pointsText(padded(polylinePoints(m_item))) + QLatin1Char(','));
@@ -320,7 +313,7 @@ private:
 
     void rectangleUnder(const QTransform &matrix)
     {
-        const QRectF own = extentOf(pointsOf(itemNumbers(m_item.value(controlKey))));
+        const QRectF own = shapeExtent(m_item, m_form, m_plugin);
         if (scaleAndTurn(matrix)) {
             rectangle(placeUnder(matrix, own));
             return;
@@ -344,6 +337,36 @@ double number(const QDomElement &element, const char *attribute)
 
 } // namespace
 
+std::optional<QTransform> transformOfText(const QString &text)
+{
+    const QVector<double> n = itemNumbers(text);
+    if (n.size() < 6) {
+        return std::nullopt;
+    }
+    return QTransform(n.at(0), n.at(1), n.at(2), n.at(3), n.at(4), n.at(5));
+}
+
+QString transformText(const QTransform &transform)
+{
+    QStringList numbers;
+    for (const double number :
+         {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
+        numbers.append(exactText(number));
+    }
+    return numbers.join(QLatin1Char(','));
+}
+
+ItemPlace placeUnder(const QTransform &matrix, const QRectF &box)
+{
+    if (matrix.type() <= QTransform::TxScale && matrix.m11() > 0 && matrix.m22() > 0) {
+        return {matrix.mapRect(box), 0};
+    }
+    const QSizeF size(box.width() * std::hypot(matrix.m11(), matrix.m12()),
+                      box.height() * std::hypot(matrix.m21(), matrix.m22()));
+    const QPointF corner = matrix.map(box.center()) - QPointF(size.width(), size.height()) / 2;
+    return {QRectF(corner, size), std::atan2(matrix.m12(), matrix.m11())};
+}
+
 std::optional<ItemPlace> itemPlace(const QJsonObject &item)
 {
     const auto box = boxOf(item);
@@ -359,6 +382,25 @@ double itemScale(const QJsonObject &item)
     const auto matrix = matrixOf(item);
     const double scale = matrix ? std::sqrt(qAbs(matrix->determinant())) : 1;
     return scale > 0 ? scale : 1;
+}
+
+QPolygonF shapePoints(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)
+{
+    return ownPoints(item, form, plugin);
+}
+
+QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)
+{
+    if (form.outline == ShapeForm::Circle || form.outline == ShapeForm::Ellipse) {
+        const QSizeF radii = ownRadii(item, form.outline, QPointF());
+        const QPointF corner(radii.width(), radii.height());
+        return QRectF(-corner, corner);
+    }
+    const QPolygonF points = ownPoints(item, form, plugin);
+    if (form.outline == ShapeForm::Rectangle && points.size() < 2) {
+        return boxOf(item).value_or(QRectF());
+    }
+    return extentOf(points);
 }
 
 PlacedShape placeShape(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)

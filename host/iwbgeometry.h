@@ -16,12 +16,26 @@ struct ItemPlace
     double angle = 0; //!< radians, clockwise on the screen
 };
 
+//! m11,m12,m21,m22,dx,dy as a transform and back. Nothing for fewer numbers.
+std::optional<QTransform> transformOfText(const QString &text);
+QString transformText(const QTransform &transform);
+
+//! Where a box of an item stands under the item's matrix: the lengths of its sides, its centre, and its turn. A slant
+//! is lost, and which way round it is.
+ItemPlace placeUnder(const QTransform &matrix, const QRectF &box);
+
 //! The place of an item of text or media. An item with a Matrix has its BoundingBox under it; without one the box is
 //! that of the page, turned by Angle. Nothing for an item without a box. A slant of the Matrix is lost.
 std::optional<ItemPlace> itemPlace(const QJsonObject &item);
 
 //! How much larger an item's Matrix draws what has no length of its own, such as letters; 1 without a Matrix.
 double itemScale(const QJsonObject &item);
+
+//! The points that a shape draws before its Matrix, an angle's origin among them; none for round shapes.
+QPolygonF shapePoints(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin);
+
+//! What a shape covers before its Matrix.
+QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin);
 
 /*!
  * A shape as the plug-in's export takes it.

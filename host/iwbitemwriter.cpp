@@ -159,7 +159,10 @@ void setBox(QDomElement &element, const QRectF &box)
 // is read. The numbers have blanks between them: with commas they would be in radians.
 void setTurn(QDomElement &element, double angle)
 {
-    const double degrees = std::remainder(angle * 180 / M_PI, 360);
+    double degrees = std::remainder(angle * 180 / M_PI, 360);
+    if (degrees < -180 + 1e-4) {
+        degrees += 360;
+    }
     if (qAbs(degrees) < 1e-4) {
         element.removeAttribute(QStringLiteral("transform"));
         return;
@@ -199,7 +202,8 @@ QPolygonF strokePoints(const QJsonObject &item)
     for (int i = 1; i < points.size(); ++i) {
         points[i] += points.at(i - 1);
     }
-    return points;
+    const auto matrix = transformOfText(item.value(QLatin1String("Matrix")).toString());
+    return matrix ? matrix->map(points) : points;
 }
 
 } // namespace
@@ -266,7 +270,7 @@ void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
     const QRectF box = placed.form->outline == ShapeForm::Rectangle ? placed.box.value_or(extent) : extent;
     setBox(shape, box);
     setTurn(shape, placed.angle);
-    reportUncarried(item, carriedByShapes, &form);
+    reportUncarried(withoutDoubledWidth(item), carriedByShapes, &form);
     append(item, element);
 }
 
@@ -292,7 +296,7 @@ void IwbItemWriter::writeStroke(const QJsonObject &item)
     polyline.insert(QLatin1String("XYValue"), QString(pointsText(points) + QLatin1Char(',')));
     polyline.insert(QLatin1String(form.lineKey), colorText(color));
     polyline.insert(QLatin1String("ArtObj_Width"),
-                    exactText(itemNumbers(item.value(QLatin1String("Width"))).value(0, 5)));
+                    exactText(itemNumbers(item.value(QLatin1String("Width"))).value(0, 5) * itemScale(item)));
     reportUncarried(item, carriedByStrokes);
     writeShape(polyline, form);
     ++m_strokes;

@@ -42,6 +42,15 @@ const ShapeForm *shapeForm(const QString &type)
     return table.value(type);
 }
 
+QJsonObject withoutDoubledWidth(QJsonObject item)
+{
+    const QLatin1String doubled("Width");
+    if (item.contains(doubled) && item.value(doubled) == item.value(QLatin1String("ArtObj_Width"))) {
+        item.remove(doubled);
+    }
+    return item;
+}
+
 QString lineColorText(const ShapeForm &form, const QColor &color)
 {
     // What is cut off are the three digits of an opaque alpha and its comma.

@@ -39,6 +39,9 @@ struct ShapeForm
 //! The form of an item type, or null for types that aren't drawn.
 const ShapeForm *shapeForm(const QString &type);
 
+//! A raw segment without the Width that only says its ArtObj_Width once more.
+QJsonObject withoutDoubledWidth(QJsonObject item);
+
 //! The line's colour as the plug-in takes it for this form: its alpha is not among it.
 QString lineColorText(const ShapeForm &form, const QColor &color);
 

@@ -6,6 +6,7 @@
 #include "lessonerror.h"
 #include "modelforms.h"
 #include "packagesource.h"
+#include "rawattributes.h"
 #include "xmlloader.h"
 #include "xmltext.h"
 
@@ -93,6 +94,7 @@ public:
         , m_path(path)
         , m_document(loadXmlFile(path))
         , m_check(context.losses)
+        , m_attributes(context.plugin, resourceFolder + QLatin1Char('/'))
     {
         QDomElement root = m_document.documentElement();
         if (root.tagName() != rootTag) {
@@ -108,7 +110,8 @@ public:
         for (const QDomElement &slide : qAsConst(m_slides)) {
             root.removeChild(slide);
         }
-        m_presentation = readPresentation(root);
+        // Reading gives an element without an identifier one.
+        m_presentation = readPresentation(root.cloneNode(true).toElement());
         if (isChecking()) {
             m_check.examine(rootTag, {}, root,
                             [this](const QDomElement &copy) { return withoutMadeUpId(copy, readPresentation(copy)); },
@@ -203,7 +206,7 @@ private:
         m_presentation.insert(height, QString::number(size.height()));
     }
 
-    QJsonObject readItem(QDomElement element, const QJsonObject &context, CarriedCheck *check) const
+    QJsonObject readItem(QDomElement element, const QJsonObject &context, CarriedCheck *check)
     {
         QVector<QDomElement> nested;
         QDomElement sons;
@@ -213,7 +216,7 @@ private:
         }
         QDomElement untouched = element.cloneNode(true).toElement();
         untouched.removeChild(untouched.firstChildElement(groupSons));
-        QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
+        QJsonObject item = readSingle(element, context);
         if (item.isEmpty()) {
             for (const QDomElement &son : qAsConst(nested)) {
                 sons.appendChild(son);
@@ -221,11 +224,10 @@ private:
             return keptItem(element);
         }
         if (check) {
-            check->examine(element.tagName(), item.value(idKey).toString(), untouched,
-                           [this, &context](const QDomElement &copy) {
-                               return withoutMadeUpId(copy, m_context.plugin->tranItemXML2JSON(copy, context));
-                           },
-                           {});
+            check->examine(
+                element.tagName(), item.value(idKey).toString(), untouched,
+                [this, &context](const QDomElement &copy) { return withoutMadeUpId(copy, readSingle(copy, context)); },
+                {});
         }
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
@@ -235,6 +237,15 @@ private:
         }
         if (!children.isEmpty()) {
             item.insert(HostKeys::children, children);
+        }
+        return item;
+    }
+
+    QJsonObject readSingle(const QDomElement &element, const QJsonObject &context)
+    {
+        QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
+        if (!item.isEmpty()) {
+            m_attributes.addTo(item, element);
         }
         return item;
     }
@@ -252,6 +263,7 @@ private:
     QString m_path;
     QDomDocument m_document;
     CarriedCheck m_check;
+    RawAttributes m_attributes;
     QSet<int> m_checked;
     QVector<QDomElement> m_slides;
     QJsonObject m_presentation;

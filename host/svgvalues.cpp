@@ -382,7 +382,8 @@ std::optional<ScaleAndTurn> scaleAndTurn(const QTransform &transform)
     result.scaleX = std::hypot(transform.m11(), transform.m12());
     const double lengthY = std::hypot(transform.m21(), transform.m22());
     const double cross = transform.m11() * transform.m21() + transform.m12() * transform.m22();
-    if (qAbs(cross) > 1e-6 * qMax(1e-12, result.scaleX * lengthY)) {
+    // Matrices of lessons have six digits.
+    if (qAbs(cross) > 5e-5 * qMax(1e-12, result.scaleX * lengthY)) {
         return std::nullopt;
     }
     result.scaleY = transform.determinant() < 0 ? -lengthY : lengthY;

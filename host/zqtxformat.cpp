@@ -11,6 +11,7 @@
 #include "packagenames.h"
 #include "packagesource.h"
 #include "packagetarget.h"
+#include "pageplace.h"
 #include "xmlloader.h"
 #include "xmltext.h"
 #include "zqtxitems.h"
@@ -286,7 +287,8 @@ public:
     void writeSlide(const LessonSlide &slide) override
     {
         const int number = m_ids.size() + 1;
-        LessonSlide written{withShortPictures(slide.properties), slide.items};
+        LessonSlide written = slideInPageForm(slide, m_context.plugin, &m_placedItems);
+        written.properties = withShortPictures(written.properties);
         const QString id = usableId(valueText(slide.properties.value(idKey)), number);
         written.properties.insert(idKey, id);
         const QDomElement root = m_slides->write(written).documentElement();
@@ -320,6 +322,7 @@ public:
                 .compareProperties(QStringLiteral("presentation"), m_presentation,
                                    readIndex(m_context.plugin, loadXml(text, name).documentElement(), name));
         }
+        notePlacedItems();
         if (isArchiveName(m_target.target())) {
             m_target.commitArchive();
         } else {
@@ -328,6 +331,18 @@ public:
     }
 
 private:
+    void notePlacedItems() const
+    {
+        if (m_placedItems == 0 || !m_context.losses) {
+            return;
+        }
+        Loss note;
+        note.kind = Loss::Note;
+        note.itemType = QStringLiteral("items");
+        note.detail = QStringLiteral("%1 had a matrix, which is worked into where they stand").arg(m_placedItems);
+        m_context.losses->add(note);
+    }
+
     // The identifier names the slide's file.
     QString usableId(const QString &id, int number) const
     {
@@ -361,6 +376,7 @@ private:
     QJsonObject m_presentation;
     QStringList m_ids;
     QSet<QString> m_usedIds;
+    int m_placedItems = 0;
     std::unique_ptr<ZqtxSlides> m_slides;
 };
 

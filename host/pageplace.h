@@ -1,0 +1,17 @@
+#ifndef PAGEPLACE_H
+#define PAGEPLACE_H
+
+#include "lesson.h"
+
+/*!
+ * Brings the values of raw lessons into the keys that packages have for them, such that what is drawn stays the same.
+ *
+ * Packages know no matrix: an item stands in its box, turned about its centre by Angle. Their media have a resource,
+ * their texts are HTML, the background of a page is a color and a document. What has no such form, a slanted picture
+ * for instance, keeps its own keys.
+ *
+ * placed is increased by the items whose Matrix was worked into their box, turn or points.
+ */
+LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin, int *placed = nullptr);
+
+#endif // PAGEPLACE_H

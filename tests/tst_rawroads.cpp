@@ -1,0 +1,215 @@
+#include "conversion.h"
+#include "lossreport.h"
+#include "pluginfixture.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+void write(const QString &file, const QByteArray &content)
+{
+    QDir().mkpath(QFileInfo(file).path());
+    QFile opened(file);
+    if (!opened.open(QIODevice::WriteOnly) || opened.write(content) != content.size()) {
+        qFatal("can't write %s", qPrintable(file));
+    }
+}
+
+QByteArray read(const QString &file)
+{
+    QFile opened(file);
+    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+}
+
+QString convert(const QString &from, const QString &to, const char *format)
+{
+    LessonContext context;
+    context.plugin = plugin();
+    LossReport losses;
+    context.losses = &losses;
+    context.verify = QLatin1String(format) == QLatin1String("zqtx");
+    convertLesson(lessonFormatOfInput(from), from, lessonFormatByName(QLatin1String(format)), to, context,
+                  [](int, int) {});
+    return losses.summary();
+}
+
+} // namespace
+
+/*!
+ * Raw lessons on their way into the other formats: what the plug-in's reading leaves behind, and where items stand.
+ */
+class TestRawRoads : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+
+    QString putLesson(const QByteArray &items, const QByteArray &slide = "SlideSourceRect='0,0,1024,768'") const
+    {
+        QImage picture(4, 3, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QDir().mkpath(path("resources"));
+        picture.save(path("resources/tree.png"));
+        write(path("resources/tone.wav"), "RIFF");
+        write(path("raw.xml"),
+              "<presentation NetID='p' Version='2.4'><slide NetID='1' " + slide + ">" + items
+                  + "</slide></presentation>");
+        return path("raw.xml");
+    }
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void attributesReachTheModel_data()
+    {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<QJsonObject>("expected");
+        const auto row = [](const char *name, const char *item, const char *expected) {
+            QTest::newRow(name) << QByteArray(item) << json(expected);
+        };
+        row("a file", R"(<ZQImagePic MultiMediaFile='C:\pics\tree.png'/>)", "{'MultiMediaFile':'resources/tree.png'}");
+        row("files, one behind the other", R"(<ZQMediaVideo MultiMediaFile='a;b\tree.png|tone.wav||'/>)",
+            "{'MultiMediaFile':'resources/tree.png,resources/tone.wav'}");
+        row("files with semicolons", "<ZQMediaAudio MultiMediaFile='/x/a.wav;b.wav;'/>",
+            "{'MultiMediaFile':'resources/a.wav,resources/b.wav'}");
+        row("no file of a shape", "<ZQMath2DCircle MultiMediaFile='a.png'/>", "{'MultiMediaFile':null}");
+        row("ink: the alpha of its colour doesn't count, its opacity does",
+            "<ZQSmoothStroke Color='9,1,2,255' Opacity='128' Width='7[ ,]' DashStyle='2'/>",
+            "{'Color':'#800102ff','Width':'7','DashStyle':'2','Opacity':null}");
+        row("ink that says nothing", "<ZQSmoothStroke/>", "{'Color':'#ffff0000','Width':'5.0'}");
+        row("a texture", R"(<ZQStrokeTexture DrawTexture='D:\brush\chalk.png'/>)",
+            "{'DrawTexture':'resources/chalk.png'}");
+        row("the box of a subject item", "<ZQPhysicsDianLing Bound='30,40,0,0,10,20'/>",
+            "{'BoundingBox':'10,20,30,40'}");
+        row("a text board's HTML", "<ZQTextBoard TextHtml='x' Fragrance='y'/>", "{'TextHtml':'x','Fragrance':null}");
+        // A scale of 2 and a turn of 90 degrees on a page that is 1.40625 times as large; the plug-in alone would leave
+        // the box of 2 x 4 that stands around the turned picture and no turn. m11 must be over 1, so 30 degrees here:
+        // 2 cos 30 * 1.40625 = 2.43570, 2 sin 30 * 1.40625 = 1.40625.
+        row("a picture keeps its turn", "<ZQImagePic TransformMatrix='1.73205,1,-1,1.73205,0,0' Bound='2,1,0,0,0,0'/>",
+            "{'BoundingBox':'0,0,2,1','Matrix':'2.4356953125,1.40625,-1.40625,2.4356953125,0,0'}");
+    }
+
+    void attributesReachTheModel()
+    {
+        QFETCH(QByteArray, item);
+        QFETCH(QJsonObject, expected);
+        LessonContext context;
+        context.plugin = plugin();
+        const auto reader = lessonFormatByName(QStringLiteral("rawxml")).open(putLesson(item), context);
+        const QJsonObject found = reader->slide(0).items.first().toObject();
+        for (auto it = expected.constBegin(); it != expected.constEnd(); ++it) {
+            const QJsonValue wanted = it.value().isNull() ? QJsonValue(QJsonValue::Undefined) : it.value();
+            QCOMPARE(found.value(it.key()), wanted);
+        }
+    }
+
+    // What an item draws is the same whether its matrix goes to the page directly or into the box of a package first.
+    void matricesAreWorkedIn_data()
+    {
+        QTest::addColumn<QByteArray>("shape");
+        QTest::addColumn<QString>("lost");
+        const char *const two = "Discipline_xControl0='80' Discipline_yControl0='5' Discipline_xControl1='0' "
+                                "Discipline_yControl1='40'";
+        const QByteArray three = QByteArray(two) + " Discipline_xControl2='60' Discipline_yControl2='90'";
+        const QByteArray rim = "Discipline_xControl0='80' Discipline_yControl0='0' Discipline_xControl1='0' "
+                               "Discipline_yControl1='40'";
+        const auto shape = [](const char *type, const QByteArray &attributes) -> QByteArray {
+            return "<" + QByteArray(type) + " NetID='i' " + attributes + " TransformMatrix='";
+        };
+        const QVector<QPair<QByteArray, QByteArray>> shapes{
+            {"segment", shape("ZQMath2DSegmentWith1Arrow", QByteArray(two) + " ArtObj_ArrowType='1'")},
+            {"angle", shape("ZQMath2DAngle", two)},
+            {"triangle", shape("ZQMath2DTriangle", three)},
+            {"polyline", shape("ZQMath2DPolyline", "XYValue='0,0,10,10,30,10,50,-4;'")},
+            {"parallelogram", shape("ZQMath2DParallelogram", three)},
+            {"pentagon", shape("ZQMath2DNormalPentagon", "ArtObj_Ln='5'")},
+            {"circle", shape("ZQMath2DCircle", two)},
+            {"ellipse", shape("ZQMath2DEllipse", rim)},
+            {"rectangle", shape("ZQMath2DRectangle", rim)},
+            {"rectangle of its box alone", shape("ZQMath2DRectangle", "Bound='80,40,0,0,10,10'")},
+            {"picture", shape("ZQImagePic", "MultiMediaFile='tree.png' Bound='80,40,0,0,10,10'")},
+            {"text", shape("ZQTextBoard", "Text='x]]&gt;y' Bound='80,40,0,0,10,10'")},
+        };
+        const QVector<QPair<QByteArray, QByteArray>> matrices{
+            {"moved", "1,0,0,1,100,50"},
+            {"three times as large", "3,0,0,3,100,50"},
+            {"turned by 30 degrees", "0.866025,0.5,-0.5,0.866025,300,50"},
+            {"stretched, then turned", "1.73205,1,-1.5,2.59808,300,50"},
+            {"mirrored", "-1,0,0,1,300,50"},
+            {"slanted", "1,0,0.5,1,300,50"},
+        };
+        // Regular shapes have no points of their own to move; boxes can't be slanted, and pictures not be mirrored.
+        const QStringList unmirrored{"parallelogram", "pentagon", "picture", "text"};
+        const QStringList unslanted = unmirrored + QStringList{"rectangle", "rectangle of its box alone"};
+        for (const auto &one : shapes) {
+            for (const auto &matrix : matrices) {
+                const bool isLost = (matrix.first == "mirrored" && unmirrored.contains(one.first))
+                    || (matrix.first == "slanted" && unslanted.contains(one.first));
+                QTest::newRow(QByteArray(one.first + ", " + matrix.first).constData())
+                    << QByteArray(one.second + matrix.second + "'/>") << (isLost ? "Matrix on slide 1" : "");
+            }
+        }
+    }
+
+    void matricesAreWorkedIn()
+    {
+        QFETCH(QByteArray, shape);
+        QFETCH(QString, lost);
+        const QString raw = putLesson(shape);
+        QVERIFY(!convert(raw, path("direct"), "iwb").contains(QLatin1String("no IWB form")));
+        const QString report = convert(raw, path("package"), "zqtx");
+        convert(path("package"), path("detour"), "iwb");
+        if (lost.isEmpty()) {
+            QCOMPARE(report, QStringLiteral("Note: items: 1 had a matrix, which is worked into where they stand"));
+            QCOMPARE(drawn(path("detour")), drawn(path("direct")));
+        } else {
+            QVERIFY2(report.contains(lost), qPrintable(report));
+        }
+    }
+
+    void backgroundsBecomeThoseOfPackages()
+    {
+        const QString raw =
+            putLesson("<ZQGroupItem TransformMatrix='1,0,0,1,0,0' Bound='1,1,0,0,0,0'><GroupSonItems>"
+                      "<ZQImagePic MultiMediaFile='tree.png' Bound='40,30,0,0,20,10'/>"
+                      "<ZQImagePic MultiMediaFile='tree.png' Bound='8,6,0,0,4,2'/></GroupSonItems></ZQGroupItem>",
+                      R"(BackColor='9,10,20,30' AttachFile='C:\tree.png|')");
+        QCOMPARE(convert(raw, path("package"), "zqtx"),
+                 QStringLiteral("Note: items: 2 had a matrix, which is worked into where they stand"));
+        const QByteArray slide = read(path("package/slides/1.xml"));
+        QVERIFY2(slide.contains("<color value=\"255,10,20,30\"/>"), slide);
+        QVERIFY2(slide.contains("<picture document=\"resources/tree.png\"/>"), slide);
+        QCOMPARE(slide.count("resource=\"resources/tree.png\""), 2);
+        // The group stands around its items: 4 * 1.40625, 2 * 1.40625, 40 * 1.40625, 30 * 1.40625.
+        QVERIFY2(slide.contains("<rect points=\"5.625,2.8125,56.25,42.1875\"/>"), slide);
+    }
+
+private:
+    // The page's svg without what the lesson's own identifiers and shortened numbers make of it.
+    static QStringList drawn(const QString &package)
+    {
+        QStringList texts;
+        QString content = QString::fromUtf8(read(package + QLatin1String("/content.xml")));
+        static const QRegularExpression number(QStringLiteral("-?[0-9]+\\.[0-9]+"));
+        QRegularExpressionMatchIterator it = number.globalMatch(content);
+        QString rounded;
+        int end = 0;
+        while (it.hasNext()) {
+            const QRegularExpressionMatch match = it.next();
+            rounded += content.midRef(end, match.capturedStart() - end);
+            rounded += QString::number(match.captured().toDouble(), 'f', 1);
+            end = match.capturedEnd();
+        }
+        rounded += content.midRef(end);
+        return rounded.split(QLatin1Char('\n'));
+    }
+};
+
+QTEST_MAIN(TestRawRoads)
+#include "tst_rawroads.moc"
