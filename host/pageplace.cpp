@@ -215,9 +215,9 @@ QJsonObject itemInPageForm(QJsonObject item, IZQTransformation *plugin, int &pla
         return item;
     }
     const auto matrix = transformOfText(item.value(matrixKey).toString());
+    item.remove(slideMatrixKey); // its part in the matrix
     if (matrix && placeItem(item, *matrix, plugin)) {
         item.remove(matrixKey);
-        item.remove(slideMatrixKey);
         ++placed;
     }
     return item;
@@ -263,10 +263,8 @@ LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin,
     int count = 0;
     makeBackground(result.properties);
     result.items = itemsInPageForm(slide.items, plugin, count);
-    if (count > 0) {
-        // It tells what the matrices were fitted from.
-        result.properties.remove(QLatin1String("SlideSourceRect"));
-    }
+    // It tells what the matrices were fitted from.
+    result.properties.remove(QLatin1String("SlideSourceRect"));
     if (placed) {
         *placed += count;
     }
