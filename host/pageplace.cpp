@@ -159,21 +159,6 @@ void makeHtml(QJsonObject &item)
     }
 }
 
-// A resource is one file.
-void makeResource(QJsonObject &item)
-{
-    const QLatin1String filesKey("MultiMediaFile");
-    const QLatin1String resourceKey("resource");
-    const QString files = item.value(filesKey).toString();
-    if (files.isEmpty() || !item.value(resourceKey).toString().isEmpty()) {
-        return;
-    }
-    item.insert(resourceKey, files.section(QLatin1Char(','), 0, 0));
-    if (!files.contains(QLatin1Char(','))) {
-        item.remove(filesKey);
-    }
-}
-
 QJsonArray itemsInPageForm(const QJsonArray &items, IZQTransformation *plugin, int &placed);
 
 // A raw group stands around its items, which are placed by themselves; its own box isn't one of the page.
@@ -207,7 +192,7 @@ void placeGroup(QJsonObject &group, IZQTransformation *plugin, int &placed)
 
 QJsonObject itemInPageForm(QJsonObject item, IZQTransformation *plugin, int &placed)
 {
-    makeResource(item);
+    nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
     if (!item.value(childrenKey).toArray().isEmpty()) {
@@ -269,4 +254,18 @@ LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin,
         *placed += count;
     }
     return result;
+}
+
+void nameMediaFile(QJsonObject &item)
+{
+    const QLatin1String filesKey("MultiMediaFile");
+    const QLatin1String resourceKey("resource");
+    const QString files = item.value(filesKey).toString();
+    if (files.isEmpty() || !item.value(resourceKey).toString().isEmpty()) {
+        return;
+    }
+    item.insert(resourceKey, files.section(QLatin1Char(','), 0, 0));
+    if (!files.contains(QLatin1Char(','))) {
+        item.remove(filesKey);
+    }
 }

@@ -14,4 +14,8 @@
  */
 LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin, int *placed = nullptr);
 
+//! A package names a media item's file as its resource; a raw lesson lists files in MultiMediaFile. The first becomes
+//! the resource of an item that has none, and a list of one goes.
+void nameMediaFile(QJsonObject &item);
+
 #endif // PAGEPLACE_H

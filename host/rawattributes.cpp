@@ -16,9 +16,7 @@ const QLatin1String opacityKey("Opacity");
 const QLatin1String widthKey("Width");
 const QLatin1String boxKey("BoundingBox");
 const QLatin1String matrixKey("Matrix");
-const QLatin1String mediaKey("MultiMediaFile");
 
-constexpr const char *mediaTypes[] = {"ZQImagePic", "ZQMediaFlash", "ZQMediaAudio", "ZQMediaVideo", "ZQMediaDoc"};
 constexpr const char *referenceKeys[] = {"DrawTexture", "Stamp", "resource", "document", "AudioPath"};
 
 template <size_t size> bool isOneOf(const char *const (&names)[size], const QString &text)
@@ -71,20 +69,6 @@ RawAttributes::RawAttributes(IZQTransformation *plugin, const QString &folder)
 
 void RawAttributes::addTo(QJsonObject &item, const QDomElement &element)
 {
-    const QString type = item.value(typeKey).toString();
-    if (element.hasAttribute(mediaKey) && isOneOf(mediaTypes, type)) {
-        // Several files have separators between them and often one behind them.
-        const QString text = element.attribute(mediaKey);
-        QStringList files =
-            text.split(text.contains(QLatin1Char('|')) ? QLatin1Char('|') : QLatin1Char(';'), Qt::KeepEmptyParts);
-        while (!files.isEmpty() && files.constLast().isEmpty()) {
-            files.removeLast();
-        }
-        for (QString &file : files) {
-            file = reference(file);
-        }
-        item.insert(mediaKey, files.join(QLatin1Char(',')));
-    }
     const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
     if (!item.contains(boxKey) && !box.isEmpty()) {
         item.insert(boxKey, box);

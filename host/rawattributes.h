@@ -9,8 +9,8 @@
 class IZQTransformation;
 
 /*!
- * Attributes of raw items that the plug-in's reading leaves behind although the model has a key for them: the file of a
- * picture, the colour and width of a stroke, the box of a subject item, and whatever else bears the name of a key that
+ * Attributes of raw items that the plug-in's reading leaves behind although the model has a key for them: the colour
+ * and width of a stroke, the box of a subject item, and whatever else bears the name of a key that
  * ZQTX holds for the item's type.
  */
 class RawAttributes

@@ -6,6 +6,7 @@
 #include "lessonerror.h"
 #include "modelforms.h"
 #include "packagesource.h"
+#include "pageplace.h"
 #include "rawattributes.h"
 #include "xmlloader.h"
 #include "xmltext.h"
@@ -66,20 +67,6 @@ QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
         object.insert(script, object.value(script).toString().remove(actionIndex));
     }
     return object;
-}
-
-// A package names a media item's file under another key than a raw lesson, which lists several. One alone moves there.
-void nameMediaFile(QJsonObject &item)
-{
-    const QLatin1String filesKey("MultiMediaFile");
-    const QString files = item.value(filesKey).toString();
-    if (files.isEmpty()) {
-        return;
-    }
-    item.insert(QStringLiteral("resource"), files.section(QLatin1Char(','), 0, 0));
-    if (!files.contains(QLatin1Char(','))) {
-        item.remove(filesKey);
-    }
 }
 
 /*!
