@@ -21,11 +21,12 @@ public:
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
     QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 
+protected:
+    QStringList colorKeys; //!< the keys that carry a colour
+
 private:
     void readRawColors(const QDomElement &element, QJsonObject &json) const;
     void readTxColors(QJsonObject &json) const;
-
-    QStringList colorKeys; //!< the keys that carry a colour
 };
 
 #endif // ZQDISCIPLINEITEMTRAN_H

@@ -28,7 +28,8 @@ if(BUILD_HOST)
     install(FILES packaging/lessonconv.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
         RENAME lessonconv)
 endif()
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.md" PATTERN "*.png"
+    PATTERN generator EXCLUDE)
 install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB)

@@ -1,0 +1,12 @@
+#ifndef DOCUMENTS_H
+#define DOCUMENTS_H
+
+#include <QString>
+
+//! Every key that the plug-in reads or writes by its tables, by family and type.
+QString formatsDocument();
+
+//! What conversions can't carry, by type: found by converting one item of every type.
+QString lossesDocument();
+
+#endif // DOCUMENTS_H

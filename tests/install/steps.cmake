@@ -1,0 +1,29 @@
+# What the checks of an installation share.
+
+# step(COMMAND...): runs it and stops with its output if it fails; leaves the output in "output".
+function(step)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${ARGN} failed:\n${output}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+function(check_is_installed root)
+    foreach(file ${PLUGIN_FOLDER}/libzqtransformation.so bin/lessonconv share/man/man1/lessonconv.1
+            share/bash-completion/completions/lessonconv)
+        if(NOT EXISTS ${root}/${file})
+            message(FATAL_ERROR "${file} was not installed")
+        endif()
+    endforeach()
+endfunction()
+
+# Builds the minimal host against what is installed in root and runs it.
+function(check_minimal_host root)
+    step(${CMAKE_COMMAND} -S ${SOURCE}/examples/host -B ${WORK}/host -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${root})
+    step(${CMAKE_COMMAND} --build ${WORK}/host)
+    step(${WORK}/host/minimalhost)
+    if(NOT output MATCHES "ZQSmoothStroke 42")
+        message(FATAL_ERROR "The minimal host read something else:\n${output}")
+    endif()
+endfunction()
