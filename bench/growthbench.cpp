@@ -98,7 +98,6 @@ void registerGrowth(const QString &name, Make make, const std::vector<int> &size
 
 int main(int argc, char **argv)
 {
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     registerGrowth(QStringLiteral("points of a stroke"), stroke, {10, 1000, 100000});
     registerGrowth(QStringLiteral("points of a vector path"), vectorPath, {10, 1000, 10000});
     registerGrowth(QStringLiteral("children of a group"), wideGroup, {10, 1000, 10000});

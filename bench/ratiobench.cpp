@@ -9,6 +9,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
@@ -23,11 +24,27 @@ QMap<QString, QMap<QString, double>> &results()
     return all;
 }
 
-double secondsOf(const std::function<void()> &work)
+double secondsOf(const std::function<void()> &work, int times)
 {
     const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - start).count();
+    for (int i = 0; i < times; ++i) {
+        work();
+    }
+    return std::chrono::duration<double>(Clock::now() - start).count() / times;
+}
+
+// As often as makes a turn long beside reading the clock, and short beside what else the machine does.
+int timesPerTurn(const std::function<void()> &work)
+{
+    const double turn = 100e-6;
+    return qBound(1, int(turn / secondsOf(work, 3)), 1000);
+}
+
+double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
 }
 
 void printSummary()
@@ -104,17 +121,18 @@ void registerRatio(const QString &group, const QString &name, const std::functio
                    const std::function<void()> &base)
 {
     const auto measure = [=](benchmark::State &state) {
-        work();
-        base();
-        double workSeconds = 0;
-        double baseSeconds = 0;
+        const int workTimes = timesPerTurn(work);
+        const int baseTimes = timesPerTurn(base);
+        std::vector<double> workTurns;
+        std::vector<double> baseTurns;
         for (auto _ : state) {
-            workSeconds += secondsOf(work);
-            baseSeconds += secondsOf(base);
+            workTurns.push_back(secondsOf(work, workTimes));
+            baseTurns.push_back(secondsOf(base, baseTimes));
         }
-        const auto turns = double(state.iterations());
-        state.counters["work_us"] = workSeconds * 1e6 / turns;
-        state.counters["base_us"] = baseSeconds * 1e6 / turns;
+        const double workSeconds = median(workTurns);
+        const double baseSeconds = median(baseTurns);
+        state.counters["work_us"] = workSeconds * 1e6;
+        state.counters["base_us"] = baseSeconds * 1e6;
         state.counters["ratio"] = workSeconds / baseSeconds;
         results()[group][name] = workSeconds / baseSeconds;
     };
@@ -129,6 +147,8 @@ int runRatios(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
     }
+    // The plug-in logs whole items while it writes.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     benchmark::RunSpecifiedBenchmarks();
     printSummary();
     return 0;

@@ -10,7 +10,7 @@
 #include <vector>
 
 // Every figure of the benchmarks is a ratio within one run, so that it means the same on any machine. Both sides of a
-// ratio are measured in turns, so that noise disturbs both alike.
+// ratio are measured in turns and the median turn of each counts, so that a busy machine disturbs neither.
 
 IZQTransformation *plugin();
 
