@@ -137,9 +137,9 @@ QDomElement newElement(const QString &tag)
 
 QDomElement childByTag(const QDomElement &parent, const QString &tag)
 {
-    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.tagName() == tag) {
-            return child;
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.nodeName() == tag && child.isElement()) {
+            return child.toElement();
         }
     }
     return {};
@@ -147,9 +147,9 @@ QDomElement childByTag(const QDomElement &parent, const QString &tag)
 
 QDomElement childByTagAndContent(const QDomElement &parent, const QString &tag, bool withChildren)
 {
-    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.tagName() == tag && child.hasChildNodes() == withChildren) {
-            return child;
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.nodeName() == tag && child.isElement() && child.hasChildNodes() == withChildren) {
+            return child.toElement();
         }
     }
     return {};
@@ -158,11 +158,11 @@ QDomElement childByTagAndContent(const QDomElement &parent, const QString &tag, 
 QDomElement descendantByTag(const QDomElement &parent, const QString &tag)
 {
     QDomElement found;
-    forEachDescendant(parent, [&found, &tag](const QDomElement &descendant) {
-        if (descendant.tagName() != tag) {
+    forEachNodeBelow(parent, [&found, &tag](const QDomNode &node) {
+        if (node.nodeName() != tag || !node.isElement()) {
             return true;
         }
-        found = descendant;
+        found = node.toElement();
         return false;
     });
     return found;

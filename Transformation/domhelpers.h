@@ -44,12 +44,12 @@ QDomElement childByTagAndContent(const QDomElement &parent, const QString &tag, 
 //! The first element with this tag in document order at any depth below parent, or null. Needs no stack for the depth.
 QDomElement descendantByTag(const QDomElement &parent, const QString &tag);
 
-//! Calls visit for each element below parent in document order until it answers false. Needs no stack for the depth.
-template <typename Visit> void forEachDescendant(const QDomElement &parent, Visit visit)
+//! Calls visit for each node below parent in document order until it answers false. Needs no stack for the depth.
+template <typename Visit> void forEachNodeBelow(const QDomNode &parent, Visit visit)
 {
     QDomNode node = parent.firstChild();
     while (!node.isNull()) {
-        if (node.isElement() && !visit(node.toElement())) {
+        if (!visit(node)) {
             return;
         }
         QDomNode next = node.firstChild();
@@ -61,6 +61,12 @@ template <typename Visit> void forEachDescendant(const QDomElement &parent, Visi
         }
         node = next;
     }
+}
+
+//! The same for the elements alone.
+template <typename Visit> void forEachDescendant(const QDomElement &parent, Visit visit)
+{
+    forEachNodeBelow(parent, [&visit](const QDomNode &node) { return !node.isElement() || visit(node.toElement()); });
 }
 
 //! The first direct child element whose attribute "name" is name, or null. A missing attribute counts as empty.

@@ -100,67 +100,56 @@ KeyPaths without(const char *key)
     return row(text(key), {});
 }
 
-PreparedPaths::PreparedPaths(const KeyPaths &paths)
+KeyMap KeyMap::with(const KeyPaths &paths) const
 {
-    QMap<QString, QJsonValue> sorted;
-    for (const KeyPaths::Row &row : paths.rows()) {
-        sorted[row.key] = row.path.isEmpty() ? QJsonValue() : QJsonValue(QJsonArray::fromStringList(row.path));
-    }
-    m_rows.reserve(sorted.size());
-    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
-        m_rows.append({it.key(), it.value()});
-    }
-}
-
-void PreparedPaths::storeIn(QJsonObject &map) const
-{
+    QMap<QString, QStringList> sorted;
     for (const Row &row : m_rows) {
-        if (row.path.isNull()) {
-            map.remove(row.key);
-        } else {
-            map.insert(row.key, row.path);
+        sorted.insert(row.key, row.path);
+    }
+    for (const Row &row : paths.rows()) {
+        sorted.insert(row.key, row.path);
+    }
+    KeyMap map;
+    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
+        if (!it->isEmpty()) {
+            map.m_indexes.insert(it.key(), map.m_rows.size());
+            map.m_rows.append({it.key(), *it});
+            map.m_object.insert(it.key(), QJsonArray::fromStringList(*it));
         }
     }
-}
-
-QJsonObject PreparedPaths::storedIn(QJsonObject map) const
-{
-    storeIn(map);
     return map;
 }
 
-FamilyVocabulary::Line::Line(const TypeVocabulary &rows)
-    : xml(rows.xml)
-    , tx(rows.tx)
-    , iwb(rows.iwb)
+const KeyMap::Row *KeyMap::row(const QString &key) const
 {
+    const auto found = m_indexes.constFind(key);
+    return found == m_indexes.constEnd() ? nullptr : &m_rows.at(*found);
+}
+
+KeyMaps KeyMaps::with(const KeyPaths &xmlPaths, const KeyPaths &txPaths, const KeyPaths &iwbPaths) const
+{
+    return {xml.with(xmlPaths), tx.with(txPaths), iwb.with(iwbPaths)};
 }
 
 FamilyVocabulary::FamilyVocabulary(const TypeVocabulary &common, std::initializer_list<TypeVocabulary> lines)
 {
-    m_table.append(Line(common));
+    m_table.push_back({common.xml, common.tx, common.iwb, {}});
     for (const TypeVocabulary &line : lines) {
         for (const char *type : line.types) {
-            m_lines.insert(text(type), m_table.size());
+            m_lines.insert(text(type), int(m_table.size()));
             m_types.append(text(type));
         }
-        m_table.append(Line({{}, {common.xml, line.xml}, {common.tx, line.tx}, {common.iwb, line.iwb}}));
+        m_table.push_back({{common.xml, line.xml}, {common.tx, line.tx}, {common.iwb, line.iwb}, {}});
     }
 }
 
-void FamilyVocabulary::storeIn(const QString &type, QJsonObject &xmlKeyMap, QJsonObject &txKeyMap,
-                               QJsonObject &iwbKeyMap) const
+const KeyMaps &FamilyVocabulary::keyMaps(const QString &type, const KeyMaps &base) const
 {
-    const Line &line = m_table.at(m_lines.value(type, 0));
-    if (!line.isReady) {
-        line.xmlKeyMap = line.xml.storedIn(xmlKeyMap);
-        line.txKeyMap = line.tx.storedIn(txKeyMap);
-        line.iwbKeyMap = line.iwb.storedIn(iwbKeyMap);
-        line.isReady = true;
+    const Line &line = m_table.at(std::size_t(m_lines.value(type, 0)));
+    if (!line.maps) {
+        line.maps = base.with(line.xml, line.tx, line.iwb);
     }
-    xmlKeyMap = line.xmlKeyMap;
-    txKeyMap = line.txKeyMap;
-    iwbKeyMap = line.iwbKeyMap;
+    return *line.maps;
 }
 
 TypePairs::TypePairs(std::initializer_list<Pair> pairs)

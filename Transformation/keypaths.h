@@ -3,12 +3,13 @@
 
 #include <QHash>
 #include <QJsonObject>
-#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <initializer_list>
+#include <optional>
+#include <vector>
 
 /*!
  * Rows of a key map as a family's table writes them: where in XML each JSON key lives. Rows are joined by listing
@@ -63,29 +64,41 @@ KeyPaths coordinatePairs(const char *name, int first, int last);
 KeyPaths without(const char *key);
 
 /*!
- * Rows made ready to be stored: keys and paths in their final form, in ascending key order, so that a constructor
- * fills a map at the cost of the insertions alone. Made once per process.
+ * A key map, worked out once per process: the object that constructors store, and its rows in the form in which the
+ * walks read them.
  */
-class PreparedPaths
+class KeyMap
 {
 public:
-    PreparedPaths() = default;
-    PreparedPaths(const KeyPaths &paths);
+    using Row = KeyPaths::Row;
 
-    //! Inserts the rows, replacing those of the same key, and takes out what without() names.
-    void storeIn(QJsonObject &map) const;
+    //! This map with the rows stored in it. A row replaces that of the same key or, made by without(), takes it out.
+    KeyMap with(const KeyPaths &paths) const;
 
-    //! A map with the rows stored in it. For the classes whose constructor always starts from the same map: they make
-    //! the result once and give it to each translator.
-    QJsonObject storedIn(QJsonObject map) const;
+    const QJsonObject &object() const { return m_object; }
+
+    //! In ascending order of the keys.
+    const QVector<Row> &rows() const { return m_rows; }
+
+    //! The row of a key, or null.
+    const Row *row(const QString &key) const;
 
 private:
-    struct Row
-    {
-        QString key;
-        QJsonValue path; //!< an array of segments; null in a row that removes the key
-    };
+    QJsonObject m_object;
     QVector<Row> m_rows;
+    QHash<QString, int> m_indexes; //!< of the keys in m_rows
+};
+
+/*!
+ * The three key maps of a translator.
+ */
+struct KeyMaps
+{
+    KeyMap xml;
+    KeyMap tx;
+    KeyMap iwb;
+
+    KeyMaps with(const KeyPaths &xmlPaths, const KeyPaths &txPaths, const KeyPaths &iwbPaths = {}) const;
 };
 
 /*!
@@ -114,27 +127,21 @@ public:
     //! The types in the order of the lines.
     const QStringList &types() const { return m_types; }
 
-    //! Stores the common rows and then the rows of the type's line, if there is one. The constructors before this one
-    //! leave the same maps each time, so what comes out is the same for each translator of a type: it is worked out for
-    //! the first and given to all.
-    void storeIn(const QString &type, QJsonObject &xmlKeyMap, QJsonObject &txKeyMap, QJsonObject &iwbKeyMap) const;
+    //! The maps of the base class with the common rows and then the rows of the type's line, if there is one. The
+    //! base class leaves the same maps each time, so they are worked out for the first translator of a line.
+    const KeyMaps &keyMaps(const QString &type, const KeyMaps &base) const;
 
 private:
     struct Line
     {
-        Line() = default;
-        explicit Line(const TypeVocabulary &rows);
-
-        PreparedPaths xml;
-        PreparedPaths tx;
-        PreparedPaths iwb;
-        mutable bool isReady = false;
-        mutable QJsonObject xmlKeyMap;
-        mutable QJsonObject txKeyMap;
-        mutable QJsonObject iwbKeyMap;
+        KeyPaths xml;
+        KeyPaths tx;
+        KeyPaths iwb;
+        mutable std::optional<KeyMaps> maps;
     };
 
-    QVector<Line> m_table; //!< the common rows for a type that no line names, then common and line rows, a line each
+    std::vector<Line>
+        m_table; //!< the common rows for a type that no line names, then common and line rows, a line each
     QHash<QString, int> m_lines; //!< type to index of m_table
     QStringList m_types;
 };

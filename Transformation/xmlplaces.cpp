@@ -27,13 +27,13 @@ QDomElement RawPlaces::descendant(const QString &tag)
     return m_descendants.value(tag);
 }
 
-std::optional<QString> RawPlaces::descendantText(const QJsonArray &path)
+std::optional<QString> RawPlaces::descendantText(const QStringList &path)
 {
-    QDomElement holder = descendant(path.at(0).toString());
+    QDomElement holder = descendant(path.first());
     for (int i = 1; i + 1 < path.size(); ++i) {
-        holder = descendantByTag(holder, path.at(i).toString());
+        holder = descendantByTag(holder, path.at(i));
     }
-    return attributeText(holder, path.last().toString());
+    return attributeText(holder, path.last());
 }
 
 void RawPlaces::findDescendants()
@@ -53,17 +53,17 @@ TxPlaces::TxPlaces(const QDomElement &element)
 {
 }
 
-std::optional<QString> TxPlaces::text(const QJsonArray &path)
+std::optional<QString> TxPlaces::text(const QStringList &path)
 {
-    const QString first = path.at(0).toString();
+    const QString &first = path.first();
     switch (path.size()) {
     case 1:
         return attributeText(m_element, first);
     case 2:
         return attributeText(first == propertiesTag ? descendantByTag(m_element, first) : child(first, false),
-                             path.at(1).toString());
+                             path.at(1));
     case 3:
-        return first == propertiesTag ? propertyText(path.at(2).toString()) : innerText(first, path);
+        return first == propertiesTag ? propertyText(path.at(2)) : attributeText(inner(first, path.at(1)), path.at(2));
     default:
         return std::nullopt;
     }
@@ -78,15 +78,6 @@ std::optional<QString> TxPlaces::propertyText(const QString &name)
     return row == m_rows.constEnd() ? std::nullopt : std::make_optional(row->attribute(QStringLiteral("value")));
 }
 
-std::optional<QString> TxPlaces::innerText(const QString &tag, const QJsonArray &path)
-{
-    const QDomElement holder = child(tag, true);
-    if (holder.isNull()) {
-        return std::nullopt;
-    }
-    return attributeText(descendantByTag(holder, path.at(1).toString()), path.at(2).toString());
-}
-
 QDomElement TxPlaces::child(const QString &tag, bool withContent)
 {
     for (const Child &child : qAsConst(m_children)) {
@@ -96,6 +87,17 @@ QDomElement TxPlaces::child(const QString &tag, bool withContent)
     }
     m_children.append({tag, withContent, childByTagAndContent(m_element, tag, withContent)});
     return m_children.last().element;
+}
+
+QDomElement TxPlaces::inner(const QString &childTag, const QString &tag)
+{
+    for (const Inner &inner : qAsConst(m_inners)) {
+        if (inner.tag == tag && inner.childTag == childTag) {
+            return inner.element;
+        }
+    }
+    m_inners.append({childTag, tag, descendantByTag(child(childTag, true), tag)});
+    return m_inners.last().element;
 }
 
 void TxPlaces::findRows()
@@ -119,7 +121,7 @@ void PropertyRows::write(QDomElement &properties, const QString &name, const QSt
     if (m_unnamed > 0 || m_names.contains(name)) {
         writeExisting(properties, name, value);
     } else if (!value.isEmpty()) {
-        static const ElementTemplate rowTemplate(QStringLiteral(R"(<property value="" name=""/>)"));
+        static const ElementTemplate rowTemplate(QStringLiteral("<property/>"));
         QDomElement row = rowTemplate.part();
         row.setAttribute(QStringLiteral("value"), value);
         row.setAttribute(QStringLiteral("name"), name);
@@ -164,4 +166,40 @@ void PropertyRows::writeExisting(QDomElement &properties, const QString &name, c
     // Only the name of a row that was taken out leads here.
     m_names.remove(name);
     write(properties, name, value);
+}
+
+TxTargets::TxTargets(const QDomElement &element)
+    : m_element(element)
+    , m_takesChildren(!element.firstChildElement().isNull())
+{
+}
+
+void TxTargets::write(const QStringList &path, const QString &value)
+{
+    if (!m_takesChildren) {
+        return;
+    }
+    QDomElement &holder = child(path.first());
+    if (path.size() == 2) {
+        holder.setAttribute(path.at(1), value);
+    } else if (path.first() == propertiesTag) {
+        m_propertyRows.write(holder, path.at(2), value);
+    } else {
+        childByTag(holder, path.at(1)).setAttribute(path.at(2), value);
+    }
+}
+
+QDomElement &TxTargets::child(const QString &tag)
+{
+    for (Child &child : m_children) {
+        if (child.tag == tag) {
+            return child.element;
+        }
+    }
+    QDomElement element = childByTag(m_element, tag);
+    if (element.isNull()) {
+        element = m_element.appendChild(newElement(tag)).toElement();
+    }
+    m_children.append({tag, element});
+    return m_children.last().element;
 }

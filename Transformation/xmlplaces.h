@@ -3,9 +3,9 @@
 
 #include <QDomElement>
 #include <QHash>
-#include <QJsonArray>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QVarLengthArray>
 
 #include <optional>
@@ -28,7 +28,7 @@ public:
     QDomElement descendant(const QString &tag);
 
     //! The text at a path of two or more segments: tags on the way down, an attribute at the end.
-    std::optional<QString> descendantText(const QJsonArray &path);
+    std::optional<QString> descendantText(const QStringList &path);
 
 private:
     void findDescendants();
@@ -48,7 +48,7 @@ public:
 
     //! The text at a path of one to three segments, or nothing if its place is missing. A property row without a value
     //! gives the empty text.
-    std::optional<QString> text(const QJsonArray &path);
+    std::optional<QString> text(const QStringList &path);
 
 private:
     struct Child
@@ -58,13 +58,21 @@ private:
         QDomElement element;
     };
 
+    struct Inner
+    {
+        QString childTag;
+        QString tag;
+        QDomElement element;
+    };
+
     std::optional<QString> propertyText(const QString &name);
-    std::optional<QString> innerText(const QString &tag, const QJsonArray &path);
     QDomElement child(const QString &tag, bool withContent);
+    QDomElement inner(const QString &childTag, const QString &tag);
     void findRows();
 
     QDomElement m_element;
     QVarLengthArray<Child, 6> m_children;
+    QVarLengthArray<Inner, 4> m_inners;
     QHash<QString, QDomElement> m_rows; //!< the first row of each name
     bool m_rowsFound = false;
 };
@@ -86,6 +94,33 @@ private:
     QSet<QString> m_names; //!< may still hold the name of a row that was taken out
     int m_unnamed = 0;
     bool m_namesFound = false;
+};
+
+/*!
+ * Writes into the places of a ZQTX element. Nobody else changes its tree while it lives.
+ */
+class TxTargets
+{
+public:
+    explicit TxTargets(const QDomElement &element);
+
+    //! Writes the value to a path of two or three segments. A missing child is made at the end, unless the element has
+    //! no child elements at all; a missing element within a child takes nothing.
+    void write(const QStringList &path, const QString &value);
+
+private:
+    struct Child
+    {
+        QString tag;
+        QDomElement element;
+    };
+
+    QDomElement &child(const QString &tag);
+
+    QDomElement m_element;
+    bool m_takesChildren;
+    QVarLengthArray<Child, 6> m_children;
+    PropertyRows m_propertyRows;
 };
 
 #endif // XMLPLACES_H

@@ -138,7 +138,7 @@ ZQActivityItemTran::ZQActivityItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
     const QString line = vocabulary().contains(type) ? type : QStringLiteral("container");
-    vocabulary().storeIn(line, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(line, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQActivityItemTran::create(const QString &type)

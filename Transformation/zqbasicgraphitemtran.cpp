@@ -69,7 +69,7 @@ QString servingType(const QString &type)
 ZQBasicGraphItemTran::ZQBasicGraphItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    vocabulary().storeIn(servingType(type), xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(servingType(type), keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQBasicGraphItemTran::create(const QString &type)

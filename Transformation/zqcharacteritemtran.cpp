@@ -5,9 +5,9 @@
 
 namespace {
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         property("current_text"), property("play_time"),      property("current_background_type"),
         property("show_right"),   property("current_pinyin"), attribute("document"),
     };
@@ -25,7 +25,8 @@ const TypePairs &typePairs()
 ZQCharacterItemTran::ZQCharacterItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    txPaths().storeIn(txKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths());
+    setKeyMaps(maps);
 }
 
 std::unique_ptr<ZQHTran> ZQCharacterItemTran::create(const QString &type)

@@ -114,7 +114,7 @@ QHash<QString, QString> readableTypes()
 ZQChemistryTran::ZQChemistryTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQChemistryTran::create(const QString &type)

@@ -5,9 +5,9 @@
 
 namespace {
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         path("original_alphabet", "data", "content", "original_alphabet"),
         path("notaion_type", "data", "content", "notaion_type"),
         path("brick_width", "data", "content", "brick_width"),
@@ -28,7 +28,8 @@ const TypePairs &typePairs()
 ZQChineseAlphabetItemTran::ZQChineseAlphabetItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    txPaths().storeIn(txKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths());
+    setKeyMaps(maps);
 }
 
 std::unique_ptr<ZQHTran> ZQChineseAlphabetItemTran::create(const QString &type)

@@ -94,10 +94,8 @@ ZQComItemControlTran::ZQComItemControlTran(const QString &type)
     : itemType(type)
 {
     // The base constructor leaves the same maps each time, and so does this one.
-    static const QJsonObject xml = PreparedPaths(xmlPaths()).storedIn(xmlKeyMap);
-    static const QJsonObject tx = PreparedPaths(txPaths()).storedIn(txKeyMap);
-    xmlKeyMap = xml;
-    txKeyMap = tx;
+    static const KeyMaps maps = keyMaps().with(xmlPaths(), txPaths());
+    setKeyMaps(maps);
 }
 
 QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

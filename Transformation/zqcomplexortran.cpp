@@ -88,7 +88,7 @@ void takeManager(const QDomElement &manager, QJsonObject &json)
 ZQComplexorTran::ZQComplexorTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQComplexorTran::create(const QString &type)

@@ -91,7 +91,7 @@ QHash<QString, QString> readableTypes()
 ZQFigureTran::ZQFigureTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQFigureTran::create(const QString &type)

@@ -54,7 +54,7 @@ const FamilyVocabulary &vocabulary()
 ZQGenToolTran::ZQGenToolTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQGenToolTran::create(const QString &type)

@@ -13,9 +13,9 @@ const TypePairs &typePairs()
     return pairs;
 }
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = attribute("SupportCoverlayer");
+    static const KeyPaths paths = attribute("SupportCoverlayer");
     return paths;
 }
 
@@ -24,7 +24,8 @@ const PreparedPaths &txPaths()
 ZQGroupItemTran::ZQGroupItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    txPaths().storeIn(txKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths());
+    setKeyMaps(maps);
 }
 
 QString ZQGroupItemTran::toTxType(const QString &type)

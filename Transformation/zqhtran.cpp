@@ -38,22 +38,19 @@ int ZQHTran::idCounter = 1;
 
 ZQHTran::ZQHTran()
 {
-    static const QJsonObject xml = PreparedPaths({attribute("ID", "NetID"), attribute("Delete")}).storedIn({});
-    static const QJsonObject tx = PreparedPaths({attribute("ID", "id"), attribute("Delete")}).storedIn({});
-    static const QJsonObject iwb = PreparedPaths({
-                                                     attribute("ID", "id"),
-                                                     attribute("x"),
-                                                     attribute("y"),
-                                                     attribute("Width", "width"),
-                                                     attribute("Height", "height"),
-                                                     attribute("InfiniteClone", "infiniteclone"),
-                                                     attribute("Visible", "visible"),
-                                                     attribute("LockIn", "lockin"),
-                                                 })
-                                       .storedIn({});
-    xmlKeyMap = xml;
-    txKeyMap = tx;
-    iwbKeyMap = iwb;
+    static const KeyMaps maps =
+        KeyMaps().with({attribute("ID", "NetID"), attribute("Delete")}, {attribute("ID", "id"), attribute("Delete")},
+                       {
+                           attribute("ID", "id"),
+                           attribute("x"),
+                           attribute("y"),
+                           attribute("Width", "width"),
+                           attribute("Height", "height"),
+                           attribute("InfiniteClone", "infiniteclone"),
+                           attribute("Visible", "visible"),
+                           attribute("LockIn", "lockin"),
+                       });
+    setKeyMaps(maps);
 }
 
 ZQHTran::~ZQHTran() = default;
@@ -76,6 +73,14 @@ QDomElement ZQHTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonO
     return element;
 }
 
+void ZQHTran::setKeyMaps(const KeyMaps &maps)
+{
+    xmlKeyMap = maps.xml.object();
+    txKeyMap = maps.tx.object();
+    iwbKeyMap = maps.iwb.object();
+    m_keyMaps = &maps;
+}
+
 QString ZQHTran::nextGeneratedId()
 {
     // Unsigned arithmetic, so that a counter at its end wraps around.
@@ -86,12 +91,11 @@ QString ZQHTran::nextGeneratedId()
 void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json) const
 {
     RawPlaces places(element);
-    for (auto it = xmlKeyMap.constBegin(); it != xmlKeyMap.constEnd(); ++it) {
-        const QJsonArray path = it.value().toArray();
-        const QString first = path.at(0).toString();
-        if (path.size() > 1) {
-            if (const auto text = places.descendantText(path)) {
-                json.insert(it.key(), *text);
+    for (const KeyMap::Row &row : m_keyMaps->xml.rows()) {
+        const QString &first = row.path.first();
+        if (row.path.size() > 1) {
+            if (const auto text = places.descendantText(row.path)) {
+                json.insert(row.key, *text);
             }
         } else if (isBetween(first, '[', ']')) {
             const QString tag = first.mid(1, first.size() - 2);
@@ -106,7 +110,7 @@ void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json) const
                 json.insert(tag, childAttributesAsJson(found));
             }
         } else if (const auto text = attributeText(element, first)) {
-            json.insert(it.key(), *text);
+            json.insert(row.key, *text);
         }
     }
     if (!json.contains(QLatin1String("ID"))) {
@@ -120,17 +124,12 @@ void ZQHTran::readKeysFromTx(const QDomElement &element, QJsonObject &json) cons
 {
     TxPlaces places(element);
     bool typeMayBeNew = true;
-    for (auto it = txKeyMap.constBegin(); it != txKeyMap.constEnd(); ++it) {
-        const QJsonArray path = it.value().toArray();
-        if (path.isEmpty()) {
-            continue;
+    for (const KeyMap::Row &row : m_keyMaps->tx.rows()) {
+        if (const auto text = places.text(row.path)) {
+            json.insert(row.key, *text);
+            typeMayBeNew |= row.key == QLatin1String("Type");
         }
-        if (const auto text = places.text(path)) {
-            const QString key = it.key();
-            json.insert(key, *text);
-            typeMayBeNew |= key == QLatin1String("Type");
-        }
-        if (typeMayBeNew && path.size() == 1) {
+        if (typeMayBeNew && row.path.size() == 1) {
             typeMayBeNew = false;
             ignoreEraserForMathematics(json);
         }
@@ -142,43 +141,18 @@ void ZQHTran::writeKeysToTx(QDomElement &element, const QJsonObject &json) const
     if (element.isNull()) {
         return;
     }
-    PropertyRows propertyRows;
+    TxTargets targets(element);
     for (auto it = json.constBegin(); it != json.constEnd(); ++it) {
-        const QJsonArray path = txKeyMap.value(it.key()).toArray();
-        if (path.isEmpty() || path.size() > 3) {
+        const KeyMap::Row *row = m_keyMaps->tx.row(it.key());
+        if (!row) {
             continue;
         }
-        const QString first = path.at(0).toString();
-        const QString value = it.value().toString();
-        if (path.size() == 1) {
-            if (first == QLatin1String("visible")) {
-                element.setAttribute(first, it.value().toBool() ? QStringLiteral("1") : QStringLiteral("0"));
-            } else {
-                element.setAttribute(first, value);
-            }
-            continue;
-        }
-        if (element.firstChildElement().isNull()) {
-            continue;
-        }
-        QDomElement child = childByTag(element, first);
-        if (child.isNull()) {
-            child = element.appendChild(newElement(first)).toElement();
-        }
-        if (path.size() == 2) {
-            child.setAttribute(path.at(1).toString(), value);
+        if (row->path.size() > 1) {
+            targets.write(row->path, it.value().toString());
+        } else if (row->path.first() == QLatin1String("visible")) {
+            element.setAttribute(row->path.first(), it.value().toBool() ? QStringLiteral("1") : QStringLiteral("0"));
         } else {
-            writeThreeSegmentPath(child, value, path, propertyRows);
+            element.setAttribute(row->path.first(), it.value().toString());
         }
-    }
-}
-
-void ZQHTran::writeThreeSegmentPath(QDomElement child, const QString &value, const QJsonArray &path,
-                                    PropertyRows &propertyRows)
-{
-    if (path.at(0).toString() == QLatin1String("properties")) {
-        propertyRows.write(child, path.at(2).toString(), value);
-    } else {
-        childByTag(child, path.at(1).toString()).setAttribute(path.at(2).toString(), value);
     }
 }

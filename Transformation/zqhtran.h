@@ -5,7 +5,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-class PropertyRows;
+struct KeyMaps;
+class TxTargets;
 
 /*!
  * Base of all translators. Three key maps, filled by the constructors of a class chain, say where in XML each JSON key
@@ -48,6 +49,12 @@ public:
     static void setLinkHref(QDomElement &link, const QString &kind, const QString &value, const QString &tmpFilePath);
 
 protected:
+    //! Stores the key maps. What a constructor hands in lives to the end of the process.
+    void setKeyMaps(const KeyMaps &maps);
+
+    //! What the constructors so far have stored.
+    const KeyMaps &keyMaps() const { return *m_keyMaps; }
+
     //! A new ID: the milliseconds since 1970 plus a counter of this process, in decimal.
     static QString nextGeneratedId();
 
@@ -61,8 +68,8 @@ private:
     void readKeysFromXml(QDomElement &element, QJsonObject &json) const;
     void readKeysFromTx(const QDomElement &element, QJsonObject &json) const;
     void writeKeysToTx(QDomElement &element, const QJsonObject &json) const;
-    static void writeThreeSegmentPath(QDomElement child, const QString &value, const QJsonArray &path,
-                                      PropertyRows &propertyRows);
+
+    const KeyMaps *m_keyMaps = nullptr; //!< the three maps as the walks read them
 };
 
 #endif // ZQHTRAN_H

@@ -1,6 +1,7 @@
 #include "zqhtran.h"
 
 #include "domhelpers.h"
+#include "keypaths.h"
 #include "numbertext.h"
 #include "packagefiles.h"
 #include "xmlplaces.h"
@@ -104,16 +105,15 @@ QDomElement ZQHTran::tranJSON2IWB(QDomElement element, QJsonObject json, QJsonOb
     if (json.contains(QLatin1String("BoundingBox"))) {
         writeMappedBox(element, json);
     }
-    for (auto it = iwbKeyMap.constBegin(); it != iwbKeyMap.constEnd(); ++it) {
-        const QJsonArray path = it.value().toArray();
-        const auto value = json.constFind(it.key());
-        if (path.size() != 1 || value == json.constEnd()) {
+    for (const KeyMap::Row &row : keyMaps().iwb.rows()) {
+        const auto value = json.constFind(row.key);
+        if (row.path.size() != 1 || value == json.constEnd()) {
             continue;
         }
-        if (it.key() == QLatin1String("Visible")) {
-            element.setAttribute(path.first().toString(), value->toBool() ? QStringLiteral("1") : QStringLiteral("0"));
+        if (row.key == QLatin1String("Visible")) {
+            element.setAttribute(row.path.first(), value->toBool() ? QStringLiteral("1") : QStringLiteral("0"));
         } else {
-            element.setAttribute(path.first().toString(), value->toString());
+            element.setAttribute(row.path.first(), value->toString());
         }
     }
     return element;
@@ -126,18 +126,14 @@ QJsonObject ZQHTran::tranIWB2JSON(QDomElement element, QJsonObject json, QJsonOb
             json.insert(QLatin1String("Angle"), *angle);
         }
     }
-    for (auto it = iwbKeyMap.constBegin(); it != iwbKeyMap.constEnd(); ++it) {
-        const QJsonArray path = it.value().toArray();
-        if (path.isEmpty() || path.size() > 3) {
-            continue;
-        }
+    for (const KeyMap::Row &row : keyMaps().iwb.rows()) {
         QDomElement holder = element;
-        for (int i = 0; i + 1 < path.size(); ++i) {
+        for (int i = 0; i + 1 < row.path.size(); ++i) {
             // Only the last element on the way is a leaf.
-            holder = childByTagAndContent(holder, path.at(i).toString(), i + 2 < path.size());
+            holder = childByTagAndContent(holder, row.path.at(i), i + 2 < row.path.size());
         }
-        if (const auto text = attributeText(holder, path.last().toString())) {
-            json.insert(it.key(), *text);
+        if (const auto text = attributeText(holder, row.path.last())) {
+            json.insert(row.key, *text);
         }
     }
     return json;

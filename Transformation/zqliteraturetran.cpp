@@ -43,7 +43,7 @@ const TypePairs &typePairs()
 ZQLiteratureTran::ZQLiteratureTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 ZQLiteratureTran::~ZQLiteratureTran() = default;

@@ -225,7 +225,7 @@ void fixCoordinateFunct(QJsonObject &json)
 ZQMathematicsTran::ZQMathematicsTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQMathematicsTran::create(const QString &type)

@@ -48,9 +48,9 @@ QDomElement coursewareElement(const QJsonValue &document)
         return courseware.instance();
     }
     return elementFromWellFormedXml(itemText(tag,
-                                        QLatin1String(R"(<res ggb=")") + files.at(1).toString()
-                                            + QLatin1String(R"(" pix=")") + files.at(0).toString()
-                                            + QLatin1String(R"("/>)")));
+                                             QLatin1String(R"(<res ggb=")") + files.at(1).toString()
+                                                 + QLatin1String(R"(" pix=")") + files.at(0).toString()
+                                                 + QLatin1String(R"("/>)")));
 }
 
 } // namespace
@@ -58,7 +58,7 @@ QDomElement coursewareElement(const QJsonValue &document)
 ZQMathSubjectTran::ZQMathSubjectTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQMathSubjectTran::create(const QString &type)

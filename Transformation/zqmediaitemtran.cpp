@@ -118,7 +118,7 @@ void importFile(const QString &file, const QString &path, QJsonObject &json)
 ZQMediaItemTran::ZQMediaItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQMediaItemTran::create(const QString &type)

@@ -5,9 +5,9 @@
 
 namespace {
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         path("TextPhonetic", "data", "content", "text"),
         path("BoundingBox", "data", "rect", "points"),
         property("Fill_Color", "Fill color"),
@@ -21,7 +21,8 @@ const PreparedPaths &txPaths()
 ZQPhoneticItemTran::ZQPhoneticItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    txPaths().storeIn(txKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths());
+    setKeyMaps(maps);
 }
 
 std::unique_ptr<ZQHTran> ZQPhoneticItemTran::create(const QString &type)

@@ -194,7 +194,7 @@ QHash<QString, QString> foldedTypes()
 ZQPhysicsTran::ZQPhysicsTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQPhysicsTran::create(const QString &type)

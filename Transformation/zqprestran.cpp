@@ -8,9 +8,9 @@
 
 namespace {
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         attribute("Width", "width"),
         attribute("Height", "height"),
         attribute("Version", "version"),
@@ -39,7 +39,8 @@ void appendPixelDeleteItems(const QString &xml, QJsonArray &items, const QJsonOb
 
 ZQPresTran::ZQPresTran()
 {
-    txPaths().storeIn(txKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths());
+    setKeyMaps(maps);
 }
 
 QJsonObject ZQPresTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

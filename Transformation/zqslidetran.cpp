@@ -10,9 +10,9 @@
 
 namespace {
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         path("color", "background", "color", "value"),
         path("document", "background", "picture", "document"),
         childAttribute("effect_type", "effect", "type"),
@@ -23,9 +23,9 @@ const PreparedPaths &txPaths()
 }
 
 // Page colour and picture under the attributes that svg readers know.
-const PreparedPaths &iwbPaths()
+const KeyPaths &iwbPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         attribute("rgb", "fill"),
         attribute("alp", "fill-opacity"),
         attribute("href", "xlink:href"),
@@ -226,8 +226,8 @@ void readPageEffect(const QString &part, QJsonObject &json)
 
 ZQSlideTran::ZQSlideTran()
 {
-    txPaths().storeIn(txKeyMap);
-    iwbPaths().storeIn(iwbKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths(), iwbPaths());
+    setKeyMaps(maps);
 }
 
 QJsonObject ZQSlideTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

@@ -118,7 +118,7 @@ QString pointsAsSteps(const QString &text)
 ZQStrokesTran::ZQStrokesTran(const QString &type)
     : ZQInkStrokeTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQStrokesTran::create(const QString &type)

@@ -81,7 +81,7 @@ void writeTurnedBox(QDomElement &area, const QRectF &box, const QMatrix &matrix)
 ZQTextBoxTran::ZQTextBoxTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    vocabulary().storeIn(type, xmlKeyMap, txKeyMap, iwbKeyMap);
+    setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
 std::unique_ptr<ZQHTran> ZQTextBoxTran::create(const QString &type)

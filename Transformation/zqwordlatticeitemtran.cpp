@@ -5,9 +5,9 @@
 
 namespace {
 
-const PreparedPaths &txPaths()
+const KeyPaths &txPaths()
 {
-    static const PreparedPaths paths = KeyPaths{
+    static const KeyPaths paths = {
         property("Text"),
         property("FontSize"),
         property("TextWidth"),
@@ -26,7 +26,8 @@ const TypePairs &typePairs()
 ZQWordLatticeItemTran::ZQWordLatticeItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
-    txPaths().storeIn(txKeyMap);
+    static const KeyMaps maps = keyMaps().with({}, txPaths());
+    setKeyMaps(maps);
 }
 
 std::unique_ptr<ZQHTran> ZQWordLatticeItemTran::create(const QString &type)
