@@ -124,7 +124,11 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
     }
     if (runs) {
         // The first describes the area; it has a text only where the area itself holds one.
-        json.insert(QLatin1String("TextHtml"), htmlFromTextRuns(runs->mid(1)));
+        QStringList shifts;
+        for (QDomElement span = item.element.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+            shifts.append(span.attribute(QStringLiteral("baseline-shift")));
+        }
+        json.insert(QLatin1String("TextHtml"), htmlFromTextRuns(runs->mid(1), shifts));
     }
     for (const char *key : passingKeys) {
         json.remove(QLatin1String(key));

@@ -310,15 +310,14 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         text = textRunsFromHtml(html);
     } else {
         const QString plain = item.value(QLatin1String("Text")).toString();
-        text = textRunsFromPlainText(plain.isEmpty() ? item.value(QLatin1String("TextContent")).toString() : plain);
+        const QString content = item.value(QLatin1String("TextContent")).toString();
+        text = textRunsFromPlainText(plain.isEmpty() ? content : plain);
+        if (!plain.isEmpty() && !content.isEmpty() && plain != content) {
+            report(item, Loss::Value, QStringLiteral("TextContent"), {});
+        }
     }
-    if (text.droppedPictures > 0) {
-        report(item, Loss::Value, QStringLiteral("TextHtml"),
-               QString::number(text.droppedPictures) + QLatin1String(" pictures within the text"));
-    }
-    if (text.droppedCharacters > 0) {
-        report(item, Loss::Value, QStringLiteral("TextHtml"),
-               QString::number(text.droppedCharacters) + QLatin1String(" control characters"));
+    for (const QString &loss : qAsConst(text.losses)) {
+        report(item, Loss::Value, QStringLiteral("TextHtml"), loss);
     }
     QJsonObject prepared = commonKeys(item);
     const auto place = itemPlace(item);
@@ -326,8 +325,10 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         prepared.insert(QLatin1String("BoundingBox"), boxText(place->box));
         prepared.insert(QLatin1String("Matrix"), QStringLiteral("1,0,0,1,0,0"));
     }
-    for (IwbTextInfo &run : text.runs) {
-        run.fontSize = QString::number(run.fontSize.toDouble() * itemScale(item));
+    for (int i = 0; i < text.runs.size(); ++i) {
+        QString &size = text.runs[i].fontSize;
+        const double pixels = size.toDouble() * itemScale(item);
+        size = text.shifts.at(i).isEmpty() ? QString::number(pixels) : exactText(pixels * shiftedLetters);
     }
     const TextRunLoan loan(prepared, text.runs);
     QDomElement element = convert(item, prepared);
@@ -335,7 +336,12 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         return;
     }
     QDomElement area = innermost(element);
+    int run = 0;
     for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+        const QString shift = text.shifts.value(run++);
+        if (!shift.isEmpty()) {
+            span.setAttribute(QStringLiteral("baseline-shift"), shift);
+        }
         const QString content = span.text();
         if (content.endsWith(QLatin1Char('\n')) || content.endsWith(QChar::LineSeparator)) {
             span = area.insertAfter(m_document.createElement(QStringLiteral("svg:tbreak")), span).toElement();

@@ -132,6 +132,8 @@ SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
             result.m_properties.insert(it.key(), it.value());
         }
     }
+    const QString shift = QStringLiteral("baseline-shift");
+    result.m_properties.insert(shift, own.value(shift)); // not inherited
     const QString fontSize = QStringLiteral("font-size");
     if (own.contains(fontSize)) {
         result.m_properties.insert(fontSize, QString::number(fontSizeOf(own.value(fontSize), inheritedSize), 'g', 10));

@@ -171,7 +171,12 @@ void SvgText::setFont(QDomElement &element, const SvgStyle &style, double scale)
         element.setAttribute(QLatin1String(attribute.name), fontProperty(style, attribute, m_isNative));
     }
     const bool hasSize = style.has(QStringLiteral("font-size"));
-    const double pixels = m_isNative && !hasSize ? 28 : style.fontPixels();
+    double pixels = m_isNative && !hasSize ? 28 : style.fontPixels();
+    const QString shift = style.property(QStringLiteral("baseline-shift"));
+    if (shift == QLatin1String("sub") || shift == QLatin1String("super")) {
+        element.setAttribute(QStringLiteral("baseline-shift"), shift);
+        pixels /= shiftedLetters;
+    }
     element.setAttribute(QStringLiteral("font-size"), QString::number(pixels * scale));
     element.setAttribute(QStringLiteral("text-align"), alignment(style));
     const QColor color = svgColor(style.property(QStringLiteral("fill"))).value_or(QColor(Qt::black));

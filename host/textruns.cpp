@@ -1,8 +1,10 @@
 #include "textruns.h"
 
 #include <QFont>
+#include <QMap>
 #include <QSet>
 #include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFragment>
 #include <QTextList>
@@ -169,18 +171,6 @@ int runEnd(const QString &text, int start)
     return text.size();
 }
 
-void appendRuns(IwbTextInfoList &runs, const IwbTextInfo &format, const QString &text)
-{
-    int start = 0;
-    do {
-        const int end = runEnd(text, start);
-        IwbTextInfo run = format;
-        run.text = text.mid(start, end - start);
-        runs.append(run);
-        start = end;
-    } while (start < text.size());
-}
-
 bool sameFormat(const IwbTextInfo &a, const IwbTextInfo &b)
 {
     return a.fill == b.fill && a.fontWeight == b.fontWeight && a.fontStyle == b.fontStyle
@@ -191,17 +181,90 @@ bool sameFormat(const IwbTextInfo &a, const IwbTextInfo &b)
 struct Piece
 {
     IwbTextInfo format;
+    QString shift;
     QString text;
 };
 
-void appendPiece(QVector<Piece> &pieces, const IwbTextInfo &format, const QString &text)
+void appendPiece(QVector<Piece> &pieces, const Piece &piece)
 {
-    if (!pieces.isEmpty() && sameFormat(pieces.constLast().format, format)) {
-        pieces.last().text += text;
+    if (!pieces.isEmpty() && sameFormat(pieces.constLast().format, piece.format)
+        && pieces.constLast().shift == piece.shift) {
+        pieces.last().text += piece.text;
     } else {
-        pieces.append({format, text});
+        pieces.append(piece);
     }
 }
+
+void appendRuns(TextRuns &result, const Piece &piece)
+{
+    int start = 0;
+    do {
+        const int end = runEnd(piece.text, start);
+        IwbTextInfo run = piece.format;
+        run.text = piece.text.mid(start, end - start);
+        result.runs.append(run);
+        result.shifts.append(piece.shift);
+        start = end;
+    } while (start < piece.text.size());
+}
+
+QString shiftOf(const QTextCharFormat &format)
+{
+    switch (format.verticalAlignment()) {
+    case QTextCharFormat::AlignSubScript:
+        return QStringLiteral("sub");
+    case QTextCharFormat::AlignSuperScript:
+        return QStringLiteral("super");
+    default:
+        return {};
+    }
+}
+
+/*!
+ * Counts what text documents know and runs don't.
+ */
+class TextLosses
+{
+public:
+    void lookAt(const QTextBlock &block)
+    {
+        const QTextBlockFormat format = block.blockFormat();
+        count("indented paragraphs", format.indent() > 0 || format.leftMargin() > 0 || format.textIndent() != 0);
+        count("paragraphs with a line height of their own", format.lineHeightType() != QTextBlockFormat::SingleHeight);
+        count("backgrounds of paragraphs", format.background().style() != Qt::NoBrush);
+        count("rules", format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth));
+        count("cells of tables", QTextCursor(block).currentTable() != nullptr);
+    }
+
+    void lookAt(const QTextCharFormat &format)
+    {
+        count("texts with a background", format.background().style() != Qt::NoBrush);
+        count("texts with a line above", format.fontOverline());
+        count("texts in another case or spacing",
+              format.fontCapitalization() != QFont::MixedCase
+                  || (format.hasProperty(QTextFormat::FontLetterSpacing) && format.fontLetterSpacing() != 0));
+        count("links within the text", format.isAnchor() && !format.anchorHref().isEmpty());
+    }
+
+    void count(const char *what, int times)
+    {
+        if (times > 0) {
+            m_counts[QLatin1String(what)] += times;
+        }
+    }
+
+    QStringList toTexts() const
+    {
+        QStringList texts;
+        for (auto it = m_counts.cbegin(); it != m_counts.cend(); ++it) {
+            texts.append(QString::number(it.value()) + QLatin1Char(' ') + it.key());
+        }
+        return texts;
+    }
+
+private:
+    QMap<QString, int> m_counts;
+};
 
 QString listMarker(const QTextBlock &block)
 {
@@ -216,31 +279,37 @@ QString listMarker(const QTextBlock &block)
 TextRuns runsOf(const QTextDocument &document)
 {
     TextRuns result;
+    TextLosses losses;
     QVector<Piece> pieces;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        losses.lookAt(block);
         const Qt::Alignment alignment = block.blockFormat().alignment();
-        IwbTextInfo format = runOf(block.charFormat(), alignment);
+        Piece piece{runOf(block.charFormat(), alignment), shiftOf(block.charFormat()), {}};
         QString marker = listMarker(block);
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            QString text = withoutControlCharacters(fragment.text(), &result.droppedCharacters);
-            const int before = text.size();
+            int characters = 0;
+            QString text = withoutControlCharacters(fragment.text(), &characters);
+            losses.count("control characters", characters);
+            losses.count("pictures within the text", text.count(QChar::ObjectReplacementCharacter));
             text.remove(QChar::ObjectReplacementCharacter);
-            result.droppedPictures += before - text.size();
             if (!text.isEmpty()) {
-                format = runOf(fragment.charFormat(), alignment);
-                appendPiece(pieces, format, marker + text);
+                losses.lookAt(fragment.charFormat());
+                piece = {runOf(fragment.charFormat(), alignment), shiftOf(fragment.charFormat()), marker + text};
+                appendPiece(pieces, piece);
                 marker.clear();
             }
         }
         const QString end = block.next().isValid() ? QString(QLatin1Char('\n')) : QString();
         if (!marker.isEmpty() || !end.isEmpty() || pieces.isEmpty()) {
-            appendPiece(pieces, format, marker + end);
+            piece.text = marker + end;
+            appendPiece(pieces, piece);
         }
     }
     for (const Piece &piece : qAsConst(pieces)) {
-        appendRuns(result.runs, piece.format, piece.text);
+        appendRuns(result, piece);
     }
+    result.losses = losses.toTexts();
     return result;
 }
 
@@ -253,7 +322,7 @@ QString styleSafe(QString text)
     return text.trimmed();
 }
 
-QString styleOf(const IwbTextInfo &run)
+QString styleOf(const IwbTextInfo &run, const QString &shift)
 {
     QStringList families;
     for (const QString &family : run.fontFamily.split(QLatin1Char(','))) {
@@ -269,7 +338,8 @@ QString styleOf(const IwbTextInfo &run)
         + QLatin1String("; font-style:")
         + (run.fontStyle == QLatin1String("normal") ? QLatin1String("normal") : QLatin1String("italic"))
         + QLatin1String("; text-decoration:") + styleSafe(run.textDecoration) + QLatin1String("; color:")
-        + styleSafe(run.fill) + QLatin1Char(';');
+        + styleSafe(run.fill) + QLatin1Char(';')
+        + (shift.isEmpty() ? QString() : QLatin1String(" vertical-align:") + shift + QLatin1Char(';'));
 }
 
 // What stands between two ends of paragraphs.
@@ -280,9 +350,9 @@ struct Paragraph
     QString spans; // empty for a paragraph without text
 };
 
-void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &text)
+void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &shift, const QString &text)
 {
-    const QString style = styleOf(run);
+    const QString style = styleOf(run, shift);
     if (paragraph.align.isEmpty()) {
         paragraph.align = run.textAlign;
         paragraph.firstStyle = style;
@@ -343,19 +413,20 @@ TextRuns textRunsFromPlainText(const QString &text)
     return runsOf(document);
 }
 
-QString htmlFromTextRuns(const IwbTextInfoList &runs)
+QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts)
 {
     QVector<Paragraph> paragraphs(1);
-    for (const IwbTextInfo &run : runs) {
+    for (int n = 0; n < runs.size(); ++n) {
+        const IwbTextInfo &run = runs.at(n);
         const QStringList parts = run.text.split(QLatin1Char('\n'));
         for (int i = 0; i < parts.size(); ++i) {
             if (i > 0) {
                 paragraphs.append(Paragraph());
             }
             // What follows on a last newline belongs to the next run, which may be formatted otherwise.
-            const bool isRest = i > 0 && i + 1 == parts.size() && parts.at(i).isEmpty() && &run != &runs.constLast();
+            const bool isRest = i > 0 && i + 1 == parts.size() && parts.at(i).isEmpty() && n + 1 < runs.size();
             if (!isRest) {
-                appendSpan(paragraphs.last(), run, parts.at(i));
+                appendSpan(paragraphs.last(), run, shifts.value(n), parts.at(i));
             }
         }
     }

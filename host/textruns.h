@@ -5,6 +5,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -13,23 +14,28 @@
  * and carry lists of runs across the plug-in's interface.
  *
  * A run keeps family, size (pixels), weight, slant, underline and strike-out, colour, and the alignment of its
- * paragraph. "\n" in the text of a run ends a paragraph, U+2028 a line; runs that are made here end with either. Every
- * field is written out, since a field that is missing in a file means bold, italic and underlined.
+ * paragraph; beside it stands whether its letters are sub- or superscript. "\n" in the text of a run ends a paragraph,
+ * U+2028 a line; runs that are made here end with either. Every field is written out, since a field that is missing in
+ * a file means bold, italic and underlined.
  */
+
+//! How large sub- and superscript letters are beside others. Text boards tell the size of the others.
+constexpr double shiftedLetters = 2.0 / 3;
 
 //! What a text board's HTML becomes.
 struct TextRuns
 {
     IwbTextInfoList runs; //!< never empty: an empty text is one run with an empty text
-    int droppedCharacters = 0; //!< control characters, which XML can't hold
-    int droppedPictures = 0; //!< pictures within the text, for which runs have no form
+    QStringList shifts; //!< one for each run: "sub" and "super" for letters below and above the line, else empty
+    QStringList losses; //!< what runs have no form for, such as "3 control characters"
 };
 
 TextRuns textRunsFromHtml(const QString &html);
 TextRuns textRunsFromPlainText(const QString &text);
 
 //! HTML from the runs of one text area. A newline inside ends a paragraph, which is aligned as its first run says.
-QString htmlFromTextRuns(const IwbTextInfoList &runs);
+//! shifts may be shorter than runs.
+QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts = {});
 
 //! text without the characters that XML can't hold (most control characters, halves of surrogate pairs).
 QString withoutControlCharacters(const QString &text, int *dropped = nullptr);

@@ -81,15 +81,54 @@ private slots:
         }
     }
 
+    void lettersStayBelowAndAboveTheLine()
+    {
+        const TextRuns text = textRunsFromHtml(QStringLiteral("H<sub>2</sub>O, x<sup>2</sup>"));
+        QCOMPARE(text.shifts, QStringList({QString(), "sub", QString(), "super"}));
+        const TextRuns again = textRunsFromHtml(htmlFromTextRuns(text.runs, text.shifts));
+        QCOMPARE(again.shifts, text.shifts);
+        QCOMPARE(lines(again.runs), lines(text.runs));
+        QVERIFY(text.losses.isEmpty());
+    }
+
+    void namesWhatRunsCantHold_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QString>("loss");
+        QTest::newRow("background") << "<span style='background-color:yellow'>a</span>"
+                                    << "1 texts with a background";
+        QTest::newRow("link") << "<a href='x'>a</a>"
+                              << "1 links within the text";
+        QTest::newRow("capitals") << "<span style='text-transform:uppercase'>a</span>"
+                                  << "1 texts in another case or spacing";
+        QTest::newRow("table") << "<table><tr><td>1</td><td>2</td></tr></table>"
+                               << "2 cells of tables";
+        QTest::newRow("indent") << "<p style='margin-left:9px'>a</p>"
+                                << "1 indented paragraphs";
+        QTest::newRow("line height") << "<p style='line-height:200%'>a</p>"
+                                     << "1 paragraphs with a line height of their own";
+        QTest::newRow("rule") << "a<hr/>b"
+                              << "1 rules";
+        QTest::newRow("nothing") << "<ul><li>a</li></ul><b>b</b>"
+                                 << "";
+    }
+
     void namesWhatRunsCantHold()
     {
+        QFETCH(QString, html);
+        QFETCH(QString, loss);
+        QCOMPARE(textRunsFromHtml(html).losses.join(QLatin1String("; ")), loss);
+    }
+
+    void leavesOutWhatXmlCantHold()
+    {
         const TextRuns text = textRunsFromHtml(QStringLiteral("a<img src='file:///etc/passwd'/>b"));
-        QCOMPARE(text.droppedPictures, 1);
+        QCOMPARE(text.losses, QStringList{QStringLiteral("1 pictures within the text")});
         QCOMPARE(text.runs.first().text, QStringLiteral("ab"));
         const TextRuns plain = textRunsFromPlainText(QString::fromUtf8("a\x01"
                                                                        "b\x1f\n\xf0\x9f\x8d\x8e")
                                                      + QChar(0xd800));
-        QCOMPARE(plain.droppedCharacters, 3);
+        QCOMPARE(plain.losses, QStringList{QStringLiteral("3 control characters")});
         QCOMPARE(plain.runs.first().text, QStringLiteral("ab\n"));
         QCOMPARE(plain.runs.last().text, QString::fromUtf8("\xf0\x9f\x8d\x8e"));
     }
