@@ -93,6 +93,14 @@ QJsonValue toEscaped(const QJsonValue &value)
     return escapedForXml(valueText(value));
 }
 
+// For the text of an element. One of blanks alone would be dropped, but for a section of its own.
+QJsonValue toElementText(const QJsonValue &value)
+{
+    const QString text = valueText(value);
+    const bool isBlank = !text.isEmpty() && text.trimmed().isEmpty();
+    return isBlank ? QLatin1String("<![CDATA[") + escapedForCData(text) + QLatin1String("]]>") : escapedForXml(text);
+}
+
 QJsonValue toCData(const QJsonValue &value)
 {
     return escapedForCData(valueText(value));
@@ -116,14 +124,15 @@ template <size_t size> void applyChanges(QJsonObject &object, const KeyChange (&
 }
 
 constexpr KeyChange mapInformation[] = {
-    {"title", toEscaped},     {"type", toNumber},         {"style", toNumber},      {"spreadStyle", toNumber},
-    {"fillColor", toEscaped}, {"borderColor", toEscaped}, {"lineColor", toEscaped},
+    {"title", toElementText},     {"type", toNumber},           {"style", toNumber},
+    {"spreadStyle", toNumber},    {"fillColor", toElementText}, {"borderColor", toElementText},
+    {"lineColor", toElementText},
 };
 
 constexpr KeyChange mapNode[] = {
-    {"pos", toEscaped},       {"position", toNumber},   {"width", toNumber},  {"height", toNumber},
-    {"fillColor", toEscaped}, {"lineColor", toEscaped}, {"visiable", toFlag}, {"childrenVisiable", toFlag},
-    {"nodeHtml", toCData},    {"link", toEscaped},      {"shade", toFlag},    {"stamp", toNumber},
+    {"pos", toElementText},       {"position", toNumber},       {"width", toNumber},  {"height", toNumber},
+    {"fillColor", toElementText}, {"lineColor", toElementText}, {"visiable", toFlag}, {"childrenVisiable", toFlag},
+    {"nodeHtml", toCData},        {"link", toElementText},      {"shade", toFlag},    {"stamp", toNumber},
 };
 
 constexpr KeyChange mapAttachment[] = {{"type", toEscaped}, {"name", toEscaped}, {"path", toEscaped}};
@@ -131,9 +140,9 @@ constexpr KeyChange mapAttachment[] = {{"type", toEscaped}, {"name", toEscaped},
 constexpr KeyChange activityAttachments[] = {{"back", toEscaped}, {"front", toEscaped}, {"error", toEscaped}};
 
 constexpr KeyChange question[] = {
-    {"R_Content_svg", toEscaped}, {"R_Answer_svg", toEscaped},  {"page_scale", toNumber},
-    {"page_state", toEscaped},    {"answer_width", toNumber},   {"answer_height", toNumber},
-    {"content_width", toNumber},  {"content_height", toNumber},
+    {"R_Content_svg", toElementText}, {"R_Answer_svg", toElementText}, {"page_scale", toNumber},
+    {"page_state", toElementText},    {"answer_width", toNumber},      {"answer_height", toNumber},
+    {"content_width", toNumber},      {"content_height", toNumber},
 };
 
 QJsonObject writableNode(QJsonObject node)

@@ -60,6 +60,8 @@ private slots:
             "{'Type':'ZQQuestionItem','R_Content_svg':'<svg>a & b</svg>','R_Answer_svg':']]>','page_state':'<',"
             "'page_scale':1.23456789,'answer_width':1234567.8,'answer_height':0,'content_width':0.1,'content_height':"
             "3}");
+        row("blanks alone",
+            "{'Type':'ZQQuestionItem','R_Content_svg':'  ','R_Answer_svg':'\\n','page_state':'\u00a0'}");
         row("courseware", "{'Type':'ZQDyCoursewareItem','document':['a&<>.png','b&.ggb'],'Angle':'1'}");
         row("wrong answer of a flip card",
             "{'Type':'ZQActivityFlipItem','attachments':{'back':'<&','front':'f','error':'e'}}");
