@@ -97,10 +97,11 @@ private:
         return qFromLittleEndian<quint32>(bytes.constData() + offset);
     }
 
+    // The count says how many entries there are beyond the last multiple of 65536.
     bool readEntries(const QByteArray &list, int count)
     {
         int at = 0;
-        for (int i = 0; i < count; ++i) {
+        while (at < list.size() && m_entries.size() <= maximumEntries) {
             if (list.size() - at < headerSize || number32(list, at) != 0x02014b50) {
                 return false;
             }
@@ -121,7 +122,7 @@ private:
             m_entries.append(entry);
             at += headerSize + following;
         }
-        return true;
+        return m_entries.size() > maximumEntries || (m_entries.size() & 0xffff) == count;
     }
 
     QVector<Entry> m_entries;

@@ -200,6 +200,14 @@ private slots:
         row("entry that is a link", "in.zqtx", {"in.zqtx", "a.png", "link"}, [](const LessonFolder &folder) {
             folder.put("in.zqtx", LessonFolder::zip({{"a.png", "/etc/passwd"}}, 0120777U << 16));
         });
+        row("more entries than the archive counts", "in.zqtx", {"in.zqtx", "more than 100000 entries"},
+            [](const LessonFolder &folder) {
+                QVector<QPair<QByteArray, QByteArray>> entries{{"index.xml", "<main/>"}};
+                while (entries.size() <= 100000) {
+                    entries.append({"a" + QByteArray::number(entries.size()), {}});
+                }
+                folder.put("in.zqtx", LessonFolder::zip(entries));
+            });
         row("archive that unpacks to too much", "in.zqtx", {"in.zqtx", "packed more tightly"},
             [](const LessonFolder &folder) {
                 folder.put("bomb/index.xml", QByteArray(64 * 1024 * 1024, ' '));
