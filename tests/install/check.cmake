@@ -1,10 +1,10 @@
-# Installs into a fresh folder, builds the minimal host against what is there and runs it.
+# Installs into a fresh folder, builds the example hosts against what is there and runs them.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK})
 
 step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/root)
 check_is_installed(${WORK}/root)
-check_minimal_host(${WORK}/root)
+check_example_hosts(${WORK}/root)
 # Moved away from the folder that it was built in, the command finds the plug-in that was installed with it.
 step(${CMAKE_COMMAND} -E rename ${WORK}/root ${WORK}/moved)
 step(${WORK}/moved/bin/lessonconv info ${SOURCE}/examples/handwriting --json)

@@ -1,4 +1,4 @@
-# Makes the package for Debian, unpacks it, builds the minimal host against it and runs its command.
+# Makes the package for Debian, unpacks it, builds the example hosts against it and runs its command.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
@@ -17,5 +17,5 @@ foreach(line "Package: zqtransformation" "libqt5xml5" "libkf5archive5" "libqt5sv
 endforeach()
 step(dpkg-deb --extract ${packages} ${WORK}/root)
 check_is_installed(${WORK}/root/usr)
-check_minimal_host(${WORK}/root/usr)
+check_example_hosts(${WORK}/root/usr)
 step(${WORK}/root/usr/bin/lessonconv info ${SOURCE}/examples/handwriting --json)

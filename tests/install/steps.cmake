@@ -18,12 +18,13 @@ function(check_is_installed root)
     endforeach()
 endfunction()
 
-# Builds the minimal host against what is installed in root and runs it.
-function(check_minimal_host root)
+# Builds the example hosts against what is installed in root and runs them.
+function(check_example_hosts root)
     step(${CMAKE_COMMAND} -S ${SOURCE}/examples/host -B ${WORK}/host -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${root})
     step(${CMAKE_COMMAND} --build ${WORK}/host)
     step(${WORK}/host/minimalhost)
     if(NOT output MATCHES "ZQSmoothStroke 42")
         message(FATAL_ERROR "The minimal host read something else:\n${output}")
     endif()
+    step(${WORK}/host/textruns)
 endfunction()
