@@ -2,6 +2,7 @@
 
 #include "iwbgeometry.h"
 #include "iwbshapes.h"
+#include "plainnames.h"
 #include "plainsvg.h"
 
 #include <QJsonArray>
@@ -10,41 +11,24 @@
 
 namespace {
 
-struct Name
-{
-    const char *type;
-    const char *plain;
-};
-constexpr Name names[] = {
-    {"ZQTextBoard", "Text"},
-    {"ZQImagePic", "Picture that is missing"},
-    {"ZQMediaVideo", "Video"},
-    {"ZQMediaAudio", "Sound"},
-    {"ZQMediaFlash", "Flash film"},
-    {"ZQMindMapItem", "Mind map"},
-    {"ZQStrokesStamp", "Stamp"},
-    {"ZQStrokesDeletePixel", "Rubbed out ink"},
-    {"character", "Chinese character"},
-};
-// The first that fits is taken off and said in words.
-constexpr Name families[] = {
-    {"ZQChemistry", "Chemistry"}, {"ZQPhysics", "Physics"}, {"ZQMath", "Mathematics"},
-    {"ZQShape", "Figure"},        {"ZQComplexor", "Shape"}, {"ZQ", ""},
+// Keys whose texts stand on an item that has no drawing, the first that has one. HTML and svg are shown as plain text.
+constexpr const char *textKeys[] = {
+    "frontContent", "TextHtml", "R_Content_svg", "current_text", "TextPhonetic",      "ChineseWord",
+    "EnglishWord",  "Text",     "Title",         "ArtObj_Text",  "GapFillingContent", "original_alphabet",
 };
 
-QString spaced(const QString &word)
+QString textOn(const QJsonObject &item)
 {
-    QString result;
-    for (int i = 0; i < word.size(); ++i) {
-        const QChar c = word.at(i);
-        const bool isStart =
-            i > 0 && !word.at(i - 1).isUpper() && !word.at(i - 1).isDigit() && (c.isUpper() || c.isDigit());
-        if (isStart || (i > 0 && word.at(i - 1).isDigit() && c.isUpper() && i > 1)) {
-            result += QLatin1Char(' ');
+    for (const char *key : textKeys) {
+        const QString text = item.value(QLatin1String(key)).toString();
+        const QString plain = text.startsWith(QLatin1Char('<'))
+            ? QTextDocumentFragment::fromHtml(text).toPlainText().simplified()
+            : text.simplified();
+        if (!plain.isEmpty()) {
+            return plain;
         }
-        result += c;
     }
-    return result;
+    return {};
 }
 
 struct Node
@@ -95,26 +79,6 @@ NamedBoxes::NamedBoxes(PlainSvg &svg)
 {
 }
 
-QString NamedBoxes::plainName(const QString &itemType)
-{
-    for (const Name &name : names) {
-        if (itemType == QLatin1String(name.type)) {
-            return QLatin1String(name.plain);
-        }
-    }
-    const int colon = itemType.indexOf(QLatin1Char(':'));
-    if (colon > 0) {
-        return itemType.left(colon) + QLatin1String(": ") + spaced(itemType.mid(colon + 1)).toLower();
-    }
-    for (const Name &family : families) {
-        if (itemType.startsWith(QLatin1String(family.type))) {
-            const QString rest = spaced(itemType.mid(int(qstrlen(family.type))));
-            return *family.plain ? QString(QLatin1String(family.plain) + QLatin1String(": ") + rest) : rest;
-        }
-    }
-    return itemType.isEmpty() ? QStringLiteral("Item of no type") : spaced(itemType);
-}
-
 bool NamedBoxes::drawMindMap(const QJsonObject &item)
 {
     const QJsonArray data = item.value(QLatin1String("mindMapData")).toArray();
@@ -155,7 +119,7 @@ bool NamedBoxes::drawMindMap(const QJsonObject &item)
     return true;
 }
 
-void NamedBoxes::drawBox(const QJsonObject &item)
+void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
 {
     const QString name = plainName(item.value(QLatin1String("Type")).toString());
     const auto place = itemPlace(item);
@@ -169,7 +133,8 @@ void NamedBoxes::drawBox(const QJsonObject &item)
             QRectF(12 + m_withoutPlace / perColumn * 372, 12 + m_withoutPlace % perColumn * (height + 8), 360, height);
         ++m_withoutPlace;
     }
-    QDomElement frame = m_svg.addRectangle(box, QColor(0x77, 0x77, 0x77), QColor(0xee, 0xee, 0xee, 150));
+    QDomElement frame =
+        m_svg.addRectangle(box, QColor(0x77, 0x77, 0x77), QColor(0xee, 0xee, 0xee, hasPicture ? 0 : 150));
     frame.setAttribute(QStringLiteral("stroke-dasharray"), QStringLiteral("10,6"));
     if (place && qAbs(place->angle) > 1e-6) {
         frame.setAttribute(QStringLiteral("transform"),
@@ -178,5 +143,19 @@ void NamedBoxes::drawBox(const QJsonObject &item)
                                .arg(box.center().x())
                                .arg(box.center().y()));
     }
-    m_svg.addLabel(name, box, 28, QColor(0x44, 0x44, 0x44));
+    const QColor nameColor(0x55, 0x55, 0x55);
+    const QString text = textOn(item);
+    if (text.isEmpty() && !hasPicture) {
+        m_svg.addLabel(name, box, 28, nameColor);
+        return;
+    }
+    // The name above what stands on the item.
+    const double height = qMin(34.0, box.height() * 0.3);
+    const QRectF strip(box.left(), box.top(), box.width(), height);
+    if (hasPicture) {
+        m_svg.addRectangle(strip, Qt::transparent, QColor(0xff, 0xff, 0xff, 190))
+            .setAttribute(QStringLiteral("stroke"), QStringLiteral("none"));
+    }
+    m_svg.addLabel(name, strip, 20, nameColor);
+    m_svg.addLabel(text, box.adjusted(0, height, 0, 0), 36, Qt::black);
 }

@@ -18,11 +18,9 @@ public:
     //! A tree of boxes and lines, in the item's box or the whole page. False for what is no mind map.
     bool drawMindMap(const QJsonObject &item);
 
-    //! The item's box with the plain name of its type; for an item without a box, a small one at the page's left edge.
-    void drawBox(const QJsonObject &item);
-
-    //! What a teacher calls a type: "ZQPhysicsKaiGuan1" is "Physics: Kai Guan 1".
-    static QString plainName(const QString &itemType);
+    //! The item's box with the plain name of its type and the text that stands on it; for an item without a box, a
+    //! small one at the page's left edge. hasPicture: it lies over a picture that is to be seen.
+    void drawBox(const QJsonObject &item, bool hasPicture);
 
 private:
     PlainSvg &m_svg;

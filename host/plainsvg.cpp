@@ -1,5 +1,6 @@
 #include "plainsvg.h"
 
+#include "labellines.h"
 #include "packagenames.h"
 
 #include <QBuffer>
@@ -329,19 +330,28 @@ void PlainSvg::addLine(const QLineF &line, const QColor &color, double width)
 
 void PlainSvg::addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color)
 {
-    QFont font(QStringLiteral("sans-serif"));
-    font.setPixelSize(100);
-    const double widthAt1 = QFontMetricsF(font).horizontalAdvance(text) / 100;
-    double size = qMin(pixelSize, box.height() * 0.8);
-    if (widthAt1 > 0) {
-        size = qMin(size, box.width() * 0.94 / widthAt1);
+    constexpr int longestText = 600; // what follows would be too small to read
+    const QString shown = text.left(longestText);
+    LabelLines label = linesThatFit(shown, box.size(), pixelSize);
+    QDomElement group = append(QStringLiteral("g"));
+    const LabelLines upright = linesThatFit(shown, box.size().transposed(), pixelSize);
+    if (upright.size > label.size * 1.5) {
+        label = upright;
+        group.setAttribute(QStringLiteral("transform"),
+                           QStringLiteral("rotate(-90 %1 %2)").arg(number(box.center().x()), number(box.center().y())));
     }
-    QDomElement label = append(QStringLiteral("text"));
-    label.setAttribute(QStringLiteral("x"), number(box.center().x()));
-    label.setAttribute(QStringLiteral("y"), number(box.center().y() + size * 0.35));
-    label.setAttribute(QStringLiteral("text-anchor"), QStringLiteral("middle"));
-    label.setAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
-    label.setAttribute(QStringLiteral("font-size"), number(qMax(size, 1.0)));
-    label.setAttribute(QStringLiteral("fill"), color.name());
-    label.appendChild(m_document.createTextNode(text));
+    group.setAttribute(QStringLiteral("text-anchor"), QStringLiteral("middle"));
+    group.setAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
+    group.setAttribute(QStringLiteral("font-size"), number(label.size));
+    group.setAttribute(QStringLiteral("fill"), color.name());
+    double y =
+        box.center().y() - (label.lines.size() - 1) * label.size * LabelLines::lineHeight / 2 + label.size * 0.35;
+    for (const QString &line : qAsConst(label.lines)) {
+        QDomElement element = m_document.createElement(QStringLiteral("text"));
+        element.setAttribute(QStringLiteral("x"), number(box.center().x()));
+        element.setAttribute(QStringLiteral("y"), number(y));
+        element.appendChild(m_document.createTextNode(line));
+        group.appendChild(element);
+        y += label.size * LabelLines::lineHeight;
+    }
 }

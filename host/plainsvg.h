@@ -25,7 +25,8 @@ public:
 
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);
-    //! One line of text in the middle of a box, made smaller until it fits.
+    //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
+    //! that lets it be larger.
     void addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color);
 
 private:

@@ -44,6 +44,24 @@ void takeApart(const QJsonArray &items, QVector<QJsonObject> &result)
     }
 }
 
+// The picture on an item that has no drawing: a picture item in its box, or an empty object.
+QJsonObject pictureOn(const QJsonObject &item, const QStringList &files)
+{
+    for (const QLatin1String key : {QLatin1String("document"), QLatin1String("picture")}) {
+        const QJsonValue value = item.value(key);
+        const QString file = value.isArray() ? value.toArray().at(0).toString() : value.toString();
+        if (files.contains(file)) {
+            return {{typeKey, QStringLiteral("ZQImagePic")},
+                    {idKey, QString(item.value(idKey).toString() + QLatin1String("picture"))},
+                    {QLatin1String("BoundingBox"), item.value(QLatin1String("BoundingBox"))},
+                    {QLatin1String("Angle"), item.value(QLatin1String("Angle"))},
+                    {QLatin1String("Matrix"), item.value(QLatin1String("Matrix"))},
+                    {QLatin1String("resource"), file}};
+        }
+    }
+    return {};
+}
+
 // What IWB leaves without anything to see.
 bool isDrawn(const QDomElement &element)
 {
@@ -74,15 +92,20 @@ SlidePicture SlidePictures::picture(int index)
 
     LessonSlide exported;
     exported.properties = slide.properties;
+    const QStringList files = m_reader.resources();
     for (const QJsonObject &item : qAsConst(items)) {
         exported.items.append(item);
+        const QJsonObject picture = pictureOn(item, files);
+        if (!picture.isEmpty()) {
+            exported.items.append(picture);
+        }
     }
     LossReport unwanted;
     m_context.losses = &unwanted;
     const QString package = m_folder.filePath(QStringLiteral("slide%1").arg(index));
     const auto writer = lessonFormatByName(QStringLiteral("iwb")).create(package, m_context);
     writer->begin(m_reader.presentation());
-    for (const QString &resource : m_reader.resources()) {
+    for (const QString &resource : files) {
         writer->addResource(resource, m_reader.resourceFile(resource));
     }
     writer->writeSlide(exported);
@@ -114,7 +137,11 @@ SlidePicture SlidePictures::picture(int index)
         if (isDrawn(element)) {
             plain.add(element);
         } else if (!boxes.drawMindMap(item)) {
-            boxes.drawBox(item);
+            const QDomElement picture = drawn.value(item.value(idKey).toString() + QLatin1String("picture"));
+            if (isDrawn(picture)) {
+                plain.add(picture);
+            }
+            boxes.drawBox(item, isDrawn(picture));
             result.named.append({item.value(typeKey).toString(), item.value(QLatin1String("OwnID")).toString()});
         }
     }

@@ -60,6 +60,7 @@ QString TestRender::lesson()
                 {"nodeHtml":"Animals","childNodes":[{"nodeHtml":"<b>Cats</b> & dogs"},{"nodeHtml":"Birds"}]}]}]},
         {"ID":"2","Items":[
             {"ID":"3","Type":"General:spotlight","BoundingBox":"10,10,110,60"},
+            {"ID":"6","Type":"ZQQuestionItem","BoundingBox":"120,10,390,60","R_Content_svg":"<svg><text>Why?</text></svg>"},
             {"ID":"4","Type":"ZQTextBoard","BoundingBox":"10,70,390,100","Text":"unseen","Visible":"0"},
             {"ID":"5","Type":"ZQTextBoard","BoundingBox":"10,120,390,200","Text":"<script>alert(1)</script>"}]}]})";
     const QString path = place("lesson.json");
@@ -76,10 +77,11 @@ void TestRender::drawsEveryItem()
     const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
     QCOMPARE(json.value("slides").toInt(), 2);
     QCOMPARE(json.value("named"),
-             QJsonValue(QJsonArray{QJsonObject{{"slide", 2}, {"type", "General:spotlight"}, {"id", "3"}}}));
+             QJsonValue(QJsonArray{QJsonObject{{"slide", 2}, {"type", "General:spotlight"}, {"id", "3"}},
+                                   QJsonObject{{"slide", 2}, {"type", "ZQQuestionItem"}, {"id", "6"}}}));
     const QByteArray html = content("lesson.html");
     QCOMPARE(html.count("<svg "), 2);
-    for (const char *shown : {"Animals", "Cats &amp; dogs", "Birds", "General: spotlight", "&lt;script"}) {
+    for (const char *shown : {"Animals", "Cats &amp;", "Birds", "Spotlight", ">Question<", ">Why?<", "&lt;script"}) {
         QVERIFY2(html.contains(shown), shown);
     }
     QCOMPARE(html.count("<line "), 2);
