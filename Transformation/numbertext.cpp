@@ -7,20 +7,17 @@ namespace {
 
 const QLatin1Char separator(',');
 
-// The first N parts of a text in single precision, if it has as many. Walks the text without making a list.
-template <std::size_t N> std::optional<std::array<float, N>> leadingFloats(const QString &text)
+template <std::size_t N> QString joined(const std::array<double, N> &numbers)
 {
-    std::array<float, N> numbers{};
-    int start = 0;
-    for (std::size_t i = 0; i < N; ++i) {
-        if (start < 0) {
-            return std::nullopt;
+    QString text;
+    text.reserve(int(N) * 8);
+    for (const double number : numbers) {
+        if (!text.isEmpty()) {
+            text += separator;
         }
-        const int end = text.indexOf(separator, start);
-        numbers[i] = text.midRef(start, end < 0 ? -1 : end - start).toFloat();
-        start = end < 0 ? -1 : end + 1;
+        text += numberText(number);
     }
-    return numbers;
+    return text;
 }
 
 } // namespace
@@ -64,9 +61,7 @@ std::optional<QMatrix> matrixFromText(const QString &text)
 
 QString matrixToText(const QMatrix &matrix)
 {
-    return numberText(matrix.m11()) + separator + numberText(matrix.m12()) + separator + numberText(matrix.m21())
-        + separator + numberText(matrix.m22()) + separator + numberText(matrix.dx()) + separator
-        + numberText(matrix.dy());
+    return joined<6>({matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()});
 }
 
 std::optional<QRectF> boxFromText(const QString &text)
@@ -81,8 +76,7 @@ std::optional<QRectF> boxFromText(const QString &text)
 
 QString boxToText(const QRectF &box)
 {
-    return numberText(box.left()) + separator + numberText(box.top()) + separator + numberText(box.right()) + separator
-        + numberText(box.bottom());
+    return joined<4>({box.left(), box.top(), box.right(), box.bottom()});
 }
 
 std::optional<QRectF> rectangleFromText(const QString &text)

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <array>
 #include <optional>
 
 // The number texts of items: decimal numbers between commas. All readers know how many numbers they need and give
@@ -17,6 +18,22 @@ QString numberText(double value);
 
 //! The numbers of a text, split at every comma; an empty text gives the single number 0.
 QVector<double> numbersFromText(const QString &text);
+
+//! The first N parts in single precision, or nothing if there are fewer.
+template <std::size_t N> std::optional<std::array<float, N>> leadingFloats(const QString &text)
+{
+    std::array<float, N> numbers{};
+    int start = 0;
+    for (float &number : numbers) {
+        if (start < 0) {
+            return std::nullopt;
+        }
+        const int end = text.indexOf(QLatin1Char(','), start);
+        number = text.midRef(start, end < 0 ? -1 : end - start).toFloat();
+        start = end < 0 ? -1 : end + 1;
+    }
+    return numbers;
+}
 
 //! Part number index of a text split at every comma, read as a decimal integer, or 0.
 int integerPart(const QStringList &parts, int index);

@@ -9,9 +9,19 @@ IZQTransformation *transformationInterface = nullptr;
 
 namespace {
 
+const QLatin1String typeKey("Type");
+
+// Stores the type unless it is there already: storing copies an object that is shared.
+void setType(QJsonObject &json, const QString &type)
+{
+    if (json.value(typeKey) != QJsonValue(type)) {
+        json.insert(typeKey, type);
+    }
+}
+
 QString typeOf(const QDomElement &element, const QJsonObject &json)
 {
-    return element.isNull() ? json.value(QLatin1String("Type")).toString() : element.attribute(QStringLiteral("type"));
+    return element.isNull() ? json.value(typeKey).toString() : element.attribute(QStringLiteral("type"));
 }
 
 } // namespace
@@ -59,7 +69,7 @@ QDomElement TransformationPlugin::tranItemJSON2ZQTX(QDomElement element, QJsonOb
     if (!translator) {
         return element;
     }
-    json.insert(QLatin1String("Type"), jsonTypeToTxType(type));
+    setType(json, jsonTypeToTxType(type));
     return translator->tranJSON2ZQTX(element, json, {});
 }
 
@@ -81,8 +91,7 @@ QJsonObject TransformationPlugin::tranItemZQTX2JSON(QDomElement element, QJsonOb
     }
     QJsonObject json = translator->tranZQTX2JSON(element, {}, context);
     if (!json.isEmpty()) {
-        const QString type = json.value(QLatin1String("Type")).toString();
-        json.insert(QLatin1String("Type"), txTypeToJsonType(type));
+        setType(json, txTypeToJsonType(json.value(typeKey).toString()));
     }
     return json;
 }
@@ -114,7 +123,7 @@ QDomElement TransformationPlugin::tranSlideJSON2IWB(QDomDocument &document, QJso
 
 QDomElement TransformationPlugin::tranItemJSON2IWB(QDomDocument &document, QJsonObject json)
 {
-    const auto translator = createIwbTranslator(document, json.value(QLatin1String("Type")).toString());
+    const auto translator = createIwbTranslator(document, json.value(typeKey).toString());
     if (!translator) {
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "markupbuilder.h"
 
 #include <algorithm>
 #include <iterator>
@@ -107,18 +108,36 @@ QString templateTail(bool isFlipCard)
         + (isFlipCard ? flipRows : textRows) + QLatin1String(R"(<hot offset=""/></data></activity_item>)");
 }
 
-QString attachmentText(const QJsonObject &texts)
+QString attachmentText(const QString &back, const QString &front, const QString &error)
 {
-    return QLatin1String(R"(<attachments><attachment back=")") + texts.value(QLatin1String("back")).toString()
-        + QLatin1String(R"(" front=")") + texts.value(QLatin1String("front")).toString() + QLatin1String(R"(" error=")")
-        + texts.value(QLatin1String("error")).toString() + QLatin1String(R"("/></attachments>)");
+    return QLatin1String(R"(<attachments><attachment back=")") + back + QLatin1String(R"(" front=")") + front
+        + QLatin1String(R"(" error=")") + error + QLatin1String(R"("/></attachments>)");
+}
+
+// The texts stand in the attributes without escaping, so markup in them becomes part of the item.
+QDomElement elementWithAttachment(bool isFlipCard, const QJsonObject &texts)
+{
+    const QString back = texts.value(QLatin1String("back")).toString();
+    const QString front = texts.value(QLatin1String("front")).toString();
+    const QString error = texts.value(QLatin1String("error")).toString();
+    if (!isPlainAttributeValue(back) || !isPlainAttributeValue(front) || !isPlainAttributeValue(error)) {
+        return elementFromXml(templateHead() + attachmentText(back, front, error) + templateTail(isFlipCard));
+    }
+    static const ElementTemplate flip(templateHead() + attachmentText({}, {}, {}) + templateTail(true));
+    static const ElementTemplate other(templateHead() + attachmentText({}, {}, {}) + templateTail(false));
+    const QDomElement element = (isFlipCard ? flip : other).instance();
+    QDomElement attachment = childByTag(element, attachments).firstChildElement();
+    attachment.setAttribute(QStringLiteral("back"), back);
+    attachment.setAttribute(QStringLiteral("front"), front);
+    attachment.setAttribute(QStringLiteral("error"), error);
+    return element;
 }
 
 QDomElement activityElement(bool isFlipCard, const QJsonObject &json)
 {
     const auto found = json.constFind(attachments);
     if (found != json.constEnd()) {
-        return elementFromXml(templateHead() + attachmentText(found->toObject()) + templateTail(isFlipCard));
+        return elementWithAttachment(isFlipCard, found->toObject());
     }
     static const ElementTemplate flip(templateHead() + templateTail(true));
     static const ElementTemplate other(templateHead() + templateTail(false));

@@ -7,6 +7,7 @@
 #include "transformationplugin.h"
 #include "translatorchains.h"
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -46,31 +47,47 @@ const KeyPaths &txPaths()
 // A raw bound has at least six numbers: right, bottom, two more, left, top. The item's box is left, top, right, bottom.
 void reorderBound(QJsonObject &json)
 {
-    const QString bound = json.value(QLatin1String("BoundingBox")).toString();
-    const QLatin1Char comma(',');
-    const QVector<QStringRef> parts = bound.splitRef(comma);
-    if (parts.size() < 6) {
+    const auto found = json.find(QLatin1String("BoundingBox"));
+    if (found == json.end()) {
         return;
     }
-    json.insert(QLatin1String("BoundingBox"),
-                QString(parts.at(4) + comma + parts.at(5) + comma + parts.at(0) + comma + parts.at(1)));
+    const QString bound = found->toString();
+    const QLatin1Char comma(',');
+    std::array<int, 6> ends{};
+    int start = 0;
+    for (int &end : ends) {
+        if (start > bound.size()) {
+            return;
+        }
+        end = bound.indexOf(comma, start);
+        end = end < 0 ? bound.size() : end;
+        start = end + 1;
+    }
+    const QStringRef leftTop = bound.midRef(ends[3] + 1, ends[5] - ends[3] - 1);
+    const QStringRef rightBottom = bound.leftRef(ends[1]);
+    *found = QString(leftTop + comma + rightBottom);
 }
 
 void normalizeFlag(QJsonObject &json, QLatin1String key)
 {
-    const QString text = json.value(key).toString();
-    const QString flag = text.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0");
-    if (text != flag) {
-        json.insert(key, flag);
+    const auto found = json.find(key);
+    const QString text = found == json.end() ? QString() : found->toString();
+    if (text == QLatin1String("0") || text == QLatin1String("1")) {
+        return;
     }
+    json.insert(key, text.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 // Visible becomes a boolean and is true unless the text says 0; LockIn and InfiniteClone become "1" or "0".
 void normalizeFlags(QJsonObject &json)
 {
     const QLatin1String visible("Visible");
-    const QJsonValue value = json.value(visible);
-    json.insert(visible, value.isUndefined() || value.toString().toInt() != 0);
+    const auto found = json.find(visible);
+    if (found == json.end()) {
+        json.insert(visible, true);
+    } else {
+        *found = found->toString().toInt() != 0;
+    }
     normalizeFlag(json, QLatin1String("LockIn"));
     normalizeFlag(json, QLatin1String("InfiniteClone"));
 }
@@ -103,9 +120,7 @@ QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject 
     json = ZQHTran::tranXML2JSON(element, json, context);
     const QString type = element.nodeName();
     json.insert(QLatin1String("Type"), type);
-    if (json.contains(QLatin1String("BoundingBox"))) {
-        reorderBound(json);
-    }
+    reorderBound(json);
     normalizeFlags(json);
     const QJsonObject slide = context.value(QLatin1String("slide")).toObject();
     // The record of deleted pixels is meant without the s that its item type has.
@@ -191,13 +206,18 @@ QString ZQComItemControlTran::joinResourcePaths(const QString &files, QLatin1Cha
 
 void ZQComItemControlTran::foldMatrixIntoBox(QJsonObject &json)
 {
-    const auto matrix = matrixFromText(json.value(QLatin1String("Matrix")).toString());
-    const auto box = boxFromText(json.value(QLatin1String("BoundingBox")).toString());
+    const auto matrixMember = json.find(QLatin1String("Matrix"));
+    const auto boxMember = json.find(QLatin1String("BoundingBox"));
+    if (matrixMember == json.end() || boxMember == json.end()) {
+        return;
+    }
+    const auto matrix = matrixFromText(matrixMember->toString());
+    const auto box = boxFromText(boxMember->toString());
     if (!matrix || !box || !(matrix->m11() > 1.0)) {
         return;
     }
-    json.insert(QLatin1String("Matrix"), matrixToText(QMatrix()));
-    json.insert(QLatin1String("BoundingBox"), boxToText(matrix->mapRect(*box)));
+    *matrixMember = matrixToText(QMatrix());
+    *boxMember = boxToText(matrix->mapRect(*box));
 }
 
 int ZQComItemControlTran::lessonVersion(const QJsonObject &context)
@@ -228,13 +248,15 @@ void ZQComItemControlTran::fitToSlide(QJsonObject &json, const QJsonObject &slid
     if (source) {
         fit = fitMatrix(*source, QRectF(QPointF(), slideTargetSize(*source)));
     }
+    const QString fitText = matrixToText(fit);
     const QLatin1String matrixKey("Matrix");
-    if (!json.contains(matrixKey)) {
-        json.insert(matrixKey, matrixToText(fit));
-    } else if (const auto matrix = matrixFromText(json.value(matrixKey).toString())) {
-        json.insert(matrixKey, matrixToText(*matrix * fit));
+    const auto found = json.find(matrixKey);
+    if (found == json.end()) {
+        json.insert(matrixKey, fitText);
+    } else if (const auto matrix = matrixFromText(found->toString())) {
+        *found = matrixToText(*matrix * fit);
     }
-    json.insert(QLatin1String("SlideMatrix"), matrixToText(fit));
+    json.insert(QLatin1String("SlideMatrix"), fitText);
 }
 
 void ZQComItemControlTran::readLink(QJsonObject &json, const QJsonObject &slide)

@@ -48,7 +48,14 @@ QStringList allColorKeys()
 
 QJsonObject colorObject(double solid, double alpha)
 {
-    return {{QStringLiteral("Alpha"), alpha}, {QStringLiteral("Solid"), solid}};
+    const QLatin1String alphaKey("Alpha");
+    const QLatin1String solidKey("Solid");
+    // Numbers replace numbers at a fraction of what new keys cost.
+    static const QJsonObject black{{alphaKey, 1.0}, {solidKey, 0.0}};
+    QJsonObject color = black;
+    color.insert(alphaKey, alpha);
+    color.insert(solidKey, solid);
+    return color;
 }
 
 // The colour of an element with the attributes a, r, g, b in decimal; a is 255 if missing, the others 0.
@@ -62,23 +69,24 @@ QJsonObject colorOfElement(const QDomElement &element)
     return colorObject(double(solid), double(channel("a", "255")) / 255.0);
 }
 
-// The colour of the parts r, g, b that start at first, in single precision, which holds three channels exactly.
-QJsonObject colorOfParts(const QStringList &parts, int first, double alpha)
+// The colour of three channels, in single precision, which holds them exactly.
+QJsonObject colorOfChannels(const float *rgb, double alpha)
 {
-    const auto channel = [&parts, first](int i) { return parts.at(first + i).toFloat(); };
-    const float solid = channel(0) * 65536.0F + channel(1) * 256.0F + channel(2);
+    const float solid = rgb[0] * 65536.0F + rgb[1] * 256.0F + rgb[2];
     return colorObject(double(solid), alpha);
 }
 
 // The colour of a text a,r,g,b, or r,g,b if opaque ones are taken; an empty object for any other text.
 QJsonObject colorOfText(const QString &text, bool acceptsOpaque)
 {
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (parts.size() == 4) {
-        return colorOfParts(parts, 1, double(parts.at(0).toFloat()) / 255.0);
+    const int parts = text.count(QLatin1Char(',')) + 1;
+    if (parts == 4) {
+        const auto argb = *leadingFloats<4>(text);
+        return colorOfChannels(argb.data() + 1, double(argb[0]) / 255.0);
     }
-    if (parts.size() == 3 && acceptsOpaque) {
-        return colorOfParts(parts, 0, 1.0);
+    if (parts == 3 && acceptsOpaque) {
+        const auto rgb = *leadingFloats<3>(text);
+        return colorOfChannels(rgb.data(), 1.0);
     }
     return {};
 }

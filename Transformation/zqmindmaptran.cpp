@@ -1,6 +1,7 @@
 #include "zqmindmaptran.h"
 
 #include "domhelpers.h"
+#include "markupbuilder.h"
 
 #include <QDebug>
 #include <QVector>
@@ -85,35 +86,35 @@ template <std::size_t N> bool readNamedValue(const Value (&values)[N], const QDo
     return false;
 }
 
-void writeTagged(QString &text, QLatin1String tag, const QString &content)
+void writeValue(const Value &value, const QJsonValue &content, MarkupBuilder &markup)
 {
-    text += QLatin1Char('<') + tag + QLatin1Char('>') + content + QLatin1String("</") + tag + QLatin1Char('>');
-}
-
-QString writtenForm(const QJsonValue &value, Form form)
-{
-    switch (form) {
+    markup.open(value.name);
+    switch (value.form) {
     case Form::Integer:
-        return QString::number(value.toInt());
+        markup.text(QString::number(content.toInt()));
+        break;
     case Form::Shown:
     case Form::Flag:
-        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+        markup.text(content.toBool() ? QStringLiteral("1") : QStringLiteral("0"));
+        break;
     case Form::Markup:
-        return QLatin1String("<![CDATA[") + value.toString() + QLatin1String("]]>");
+        markup.cdata(content.toString());
+        break;
     case Form::Text:
+        markup.text(content.toString());
         break;
     }
-    return value.toString();
+    markup.close();
 }
 
-template <std::size_t N> void writeValues(const Value (&values)[N], const QJsonObject &object, QString &text)
+template <std::size_t N> void writeValues(const Value (&values)[N], const QJsonObject &object, MarkupBuilder &markup)
 {
     for (const Value &value : values) {
         const auto found = object.constFind(value.name);
         if (found != object.constEnd()) {
-            writeTagged(text, value.name, writtenForm(*found, value.form));
+            writeValue(value, *found, markup);
         } else if (value.presence == Presence::Always) {
-            writeTagged(text, value.name, writtenForm({}, value.form));
+            writeValue(value, {}, markup);
         }
     }
 }
@@ -132,17 +133,19 @@ QJsonArray readAttachments(const QDomElement &element)
     return list;
 }
 
-void writeAttachments(const QJsonArray &list, QString &text)
+void writeAttachments(const QJsonArray &list, MarkupBuilder &markup)
 {
-    text += QLatin1String("<attachments>");
+    markup.open(attachments);
+    markup.text({});
     for (const QJsonValue &entry : list) {
         const QJsonObject attachment = entry.toObject();
-        text += QLatin1String(R"(<attachment type=")") + attachment.value(QLatin1String("type")).toString()
-            + QLatin1String(R"(" path=")") + attachment.value(QLatin1String("path")).toString()
-            + QLatin1String(R"(" name=")") + attachment.value(QLatin1String("name")).toString()
-            + QLatin1String(R"("/>)");
+        markup.open(QLatin1String("attachment"));
+        for (const QLatin1String name : {QLatin1String("type"), QLatin1String("path"), QLatin1String("name")}) {
+            markup.attribute(name, attachment.value(name).toString());
+        }
+        markup.close();
     }
-    text += QLatin1String("</attachments>");
+    markup.close();
 }
 
 // Printing costs stack for each level of arrays and objects: members that nest deeper than this stay out of the log.
@@ -235,19 +238,26 @@ QDomElement ZQMindMapTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, 
     if (!element.isNull()) {
         return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
     }
-    QString text = QStringLiteral(R"(<mindmap id="" visible="1" locked="0" uclone="0" type="mindmap">)"
-                                  R"(<transform><rotate angle="0"/></transform><data>)");
+    MarkupBuilder markup;
+    markup.open(QLatin1String("mindmap"));
+    for (const auto &[name, value] :
+         {std::pair("id", ""), {"visible", "1"}, {"locked", "0"}, {"uclone", "0"}, {"type", "mindmap"}}) {
+        markup.attribute(QLatin1String(name), QLatin1String(value));
+    }
+    markup.open(QLatin1String("transform"));
+    markup.open(QLatin1String("rotate"));
+    markup.attribute(QLatin1String("angle"), QStringLiteral("0"));
+    markup.close();
+    markup.close();
+    markup.open(QLatin1String("data"));
+    markup.text({});
     const QJsonArray tree = json.value(mindMapData).toArray();
     if (tree.size() >= 3) {
-        text += QLatin1String("<mapItemInfo>");
-        writeValues(mapValues, tree.at(0).toObject(), text);
-        const int edgeStyle = tree.at(1).toObject().value(QLatin1String("style")).toInt();
-        text += QLatin1String("<edge><style>") + QString::number(edgeStyle) + QLatin1String("</style></edge>");
-        writeMindNode(tree.at(2).toObject(), text);
-        text += QLatin1String("</mapItemInfo>");
+        writeMindMap(tree, markup);
     }
-    text += QLatin1String("</data></mindmap>");
-    element = elementFromXml(text);
+    markup.close();
+    markup.close();
+    element = markup.element();
     logItem(json);
     return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
 }
@@ -299,7 +309,7 @@ void ZQMindMapTran::readMindNode(const QDomElement &element, QJsonObject &node)
     }
 }
 
-void ZQMindMapTran::writeMindNode(const QJsonObject &node, QString &text)
+void ZQMindMapTran::writeMindNode(const QJsonObject &node, MarkupBuilder &markup)
 {
     // The child nodes that are being written, and the next of them.
     struct OpenNodes
@@ -315,20 +325,35 @@ void ZQMindMapTran::writeMindNode(const QJsonObject &node, QString &text)
             if (open.isEmpty()) {
                 return;
             }
-            text += QLatin1String("</childNodes></node>");
+            markup.close();
+            markup.close();
             continue;
         }
         const QJsonObject written = current.nodes.at(current.next++).toObject();
-        text += QLatin1String("<node>");
-        writeValues(nodeValues, written, text);
+        markup.open(QLatin1String("node"));
+        writeValues(nodeValues, written, markup);
         if (written.contains(attachments)) {
-            writeAttachments(written.value(attachments).toArray(), text);
+            writeAttachments(written.value(attachments).toArray(), markup);
         }
         if (written.contains(childNodes)) {
-            text += QLatin1String("<childNodes>");
+            markup.open(childNodes);
+            markup.text({});
             open.append({written.value(childNodes).toArray(), 0});
         } else {
-            text += QLatin1String("</node>");
+            markup.close();
         }
     }
+}
+
+void ZQMindMapTran::writeMindMap(const QJsonArray &tree, MarkupBuilder &markup)
+{
+    markup.open(QLatin1String("mapItemInfo"));
+    writeValues(mapValues, tree.at(0).toObject(), markup);
+    markup.open(QLatin1String("edge"));
+    markup.open(QLatin1String("style"));
+    markup.text(QString::number(tree.at(1).toObject().value(QLatin1String("style")).toInt()));
+    markup.close();
+    markup.close();
+    writeMindNode(tree.at(2).toObject(), markup);
+    markup.close();
 }

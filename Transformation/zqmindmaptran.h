@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class MarkupBuilder;
+
 /*!
  * The mind map: an item with a tree of nodes. JSON holds it under "mindMapData" as an array of three objects, the map
  * information, the edge and the root node; ZQTX in <data><mapItemInfo>.
@@ -29,9 +31,12 @@ private:
     //! Fills node from the children of a <node>, its attachments and child nodes included.
     static void readMindNode(const QDomElement &element, QJsonObject &node);
 
-    //! Appends node and all nodes below it as XML. "link", "shade", "stamp", "attachments" and "childNodes" are
-    //! written if they are there, everything else always.
-    static void writeMindNode(const QJsonObject &node, QString &text);
+    //! Appends the map information, the edge and the root node with all nodes below it.
+    static void writeMindMap(const QJsonArray &tree, MarkupBuilder &markup);
+
+    //! Appends node and all nodes below it. "link", "shade", "stamp", "attachments" and "childNodes" are written if
+    //! they are there, everything else always.
+    static void writeMindNode(const QJsonObject &node, MarkupBuilder &markup);
 };
 
 #endif // ZQMINDMAPTRAN_H

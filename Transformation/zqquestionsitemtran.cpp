@@ -1,7 +1,12 @@
 #include "zqquestionsitemtran.h"
 
 #include "domhelpers.h"
+#include "markupbuilder.h"
 #include "numbertext.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
 
 namespace {
 
@@ -19,17 +24,46 @@ const Value values[] = {
     {QLatin1String("content_width"), true},  {QLatin1String("content_height"), true},
 };
 
-QString questionText(const QJsonObject &json)
+using Texts = std::array<QString, std::size(values)>;
+
+Texts textsOf(const QJsonObject &json)
+{
+    Texts texts;
+    std::transform(std::begin(values), std::end(values), texts.begin(), [&json](const Value &value) {
+        const QJsonValue content = json.value(value.name);
+        return value.isNumber ? numberText(content.toDouble()) : content.toString();
+    });
+    return texts;
+}
+
+QString questionText(const Texts &texts)
 {
     QString text = QStringLiteral(R"(<question id="" visible="1" locked="0" uclone="0" type="question">)"
                                   R"(<transform><rotate angle="0"/></transform><data>)");
-    for (const Value &value : values) {
-        const QJsonValue content = json.value(value.name);
-        text += QLatin1Char('<') + value.name + QLatin1Char('>')
-            + (value.isNumber ? numberText(content.toDouble()) : content.toString()) + QLatin1String("</") + value.name
-            + QLatin1Char('>');
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const QLatin1String name = values[i].name;
+        text += QLatin1Char('<') + name + QLatin1Char('>') + texts[i] + QLatin1String("</") + name + QLatin1Char('>');
     }
     return text + QLatin1String(R"(<rect points="" controlpoints="" outlinetype=""/></data></question>)");
+}
+
+// The texts stand in their elements without escaping, so markup in them becomes part of the item.
+QDomElement questionElement(const Texts &texts)
+{
+    if (!std::all_of(texts.cbegin(), texts.cend(), isPlainText)) {
+        return elementFromWellFormedXml(questionText(texts));
+    }
+    static const ElementTemplate question(questionText({}));
+    const QDomElement element = question.instance();
+    QDomDocument document = element.ownerDocument();
+    QDomElement child = childByTag(element, QStringLiteral("data")).firstChildElement();
+    for (const QString &text : texts) {
+        if (!text.isEmpty()) {
+            child.appendChild(document.createTextNode(text));
+        }
+        child = child.nextSiblingElement();
+    }
+    return element;
 }
 
 } // namespace
@@ -61,7 +95,7 @@ QJsonObject ZQQuestionsItemTran::tranZQTX2JSON(QDomElement element, QJsonObject 
 QDomElement ZQQuestionsItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
     if (element.isNull()) {
-        element = elementFromWellFormedXml(questionText(json));
+        element = questionElement(textsOf(json));
     }
     return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
 }
