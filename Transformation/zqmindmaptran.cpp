@@ -4,6 +4,7 @@
 #include "markupbuilder.h"
 
 #include <QDebug>
+#include <QLoggingCategory>
 #include <QVector>
 
 namespace {
@@ -183,6 +184,9 @@ bool nestsTooDeep(const QJsonValue &root)
 
 void logItem(QJsonObject json)
 {
+    if (!QLoggingCategory::defaultCategory()->isDebugEnabled()) {
+        return;
+    }
     const QStringList keys = json.keys();
     for (const QString &key : keys) {
         if (nestsTooDeep(json.value(key))) {

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
+#include <QLoggingCategory>
 #include <QTextStream>
 #include <QThread>
 
@@ -131,6 +132,7 @@ int Command::run(const QStringList &arguments)
     }
     if (isSet("verbose")) {
         qInstallMessageHandler(nullptr);
+        QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, true);
     }
     const QStringList words = m_parser.positionalArguments();
     if (isSet("help") || words.isEmpty() || words.first() == QLatin1String("help")) {

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLoggingCategory>
 
 namespace {
 
@@ -30,6 +31,8 @@ void tell(const LessonError &error, bool asJson)
 int main(int argc, char **argv)
 {
     qInstallMessageHandler(keepQuiet);
+    // What nobody prints needn't be put into words.
+    QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
     // The same lesson gives the same bytes, whichever run writes it.
     qSetGlobalQHashSeed(0);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
