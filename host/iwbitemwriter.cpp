@@ -2,11 +2,11 @@
 
 #include "izqtransformation.h"
 #include "lossreport.h"
+#include "pictures.h"
 #include "svgstyle.h"
 #include "textruns.h"
 
 #include <QFile>
-#include <QImageReader>
 #include <QSet>
 
 #include <cmath>
@@ -365,9 +365,12 @@ void IwbItemWriter::writeMedia(const QJsonObject &item)
     QString source = m_setting.files->find(reference);
     if (source.isEmpty()) {
         report(item, Loss::File, reference, QStringLiteral("the lesson has no such file"));
-    } else if (type == QLatin1String("ZQImagePic") && !QImageReader(source).canRead()) {
-        report(item, Loss::File, reference, QStringLiteral("it is no picture that can be read"));
-        source.clear();
+    } else if (type == QLatin1String("ZQImagePic")) {
+        const QString problem = pictureProblem(source);
+        if (!problem.isEmpty()) {
+            report(item, Loss::File, reference, problem);
+            source.clear();
+        }
     }
     QJsonObject prepared = commonKeys(item);
     prepared.insert(QLatin1String("tmpFilePath"), m_setting.exportFolder);

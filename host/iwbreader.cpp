@@ -3,6 +3,7 @@
 #include "iwbshapes.h"
 #include "izqtransformation.h"
 #include "lessonerror.h"
+#include "pictures.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,18 +15,6 @@ namespace {
 const QLatin1String packageFolder("/package");
 const QLatin1String libraryFolder("/filelibrary");
 const QLatin1String idKey("ID");
-
-// A vector picture is no picture to the reader of pixels.
-bool isVectorPicture(const QString &file)
-{
-    QFile opened(file);
-    return opened.open(QIODevice::ReadOnly) && opened.read(4096).contains("<svg");
-}
-
-bool isPicture(const QString &file)
-{
-    return QImageReader(file).canRead() || isVectorPicture(file);
-}
 
 } // namespace
 
@@ -118,7 +107,7 @@ QString IwbReader::backgroundPicture(const IwbPage &page)
     QString problem;
     const QString resource = m_package.resolve(page.backgroundReference, &problem);
     if (!resource.isEmpty()) {
-        problem = pictureProblem(resource);
+        problem = pictureProblem(m_package.file(resource));
     }
     if (!problem.isEmpty()) {
         report(Loss::File, QStringLiteral("slide"), {}, page.backgroundReference, problem);
@@ -168,7 +157,7 @@ QString IwbReader::mediaFile(const IwbElement &item)
     const QString resource = m_package.resolve(item.reference, &problem);
     const bool isImage = item.element.tagName() == QLatin1String("svg:image");
     if (!resource.isEmpty() && isImage) {
-        problem = pictureProblem(resource);
+        problem = pictureProblem(m_package.file(resource));
     }
     if (!problem.isEmpty()) {
         report(Loss::File, item.element.tagName(), item.id, item.reference, problem);
@@ -204,11 +193,6 @@ void IwbReader::readLink(const IwbElement &item, QJsonObject &json)
     for (auto it = link.constBegin(); it != link.constEnd(); ++it) {
         json.insert(it.key(), it.value());
     }
-}
-
-QString IwbReader::pictureProblem(const QString &resource) const
-{
-    return isPicture(m_package.file(resource)) ? QString() : QStringLiteral("it is no picture that can be read");
 }
 
 void IwbReader::report(Loss::Kind kind, const QString &type, const QString &id, const QString &key,

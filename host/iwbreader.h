@@ -29,7 +29,6 @@ private:
     QJsonObject readItem(IwbElement item, QSet<QString> &usedIds);
     QString mediaFile(const IwbElement &item);
     void readLink(const IwbElement &item, QJsonObject &json);
-    QString pictureProblem(const QString &resource) const;
     void report(Loss::Kind kind, const QString &type, const QString &id, const QString &key, const QString &detail);
     void reportRemark(const SvgRemark &remark);
 

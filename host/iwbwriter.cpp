@@ -4,6 +4,7 @@
 #include "izqtransformation.h"
 #include "lessonerror.h"
 #include "packagenames.h"
+#include "pictures.h"
 #include "textruns.h"
 #include "xmltext.h"
 
@@ -181,6 +182,11 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
             report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("a page has one background picture"));
             continue;
         }
+        const QString problem = pictureProblem(source);
+        if (!problem.isEmpty()) {
+            report(Loss::File, QStringLiteral("slide"), reference, problem);
+            continue;
+        }
         const QString name = id + QLatin1String(".png");
         const QString file = m_work.path() + libraryFolder + QLatin1Char('/') + name;
         QFile::remove(file);
@@ -188,7 +194,7 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
         if (isPng ? QFile::copy(source, file) : QImage(source).save(file, "png")) {
             chosen = name;
         } else {
-            report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("it is no picture that can be read"));
+            report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("it can't be made a PNG picture"));
         }
     }
     return chosen;

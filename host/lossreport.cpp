@@ -113,7 +113,7 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
         return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ")
             + countedByType(losses);
     case Loss::File:
-        return number + QLatin1String(count == 1 ? " file missing: " : " files missing: ") + listed(losses);
+        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ") + listed(losses);
     case Loss::Note:
         break;
     }

@@ -2,6 +2,7 @@
 
 #include "labellines.h"
 #include "packagenames.h"
+#include "pictures.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -150,6 +151,9 @@ QVector<Line> linesOf(const QDomElement &area, double width)
 // The picture as the text of an address, in a form that every viewer knows. Empty for what is no picture.
 QString dataAddress(const QString &fileName)
 {
+    if (!pictureProblem(fileName).isEmpty()) {
+        return {};
+    }
     QImageReader reader(fileName);
     reader.setAutoTransform(true);
     const QByteArray format = reader.format();

@@ -1,5 +1,6 @@
 #include "ziparchive.h"
 
+#include "checksum.h"
 #include "lessonerror.h"
 #include "packagenames.h"
 
@@ -13,7 +14,6 @@
 #include <QSet>
 #include <QtEndian>
 
-#include <array>
 #include <memory>
 
 namespace {
@@ -161,26 +161,6 @@ void checkEntries(const QString &archive, const QVector<CentralDirectory::Entry>
             refuse(archive, QStringLiteral("The entry \"%1\" is packed more tightly than any lesson").arg(entry.name));
         }
     }
-}
-
-quint32 updatedCrc(quint32 crc, const QByteArray &bytes)
-{
-    static const auto table = [] {
-        std::array<quint32, 256> rows{};
-        for (quint32 i = 0; i < 256; ++i) {
-            quint32 row = i;
-            for (int bit = 0; bit < 8; ++bit) {
-                row = (row & 1) ? (row >> 1) ^ 0xedb88320U : row >> 1;
-            }
-            rows[i] = row;
-        }
-        return rows;
-    }();
-    crc = ~crc;
-    for (const char byte : bytes) {
-        crc = table[(crc ^ quint8(byte)) & 0xff] ^ (crc >> 8);
-    }
-    return ~crc;
 }
 
 // No more than the size that was announced and checked is ever written.

@@ -527,6 +527,8 @@ private slots:
             << image("images/link.png") << "svg:image images/link.png: the package has no such file";
         QTest::newRow("no picture") << image("images/text.png")
                                     << "svg:image images/text.png: it is no picture that can be read";
+        QTest::newRow("cut picture") << image("images/cut.png") << "svg:image images/cut.png: it is a damaged picture";
+        QTest::newRow("flipped bit") << image("images/bit.png") << "svg:image images/bit.png: it is a damaged picture";
         QTest::newRow("a page's link")
             << QByteArray("<svg:a xlink:href='../x.txt'><svg:rect id='i' width='9' height='9'/></svg:a>")
             << "ZQMath2DRectangle InteractiveValue: link to \"../x.txt\": it leads out of the package";
@@ -541,6 +543,10 @@ private slots:
         write(package + QLatin1String("/content.xml"), foreignPage(item));
         write(package + QLatin1String("/images/a.png"), picture());
         write(package + QLatin1String("/images/text.png"), "not a picture");
+        write(package + QLatin1String("/images/cut.png"), picture().chopped(12));
+        QByteArray flipped = picture();
+        flipped[flipped.indexOf("IDAT") + 6] = char(flipped.at(flipped.indexOf("IDAT") + 6) ^ 1);
+        write(package + QLatin1String("/images/bit.png"), flipped);
         write(work.filePath(QStringLiteral("a/secret.png")), picture());
         QFile::link(work.filePath(QStringLiteral("a/secret.png")), package + QLatin1String("/images/link.png"));
         LossReport losses;
