@@ -19,11 +19,13 @@ const QVector<LessonFormat> &lessonFormats()
 
 namespace {
 
-QStringList namesOfFormats()
+QStringList namesOfFormats(bool (LessonFormat::*canDo)() const)
 {
     QStringList names;
     for (const LessonFormat &format : lessonFormats()) {
-        names.append(format.name);
+        if ((format.*canDo)()) {
+            names.append(format.name);
+        }
     }
     return names;
 }
@@ -38,11 +40,11 @@ const LessonFormat *formatByExtension(const QString &path)
     return found == formats.cend() ? nullptr : &*found;
 }
 
-[[noreturn]] void failWithoutFormat(const QString &path, const QString &option)
+[[noreturn]] void failWithoutFormat(const QString &path, const QString &option, const QStringList &names)
 {
     throw LessonError(
         QStringLiteral("The format can't be told from the name"),
-        QStringLiteral("Say which it is with %1 (one of %2)").arg(option, namesOfFormats().join(QLatin1String(", "))))
+        QStringLiteral("Say which it is with %1 (one of %2)").arg(option, names.join(QLatin1String(", "))))
         .in(path);
 }
 
@@ -54,8 +56,9 @@ const LessonFormat &lessonFormatByName(const QString &name)
     const auto found = std::find_if(formats.cbegin(), formats.cend(),
                                     [&name](const LessonFormat &format) { return format.name == name; });
     if (found == formats.cend()) {
-        throw LessonError(QStringLiteral("There is no format \"%1\"").arg(name),
-                          QStringLiteral("Use one of %1").arg(namesOfFormats().join(QLatin1String(", "))));
+        throw LessonError(
+            QStringLiteral("There is no format \"%1\"").arg(name),
+            QStringLiteral("Use one of %1").arg(namesOfFormats(&LessonFormat::canRead).join(QLatin1String(", "))));
     }
     return *found;
 }
@@ -78,7 +81,7 @@ const LessonFormat &lessonFormatOfInput(const QString &path)
                           QStringLiteral("To convert all lessons in a folder, say --to FORMAT --out-dir FOLDER"))
             .in(path);
     }
-    failWithoutFormat(path, QStringLiteral("--from"));
+    failWithoutFormat(path, QStringLiteral("--from"), namesOfFormats(&LessonFormat::canRead));
 }
 
 const LessonFormat &lessonFormatOfOutput(const QString &path)
@@ -89,5 +92,5 @@ const LessonFormat &lessonFormatOfOutput(const QString &path)
     if (QFileInfo(path).suffix().isEmpty()) {
         return lessonFormatByName(QStringLiteral("zqtx"));
     }
-    failWithoutFormat(path, QStringLiteral("--to"));
+    failWithoutFormat(path, QStringLiteral("--to"), namesOfFormats(&LessonFormat::canWrite));
 }

@@ -6,6 +6,7 @@
 
 #include <QDomDocument>
 #include <QStringList>
+#include <algorithm>
 
 #include <cmath>
 
@@ -16,16 +17,14 @@ const QLatin1String backgroundRect("background_rect");
 const QLatin1String backgroundImage("background_bgd");
 
 // Elements that show nothing by themselves.
-constexpr const char *silentElements[] = {"title", "desc", "metadata", "defs", "pageset", "pageSet", "page"};
+constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
 
-bool isSilent(const QString &name)
+// Elements whose own readers look at what is within.
+constexpr const char *holders[] = {"g", "svg", "a", "switch", "text", "textarea", "textArea"};
+
+template <size_t size> bool isOneOf(const char *const (&names)[size], const QString &name)
 {
-    for (const char *silent : silentElements) {
-        if (name == QLatin1String(silent)) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(std::begin(names), std::end(names), [&name](const char *n) { return name == QLatin1String(n); });
 }
 
 QString coordinate(double value)
@@ -110,7 +109,7 @@ const QHash<QString, SvgPageBuilder::Convert> &SvgPageBuilder::conversions()
 
 bool SvgPageBuilder::isDrawn(const QString &svgName)
 {
-    return !svgName.isEmpty() && !isSilent(svgName);
+    return !svgName.isEmpty() && !isOneOf(silentElements, svgName);
 }
 
 IwbPage SvgPageBuilder::build(const QDomElement &page)
@@ -133,7 +132,7 @@ void SvgPageBuilder::children(const QDomElement &holder, const Place &place)
 void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
 {
     const QString name = svgName(element);
-    if (isSilent(name)) {
+    if (isOneOf(silentElements, name)) {
         return;
     }
     const auto conversion = conversions().constFind(name);
@@ -145,6 +144,25 @@ void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
     place.style = outer.style.child(element, nativeTransform(element), remarkAbout(element));
     if (!takeBackground(element, name, place.style)) {
         (this->*conversion.value())(element, place);
+    }
+    remarkOnExtras(element, name);
+}
+
+// What elements may have about them that shows something or acts, and that no item has.
+void SvgPageBuilder::remarkOnExtras(const QDomElement &element, const QString &name)
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QString attribute = attributes.item(i).nodeName();
+        if (attribute.startsWith(QLatin1String("on"))) {
+            remark(element, QLatin1String("the script of ") + attribute + QLatin1String(" is left out"));
+        }
+    }
+    if (isOneOf(holders, name)) {
+        return;
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        remark(element, QLatin1Char('<') + child.tagName() + QLatin1String("> within it is left out"));
     }
 }
 
@@ -296,7 +314,11 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
 
 void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
 {
-    outline(element, place, pairs(svgNumbers(element.attribute(QStringLiteral("points")))), true);
+    const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
+    if (numbers.size() % 2 == 1) {
+        remark(element, QStringLiteral("its last point has no y and is left out"));
+    }
+    outline(element, place, pairs(numbers), true);
 }
 
 void SvgPageBuilder::path(const QDomElement &element, const Place &place)
@@ -325,6 +347,12 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
     }
     if (isClosed && points.first() != points.last()) {
         points.append(points.first());
+    }
+    for (const char *marker : {"marker-start", "marker-end"}) {
+        const QString value = place.style.property(QLatin1String(marker));
+        if (!value.isEmpty() && value != QLatin1String("none")) {
+            remark(source, QLatin1String(marker) + QLatin1String(" is left out"));
+        }
     }
     const SvgPaint paint = svgPaint(place.style, m_rules.isNative, remarkAbout(source));
     if (points.size() == 3 && (!m_rules.isNative || paint.fill.alpha() > 0)) {

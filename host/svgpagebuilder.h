@@ -32,6 +32,7 @@ private:
 
     void children(const QDomElement &holder, const Place &place);
     void convert(const QDomElement &element, const Place &outer);
+    void remarkOnExtras(const QDomElement &element, const QString &name);
 
     void group(const QDomElement &element, const Place &place);
     void nestedSvg(const QDomElement &element, const Place &place);

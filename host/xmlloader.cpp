@@ -49,10 +49,13 @@ public:
             }
         }
         if (m_reader.hasError()) {
-            throw LessonError(QStringLiteral("This is not well-formed XML: %1 (column %2)")
-                                  .arg(m_reader.errorString())
-                                  .arg(m_reader.columnNumber()),
-                              QStringLiteral("Check that the file is complete"))
+            QString reason = m_reader.errorString();
+            while (reason.endsWith(QLatin1Char('.'))) {
+                reason.chop(1);
+            }
+            throw LessonError(
+                QStringLiteral("This is not well-formed XML: %1 (column %2)").arg(reason).arg(m_reader.columnNumber()),
+                QStringLiteral("Check that the file is complete"))
                 .in(m_name, line());
         }
         return m_document;

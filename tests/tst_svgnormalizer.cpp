@@ -241,6 +241,15 @@ private slots:
                               << "svg:g : clip-path is left out";
         QTest::newRow("transform") << "<svg:rect width='1' height='1' transform='bend(3)'/>"
                                    << "svg:rect : transform \"bend(3)\"";
+        QTest::newRow("title") << "<svg:title>Fractions</svg:title>"
+                               << "svg:title : lessons have nothing like it";
+        QTest::newRow("tip of a shape") << "<svg:rect id='r' width='1' height='1'><svg:title>One</svg:title></svg:rect>"
+                                        << "svg:rect r: <svg:title> within it is left out";
+        QTest::newRow("script") << "<svg:circle r='1' onclick='next()'/>"
+                                << "svg:circle : the script of onclick is left out";
+        QTest::newRow("arrow of a polyline")
+            << "<svg:g marker-end='url(#m)'><svg:polygon points='1 2 3 4 5 6'/></svg:g>"
+            << "svg:polygon : marker-end is left out";
         QTest::newRow("no size") << "<svg:rect width='0' height='4'/>"
                                  << "svg:rect : it has no size";
     }
