@@ -1,9 +1,9 @@
 #include "rendering.h"
 
-#include "comparison.h"
 #include "lessonerror.h"
 #include "lossreport.h"
 #include "packagetarget.h"
+#include "slidedifference.h"
 #include "slidepictures.h"
 
 #include <QFile>
@@ -235,24 +235,6 @@ QString titleOf(const QJsonObject &presentation)
     return title.isEmpty() ? QStringLiteral("Lesson") : title;
 }
 
-QByteArray lossesAsHtml(const LossReport &losses, int from)
-{
-    QString html;
-    for (int i = from; i < losses.entries().size(); ++i) {
-        const Loss &loss = losses.entries().at(i);
-        const QStringList words{loss.itemType, loss.itemId, loss.key, loss.detail};
-        html += QLatin1String("<li>");
-        for (const QString &word : words) {
-            html += word.left(200).toHtmlEscaped() + QLatin1Char(' ');
-        }
-        html += QLatin1String("</li>\n");
-    }
-    return html.isEmpty() ? QByteArray("<p class=\"none\">Nothing is lost.</p>\n")
-                          : "<details class=\"losses\"><summary>The second lacks, or has otherwise: "
-            + QByteArray::number(losses.entries().size() - from) + " values</summary>\n<ul>" + html.toUtf8()
-            + "</ul></details>\n";
-}
-
 } // namespace
 
 QSize sizeFromText(const QString &text)
@@ -343,11 +325,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         if (slide < first.slideCount()) {
             const LessonSlide given = first.slide(slide);
             const LessonSlide found = slide < second.slideCount() ? second.slide(slide) : LessonSlide();
-            const int before = losses.entries().size();
-            const Comparison comparison(&losses, slide + 1);
-            comparison.compareProperties(QStringLiteral("slide"), given.properties, found.properties);
-            comparison.compareItems(given.items, found.items);
-            html.addHtml(lossesAsHtml(losses, before));
+            html.addHtml(slideDifference(given, found, slide + 1, losses));
         }
         progress(i + 1, slides.size());
     }
