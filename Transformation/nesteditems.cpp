@@ -1,5 +1,7 @@
 #include "nesteditems.h"
 
+#include "xmlplaces.h"
+
 #include <QJsonArray>
 #include <QVector>
 
@@ -69,6 +71,7 @@ void NestedItems::read(const QDomElement &owner, const QDomElement &first, QJson
         runningConversion->inner = Level{first, {}, context, &form, {}};
         return;
     }
+    const NestedSearches searches;
     QVector<Level> levels{{first, json, context, &form, {}}};
     // The owner's object is held by its level alone, so that children go in without a copy.
     json = {};

@@ -2,6 +2,8 @@
 
 #include "domhelpers.h"
 
+#include <algorithm>
+
 namespace {
 
 const QLatin1String propertiesTag("properties");
@@ -46,6 +48,79 @@ void RawPlaces::findDescendants()
         }
         return true;
     });
+}
+
+thread_local NestedSearches *NestedSearches::s_current = nullptr;
+
+NestedSearches::NestedSearches()
+    : m_outer(s_current)
+{
+    s_current = this;
+}
+
+NestedSearches::~NestedSearches()
+{
+    s_current = m_outer;
+}
+
+QDomElement NestedSearches::descendant(const QDomElement &holder, const QString &tag)
+{
+    if (!s_current || holder.isNull()) {
+        return descendantByTag(holder, tag);
+    }
+    const QDomNode item = holder.parentNode();
+    const Search *around = s_current->searchAround(item, tag);
+    if (!around) {
+        return newSearch(holder, tag);
+    }
+    const QVector<QDomElement> way = around->way;
+    const int start = around->start;
+    if (way.isEmpty()) {
+        s_current->m_searches.append({holder, tag, way, 0});
+        return {};
+    }
+    // The way leads through this holder, beside it, or past the item.
+    if (way.size() > start + 2 && way.at(start) == item && way.at(start + 1) == holder) {
+        s_current->m_searches.append({holder, tag, way, start + 2});
+        return way.last();
+    }
+    return newSearch(holder, tag);
+}
+
+QDomElement NestedSearches::newSearch(const QDomElement &holder, const QString &tag)
+{
+    const QDomElement found = descendantByTag(holder, tag);
+    if (found.parentNode() == holder) {
+        return found;
+    }
+    Search search{holder, tag, {}, 0};
+    for (QDomNode node = found; !node.isNull() && node != holder; node = node.parentNode()) {
+        search.way.append(node.toElement());
+    }
+    std::reverse(search.way.begin(), search.way.end());
+    s_current->m_searches.append(search);
+    return found;
+}
+
+// The search for the tag in the element that the item lies in. Forgets the searches in items that are done with.
+const NestedSearches::Search *NestedSearches::searchAround(const QDomNode &item, const QString &tag)
+{
+    const QDomNode outerHolder = item.parentNode();
+    const QDomNode outerItem = outerHolder.parentNode();
+    const auto isIn = [](const Search &search, const QDomNode &owner) { return search.holder.parentNode() == owner; };
+    while (!m_searches.isEmpty() && !isIn(m_searches.last(), item) && !isIn(m_searches.last(), outerItem)) {
+        m_searches.removeLast();
+    }
+    for (int i = m_searches.size() - 1; i >= 0; --i) {
+        const Search &search = m_searches.at(i);
+        if (search.holder == outerHolder && search.tag == tag) {
+            return &search;
+        }
+        if (!isIn(search, item) && !isIn(search, outerItem)) {
+            break;
+        }
+    }
+    return nullptr;
 }
 
 TxPlaces::TxPlaces(const QDomElement &element)
@@ -96,7 +171,7 @@ QDomElement TxPlaces::inner(const QString &childTag, const QString &tag)
             return inner.element;
         }
     }
-    m_inners.append({childTag, tag, descendantByTag(child(childTag, true), tag)});
+    m_inners.append({childTag, tag, NestedSearches::descendant(child(childTag, true), tag)});
     return m_inners.last().element;
 }
 

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVarLengthArray>
+#include <QVector>
 
 #include <optional>
 
@@ -36,6 +37,41 @@ private:
     QDomElement m_element;
     QHash<QString, QDomElement> m_descendants; //!< the first of each tag
     bool m_descendantsFound = false;
+};
+
+/*!
+ * While one lives, what a search within an item has found serves the searches within the items that lie in it, so that
+ * the cost of items within items grows with their number and not with each level anew. For a walk that converts them
+ * from the outside in, and changes no item before all that lies around it is read.
+ */
+class NestedSearches
+{
+public:
+    NestedSearches();
+    ~NestedSearches();
+    NestedSearches(const NestedSearches &) = delete;
+    NestedSearches &operator=(const NestedSearches &) = delete;
+
+    //! The first element with this tag in document order at any depth below the child element holder of an item.
+    static QDomElement descendant(const QDomElement &holder, const QString &tag);
+
+private:
+    // A search that had to go below the children of its holder.
+    struct Search
+    {
+        QDomElement holder;
+        QString tag;
+        QVector<QDomElement> way; //!< from a child of the first holder down to the element found; empty if none was
+        int start; //!< where the way begins for this holder
+    };
+
+    static QDomElement newSearch(const QDomElement &holder, const QString &tag);
+    const Search *searchAround(const QDomNode &item, const QString &tag);
+
+    static thread_local NestedSearches *s_current;
+
+    QVector<Search> m_searches; //!< of the items that are open, from the outside in
+    NestedSearches *m_outer;
 };
 
 /*!
