@@ -319,7 +319,7 @@ int BatchResult::lessonsWithLosses() const
         std::count_if(lessons.cbegin(), lessons.cend(), [](const Lesson &lesson) { return lesson.lossCount() > 0; }));
 }
 
-QString BatchResult::summary(const BatchPlan &plan) const
+QString BatchResult::summary(const BatchPlan &plan, bool hasReport) const
 {
     QStringList parts{counted(count(Converted), "converted")};
     for (const auto &[state, what] :
@@ -331,9 +331,10 @@ QString BatchResult::summary(const BatchPlan &plan) const
     QString text = counted(lessons.size(), lessons.size() == 1 ? "lesson: " : "lessons: ")
         + parts.join(QLatin1String(", ")) + QLatin1String(".\n");
     if (const int concerned = lessonsWithLosses()) {
-        text += QStringLiteral("%1 lost something, %2 in all; --report FILE names each.\n")
+        text += QStringLiteral("%1 lost something, %2 in all; %3 names each.\n")
                     .arg(counted(concerned, concerned == 1 ? "lesson" : "lessons"),
-                         counted(lossCount(), lossCount() == 1 ? "value, item or file" : "values, items or files"));
+                         counted(lossCount(), lossCount() == 1 ? "value, item or file" : "values, items or files"),
+                         hasReport ? QStringLiteral("the report") : QStringLiteral("--report FILE"));
     }
     if (!plan.passedOver.isEmpty()) {
         text += plan.passedOver.size() == 1

@@ -41,7 +41,7 @@ struct BatchResult
     int lessonsWithLosses() const;
 
     //! "12 lessons: 10 converted, 1 done before, 1 not converted." and what was lost, as sentences.
-    QString summary(const BatchPlan &plan) const;
+    QString summary(const BatchPlan &plan, bool hasReport) const;
 
     //! {"lessons": [{"input", "output", "state", "losses", "message"}], "counts", "passedOver", "interrupted"}
     QJsonObject toJson(const BatchPlan &plan) const;

@@ -327,7 +327,7 @@ int Command::convertMany(const QStringList &inputs) const
     if (isSet("json")) {
         printJson(result.toJson(plan));
     } else if (!isSet("quiet")) {
-        print(result.summary(plan));
+        print(result.summary(plan, isSet("report")));
     }
     if (result.isInterrupted || result.count(BatchResult::Failed) > 0) {
         return NotDone;

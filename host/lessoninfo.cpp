@@ -2,6 +2,7 @@
 
 #include "modelforms.h"
 #include "packagenames.h"
+#include "plainnames.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -156,6 +157,20 @@ QString countLines(const QMap<QString, int> &counts)
     return text;
 }
 
+// With what a teacher calls the types.
+QString itemLines(const QMap<QString, int> &counts)
+{
+    int width = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        width = qMax(width, it.key().size());
+    }
+    QString text;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        text += QStringLiteral("%1  %2  %3\n").arg(it.value(), 6).arg(it.key(), -width).arg(plainName(it.key()));
+    }
+    return text;
+}
+
 QJsonObject countObject(const QMap<QString, int> &counts)
 {
     QJsonObject object;
@@ -202,7 +217,7 @@ QString LessonInfo::toText() const
     if (!missingFiles.isEmpty()) {
         text += line(QStringLiteral("Missing files"), missingFiles.join(QLatin1String(", ")));
     }
-    text += line(QStringLiteral("Items"), QString::number(itemCount())) + countLines(items);
+    text += line(QStringLiteral("Items"), QString::number(itemCount())) + itemLines(items);
     if (!unknownItems.isEmpty()) {
         text += line(QStringLiteral("Unknown items"), QString::number(sum(unknownItems))) + countLines(unknownItems);
     }
