@@ -20,6 +20,8 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/ZQTransformationConfigVersi
 install(FILES ${CMAKE_BINARY_DIR}/ZQTransformationConfig.cmake ${CMAKE_BINARY_DIR}/ZQTransformationConfigVersion.cmake
     DESTINATION ${PACKAGE_FOLDER})
 
+# Installed to any prefix, it tells where it is.
+file(RELATIVE_PATH PREFIX_FROM_PKGCONFIG /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(cmake/zqtransformation.pc.in ${CMAKE_BINARY_DIR}/zqtransformation.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/zqtransformation.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 

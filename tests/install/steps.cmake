@@ -9,6 +9,19 @@ function(step)
     set(output "${output}" PARENT_SCOPE)
 endfunction()
 
+# pkg-config, where there is one, tells the place of the plug-in that was installed.
+function(check_pkg_config root)
+    find_program(PKG_CONFIG pkg-config)
+    if(PKG_CONFIG)
+        set(ENV{PKG_CONFIG_PATH} ${root}/${PLUGIN_FOLDER}/../../../pkgconfig)
+        step(${PKG_CONFIG} --variable=plugin zqtransformation)
+        string(STRIP "${output}" plugin)
+        if(NOT EXISTS ${plugin})
+            message(FATAL_ERROR "pkg-config says that the plug-in is ${plugin}")
+        endif()
+    endif()
+endfunction()
+
 function(check_is_installed root)
     foreach(file ${PLUGIN_FOLDER}/libzqtransformation.so bin/lessonconv share/man/man1/lessonconv.1
             share/bash-completion/completions/lessonconv)
@@ -16,6 +29,7 @@ function(check_is_installed root)
             message(FATAL_ERROR "${file} was not installed")
         endif()
     endforeach()
+    check_pkg_config(${root})
 endfunction()
 
 # Builds the example hosts against what is installed in root and runs them.
