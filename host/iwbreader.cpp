@@ -16,6 +16,19 @@ const QLatin1String packageFolder("/package");
 const QLatin1String libraryFolder("/filelibrary");
 const QLatin1String idKey("ID");
 
+// The identifier, or one made of it that no item before has. used counts the ones made of each.
+QString uniqueId(const QString &wanted, QHash<QString, int> &used)
+{
+    QString id = wanted;
+    int number = used.value(wanted, 0);
+    while (used.contains(id)) {
+        id = wanted + QLatin1Char('_') + QString::number(++number + 1);
+    }
+    used.insert(wanted, number);
+    used.insert(id, used.value(id, 0));
+    return id;
+}
+
 } // namespace
 
 IwbReader::IwbReader(const QString &path, const LessonContext &context)
@@ -60,7 +73,7 @@ LessonSlide IwbReader::slide(int index)
     }
     LessonSlide slide;
     slide.properties = readProperties(page);
-    QSet<QString> usedIds;
+    QHash<QString, int> usedIds;
     for (const IwbElement &element : qAsConst(page.items)) {
         const QJsonObject item = readItem(element, usedIds);
         if (!item.isEmpty()) {
@@ -116,7 +129,7 @@ QString IwbReader::backgroundPicture(const IwbPage &page)
     return resource;
 }
 
-QJsonObject IwbReader::readItem(IwbElement item, QSet<QString> &usedIds)
+QJsonObject IwbReader::readItem(IwbElement item, QHash<QString, int> &usedIds)
 {
     const QString tag = item.element.tagName();
     const bool isMedia =
@@ -140,12 +153,8 @@ QJsonObject IwbReader::readItem(IwbElement item, QSet<QString> &usedIds)
             json.insert(QLatin1String("resource"), resource);
         }
     }
-    QString id = item.id.isEmpty() ? QStringLiteral("item%1_%2").arg(m_slide).arg(usedIds.size() + 1) : item.id;
-    while (usedIds.contains(id)) {
-        id += QLatin1Char('_');
-    }
-    usedIds.insert(id);
-    json.insert(idKey, id);
+    const QString id = item.id.isEmpty() ? QStringLiteral("item%1_%2").arg(m_slide).arg(usedIds.size() + 1) : item.id;
+    json.insert(idKey, uniqueId(id, usedIds));
     readLink(item, json);
     return json;
 }

@@ -26,7 +26,7 @@ public:
 private:
     QJsonObject readProperties(IwbPage &page);
     QString backgroundPicture(const IwbPage &page);
-    QJsonObject readItem(IwbElement item, QSet<QString> &usedIds);
+    QJsonObject readItem(IwbElement item, QHash<QString, int> &usedIds);
     QString mediaFile(const IwbElement &item);
     void readLink(const IwbElement &item, QJsonObject &json);
     void report(Loss::Kind kind, const QString &type, const QString &id, const QString &key, const QString &detail);

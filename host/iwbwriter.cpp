@@ -175,7 +175,10 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
     for (const QString &reference : qAsConst(references)) {
         const QString source = m_files.find(reference);
         if (source.isEmpty()) {
-            report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("the lesson has no such file"));
+            const bool isPaper = reference.startsWith(QLatin1String("ID_SLIDE_NOTEBOOK_"));
+            report(Loss::File, QStringLiteral("slide"), reference,
+                   isPaper ? QStringLiteral("it is a paper of the editor, not a file of the lesson")
+                           : QStringLiteral("the lesson has no such file"));
             continue;
         }
         if (!chosen.isEmpty()) {
