@@ -156,7 +156,7 @@ class ShapePlacer
 {
 public:
     ShapePlacer(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)
-        : m_item(item)
+        : m_item(withImplied(item, form))
         , m_form(form)
         , m_plugin(plugin)
     {
@@ -324,7 +324,7 @@ private:
         set(controlKey, pointsText(withoutRepeatedEnd(matrix.map(QPolygonF(own)))));
     }
 
-    const QJsonObject &m_item;
+    const QJsonObject m_item;
     const ShapeForm &m_form;
     IZQTransformation *m_plugin;
     PlacedShape m_result;
@@ -386,7 +386,7 @@ double itemScale(const QJsonObject &item)
 
 QPolygonF shapePoints(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)
 {
-    return ownPoints(item, form, plugin);
+    return ownPoints(withImplied(item, form), form, plugin);
 }
 
 QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, IZQTransformation *plugin)
@@ -396,7 +396,7 @@ QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, IZQTransforma
         const QPointF corner(radii.width(), radii.height());
         return QRectF(-corner, corner);
     }
-    const QPolygonF points = ownPoints(item, form, plugin);
+    const QPolygonF points = shapePoints(item, form, plugin);
     if (form.outline == ShapeForm::Rectangle && points.size() < 2) {
         return boxOf(item).value_or(QRectF());
     }

@@ -7,25 +7,30 @@
 namespace {
 
 constexpr ShapeForm forms[] = {
-    {"ZQMath2DSegment", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style"},
-    {"ZQMath2DSegmentWith1Arrow", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style"},
-    {"ZQMath2DSegmentWith2Arrow", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style"},
-    {"ZQMath2DGeoSegment", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style"},
-    {"ZQMath2DAngle", ShapeForm::Angle, "LineColor", false, nullptr, "ArtObj_Mode"},
-    {"ZQMath2DPolyline", ShapeForm::Polyline, "ArtObj_Color", false, "ArtObj_FillColor", "ArtObj_Mode"},
-    {"ZQMath2DTriangle", ShapeForm::Polygon, "LineColor", true, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DQuadrangle", ShapeForm::Polygon, "LineColor", true, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DGeoTriangle", ShapeForm::Polygon, "ArtObj_Color1", true, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DParallelogram", ShapeForm::Derived, "LineColor", true, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DNormalTrilateral", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DNormalQuadrilateral", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DNormalPentagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DNormalHexagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DNormalHeptagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DNormalOctagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DCircle", ShapeForm::Circle, "LineColor", true, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DEllipse", ShapeForm::Ellipse, "LineColor", true, "ArtObj_Color", "ArtObj_Mode"},
-    {"ZQMath2DRectangle", ShapeForm::Rectangle, "LineColor", true, "ArtObj_Color", "ArtObj_Mode"},
+    {"ZQMath2DSegment", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style", nullptr, nullptr},
+    {"ZQMath2DSegmentWith1Arrow", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style",
+     "ArtObj_ArrowType", "1"},
+    {"ZQMath2DSegmentWith2Arrow", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style",
+     "ArtObj_ArrowType", "2"},
+    {"ZQMath2DGeoSegment", ShapeForm::Segment, "ArtObj_Color1", false, nullptr, "ArtObj_Style", nullptr, nullptr},
+    {"ZQMath2DAngle", ShapeForm::Angle, "LineColor", false, nullptr, "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DPolyline", ShapeForm::Polyline, "ArtObj_Color", false, "ArtObj_FillColor", "ArtObj_Mode", nullptr,
+     nullptr},
+    {"ZQMath2DTriangle", ShapeForm::Polygon, "LineColor", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DQuadrangle", ShapeForm::Polygon, "LineColor", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DGeoTriangle", ShapeForm::Polygon, "ArtObj_Color1", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DParallelogram", ShapeForm::Derived, "LineColor", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DNormalTrilateral", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode", "ArtObj_Ln",
+     "3"},
+    {"ZQMath2DNormalQuadrilateral", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode", "ArtObj_Ln",
+     "4"},
+    {"ZQMath2DNormalPentagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode", "ArtObj_Ln", "5"},
+    {"ZQMath2DNormalHexagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode", "ArtObj_Ln", "6"},
+    {"ZQMath2DNormalHeptagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode", "ArtObj_Ln", "7"},
+    {"ZQMath2DNormalOctagon", ShapeForm::Derived, "LineColor", false, "ArtObj_Color", "ArtObj_Mode", "ArtObj_Ln", "8"},
+    {"ZQMath2DCircle", ShapeForm::Circle, "LineColor", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DEllipse", ShapeForm::Ellipse, "LineColor", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
+    {"ZQMath2DRectangle", ShapeForm::Rectangle, "LineColor", true, "ArtObj_Color", "ArtObj_Mode", nullptr, nullptr},
 };
 
 } // namespace
@@ -40,6 +45,14 @@ const ShapeForm *shapeForm(const QString &type)
         return rows;
     }();
     return table.value(type);
+}
+
+QJsonObject withImplied(QJsonObject item, const ShapeForm &form)
+{
+    if (form.impliedKey && !item.contains(QLatin1String(form.impliedKey))) {
+        item.insert(QLatin1String(form.impliedKey), QLatin1String(form.implied));
+    }
+    return item;
 }
 
 QJsonObject withoutDoubledWidth(QJsonObject item)

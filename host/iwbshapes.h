@@ -34,10 +34,15 @@ struct ShapeForm
     bool cutsLine; //!< the first four characters of the line's colour are cut off on the way out
     const char *fillKey; //!< null for lines
     const char *dashKey;
+    const char *impliedKey; //!< a key that the type itself answers where an item doesn't have it; may be null
+    const char *implied; //!< its value
 };
 
 //! The form of an item type, or null for types that aren't drawn.
 const ShapeForm *shapeForm(const QString &type);
+
+//! The item with what its type implies: corners of regular polygons, arrows of segments.
+QJsonObject withImplied(QJsonObject item, const ShapeForm &form);
 
 //! A raw segment without the Width that only says its ArtObj_Width once more.
 QJsonObject withoutDoubledWidth(QJsonObject item);

@@ -323,8 +323,7 @@ private slots:
         row("a line of 51/255 around an opaque fill",
             "'Type':'ZQMath2DCircle','LineColor':'51,7,8,9','ArtObj_Color':'255,1,2,3'",
             "rgb(7,8,9)|2|0.2||rgb(1,2,3)|1");
-        row("no line at all",
-            "'Type':'ZQMath2DNormalHexagon','ArtObj_Ln':'6','LineColor':'0,7,8,9','ArtObj_Color':'1,2,3'",
+        row("no line at all", "'Type':'ZQMath2DNormalHexagon','LineColor':'0,7,8,9','ArtObj_Color':'1,2,3'",
             "none|2|255||rgb(1,2,3)|");
         // 10 x 3, 2 x 3, 2 x 3, 2 x 3; 5 x 3, 5 x 3; 10 x 3, 2 x 3, 10 x 3.
         row("dash dot dot", "'Type':'ZQMath2DSegment','ArtObj_Style':'1','ArtObj_Width':'3'",
@@ -357,6 +356,32 @@ private slots:
         }
         QCOMPARE(values.join(QLatin1Char('|')), expected);
         QCOMPARE(driftOf(json), QString());
+    }
+
+    void arrowsFollowTheType_data()
+    {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<QString>("ends");
+        QTest::newRow("none") << QByteArray("'Type':'ZQMath2DSegment'") << "circle circle";
+        QTest::newRow("one") << QByteArray("'Type':'ZQMath2DSegmentWith1Arrow'") << "arrow ";
+        QTest::newRow("two") << QByteArray("'Type':'ZQMath2DSegmentWith2Arrow'") << "arrow arrow";
+        QTest::newRow("the item says otherwise")
+            << QByteArray("'Type':'ZQMath2DSegmentWith2Arrow','ArtObj_ArrowType':'1'") << "arrow ";
+    }
+
+    void arrowsFollowTheType()
+    {
+        QFETCH(QByteArray, item);
+        QFETCH(QString, ends);
+        QTemporaryDir work;
+        write(work.filePath(QStringLiteral("in.json")), oneItemLesson(item));
+        const QString package = work.filePath(QStringLiteral("out"));
+        convert(work.filePath(QStringLiteral("in.json")), package, "iwb");
+        const QDomElement line =
+            byId(load(package + QLatin1String("/content.xml")).documentElement(), QStringLiteral("i"));
+        QCOMPARE(line.attribute(QStringLiteral("stroke-lineshape-start")) + QLatin1Char(' ')
+                     + line.attribute(QStringLiteral("stroke-lineshape-end")),
+                 ends);
     }
 
     void textsComeBack_data()
