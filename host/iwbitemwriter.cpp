@@ -1,6 +1,7 @@
 #include "iwbitemwriter.h"
 
 #include "izqtransformation.h"
+#include "lessonerror.h"
 #include "lossreport.h"
 #include "pictures.h"
 #include "svgstyle.h"
@@ -459,8 +460,9 @@ QString IwbItemWriter::linkedFile(const QJsonObject &item, const QString &refere
     }
     const QString path =
         m_setting.linkFolder + QLatin1Char('/') + m_setting.files->nameIn(QStringLiteral("additional"), source);
-    if (!QFile::exists(path) && !QFile::link(source, path)) {
-        QFile::copy(source, path);
+    if (!QFile::exists(path) && !QFile::link(source, path) && !QFile::copy(source, path)) {
+        throw LessonError(QStringLiteral("The file %1 can't be put into the package").arg(reference),
+                          QStringLiteral("Make room in the folder for temporary files"));
     }
     return path;
 }

@@ -194,10 +194,13 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
         const QString file = m_work.path() + libraryFolder + QLatin1Char('/') + name;
         QFile::remove(file);
         const bool isPng = QImageReader(source).format() == "png";
-        if (isPng ? QFile::copy(source, file) : QImage(source).save(file, "png")) {
+        const QImage picture = isPng ? QImage() : QImage(source);
+        if (!isPng && picture.isNull()) {
+            report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("it can't be made a PNG picture"));
+        } else if (isPng ? QFile::copy(source, file) : picture.save(file, "png")) {
             chosen = name;
         } else {
-            report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("it can't be made a PNG picture"));
+            failToPlace(reference);
         }
     }
     return chosen;
@@ -230,17 +233,37 @@ void IwbWriter::finish()
     }
 }
 
+void IwbWriter::failToPlace(const QString &file) const
+{
+    throw LessonError(QStringLiteral("The file %1 can't be put into the package").arg(file),
+                      QStringLiteral("Check that there is room"))
+        .in(m_target.target());
+}
+
+// The plug-in says nothing of a file that it couldn't copy.
+void IwbWriter::checkMedia(const QDomElement &element, const QDir &folder) const
+{
+    const QString reference = element.attribute(QStringLiteral("xlink:href"));
+    const bool isInPackage = reference.contains(QLatin1Char('/')) && !reference.contains(QLatin1Char(':'))
+        && !reference.startsWith(QLatin1Char('#'));
+    if (isInPackage && !folder.exists(reference)) {
+        failToPlace(reference);
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        checkMedia(child, folder);
+    }
+}
+
 void IwbWriter::moveMedia()
 {
     const QDir folder(m_work.path() + exportFolder);
+    checkMedia(m_document.documentElement(), folder);
     QDirIterator it(folder.path(), QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString file = it.next();
         const QString place = m_target.makeFile(folder.relativeFilePath(file));
         if (!QFile::rename(file, place)) {
-            throw LessonError(QStringLiteral("The file %1 can't be put into the package").arg(it.fileName()),
-                              QStringLiteral("Check that there is room"))
-                .in(m_target.target());
+            failToPlace(it.fileName());
         }
         QFile::setPermissions(place, QFile::permissions(place) | QFileDevice::WriteOwner);
     }

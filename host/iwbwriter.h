@@ -6,6 +6,7 @@
 #include "lossreport.h"
 #include "packagetarget.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 /*!
@@ -29,6 +30,8 @@ private:
     void reportUncarried(const QJsonObject &properties, const QString &type, const QStringList &carried);
     void report(Loss::Kind kind, const QString &type, const QString &key, const QString &detail);
     void reportTotals();
+    [[noreturn]] void failToPlace(const QString &file) const;
+    void checkMedia(const QDomElement &element, const QDir &folder) const;
     void moveMedia();
 
     LessonContext m_context;
