@@ -14,7 +14,58 @@
 #include <cstring>
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+/*!
+ * A lock file that the system gives up when its process ends, at whatever moment that is. Who holds it removes it.
+ */
+class StagingLock
+{
+public:
+    enum Kind { Own, Left }; //!< a new one, or one that is there and whose run may be no more
+
+    StagingLock(const QString &file, Kind kind)
+        : m_file(QFile::encodeName(file))
+        , m_descriptor(::open(m_file.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | (kind == Own ? O_CREAT : 0), 0666))
+    {
+        if (m_descriptor < 0) {
+            return;
+        }
+        // Where the file system knows no locks, a run may go on, and nothing is swept.
+        const bool isLocked = ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || (kind == Own && errno != EWOULDBLOCK);
+        m_isHeld = isLocked && isStillThere();
+    }
+
+    ~StagingLock()
+    {
+        if (m_isHeld) {
+            ::unlink(m_file.constData());
+        }
+        if (m_descriptor >= 0) {
+            ::close(m_descriptor);
+        }
+    }
+    StagingLock(const StagingLock &) = delete;
+    StagingLock &operator=(const StagingLock &) = delete;
+
+    bool isHeld() const { return m_isHeld; }
+
+private:
+    // A sweep may have removed it between the two steps.
+    bool isStillThere() const
+    {
+        struct stat opened = {};
+        struct stat there = {};
+        return ::fstat(m_descriptor, &opened) == 0 && ::stat(m_file.constData(), &there) == 0
+            && opened.st_ino == there.st_ino && opened.st_dev == there.st_dev;
+    }
+
+    QByteArray m_file;
+    int m_descriptor;
+    bool m_isHeld = false;
+};
 
 namespace {
 
@@ -84,9 +135,8 @@ void PackageTarget::sweep(const QString &folder)
                                                      QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QString &name : locks) {
         const QString lockPath = folder + QLatin1Char('/') + name;
-        QLockFile lock(lockPath);
-        lock.setStaleLockTime(0);
-        if (lock.tryLock(0)) {
+        const StagingLock lock(lockPath, StagingLock::Left);
+        if (lock.isHeld()) {
             const QString staging = lockPath.chopped(lockSuffix.size());
             restoreReplaced(staging, folder);
             QDir(staging).removeRecursively();
@@ -108,9 +158,8 @@ PackageTarget::PackageTarget(const QString &target)
     sweep(parent.filePath());
     m_staging = parent.filePath() + QLatin1Char('/') + stagingPrefix
         + QString::number(QRandomGenerator::system()->generate64(), 36);
-    m_lock = std::make_unique<QLockFile>(m_staging + lockSuffix);
-    m_lock->setStaleLockTime(0);
-    if (!m_lock->tryLock(0) || !QDir().mkpath(directory())) {
+    m_lock = std::make_unique<StagingLock>(m_staging + lockSuffix, StagingLock::Own);
+    if (!m_lock->isHeld() || !QDir().mkpath(directory())) {
         throw LessonError(QStringLiteral("Nothing can be written in this folder"),
                           QStringLiteral("Check that you may write there and that there is room"))
             .in(parent.filePath());

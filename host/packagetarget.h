@@ -1,12 +1,13 @@
 #ifndef PACKAGETARGET_H
 #define PACKAGETARGET_H
 
-#include <QLockFile>
 #include <QSet>
 #include <QString>
 
 #include <functional>
 #include <memory>
+
+class StagingLock;
 
 /*!
  * A file or package being written: a staging folder beside the target, put in the target's place at the end.
@@ -52,7 +53,7 @@ private:
     QString m_shownTarget;
     QString m_target; // absolute, links resolved
     QString m_staging;
-    std::unique_ptr<QLockFile> m_lock; // held while the staging folder is in use
+    std::unique_ptr<StagingLock> m_lock; // held while the staging folder is in use
     QSet<QString> m_paths;
 };
 
