@@ -10,6 +10,29 @@
 
 namespace {
 
+// True if a tag of the text has more attributes than are let through. The quotes are counted in the bytes: in each
+// encoding that XML comes in they are these bytes, and what else may be is too rare to come up to the limit.
+bool hasTooManyAttributes(const QByteArray &text)
+{
+    int quotes = 0;
+    bool isInTag = false;
+    char quote = 0;
+    for (const char c : text) {
+        if (quote) {
+            quote = c == quote ? 0 : quote;
+        } else if (c == '<' || c == '>') {
+            isInTag = c == '<';
+            quotes = 0;
+        } else if (isInTag && (c == '"' || c == '\'')) {
+            quote = c;
+            if (++quotes > maximumXmlAttributes) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 /*!
  * Builds the DOM from a stream, so that the text is looked through once and everything that is refused is refused
  * before a node is made for it.
@@ -123,6 +146,11 @@ private:
 
 QDomDocument loadXml(const QByteArray &text, const QString &displayName)
 {
+    if (hasTooManyAttributes(text)) {
+        throw LessonError(QStringLiteral("An element has more than %1 attributes").arg(maximumXmlAttributes),
+                          QStringLiteral("Check that this is a lesson"))
+            .in(displayName);
+    }
     return DocumentBuilder(text, displayName).build();
 }
 

@@ -10,8 +10,12 @@ constexpr int maximumXmlDepth = 512;
 //! Larger XML files are refused, in bytes.
 constexpr qint64 maximumXmlSize = 256 * 1024 * 1024;
 
+//! So are elements with more attributes: telling whether two have the same name takes time for each pair of them.
+constexpr int maximumXmlAttributes = 10000;
+
 //! The document in an XML file, without namespace processing. The text is checked before a DOM is built: well-formed,
-//! no document type, not too deep, not too large. Throws LessonError with file and line. displayName stands for the
+//! no document type, not too deep, not too large, not too
+//! many attributes. Throws LessonError with file and line. displayName stands for the
 //! file in messages; if empty, fileName does.
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName = {});
 
