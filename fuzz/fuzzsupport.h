@@ -1,0 +1,81 @@
+#ifndef FUZZSUPPORT_H
+#define FUZZSUPPORT_H
+
+#include "transformationplugin.h"
+#include "zqhtran.h"
+
+#include <QByteArray>
+#include <QDomElement>
+#include <QJsonObject>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+
+// What the fuzz targets share: the plug-in, inputs as a host would let them through, and what must hold for every call.
+
+TransformationPlugin &plugin();
+
+//! A folder for the process alone, in memory where the machine has such a place, with an opened package in "package",
+//! a file library beside it and a folder to export into. Without links, gone with the process.
+QString workFolder();
+
+//! The document of a text, empty if a host wouldn't take it: not well-formed, with a document type, deeper than 512.
+QDomDocument documentOf(const std::uint8_t *data, std::size_t size);
+
+//! The object of a JSON text, empty if it is none.
+QJsonObject parsedObject(const QByteArray &text);
+
+//! The same with the folders that a host fills in, and without the addresses that only a host makes.
+QJsonObject objectOf(const std::uint8_t *data, std::size_t size);
+
+//! A lesson's surroundings of an item: slide, presentation of that version, folder of the package.
+QJsonObject context(const QString &version);
+
+//! Everything below and with the element; attributes in ascending order, without the one left out. Without the drawing
+//! of vector shapes too, which a read takes out of the tree.
+QString treeText(const QDomElement &element, const QString &leftOut = {});
+
+//! Ends the program with the sentence and the two values unless they are the same.
+void mustBeSame(const char *sentence, const QString &one, const QString &other);
+void mustBeSame(const char *sentence, const QJsonObject &one, const QJsonObject &other);
+
+//! Destroys the list of text runs that came with an item.
+void releaseTextRuns(const QJsonObject &item);
+
+/*!
+ * Lives around the calls for one input: they must take less than 2 seconds, 200 times the input and 64 MiB of memory,
+ * and write nowhere but into workFolder().
+ */
+class CallGuard
+{
+public:
+    CallGuard(const char *what, std::size_t inputSize);
+    ~CallGuard();
+    CallGuard(const CallGuard &) = delete;
+    CallGuard &operator=(const CallGuard &) = delete;
+
+private:
+    const char *m_what;
+    std::size_t m_inputSize;
+    double m_start;
+};
+
+//! Calls function under a guard.
+template <typename Function> auto guarded(const char *what, std::size_t inputSize, const Function &function)
+{
+    const CallGuard guard(what, inputSize);
+    return function();
+}
+
+/*!
+ * A translator's key maps, which its class keeps to itself.
+ */
+struct KeyMaps : ZQHTran
+{
+    static const QJsonObject &xml(const ZQHTran &translator) { return translator.*&KeyMaps::xmlKeyMap; }
+    static const QJsonObject &tx(const ZQHTran &translator) { return translator.*&KeyMaps::txKeyMap; }
+    static const QJsonObject &iwb(const ZQHTran &translator) { return translator.*&KeyMaps::iwbKeyMap; }
+};
+
+#endif // FUZZSUPPORT_H

@@ -1,0 +1,177 @@
+#include "domhelpers.h"
+#include "fuzzsupport.h"
+#include "hostsupport.h"
+#include "mutation.h"
+#include "translatorchains.h"
+#include "ziparchive.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonDocument>
+#include <QSet>
+
+#include <cstdio>
+#include <cstdlib>
+
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t *, std::size_t size, std::size_t)
+{
+    return size;
+}
+
+// Makes the seeds of the fuzz targets out of the example lessons and the plug-in's tables:
+// seeds EXAMPLES SEEDS fills the folders SEEDS/<target>.
+
+namespace {
+
+QString seedFolder;
+QSet<QByteArray> written;
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "%s can't be read\n", qPrintable(path));
+        std::exit(1);
+    }
+    return file.readAll();
+}
+
+void put(const char *target, const QByteArray &content)
+{
+    if (content.isEmpty() || written.contains(target + content)) {
+        return;
+    }
+    written.insert(target + content);
+    const QString folder = seedFolder + QLatin1Char('/') + QLatin1String(target);
+    QDir().mkpath(folder);
+    QFile file(folder + QStringLiteral("/%1").arg(written.size(), 5, 10, QLatin1Char('0')));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        std::fprintf(stderr, "%s can't be written\n", qPrintable(file.fileName()));
+        std::exit(1);
+    }
+}
+
+QByteArray textOf(const QDomElement &element)
+{
+    QByteArray text;
+    if (element.isNull()) {
+        return text;
+    }
+    QTextStream stream(&text);
+    stream.setCodec("UTF-8");
+    element.save(stream, -1);
+    stream.flush();
+    return text;
+}
+
+void putObject(const char *target, const QJsonObject &object)
+{
+    if (!object.isEmpty()) {
+        put(target, QJsonDocument(object).toJson(QJsonDocument::Compact));
+    }
+}
+
+// An item and what it becomes on its ways.
+void putItem(const QJsonObject &item)
+{
+    putObject("itemjson2zqtx", item);
+    putObject("itemjson2iwb", item);
+    QDomDocument document;
+    put("itemiwb2json", textOf(plugin().tranItemJSON2IWB(document, item)));
+}
+
+void putElements(const QDomElement &root)
+{
+    forEachDescendant(root, [](const QDomElement &element) {
+        if (createTranslator(element.attribute(QStringLiteral("type")))) {
+            put("itemzqtx2json", textOf(element));
+            putItem(plugin().tranItemZQTX2JSON(element, context(QStringLiteral("3.0"))));
+        } else if (createTranslator(element.nodeName())) {
+            put("itemxml2json", textOf(element));
+            putItem(plugin().tranItemXML2JSON(element, context(QStringLiteral("3.0"))));
+        } else if (element.tagName().startsWith(QLatin1String("svg:"))) {
+            put("itemiwb2json", textOf(element));
+        }
+        return true;
+    });
+}
+
+void putDocument(const QString &path)
+{
+    const QByteArray text = contentOf(path);
+    QDomDocument document;
+    if (!document.setContent(text, false)) {
+        return;
+    }
+    const QDomElement root = document.documentElement();
+    put("slidesandlessons", text);
+    putObject("slidesandlessons", plugin().tranSlideZQTX2JSON(root, {}));
+    putObject("slidesandlessons", plugin().tranPresZQTX2JSON(root, {}));
+    for (QDomElement slide = root.firstChildElement(); !slide.isNull(); slide = slide.nextSiblingElement()) {
+        put("slidesandlessons", textOf(slide));
+        putObject("slidesandlessons", plugin().tranSlideXML2JSON(slide, {}));
+    }
+    putElements(root);
+}
+
+void putPackage(const QString &path)
+{
+    const bool isIwb = path.endsWith(QLatin1String(".iwb"));
+    const QString archive = workFolder() + QLatin1String("/seed.zip");
+    packZip(path, archive);
+    put("archives", contentOf(archive));
+    QFile::remove(archive);
+    if (isIwb) {
+        put("iwbimport", contentOf(path + QLatin1String("/content.xml")));
+        return;
+    }
+    const QString exported = workFolder() + QLatin1String("/seed.iwb");
+    convert(QStringLiteral("zqtx"), path, QStringLiteral("iwb"), exported);
+    const QString unpacked = workFolder() + QLatin1String("/seed");
+    unpackZip(exported, unpacked);
+    put("iwbimport", contentOf(unpacked + QLatin1String("/content.xml")));
+    QDir(unpacked).removeRecursively();
+    QFile::remove(exported);
+}
+
+void putTypes()
+{
+    for (const QString &type : itemTypes()) {
+        for (const char *value : {"1,2,3,4,5,6", "1", ""}) {
+            const QString text = QLatin1String(value);
+            putItem(filledObject(type, text));
+            put("itemzqtx2json", textOf(filledItem(type, text)));
+            put("itemxml2json", textOf(filledRawItem(type, text)));
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    startApplication();
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: seeds EXAMPLES SEEDS\n");
+        return 1;
+    }
+    plugin();
+    seedFolder = QFile::decodeName(argv[2]);
+    QDir(seedFolder).removeRecursively();
+    const QString examples = QFile::decodeName(argv[1]);
+    QDirIterator files(examples, {QStringLiteral("*.xml")}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        putDocument(files.next());
+    }
+    const QDir folder(examples);
+    const QStringList packages = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &package : packages) {
+        const QString path = folder.filePath(package);
+        if (QFile::exists(path + QLatin1String("/index.xml")) || package.endsWith(QLatin1String(".iwb"))) {
+            putPackage(path);
+        }
+    }
+    putTypes();
+    return 0;
+}
