@@ -1,61 +1,75 @@
 #include "ratiobench.h"
 
-#include <memory>
-
 // Conversions of single items against parsing the XML of the very same item.
 
 namespace {
+
+// Vector shapes take their outline out of the tree, so each reading gets a copy.
+template <typename Convert> Work reading(const QString &text, bool takesTreeApart, Convert convert)
+{
+    if (takesTreeApart) {
+        return workOnCopies(text, convert);
+    }
+    const auto document = std::make_shared<QDomDocument>();
+    document->setContent(text, false);
+    return {[document, convert] { convert(document->documentElement()); }, {}};
+}
 
 void registerZqtx(const QDomElement &element)
 {
     const QString type = element.attribute(QStringLiteral("type"));
     const QString text = xmlText(element);
+    const Work parsing{[text] { parse(text); }, {}};
     const QJsonObject context = itemContext();
-    const auto document = std::make_shared<QDomDocument>();
-    document->setContent(text, false);
-
-    // Vector shapes take their outline out of the tree, so each reading gets a copy; the copy isn't measured apart
-    // from it, which makes the figure of that family a little too high.
-    const bool consumesTree = type.startsWith(QLatin1String("Vector:"));
-    const auto read = [document, context, consumesTree] {
-        const QDomElement source = document->documentElement();
-        return plugin()->tranItemZQTX2JSON(consumesTree ? source.cloneNode().toElement() : source, context);
-    };
-    const QJsonObject json = read();
-    registerRatio(
-        QStringLiteral("read ZQTX"), type, [read] { read(); }, [text] { parse(text); });
-    registerRatio(
-        QStringLiteral("write ZQTX"), type, [json] { plugin()->tranItemJSON2ZQTX({}, json); }, [text] { parse(text); });
+    const auto read = [context](const QDomElement &item) { return plugin()->tranItemZQTX2JSON(item, context); };
+    registerRatio(QStringLiteral("read ZQTX"), type, reading(text, type.startsWith(QLatin1String("Vector:")), read),
+                  parsing);
+    const QJsonObject json = read(element.cloneNode().toElement());
+    registerRatio(QStringLiteral("write ZQTX"), type, {[json] { plugin()->tranItemJSON2ZQTX({}, json); }, {}}, parsing);
 }
 
 void registerRaw(const QDomElement &element)
 {
     const QString text = xmlText(element);
     const QJsonObject context = itemContext();
-    const auto document = std::make_shared<QDomDocument>();
-    document->setContent(text, false);
-    const bool consumesTree = element.tagName().startsWith(QLatin1String("ZQVector"));
+    const auto read = [context](const QDomElement &item) { return plugin()->tranItemXML2JSON(item, context); };
+    registerRatio(QStringLiteral("read raw"), element.tagName(),
+                  reading(text, element.tagName().startsWith(QLatin1String("ZQVector")), read),
+                  {[text] { parse(text); }, {}});
+}
+
+// Shapes of mathematics to svg and back, against parsing the svg.
+void registerShape(const QDomElement &item)
+{
+    QJsonObject json = plugin()->tranItemZQTX2JSON(item, itemContext());
+    json.insert(QStringLiteral("Matrix"), QStringLiteral("1.25,0,0,1.25,310,220"));
+    const auto document = std::make_shared<QDomDocument>(QStringLiteral("iwb"));
+    const QDomElement svg = plugin()->tranItemJSON2IWB(*document, json);
+    if (svg.isNull()) {
+        return;
+    }
+    const QString type = json.value(QStringLiteral("Type")).toString();
+    const QString text = xmlText(svg);
     registerRatio(
-        QStringLiteral("read raw"), element.tagName(),
-        [document, context, consumesTree] {
-            const QDomElement source = document->documentElement();
-            plugin()->tranItemXML2JSON(consumesTree ? source.cloneNode().toElement() : source, context);
-        },
+        QStringLiteral("shape to svg"), type, [document, json] { plugin()->tranItemJSON2IWB(*document, json); },
+        [text] { parse(text); });
+    const auto parsed = std::make_shared<QDomDocument>();
+    parsed->setContent(text, false);
+    registerRatio(
+        QStringLiteral("shape from svg"), type, [parsed] { plugin()->tranItemIWB2JSON(parsed->documentElement(), {}); },
         [text] { parse(text); });
 }
 
-// Finding the translator alone: an element without content, of a type that is found first, last, or never.
+// Finding the translator alone: an item of a type that is found first, last or never, and that has no form in IWB, so
+// that nothing comes after the choice.
 void registerChoice(const QString &typical)
 {
-    for (const char *type : {"ZQActivityFlipItem", "ZQQuestionItem", "ZQUnknownItem"}) {
-        QDomDocument document;
-        const auto owner = std::make_shared<QDomDocument>();
-        QDomElement element = owner->createElement(QStringLiteral("item"));
-        owner->appendChild(element);
-        element.setAttribute(QStringLiteral("type"), QLatin1String(type));
+    for (const char *type : {"ZQChemistryShaobei", "ZQQuestionItem", "ZQUnknownItem"}) {
+        const auto document = std::make_shared<QDomDocument>();
+        const QJsonObject json{{QStringLiteral("Type"), QLatin1String(type)}};
         registerRatio(
-            QStringLiteral("choose, with an empty read"), QLatin1String(type),
-            [owner] { plugin()->tranItemZQTX2JSON(owner->documentElement(), {}); }, [typical] { parse(typical); });
+            QStringLiteral("choose"), QLatin1String(type),
+            [document, json] { plugin()->tranItemJSON2IWB(*document, json); }, [typical] { parse(typical); });
     }
 }
 
@@ -69,6 +83,12 @@ int main(int argc, char **argv)
     }
     for (const QDomElement &element : samples(QStringLiteral("rawsamples.xml"))) {
         registerRaw(element);
+    }
+    for (const QDomElement &child : samples(QStringLiteral("../examples/geometry/slides/figures.xml"))) {
+        for (QDomElement item = child.firstChildElement(QStringLiteral("discipline")); !item.isNull();
+             item = item.nextSiblingElement()) {
+            registerShape(item);
+        }
     }
     registerChoice(xmlText(zqtx.front()));
     return runRatios(argc, argv);

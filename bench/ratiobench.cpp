@@ -23,17 +23,20 @@ QMap<QString, QMap<QString, double>> &results()
 }
 
 // The processor's time, which other processes don't add to.
-double secondsOf(const std::function<void()> &work, int times)
+double secondsOf(const Work &work, int times)
 {
+    if (work.prepare) {
+        work.prepare(times);
+    }
     const std::clock_t start = std::clock();
     for (int i = 0; i < times; ++i) {
-        work();
+        work.run();
     }
     return double(std::clock() - start) / CLOCKS_PER_SEC / times;
 }
 
 // As often as makes a turn long beside reading the clock, and short beside what else the machine does.
-int timesPerTurn(const std::function<void()> &work)
+int timesPerTurn(const Work &work)
 {
     const double turn = 200e-6;
     return qBound(1, int(turn / qMax(secondsOf(work, 3), 1e-7)), 1000);
@@ -118,6 +121,11 @@ void parse(const QString &xml)
 
 void registerRatio(const QString &group, const QString &name, const std::function<void()> &work,
                    const std::function<void()> &base)
+{
+    registerRatio(group, name, {work, {}}, {base, {}});
+}
+
+void registerRatio(const QString &group, const QString &name, const Work &work, const Work &base)
 {
     const auto measure = [=](benchmark::State &state) {
         const int workTimes = timesPerTurn(work);
