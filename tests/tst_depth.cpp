@@ -36,6 +36,21 @@ QString outline(const QJsonObject &item)
     return children.isEmpty() ? id : id + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
 }
 
+// "ID=box" of every item that has a box, from the outside in.
+QStringList boxes(const QJsonObject &item)
+{
+    QStringList list;
+    if (item.contains(QLatin1String("BoundingBox"))) {
+        list.append(item.value(QLatin1String("ID")).toString() + QLatin1Char('=')
+                    + item.value(QLatin1String("BoundingBox")).toString());
+    }
+    const QJsonArray array = item.value(QLatin1String("Children")).toArray();
+    for (const QJsonValue &child : array) {
+        list += boxes(child.toObject());
+    }
+    return list;
+}
+
 } // namespace
 
 /*!
@@ -86,6 +101,24 @@ private slots:
             R"(<GroupSonItems><ZQSmoothStroke NetID="d"/><Nothing/><ZQSmoothStroke NetID="e"/></GroupSonItems>)"
             R"(</ZQGroupItem><ZQGroupItem NetID="f"/><ZQSmoothStroke NetID="g"/></GroupSonItems></ZQGroupItem>)");
         QCOMPARE(outline(plugin()->tranItemXML2JSON(xml(raw), {})), QStringLiteral("a(g f c(e d) b)"));
+    }
+
+    // A group's box is the first in its data, be it that of an item far below; items before and behind that one have
+    // their own or none.
+    void findsTheFirstBoxInEveryGroup()
+    {
+        const QString zqtx = QStringLiteral(
+            R"(<group type="group" id="a"><data>)"
+            R"(<group type="group" id="b"><data><stroke type="Curve" id="c"><data><vertex/></data></stroke></data></group>)"
+            R"(<group type="group" id="d"><data><group type="group" id="e"><data>)"
+            R"(<stroke type="Curve" id="f"><data><rect points="1"/></data></stroke></data></group>)"
+            R"(<group type="group" id="g"><data><x/></data></group>)"
+            R"(<group type="group" id="h"><data><x/></data><data><rect points="2"/></data></group></data></group>)"
+            R"(<group type="group" id="i"><data><x><rect points="3"/></x><group type="group" id="j"><data>)"
+            R"(<stroke type="Curve" id="k"><data><x/><rect points="4"/></data></stroke></data></group></data></group>)"
+            R"(</data></group>)");
+        QCOMPARE(boxes(plugin()->tranItemZQTX2JSON(xml(zqtx), {})).join(QLatin1Char(' ')),
+                 QStringLiteral("a=1 d=1 e=1 f=1 i=3 j=4 k=4"));
     }
 };
 
