@@ -69,6 +69,16 @@ QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
     return object;
 }
 
+void collectIds(const QDomElement &element, QSet<QString> &ids)
+{
+    if (element.hasAttribute(netId)) {
+        ids.insert(element.attribute(netId));
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        collectIds(child, ids);
+    }
+}
+
 /*!
  * A lesson in raw XML: <presentation> with <slide> elements, whose children are the items; files in the folder
  * "resources" beside it.
@@ -90,6 +100,7 @@ public:
                               QStringLiteral("Check that this is a lesson in raw XML"))
                 .in(path);
         }
+        collectIds(root, m_ids);
         const QDomElement first = root.firstChildElement(slideTag);
         for (QDomElement slide = first; !slide.isNull(); slide = slide.nextSiblingElement(slideTag)) {
             m_slides.append(slide);
@@ -99,6 +110,7 @@ public:
         }
         // Reading gives an element without an identifier one.
         m_presentation = readPresentation(root.cloneNode(true).toElement());
+        setStableId(m_presentation, root);
         if (isChecking()) {
             m_check.examine(rootTag, {}, root,
                             [this](const QDomElement &copy) { return withoutMadeUpId(copy, readPresentation(copy)); },
@@ -128,7 +140,10 @@ public:
                            },
                            {});
         }
+        m_nextId = (index + 1) * idsOfSlide;
+        const QDomElement untouched = element.cloneNode(false).toElement();
         slide.properties = m_context.plugin->tranSlideXML2JSON(element, context());
+        setStableId(slide.properties, untouched);
         QJsonObject itemContext = context();
         itemContext.insert(QStringLiteral("slide"), slide.properties);
         for (const QDomElement &item : items) {
@@ -156,6 +171,21 @@ public:
     }
 
 private:
+    static constexpr qint64 idsOfSlide = 1000000;
+
+    // The identifiers that the plug-in makes up are others each time; a lesson that is read twice has the same.
+    void setStableId(QJsonObject &object, const QDomElement &element)
+    {
+        if (element.hasAttribute(netId)) {
+            return;
+        }
+        QString id;
+        do {
+            id = QString::number(m_nextId++);
+        } while (m_ids.contains(id));
+        object.insert(idKey, id);
+    }
+
     bool isChecking() const { return m_context.verify && m_context.losses; }
 
     // References to files get the folder as their only directory, wherever they pointed to on the machine they are
@@ -216,6 +246,7 @@ private:
                 [this, &context](const QDomElement &copy) { return withoutMadeUpId(copy, readSingle(copy, context)); },
                 {});
         }
+        setStableId(item, untouched);
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
         QJsonArray children;
@@ -252,6 +283,8 @@ private:
     CarriedCheck m_check;
     RawAttributes m_attributes;
     QSet<int> m_checked;
+    QSet<QString> m_ids; // that the lesson has
+    qint64 m_nextId = 1;
     QVector<QDomElement> m_slides;
     QJsonObject m_presentation;
 };

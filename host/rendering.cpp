@@ -3,6 +3,7 @@
 #include "lessonerror.h"
 #include "lossreport.h"
 #include "packagetarget.h"
+#include "pageplace.h"
 #include "slidedifference.h"
 #include "slidepictures.h"
 
@@ -323,8 +324,9 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         }
         html.addHtml("</div>\n");
         if (slide < first.slideCount()) {
-            const LessonSlide given = first.slide(slide);
-            const LessonSlide found = slide < second.slideCount() ? second.slide(slide) : LessonSlide();
+            const LessonSlide given = slideInPageForm(first.slide(slide), context.plugin);
+            const LessonSlide found =
+                slide < second.slideCount() ? slideInPageForm(second.slide(slide), context.plugin) : LessonSlide();
             html.addHtml(slideDifference(given, found, slide + 1, losses));
         }
         progress(i + 1, slides.size());

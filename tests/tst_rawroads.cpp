@@ -171,6 +171,35 @@ private slots:
         }
     }
 
+    void readsTheSameTwice()
+    {
+        const QString raw = path("raw.xml");
+        write(raw,
+              "<presentation><slide><ZQImagePic/><ZQMath2DCircle "
+              "NetID='1000001'/><ZQGroupItem><GroupSonItems><ZQTextBoard/>"
+              "</GroupSonItems></ZQGroupItem></slide><slide/></presentation>");
+        const auto ids = [&raw] {
+            LessonContext context;
+            context.plugin = plugin();
+            const auto reader = lessonFormatByName(QStringLiteral("rawxml")).open(raw, context);
+            QStringList found{reader->presentation().value("ID").toString()};
+            for (const int slide : {1, 0}) {
+                const LessonSlide read = reader->slide(slide);
+                found.append(read.properties.value("ID").toString());
+                for (const QJsonValue &item : read.items) {
+                    found.append(item.toObject().value("ID").toString());
+                    const QJsonObject son = item.toObject().value("Children").toArray().first().toObject();
+                    found.append(son.value("ID").toString());
+                }
+            }
+            found.removeAll(QString());
+            return found;
+        };
+        const QStringList first = ids();
+        QCOMPARE(ids(), first);
+        QCOMPARE(QSet<QString>(first.begin(), first.end()).size(), 7);
+    }
+
     void backgroundsBecomeThoseOfPackages()
     {
         const QString raw =
