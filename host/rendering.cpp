@@ -324,9 +324,13 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         }
         html.addHtml("</div>\n");
         if (slide < first.slideCount()) {
-            const LessonSlide given = slideInPageForm(first.slide(slide), context.plugin);
-            const LessonSlide found =
-                slide < second.slideCount() ? slideInPageForm(second.slide(slide), context.plugin) : LessonSlide();
+            LessonSlide given = first.slide(slide);
+            LessonSlide found = slide < second.slideCount() ? second.slide(slide) : LessonSlide();
+            const QLatin1String rawKey("SlideSourceRect");
+            if (given.properties.contains(rawKey) || found.properties.contains(rawKey)) {
+                given = slideInPageForm(given, context.plugin);
+                found = slideInPageForm(found, context.plugin);
+            }
             html.addHtml(slideDifference(given, found, slide + 1, losses));
         }
         progress(i + 1, slides.size());
