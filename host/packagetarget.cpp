@@ -71,6 +71,7 @@ namespace {
 
 const QLatin1String stagingPrefix(".lessonconv-");
 const QLatin1String lockSuffix(".lock");
+constexpr int mostLockTries = 100;
 const QLatin1String packagePart("/package");
 const QLatin1String filePart("/file");
 const QLatin1String replacedPart("/replaced");
@@ -156,9 +157,12 @@ PackageTarget::PackageTarget(const QString &target)
             .in(target);
     }
     sweep(parent.filePath());
-    m_staging = parent.filePath() + QLatin1Char('/') + stagingPrefix
-        + QString::number(QRandomGenerator::system()->generate64(), 36);
-    m_lock = std::make_unique<StagingLock>(m_staging + lockSuffix, StagingLock::Own);
+    // The sweep of another run may take a lock file in the moment between its making and its locking.
+    for (int tries = 0; tries < mostLockTries && !(m_lock && m_lock->isHeld()); ++tries) {
+        m_staging = parent.filePath() + QLatin1Char('/') + stagingPrefix
+            + QString::number(QRandomGenerator::system()->generate64(), 36);
+        m_lock = std::make_unique<StagingLock>(m_staging + lockSuffix, StagingLock::Own);
+    }
     if (!m_lock->isHeld() || !QDir().mkpath(directory())) {
         throw LessonError(QStringLiteral("Nothing can be written in this folder"),
                           QStringLiteral("Check that you may write there and that there is room"))
