@@ -88,6 +88,12 @@ QJsonValue toNumber(const QJsonValue &value)
     return asNumber(value);
 }
 
+// Kept in whole numbers only.
+QJsonValue toWhole(const QJsonValue &value)
+{
+    return std::round(asNumber(value));
+}
+
 QJsonValue toEscaped(const QJsonValue &value)
 {
     return escapedForXml(valueText(value));
@@ -124,15 +130,16 @@ template <size_t size> void applyChanges(QJsonObject &object, const KeyChange (&
 }
 
 constexpr KeyChange mapInformation[] = {
-    {"title", toElementText},     {"type", toNumber},           {"style", toNumber},
-    {"spreadStyle", toNumber},    {"fillColor", toElementText}, {"borderColor", toElementText},
+    {"title", toElementText},     {"type", toWhole},
+    {"style", toWhole},           {"spreadStyle", toWhole},
+    {"fillColor", toElementText}, {"borderColor", toElementText},
     {"lineColor", toElementText},
 };
 
 constexpr KeyChange mapNode[] = {
-    {"pos", toElementText},       {"position", toNumber},       {"width", toNumber},  {"height", toNumber},
+    {"pos", toElementText},       {"position", toWhole},        {"width", toWhole},   {"height", toWhole},
     {"fillColor", toElementText}, {"lineColor", toElementText}, {"visiable", toFlag}, {"childrenVisiable", toFlag},
-    {"nodeHtml", toCData},        {"link", toElementText},      {"shade", toFlag},    {"stamp", toNumber},
+    {"nodeHtml", toCData},        {"link", toElementText},      {"shade", toFlag},    {"stamp", toWhole},
 };
 
 constexpr KeyChange mapAttachment[] = {{"type", toEscaped}, {"name", toEscaped}, {"path", toEscaped}};
@@ -180,7 +187,7 @@ QJsonValue writableMindMap(const QJsonValue &value)
     QJsonObject information = map.at(0).toObject();
     applyChanges(information, mapInformation);
     QJsonObject edge = map.at(1).toObject();
-    applyChanges(edge, {{"style", toNumber}});
+    applyChanges(edge, {{"style", toWhole}});
     map.replace(0, information);
     map.replace(1, edge);
     map.replace(2, writableNode(map.at(2).toObject()));
@@ -225,6 +232,29 @@ QJsonValue treeOfTexts(const QJsonValue &value)
         return array;
     }
     return valueText(value);
+}
+
+// The keys of an animation become attributes.
+QJsonObject writableAnimations(const QJsonValue &value)
+{
+    QJsonObject animations = treeOfTexts(value).toObject();
+    for (auto group = animations.begin(); group != animations.end(); ++group) {
+        QJsonObject values = group.value().toObject();
+        for (auto it = values.begin(); it != values.end();) {
+            it = isXmlName(it.key()) ? it + 1 : values.erase(it);
+        }
+        group.value() = values;
+    }
+    return animations;
+}
+
+// A null says no more than a key that is missing.
+QJsonObject withoutNulls(QJsonObject object)
+{
+    for (auto it = object.begin(); it != object.end();) {
+        it = it.value().isNull() ? object.erase(it) : it + 1;
+    }
+    return object;
 }
 
 QJsonValue plainValue(const QJsonValue &value)
@@ -383,7 +413,7 @@ bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &
 
 QJsonObject writableProperties(const QJsonObject &properties)
 {
-    QJsonObject written = properties;
+    QJsonObject written = withoutNulls(properties);
     for (auto it = written.begin(); it != written.end(); ++it) {
         const bool isTree = it.key() == QLatin1String("activity") || it.key() == QLatin1String("animations");
         it.value() = isTree ? treeOfTexts(it.value()) : plainValue(it.value());
@@ -394,7 +424,7 @@ QJsonObject writableProperties(const QJsonObject &properties)
 QJsonObject writableItem(const QJsonObject &item, int majorVersion)
 {
     const QString type = item.value(typeKey).toString();
-    QJsonObject written = item;
+    QJsonObject written = withoutNulls(item);
     written.remove(HostKeys::children);
     putBack(written, HostKeys::ignoredBox, QLatin1String("BoundingBox"));
     putBack(written, HostKeys::ignoredControl, QLatin1String("Control"));
@@ -410,7 +440,7 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
         } else if (key == QLatin1String("mindMapData")) {
             it.value() = writableMindMap(value);
         } else if (key == QLatin1String("animations")) {
-            it.value() = treeOfTexts(value);
+            it.value() = writableAnimations(value);
         } else if (key == QLatin1String("attachments")) {
             it.value() = writableAttachments(value);
         } else if (key == QLatin1String("document") && type == QLatin1String("ZQDyCoursewareItem")) {

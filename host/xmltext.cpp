@@ -1,6 +1,7 @@
 #include "xmltext.h"
 
 #include <QDomElement>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -156,4 +157,11 @@ QString escapedForCData(const QString &text)
         }
     }
     return out.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
+}
+
+bool isXmlName(const QString &text)
+{
+    static const QRegularExpression name(
+        QStringLiteral("\\A[A-Za-z_\\x{4e00}-\\x{9fa5}][A-Za-z0-9_.\\x{4e00}-\\x{9fa5}-]*\\z"));
+    return name.match(text).hasMatch();
 }

@@ -18,4 +18,7 @@ QString escapedForXml(const QString &text);
 //! For pasting between "<![CDATA[" and "]]>": sections are closed and opened again around what they can't hold.
 QString escapedForCData(const QString &text);
 
+//! True for what can name an element or an attribute, in ASCII and common Chinese.
+bool isXmlName(const QString &text);
+
 #endif // XMLTEXT_H

@@ -9,7 +9,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 
 namespace {
 
@@ -123,19 +122,16 @@ void writeQuestionNumbers(const QDomElement &element, const QJsonObject &written
 // Animations of other names than the three that the plug-in writes.
 void writeOtherAnimations(QDomElement &element, const QJsonObject &written)
 {
-    static const QRegularExpression xmlName(QStringLiteral("^[A-Za-z_][A-Za-z0-9_.-]*$"));
     const QJsonObject animations = written.value(QLatin1String("animations")).toObject();
     QDomElement parent = element.lastChildElement(QStringLiteral("animations"));
     for (auto it = animations.constBegin(); it != animations.constEnd(); ++it) {
-        if (!parent.firstChildElement(it.key()).isNull() || !xmlName.match(it.key()).hasMatch()) {
+        if (!parent.firstChildElement(it.key()).isNull() || !isXmlName(it.key())) {
             continue;
         }
         QDomElement child = looseElement(it.key());
         const QJsonObject values = it.value().toObject();
         for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
-            if (xmlName.match(value.key()).hasMatch()) {
-                child.setAttribute(value.key(), value.value().toString());
-            }
+            child.setAttribute(value.key(), value.value().toString());
         }
         parent.appendChild(child);
     }

@@ -77,6 +77,17 @@ private slots:
             "'animations':{'appearance':{'a':'1'},'emphasis':{},'disappearance':{},'path':{'x':'2'}}}");
     }
 
+    // A key that can't name an attribute would end the document, and a null must not count as "no".
+    void badKeysAndNullsAreLeftOut()
+    {
+        const QJsonObject found = writtenAndRead(
+            json("{'Type':'ZQBasicPlusItem','Visible':null,'animations':{'appearance':{'a b':'1','<':'2',"
+                 "'ok':'3'},'no name':{'a':'1'}}}"));
+        QCOMPARE(found.value("Visible"), QJsonValue(true));
+        QCOMPARE(found.value("animations"),
+                 json("{'a':{'appearance':{'ok':'3'},'disappearance':{},'emphasis':{}}}").value("a"));
+    }
+
     void survive()
     {
         QFETCH(QString, version);
