@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 
 #include <algorithm>
@@ -11,8 +12,10 @@
 
 namespace {
 
-// As deep as Qt's own parser goes, less what stands around an item.
-constexpr int maximumDepth = 1000;
+// Deeper than XML can be that a lesson is written into.
+constexpr int maximumDepth = 2000;
+// As deep as Qt's own parser goes, less the brackets that are put around a value.
+constexpr int maximumParsedDepth = 1000;
 // Positions in a text that Qt parses are ints.
 constexpr qint64 maximumSize = 1024 * 1024 * 1024;
 
@@ -56,7 +59,35 @@ void JsonIndex::fail(const QString &problem, qint64 position) const
         .in(m_path, int(line));
 }
 
-QJsonValue JsonIndex::value(const Range &range) const
+QJsonValue JsonIndex::value(const Range &range)
+{
+    if (range.depth <= maximumParsedDepth) {
+        return parsedValue(range);
+    }
+    const qint64 behind = m_at;
+    m_at = range.begin;
+    const QJsonValue result = nextValue(range.depth - maximumParsedDepth);
+    m_at = behind;
+    return result;
+}
+
+// Takes that many levels of arrays and objects apart and leaves what is in them to Qt's parser.
+QJsonValue JsonIndex::nextValue(int levels)
+{
+    if (levels > 0 && comesNext('[')) {
+        QJsonArray array;
+        eachElement([this, levels, &array] { array.append(nextValue(levels - 1)); });
+        return array;
+    }
+    if (levels > 0 && comesNext('{')) {
+        QJsonObject object;
+        eachMember([this, levels, &object](const QString &name) { object.insert(name, nextValue(levels - 1)); });
+        return object;
+    }
+    return parsedValue(skipValue());
+}
+
+QJsonValue JsonIndex::parsedValue(const Range &range) const
 {
     // In brackets, so that texts and numbers can be parsed like everything else.
     const QByteArray text = '[' + QByteArray::fromRawData(m_data + range.begin, int(range.end - range.begin)) + ']';
@@ -68,7 +99,7 @@ QJsonValue JsonIndex::value(const Range &range) const
     return document.array().at(0);
 }
 
-QByteArray JsonIndex::text(const Range &range) const
+QByteArray JsonIndex::text(const Range &range)
 {
     const qint64 size = range.end - range.begin - 2;
     if (size < 0 || m_data[range.begin] != '"' || std::memchr(m_data + range.begin + 1, '\\', size_t(size))) {
@@ -91,14 +122,7 @@ void JsonIndex::scan()
         names.insert(name);
         if (name == QLatin1String("Slides")) {
             hasSlides = true;
-            expect('[');
-            while (!comesNext(']')) {
-                if (!slides.isEmpty()) {
-                    expect(',');
-                }
-                slides.append(skipValue());
-            }
-            expect(']');
+            eachElement([this] { slides.append(skipValue()); });
         } else if (name == QLatin1String("Resources")) {
             eachMember([this](const QString &path) { resources.append({path, skipValue()}); });
         } else {
@@ -112,6 +136,20 @@ void JsonIndex::scan()
     if (!hasSlides) {
         fail(QStringLiteral("This is no lesson: it has no \"Slides\""), 0);
     }
+}
+
+template <typename Take> void JsonIndex::eachElement(const Take &take)
+{
+    expect('[');
+    bool isFirst = true;
+    while (!comesNext(']')) {
+        if (!isFirst) {
+            expect(',');
+        }
+        isFirst = false;
+        take();
+    }
+    expect(']');
 }
 
 template <typename Take> void JsonIndex::eachMember(const Take &take)
@@ -134,7 +172,7 @@ QString JsonIndex::memberName()
     skipBlanks();
     const qint64 begin = m_at;
     skipString();
-    const QString name = value({begin, m_at}).toString();
+    const QString name = value({begin, m_at, 0}).toString();
     expect(':');
     return name;
 }
@@ -178,7 +216,7 @@ void JsonIndex::skipString()
 JsonIndex::Range JsonIndex::skipValue()
 {
     skipBlanks();
-    Range range{m_at, m_at};
+    Range range{m_at, m_at, 0};
     int depth = 0;
     do {
         skipBlanks();
@@ -189,6 +227,7 @@ JsonIndex::Range JsonIndex::skipValue()
             if (++depth > maximumDepth) {
                 fail(QStringLiteral("Values are nested deeper than %1 levels").arg(maximumDepth), m_at);
             }
+            range.depth = qMax(range.depth, depth);
             ++m_at;
         } else if ((c == '}' || c == ']') && depth > 0) {
             --depth;

@@ -18,6 +18,7 @@ public:
     {
         qint64 begin = 0;
         qint64 end = 0;
+        int depth = 0; //!< of the arrays and objects in it
     };
 
     explicit JsonIndex(const QString &path);
@@ -29,13 +30,15 @@ public:
     //! The members of "Resources".
     QVector<QPair<QString, Range>> resources;
 
-    QJsonValue value(const Range &range) const;
+    QJsonValue value(const Range &range);
     //! The bytes of a text, without a copy where it has no backslash in it.
-    QByteArray text(const Range &range) const;
+    QByteArray text(const Range &range);
 
     [[noreturn]] void fail(const QString &problem, qint64 position) const;
 
 private:
+    QJsonValue parsedValue(const Range &range) const;
+    QJsonValue nextValue(int levels);
     void scan();
     void skipBlanks();
     void skipString();
@@ -44,6 +47,7 @@ private:
     void expect(char c);
     bool comesNext(char c);
     QString memberName();
+    template <typename Take> void eachElement(const Take &take);
     template <typename Take> void eachMember(const Take &take);
 
     QString m_path;

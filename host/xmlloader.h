@@ -5,8 +5,9 @@
 #include <QDomDocument>
 #include <QString>
 
-//! Deeper XML is refused: the DOM needs stack for each level.
-constexpr int maximumXmlDepth = 512;
+//! Deeper XML is refused: the DOM needs stack for each level. A mind map or group of 512 levels has two of XML for
+//! each.
+constexpr int maximumXmlDepth = 1100;
 //! Larger XML files are refused, in bytes.
 constexpr qint64 maximumXmlSize = 256 * 1024 * 1024;
 

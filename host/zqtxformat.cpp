@@ -297,7 +297,7 @@ public:
             throw LessonError(QStringLiteral("The items of slide %1 are nested deeper than %2 levels of XML")
                                   .arg(number)
                                   .arg(maximumXmlDepth),
-                              QStringLiteral("Take some groups apart"))
+                              QStringLiteral("Take some groups or branches apart"))
                 .in(name);
         }
         const QByteArray text = xmlDocumentText(root);

@@ -90,6 +90,27 @@ private slots:
         }
     }
 
+    // Each level of a mind map is two of XML and of JSON, deeper than Qt's own JSON parser goes.
+    void deepMindMapsComeBack()
+    {
+        QTemporaryDir folder;
+        const QString json = folder.filePath(QStringLiteral("1.json"));
+        QFile file(json);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(R"({"Slides":[{"ID":"1","Items":[{"Type":"ZQMindMapItem","mindMapData":[{},{},)"
+                   + QByteArray(R"({"nodeHtml":"a < b","childNodes":[)").repeated(511) + R"({"nodeHtml":"last"})"
+                   + QByteArray("]}").repeated(511) + "]}]}]}");
+        file.close();
+        const QString package = folder.filePath(QStringLiteral("2"));
+        const QString secondJson = folder.filePath(QStringLiteral("3.json"));
+        const QString secondPackage = folder.filePath(QStringLiteral("4"));
+        QCOMPARE(convert(json, package), QString());
+        QCOMPARE(convert(package, secondJson), QString());
+        QCOMPARE(convert(secondJson, secondPackage), QString());
+        QCOMPARE(contentOf(secondPackage), contentOf(package));
+        QCOMPARE(contentOfFile(secondJson).count("a < b"), 511);
+    }
+
     void rawLessonsAreReadWhole_data() { addExamples({QStringLiteral("*.xml")}, "<presentation"); }
 
     void rawLessonsAreReadWhole()
