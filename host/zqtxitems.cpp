@@ -219,6 +219,11 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
 
 QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &context) const
 {
+    const QString typeAttribute = QStringLiteral("type");
+    if (element.attribute(typeAttribute) == QLatin1String("Chemistry:expressions")) {
+        // The one type that the plug-in writes and doesn't know again; it takes the item type in its place.
+        element.setAttribute(typeAttribute, QStringLiteral("ZQChemistryExpressions"));
+    }
     QJsonObject item = m_plugin->tranItemZQTX2JSON(element, context);
     const QString type = item.value(typeKey).toString();
     if (m_majorVersion == 3 && isContainer(type)) {

@@ -68,6 +68,7 @@ private slots:
         row("colours and points",
             "{'Type':'ZQPhysicsDianZu','ArtObj_Color0':{'Solid':16711680,'Alpha':0.2},'Control':[1,2.5,3.123456789,4]"
             "}");
+        row("a type that is only written", "{'Type':'ZQChemistryExpressions','ArtObj_Mh':'5'}");
         row("points of a figure", "{'Type':'ZQShapeFeiji','IgnoredControl':'1,2'}");
         row("text of a circle, angle of a card", "{'Type':'ZQMath2DCircle','TextHtml':'<b>x</b>'}");
         row("angle of a card", "{'Type':'ZQLiteraturePinyin','Angle':'0.5','ChineseWord':'<'}");
