@@ -3,6 +3,7 @@
 #include "pluginfixture.h"
 
 #include <QDirIterator>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -66,6 +67,9 @@ private:
     }
 
 private slots:
+    // The plug-in logs whole mind maps.
+    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+
     void packagesComeBack_data() { addExamples({QStringLiteral("index.xml"), QStringLiteral("*.zqtx")}, {}); }
 
     void packagesComeBack()
