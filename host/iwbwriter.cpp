@@ -280,7 +280,8 @@ void IwbWriter::reportTotals()
     }
     if (m_items->strokesLeftOut() > 0) {
         report(Loss::Note, QStringLiteral("ink"), {},
-               QString::number(m_items->strokesLeftOut()) + QLatin1String(" strokes left out"));
+               QString::number(m_items->strokesLeftOut())
+                   + QLatin1String(m_items->strokesLeftOut() == 1 ? " stroke left out" : " strokes left out"));
     }
     const QStringList unused = m_files.unused();
     if (!unused.isEmpty()) {
