@@ -71,11 +71,11 @@ template <typename Function> auto guarded(const char *what, std::size_t inputSiz
 /*!
  * A translator's key maps, which its class keeps to itself.
  */
-struct KeyMaps : ZQHTran
+struct TranslatorMaps : ZQHTran
 {
-    static const QJsonObject &xml(const ZQHTran &translator) { return translator.*&KeyMaps::xmlKeyMap; }
-    static const QJsonObject &tx(const ZQHTran &translator) { return translator.*&KeyMaps::txKeyMap; }
-    static const QJsonObject &iwb(const ZQHTran &translator) { return translator.*&KeyMaps::iwbKeyMap; }
+    static const QJsonObject &xml(const ZQHTran &translator) { return translator.*&TranslatorMaps::xmlKeyMap; }
+    static const QJsonObject &tx(const ZQHTran &translator) { return translator.*&TranslatorMaps::txKeyMap; }
+    static const QJsonObject &iwb(const ZQHTran &translator) { return translator.*&TranslatorMaps::iwbKeyMap; }
 };
 
 #endif // FUZZSUPPORT_H

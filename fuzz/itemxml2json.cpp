@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (const auto translator = createTranslator(element.nodeName())) {
         const QDomElement copy = element.cloneNode().toElement();
         const QJsonObject json = translator->ZQHTran::tranXML2JSON(copy, {}, {});
-        const QJsonObject &map = KeyMaps::xml(*translator);
+        const QJsonObject &map = TranslatorMaps::xml(*translator);
         for (auto it = map.constBegin(); it != map.constEnd(); ++it) {
             const QString name = it.value().toArray().first().toString();
             if (it.value().toArray().size() == 1 && element.hasAttribute(name)) {

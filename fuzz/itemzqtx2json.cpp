@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     if (const auto translator = createTranslator(element.attribute(QStringLiteral("type")))) {
         const QJsonObject json = translator->ZQHTran::tranZQTX2JSON(element, {}, {});
-        const QJsonObject &map = KeyMaps::tx(*translator);
+        const QJsonObject &map = TranslatorMaps::tx(*translator);
         for (auto it = map.constBegin(); it != map.constEnd(); ++it) {
             const QString name = it.value().toArray().first().toString();
             if (it.value().toArray().size() == 1 && element.hasAttribute(name)) {

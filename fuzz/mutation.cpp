@@ -338,7 +338,7 @@ QJsonObject filledObject(const QString &type, const QString &value)
 {
     const auto translator = createTranslator(type);
     QJsonObject object;
-    for (const QJsonObject *map : {&KeyMaps::tx(*translator), &KeyMaps::iwb(*translator)}) {
+    for (const QJsonObject *map : {&TranslatorMaps::tx(*translator), &TranslatorMaps::iwb(*translator)}) {
         for (auto it = map->constBegin(); it != map->constEnd(); ++it) {
             object.insert(it.key(), value);
         }
@@ -359,7 +359,7 @@ QDomElement filledRawItem(const QString &type, const QString &value)
     }
     QDomElement element = newElement(type);
     const auto translator = createTranslator(type);
-    const QJsonObject &map = KeyMaps::xml(*translator);
+    const QJsonObject &map = TranslatorMaps::xml(*translator);
     for (auto it = map.constBegin(); it != map.constEnd(); ++it) {
         const QJsonArray path = it.value().toArray();
         QString first = path.at(0).toString();
