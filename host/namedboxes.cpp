@@ -121,7 +121,12 @@ bool NamedBoxes::drawMindMap(const QJsonObject &item)
 
 void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
 {
-    const QString name = plainName(item.value(QLatin1String("Type")).toString());
+    const QString type = item.value(QLatin1String("Type")).toString();
+    QString name = plainName(type);
+    // A picture has a box with a name only where its file can't be shown.
+    if (type == QLatin1String("ZQImagePic") && !hasPicture) {
+        name += QLatin1String(" that is missing");
+    }
     const auto place = itemPlace(item);
     QRectF box;
     if (place && place->box.width() >= 1 && place->box.height() >= 1) {

@@ -134,7 +134,7 @@ const Name names[] = {
     {"ZQFormulaEditorItem", "Formula"},
     {"ZQFormulaMath", "Formula"},
     {"ZQGroupItem", "Group"},
-    {"ZQImagePic", "Picture that is missing"},
+    {"ZQImagePic", "Picture"},
     {"ZQLiteratureHanzibihua", "Strokes of a character"},
     {"ZQLiteraturePinyin", "Character with pinyin"},
     {"ZQLiteratureYinbiao", "Word with phonetics"},
