@@ -1,5 +1,9 @@
 #include "pluginfixture.h"
 
+#include <QBuffer>
+#include <QDir>
+#include <QDirIterator>
+#include <QImage>
 #include <QJsonDocument>
 #include <QMap>
 #include <QPluginLoader>
@@ -63,12 +67,12 @@ QString toText(const QDomElement &element)
     return text + QLatin1Char('>') + content + QLatin1String("</") + element.tagName() + QLatin1Char('>');
 }
 
-QJsonObject json(const char *text)
+QJsonObject json(const QByteArray &text)
 {
     QJsonParseError error{};
     const auto document = QJsonDocument::fromJson(QByteArray(text).replace('\'', '"'), &error);
     if (!document.isObject()) {
-        qFatal("%s in %s", qPrintable(error.errorString()), text);
+        qFatal("%s in %s", qPrintable(error.errorString()), text.constData());
     }
     return document.object();
 }
@@ -100,4 +104,50 @@ QString differences(const QJsonObject &actual, const QJsonObject &expected)
         }
     }
     return lines;
+}
+
+int messagesOf(const std::function<void()> &call)
+{
+    static int count = 0;
+    count = 0;
+    const auto former = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++count; });
+    call();
+    qInstallMessageHandler(former);
+    return count;
+}
+
+void putFile(const QString &path, const QByteArray &content)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
+        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
+    }
+}
+
+QByteArray fileContent(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QMap<QString, QByteArray> filesBelow(const QString &folder)
+{
+    QMap<QString, QByteArray> files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString file = it.next();
+        files.insert(QDir(folder).relativeFilePath(file), fileContent(file));
+    }
+    return files;
+}
+
+QByteArray redPicture()
+{
+    QImage picture(4, 3, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "png");
+    return bytes;
 }

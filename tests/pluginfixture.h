@@ -2,17 +2,15 @@
 #define PLUGINFIXTURE_H
 
 #include "izqtransformation.h"
+#include "testtable.h"
 
 #include <QDomElement>
 #include <QJsonObject>
 #include <QString>
 
-// What tests of the plug-in share: the plug-in itself, loaded once, and short ways to write XML and JSON.
+#include <functional>
 
-inline QString operator""_s(const char *text, std::size_t size)
-{
-    return QString::fromUtf8(text, int(size));
-}
+// What tests of the plug-in share: the plug-in itself, loaded once, and short ways to write XML and JSON.
 
 //! The plug-in's object, loaded through the Qt plug-in loader. Fails the program if it can't be loaded.
 QObject *pluginObject();
@@ -24,9 +22,6 @@ QDomElement xml(const QString &text);
 //! The element as text without indentation, attributes in ascending order.
 QString toText(const QDomElement &element);
 
-//! The object of a JSON text, in which ' stands for ".
-QJsonObject json(const char *text);
-
 //! The object as compact text, members in ascending order.
 QString toText(const QJsonObject &object);
 
@@ -35,5 +30,20 @@ QJsonObject attributesOf(const QDomElement &element);
 
 //! What of expected isn't so in actual, a line a member; a null stands for a member that must be missing.
 QString differences(const QJsonObject &actual, const QJsonObject &expected);
+
+//! How many messages a call leaves on Qt's log.
+int messagesOf(const std::function<void()> &call);
+
+//! Writes a file, with the folders on its way. Fails the program if it can't.
+void putFile(const QString &path, const QByteArray &content);
+
+//! What a file holds; a null array without the file.
+QByteArray fileContent(const QString &path);
+
+//! The files in a folder and below by their paths in it, hidden ones too.
+QMap<QString, QByteArray> filesBelow(const QString &folder);
+
+//! A red picture of 4 x 3 in PNG.
+QByteArray redPicture();
 
 #endif // PLUGINFIXTURE_H

@@ -11,21 +11,21 @@ namespace {
 QString withData(const char *text)
 {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    return QString::fromLatin1(text).replace(QLatin1String("DATA"), data);
+    return QString::fromLatin1(text).replace("DATA"_s, data);
 }
 
 QJsonObject readActivity(const QString &activity)
 {
-    const QDomElement slide = xml(QStringLiteral("<slide>%1</slide>").arg(activity));
-    return plugin()->tranSlideZQTX2JSON(slide, {}).value(QLatin1String("activity")).toObject();
+    const QDomElement slide = xml("<slide>%1</slide>"_s.arg(activity));
+    return plugin()->tranSlideZQTX2JSON(slide, {}).value("activity").toObject();
 }
 
 // The activity that is written, in a document that lives to the end of the test.
 QDomElement writtenActivity(const QJsonObject &activity)
 {
     static QVector<QDomDocument> documents;
-    documents.append(plugin()->tranSlideJSON2ZQTX({}, {{QStringLiteral("activity"), activity}}));
-    return documents.last().documentElement().firstChildElement(QStringLiteral("activity"));
+    documents.append(plugin()->tranSlideJSON2ZQTX({}, {{"activity"_s, activity}}));
+    return documents.last().documentElement().firstChildElement("activity");
 }
 
 } // namespace
@@ -40,25 +40,23 @@ class TestActivity : public QObject
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
 
-    void init() { QDir::setSearchPaths(QStringLiteral("imageDir"), {QStringLiteral("/i/"), QStringLiteral("/j/")}); }
+    void init() { QDir::setSearchPaths("imageDir"_s, {"/i/"_s, "/j/"_s}); }
 
     void keepsTheAttributes()
     {
-        const QString text =
-            QStringLiteral("<activity type='T' audio='' time='5' hotoffset='1' gametime='9' title=''/>");
+        const QString text = "<activity type='T' audio='' time='5' hotoffset='1' gametime='9' title=''/>"_s;
         QJsonObject read = readActivity(text);
-        read.remove(QLatin1String("templet"));
+        read.remove("templet");
         const QJsonObject expected =
             json("{'type':'T','audio':'','countdown':'5','hotoffset':'1','time':'9','matchs':[],'unmatchs':[]}");
         QCOMPARE(toText(read), toText(expected));
 
         QDomElement written = writtenActivity(read);
-        QCOMPARE(written.lastChildElement().tagName(), QStringLiteral("unmatchs"));
+        QCOMPARE(written.lastChildElement().tagName(), "unmatchs"_s);
         while (written.hasChildNodes()) {
             written.removeChild(written.firstChild());
         }
-        QCOMPARE(toText(written),
-                 toText(xml(QStringLiteral("<activity type='T' audio='' time='5' hotoffset='1' gametime='9'/>"))));
+        QCOMPARE(toText(written), toText(xml("<activity type='T' audio='' time='5' hotoffset='1' gametime='9'/>")));
     }
 
     void readsPictures_data()
@@ -68,8 +66,7 @@ private slots:
         QTest::addColumn<QString>("expected");
 
         const auto row = [](const char *templet, const char *key, const char *expected) {
-            QTest::addRow("%s of %s", key, templet) << QString::fromLatin1(templet) << QString::fromLatin1(key)
-                                                    << (expected ? withData(expected) : QString());
+            QTest::addRow("%s of %s", key, templet) << templet << key << (expected ? withData(expected) : QString());
         };
         row("index='2'><background pic='a'/>", "background", "/i/Canvas/a");
         row("index='3'><background pic='a'/>", "background", "DATA/a");
@@ -99,9 +96,8 @@ private slots:
         QFETCH(QString, templet);
         QFETCH(QString, key);
         QFETCH(QString, expected);
-        const QJsonObject activity =
-            readActivity(QStringLiteral("<activity><templet %1</templet></activity>").arg(templet));
-        QJsonValue value = activity.value(QLatin1String("templet"));
+        const QJsonObject activity = readActivity("<activity><templet %1</templet></activity>"_s.arg(templet));
+        QJsonValue value = activity.value("templet");
         const QStringList keys = key.split(QLatin1Char('/'));
         for (const QString &step : keys) {
             value = value.toObject().value(step);
@@ -112,10 +108,9 @@ private slots:
 
     void readsPicturesWithoutSearchPath()
     {
-        QDir::setSearchPaths(QStringLiteral("imageDir"), {});
-        const QJsonObject activity =
-            readActivity(QStringLiteral("<activity><templet><board pic='a'/></templet></activity>"));
-        QCOMPARE(toText(activity.value(QLatin1String("templet")).toObject()),
+        QDir::setSearchPaths("imageDir"_s, {});
+        const QJsonObject activity = readActivity("<activity><templet><board pic='a'/></templet></activity>");
+        QCOMPARE(toText(activity.value("templet").toObject()),
                  toText(json("{'index':'','background':'','backgroundx2':'','board':'a'}")));
     }
 
@@ -126,8 +121,8 @@ private slots:
         QTest::addColumn<QString>("expected");
 
         const auto row = [](const char *activity, const char *path, const char *expected) {
-            QTest::addRow("%s of %s", path, activity) << withData(activity) << QString::fromLatin1(path)
-                                                      << (expected ? QString::fromLatin1(expected) : QString());
+            QTest::addRow("%s of %s", path, activity)
+                << withData(activity) << path << (expected ? QString::fromLatin1(expected) : QString());
         };
         row("'templet':{'index':'3','background':'DATA/ClassActivity/a'}", "background@pic", "/ClassActivity/a");
         row("'templet':{'background':'/x/ActivityInfo/y/ActivityInfo/a'}", "background@pic",
@@ -152,7 +147,7 @@ private slots:
         QFETCH(QString, activity);
         QFETCH(QString, path);
         QFETCH(QString, expected);
-        const QByteArray text = QStringLiteral("{%1}").arg(activity).toLatin1();
+        const QByteArray text = "{%1}"_s.arg(activity).toLatin1();
         const QDomElement templet = writtenActivity(json(text.constData())).firstChildElement();
         const QDomElement element = templet.firstChildElement(path.section(QLatin1Char('@'), 0, 0));
         const QString attribute = path.section(QLatin1Char('@'), 1);
@@ -171,7 +166,7 @@ private slots:
             tags.append(child.tagName());
         }
         // A key that is no name makes no element.
-        QCOMPARE(tags.join(QLatin1Char(' ')), QStringLiteral("background board symbol_less zoom container material"));
+        QCOMPARE(tags.join(QLatin1Char(' ')), "background board symbol_less zoom container material"_s);
     }
 
     void convertsEntries_data()
@@ -182,8 +177,7 @@ private slots:
         QTest::addColumn<QString>("written");
 
         const auto row = [](const char *type, const char *read, const char *entries, const char *written) {
-            QTest::addRow("%s: %s", type, read) << QString::fromLatin1(type) << QString::fromLatin1(read)
-                                                << json(entries) << QString::fromLatin1(written);
+            QTest::addRow("%s: %s", type, read) << type << read << json(entries) << written;
         };
         const char *const emptyMatch = "<match><container id='' txt=''/><materials/><answers/></match>";
         row("Judgment", "<match><question question='q'/><answer answer='a'/></match>",
@@ -219,20 +213,20 @@ private slots:
         QFETCH(QJsonObject, entries);
         QFETCH(QString, written);
         const QJsonObject activity =
-            readActivity(QStringLiteral("<activity type='%1'><matchs>%2</matchs></activity>").arg(type, read));
-        const QString matchs = QStringLiteral("matchs");
+            readActivity("<activity type='%1'><matchs>%2</matchs></activity>"_s.arg(type, read));
+        const QString matchs = "matchs"_s;
         QCOMPARE(toText(QJsonObject{{matchs, activity.value(matchs)}}), toText(entries));
         QCOMPARE(toText(writtenActivity(activity).firstChildElement(matchs)),
-                 toText(xml(QStringLiteral("<matchs>%1</matchs>").arg(written))));
+                 toText(xml("<matchs>%1</matchs>"_s.arg(written))));
     }
 
     void convertsWhatMatchesNothing()
     {
-        const QString unmatchs = QStringLiteral("unmatchs");
-        const QString text = QStringLiteral("<unmatchs><match><container id='1' txt='c'/><materials><material id='2' "
-                                            "txt='m'%1/></materials></match></unmatchs>");
-        const QJsonObject activity = readActivity(QStringLiteral("<activity type='Judgment'>%1</activity>")
-                                                      .arg(text.arg(QStringLiteral(" juxtaposedColor='#f'"))));
+        const QString unmatchs = "unmatchs"_s;
+        const QString text = "<unmatchs><match><container id='1' txt='c'/><materials><material id='2' "
+                             "txt='m'%1/></materials></match></unmatchs>"_s;
+        const QJsonObject activity =
+            readActivity("<activity type='Judgment'>%1</activity>"_s.arg(text.arg(" juxtaposedColor='#f'"_s)));
         QCOMPARE(toText(QJsonObject{{unmatchs, activity.value(unmatchs)}}),
                  toText(json("{'unmatchs':[{'container':{'id':'1','txt':'c'},'materials':[{'id':'2','txt':'m'}]}]}")));
         QCOMPARE(toText(writtenActivity(activity).lastChildElement()), toText(xml(text.arg(QString()))));
@@ -241,22 +235,22 @@ private slots:
     void writesAGroupWithoutKeys()
     {
         const QDomElement answers = writtenActivity(json("{'matchs':[{'answers':[{}]}]}"))
-                                        .firstChildElement(QStringLiteral("matchs"))
+                                        .firstChildElement("matchs")
                                         .firstChildElement()
                                         .lastChildElement();
-        QCOMPARE(toText(answers), QStringLiteral("<answers><container id=\"\"/></answers>"));
+        QCOMPARE(toText(answers), "<answers><container id=\"\"/></answers>"_s);
     }
 
     void leavesSlidesWithoutActivityAlone()
     {
-        QVERIFY(!plugin()->tranSlideZQTX2JSON(xml(QStringLiteral("<slide/>")), {}).contains(QLatin1String("activity")));
+        QVERIFY(!plugin()->tranSlideZQTX2JSON(xml("<slide/>"), {}).contains("activity"));
         QDomDocument slide;
-        slide.setContent(QStringLiteral("<slide><activity id='old'/></slide>"));
+        slide.setContent("<slide><activity id='old'/></slide>"_s);
         plugin()->tranSlideJSON2ZQTX(slide, json("{}"));
-        QCOMPARE(toText(slide.documentElement()), QStringLiteral("<slide><activity id=\"old\"/></slide>"));
+        QCOMPARE(toText(slide.documentElement()), "<slide><activity id=\"old\"/></slide>"_s);
         plugin()->tranSlideJSON2ZQTX(slide, json("{'activity':{}}"));
         QCOMPARE(slide.documentElement().childNodes().count(), 2);
-        QVERIFY(slide.documentElement().firstChildElement().hasAttribute(QStringLiteral("id")));
+        QVERIFY(slide.documentElement().firstChildElement().hasAttribute("id"));
     }
 };
 

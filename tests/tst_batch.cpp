@@ -1,286 +1,222 @@
+#include "hostfixture.h"
+
 #include <QDir>
-#include <QDirIterator>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 
 #include <csignal>
-#include <memory>
 
 #include <sys/stat.h>
 
-// Converts whole folders through the command, as an administrator does overnight.
+/*!
+ * Converts whole folders through the command, as an administrator does overnight.
+ */
 class TestBatch : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void convertsAThousand();
-    void keepsFolders();
-    void keepsNamesApart();
-    void skipsWhatIsUnchanged();
-    void crashFailsOneLesson();
-    void interruptionLeavesNothingHalf();
-    void refuses_data();
-    void refuses();
-
 private:
-    struct Result
-    {
-        int exitCode;
-        QString output;
-        QString errors;
-    };
-    void start(QProcess &process, const QStringList &arguments) const;
-    Result resultOf(QProcess &process) const;
-    Result convert(const QStringList &arguments) const;
-    void put(const QString &name, const QByteArray &content) const;
-    void putLesson(const QString &name, const QByteArray &title = "Lesson") const;
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    QStringList results() const;
-    QJsonObject report() const;
-
     std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    void begin(Command &command, const QStringList &arguments) const
+    {
+        command.begin(QStringList{"convert", "--out-dir", "out"} + arguments, m_folder->path());
+    }
+
+    Command::Outcome convert(const QStringList &arguments) const
+    {
+        Command command;
+        begin(command, arguments);
+        return command.outcome();
+    }
+
+    void putLesson(const QString &name, const QByteArray &title = "Lesson") const
+    {
+        putFile(path(name),
+                R"({"Title":")" + title + R"(","Width":"400","Height":"300","Slides":[{"ID":"1","Items":[]}]})");
+    }
+
+    QStringList results() const { return filesBelow(path("out")).keys(); }
+
+    QJsonObject report() const { return QJsonDocument::fromJson(fileContent(path("report.json"))).object(); }
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void convertsAThousand()
+    {
+        for (int i = 0; i < 1000; ++i) {
+            putLesson("in/term%1/lesson%2.json"_s.arg(i / 100).arg(i));
+        }
+        putFile(path("in/term3/lesson333.json"), "{\"Slides\":[");
+        putFile(path("in/term7/lesson777.json"),
+                R"({"Slides":[{"ID":"1","Items":[{"Type":"ZQSmoothStroke","ID":"7","Mood":"good"}]}]})");
+        const Command::Outcome result = convert({"in", "--to", "zqtx", "--report", "report.json"});
+        QCOMPARE(result.exitCode, 2);
+        QVERIFY2(result.output.startsWith("1000 lessons: 999 converted, 1 not converted.\n"
+                                          "1 lesson lost something, 1 value, item or file in all"),
+                 qPrintable(result.output));
+        QCOMPARE(result.errors.count('\n'), 1);
+        QVERIFY2(result.errors.contains("in/term3/lesson333.json, line 1: This is not JSON"),
+                 qPrintable(result.errors));
+        QCOMPARE(results().size(), 1000); // and the journal in the place of the failure
+
+        const QJsonArray lessons = report().value("lessons").toArray();
+        QCOMPARE(lessons.size(), 1000);
+        int lost = 0;
+        for (const QJsonValue &lesson : lessons) {
+            const QJsonObject entry = lesson.toObject();
+            const bool isFailure = entry.value("input") == "in/term3/lesson333.json";
+            QCOMPARE(entry.value("state").toString(), isFailure ? "failed" : "converted");
+            QCOMPARE(entry.contains("message"), isFailure);
+            for (const QJsonValue &loss : entry.value("losses").toObject().value("entries").toArray()) {
+                QCOMPARE(entry.value("output").toString(), "term7/lesson777.zqtx");
+                QCOMPARE(loss.toObject().value("key").toString(), "Mood");
+                ++lost;
+            }
+        }
+        QCOMPARE(lost, 1);
+
+        putLesson("in/term3/lesson333.json");
+        const Command::Outcome second = convert({"in", "--to", "zqtx", "--resume", "--strict"});
+        QCOMPARE(second.exitCode, 1);
+        QVERIFY2(second.output.startsWith("1000 lessons: 1 converted, 999 done before.\n"), qPrintable(second.output));
+    }
+
+    // A lesson that is a folder is one lesson; what isn't a lesson, and the results of the last run, are passed over.
+    void keepsFolders()
+    {
+        putFile(path("in/math/circles/index.xml"),
+                "<main width=\"400\" height=\"300\"><slides><file href=\"slides/1.xml\"/></slides></main>");
+        putFile(path("in/math/circles/slides/1.xml"), "<slide id=\"1\"><items/></slide>");
+        putLesson("in/math/week 1.2/Lines.JSON");
+        putFile(path("in/broken/slides/1.xml"), "<slide id=\"1\"/>");
+        putFile(path("in/notes.txt"), "no lesson");
+        putLesson("in/.hidden/a.json");
+        putLesson("in/results/old.json");
+        QFile::link(path("in"), path("in/math/loop"));
+        const Command::Outcome result =
+            convert({"in", "--to", "json", "--out-dir", "in/results", "--report", "report.json"});
+        QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
+        QCOMPARE(result.output,
+                 "2 lessons: 2 converted.\n1 file is called like a lesson and is none: in/broken/slides/1.xml.\n");
+        QVERIFY(QFileInfo(path("in/results/math/circles.json")).isFile());
+        QVERIFY(QFileInfo(path("in/results/math/week 1.2/Lines.json")).isFile());
+        QCOMPARE(report().value("passedOver").toArray().size(), 1);
+    }
+
+    void keepsNamesApart()
+    {
+        putLesson("one/a.json");
+        putFile(path("one/a.xml"), "<presentation><slide/></presentation>");
+        putLesson("one/b.json");
+        putLesson("two/b.json");
+        QCOMPARE(convert({"one", "two", "one/b.json", "--to", "zqtx"}).exitCode, 0);
+        QCOMPARE(results(),
+                 (QStringList{".lessonconv-done", "one/a.json.zqtx", "one/a.xml.zqtx", "one/b.zqtx", "two/b.zqtx"}));
+    }
+
+    void skipsWhatIsUnchanged()
+    {
+        const QStringList arguments{"in", "--to", "zqtx", "--resume"};
+        const auto converted = [&](const char *what) {
+            const Command::Outcome result = convert(arguments);
+            const QRegularExpressionMatch match = QRegularExpression("(\\d+) converted").match(result.output);
+            return match.hasMatch() ? match.captured(1).toInt()
+                                    : (qWarning("%s: %s", what, qPrintable(result.errors)), -1);
+        };
+        for (const char *name : {"in/a.json", "in/b.json", "in/c.json"}) {
+            putLesson(name);
+        }
+        QCOMPARE(converted("all"), 3);
+        QCOMPARE(converted("none"), 0);
+        putLesson("in/a.json", "Another title");
+        QFile::remove(path("out/b.zqtx"));
+        putFile(path("out/c.zqtx"), "cut");
+        QCOMPARE(converted("each for its reason"), 3);
+        // A run that was killed while it wrote: the half line costs one lesson, and the next line stands for itself.
+        putFile(path("out/.lessonconv-done"), fileContent(path("out/.lessonconv-done")).chopped(20));
+        QCOMPARE(converted("the one of the half line"), 1);
+        QCOMPARE(converted("none"), 0);
+        QVERIFY(convert(arguments + QStringList{"--no-check"}).output.startsWith("3 lessons: 3 converted"));
+    }
+
+    // Reading a pipe that nobody writes into lasts until somebody ends it.
+    void crashFailsOneLesson()
+    {
+        mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
+        putLesson("a.json");
+        putLesson("b.json");
+        Command process;
+        begin(process, {"0.json", "a.json", "b.json", "--to", "zqtx", "--jobs", "1"});
+        const QString children = "/proc/%1/task/%1/children"_s.arg(process.processId());
+        QByteArray worker;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            [&] {
+                worker = fileContent(children).trimmed();
+                return !worker.isEmpty();
+            }(),
+            20000);
+        kill(worker.toInt(), SIGKILL);
+        const Command::Outcome result = process.outcome();
+        QCOMPARE(result.exitCode, 2);
+        QVERIFY2(result.errors.contains("0.json: The converter broke down over this lesson"),
+                 qPrintable(result.errors));
+        QCOMPARE(result.output, "3 lessons: 2 converted, 1 not converted.\n");
+        QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx", "b.zqtx"}));
+    }
+
+    void interruptionLeavesNothingHalf()
+    {
+        putLesson("a.json");
+        mkfifo(QFile::encodeName(path("b.json")).constData(), 0600);
+        putLesson("c.json");
+        const QStringList arguments{"a.json", "b.json", "c.json", "--to", "zqtx", "--jobs", "1", "--resume"};
+        Command process;
+        begin(process, arguments);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("out/a.zqtx")), 20000);
+        QTest::qWait(200);
+        kill(pid_t(process.processId()), SIGINT);
+        const Command::Outcome result = process.outcome();
+        QCOMPARE(result.exitCode, 2);
+        QVERIFY2(result.output.contains("2 not begun.\nInterrupted."), qPrintable(result.output));
+        QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx"}));
+
+        QFile::remove(path("b.json"));
+        putLesson("b.json");
+        QCOMPARE(convert(arguments).output, "3 lessons: 2 converted, 1 done before.\n");
+    }
+
+    void refuses_data()
+    {
+        const Table<QStringList, QString> row("arguments", "message");
+        row("no format", {"in"}, "--to iwb");
+        row("format only read", {"in", "--to", "rawxml"}, "can't be written");
+        row("no lessons", {"empty", "--to", "iwb"}, "no lessons");
+        row("among the lessons", {"in", "--to", "iwb", "--out-dir", "in"}, "among the lessons");
+        row("itself", {"in/a.json", "--to", "json", "--out-dir", "in"}, "place of the lesson");
+        row("same name", {"in/a.json", "other/a.json", "--to", "iwb"}, "both be written as a.json.iwb");
+        row("jobs", {"in", "--to", "iwb", "--jobs", "none"}, "number of jobs");
+        row("no folder can be made", {"in", "--to", "iwb", "--out-dir", "in/a.json/x"}, "can't be made");
+    }
+
+    void refuses()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, message);
+        putLesson("in/a.json");
+        putLesson("other/a.json", "Another");
+        QDir().mkpath(path("empty"));
+        const Command::Outcome result = convert(arguments);
+        QCOMPARE(result.exitCode, 2);
+        QVERIFY2(result.errors.contains(message), qPrintable(result.errors));
+        QVERIFY(!QFile::exists(path("out")));
+    }
 };
-
-void TestBatch::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
-void TestBatch::start(QProcess &process, const QStringList &arguments) const
-{
-    process.setWorkingDirectory(m_folder->path());
-    process.start(QStringLiteral(LESSONCONV), QStringList{"convert", "--out-dir", "out"} + arguments);
-}
-
-TestBatch::Result TestBatch::resultOf(QProcess &process) const
-{
-    process.waitForFinished(250000);
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
-}
-
-TestBatch::Result TestBatch::convert(const QStringList &arguments) const
-{
-    QProcess process;
-    start(process, arguments);
-    return resultOf(process);
-}
-
-void TestBatch::put(const QString &name, const QByteArray &content) const
-{
-    QDir().mkpath(QFileInfo(path(name)).path());
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-void TestBatch::putLesson(const QString &name, const QByteArray &title) const
-{
-    put(name, R"({"Title":")" + title + R"(","Width":"400","Height":"300","Slides":[{"ID":"1","Items":[]}]})");
-}
-
-// What lies in the folder of the results, hidden files included.
-QStringList TestBatch::results() const
-{
-    QStringList files;
-    QDirIterator it(path("out"), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString file = it.next();
-        if (it.fileInfo().isFile()) {
-            files.append(QDir(path("out")).relativeFilePath(file));
-        }
-    }
-    files.sort();
-    return files;
-}
-
-QJsonObject TestBatch::report() const
-{
-    QFile file(path("report.json"));
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
-}
-
-void TestBatch::convertsAThousand()
-{
-    for (int i = 0; i < 1000; ++i) {
-        putLesson(QStringLiteral("in/term%1/lesson%2.json").arg(i / 100).arg(i));
-    }
-    put("in/term3/lesson333.json", "{\"Slides\":[");
-    put("in/term7/lesson777.json",
-        R"({"Slides":[{"ID":"1","Items":[{"Type":"ZQSmoothStroke","ID":"7","Mood":"good"}]}]})");
-    const Result result = convert({"in", "--to", "zqtx", "--report", "report.json"});
-    QCOMPARE(result.exitCode, 2);
-    QVERIFY2(result.output.startsWith("1000 lessons: 999 converted, 1 not converted.\n"
-                                      "1 lesson lost something, 1 value, item or file in all"),
-             qPrintable(result.output));
-    QCOMPARE(result.errors.count('\n'), 1);
-    QVERIFY2(result.errors.contains("in/term3/lesson333.json, line 1: This is not JSON"), qPrintable(result.errors));
-    QCOMPARE(results().size(), 1000); // and the journal in the place of the failure
-
-    const QJsonArray lessons = report().value("lessons").toArray();
-    QCOMPARE(lessons.size(), 1000);
-    int lost = 0;
-    for (const QJsonValue &lesson : lessons) {
-        const QJsonObject entry = lesson.toObject();
-        const bool isFailure = entry.value("input") == "in/term3/lesson333.json";
-        QCOMPARE(entry.value("state").toString(), isFailure ? "failed" : "converted");
-        QCOMPARE(entry.contains("message"), isFailure);
-        for (const QJsonValue &loss : entry.value("losses").toObject().value("entries").toArray()) {
-            QCOMPARE(entry.value("output").toString(), "term7/lesson777.zqtx");
-            QCOMPARE(loss.toObject().value("key").toString(), "Mood");
-            ++lost;
-        }
-    }
-    QCOMPARE(lost, 1);
-
-    putLesson("in/term3/lesson333.json");
-    const Result second = convert({"in", "--to", "zqtx", "--resume", "--strict"});
-    QCOMPARE(second.exitCode, 1);
-    QVERIFY2(second.output.startsWith("1000 lessons: 1 converted, 999 done before.\n"), qPrintable(second.output));
-}
-
-// A lesson that is a folder is one lesson; what isn't a lesson, and the results of the last run, are passed over.
-void TestBatch::keepsFolders()
-{
-    put("in/math/circles/index.xml",
-        "<main width=\"400\" height=\"300\"><slides><file href=\"slides/1.xml\"/></slides></main>");
-    put("in/math/circles/slides/1.xml", "<slide id=\"1\"><items/></slide>");
-    putLesson("in/math/week 1.2/Lines.JSON");
-    put("in/broken/slides/1.xml", "<slide id=\"1\"/>");
-    put("in/notes.txt", "no lesson");
-    putLesson("in/.hidden/a.json");
-    putLesson("in/results/old.json");
-    QFile::link(path("in"), path("in/math/loop"));
-    const Result result = convert({"in", "--to", "json", "--out-dir", "in/results", "--report", "report.json"});
-    QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
-    QCOMPARE(result.output,
-             "2 lessons: 2 converted.\n1 file is called like a lesson and is none: in/broken/slides/1.xml.\n");
-    QVERIFY(QFileInfo(path("in/results/math/circles.json")).isFile());
-    QVERIFY(QFileInfo(path("in/results/math/week 1.2/Lines.json")).isFile());
-    QCOMPARE(report().value("passedOver").toArray().size(), 1);
-}
-
-void TestBatch::keepsNamesApart()
-{
-    putLesson("one/a.json");
-    put("one/a.xml", "<presentation><slide/></presentation>");
-    putLesson("one/b.json");
-    putLesson("two/b.json");
-    QCOMPARE(convert({"one", "two", "one/b.json", "--to", "zqtx"}).exitCode, 0);
-    QCOMPARE(results(),
-             (QStringList{".lessonconv-done", "one/a.json.zqtx", "one/a.xml.zqtx", "one/b.zqtx", "two/b.zqtx"}));
-}
-
-void TestBatch::skipsWhatIsUnchanged()
-{
-    const QStringList arguments{"in", "--to", "zqtx", "--resume"};
-    const auto converted = [&](const char *what) {
-        const Result result = convert(arguments);
-        const QRegularExpressionMatch match = QRegularExpression("(\\d+) converted").match(result.output);
-        return match.hasMatch() ? match.captured(1).toInt() : (qWarning("%s: %s", what, qPrintable(result.errors)), -1);
-    };
-    for (const char *name : {"in/a.json", "in/b.json", "in/c.json"}) {
-        putLesson(name);
-    }
-    QCOMPARE(converted("all"), 3);
-    QCOMPARE(converted("none"), 0);
-    putLesson("in/a.json", "Another title");
-    QFile::remove(path("out/b.zqtx"));
-    put("out/c.zqtx", "cut");
-    QCOMPARE(converted("each for its reason"), 3);
-    // A run that was killed while it wrote: the half line costs one lesson, and the next line stands for itself.
-    QFile journal(path("out/.lessonconv-done"));
-    QVERIFY(journal.open(QIODevice::ReadWrite));
-    journal.resize(journal.size() - 20);
-    journal.close();
-    QCOMPARE(converted("the one of the half line"), 1);
-    QCOMPARE(converted("none"), 0);
-    QVERIFY(convert(arguments + QStringList{"--no-check"}).output.startsWith("3 lessons: 3 converted"));
-}
-
-// Reading a pipe that nobody writes into lasts until somebody ends it.
-void TestBatch::crashFailsOneLesson()
-{
-    mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
-    putLesson("a.json");
-    putLesson("b.json");
-    QProcess process;
-    start(process, {"0.json", "a.json", "b.json", "--to", "zqtx", "--jobs", "1"});
-    QVERIFY(process.waitForStarted());
-    const QString children = QStringLiteral("/proc/%1/task/%1/children").arg(process.processId());
-    QByteArray worker;
-    QTRY_VERIFY_WITH_TIMEOUT(
-        [&] {
-            QFile file(children);
-            worker = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
-            return !worker.isEmpty();
-        }(),
-        20000);
-    kill(worker.toInt(), SIGKILL);
-    const Result result = resultOf(process);
-    QCOMPARE(result.exitCode, 2);
-    QVERIFY2(result.errors.contains("0.json: The converter broke down over this lesson"), qPrintable(result.errors));
-    QCOMPARE(result.output, "3 lessons: 2 converted, 1 not converted.\n");
-    QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx", "b.zqtx"}));
-}
-
-void TestBatch::interruptionLeavesNothingHalf()
-{
-    putLesson("a.json");
-    mkfifo(QFile::encodeName(path("b.json")).constData(), 0600);
-    putLesson("c.json");
-    const QStringList arguments{"a.json", "b.json", "c.json", "--to", "zqtx", "--jobs", "1", "--resume"};
-    QProcess process;
-    start(process, arguments);
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("out/a.zqtx")), 20000);
-    QTest::qWait(200);
-    kill(pid_t(process.processId()), SIGINT);
-    const Result result = resultOf(process);
-    QCOMPARE(result.exitCode, 2);
-    QVERIFY2(result.output.contains("2 not begun.\nInterrupted."), qPrintable(result.output));
-    QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx"}));
-
-    QFile::remove(path("b.json"));
-    putLesson("b.json");
-    QCOMPARE(convert(arguments).output, "3 lessons: 2 converted, 1 done before.\n");
-}
-
-void TestBatch::refuses_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("no format") << QStringList{"in"} << "--to iwb";
-    QTest::newRow("format only read") << QStringList{"in", "--to", "rawxml"} << "can't be written";
-    QTest::newRow("no lessons") << QStringList{"empty", "--to", "iwb"} << "no lessons";
-    QTest::newRow("among the lessons") << QStringList{"in", "--to", "iwb", "--out-dir", "in"} << "among the lessons";
-    QTest::newRow("itself") << QStringList{"in/a.json", "--to", "json", "--out-dir", "in"} << "place of the lesson";
-    QTest::newRow("same name") << QStringList{"in/a.json", "other/a.json", "--to", "iwb"}
-                               << "both be written as a.json.iwb";
-    QTest::newRow("jobs") << QStringList{"in", "--to", "iwb", "--jobs", "none"} << "number of jobs";
-    QTest::newRow("no folder can be made")
-        << QStringList{"in", "--to", "iwb", "--out-dir", "in/a.json/x"} << "can't be made";
-}
-
-void TestBatch::refuses()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, message);
-    putLesson("in/a.json");
-    putLesson("other/a.json", "Another");
-    QDir().mkpath(path("empty"));
-    const Result result = convert(arguments);
-    QCOMPARE(result.exitCode, 2);
-    QVERIFY2(result.errors.contains(message), qPrintable(result.errors));
-    QVERIFY(!QFile::exists(path("out")));
-}
 
 QTEST_GUILESS_MAIN(TestBatch)
 #include "tst_batch.moc"

@@ -1,43 +1,20 @@
-#include "lesson.h"
-#include "lessonerror.h"
-#include "pluginfixture.h"
+#include "hostfixture.h"
 #include "ziparchive.h"
 #include "ziptext.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
-#include <functional>
 #include <random>
 
 #include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
-
-/*!
- * The command, with something done to its process before it starts.
- */
-class Command : public QProcess
-{
-public:
-    std::function<void()> prepare;
-
-protected:
-    void setupChildProcess() override
-    {
-        if (prepare) {
-            prepare();
-        }
-    }
-};
 
 // No file may grow beyond this, as on a disk that is full. A lesson's small files fit.
 void allowSmallFilesOnly()
@@ -98,35 +75,25 @@ private:
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
-    void start(Command &command, const QStringList &arguments) const
-    {
-        command.setWorkingDirectory(m_folder->path());
-        command.start(QStringLiteral(LESSONCONV_FILE), arguments);
-        QVERIFY(command.waitForStarted());
-    }
-
     int run(const QStringList &arguments, const std::function<void()> &prepare = {}, QString *message = nullptr) const
     {
-        Command command;
-        command.prepare = prepare;
-        start(command, arguments);
-        command.waitForFinished(60000);
+        const Command::Outcome outcome = runCommand(arguments, m_folder->path(), prepare);
         if (message) {
-            *message = QString::fromUtf8(command.readAllStandardError());
+            *message = outcome.errors;
         }
-        return command.exitStatus() == QProcess::NormalExit ? command.exitCode() : -1;
+        return outcome.exitCode;
     }
 
     QStringList convert(const QString &from, const QString &to) const
     {
-        return {QStringLiteral("convert"), from, to, QStringLiteral("--quiet"), QStringLiteral("--no-check")};
+        return {"convert"_s, from, to, "--quiet"_s, "--no-check"_s};
     }
 
     // All that is at a target, by the path in it.
     QMap<QString, QByteArray> contentOf(const QString &target) const
     {
         QMap<QString, QByteArray> files;
-        if (QFileInfo(target).isFile() && !target.endsWith(QLatin1String(".json"))) {
+        if (QFileInfo(target).isFile() && !target.endsWith(".json")) {
             // Archives hold times, so their files are compared.
             const QTemporaryDir unpacked;
             try {
@@ -139,25 +106,19 @@ private:
         if (QFileInfo(target).isFile()) {
             return {{QString(), fileContent(target)}};
         }
-        QDirIterator it(target, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-        while (it.hasNext()) {
-            const QString file = it.next();
-            files.insert(QDir(target).relativeFilePath(file), fileContent(file));
-        }
-        return files;
+        return filesBelow(target);
     }
 
     QStringList hiddenEntries() const
     {
-        return QDir(m_folder->path())
-            .entryList({QStringLiteral(".*")}, QDir::Hidden | QDir::AllEntries | QDir::NoDotAndDotDot);
+        return QDir(m_folder->path()).entryList({".*"_s}, QDir::Hidden | QDir::AllEntries | QDir::NoDotAndDotDot);
     }
 
     void addTargets()
     {
-        QTest::addColumn<QString>("target");
+        const Table<QString> row("target");
         for (const char *target : {"out.zqtx", "out.json", "out.iwb", "out"}) {
-            QTest::newRow(target) << QString::fromLatin1(target);
+            row(target, target);
         }
     }
 
@@ -165,7 +126,7 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
-        putFile(path(QStringLiteral("old.json")), lessonText("old", 3));
+        putFile(path("old.json"), lessonText("old", 3));
     }
     void cleanup() { m_folder.reset(); }
 
@@ -174,22 +135,22 @@ private slots:
     void runsOutOfSpace()
     {
         QFETCH(QString, target);
-        putFile(path(QStringLiteral("new.json")), lessonText("new", 3));
-        QCOMPARE(run(convert(QStringLiteral("new.json"), QStringLiteral("new"))), 0);
-        QCOMPARE(run(convert(QStringLiteral("old.json"), target)), 0);
+        putFile(path("new.json"), lessonText("new", 3));
+        QCOMPARE(run(convert("new.json"_s, "new"_s)), 0);
+        QCOMPARE(run(convert("old.json"_s, target)), 0);
         const auto before = contentOf(path(target));
 
         QString message;
-        QCOMPARE(run(convert(QStringLiteral("new"), target), allowSmallFilesOnly, &message), 2);
+        QCOMPARE(run(convert("new"_s, target), allowSmallFilesOnly, &message), 2);
         QCOMPARE(message.count(QLatin1Char('\n')), 1);
-        QVERIFY2(message.contains(target) && message.contains(QLatin1String("room")), qPrintable(message));
+        QVERIFY2(message.contains(target) && message.contains("room"), qPrintable(message));
         QCOMPARE(contentOf(path(target)), before);
         QVERIFY2(hiddenEntries().isEmpty(), qPrintable(hiddenEntries().join(QLatin1Char(' '))));
 
         // The same as a death in the middle of a write.
-        QCOMPARE(run(convert(QStringLiteral("new"), target), diePastSmallFiles), -1);
+        QCOMPARE(run(convert("new"_s, target), diePastSmallFiles), -1);
         QCOMPARE(contentOf(path(target)), before);
-        QCOMPARE(run(convert(QStringLiteral("new"), target)), 0);
+        QCOMPARE(run(convert("new"_s, target)), 0);
         QVERIFY(contentOf(path(target)) != before);
         QVERIFY2(hiddenEntries().isEmpty(), qPrintable(hiddenEntries().join(QLatin1Char(' '))));
     }
@@ -199,59 +160,56 @@ private slots:
     void leavesProtectedTargetsAlone()
     {
         QFETCH(QString, target);
-        if (run({QStringLiteral("--version")}, becomeNobody) != 0) {
+        if (run({"--version"_s}, becomeNobody) != 0) {
             QSKIP("the build lies where another user can't reach it");
         }
-        QFile::setPermissions(path(QStringLiteral("old.json")), QFile::Permissions(0x4444));
-        QCOMPARE(run(convert(QStringLiteral("old.json"), target)), 0);
+        QFile::setPermissions(path("old.json"), QFile::Permissions(0x4444));
+        QCOMPARE(run(convert("old.json"_s, target)), 0);
         const auto before = contentOf(path(target));
         const QFile::Permissions readable = QFile::ReadOwner | QFile::ReadOther | QFile::ReadGroup | QFile::ExeOwner
             | QFile::ExeOther | QFile::ExeGroup;
         QVERIFY(QFile::setPermissions(m_folder->path(), readable));
         QString message;
-        const int code = run(convert(QStringLiteral("old.json"), target), becomeNobody, &message);
+        const int code = run(convert("old.json"_s, target), becomeNobody, &message);
         QFile::setPermissions(m_folder->path(), readable | QFile::WriteOwner);
         QCOMPARE(code, 2);
-        QVERIFY2(message.contains(QLatin1String("Check that you may write there")), qPrintable(message));
+        QVERIFY2(message.contains("Check that you may write there"), qPrintable(message));
         QCOMPARE(contentOf(path(target)), before);
     }
 
     void refusesPlacesThatHoldNoFiles_data()
     {
-        QTest::addColumn<QString>("target");
-        QTest::newRow("kernel") << QStringLiteral("/proc/out.json");
-        QTest::newRow("device") << QStringLiteral("/dev/full/out.json");
-        QTest::newRow("below a file") << QStringLiteral("old.json/out.zqtx");
+        const Table<QString> row("target");
+        row("kernel", "/proc/out.json");
+        row("device", "/dev/full/out.json");
+        row("below a file", "old.json/out.zqtx");
     }
 
     void refusesPlacesThatHoldNoFiles()
     {
         QFETCH(QString, target);
         QString message;
-        QCOMPARE(run(convert(QStringLiteral("old.json"), target), {}, &message), 2);
+        QCOMPARE(run(convert("old.json"_s, target), {}, &message), 2);
         QCOMPARE(message.count(QLatin1Char('\n')), 1);
-        QCOMPARE(fileContent(path(QStringLiteral("old.json"))), lessonText("old", 3));
+        QCOMPARE(fileContent(path("old.json")), lessonText("old", 3));
     }
 
     // A file that goes while the lesson is read is named; what was read before stays right.
     void missesInputsThatGo_data()
     {
-        QTest::addColumn<QString>("input");
-        QTest::addColumn<QString>("named");
-        QTest::newRow("folder") << QStringLiteral("in") << QStringLiteral("slides/old0.xml");
-        QTest::newRow("archive") << QStringLiteral("in.zqtx") << QString();
-        QTest::newRow("JSON") << QStringLiteral("in.json") << QString();
-        QTest::newRow("IWB") << QStringLiteral("in.iwb") << QString();
+        const Table<QString, QString> row("input", "named");
+        row("folder", "in", "slides/old0.xml");
+        row("archive", "in.zqtx", nullptr);
+        row("JSON", "in.json", nullptr);
+        row("IWB", "in.iwb", nullptr);
     }
 
     void missesInputsThatGo()
     {
         QFETCH(QString, input);
         QFETCH(QString, named);
-        QCOMPARE(run(convert(QStringLiteral("old.json"), input)), 0);
-        LessonContext context;
-        context.plugin = plugin();
-        const auto reader = lessonFormatOfInput(path(input)).open(path(input), context);
+        QCOMPARE(run(convert("old.json"_s, input)), 0);
+        const auto reader = openLesson(path(input));
         QCOMPARE(reader->slideCount(), 3);
         QVERIFY(QFileInfo(path(input)).isDir() ? QDir(path(input)).removeRecursively() : QFile::remove(path(input)));
         QString message;
@@ -268,27 +226,27 @@ private slots:
     void isKilledAtAnyMoment()
     {
         QFETCH(QString, target);
-        putFile(path(QStringLiteral("new.json")), lessonText("new", 60));
+        putFile(path("new.json"), lessonText("new", 60));
         QElapsedTimer timer;
         timer.start();
-        QCOMPARE(run(convert(QStringLiteral("new.json"), target)), 0);
+        QCOMPARE(run(convert("new.json"_s, target)), 0);
         const int duration = int(timer.elapsed());
         const auto whole = contentOf(path(target));
-        QCOMPARE(run(convert(QStringLiteral("old.json"), target)), 0);
+        QCOMPARE(run(convert("old.json"_s, target)), 0);
         const auto old = contentOf(path(target));
         QVERIFY(whole != old);
 
         std::minstd_rand random(uint(target.size()));
         for (int i = 0; i < 13; ++i) {
             Command command;
-            start(command, convert(i % 2 ? QStringLiteral("old.json") : QStringLiteral("new.json"), target));
+            command.begin(convert(i % 2 ? "old.json"_s : "new.json"_s, target), m_folder->path());
             QTest::qSleep(int(random() % uint(duration)) + 1);
             command.kill();
             command.waitForFinished();
             const auto found = contentOf(path(target));
             QVERIFY2(found == old || found == whole, qPrintable(found.keys().join(QLatin1Char(' '))));
         }
-        QCOMPARE(run(convert(QStringLiteral("new.json"), target)), 0);
+        QCOMPARE(run(convert("new.json"_s, target)), 0);
         QCOMPARE(contentOf(path(target)), whole);
         QVERIFY2(hiddenEntries().isEmpty(), qPrintable(hiddenEntries().join(QLatin1Char(' '))));
     }

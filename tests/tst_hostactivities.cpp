@@ -1,13 +1,10 @@
-#include "conversion.h"
-#include "lossreport.h"
-#include "pluginfixture.h"
+#include "hostfixture.h"
 #include "xmlloader.h"
 
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -16,20 +13,6 @@ namespace {
 QString withData(const QString &text)
 {
     return QString(text).replace("DATA", QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void put(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
 }
 
 } // namespace
@@ -44,34 +27,15 @@ class TestHostActivities : public QObject
 
 private:
     QTemporaryDir m_folder;
-    LossReport m_losses;
 
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
-
-    void convert(const QString &input, const QString &output)
-    {
-        LessonContext context;
-        context.plugin = plugin();
-        context.losses = &m_losses;
-        convertLesson(lessonFormatOfInput(input), input, lessonFormatOfOutput(output), output, context,
-                      [](int, int) {});
-    }
 
     QString lessonWith(const QJsonObject &activity) const
     {
         const QJsonObject slide{{"ID", "1"}, {"activity", activity}};
         const QString file = path("lesson.json");
-        put(file, QJsonDocument(QJsonObject{{"Slides", QJsonArray{slide}}}).toJson());
+        putFile(file, QJsonDocument(QJsonObject{{"Slides", QJsonArray{slide}}}).toJson());
         return file;
-    }
-
-    QStringList lostKeys() const
-    {
-        QStringList keys;
-        for (const Loss &loss : m_losses.entries()) {
-            keys.append(loss.key);
-        }
-        return keys;
     }
 
 private slots:
@@ -81,7 +45,6 @@ private slots:
     {
         QDir(m_folder.path()).removeRecursively();
         QDir().mkpath(m_folder.path());
-        m_losses = {};
         QDir::setSearchPaths("imageDir", {"/i/", "/j/"});
     }
 
@@ -135,16 +98,15 @@ private slots:
                                        : written);
         for (int trip = 1; trip <= 3; ++trip) {
             const QString package = m_folder.filePath(QString::number(trip));
-            convert(file, package);
+            QCOMPARE(convertedLesson(file, package).summary(), QString());
             const QDomDocument slide = loadXmlFile(package + "/slides/1.xml");
             QCOMPARE(toText(slide.documentElement().firstChildElement("activity").firstChildElement("templet")),
                      toText(expected));
             file = package + ".json";
-            convert(package, file);
+            QCOMPARE(convertedLesson(package, file).summary(), QString());
         }
-        QCOMPARE(m_losses.summary(), QString());
-        QCOMPARE(contentOf(path("3/slides/1.xml")), contentOf(path("1/slides/1.xml")));
-        QCOMPARE(contentOf(path("3.json")), contentOf(path("1.json")));
+        QCOMPARE(fileContent(path("3/slides/1.xml")), fileContent(path("1/slides/1.xml")));
+        QCOMPARE(fileContent(path("3.json")), fileContent(path("1.json")));
     }
 
     // An editor that opens the package has its paths again.
@@ -154,7 +116,7 @@ private slots:
                                                "'backgroundx2':'DATA/b.png','board':'DATA/ClassActivity/c.png',"
                                                "'container':{'path':'DATA/ClassActivity/p.png'}}")
                                           .toUtf8());
-        convert(lessonWith({{"type", "Grouping"}, {"templet", look}}), path("out"));
+        convertedLesson(lessonWith({{"type", "Grouping"}, {"templet", look}}), path("out"));
         const QDomDocument slide = loadXmlFile(path("out/slides/1.xml"));
         const QJsonObject read = plugin()->tranSlideZQTX2JSON(slide.documentElement(), {});
         const QJsonObject found = read.value("activity").toObject().value("templet").toObject();
@@ -167,17 +129,18 @@ private slots:
     void picturesOfTheDataTravel()
     {
         const QString shared = withData("DATA/ClassActivity/Reading/a.png");
-        put(shared, "picture");
+        putFile(shared, "picture");
         const QString outside = withData("DATA/../outside.png");
-        put(outside, "secret");
-        put(path("in/index.xml"), "<main><slides><file href=\"slides/1.xml\"/></slides></main>");
-        put(path("in/slides/1.xml"),
+        putFile(outside, "secret");
+        putFile(path("in/index.xml"), "<main><slides><file href=\"slides/1.xml\"/></slides></main>");
+        putFile(
+            path("in/slides/1.xml"),
             R"(<slide id="1"><background><color value=""/><picture document=""/></background><items/><activity>)"
             R"(<templet index="3"><background pic="x/ActivityInfo/Reading/a.png"/>)"
             R"(<board pic="/../outside.png"/><container path="/ClassActivity/none.png"/></templet></activity></slide>)");
-        convert(path("in"), path("out.json"));
-        convert(path("out.json"), path("out"));
-        QCOMPARE(contentOf(path("out/ClassActivity/Reading/a.png")), "picture");
+        convertedLesson(path("in"), path("out.json"));
+        convertedLesson(path("out.json"), path("out"));
+        QCOMPARE(fileContent(path("out/ClassActivity/Reading/a.png")), "picture");
         QCOMPARE(QDir(path("out")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList({"ClassActivity", "index.xml", "slides"}));
         QFile::remove(shared);
@@ -186,41 +149,43 @@ private slots:
 
     void lossesAreNamed_data()
     {
-        QTest::addColumn<QString>("activity");
-        QTest::addColumn<QStringList>("keys");
-        QTest::newRow("rows without content")
-            << "{'type':'Comparison','matchs':[[{'id':'1','condition':'3'},{'id':'2'},{'id':'3','symbol':'='},"
-               "{'id':'4'},{'id':'5','condition':'3'}],[{'id':'6'}]]}"
-            << QStringList{"activity.matchs[0][1]", "activity.matchs[0][3]", "activity.matchs[1][0]"};
-        QTest::newRow("a row with both")
-            << "{'type':'Comparison','matchs':[[{'id':'1','condition':'3','symbol':'='},{'id':'2','symbol':'<'}]]}"
-            << QStringList{"activity.matchs[0][0].symbol"};
-        QTest::newRow("material without its place for text")
-            << "{'type':'Grouping','templet':{'material':{'font_color':'#f','path':'a.png'}}}"
-            << QStringList{"activity.templet.material"};
-        QTest::newRow("a text that no form takes") << "{'type':'PronunciationGame','matchs':['a','b']}"
-                                                   << QStringList{"activity.matchs[0]", "activity.matchs[1]"};
-        QTest::newRow("colours of what matches nothing")
-            << "{'type':'Grouping','unmatchs':[{'materials':[{'id':'1','juxtaposedColor':'#f'},{'id':'2'}]}]}"
-            << QStringList{"activity.unmatchs[0].materials[0].juxtaposedColor"};
-        QTest::newRow("a group of answers with two names")
-            << "{'type':'Grouping','matchs':[{'answers':[{'a':['1'],'b':['2']},{}]}]}"
-            << QStringList{"activity.matchs[0].answers[0].b"};
-        QTest::newRow("two backgrounds") << "{'background':'a.png','templet':{'background':'b.png'}}"
-                                         << QStringList{"activity.background"};
-        QTest::newRow("one background beside its place")
-            << "{'background':'/i/Canvas/a.png','templet':{'index':'1'}}" << QStringList{};
-        QTest::newRow("numbers and flags") << "{'type':'Judgment','countdown':5,'templet':{'index':2},"
-                                              "'matchs':[{'question':7,'answer':true}]}"
-                                           << QStringList{};
+        const Table<QString, QStringList> row("activity", "keys");
+        row("rows without content",
+            "{'type':'Comparison','matchs':[[{'id':'1','condition':'3'},{'id':'2'},{'id':'3','symbol':'='},"
+            "{'id':'4'},{'id':'5','condition':'3'}],[{'id':'6'}]]}",
+            {"activity.matchs[0][1]", "activity.matchs[0][3]", "activity.matchs[1][0]"});
+        row("a row with both",
+            "{'type':'Comparison','matchs':[[{'id':'1','condition':'3','symbol':'='},{'id':'2','symbol':'<'}]]}",
+            {"activity.matchs[0][0].symbol"});
+        row("material without its place for text",
+            "{'type':'Grouping','templet':{'material':{'font_color':'#f','path':'a.png'}}}",
+            {"activity.templet.material"});
+        row("a text that no form takes", "{'type':'PronunciationGame','matchs':['a','b']}",
+            {"activity.matchs[0]", "activity.matchs[1]"});
+        row("colours of what matches nothing",
+            "{'type':'Grouping','unmatchs':[{'materials':[{'id':'1','juxtaposedColor':'#f'},{'id':'2'}]}]}",
+            {"activity.unmatchs[0].materials[0].juxtaposedColor"});
+        row("a group of answers with two names",
+            "{'type':'Grouping','matchs':[{'answers':[{'a':['1'],'b':['2']},{}]}]}",
+            {"activity.matchs[0].answers[0].b"});
+        row("two backgrounds", "{'background':'a.png','templet':{'background':'b.png'}}", {"activity.background"});
+        row("one background beside its place", "{'background':'/i/Canvas/a.png','templet':{'index':'1'}}", {});
+        row("numbers and flags",
+            "{'type':'Judgment','countdown':5,'templet':{'index':2},"
+            "'matchs':[{'question':7,'answer':true}]}",
+            {});
     }
 
     void lossesAreNamed()
     {
         QFETCH(QString, activity);
         QFETCH(QStringList, keys);
-        convert(lessonWith(json(activity.toUtf8())), path("out"));
-        QCOMPARE(lostKeys(), keys);
+        QStringList lost;
+        const LossReport losses = convertedLesson(lessonWith(json(activity)), path("out"));
+        for (const Loss &loss : losses.entries()) {
+            lost.append(loss.key);
+        }
+        QCOMPARE(lost, keys);
     }
 };
 

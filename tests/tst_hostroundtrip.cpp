@@ -1,36 +1,8 @@
-#include "conversion.h"
-#include "lossreport.h"
-#include "pluginfixture.h"
+#include "hostfixture.h"
 
 #include <QDirIterator>
 #include <QLoggingCategory>
-#include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-// All files below a folder with their content.
-QMap<QString, QByteArray> contentOf(const QString &folder)
-{
-    QMap<QString, QByteArray> files;
-    const QDir root(folder);
-    QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        QFile file(it.next());
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(root.relativeFilePath(it.filePath()), file.readAll());
-        }
-    }
-    return files;
-}
-
-QByteArray contentOfFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 /*!
  * Every example goes through the formats and comes back whole, without a word in the report.
@@ -42,55 +14,49 @@ class TestHostRoundTrip : public QObject
 private:
     static QString convert(const QString &input, const QString &output)
     {
-        LossReport losses;
-        LessonContext context;
-        context.plugin = plugin();
-        context.losses = &losses;
-        convertLesson(lessonFormatOfInput(input), input, lessonFormatOfOutput(output), output, context,
-                      [](int, int) {});
-        return losses.summary();
+        return convertedLesson(input, output).summary();
     }
 
     // start: what the files begin with, behind their declaration and comments.
     static void addExamples(const QStringList &names, const QByteArray &start)
     {
-        QTest::addColumn<QString>("example");
-        QDirIterator it(QStringLiteral(EXAMPLES_DIR), names, QDir::Files, QDirIterator::Subdirectories);
+        const Table<QString> row("example");
+        QDirIterator it(QString(EXAMPLES_DIR), names, QDir::Files, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString path = it.next();
-            if (!contentOfFile(path).contains(start)) {
+            if (!fileContent(path).contains(start)) {
                 continue;
             }
-            const QString lesson = path.endsWith(QLatin1String("/index.xml")) ? it.fileInfo().path() : path;
-            QTest::newRow(qPrintable(QDir(QStringLiteral(EXAMPLES_DIR)).relativeFilePath(lesson))) << lesson;
+            const QString lesson = path.endsWith("/index.xml") ? it.fileInfo().path() : path;
+            row(qPrintable(QDir(QString(EXAMPLES_DIR)).relativeFilePath(lesson)), lesson);
         }
     }
 
 private slots:
     // The plug-in logs whole mind maps.
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+    void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"_s); }
 
-    void packagesComeBack_data() { addExamples({QStringLiteral("index.xml"), QStringLiteral("*.zqtx")}, {}); }
+    void packagesComeBack_data() { addExamples({"index.xml"_s, "*.zqtx"_s}, {}); }
 
     void packagesComeBack()
     {
         QFETCH(QString, example);
         QTemporaryDir folder;
-        const QString json = folder.filePath(QStringLiteral("1.json"));
-        const QString package = folder.filePath(QStringLiteral("2"));
-        const QString archive = folder.filePath(QStringLiteral("3.zqtx"));
-        const QString secondPackage = folder.filePath(QStringLiteral("4"));
-        const QString secondJson = folder.filePath(QStringLiteral("5.json"));
+        const QString json = folder.filePath("1.json");
+        const QString package = folder.filePath("2");
+        const QString archive = folder.filePath("3.zqtx");
+        const QString secondPackage = folder.filePath("4");
+        const QString secondJson = folder.filePath("5.json");
         QCOMPARE(convert(example, json), QString());
         QCOMPARE(convert(json, package), QString());
         QCOMPARE(convert(package, archive), QString());
         QCOMPARE(convert(archive, secondPackage), QString());
         QCOMPARE(convert(secondPackage, secondJson), QString());
 
-        QCOMPARE(contentOfFile(secondJson), contentOfFile(json));
-        QCOMPARE(contentOf(secondPackage), contentOf(package));
+        QCOMPARE(fileContent(secondJson), fileContent(json));
+        QCOMPARE(filesBelow(secondPackage), filesBelow(package));
         if (QFileInfo(example).isDir()) {
-            QCOMPARE(contentOf(package), contentOf(example));
+            QCOMPARE(filesBelow(package), filesBelow(example));
         }
     }
 
@@ -98,40 +64,38 @@ private slots:
     void deepMindMapsComeBack()
     {
         QTemporaryDir folder;
-        const QString json = folder.filePath(QStringLiteral("1.json"));
-        QFile file(json);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(R"({"Slides":[{"ID":"1","Items":[{"Type":"ZQMindMapItem","mindMapData":[{},{},)"
-                   + QByteArray(R"({"nodeHtml":"a < b","childNodes":[)").repeated(511) + R"({"nodeHtml":"last"})"
-                   + QByteArray("]}").repeated(511) + "]}]}]}");
-        file.close();
-        const QString package = folder.filePath(QStringLiteral("2"));
-        const QString secondJson = folder.filePath(QStringLiteral("3.json"));
-        const QString secondPackage = folder.filePath(QStringLiteral("4"));
+        const QString json = folder.filePath("1.json");
+        putFile(json,
+                R"({"Slides":[{"ID":"1","Items":[{"Type":"ZQMindMapItem","mindMapData":[{},{},)"
+                    + QByteArray(R"({"nodeHtml":"a < b","childNodes":[)").repeated(511) + R"({"nodeHtml":"last"})"
+                    + QByteArray("]}").repeated(511) + "]}]}]}");
+        const QString package = folder.filePath("2");
+        const QString secondJson = folder.filePath("3.json");
+        const QString secondPackage = folder.filePath("4");
         QCOMPARE(convert(json, package), QString());
         QCOMPARE(convert(package, secondJson), QString());
         QCOMPARE(convert(secondJson, secondPackage), QString());
-        QCOMPARE(contentOf(secondPackage), contentOf(package));
-        QCOMPARE(contentOfFile(secondJson).count("a < b"), 511);
+        QCOMPARE(filesBelow(secondPackage), filesBelow(package));
+        QCOMPARE(fileContent(secondJson).count("a < b"), 511);
     }
 
-    void rawLessonsAreReadWhole_data() { addExamples({QStringLiteral("*.xml")}, "<presentation"); }
+    void rawLessonsAreReadWhole_data() { addExamples({"*.xml"_s}, "<presentation"); }
 
     void rawLessonsAreReadWhole()
     {
         QFETCH(QString, example);
         QTemporaryDir folder;
-        QCOMPARE(convert(example, folder.filePath(QStringLiteral("1.json"))), QString());
+        QCOMPARE(convert(example, folder.filePath("1.json")), QString());
     }
 
     void rawPicturesKeepTheirFile()
     {
         QTemporaryDir folder;
-        const QString package = folder.filePath(QStringLiteral("package"));
-        const QString losses = convert(QStringLiteral(EXAMPLES_DIR "/rawxml/standard.xml"), package);
+        const QString package = folder.filePath("package");
+        const QString losses = convert(EXAMPLES_DIR "/rawxml/standard.xml"_s, package);
         QVERIFY2(!losses.contains("MultiMediaFile"), qPrintable(losses));
-        QVERIFY(contentOfFile(package + "/slides/2.xml").contains("resource=\"resources/bamboo.png\""));
-        QVERIFY(contentOf(package).contains("resources/bamboo.png"));
+        QVERIFY(fileContent(package + "/slides/2.xml").contains("resource=\"resources/bamboo.png\""));
+        QVERIFY(filesBelow(package).contains("resources/bamboo.png"));
     }
 };
 

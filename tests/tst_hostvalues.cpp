@@ -35,7 +35,7 @@ private slots:
         QTest::addColumn<QString>("version");
         QTest::addColumn<QJsonObject>("item");
         const auto row = [](const char *name, const char *text, const char *version = "3.0") {
-            QTest::newRow(name) << QString::fromLatin1(version) << json(text);
+            QTest::newRow(name) << version << json(text);
         };
         row("weight and time of chalk",
             "{'Type':'ZQChalkStroke','Weight':'0.5,1','Time':'0,16','PointBrushWid':'3,4'}");
@@ -111,8 +111,8 @@ private slots:
     // Old lessons store points relative to the first one.
     void writesOffsetsForOldLessons()
     {
-        QCOMPARE(pointsAsOffsets(QStringLiteral("10,20,1,2,3,4,-5,0.5")), QStringLiteral("10,20,1,2,4,6,-1,6.5"));
-        QCOMPARE(pointsAsOffsets(QStringLiteral("10,20")), QStringLiteral("10,20"));
+        QCOMPARE(pointsAsOffsets("10,20,1,2,3,4,-5,0.5"_s), "10,20,1,2,4,6,-1,6.5"_s);
+        QCOMPARE(pointsAsOffsets("10,20"_s), "10,20"_s);
         QCOMPARE(pointsAsOffsets(QString()), QString());
     }
 
@@ -121,10 +121,10 @@ private slots:
         LossReport losses;
         CarriedCheck check(&losses);
         const ZqtxItems items(plugin(), {});
-        const QDomElement stroke = xml(QStringLiteral(
+        const QDomElement stroke = xml(
             R"(<stroke id="1" type="Curve" color="#ff000000" width="5" visible="1" locked="0" uclone="0" mood="good">)"
             R"(<transform><rotate angle="0"/></transform><data><vertex points="1,2"/><path_width points=""/>)"
-            R"(<rect points="0,0,1,1" tilt="3"/></data><note>Look!</note></stroke>)"));
+            R"(<rect points="0,0,1,1" tilt="3"/></data><note>Look!</note></stroke>)");
         items.read(stroke, {}, &check);
         QStringList keys;
         for (const Loss &loss : losses.entries()) {

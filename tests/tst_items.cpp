@@ -6,22 +6,20 @@ namespace {
 
 QJsonObject context(const char *sourceRect = "0,0,1024,768", const char *tags = "", const char *version = "4.0")
 {
-    const QJsonObject slide{{QStringLiteral("SlideSourceRect"), QLatin1String(sourceRect)},
-                            {QStringLiteral("SlideTagsInfo"), QLatin1String(tags)}};
-    return {{QStringLiteral("slide"), slide},
-            {QStringLiteral("pres"), QJsonObject{{QStringLiteral("Version"), QLatin1String(version)}}}};
+    const QJsonObject slide{{"SlideSourceRect"_s, QLatin1String(sourceRect)}, {"SlideTagsInfo"_s, QLatin1String(tags)}};
+    return {{"slide"_s, slide}, {"pres"_s, QJsonObject{{"Version"_s, QLatin1String(version)}}}};
 }
 
 QJsonObject withVersion(const QString &version)
 {
-    return {{QStringLiteral("pres"), QJsonObject{{QStringLiteral("Version"), version}}}};
+    return {{"pres"_s, QJsonObject{{"Version"_s, version}}}};
 }
 
 QStringList idsOf(const QJsonValue &children)
 {
     QStringList ids;
     for (const QJsonValue &child : children.toArray()) {
-        ids.append(child.toObject().value(QLatin1String("ID")).toString());
+        ids.append(child.toObject().value("ID").toString());
     }
     return ids;
 }
@@ -38,75 +36,64 @@ class TestItems : public QObject
 private slots:
     void generatesAnIdForARawItemWithoutNetId()
     {
-        const QDomElement withId = xml(QStringLiteral(R"(<ZQSmoothStroke NetID="7" ID="8"/>)"));
-        QCOMPARE(plugin()->tranItemXML2JSON(withId, context()).value(QLatin1String("ID")).toString(),
-                 QStringLiteral("7"));
-        QCOMPARE(withId.attribute(QStringLiteral("ID")), QStringLiteral("8"));
+        const QDomElement withId = xml(R"(<ZQSmoothStroke NetID="7" ID="8"/>)");
+        QCOMPARE(plugin()->tranItemXML2JSON(withId, context()).value("ID").toString(), "7"_s);
+        QCOMPARE(withId.attribute("ID"), "8"_s);
 
-        const QDomElement without = xml(QStringLiteral(R"(<ZQSmoothStroke ID="8"/>)"));
-        const QString first = plugin()->tranItemXML2JSON(without, context()).value(QLatin1String("ID")).toString();
-        QCOMPARE(without.attribute(QStringLiteral("ID")), first);
-        const QString second = plugin()->tranItemXML2JSON(without, context()).value(QLatin1String("ID")).toString();
+        const QDomElement without = xml(R"(<ZQSmoothStroke ID="8"/>)");
+        const QString first = plugin()->tranItemXML2JSON(without, context()).value("ID").toString();
+        QCOMPARE(without.attribute("ID"), first);
+        const QString second = plugin()->tranItemXML2JSON(without, context()).value("ID").toString();
         QVERIFY(first.toLongLong() < second.toLongLong());
     }
 
     void readsCommonRawKeys_data()
     {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QJsonValue>("value");
-
-        const auto row = [](const char *name, const char *attributes, const char *key, const QJsonValue &value) {
-            QTest::newRow(name) << QString::fromLatin1(attributes) << QString::fromLatin1(key) << value;
-        };
-        row("bound: parts 4, 5, 0, 1", "Bound='30,40,5,6,10,20'", "BoundingBox", QStringLiteral("10,20,30,40"));
-        row("bound too short", "Bound='30,40,5'", "BoundingBox", QStringLiteral("30,40,5"));
+        const Table<QString, QString, QJsonValue> row("attributes", "key", "value");
+        row("bound: parts 4, 5, 0, 1", "Bound='30,40,5,6,10,20'", "BoundingBox", "10,20,30,40"_s);
+        row("bound too short", "Bound='30,40,5'", "BoundingBox", "30,40,5"_s);
         row("visible missing", "", "Visible", true);
         row("visible 0", "Visible='0'", "Visible", false);
         row("visible 2", "Visible='2'", "Visible", true);
         row("visible abc reads as 0", "Visible='abc'", "Visible", false);
-        row("lock missing", "", "LockIn", QStringLiteral("0"));
-        row("lock 5", "LockIn='5'", "LockIn", QStringLiteral("1"));
-        row("clone abc", "InfiniteClone='abc'", "InfiniteClone", QStringLiteral("0"));
+        row("lock missing", "", "LockIn", "0"_s);
+        row("lock 5", "LockIn='5'", "LockIn", "1"_s);
+        row("clone abc", "InfiniteClone='abc'", "InfiniteClone", "0"_s);
         row("angle missing", "", "Angle", QJsonValue(QJsonValue::Undefined));
         // 1440 / 1024 = 1.40625 = 1080 / 768, so nothing is left to centre.
-        row("matrix is the fit", "", "Matrix", QStringLiteral("1.40625,0,0,1.40625,0,0"));
-        row("matrix times fit", "TransformMatrix='2,0,0,2,10,20'", "Matrix",
-            QStringLiteral("2.8125,0,0,2.8125,14.0625,28.125"));
-        row("matrix too short", "TransformMatrix='2,0,0'", "Matrix", QStringLiteral("2,0,0"));
+        row("matrix is the fit", "", "Matrix", "1.40625,0,0,1.40625,0,0"_s);
+        row("matrix times fit", "TransformMatrix='2,0,0,2,10,20'", "Matrix", "2.8125,0,0,2.8125,14.0625,28.125"_s);
+        row("matrix too short", "TransformMatrix='2,0,0'", "Matrix", "2,0,0"_s);
     }
     void readsCommonRawKeys()
     {
         QFETCH(QString, attributes);
         QFETCH(QString, key);
         QFETCH(QJsonValue, value);
-        const QDomElement element = xml(QStringLiteral("<ZQSmoothStroke %1/>").arg(attributes));
+        const QDomElement element = xml("<ZQSmoothStroke %1/>"_s.arg(attributes));
         QCOMPARE(plugin()->tranItemXML2JSON(element, context()).value(key), value);
     }
 
     void fitsTheSourceRectangleIntoThePage_data()
     {
-        QTest::addColumn<QByteArray>("source");
-        QTest::addColumn<QString>("fit");
-
-        QTest::newRow("4:3") << QByteArray("0,0,720,540") << QStringLiteral("2,0,0,2,0,0");
-        QTest::newRow("16:9") << QByteArray("0,0,1280,720") << QStringLiteral("1.5,0,0,1.5,0,0");
-        QTest::newRow("16:10") << QByteArray("0,0,1536,960") << QStringLiteral("1.125,0,0,1.125,0,0");
+        const Table<QByteArray, QString> row("source", "fit");
+        row("4:3", "0,0,720,540", "2,0,0,2,0,0");
+        row("16:9", "0,0,1280,720", "1.5,0,0,1.5,0,0");
+        row("16:10", "0,0,1536,960", "1.125,0,0,1.125,0,0");
         // Square: nearest to 4:3. Scale 1080 / 135, and 180 to centre 1080 in 1440.
-        QTest::newRow("square") << QByteArray("0,0,135,135") << QStringLiteral("8,0,0,8,180,0");
+        row("square", "0,0,135,135", "8,0,0,8,180,0");
         // The corner 10,20 goes to the page's corner.
-        QTest::newRow("moved") << QByteArray("10,20,1024,768")
-                               << QStringLiteral("1.40625,0,0,1.40625,-14.0625,-28.125");
-        QTest::newRow("none") << QByteArray("") << QStringLiteral("1,0,0,1,0,0");
+        row("moved", "10,20,1024,768", "1.40625,0,0,1.40625,-14.0625,-28.125");
+        row("none", "", "1,0,0,1,0,0");
     }
     void fitsTheSourceRectangleIntoThePage()
     {
         QFETCH(QByteArray, source);
         QFETCH(QString, fit);
-        const QDomElement element = xml(QStringLiteral("<ZQSmoothStroke/>"));
+        const QDomElement element = xml("<ZQSmoothStroke/>");
         const QJsonObject item = plugin()->tranItemXML2JSON(element, context(source.constData()));
-        QCOMPARE(item.value(QLatin1String("SlideMatrix")).toString(), fit);
-        QCOMPARE(item.value(QLatin1String("Matrix")).toString(), fit);
+        QCOMPARE(item.value("SlideMatrix").toString(), fit);
+        QCOMPARE(item.value("Matrix").toString(), fit);
     }
 
     void takesLinksFromTheTagsOfTheSlide()
@@ -116,23 +103,17 @@ private slots:
             "<x value='1'><s><interactiveType value='ACTION_OPENWEB'/><reservation value='http://a.b'/></s></x>"
             "</interactive>";
         const auto read = [tags](const char *id) {
-            const QString text = QStringLiteral("<ZQSmoothStroke NetID='%1'/>").arg(QLatin1String(id));
+            const QString text = "<ZQSmoothStroke NetID='%1'/>"_s.arg(QLatin1String(id));
             return plugin()->tranItemXML2JSON(xml(text), context("0,0,1024,768", tags));
         };
-        QCOMPARE(read("1").value(QLatin1String("InteractiveType")).toString(), QStringLiteral("ACTION_OPENWEB"));
-        QCOMPARE(read("1").value(QLatin1String("InteractiveValue")).toString(), QStringLiteral("http://a.b"));
-        QVERIFY(!read("2").contains(QLatin1String("InteractiveType")));
+        QCOMPARE(read("1").value("InteractiveType").toString(), "ACTION_OPENWEB"_s);
+        QCOMPARE(read("1").value("InteractiveValue").toString(), "http://a.b"_s);
+        QVERIFY(!read("2").contains("InteractiveType"));
     }
 
     void readsZqtx_data()
     {
-        QTest::addColumn<QString>("element");
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<QJsonObject>("expected");
-
-        const auto row = [](const char *name, const char *element, const char *version, const char *expected) {
-            QTest::newRow(name) << QString::fromLatin1(element) << QString::fromLatin1(version) << json(expected);
-        };
+        const Table<QString, QString, QJsonObject> row("element", "version", "expected");
         row("defaults", "<stroke type='Curve'/>", "3",
             "{'Type':'ZQSmoothStroke','Visible':true,'LockIn':'0','InfiniteClone':'0','Color':'#ffff0000',"
             "'Width':'5.0'}");
@@ -170,8 +151,7 @@ private slots:
         QTest::addColumn<QString>("expected");
 
         const auto row = [](const char *version, const char *points, const char *expected) {
-            QTest::addRow("version %s: %s", version, points)
-                << QString::fromLatin1(version) << QString::fromLatin1(points) << QString::fromLatin1(expected);
+            QTest::addRow("version %s: %s", version, points) << version << points << expected;
         };
         row("3.1", "10,20,1,2,4,6", "10,20,1,2,4,6");
         row("4", "10,20,1,2,4,6", "10,20,1,2,4,6");
@@ -188,24 +168,14 @@ private slots:
         QFETCH(QString, version);
         QFETCH(QString, points);
         QFETCH(QString, expected);
-        const QString text =
-            QStringLiteral("<stroke type='Curve'><data><vertex points='%1'/></data></stroke>").arg(points);
+        const QString text = "<stroke type='Curve'><data><vertex points='%1'/></data></stroke>"_s.arg(points);
         const QJsonObject stroke = plugin()->tranItemZQTX2JSON(xml(text), withVersion(version));
-        QCOMPARE(stroke.value(QLatin1String("XY")).toString(), expected);
+        QCOMPARE(stroke.value("XY").toString(), expected);
     }
 
     void writesZqtx_data()
     {
-        QTest::addColumn<QString>("given");
-        QTest::addColumn<QJsonObject>("item");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("expected");
-
-        const auto row = [](const char *name, const char *given, const char *item, const char *path,
-                            const char *expected) {
-            QTest::newRow(name) << QString::fromLatin1(given) << json(item) << QString::fromLatin1(path)
-                                << (expected ? QString::fromLatin1(expected) : QString());
-        };
+        const Table<QString, QJsonObject, QString, QString> row("given", "item", "path", "expected");
         row("type becomes the ZQTX type", "", "{'Type':'ZQSmoothStroke'}", "@type", "Curve");
         row("visible true", "", "{'Type':'ZQSmoothStroke','Visible':true}", "@visible", "1");
         row("visible as a text", "", "{'Type':'ZQSmoothStroke','Visible':'true'}", "@visible", "0");
@@ -254,10 +224,10 @@ private slots:
 
     void givesElementsWithoutNeighbours_data()
     {
-        QTest::addColumn<QJsonObject>("item");
-        QTest::newRow("declaration in front") << json("{'Type':'ZQImagePic'}");
-        QTest::newRow("declaration and values") << json("{'Type':'ZQChineseAlphabetItem'}");
-        QTest::newRow("a title that ends the map") << json(
+        const Table<QJsonObject> row("item");
+        row("declaration in front", "{'Type':'ZQImagePic'}");
+        row("declaration and values", "{'Type':'ZQChineseAlphabetItem'}");
+        row("a title that ends the map",
             "{'Type':'ZQMindMapItem','mindMapData':[{'title':'</title></mapItemInfo></data></mindmap><!-- x -->'},"
             "{},{}]}");
     }
@@ -273,65 +243,59 @@ private slots:
 
     void keepsTheOrderOfGroups()
     {
-        const QDomElement raw =
-            xml(QStringLiteral("<ZQGroupItem NetID='g' TransformMatrix='2,0,0,2,0,0'><GroupSonItems>"
-                               "<ZQSmoothStroke NetID='a'/><Unknown/><ZQSmoothStroke NetID='b'/>"
-                               "<ZQGroupItem NetID='c'><GroupSonItems><ZQSmoothStroke NetID='d'/></GroupSonItems>"
-                               "</ZQGroupItem></GroupSonItems></ZQGroupItem>"));
+        const QDomElement raw = xml("<ZQGroupItem NetID='g' TransformMatrix='2,0,0,2,0,0'><GroupSonItems>"
+                                    "<ZQSmoothStroke NetID='a'/><Unknown/><ZQSmoothStroke NetID='b'/>"
+                                    "<ZQGroupItem NetID='c'><GroupSonItems><ZQSmoothStroke NetID='d'/></GroupSonItems>"
+                                    "</ZQGroupItem></GroupSonItems></ZQGroupItem>"_s);
         const QJsonObject rawGroup = plugin()->tranItemXML2JSON(raw, context());
-        const QJsonArray rawChildren = rawGroup.value(QLatin1String("Children")).toArray();
-        QCOMPARE(idsOf(rawChildren), QStringList({QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a")}));
-        QCOMPARE(idsOf(rawChildren.first().toObject().value(QLatin1String("Children"))),
-                 QStringList(QStringLiteral("d")));
-        QCOMPARE(rawGroup.value(QLatin1String("Matrix")).toString(), QStringLiteral("2,0,0,2,0,0"));
-        QVERIFY(!rawGroup.contains(QLatin1String("SlideMatrix")));
+        const QJsonArray rawChildren = rawGroup.value("Children").toArray();
+        QCOMPARE(idsOf(rawChildren), QStringList({"c"_s, "b"_s, "a"_s}));
+        QCOMPARE(idsOf(rawChildren.first().toObject().value("Children")), QStringList("d"_s));
+        QCOMPARE(rawGroup.value("Matrix").toString(), "2,0,0,2,0,0"_s);
+        QVERIFY(!rawGroup.contains("SlideMatrix"));
 
-        const QDomElement zqtx =
-            xml(QStringLiteral("<group type='group'><data><rect points='1,2,3,4'/><stroke id='a' type='Curve'/>"
-                               "<stroke id='x' type='Unknown'/><stroke id='b' type='Chalk'/></data></group>"));
-        const QJsonObject group = plugin()->tranItemZQTX2JSON(zqtx, withVersion(QStringLiteral("4")));
-        QCOMPARE(idsOf(group.value(QLatin1String("Children"))),
-                 QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        const QDomElement zqtx = xml("<group type='group'><data><rect points='1,2,3,4'/><stroke id='a' type='Curve'/>"
+                                     "<stroke id='x' type='Unknown'/><stroke id='b' type='Chalk'/></data></group>"_s);
+        const QJsonObject group = plugin()->tranItemZQTX2JSON(zqtx, withVersion("4"_s));
+        QCOMPARE(idsOf(group.value("Children")), QStringList({"a"_s, "b"_s}));
     }
 
     void dropsTheBoxOfVersionThree_data()
     {
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<bool>("keepsBox");
-        QTest::newRow("none") << QString() << true;
-        QTest::newRow("2") << QStringLiteral("2.0") << true;
-        QTest::newRow("3") << QStringLiteral("3.7") << false;
-        QTest::newRow("4") << QStringLiteral("4.0") << true;
+        const Table<QString, bool> row("version", "keepsBox");
+        row("none", nullptr, true);
+        row("2", "2.0", true);
+        row("3", "3.7", false);
+        row("4", "4.0", true);
     }
     void dropsTheBoxOfVersionThree()
     {
         QFETCH(QString, version);
         QFETCH(bool, keepsBox);
         for (const char *type : {"group", "ZQStrokesMathFormula", "ZQStrokesChemFormula"}) {
-            const QString text = QStringLiteral("<group type='%1'><data><rect points='1,2,3,4'/></data></group>")
-                                     .arg(QLatin1String(type));
+            const QString text =
+                "<group type='%1'><data><rect points='1,2,3,4'/></data></group>"_s.arg(QLatin1String(type));
             const QJsonObject item = plugin()->tranItemZQTX2JSON(xml(text), withVersion(version));
-            QCOMPARE(item.contains(QLatin1String("BoundingBox")), keepsBox);
-            QVERIFY(!item.contains(QLatin1String("Children")));
+            QCOMPARE(item.contains("BoundingBox"), keepsBox);
+            QVERIFY(!item.contains("Children"));
         }
     }
 
     void readsRecordsOfDeletedPixels()
     {
         const QDomElement raw =
-            xml(QStringLiteral("<ZQSmoothStroke NetID='1'><PixelDeleteInfos><I x='1'/><I x='2'/></PixelDeleteInfos>"
-                               "</ZQSmoothStroke>"));
-        QCOMPARE(plugin()->tranItemXML2JSON(raw, context()).value(QLatin1String("PixelDeleteInfos")),
-                 QJsonValue(json("{'a':[{'x':'1'},{'x':'2'}]}").value(QLatin1String("a"))));
+            xml("<ZQSmoothStroke NetID='1'><PixelDeleteInfos><I x='1'/><I x='2'/></PixelDeleteInfos>"
+                "</ZQSmoothStroke>"_s);
+        QCOMPARE(plugin()->tranItemXML2JSON(raw, context()).value("PixelDeleteInfos"),
+                 QJsonValue(json("{'a':[{'x':'1'},{'x':'2'}]}").value("a")));
         const auto fromZqtx = [](const char *infos) {
-            const QString text = QStringLiteral("<stroke type='Curve'><element><property pixelDeleteInfos='%1'/>"
-                                                "</element></stroke>")
-                                     .arg(QLatin1String(infos));
-            return plugin()->tranItemZQTX2JSON(xml(text), {}).value(QLatin1String("PixelDeleteInfos"));
+            const QString text = "<stroke type='Curve'><element><property pixelDeleteInfos='%1'/>"
+                                 "</element></stroke>"_s.arg(QLatin1String(infos));
+            return plugin()->tranItemZQTX2JSON(xml(text), {}).value("PixelDeleteInfos");
         };
         QCOMPARE(fromZqtx("[1,2]"), QJsonValue(QJsonArray{1, 2}));
-        QCOMPARE(fromZqtx("[1,2"), QJsonValue(QStringLiteral("[1,2")));
-        QCOMPARE(fromZqtx("{}"), QJsonValue(QStringLiteral("{}")));
+        QCOMPARE(fromZqtx("[1,2"), QJsonValue("[1,2"_s));
+        QCOMPARE(fromZqtx("{}"), QJsonValue("{}"_s));
     }
 };
 

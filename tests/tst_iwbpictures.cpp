@@ -1,26 +1,14 @@
-#include "conversion.h"
-#include "lossreport.h"
-#include "pluginfixture.h"
+#include "hostfixture.h"
 
 #include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
 const QSize pageSize(400, 300);
-
-void write(const QString &file, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(file).path());
-    QFile opened(file);
-    if (!opened.open(QIODevice::WriteOnly) || opened.write(content) != content.size()) {
-        qFatal("can't write %s", qPrintable(file));
-    }
-}
 
 QByteArray svgDocument(const QByteArray &content)
 {
@@ -32,11 +20,7 @@ QByteArray svgDocument(const QByteArray &content)
 // The first page of a package as a document of its own.
 QByteArray pageOf(const QString &package)
 {
-    QFile file(package + QLatin1String("/content.xml"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("no content in %s", qPrintable(package));
-    }
-    const QByteArray content = file.readAll();
+    const QByteArray content = fileContent(package + "/content.xml");
     const int start = content.indexOf("<svg:page ");
     const int end = content.indexOf("</svg:page>");
     return svgDocument("<svg:g " + content.mid(start + 10, end - start - 10) + "</svg:g>");
@@ -70,17 +54,6 @@ int differingPixels(const QImage &one, const QImage &other)
     return count;
 }
 
-QString convert(const QString &from, const QString &to, const char *format)
-{
-    LessonContext context;
-    context.plugin = plugin();
-    LossReport losses;
-    context.losses = &losses;
-    convertLesson(lessonFormatOfInput(from), from, lessonFormatByName(QLatin1String(format)), to, context,
-                  [](int, int) {});
-    return losses.summary();
-}
-
 } // namespace
 
 /*!
@@ -93,8 +66,7 @@ class TestIwbPictures : public QObject
 private slots:
     void foreignPagesLookTheSame_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        const auto row = [](const char *name, const char *content) { QTest::newRow(name) << QByteArray(content); };
+        const Table<QByteArray> row("content");
         row("rectangles",
             "<svg:rect x='10' y='20' width='120' height='80' fill='red'/>"
             "<svg:rect x='96px' y='96' width='200' height='120' style='fill:none;stroke:teal;stroke-width:6px'/>");
@@ -159,29 +131,27 @@ private slots:
         picture.fill(Qt::red);
         picture.setPixelColor(1, 1, Qt::blue);
         QTemporaryDir work;
-        const QString file = work.filePath(QStringLiteral("in/images/a.png"));
+        const QString file = work.filePath("in/images/a.png");
         QDir().mkpath(QFileInfo(file).path());
         QVERIFY(picture.scaled(64, 64).save(file));
-        write(work.filePath(QStringLiteral("in/content.xml")),
-              "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'>"
-                  + svgDocument("<svg:page id='p'>" + QByteArray(content).replace("PICTURE", "images/a.png")
-                                + "</svg:page>")
-                  + "</iwb>");
+        putFile(work.filePath("in/content.xml"),
+                "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'>"
+                    + svgDocument("<svg:page id='p'>" + QByteArray(content).replace("PICTURE", "images/a.png")
+                                  + "</svg:page>")
+                    + "</iwb>");
         const QImage wanted = drawn(svgDocument(QByteArray(content).replace("PICTURE", file.toUtf8())));
 
-        const QString report = convert(work.filePath(QStringLiteral("in")), work.filePath(QStringLiteral("1")), "iwb");
-        convert(work.filePath(QStringLiteral("1")), work.filePath(QStringLiteral("2")), "zqtx");
-        convert(work.filePath(QStringLiteral("2")), work.filePath(QStringLiteral("3.json")), "json");
-        convert(work.filePath(QStringLiteral("3.json")), work.filePath(QStringLiteral("4")), "iwb");
+        const QString report = convertedLesson(work.filePath("in"), work.filePath("1"), "iwb").summary();
+        convertedLesson(work.filePath("1"), work.filePath("2"), "zqtx");
+        convertedLesson(work.filePath("2"), work.filePath("3.json"), "json");
+        convertedLesson(work.filePath("3.json"), work.filePath("4"), "iwb");
         for (const char *package : {"1", "4"}) {
             const QString folder = work.filePath(QLatin1String(package));
             const QByteArray page = pageOf(folder).replace("images/", (folder + "/images/").toUtf8());
             const QImage found = drawn(page);
             const int count = differingPixels(wanted, found);
             QVERIFY2(count <= 60,
-                     qPrintable(QStringLiteral("%1 pixels differ in package %2. %3")
-                                    .arg(count)
-                                    .arg(QLatin1String(package), report)));
+                     qPrintable("%1 pixels differ in package %2. %3"_s.arg(count).arg(QLatin1String(package), report)));
         }
     }
 };

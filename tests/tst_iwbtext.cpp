@@ -1,3 +1,4 @@
+#include "pluginfixture.h"
 #include "textruns.h"
 
 #include <QtTest>
@@ -20,7 +21,7 @@ QStringList lines(const IwbTextInfoList &runs)
 
 QStringList list(const char *text)
 {
-    return QString::fromUtf8(text).split(QLatin1String(" ;; "));
+    return QString::fromUtf8(text).split(" ;; "_s);
 }
 
 int destroyedLists = 0;
@@ -43,28 +44,25 @@ class TestIwbText : public QObject
 private slots:
     void htmlBecomesRuns_data()
     {
-        QTest::addColumn<QString>("html");
-        QTest::addColumn<QStringList>("expected");
-
-        QTest::newRow("nothing is set: plain 28 pixels")
-            << "Hello" << list("Hello|28|normal|normal|none|#000000|start|Arial");
-        QTest::newRow("nothing at all") << "" << list("|28|normal|normal|none|#000000|start|Arial");
+        const Table<QString, QStringList> row("html", "expected");
+        row("nothing is set: plain 28 pixels", "Hello", list("Hello|28|normal|normal|none|#000000|start|Arial"));
+        row("nothing at all", "", list("|28|normal|normal|none|#000000|start|Arial"));
         // 12 points are 12 * 96 / 72 = 16 pixels.
-        QTest::newRow("points and names") << "<p align=center><span style=\"font-family:'Times New Roman'; "
-                                             "font-size:12pt; color:red; font-weight:600; "
-                                             "font-style:italic; text-decoration:underline\">a</span>b</p>"
-                                          << list("a|16|bold|italic|underline|#ff0000|center|Times New Roman ;; "
-                                                  "b|28|normal|normal|none|#000000|center|Arial");
-        QTest::newRow("paragraphs and a line")
-            << "<p align=right>one<br/>two</p><p style='-qt-paragraph-type:empty'><br/></p><p align=justify>three</p>"
-            << list("one^|28|normal|normal|none|#000000|end|Arial ;; two/|28|normal|normal|none|#000000|end|Arial ;; "
-                    "/|28|normal|normal|none|#000000|start|Arial ;; three|28|normal|normal|none|#000000|justify|Arial");
-        QTest::newRow("the end of a CDATA section is divided")
-            << "a]]&gt;b"
-            << list("a]]|28|normal|normal|none|#000000|start|Arial ;; >b|28|normal|normal|none|#000000|start|Arial");
-        QTest::newRow("struck out, thin, in pixels")
-            << "<span style='font-size:30px; font-weight:200; text-decoration:underline line-through'>x</span>"
-            << list("x|30|300|normal|underline line-through|#000000|start|Arial");
+        row("points and names",
+            "<p align=center><span style=\"font-family:'Times New Roman'; "
+            "font-size:12pt; color:red; font-weight:600; "
+            "font-style:italic; text-decoration:underline\">a</span>b</p>",
+            list("a|16|bold|italic|underline|#ff0000|center|Times New Roman ;; "
+                 "b|28|normal|normal|none|#000000|center|Arial"));
+        row("paragraphs and a line",
+            "<p align=right>one<br/>two</p><p style='-qt-paragraph-type:empty'><br/></p><p align=justify>three</p>",
+            list("one^|28|normal|normal|none|#000000|end|Arial ;; two/|28|normal|normal|none|#000000|end|Arial ;; "
+                 "/|28|normal|normal|none|#000000|start|Arial ;; three|28|normal|normal|none|#000000|justify|Arial"));
+        row("the end of a CDATA section is divided", "a]]&gt;b",
+            list("a]]|28|normal|normal|none|#000000|start|Arial ;; >b|28|normal|normal|none|#000000|start|Arial"));
+        row("struck out, thin, in pixels",
+            "<span style='font-size:30px; font-weight:200; text-decoration:underline line-through'>x</span>",
+            list("x|30|300|normal|underline line-through|#000000|start|Arial"));
     }
 
     void htmlBecomesRuns()
@@ -83,7 +81,7 @@ private slots:
 
     void lettersStayBelowAndAboveTheLine()
     {
-        const TextRuns text = textRunsFromHtml(QStringLiteral("H<sub>2</sub>O, x<sup>2</sup>"));
+        const TextRuns text = textRunsFromHtml("H<sub>2</sub>O, x<sup>2</sup>"_s);
         QCOMPARE(text.shifts, QStringList({QString(), "sub", QString(), "super"}));
         const TextRuns again = textRunsFromHtml(htmlFromTextRuns(text.runs, text.shifts));
         QCOMPARE(again.shifts, text.shifts);
@@ -93,52 +91,43 @@ private slots:
 
     void namesWhatRunsCantHold_data()
     {
-        QTest::addColumn<QString>("html");
-        QTest::addColumn<QString>("loss");
-        QTest::newRow("background") << "<span style='background-color:yellow'>a</span>"
-                                    << "1 texts with a background";
-        QTest::newRow("link") << "<a href='x'>a</a>"
-                              << "1 links within the text";
-        QTest::newRow("capitals") << "<span style='text-transform:uppercase'>a</span>"
-                                  << "1 texts in another case or spacing";
-        QTest::newRow("table") << "<table><tr><td>1</td><td>2</td></tr></table>"
-                               << "2 cells of tables";
-        QTest::newRow("indent") << "<p style='margin-left:9px'>a</p>"
-                                << "1 indented paragraphs";
-        QTest::newRow("line height") << "<p style='line-height:200%'>a</p>"
-                                     << "1 paragraphs with a line height of their own";
-        QTest::newRow("rule") << "a<hr/>b"
-                              << "1 rules";
-        QTest::newRow("nothing") << "<ul><li>a</li></ul><b>b</b>"
-                                 << "";
+        const Table<QString, QString> row("html", "loss");
+        row("background", "<span style='background-color:yellow'>a</span>", "1 texts with a background");
+        row("link", "<a href='x'>a</a>", "1 links within the text");
+        row("capitals", "<span style='text-transform:uppercase'>a</span>", "1 texts in another case or spacing");
+        row("table", "<table><tr><td>1</td><td>2</td></tr></table>", "2 cells of tables");
+        row("indent", "<p style='margin-left:9px'>a</p>", "1 indented paragraphs");
+        row("line height", "<p style='line-height:200%'>a</p>", "1 paragraphs with a line height of their own");
+        row("rule", "a<hr/>b", "1 rules");
+        row("nothing", "<ul><li>a</li></ul><b>b</b>", "");
     }
 
     void namesWhatRunsCantHold()
     {
         QFETCH(QString, html);
         QFETCH(QString, loss);
-        QCOMPARE(textRunsFromHtml(html).losses.join(QLatin1String("; ")), loss);
+        QCOMPARE(textRunsFromHtml(html).losses.join("; "_s), loss);
     }
 
     void leavesOutWhatXmlCantHold()
     {
-        const TextRuns text = textRunsFromHtml(QStringLiteral("a<img src='file:///etc/passwd'/>b"));
-        QCOMPARE(text.losses, QStringList{QStringLiteral("1 pictures within the text")});
-        QCOMPARE(text.runs.first().text, QStringLiteral("ab"));
+        const TextRuns text = textRunsFromHtml("a<img src='file:///etc/passwd'/>b"_s);
+        QCOMPARE(text.losses, QStringList{"1 pictures within the text"_s});
+        QCOMPARE(text.runs.first().text, "ab"_s);
         const TextRuns plain = textRunsFromPlainText(QString::fromUtf8("a\x01"
                                                                        "b\x1f\n\xf0\x9f\x8d\x8e")
                                                      + QChar(0xd800));
-        QCOMPARE(plain.losses, QStringList{QStringLiteral("3 control characters")});
-        QCOMPARE(plain.runs.first().text, QStringLiteral("ab\n"));
+        QCOMPARE(plain.losses, QStringList{"3 control characters"_s});
+        QCOMPARE(plain.runs.first().text, "ab\n"_s);
         QCOMPARE(plain.runs.last().text, QString::fromUtf8("\xf0\x9f\x8d\x8e"));
     }
 
     void hostileFieldsStayText()
     {
         IwbTextInfo run;
-        run.text = QStringLiteral("<b>& \"x\"");
-        run.fontFamily = QStringLiteral("A'; color:red; x:'");
-        run.fill = QStringLiteral("blue\"><script>");
+        run.text = "<b>& \"x\""_s;
+        run.fontFamily = "A'; color:red; x:'"_s;
+        run.fill = "blue\"><script>"_s;
         const IwbTextInfoList back = textRunsFromHtml(htmlFromTextRuns({run})).runs;
         QCOMPARE(back.size(), 1);
         QCOMPARE(back.first().text, run.text);
@@ -160,8 +149,8 @@ private slots:
         QCOMPARE(TextRunLoan::liveLists(), 0);
 
         auto *foreign = new IwbTextInfoList{IwbTextInfo(), IwbTextInfo()};
-        item = {{QStringLiteral("IWB_TEXTINFO-VECTOR"), QString::number(quintptr(foreign))},
-                {QStringLiteral("IWB_TEXTINFO-DELVECTOR"), QString::number(quintptr(&destroyAndCount))}};
+        item = {{"IWB_TEXTINFO-VECTOR"_s, QString::number(quintptr(foreign))},
+                {"IWB_TEXTINFO-DELVECTOR"_s, QString::number(quintptr(&destroyAndCount))}};
         QCOMPARE(takeTextRuns(item)->size(), 2);
         QCOMPARE(destroyedLists, 1);
         QVERIFY(!takeTextRuns(item));

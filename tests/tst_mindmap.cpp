@@ -45,7 +45,7 @@ void keepLine(QtMsgType type, const QMessageLogContext &, const QString &text)
 
 QJsonArray array(const QString &text)
 {
-    return json(QString("{'a':"_s + text + "}"_s).toUtf8().constData()).value("a"_s).toArray();
+    return json(QString("{'a':"_s + text + "}"_s).toUtf8().constData()).value("a").toArray();
 }
 
 } // namespace
@@ -60,37 +60,33 @@ class TestMindMap : public QObject
 private slots:
     void writesTheTree_data()
     {
-        QTest::addColumn<QString>("tree");
-        QTest::addColumn<QString>("data");
-
-        QTest::newRow("two entries are no tree") << "[{},{}]"
-                                                 << "";
-        QTest::newRow("a node without keys") << "[{},{},{}]" << mapAround(node());
-        QTest::newRow("empty lists stay lists")
-            << "[{},{},{'childNodes':[],'attachments':[]}]" << mapAround(node("<attachments/><childNodes/>"_s));
-        QTest::newRow("every key")
-            << "[{'title':'T %1','type':1,'style':2,'spreadStyle':3,'fillColor':'f','borderColor':'b','lineColor':'l'},"
-               "{'style':4},{'pos':'1,2','position':5,'width':6,'height':7,'fillColor':'ff','lineColor':'ll',"
-               "'visiable':true,'childrenVisiable':'1','nodeHtml':'<p>a & b</p>','link':'','shade':true,'stamp':8,"
-               "'attachments':[{'type':'t','path':'p','name':'n'}],'childNodes':[]}]"
-            << "<mapItemInfo><title>T %1</title><type>1</type><style>2</style><spreadStyle>3</spreadStyle>"
-               "<fillColor>f</fillColor><borderColor>b</borderColor><lineColor>l</lineColor><edge><style>4</style></"
-               "edge>"
-               "<node><pos>1,2</pos><position>5</position><width>6</width><height>7</height><fillColor>ff</fillColor>"
-               "<lineColor>ll</lineColor><visiable>1</visiable><childrenVisiable>0</childrenVisiable>"
-               "<nodeHtml><![CDATA[<p>a & b</p>]]></nodeHtml><link/><shade>1</shade><stamp>8</stamp><attachments>"
-               "<attachment type='t' path='p' name='n'/></attachments><childNodes/></node></mapItemInfo>";
-        QTest::newRow("descendants in order")
-            << "[{},{},{'childNodes':[{'stamp':1,'childNodes':[{'stamp':2}]},{'stamp':3}]}]"
-            << mapAround(node(
-                   QString("<childNodes>"_s
-                           + node("<stamp>1</stamp><childNodes>"_s + node("<stamp>2</stamp>"_s) + "</childNodes>"_s)
-                           + node("<stamp>3</stamp>"_s) + "</childNodes>"_s)));
-        QTest::newRow("the tree ends where a text breaks it") << "[{'title':'a < b & c'},{},{}]"
-                                                              << "<mapItemInfo><title>a </title></mapItemInfo>";
-        QTest::newRow("nothing grows behind the item")
-            << "[{'title':'</title></mapItemInfo></data></mindmap><!DOCTYPE x><evil>'},{},{}]"
-            << "<mapItemInfo><title/></mapItemInfo>";
+        const Table<QString, QString> row("tree", "data");
+        row("two entries are no tree", "[{},{}]", "");
+        row("a node without keys", "[{},{},{}]", mapAround(node()));
+        row("empty lists stay lists", "[{},{},{'childNodes':[],'attachments':[]}]",
+            mapAround(node("<attachments/><childNodes/>"_s)));
+        row("every key",
+            "[{'title':'T %1','type':1,'style':2,'spreadStyle':3,'fillColor':'f','borderColor':'b','lineColor':'l'},"
+            "{'style':4},{'pos':'1,2','position':5,'width':6,'height':7,'fillColor':'ff','lineColor':'ll',"
+            "'visiable':true,'childrenVisiable':'1','nodeHtml':'<p>a & b</p>','link':'','shade':true,'stamp':8,"
+            "'attachments':[{'type':'t','path':'p','name':'n'}],'childNodes':[]}]",
+            "<mapItemInfo><title>T %1</title><type>1</type><style>2</style><spreadStyle>3</spreadStyle>"
+            "<fillColor>f</fillColor><borderColor>b</borderColor><lineColor>l</lineColor><edge><style>4</style></"
+            "edge>"
+            "<node><pos>1,2</pos><position>5</position><width>6</width><height>7</height><fillColor>ff</fillColor>"
+            "<lineColor>ll</lineColor><visiable>1</visiable><childrenVisiable>0</childrenVisiable>"
+            "<nodeHtml><![CDATA[<p>a & b</p>]]></nodeHtml><link/><shade>1</shade><stamp>8</stamp><attachments>"
+            "<attachment type='t' path='p' name='n'/></attachments><childNodes/></node></mapItemInfo>");
+        row("descendants in order", "[{},{},{'childNodes':[{'stamp':1,'childNodes':[{'stamp':2}]},{'stamp':3}]}]",
+            mapAround(
+                node(QString("<childNodes>"_s
+                             + node("<stamp>1</stamp><childNodes>"_s + node("<stamp>2</stamp>"_s) + "</childNodes>"_s)
+                             + node("<stamp>3</stamp>"_s) + "</childNodes>"_s))));
+        row("the tree ends where a text breaks it", "[{'title':'a < b & c'},{},{}]",
+            "<mapItemInfo><title>a </title></mapItemInfo>");
+        row("nothing grows behind the item",
+            "[{'title':'</title></mapItemInfo></data></mindmap><!DOCTYPE x><evil>'},{},{}]",
+            "<mapItemInfo><title/></mapItemInfo>");
     }
 
     void writesTheTree()
@@ -103,30 +99,24 @@ private slots:
 
     void readsTheTree_data()
     {
-        QTest::addColumn<QString>("data");
-        QTest::addColumn<QString>("tree");
-
-        QTest::newRow("no data") << ""
-                                 << "[]";
-        QTest::newRow("no map") << "<rect/><rect/><mapItemInfo/>"
-                                << "[]";
-        QTest::newRow("first") << "<mapItemInfo/>"
-                               << "[{},{},{}]";
-        QTest::newRow("behind the rectangle") << "<rect/><mapItemInfo/>"
-                                              << "[{},{},{}]";
-        QTest::newRow("values of the map, the later one of two")
-            << "<mapItemInfo><title>a</title><title>T</title><style>2</style><borderColor>b</borderColor><other/>"
-               "<edge><style>x</style></edge><edge><style>4</style></edge><node><pos>1</pos></node>"
-               "<node><width>1.5</width></node></mapItemInfo>"
-            << "[{'title':'T','style':2,'borderColor':'b'},{'style':4},{'width':0}]";
-        QTest::newRow("values of a node")
-            << "<mapItemInfo><node><pos>1,2</pos><visiable>1</visiable><shade>1</shade><stamp>7</stamp>"
-               "<nodeHtml><![CDATA[<p>&]]></nodeHtml><attachments><attachment path='p' x='y'/></attachments>"
-               "<childNodes><node><shade>2</shade><childNodes/></node><node><link>l</link></node></childNodes>"
-               "</node></mapItemInfo>"
-            << "[{},{},{'pos':'1,2','visiable':'1','shade':true,'stamp':7,'nodeHtml':'<p>&',"
-               "'attachments':[{'type':'','name':'','path':'p'}],"
-               "'childNodes':[{'shade':false,'childNodes':[]},{'link':'l'}]}]";
+        const Table<QString, QString> row("data", "tree");
+        row("no data", "", "[]");
+        row("no map", "<rect/><rect/><mapItemInfo/>", "[]");
+        row("first", "<mapItemInfo/>", "[{},{},{}]");
+        row("behind the rectangle", "<rect/><mapItemInfo/>", "[{},{},{}]");
+        row("values of the map, the later one of two",
+            "<mapItemInfo><title>a</title><title>T</title><style>2</style><borderColor>b</borderColor><other/>"
+            "<edge><style>x</style></edge><edge><style>4</style></edge><node><pos>1</pos></node>"
+            "<node><width>1.5</width></node></mapItemInfo>",
+            "[{'title':'T','style':2,'borderColor':'b'},{'style':4},{'width':0}]");
+        row("values of a node",
+            "<mapItemInfo><node><pos>1,2</pos><visiable>1</visiable><shade>1</shade><stamp>7</stamp>"
+            "<nodeHtml><![CDATA[<p>&]]></nodeHtml><attachments><attachment path='p' x='y'/></attachments>"
+            "<childNodes><node><shade>2</shade><childNodes/></node><node><link>l</link></node></childNodes>"
+            "</node></mapItemInfo>",
+            "[{},{},{'pos':'1,2','visiable':'1','shade':true,'stamp':7,'nodeHtml':'<p>&',"
+            "'attachments':[{'type':'','name':'','path':'p'}],"
+            "'childNodes':[{'shade':false,'childNodes':[]},{'link':'l'}]}]");
     }
 
     void readsTheTree()
@@ -134,8 +124,8 @@ private slots:
         QFETCH(QString, data);
         QFETCH(QString, tree);
         const QJsonObject item = plugin()->tranItemZQTX2JSON(mapElement(data), {});
-        QVERIFY(item.value("mindMapData"_s).isArray());
-        QCOMPARE(item.value("mindMapData"_s).toArray(), array(tree));
+        QVERIFY(item.value("mindMapData").isArray());
+        QCOMPARE(item.value("mindMapData").toArray(), array(tree));
     }
 
     void leavesAGivenElementItsTree()
@@ -143,8 +133,8 @@ private slots:
         const QDomElement given = mapElement("<mapItemInfo><title>old</title></mapItemInfo>"_s);
         const QJsonObject item = json("{'Type':'ZQMindMapItem','ID':'7','mindMapData':[{'title':'new'},{},{}]}");
         const QDomElement result = plugin()->tranItemJSON2ZQTX(given, item);
-        QCOMPARE(result.attribute("id"_s), "7"_s);
-        QCOMPARE(result.firstChildElement("data"_s).text(), "old"_s);
+        QCOMPARE(result.attribute("id"), "7"_s);
+        QCOMPARE(result.firstChildElement("data").text(), "old"_s);
     }
 
     // Nothing else of the library writes a line, whatever it is given.
@@ -158,7 +148,7 @@ private slots:
         plugin()->tranItemJSON2ZQTX(mapElement(QString()), map);
         plugin()->tranItemZQTX2JSON({}, {});
         plugin()->tranItemZQTX2JSON(mapElement("<mapItemInfo><node/></mapItemInfo>"_s), {});
-        plugin()->tranItemXML2JSON(xml("<ZQMindMapItem Bound='1' TransformMatrix='2'/>"_s), {});
+        plugin()->tranItemXML2JSON(xml("<ZQMindMapItem Bound='1' TransformMatrix='2'/>"), {});
         plugin()->tranItemJSON2ZQTX({}, json("{'Type':'ZQQuestionItem','R_Answer_svg':'<'}"));
         plugin()->tranSlideJSON2ZQTX({}, json("{'activity':{'templet':{'no name':'x'}}}"));
         qInstallMessageHandler(usual);
@@ -174,26 +164,25 @@ private slots:
         const int depth = 6000;
         const QDomElement given = mapElement("<mapItemInfo><node/></mapItemInfo>"_s);
         QDomDocument document = given.ownerDocument();
-        QDomNode node = given.firstChildElement("data"_s).firstChildElement().firstChildElement();
+        QDomNode node = given.firstChildElement("data").firstChildElement().firstChildElement();
         for (int i = 1; i < depth; ++i) {
-            node =
-                node.appendChild(document.createElement("childNodes"_s)).appendChild(document.createElement("node"_s));
+            node = node.appendChild(document.createElement("childNodes")).appendChild(document.createElement("node"));
         }
         QJsonObject item = plugin()->tranItemZQTX2JSON(given, {});
         int levels = 0;
-        QJsonArray children = {item.value("mindMapData"_s).toArray().at(2)};
+        QJsonArray children = {item.value("mindMapData").toArray().at(2)};
         for (; !children.isEmpty(); ++levels) {
-            children = children.at(0).toObject().value("childNodes"_s).toArray();
+            children = children.at(0).toObject().value("childNodes").toArray();
         }
         QCOMPARE(levels, depth);
 
         QJsonObject logged = item;
-        logged.remove("mindMapData"_s);
+        logged.remove("mindMapData");
         const QDomElement result = written(item, logged);
         QString text;
         QTextStream stream(&text);
         result.save(stream, -1);
-        QVERIFY(text.count("<node>"_s) > 512);
+        QVERIFY(text.count("<node>") > 512);
     }
 };
 

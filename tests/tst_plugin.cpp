@@ -25,9 +25,9 @@ private slots:
     void queriesAnswerEmpty()
     {
         plugin()->reservedHook(this);
-        QVERIFY(plugin()->tranPresQuery(QStringLiteral("Width")).isEmpty());
-        QVERIFY(plugin()->tranSlideQuery(this, QStringLiteral("ID")).isEmpty());
-        QVERIFY(plugin()->tranItemQuery(this, QStringLiteral("ZQSmoothStroke")).isEmpty());
+        QVERIFY(plugin()->tranPresQuery("Width"_s).isEmpty());
+        QVERIFY(plugin()->tranSlideQuery(this, "ID"_s).isEmpty());
+        QVERIFY(plugin()->tranItemQuery(this, "ZQSmoothStroke"_s).isEmpty());
     }
 };
 

@@ -24,8 +24,8 @@ const double longestCall = 2;
 const qint64 mostOfMemory = qint64(264) * mebibyte;
 #endif
 
-const QJsonObject pres{{QStringLiteral("Version"), QStringLiteral("3.0")}};
-const QJsonObject itemContext{{QStringLiteral("pres"), pres}};
+const QJsonObject pres{{"Version"_s, "3.0"_s}};
+const QJsonObject itemContext{{"pres"_s, pres}};
 
 QDomElement readExample(const QString &file)
 {
@@ -66,13 +66,12 @@ class TestProperties : public QObject
 private slots:
     void settlesAfterOneRoundTrip_data()
     {
-        QTest::addColumn<QString>("file");
-        QDirIterator it(QStringLiteral(EXAMPLES_DIR), {QStringLiteral("*.xml")}, QDir::Files,
-                        QDirIterator::Subdirectories);
+        const Table<QString> row("file");
+        QDirIterator it(QString(EXAMPLES_DIR), {"*.xml"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString file = it.next();
-            if (file.contains(QLatin1String("/slides/"))) {
-                QTest::newRow(qPrintable(file.mid(int(qstrlen(EXAMPLES_DIR)) + 1))) << file;
+            if (file.contains("/slides/")) {
+                row(qPrintable(file.mid(int(qstrlen(EXAMPLES_DIR)) + 1)), file);
             }
         }
     }
@@ -82,11 +81,11 @@ private slots:
     void settlesAfterOneRoundTrip()
     {
         QFETCH(QString, file);
-        const QDomElement items = readExample(file).firstChildElement(QStringLiteral("items"));
+        const QDomElement items = readExample(file).firstChildElement("items");
         int count = 0;
         for (QDomElement element = items.firstChildElement(); !element.isNull();
              element = element.nextSiblingElement()) {
-            const bool isDrawing = !element.elementsByTagName(QStringLiteral("ArtVectObj_Manager")).isEmpty();
+            const bool isDrawing = !element.elementsByTagName("ArtVectObj_Manager").isEmpty();
             const QString before = toText(element);
             const QJsonObject item = plugin()->tranItemZQTX2JSON(element, itemContext);
             if (!isDrawing) {
@@ -99,10 +98,10 @@ private slots:
             QVERIFY(written.previousSibling().isNull() && written.nextSibling().isNull());
             ++count;
             const QJsonObject second = plugin()->tranItemZQTX2JSON(written, itemContext);
-            QCOMPARE(second.value("Type"_s), item.value("Type"_s));
-            QCOMPARE(second.value("ID"_s), item.value("ID"_s));
+            QCOMPARE(second.value("Type"), item.value("Type"));
+            QCOMPARE(second.value("ID"), item.value("ID"));
             // These take texts into their elements as they stand, and only a host knows which to escape.
-            if (element.tagName() == QLatin1String("mindmap") || element.tagName() == QLatin1String("question")) {
+            if (element.tagName() == "mindmap"_s || element.tagName() == "question"_s) {
                 continue;
             }
             const QJsonObject third = plugin()->tranItemZQTX2JSON(plugin()->tranItemJSON2ZQTX({}, second), itemContext);
@@ -113,9 +112,7 @@ private slots:
 
     void takesAMebibyteOfAnything_data()
     {
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const QString &text) { QTest::newRow(name) << text; };
-
+        const Table<QString> row("text");
         row("points",
             "<stroke type=\"Curve\"><data><vertex points=%1/></data></stroke>"_s.arg(quoted(repeated("1,"_s))));
         row("commas of a box",
@@ -188,7 +185,7 @@ private slots:
         inTime("raw slide written", [&] { plugin()->tranSlideJSON2ZQTX({}, json); });
         inTime("raw item", [&] { json = plugin()->tranItemXML2JSON(element, itemContext); });
         inTime("raw item in its slide", [&] {
-            plugin()->tranItemXML2JSON(xml("<ZQSmoothStroke NetID=\"1\"/>"_s), {{"slide"_s, json}});
+            plugin()->tranItemXML2JSON(xml("<ZQSmoothStroke NetID=\"1\"/>"), {{"slide"_s, json}});
         });
         inTime("index", [&] { plugin()->tranPresZQTX2JSON(element, {}); });
         inTime("page", [&] { plugin()->tranSlideIWB2JSON(element, element, {}); });

@@ -1,42 +1,7 @@
-#include "conversion.h"
-#include "lossreport.h"
-#include "pluginfixture.h"
+#include "hostfixture.h"
 
 #include <QDir>
-#include <QImage>
-#include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-void write(const QString &file, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(file).path());
-    QFile opened(file);
-    if (!opened.open(QIODevice::WriteOnly) || opened.write(content) != content.size()) {
-        qFatal("can't write %s", qPrintable(file));
-    }
-}
-
-QByteArray read(const QString &file)
-{
-    QFile opened(file);
-    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
-}
-
-QString convert(const QString &from, const QString &to, const char *format)
-{
-    LessonContext context;
-    context.plugin = plugin();
-    LossReport losses;
-    context.losses = &losses;
-    context.verify = QLatin1String(format) == QLatin1String("zqtx");
-    convertLesson(lessonFormatOfInput(from), from, lessonFormatByName(QLatin1String(format)), to, context,
-                  [](int, int) {});
-    return losses.summary();
-}
-
-} // namespace
 
 /*!
  * Raw lessons on their way into the other formats: what the plug-in's reading leaves behind, and where items stand.
@@ -52,14 +17,11 @@ private:
 
     QString putLesson(const QByteArray &items, const QByteArray &slide = "SlideSourceRect='0,0,1024,768'") const
     {
-        QImage picture(4, 3, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        QDir().mkpath(path("resources"));
-        picture.save(path("resources/tree.png"));
-        write(path("resources/tone.wav"), "RIFF");
-        write(path("raw.xml"),
-              "<presentation NetID='p' Version='2.4'><slide NetID='1' " + slide + ">" + items
-                  + "</slide></presentation>");
+        putFile(path("resources/tree.png"), redPicture());
+        putFile(path("resources/tone.wav"), "RIFF");
+        putFile(path("raw.xml"),
+                "<presentation NetID='p' Version='2.4'><slide NetID='1' " + slide + ">" + items
+                    + "</slide></presentation>");
         return path("raw.xml");
     }
 
@@ -68,11 +30,7 @@ private slots:
 
     void attributesReachTheModel_data()
     {
-        QTest::addColumn<QByteArray>("item");
-        QTest::addColumn<QJsonObject>("expected");
-        const auto row = [](const char *name, const char *item, const char *expected) {
-            QTest::newRow(name) << QByteArray(item) << json(expected);
-        };
+        const Table<QByteArray, QJsonObject> row("item", "expected");
         row("a file", R"(<ZQImagePic MultiMediaFile='C:\pics\tree.png'/>)",
             "{'resource':'resources/tree.png','MultiMediaFile':null}");
         row("files, one behind the other", R"(<ZQMediaVideo MultiMediaFile='a;b\tree.png|tone.wav||'/>)",
@@ -97,21 +55,15 @@ private slots:
     {
         QFETCH(QByteArray, item);
         QFETCH(QJsonObject, expected);
-        LessonContext context;
-        context.plugin = plugin();
-        const auto reader = lessonFormatByName(QStringLiteral("rawxml")).open(putLesson(item), context);
+        const auto reader = openLesson(putLesson(item));
         const QJsonObject found = reader->slide(0).items.first().toObject();
-        for (auto it = expected.constBegin(); it != expected.constEnd(); ++it) {
-            const QJsonValue wanted = it.value().isNull() ? QJsonValue(QJsonValue::Undefined) : it.value();
-            QCOMPARE(found.value(it.key()), wanted);
-        }
+        QCOMPARE(differences(found, expected), QString());
     }
 
     // What an item draws is the same whether its matrix goes to the page directly or into the box of a package first.
     void matricesAreWorkedIn_data()
     {
-        QTest::addColumn<QByteArray>("shape");
-        QTest::addColumn<QString>("lost");
+        const Table<QByteArray, QString> row("shape", "lost");
         const char *const two = "Discipline_xControl0='80' Discipline_yControl0='5' Discipline_xControl1='0' "
                                 "Discipline_yControl1='40'";
         const QByteArray three = QByteArray(two) + " Discipline_xControl2='60' Discipline_yControl2='90'";
@@ -149,8 +101,8 @@ private slots:
             for (const auto &matrix : matrices) {
                 const bool isLost = (matrix.first == "mirrored" && unmirrored.contains(one.first))
                     || (matrix.first == "slanted" && unslanted.contains(one.first));
-                QTest::newRow(QByteArray(one.first + ", " + matrix.first).constData())
-                    << QByteArray(one.second + matrix.second + "'/>") << (isLost ? "Matrix on slide 1" : "");
+                row(QByteArray(one.first + ", " + matrix.first).constData(),
+                    QByteArray(one.second + matrix.second + "'/>"), (isLost ? "Matrix on slide 1" : ""));
             }
         }
     }
@@ -160,11 +112,11 @@ private slots:
         QFETCH(QByteArray, shape);
         QFETCH(QString, lost);
         const QString raw = putLesson(shape);
-        QVERIFY(!convert(raw, path("direct"), "iwb").contains(QLatin1String("no IWB form")));
-        const QString report = convert(raw, path("package"), "zqtx");
-        convert(path("package"), path("detour"), "iwb");
+        QVERIFY(!convertedLesson(raw, path("direct"), "iwb").summary().contains("no IWB form"));
+        const QString report = convertedLesson(raw, path("package"), "zqtx").summary();
+        convertedLesson(path("package"), path("detour"), "iwb");
         if (lost.isEmpty()) {
-            QCOMPARE(report, QStringLiteral("Note: items: 1 had a matrix, which is worked into where they stand"));
+            QCOMPARE(report, "Note: items: 1 had a matrix, which is worked into where they stand"_s);
             QCOMPARE(drawn(path("detour")), drawn(path("direct")));
         } else {
             QVERIFY2(report.contains(lost), qPrintable(report));
@@ -174,14 +126,12 @@ private slots:
     void readsTheSameTwice()
     {
         const QString raw = path("raw.xml");
-        write(raw,
-              "<presentation><slide><ZQImagePic/><ZQMath2DCircle "
-              "NetID='1000001'/><ZQGroupItem><GroupSonItems><ZQTextBoard/>"
-              "</GroupSonItems></ZQGroupItem></slide><slide/></presentation>");
+        putFile(raw,
+                "<presentation><slide><ZQImagePic/><ZQMath2DCircle "
+                "NetID='1000001'/><ZQGroupItem><GroupSonItems><ZQTextBoard/>"
+                "</GroupSonItems></ZQGroupItem></slide><slide/></presentation>");
         const auto ids = [&raw] {
-            LessonContext context;
-            context.plugin = plugin();
-            const auto reader = lessonFormatByName(QStringLiteral("rawxml")).open(raw, context);
+            const auto reader = openLesson(raw);
             QStringList found{reader->presentation().value("ID").toString()};
             for (const int slide : {1, 0}) {
                 const LessonSlide read = reader->slide(slide);
@@ -207,9 +157,9 @@ private slots:
                       "<ZQImagePic MultiMediaFile='tree.png' Bound='40,30,0,0,20,10'/>"
                       "<ZQImagePic MultiMediaFile='tree.png' Bound='8,6,0,0,4,2'/></GroupSonItems></ZQGroupItem>",
                       R"(BackColor='9,10,20,30' AttachFile='C:\tree.png|')");
-        QCOMPARE(convert(raw, path("package"), "zqtx"),
-                 QStringLiteral("Note: items: 2 had a matrix, which is worked into where they stand"));
-        const QByteArray slide = read(path("package/slides/1.xml"));
+        QCOMPARE(convertedLesson(raw, path("package"), "zqtx").summary(),
+                 "Note: items: 2 had a matrix, which is worked into where they stand"_s);
+        const QByteArray slide = fileContent(path("package/slides/1.xml"));
         QVERIFY2(slide.contains("<color value=\"255,10,20,30\"/>"), slide);
         QVERIFY2(slide.contains("<picture document=\"resources/tree.png\"/>"), slide);
         QCOMPARE(slide.count("resource=\"resources/tree.png\""), 2);
@@ -222,8 +172,8 @@ private:
     static QStringList drawn(const QString &package)
     {
         QStringList texts;
-        QString content = QString::fromUtf8(read(package + QLatin1String("/content.xml")));
-        static const QRegularExpression number(QStringLiteral("-?[0-9]+\\.[0-9]+"));
+        QString content = QString::fromUtf8(fileContent(package + "/content.xml"_s));
+        static const QRegularExpression number("-?[0-9]+\\.[0-9]+"_s);
         QRegularExpressionMatchIterator it = number.globalMatch(content);
         QString rounded;
         int end = 0;

@@ -17,26 +17,25 @@ private slots:
         const QDomDocument made =
             plugin()->tranPresJSON2ZQTX({}, json("{'Width':'1440','Height':1080,'Slides':[{'ID':'1'},{}]}"));
         const QDomElement root = made.documentElement();
-        QCOMPARE(root.attribute(QStringLiteral("width")), QStringLiteral("1440"));
-        QVERIFY(root.hasAttribute(QStringLiteral("height")));
-        QCOMPARE(root.attribute(QStringLiteral("height")), QString());
-        const QDomElement first = root.firstChildElement(QStringLiteral("slides")).firstChildElement();
-        QCOMPARE(first.attribute(QStringLiteral("href")), QStringLiteral("slides/1.xml"));
-        QCOMPARE(first.nextSiblingElement().attribute(QStringLiteral("href")), QStringLiteral("slides/.xml"));
+        QCOMPARE(root.attribute("width"), "1440"_s);
+        QVERIFY(root.hasAttribute("height"));
+        QCOMPARE(root.attribute("height"), QString());
+        const QDomElement first = root.firstChildElement("slides").firstChildElement();
+        QCOMPARE(first.attribute("href"), "slides/1.xml"_s);
+        QCOMPARE(first.nextSiblingElement().attribute("href"), "slides/.xml"_s);
 
         QDomDocument given;
-        given.setContent(QStringLiteral("<main><slides><file href='old'/></slides></main>"));
+        given.setContent("<main><slides><file href='old'/></slides></main>"_s);
         plugin()->tranPresJSON2ZQTX(given, json("{'Slides':[{'ID':'2'}]}"));
         QCOMPARE(given.documentElement().firstChildElement().childNodes().count(), 2);
     }
 
     void readsTheHeaderOfAPackage_data()
     {
-        QTest::addColumn<QString>("index");
-        QTest::addColumn<QJsonObject>("expected");
-        QTest::newRow("both sizes") << QStringLiteral("<main width='4' height='3' version='3.0'/>")
-                                    << json("{'Width':'4','Height':'3','Version':'3.0','Range':'4,3'}");
-        QTest::newRow("one size") << QStringLiteral("<main width='4' title='x'/>") << json("{'Width':'4'}");
+        const Table<QString, QJsonObject> row("index", "expected");
+        row("both sizes", "<main width='4' height='3' version='3.0'/>",
+            "{'Width':'4','Height':'3','Version':'3.0','Range':'4,3'}");
+        row("one size", "<main width='4' title='x'/>", "{'Width':'4'}");
     }
     void readsTheHeaderOfAPackage()
     {
@@ -47,12 +46,7 @@ private slots:
 
     void readsRawSlides_data()
     {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<QJsonObject>("expected");
-
-        const auto row = [](const char *name, const char *attributes, const char *expected) {
-            QTest::newRow(name) << QString::fromLatin1(attributes) << json(expected);
-        };
+        const Table<QString, QJsonObject> row("attributes", "expected");
         row("nothing", "", "{'ID':'1','SlideSourceRect':'0,0,1024,768'}");
         row("own source rectangle", "SlideSourceRect='0,0,1280,720'", "{'ID':'1','SlideSourceRect':'0,0,1280,720'}");
         // (1 * 256 + 2) * 256 + 3
@@ -70,45 +64,37 @@ private slots:
     {
         QFETCH(QString, attributes);
         QFETCH(QJsonObject, expected);
-        const QDomElement slide = xml(QStringLiteral("<slide NetID='1' %1/>").arg(attributes));
+        const QDomElement slide = xml("<slide NetID='1' %1/>"_s.arg(attributes));
         QCOMPARE(toText(plugin()->tranSlideXML2JSON(slide, json("{'path':'/p/l.xml'}"))), toText(expected));
     }
 
     void readsThePageEffectOfATag_data()
     {
-        QTest::addColumn<QString>("tags");
-        QTest::addColumn<QString>("effect");
-
+        const Table<QString, QString> row("tags", "effect");
         const auto effect = [](const char *name) {
-            return QStringLiteral("<pageEffect><type value='%1'/></pageEffect>").arg(QLatin1String(name));
+            return "<pageEffect><type value='%1'/></pageEffect>"_s.arg(QLatin1String(name));
         };
-        QTest::newRow("known") << effect("push_12_mc") << QStringLiteral("ID_SLIDE_EFFECT_YSFG");
-        QTest::newRow("unknown") << effect("spin") << QStringLiteral("ID_SLIDE_EFFECT_ZXFG");
-        QTest::newRow("empty") << effect("") << QStringLiteral("");
-        QTest::newRow("the last wins") << QString(effect("fade_1_mc") + QStringLiteral("|$|") + effect("fade_3_mc"))
-                                       << QStringLiteral("ID_SLIDE_EFFECT_QC");
-        QTest::newRow("no XML") << QStringLiteral("<pageEffect>&") << QString();
-        QTest::newRow("no type") << QStringLiteral("<pageEffect></pageEffect>") << QString();
+        row("known", effect("push_12_mc"), "ID_SLIDE_EFFECT_YSFG");
+        row("unknown", effect("spin"), "ID_SLIDE_EFFECT_ZXFG");
+        row("empty", effect(""), "");
+        row("the last wins", effect("fade_1_mc") + "|$|"_s + effect("fade_3_mc"), "ID_SLIDE_EFFECT_QC");
+        row("no XML", "<pageEffect>&", nullptr);
+        row("no type", "<pageEffect></pageEffect>", nullptr);
     }
     void readsThePageEffectOfATag()
     {
         QFETCH(QString, tags);
         QFETCH(QString, effect);
-        QDomElement slide = xml(QStringLiteral("<slide/>"));
-        slide.setAttribute(QStringLiteral("SlideTagsInfo"), tags);
+        QDomElement slide = xml("<slide/>");
+        slide.setAttribute("SlideTagsInfo", tags);
         const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
-        QCOMPARE(read.contains(QLatin1String("EffectType")), !effect.isNull());
-        QCOMPARE(read.value(QLatin1String("EffectType")).toString(), effect);
+        QCOMPARE(read.contains("EffectType"), !effect.isNull());
+        QCOMPARE(read.value("EffectType").toString(), effect);
     }
 
     void numbersTriggersAndActions_data()
     {
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QJsonObject>("expected");
-
-        const auto row = [](const char *name, const char *script, const char *expected) {
-            QTest::newRow(name) << QString::fromLatin1(script) << json(expected);
-        };
+        const Table<QString, QJsonObject> row("script", "expected");
         row("no trigger", "", "{}");
         row("the slide comes first and gathers its triggers",
             "<activeItem value='5'/><activeItem value='0'><a value='1'/></activeItem><activeItem><b value='2'/>"
@@ -134,14 +120,14 @@ private slots:
     {
         QFETCH(QString, script);
         QFETCH(QJsonObject, expected);
-        QDomElement slide = xml(QStringLiteral("<slide/>"));
-        slide.setAttribute(QStringLiteral("SlideTagsInfo"),
-                           QString(QLatin1String("<x/>|$|<interactive>") + script
-                                   + QLatin1String("</interactive><a value='late'/>|$|<interactive>"
-                                                   "<activeItem value='second'/></interactive>")));
+        QDomElement slide = xml("<slide/>");
+        slide.setAttribute("SlideTagsInfo",
+                           QString("<x/>|$|<interactive>"_s + script
+                                   + "</interactive><a value='late'/>|$|<interactive>"
+                                     "<activeItem value='second'/></interactive>"_s));
         const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
-        QVERIFY(read.value(QLatin1String("iszqt")).toBool());
-        const QString text = read.value(QLatin1String("objAnimationData")).toString();
+        QVERIFY(read.value("iszqt").toBool());
+        const QString text = read.value("objAnimationData").toString();
         QJsonObject triggers = QJsonDocument::fromJson(text.toUtf8()).object();
         QSet<QString> ids;
         int actions = 0;
@@ -149,7 +135,7 @@ private slots:
             QJsonObject numbered = trigger->toObject();
             for (auto action = numbered.begin(); action != numbered.end(); ++action) {
                 QJsonObject settings = action->toObject();
-                ids.insert(settings.take(QLatin1String("actionIndex")).toString());
+                ids.insert(settings.take("actionIndex").toString());
                 ++actions;
                 *action = settings;
             }
@@ -162,22 +148,20 @@ private slots:
     void survivesLongAndDeepScripts()
     {
         const auto triggers = [](const QString &script) {
-            QDomElement slide = xml(QStringLiteral("<slide/>"));
-            slide.setAttribute(QStringLiteral("SlideTagsInfo"), QString(QLatin1String("<interactive>") + script));
+            QDomElement slide = xml("<slide/>");
+            slide.setAttribute("SlideTagsInfo", QString("<interactive>"_s + script));
             const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
-            return QJsonDocument::fromJson(read.value(QLatin1String("objAnimationData")).toString().toUtf8()).object();
+            return QJsonDocument::fromJson(read.value("objAnimationData").toString().toUtf8()).object();
         };
         const QJsonObject actions =
-            triggers(QLatin1String("<activeItem>") + QStringLiteral("<a value='1'/>").repeated(20000))
-                .value(QLatin1String("src_NO==0"))
-                .toObject();
+            triggers("<activeItem>"_s + "<a value='1'/>"_s.repeated(20000)).value("src_NO==0").toObject();
         QCOMPARE(actions.size(), 20000);
         // Members stand in the order of their texts.
-        QCOMPARE(actions.keys().mid(0, 4).last(), QStringLiteral("animation_NO==100"));
-        QVERIFY(actions.contains(QLatin1String("animation_NO==19999")));
+        QCOMPARE(actions.keys().mid(0, 4).last(), "animation_NO==100"_s);
+        QVERIFY(actions.contains("animation_NO==19999"));
         // Too deep for a DOM: the parse stops early, within the one action.
-        const QString deep = QLatin1String("<activeItem>") + QStringLiteral("<a>").repeated(200000);
-        QCOMPARE(triggers(deep).value(QLatin1String("src_NO==0")).toObject().size(), 1);
+        const QString deep = "<activeItem>"_s + "<a>"_s.repeated(200000);
+        QCOMPARE(triggers(deep).value("src_NO==0").toObject().size(), 1);
     }
 
     void writesSlides()
@@ -192,16 +176,14 @@ private slots:
         for (QDomElement child = slide.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             tags.append(child.tagName());
         }
-        QCOMPARE(tags.join(QLatin1Char(' ')), QStringLiteral("background items effect animations"));
+        QCOMPARE(tags.join(QLatin1Char(' ')), "background items effect animations"_s);
         const QDomElement background = slide.firstChildElement();
-        QCOMPARE(background.firstChildElement().attribute(QStringLiteral("value")), QStringLiteral("#ff00ff00"));
-        QCOMPARE(background.lastChildElement().attribute(QStringLiteral("document")), QStringLiteral("a.png"));
-        QCOMPARE(slide.firstChildElement(QStringLiteral("effect")).attribute(QStringLiteral("time")),
-                 QStringLiteral("2"));
+        QCOMPARE(background.firstChildElement().attribute("value"), "#ff00ff00"_s);
+        QCOMPARE(background.lastChildElement().attribute("document"), "a.png"_s);
+        QCOMPARE(slide.firstChildElement("effect").attribute("time"), "2"_s);
         const QJsonObject read = plugin()->tranSlideZQTX2JSON(slide, {});
-        QCOMPARE(read.value(QLatin1String("animations")).toObject(), json("{'animation':['1','']}"));
-        QVERIFY(
-            !plugin()->tranSlideZQTX2JSON(xml(QStringLiteral("<slide/>")), {}).contains(QLatin1String("animations")));
+        QCOMPARE(read.value("animations").toObject(), json("{'animation':['1','']}"));
+        QVERIFY(!plugin()->tranSlideZQTX2JSON(xml("<slide/>"), {}).contains("animations"));
     }
 };
 

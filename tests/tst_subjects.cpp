@@ -32,23 +32,23 @@ QJsonObject readZqtx(const QString &text)
 
 QString discipline(const QString &type, const QString &content = {})
 {
-    return QStringLiteral(R"(<discipline type="%1">%2</discipline>)").arg(type, content);
+    return R"(<discipline type="%1">%2</discipline>)"_s.arg(type, content);
 }
 
 QString row(const char *label, const char *value)
 {
-    return QStringLiteral(R"(<property name="%1" value="%2"/>)").arg(QLatin1String(label), QLatin1String(value));
+    return R"(<property name="%1" value="%2"/>)"_s.arg(QLatin1String(label), QLatin1String(value));
 }
 
 // The property rows of a ZQTX element that have a label, as "label=value" in ascending order between bars.
 QString propertyRows(const QDomElement &element)
 {
     QStringList rows;
-    const QDomElement properties = element.firstChildElement(QStringLiteral("properties"));
+    const QDomElement properties = element.firstChildElement("properties");
     for (QDomElement row = properties.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
-        const QString label = row.attribute(QStringLiteral("name"));
+        const QString label = row.attribute("name");
         if (!label.isEmpty()) {
-            rows.append(label + QLatin1Char('=') + row.attribute(QStringLiteral("value")));
+            rows.append(label + QLatin1Char('=') + row.attribute("value"));
         }
     }
     rows.sort();
@@ -69,9 +69,7 @@ private slots:
     {
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("txType");
-        const auto add = [](const char *type, const char *txType) {
-            QTest::newRow(type) << QString::fromLatin1(type) << QString::fromLatin1(txType);
-        };
+        const auto add = [](const char *type, const char *txType) { QTest::newRow(type) << type << txType; };
         add("ZQPhysicsHuaDongBianZuQi2", "Physics:huadongbianzuqi2");
         add("ZQChemistryQLBoLiDaoGuan", "Chemistry:qlbolidaoguan");
         add("ZQChemistryExpressions", "Chemistry:expressions");
@@ -86,18 +84,16 @@ private slots:
     {
         QFETCH(QString, type);
         QFETCH(QString, txType);
-        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, {{QStringLiteral("Type"), type}});
-        QCOMPARE(element.tagName(), QStringLiteral("discipline"));
-        QCOMPARE(element.attribute(QStringLiteral("type")), txType);
+        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, {{"Type"_s, type}});
+        QCOMPARE(element.tagName(), "discipline"_s);
+        QCOMPARE(element.attribute("type"), txType);
     }
 
     void typesComeFromZqtx_data()
     {
         QTest::addColumn<QString>("txType");
         QTest::addColumn<QString>("type");
-        const auto add = [](const char *txType, const char *type) {
-            QTest::newRow(txType) << QString::fromLatin1(txType) << QString::fromLatin1(type);
-        };
+        const auto add = [](const char *txType, const char *type) { QTest::newRow(txType) << txType << type; };
         add("Physics:kaiguan1", "ZQPhysicsKaiGuan1");
         add("Physics:KAIGUAN1", "ZQPhysicsKaiGuan1");
         add("physics:kaiguan1", "");
@@ -121,54 +117,50 @@ private slots:
     {
         QFETCH(QString, txType);
         QFETCH(QString, type);
-        QCOMPARE(readZqtx(discipline(txType)).value(QLatin1String("Type")).toString(), type);
+        QCOMPARE(readZqtx(discipline(txType)).value("Type").toString(), type);
     }
 
     void readsRaw_data()
     {
-        QTest::addColumn<QString>("raw");
-        QTest::addColumn<QJsonObject>("expected");
-        const auto add = [](const char *name, const char *raw, const char *expected) {
-            QTest::newRow(name) << QString::fromLatin1(raw) << json(expected);
-        };
-        add("control points end at a hole",
+        const Table<QString, QJsonObject> row("raw", "expected");
+        row("control points end at a hole",
             R"(<ZQPhysicsLaBa Bound="9,9,0,0,1,1" Discipline_xControl0="1.5" Discipline_yControl0="x" )"
             R"(Discipline_xControl2="3" Discipline_yControl2="4"/>)",
             "{'Control': [1.5, 0]}");
-        add("half a control point", R"(<ZQPhysicsLaBa Discipline_xControl0="1"/>)", "{}");
-        add("control points in single precision",
+        row("half a control point", R"(<ZQPhysicsLaBa Discipline_xControl0="1"/>)", "{}");
+        row("control points in single precision",
             R"(<ZQPhysicsLaBa Discipline_xControl0="0.1" )"
             R"(Discipline_yControl0="16777217"/>)",
             "{'Control': [0.10000000149011612, 16777216]}");
-        add("a colour element before an attribute, alpha and channels left out",
+        row("a colour element before an attribute, alpha and channels left out",
             R"(<ZQPhysicsLaBa ArtObj_Color="51,1,2,3" LineColor="51,1,2,3"><x><ArtObj_Color r="255"/></x></ZQPhysicsLaBa>)",
             "{'ArtObj_Color': {'Alpha': 1, 'Solid': 16711680}, 'LineColor': {'Alpha': 0.2, 'Solid': 66051}}");
-        add("a colour attribute that is too short", R"(<ZQPhysicsLaBa ArtObj_Color10="1,2,3"/>)",
+        row("a colour attribute that is too short", R"(<ZQPhysicsLaBa ArtObj_Color10="1,2,3"/>)",
             "{'ArtObj_Color10': '1,2,3'}");
-        add("points under names of their own",
+        row("points under names of their own",
             R"(<ZQPhysicsDianHe ArtObj_Prop="1" ArtObj_Sound="2"><ArtObj_Point x="3" y="4"/></ZQPhysicsDianHe>)",
             "{'ArtObj_PointX': '3', 'ArtObj_PointY': '4', 'ArtObj_Prop': '1'}");
-        add("ranges of points",
+        row("ranges of points",
             R"(<ZQPhysicsLi><ArtObj_Point9 x="1" y="2"/><ArtObj_Point10 x="3" y="4"/></ZQPhysicsLi>)",
             "{'ArtObj_Point9x': '1', 'ArtObj_Point9y': '2'}");
-        add("width left out", R"(<ZQPhysicsUXingCiTie ArtObj_Width="5" ArtObj_Height="6"/>)", "{'ArtObj_Height': '6'}");
-        add("width kept", R"(<ZQPhysicsTiaoXingCiTie ArtObj_Width="5"/>)", "{'ArtObj_Width': '5'}");
-        add("chemistry's common keys", R"(<ZQChemistryTiejiatai XScale="2" ArtObj_Mh="3" ArtObj_DisplayX="1"/>)",
+        row("width left out", R"(<ZQPhysicsUXingCiTie ArtObj_Width="5" ArtObj_Height="6"/>)", "{'ArtObj_Height': '6'}");
+        row("width kept", R"(<ZQPhysicsTiaoXingCiTie ArtObj_Width="5"/>)", "{'ArtObj_Width': '5'}");
+        row("chemistry's common keys", R"(<ZQChemistryTiejiatai XScale="2" ArtObj_Mh="3" ArtObj_DisplayX="1"/>)",
             "{'XScale': '2', 'ArtObj_Mh': '3', 'ArtObj_DisplayX': '1'}");
-        add("a colour that is also plain", R"(<ZQChemistryQiPao ArtObj_Color="255,0,1,0"/>)",
+        row("a colour that is also plain", R"(<ZQChemistryQiPao ArtObj_Color="255,0,1,0"/>)",
             "{'ArtObj_Color': {'Alpha': 1, 'Solid': 256}}");
-        add("control points that are also plain",
+        row("control points that are also plain",
             R"(<ZQChemistryFlask Discipline_xControl0="1" Discipline_yControl0="2"/>)",
             "{'Control': [1, 2], 'Discipline_xControl0': '1', 'Discipline_yControl0': '2'}");
-        add("a figure's control points and corners",
+        row("a figure's control points and corners",
             R"(<ZQShapeLianjiexian Discipline_xControl0="1" Discipline_yControl0="2" ArtObj_InterpointNumber="1">)"
             R"(<ArtObj_InterPoint19 x="3" y="4"/><ArtObj_InterPoint20 x="5" y="6"/></ZQShapeLianjiexian>)",
             "{'ArtObj_InterPoint19x': '3', 'ArtObj_InterPoint19y': '4', 'ArtObj_InterpointNumber': '1',"
             " 'Control': [1, 2]}");
-        add("a word that is always hidden", R"(<ZQLiteratureYinbiao ArtObj_WriteDanci="0" ArtObj_DanciPos="0"/>)",
+        row("a word that is always hidden", R"(<ZQLiteratureYinbiao ArtObj_WriteDanci="0" ArtObj_DanciPos="0"/>)",
             "{'WordAtLeft': '0', 'WordHide': '1'}");
-        add("a word that isn't told", R"(<ZQLiteratureYinbiao ArtObj_English="cat"/>)", "{'ArtObj_English': 'cat'}");
-        add("art text keeps its bound", R"(<ZQCommonYishuzi Bound="3,4,0,0,1,2" ArtObj_Height="7"/>)",
+        row("a word that isn't told", R"(<ZQLiteratureYinbiao ArtObj_English="cat"/>)", "{'ArtObj_English': 'cat'}");
+        row("art text keeps its bound", R"(<ZQCommonYishuzi Bound="3,4,0,0,1,2" ArtObj_Height="7"/>)",
             "{'ArtObj_Height': '7', 'BoundingBox': '1,2,3,4'}");
     }
 
@@ -181,8 +173,8 @@ private slots:
 
     void cardsWithoutRawFormReadEmpty()
     {
-        QVERIFY(readRaw(QStringLiteral(R"(<ZQLiteraturePinyin NetID="1" ArtObj_Pinyin="ma"/>)")).isEmpty());
-        QVERIFY(readRaw(QStringLiteral(R"(<ZQLiteratureHanzibihua NetID="1"/>)")).isEmpty());
+        QVERIFY(readRaw(R"(<ZQLiteraturePinyin NetID="1" ArtObj_Pinyin="ma"/>)").isEmpty());
+        QVERIFY(readRaw(R"(<ZQLiteratureHanzibihua NetID="1"/>)").isEmpty());
     }
 
     void readsZqtx_data()
@@ -193,11 +185,10 @@ private slots:
             QTest::newRow(name) << discipline(QLatin1String(type), content) << json(expected);
         };
         const auto properties = [](const QString &rows) -> QString {
-            return QStringLiteral("<properties>") + rows + QStringLiteral("</properties>");
+            return "<properties>"_s + rows + "</properties>"_s;
         };
         const auto rect = [](const char *control) {
-            return QStringLiteral(R"(<data><rect points="1,2,3,4" controlpoints="%1"/></data>)")
-                .arg(QLatin1String(control));
+            return R"(<data><rect points="1,2,3,4" controlpoints="%1"/></data>)"_s.arg(QLatin1String(control));
         };
         add("a colour with alpha", "Physics:laba", properties(row("Color of edge", "51,255,0,0")),
             "{'ArtObj_Color0': {'Alpha': 0.2, 'Solid': 16711680}}");
@@ -230,32 +221,28 @@ private slots:
 
     void writesProperties_data()
     {
-        QTest::addColumn<QJsonObject>("item");
-        QTest::addColumn<QString>("rows");
-        const auto add = [](const char *name, const char *item, const char *rows) {
-            QTest::newRow(name) << json(item) << QString::fromLatin1(rows);
-        };
-        add("the later key of one label",
+        const Table<QJsonObject, QString> row("item", "rows");
+        row("the later key of one label",
             "{'Type': 'ZQPhysicsAotoujing', 'ArtObj_Color0': '1,2,3', 'ArtObj_Color1': '4,5,6'}", "Fill color=4,5,6");
-        add("a key that only the raw form has", "{'Type': 'ZQPhysicsDianHe', 'ArtObj_Prop': '1', 'ArtObj_Width': '2'}",
+        row("a key that only the raw form has", "{'Type': 'ZQPhysicsDianHe', 'ArtObj_Prop': '1', 'ArtObj_Width': '2'}",
             "width=2");
-        add("the same key where ZQTX has it", "{'Type': 'ZQPhysicsDianZi', 'ArtObj_Prop': '1'}", "Positron-electron=1");
-        add("renamed common rows",
+        row("the same key where ZQTX has it", "{'Type': 'ZQPhysicsDianZi', 'ArtObj_Prop': '1'}", "Positron-electron=1");
+        row("renamed common rows",
             "{'Type': 'ZQChemistryJiujingdeng', 'ArtObj_LiquidColor': '1,2,3', 'ArtObj_DisplayLiquid': '1', "
             "'ArtObj_Mw': '4'}",
             "Alohol color=1,2,3|With alcohol inside=1|m_x=4");
-        add("some common rows taken out",
+        row("some common rows taken out",
             "{'Type': 'ZQChemistryXiangPiGuan', 'ArtObj_LiquidColor': '1,2,3', 'ArtObj_DisplayLiquid': '1', "
             "'ArtObj_Mh': '4'}",
             "m_h=4");
-        add("all common rows taken out", "{'Type': 'ZQChemistryJian', 'ArtObj_Type': '1', 'ArtObj_Mh': '4'}", "Type=1");
-        add("colours of the cloud", "{'Type': 'ZQShapeYuntu', 'ArtObj_Color0': '1,2,3'}", "Fill Color=1,2,3");
-        add("colours of the plane", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': '1,2,3'}", "Color of edge=1,2,3");
-        add("twenty corners",
+        row("all common rows taken out", "{'Type': 'ZQChemistryJian', 'ArtObj_Type': '1', 'ArtObj_Mh': '4'}", "Type=1");
+        row("colours of the cloud", "{'Type': 'ZQShapeYuntu', 'ArtObj_Color0': '1,2,3'}", "Fill Color=1,2,3");
+        row("colours of the plane", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': '1,2,3'}", "Color of edge=1,2,3");
+        row("twenty corners",
             "{'Type': 'ZQShapeYiduiduoshu', 'ArtObj_InterPoint19y': '1', 'ArtObj_InterPoint20x': '2', "
             "'ArtObj_Point3x': '3'}",
             "ArtObj_InterPoint19y=1|Point3x=3");
-        add("only texts", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': {'Solid': 1, 'Alpha': 1}, 'ArtObj_Fill': '1'}",
+        row("only texts", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': {'Solid': 1, 'Alpha': 1}, 'ArtObj_Fill': '1'}",
             "isFill=1");
     }
 
@@ -273,33 +260,26 @@ private slots:
             {},
             json("{'Type': 'ZQLiteratureYinbiao', 'Angle': '1', 'BoundingBox': '0,0,1,1', 'InitBound': '0,0,2,2',"
                  " 'Control': '5,6'}"));
-        QCOMPARE(toText(card.firstChildElement(QStringLiteral("transform"))), QStringLiteral("<transform/>"));
-        const QDomElement rect = card.firstChildElement(QStringLiteral("data")).firstChildElement();
-        QCOMPARE(rect.attribute(QStringLiteral("points")), QStringLiteral("0,0,2,2"));
-        QCOMPARE(rect.attribute(QStringLiteral("controlpoints")), QStringLiteral("5,6"));
+        QCOMPARE(toText(card.firstChildElement("transform")), "<transform/>"_s);
+        const QDomElement rect = card.firstChildElement("data").firstChildElement();
+        QCOMPARE(rect.attribute("points"), "0,0,2,2"_s);
+        QCOMPARE(rect.attribute("controlpoints"), "5,6"_s);
         const QDomElement apparatus = plugin()->tranItemJSON2ZQTX({}, json("{'Type': 'ZQPhysicsLaBa', 'Angle': '1'}"));
-        QCOMPARE(toText(apparatus.firstChildElement(QStringLiteral("transform"))),
-                 QStringLiteral(R"(<transform><rotate angle="1"/></transform>)"));
+        QCOMPARE(toText(apparatus.firstChildElement("transform")), R"(<transform><rotate angle="1"/></transform>)"_s);
     }
 
     void placesByInnerMatrix_data()
     {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<QString>("sourceRect");
-        QTest::addColumn<QVector<double>>("matrix");
-        const auto add = [](const char *name, const char *attributes, const char *sourceRect,
-                            const QVector<double> &matrix) {
-            QTest::newRow(name) << QString::fromLatin1(attributes) << QString::fromLatin1(sourceRect) << matrix;
-        };
-        add("flips are on unless they say 0", R"(TransformMatrix="5,5,5,5,5,5")", "0,0,1440,1080",
+        const Table<QString, QString, QVector<double>> row("attributes", "sourceRect", "matrix");
+        row("flips are on unless they say 0", R"(TransformMatrix="5,5,5,5,5,5")", "0,0,1440,1080",
             {-1, 0, 0, -1, 0, 0});
-        add("a quarter turn", R"(ArtInner_HorzFlip="0" ArtInner_VertFlip="0" ArtInner_Rotate="90")", "0,0,1440,1080",
+        row("a quarter turn", R"(ArtInner_HorzFlip="0" ArtInner_VertFlip="0" ArtInner_Rotate="90")", "0,0,1440,1080",
             {0, -1, 1, 0, 0, 0});
-        add("one flip, zoom and offset",
+        row("one flip, zoom and offset",
             R"(ArtInner_VertFlip="0" ArtInner_Rotate="90" ArtInner_Zoom="2" ArtInner_Zoom_Y="3")"
             R"( ArtInner_CenterPointX="10" ArtInner_CenterPointY="20" ArtInner_OfpX="1" ArtInner_OfpY="2")",
             "0,0,1440,1080", {0, -3, -2, 0, 9, 22});
-        add("then fitted to the page",
+        row("then fitted to the page",
             R"(ArtInner_HorzFlip="0" ArtInner_VertFlip="0" ArtInner_CenterPointX="100" ArtInner_CenterPointY="50")",
             "0,0,1024,768", {1.40625, 0, 0, 1.40625, 140.625, 70.3125});
     }
@@ -309,12 +289,12 @@ private slots:
         QFETCH(QString, attributes);
         QFETCH(QString, sourceRect);
         QFETCH(QVector<double>, matrix);
-        QJsonObject slide{{QLatin1String("SlideSourceRect"), sourceRect}};
-        const QJsonObject context{{QLatin1String("slide"), slide}};
+        QJsonObject slide{{"SlideSourceRect"_s, sourceRect}};
+        const QJsonObject context{{"slide"_s, slide}};
         for (const char *type : {"ZQVectorJuxing", "ZQShapeFeiji"}) {
-            const QString raw = QStringLiteral("<%1 %2/>").arg(QLatin1String(type), attributes);
+            const QString raw = "<%1 %2/>"_s.arg(QLatin1String(type), attributes);
             const QJsonObject item = plugin()->tranItemXML2JSON(xml(raw), context);
-            const QStringList numbers = item.value(QLatin1String("Matrix")).toString().split(QLatin1Char(','));
+            const QStringList numbers = item.value("Matrix").toString().split(QLatin1Char(','));
             QCOMPARE(numbers.size(), matrix.size());
             for (int i = 0; i < matrix.size(); ++i) {
                 QVERIFY2(qAbs(numbers.at(i).toDouble() - matrix.at(i)) < 1e-6,
@@ -325,22 +305,18 @@ private slots:
 
     void readsOutlines_data()
     {
-        QTest::addColumn<QString>("paths");
-        QTest::addColumn<QJsonObject>("expected");
-        const auto add = [](const char *name, const char *paths, const char *expected) {
-            QTest::newRow(name) << QString::fromLatin1(paths) << json(expected);
-        };
-        add("a path left out and one too many",
+        const Table<QString, QJsonObject> row("paths", "expected");
+        row("a path left out and one too many",
             R"(<ArtVectObj_Path0><ArtVectObj_Point0 x0="1" y0="2" x1="3" x2="5" y2="0.1" Type="2"/></ArtVectObj_Path0>)"
             R"(<ArtVectObj_Path2><ArtVectObj_Point0 x0="7" Type="9"/></ArtVectObj_Path2>)"
             R"(<ArtVectObj_Path4><ArtVectObj_Point0 x0="8"/></ArtVectObj_Path4>)",
             "{'VectorControl0': [1, 2, 3, 0, 5, 0.10000000149011612], 'VectorControl2': [7, 0, 0, 0, 0, 0],"
             " 'VectorPathType': 2}");
-        add("a point left out, in any order and at any depth",
+        row("a point left out, in any order and at any depth",
             R"(<ArtVectObj_Path1><ArtVectObj_Point3 x0="4"/><ArtVectObj_Point1 x0="2"/>)"
             R"(<g><ArtVectObj_Point0 x0="1"/></g><ArtVectObj_Point0 x0="9"/></ArtVectObj_Path1>)",
             "{'VectorControl1': [1, 0, 0, 0, 0, 0, 2, 0, 0, 0, 0, 0]}");
-        add("a type that is no number",
+        row("a type that is no number",
             R"(<ArtVectObj_Path0><ArtVectObj_Point0 Type="x"/></ArtVectObj_Path0><ArtVectObj_Path3/>)",
             "{'VectorControl0': [0, 0, 0, 0, 0, 0], 'VectorPathType': 0}");
     }
@@ -349,25 +325,24 @@ private slots:
     {
         QFETCH(QString, paths);
         QFETCH(QJsonObject, expected);
-        const QString manager = QStringLiteral("<ArtVectObj_Manager>%1</ArtVectObj_Manager>").arg(paths);
-        for (const QString &text :
-             {QStringLiteral("<ZQVectorJuxing><x>%1</x></ZQVectorJuxing>").arg(manager),
-              discipline(QStringLiteral("Vector:juxing"), QStringLiteral("<x>%1</x>").arg(manager))}) {
-            const bool raw = text.startsWith(QLatin1String("<ZQ"));
+        const QString manager = "<ArtVectObj_Manager>%1</ArtVectObj_Manager>"_s.arg(paths);
+        for (const QString &text : {"<ZQVectorJuxing><x>%1</x></ZQVectorJuxing>"_s.arg(manager),
+                                    discipline("Vector:juxing"_s, "<x>%1</x>"_s.arg(manager))}) {
+            const bool raw = text.startsWith("<ZQ");
             const QDomElement element = xml(text);
             const auto read = [raw, &element] {
                 return ownKeys(raw ? plugin()->tranItemXML2JSON(element, fittingSlide())
                                    : plugin()->tranItemZQTX2JSON(element, {}));
             };
             QJsonObject item = read();
-            const QString taken = item.take(QLatin1String("manager")).toString();
+            const QString taken = item.take("manager").toString();
             QCOMPARE(toText(item), toText(expected));
-            QCOMPARE(toText(element.firstChildElement()), QStringLiteral("<x/>"));
+            QCOMPARE(toText(element.firstChildElement()), "<x/>"_s);
             // The outline is gone from the tree; a second look finds none.
-            QCOMPARE(toText(read()), raw ? QStringLiteral("{}") : QStringLiteral(R"({"manager":""})"));
+            QCOMPARE(toText(read()), raw ? "{}"_s : R"({"manager":""})"_s);
 
-            const QDomElement written = plugin()->tranItemJSON2ZQTX(
-                {}, {{QStringLiteral("Type"), QStringLiteral("ZQVectorJuxing")}, {QStringLiteral("manager"), taken}});
+            const QDomElement written =
+                plugin()->tranItemJSON2ZQTX({}, {{"Type"_s, "ZQVectorJuxing"_s}, {"manager"_s, taken}});
             const QJsonObject again = plugin()->tranItemZQTX2JSON(written, {});
             for (auto it = expected.constBegin(); it != expected.constEnd(); ++it) {
                 QCOMPARE(again.value(it.key()), it.value());
@@ -380,7 +355,7 @@ private slots:
         for (const char *manager : {"''", "'<ArtVectObj_Manager><ArtVectObj_Path0>'", "'text'", "{}"}) {
             const QByteArray item = QByteArray("{'Type': 'ZQVectorJuxing', 'manager': ") + manager + '}';
             const QDomElement written = plugin()->tranItemJSON2ZQTX({}, json(item.constData()));
-            QCOMPARE(written.lastChildElement().tagName(), QStringLiteral("data"));
+            QCOMPARE(written.lastChildElement().tagName(), "data"_s);
         }
     }
 };

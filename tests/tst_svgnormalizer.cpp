@@ -1,3 +1,4 @@
+#include "pluginfixture.h"
 #include "svgnormalizer.h"
 #include "svgvalues.h"
 
@@ -31,8 +32,7 @@ QString describe(const IwbElement &item)
     const QDomNamedNodeMap attributes = item.element.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
         const QDomAttr attribute = attributes.item(i).toAttr();
-        const bool isPaint =
-            attribute.name().startsWith(QLatin1String("stroke")) || attribute.name() == QLatin1String("fill");
+        const bool isPaint = attribute.name().startsWith("stroke") || attribute.name() == "fill"_s;
         (isPaint ? paint : place).insert(attribute.name(), attribute.value());
     }
     QString text = item.element.tagName().mid(4);
@@ -40,9 +40,9 @@ QString describe(const IwbElement &item)
         text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
     }
     if (item.angle != 0) {
-        text += QStringLiteral(" turned %1").arg(item.angle * 180 / M_PI, 0, 'g', 6);
+        text += " turned %1"_s.arg(item.angle * 180 / M_PI, 0, 'g', 6);
     }
-    text += QLatin1String(" |");
+    text += " |"_s;
     for (auto it = paint.constBegin(); it != paint.constEnd(); ++it) {
         text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
     }
@@ -67,12 +67,7 @@ class TestSvgNormalizer : public QObject
 private slots:
     void shapes_data()
     {
-        QTest::addColumn<QString>("svg");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const char *svg, const char *expected) {
-            QTest::newRow(name) << QString::fromUtf8(svg) << QString::fromUtf8(expected);
-        };
-
+        const Table<QString, QString> row("svg", "expected");
         // A fill that isn't named is black, a line that isn't named isn't there.
         row("defaults of svg", "<svg:rect x='1' y='2' width='3' height='4'/>",
             "rect height=4 width=3 x=1 y=2 | fill=rgb(0,0,0) stroke=rgb(0,0,0,0) stroke-opacity=255 stroke-width=1");
@@ -134,33 +129,32 @@ private slots:
     {
         // Commas: 0.5235987756 radians are 30 degrees. Blanks: degrees. An alpha of fills out of 255.
         const IwbPage page = firstPage(
-            QStringLiteral(
-                "<svg:rect x='10' y='10' width='20' height='10' transform='rotate(0.5235987756,20,15)' "
-                "fill='rgb(1,2,3)' stroke='rgb(4,5,6)' stroke-opacity='128'/>"
-                "<svg:rect x='10' y='10' width='20' height='10' transform='rotate(30 20 15)' stroke='rgb(4,5,6)'/>"
-                "<svg:polyline points='0,0,10,0,10,10' stroke='rgb(4,5,6)'/>"),
+            "<svg:rect x='10' y='10' width='20' height='10' transform='rotate(0.5235987756,20,15)' "
+            "fill='rgb(1,2,3)' stroke='rgb(4,5,6)' stroke-opacity='128'/>"
+            "<svg:rect x='10' y='10' width='20' height='10' transform='rotate(30 20 15)' stroke='rgb(4,5,6)'/>"
+            "<svg:polyline points='0,0,10,0,10,10' stroke='rgb(4,5,6)'/>"_s,
             nativeHead);
         QCOMPARE(describe(page.items.at(0)),
-                 QStringLiteral("rect height=10 width=20 x=10 y=10 turned 30 | fill=rgb(1,2,3) stroke=rgb(4,5,6) "
-                                "stroke-opacity=128 stroke-width=2"));
+                 "rect height=10 width=20 x=10 y=10 turned 30 | fill=rgb(1,2,3) stroke=rgb(4,5,6) "
+                 "stroke-opacity=128 stroke-width=2"_s);
         QCOMPARE(describe(page.items.at(1)),
-                 QStringLiteral("rect height=10 width=20 x=10 y=10 turned 30 | stroke=rgb(4,5,6) stroke-width=2"));
+                 "rect height=10 width=20 x=10 y=10 turned 30 | stroke=rgb(4,5,6) stroke-width=2"_s);
         QCOMPARE(describe(page.items.at(2)), // an angle
-                 QStringLiteral("polyline points=0,0,10,0,10,10 | stroke=rgb(4,5,6) stroke-width=2"));
+                 "polyline points=0,0,10,0,10,10 | stroke=rgb(4,5,6) stroke-width=2"_s);
     }
 
     void prefixesDoNotMatter_data()
     {
-        QTest::addColumn<QString>("document");
-        QTest::newRow("svg without a prefix")
-            << "<iwb:iwb xmlns:iwb='http://www.becta.org.uk/iwb'><svg xmlns='http://www.w3.org/2000/svg' viewbox='0 0 "
-               "9 9'>"
-               "<page id='p'><rect width='1' height='1'/></page></svg><iwb:element ref='x' locked='true'/></iwb:iwb>";
-        QTest::newRow("another prefix, no page")
-            << "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xmlns:s='http://www.w3.org/2000/svg'>"
-               "<s:svg width='9px' height='9px'><s:rect width='1' height='1'/></s:svg></iwb>";
-        QTest::newRow("a svg document alone")
-            << "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><g><rect width='1' height='1'/></g></svg>";
+        const Table<QString> row("document");
+        row("svg without a prefix",
+            "<iwb:iwb xmlns:iwb='http://www.becta.org.uk/iwb'><svg xmlns='http://www.w3.org/2000/svg' viewbox='0 0 "
+            "9 9'>"
+            "<page id='p'><rect width='1' height='1'/></page></svg><iwb:element ref='x' locked='true'/></iwb:iwb>");
+        row("another prefix, no page",
+            "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xmlns:s='http://www.w3.org/2000/svg'>"
+            "<s:svg width='9px' height='9px'><s:rect width='1' height='1'/></s:svg></iwb>");
+        row("a svg document alone",
+            "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><g><rect width='1' height='1'/></g></svg>");
     }
 
     void prefixesDoNotMatter()
@@ -170,88 +164,72 @@ private slots:
         const SvgNormalizer normalizer(content.documentElement());
         QCOMPARE(normalizer.pageCount(), 1);
         QDomDocument size;
-        QCOMPARE(normalizer.sizeElement(size).attribute(QStringLiteral("width")), QStringLiteral("9"));
+        QCOMPARE(normalizer.sizeElement(size).attribute("width"), "9"_s);
         const IwbPage page = normalizer.page(0);
         QCOMPARE(page.items.size(), 1);
-        QCOMPARE(page.items.first().element.tagName(), QStringLiteral("svg:rect"));
+        QCOMPARE(page.items.first().element.tagName(), "svg:rect"_s);
     }
 
     void backgroundsAreFoundByTheirRecords()
     {
         const QDomDocument document =
             parsed(QLatin1String(head)
-                   + QLatin1String(
-                       "<svg:page><svg:rect id='r' width='5' height='5' fill='red'/>"
-                       "<svg:rect id='b' width='800' height='600' fill='blue'/><svg:image id='i' xlink:href='b.png'/>"
-                       "</svg:page><svg:page><svg:rect id='r2' width='5' height='5' fill='red'/></svg:page></svg:svg>"
-                       "<element ref='b' background='true'/><element ref='i' background='true'/>"
-                       "<element ref='r' locked='true'/></iwb>"));
+                   + "<svg:page><svg:rect id='r' width='5' height='5' fill='red'/>"
+                     "<svg:rect id='b' width='800' height='600' fill='blue'/><svg:image id='i' xlink:href='b.png'/>"
+                     "</svg:page><svg:page><svg:rect id='r2' width='5' height='5' fill='red'/></svg:page></svg:svg>"
+                     "<element ref='b' background='true'/><element ref='i' background='true'/>"
+                     "<element ref='r' locked='true'/></iwb>"_s);
         const SvgNormalizer normalizer(document.documentElement());
         const IwbPage first = normalizer.page(0);
-        const QDomElement rect = first.page.firstChildElement(QStringLiteral("svg:rect"));
-        QCOMPARE(rect.attribute(QStringLiteral("fill")), QStringLiteral("rgb(0,0,255)"));
-        QCOMPARE(first.backgroundReference, QStringLiteral("b.png"));
+        const QDomElement rect = first.page.firstChildElement("svg:rect");
+        QCOMPARE(rect.attribute("fill"), "rgb(0,0,255)"_s);
+        QCOMPARE(first.backgroundReference, "b.png"_s);
         QCOMPARE(first.items.size(), 1);
         QVERIFY(first.items.first().isLocked);
         // Without a record a rectangle is an item, and the page is white.
         const IwbPage second = normalizer.page(1);
         QCOMPARE(second.items.size(), 1);
-        QCOMPARE(second.page.firstChildElement().attribute(QStringLiteral("fill")), QStringLiteral("rgb(255,255,255)"));
+        QCOMPARE(second.page.firstChildElement().attribute("fill"), "rgb(255,255,255)"_s);
     }
 
     void textBecomesSpans()
     {
-        const IwbPage page =
-            firstPage(QStringLiteral("<svg:text x='100' y='50' font-size='20' text-anchor='middle' fill='#f00'>one "
-                                     "<svg:tspan font-weight='bold'>two"
-                                     "</svg:tspan><svg:tspan x='100' dy='1.2em'>three</svg:tspan></svg:text>"));
+        const IwbPage page = firstPage("<svg:text x='100' y='50' font-size='20' text-anchor='middle' fill='#f00'>one "
+                                       "<svg:tspan font-weight='bold'>two"
+                                       "</svg:tspan><svg:tspan x='100' dy='1.2em'>three</svg:tspan></svg:text>"_s);
         const QDomElement area = page.items.first().element;
         QStringList spans;
         for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-            spans << span.text() + QLatin1Char('|') + span.attribute(QStringLiteral("font-weight")) + QLatin1Char('|')
-                    + span.attribute(QStringLiteral("font-style")) + QLatin1Char('|')
-                    + span.attribute(QStringLiteral("text-align"));
+            spans << span.text() + QLatin1Char('|') + span.attribute("font-weight") + QLatin1Char('|')
+                    + span.attribute("font-style") + QLatin1Char('|') + span.attribute("text-align");
         }
-        QCOMPARE(spans,
-                 QStringList({QStringLiteral("one |normal|normal|center"), QStringLiteral("two\n|bold|normal|center"),
-                              QStringLiteral("three|normal|normal|center")}));
-        const double width = area.attribute(QStringLiteral("width")).toDouble();
+        QCOMPARE(
+            spans,
+            QStringList({"one |normal|normal|center"_s, "two\n|bold|normal|center"_s, "three|normal|normal|center"_s}));
+        const double width = area.attribute("width").toDouble();
         QVERIFY(width > 20);
-        QVERIFY(qAbs(area.attribute(QStringLiteral("x")).toDouble() + width / 2 - 100) < 1e-6);
-        QVERIFY(area.attribute(QStringLiteral("y")).toDouble() < 50);
+        QVERIFY(qAbs(area.attribute("x").toDouble() + width / 2 - 100) < 1e-6);
+        QVERIFY(area.attribute("y").toDouble() < 50);
     }
 
     void nothingIsDroppedSilently_data()
     {
-        QTest::addColumn<QString>("svg");
-        QTest::addColumn<QString>("remark");
-        QTest::newRow("curves") << "<svg:path id='p' d='M0 0C1 1 2 2 3 3'/>"
-                                << "svg:path p: it has curves";
-        QTest::newRow("use") << "<svg:use id='u'/>"
-                             << "svg:use u: lessons have nothing like it";
-        QTest::newRow("other vocabulary") << "<x:y xmlns:x='urn:x'/>"
-                                          << "x:y : lessons have nothing like it";
-        QTest::newRow("gradient") << "<svg:circle r='1' fill='url(#g)'/>"
-                                  << "svg:circle : fill \"url(#g)\" (a gradient";
-        QTest::newRow("round corners") << "<svg:rect width='9' height='9' rx='2'/>"
-                                       << "svg:rect : its corners";
-        QTest::newRow("odd points") << "<svg:polyline points='1 2 3'/>"
-                                    << "svg:polyline : its last point has no y";
-        QTest::newRow("clip") << "<svg:g clip-path='url(#c)'/>"
-                              << "svg:g : clip-path is left out";
-        QTest::newRow("transform") << "<svg:rect width='1' height='1' transform='bend(3)'/>"
-                                   << "svg:rect : transform \"bend(3)\"";
-        QTest::newRow("title") << "<svg:title>Fractions</svg:title>"
-                               << "svg:title : lessons have nothing like it";
-        QTest::newRow("tip of a shape") << "<svg:rect id='r' width='1' height='1'><svg:title>One</svg:title></svg:rect>"
-                                        << "svg:rect r: <svg:title> within it is left out";
-        QTest::newRow("script") << "<svg:circle r='1' onclick='next()'/>"
-                                << "svg:circle : the script of onclick is left out";
-        QTest::newRow("arrow of a polyline")
-            << "<svg:g marker-end='url(#m)'><svg:polygon points='1 2 3 4 5 6'/></svg:g>"
-            << "svg:polygon : marker-end is left out";
-        QTest::newRow("no size") << "<svg:rect width='0' height='4'/>"
-                                 << "svg:rect : it has no size";
+        const Table<QString, QString> row("svg", "remark");
+        row("curves", "<svg:path id='p' d='M0 0C1 1 2 2 3 3'/>", "svg:path p: it has curves");
+        row("use", "<svg:use id='u'/>", "svg:use u: lessons have nothing like it");
+        row("other vocabulary", "<x:y xmlns:x='urn:x'/>", "x:y : lessons have nothing like it");
+        row("gradient", "<svg:circle r='1' fill='url(#g)'/>", "svg:circle : fill \"url(#g)\" (a gradient");
+        row("round corners", "<svg:rect width='9' height='9' rx='2'/>", "svg:rect : its corners");
+        row("odd points", "<svg:polyline points='1 2 3'/>", "svg:polyline : its last point has no y");
+        row("clip", "<svg:g clip-path='url(#c)'/>", "svg:g : clip-path is left out");
+        row("transform", "<svg:rect width='1' height='1' transform='bend(3)'/>", "svg:rect : transform \"bend(3)\"");
+        row("title", "<svg:title>Fractions</svg:title>", "svg:title : lessons have nothing like it");
+        row("tip of a shape", "<svg:rect id='r' width='1' height='1'><svg:title>One</svg:title></svg:rect>",
+            "svg:rect r: <svg:title> within it is left out");
+        row("script", "<svg:circle r='1' onclick='next()'/>", "svg:circle : the script of onclick is left out");
+        row("arrow of a polyline", "<svg:g marker-end='url(#m)'><svg:polygon points='1 2 3 4 5 6'/></svg:g>",
+            "svg:polygon : marker-end is left out");
+        row("no size", "<svg:rect width='0' height='4'/>", "svg:rect : it has no size");
     }
 
     void nothingIsDroppedSilently()
@@ -261,7 +239,7 @@ private slots:
         const IwbPage page = firstPage(svg);
         QVERIFY(!page.remarks.isEmpty());
         const SvgRemark &first = page.remarks.first();
-        const QString text = first.tag + QLatin1Char(' ') + first.id + QLatin1String(": ") + first.text;
+        const QString text = first.tag + QLatin1Char(' ') + first.id + ": "_s + first.text;
         QVERIFY2(text.startsWith(remark), qPrintable(text));
     }
 

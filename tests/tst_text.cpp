@@ -6,8 +6,8 @@
 
 namespace {
 
-const QString listKey = QStringLiteral("IWB_TEXTINFO-VECTOR");
-const QString deleterKey = QStringLiteral("IWB_TEXTINFO-DELVECTOR");
+const QString listKey = "IWB_TEXTINFO-VECTOR"_s;
+const QString deleterKey = "IWB_TEXTINFO-DELVECTOR"_s;
 
 int destroyedLists = 0;
 
@@ -45,7 +45,7 @@ QString runText(const IwbTextInfo &run)
                        run.textAlign,
                        run.text,
                        run.rect,
-                       run.flag ? QStringLiteral("flag") : QString()}
+                       run.flag ? "flag"_s : QString()}
         .join(QLatin1Char('|'));
 }
 
@@ -72,10 +72,10 @@ private slots:
         const QJsonObject item = json("{'Type':'ZQTextBoard','ID':'3','TextHtml':'<b>x</b>','InitialScale':'1.5',"
                                       "'BoundingBox':'1,2,3,4','AudioPath':'a.mp3','document':'d'}");
         const QDomElement text = plugin()->tranItemJSON2ZQTX({}, item);
-        QCOMPARE(text.tagName(), QStringLiteral("text"));
+        QCOMPARE(text.tagName(), "text"_s);
         QCOMPARE(differences(attributesOf(text), json("{'type':'ZQTextBoard','id':'3','visible':'1','document':'d'}")),
                  QString());
-        const QDomElement content = text.firstChildElement(QStringLiteral("data")).firstChildElement();
+        const QDomElement content = text.firstChildElement("data").firstChildElement();
         QCOMPARE(toText(attributesOf(content)), toText(json("{'text':'<b>x</b>','type':'html','InitialScale':'1.5'}")));
         QCOMPARE(toText(attributesOf(content.nextSiblingElement())),
                  toText(json("{'points':'1,2,3,4','controlpoints':''}")));
@@ -84,38 +84,35 @@ private slots:
 
     void readsRawTexts()
     {
-        const QJsonObject item = plugin()->tranItemXML2JSON(
-            xml(QStringLiteral("<ZQTextBoard TextContent='a' Text='b' EditBkColor='c' Transparency='d' "
-                               "SHOWBACKCOLOR='e' WPFMATRIX='1,2'/>")),
-            {});
+        const QJsonObject item =
+            plugin()->tranItemXML2JSON(xml("<ZQTextBoard TextContent='a' Text='b' EditBkColor='c' Transparency='d' "
+                                           "SHOWBACKCOLOR='e' WPFMATRIX='1,2'/>"_s),
+                                       {});
         QCOMPARE(differences(item,
                              json("{'TextContent':'a','Text':'b','EditBkColor':'c','Transparency':'d',"
                                   "'SHOWBACKCOLOR':'e','WPFMATRIX':'1,2'}")),
                  QString());
-        QVERIFY(plugin()->tranItemXML2JSON(xml(QStringLiteral("<Text/>")), {}).isEmpty());
+        QVERIFY(plugin()->tranItemXML2JSON(xml("<Text/>"), {}).isEmpty());
     }
 
     void readsRuns_data()
     {
-        QTest::addColumn<QString>("svg");
-        QTest::addColumn<QStringList>("runs");
-        const QString defaults = QStringLiteral("#000000|bold|normal|italic|Arial|28|underline|start");
-        QTest::newRow("area and two runs, not inherited")
-            << "<svg:textarea x='1' y='2' width='3' height='4' font-weight='normal'><svg:tspan font-size='9'>"
-               "<![CDATA[one]]></svg:tspan>loose<svg:tspan><![CDATA[two]]><![CDATA[three]]></svg:tspan></svg:textarea>"
-            << QStringList{QStringLiteral("#000000|normal|normal|italic|Arial|28|underline|start||1,2,3,4|"),
-                           QStringLiteral("#000000|bold|normal|italic|Arial|9|underline|start|one||"),
-                           defaults + QStringLiteral("|two||")};
-        QTest::newRow("every attribute, empty ones too")
-            << "<svg:textarea fill='a' font-weight='b' font-stretch='c' font-style='d' font-family='e' font-size='f' "
-               "text-decoration='' text-align='h'/>"
-            << QStringList{QStringLiteral("a|b|c|d|e|f||h|||")};
-        QTest::newRow("plain text and a place without height")
-            << "<svg:textarea x='1' y='2' width='3'>plain<other>plain</other></svg:textarea>"
-            << QStringList{defaults + QStringLiteral("|||"), defaults + QStringLiteral("|||")};
-        QTest::newRow("text of the area itself, behind a run")
-            << "<svg:textarea><svg:tspan/><![CDATA[own]]></svg:textarea>"
-            << QStringList{defaults + QStringLiteral("|own||"), defaults + QStringLiteral("|||")};
+        const Table<QString, QStringList> row("svg", "runs");
+        const QString defaults = "#000000|bold|normal|italic|Arial|28|underline|start"_s;
+        row("area and two runs, not inherited",
+            "<svg:textarea x='1' y='2' width='3' height='4' font-weight='normal'><svg:tspan font-size='9'>"
+            "<![CDATA[one]]></svg:tspan>loose<svg:tspan><![CDATA[two]]><![CDATA[three]]></svg:tspan></svg:textarea>",
+            {"#000000|normal|normal|italic|Arial|28|underline|start||1,2,3,4|",
+             "#000000|bold|normal|italic|Arial|9|underline|start|one||", defaults + "|two||"});
+        row("every attribute, empty ones too",
+            "<svg:textarea fill='a' font-weight='b' font-stretch='c' font-style='d' font-family='e' font-size='f' "
+            "text-decoration='' text-align='h'/>",
+            {"a|b|c|d|e|f||h|||"});
+        row("plain text and a place without height",
+            "<svg:textarea x='1' y='2' width='3'>plain<other>plain</other></svg:textarea>",
+            {defaults + "|||", defaults + "|||"});
+        row("text of the area itself, behind a run", "<svg:textarea><svg:tspan/><![CDATA[own]]></svg:textarea>",
+            {defaults + "|own||", defaults + "|||"});
     }
 
     void readsRuns()
@@ -136,11 +133,7 @@ private slots:
 
     void placesTheArea_data()
     {
-        QTest::addColumn<QJsonObject>("item");
-        QTest::addColumn<QJsonObject>("attributes");
-        const auto row = [](const char *name, const char *item, const char *attributes) {
-            QTest::newRow(name) << json(item) << json(attributes);
-        };
+        const Table<QJsonObject, QJsonObject> row("item", "attributes");
         row("no matrix, default run", "{'BoundingBox':'1,2,101,52','ID':'7'}",
             "{'x':'1','y':'2','width':'100','height':'50','id':'7','fill':'#000000','font-weight':'bold',"
             "'font-stretch':'normal','font-style':'italic','font-family':'Arial','font-size':'28',"
@@ -163,56 +156,54 @@ private slots:
     {
         QFETCH(QJsonObject, item);
         QFETCH(QJsonObject, attributes);
-        item.insert(QStringLiteral("Type"), QStringLiteral("ZQTextBoard"));
+        item.insert("Type", "ZQTextBoard"_s);
         const QDomElement area = toSvg(item);
-        QCOMPARE(area.tagName(), QStringLiteral("svg:textarea"));
+        QCOMPARE(area.tagName(), "svg:textarea"_s);
         QCOMPARE(differences(attributesOf(area), attributes), QString());
         QVERIFY(!area.hasChildNodes());
     }
 
     void writesRunsAndFreesTheListOnce()
     {
-        auto *list = new IwbTextInfoList{run(QStringLiteral("a<b"), QStringLiteral("red")),
-                                         run(QString(), QStringLiteral("blue"))};
+        auto *list = new IwbTextInfoList{run("a<b"_s, "red"_s), run(QString(), "blue"_s)};
         destroyedLists = 0;
-        const QDomElement area = toSvg({{QStringLiteral("Type"), QStringLiteral("ZQTextBoard")},
-                                        {QStringLiteral("BoundingBox"), QStringLiteral("0,0,1,1")},
-                                        {QStringLiteral("id"), QStringLiteral("low")},
+        const QDomElement area = toSvg({{"Type"_s, "ZQTextBoard"_s},
+                                        {"BoundingBox"_s, "0,0,1,1"_s},
+                                        {"id"_s, "low"_s},
                                         {listKey, addressText(list)},
                                         {deleterKey, addressText(&destroyList)}});
         QCOMPARE(destroyedLists, 1);
-        QCOMPARE(area.attribute(QStringLiteral("fill")), QStringLiteral("red"));
+        QCOMPARE(area.attribute("fill"), "red"_s);
         QCOMPARE(area.childNodes().count(), 2);
-        const QDomElement first = area.firstChildElement(QStringLiteral("svg:tspan"));
+        const QDomElement first = area.firstChildElement("svg:tspan");
         QCOMPARE(differences(attributesOf(first), json("{'fill':'red','id':'low','font-size':'28','x':null}")),
                  QString());
         QVERIFY(first.firstChild().isCDATASection());
-        QCOMPARE(first.text(), QStringLiteral("a<b"));
+        QCOMPARE(first.text(), "a<b"_s);
         const QDomElement second = first.nextSiblingElement();
-        QCOMPARE(second.attribute(QStringLiteral("fill")), QStringLiteral("blue"));
+        QCOMPARE(second.attribute("fill"), "blue"_s);
         QVERIFY(!second.hasChildNodes());
     }
 
     void leavesTheListAliveWithoutItsDeleter()
     {
-        const IwbTextInfoList list{run(QStringLiteral("kept"), QStringLiteral("red"))};
-        const QDomElement area =
-            toSvg({{QStringLiteral("Type"), QStringLiteral("ZQTextBoard")}, {listKey, addressText(&list)}});
+        const IwbTextInfoList list{run("kept"_s, "red"_s)};
+        const QDomElement area = toSvg({{"Type"_s, "ZQTextBoard"_s}, {listKey, addressText(&list)}});
         QCOMPARE(area.attributes().count(), 0);
-        QCOMPARE(area.text(), QStringLiteral("kept"));
-        QCOMPARE(list.first().text, QStringLiteral("kept"));
+        QCOMPARE(area.text(), "kept"_s);
+        QCOMPARE(list.first().text, "kept"_s);
     }
 
     // What is read and written again frees its own list; the first run is that of the area and gets a tspan too.
     void comesOutWithItsRuns()
     {
         QJsonObject item = plugin()->tranItemIWB2JSON(
-            xml(QStringLiteral("<svg:textarea><svg:tspan fill='green'><![CDATA[x]]></svg:tspan></svg:textarea>")), {});
-        item.insert(QStringLiteral("BoundingBox"), QStringLiteral("0,0,1,1"));
+            xml("<svg:textarea><svg:tspan fill='green'><![CDATA[x]]></svg:tspan></svg:textarea>"), {});
+        item.insert("BoundingBox", "0,0,1,1"_s);
         const QDomElement area = toSvg(item);
         QCOMPARE(area.childNodes().count(), 2);
-        QCOMPARE(area.lastChildElement().attribute(QStringLiteral("fill")), QStringLiteral("green"));
-        QCOMPARE(area.text(), QStringLiteral("x"));
+        QCOMPARE(area.lastChildElement().attribute("fill"), "green"_s);
+        QCOMPARE(area.text(), "x"_s);
     }
 };
 

@@ -1,9 +1,5 @@
 #include "ziptext.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-
 namespace {
 
 QByteArray number(qint64 value, int size)
@@ -53,19 +49,4 @@ QByteArray zipText(const QVector<ZipEntry> &entries)
     }
     return body + list + "PK\5\6" + number(0, 4) + number(entries.size(), 2) + number(entries.size(), 2)
         + number(list.size(), 4) + number(body.size(), 4) + number(0, 2);
-}
-
-void putFile(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
-        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
-    }
-}
-
-QByteArray fileContent(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

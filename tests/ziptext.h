@@ -2,7 +2,6 @@
 #define ZIPTEXT_H
 
 #include <QByteArray>
-#include <QString>
 #include <QVector>
 
 /*!
@@ -21,11 +20,5 @@ struct ZipEntry
 
 //! The archive. Checksums are those of the content.
 QByteArray zipText(const QVector<ZipEntry> &entries);
-
-//! Writes a file, with the folders on its way. Fails the program if it can't.
-void putFile(const QString &path, const QByteArray &content);
-
-//! What a file holds; a null array without the file.
-QByteArray fileContent(const QString &path);
 
 #endif // ZIPTEXT_H

@@ -1,0 +1,54 @@
+#ifndef HOSTFIXTURE_H
+#define HOSTFIXTURE_H
+
+#include "lesson.h"
+#include "lessonerror.h"
+#include "lossreport.h"
+#include "pluginfixture.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+// What tests of the host share: conversions through its library and through the command.
+
+/*!
+ * The command, with something done to its process before it starts.
+ */
+class Command : public QProcess
+{
+public:
+    struct Outcome
+    {
+        int exitCode; //!< -1 after a crash
+        QString output;
+        QString errors;
+    };
+
+    std::function<void()> prepare;
+
+    //! Starts it in a folder, or where the test is.
+    void begin(const QStringList &arguments, const QString &folder = {});
+
+    //! Waits for its end.
+    Outcome outcome();
+
+protected:
+    void setupChildProcess() override;
+};
+
+//! Runs the command from beginning to end.
+Command::Outcome runCommand(const QStringList &arguments, const QString &folder = {},
+                            const std::function<void()> &prepare = {});
+
+//! The reader of a lesson, in the format that its name tells. Throws LessonError.
+std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses = nullptr);
+
+//! Converts a lesson through the library and tells its losses; format stands for that of the output's name. Fails the
+//! program if it can't be.
+LossReport convertedLesson(const QString &from, const QString &to, const QString &format = {},
+                           const LessonContext &context = {});
+
+//! "type key: detail" of each loss.
+QStringList detailsOf(const LossReport &losses);
+
+#endif // HOSTFIXTURE_H
