@@ -92,7 +92,7 @@ void complain(const QString &text)
     QTextStream(stderr) << "lessonconv: " << printable(text) << '\n';
 }
 
-Command::Command()
+Command::Command(const QStringList &arguments)
 {
     m_parser.setApplicationDescription(QLatin1String(usage));
     m_parser.addVersionOption();
@@ -120,11 +120,34 @@ Command::Command()
         option("verbose", "Print what the libraries log."),
         option("plugin", "The plug-in's file, where it is in an unusual place.", "file"),
     });
+    m_isUnderstood = m_parser.parse(arguments);
 }
 
-int Command::run(const QStringList &arguments)
+bool Command::measuresText() const
 {
-    if (!m_parser.parse(arguments)) {
+    const QStringList words = m_isUnderstood ? m_parser.positionalArguments() : QStringList();
+    const QString command = words.value(0);
+    try {
+        if (command == QLatin1String("serve")) {
+            // What lessons will come isn't known.
+            return !isSet("from") || inputFormat({}).measuresText || outputFormat({}).measuresText;
+        }
+        if (command == QLatin1String("info")) {
+            return inputFormat(words.value(1)).measuresText;
+        }
+        if (command == QLatin1String("convert") && words.size() == 3) {
+            return !isSet("out-dir")
+                && (inputFormat(words.at(1)).measuresText || outputFormat(words.at(2)).measuresText);
+        }
+    } catch (const LessonError &) {
+        return false; // told when it is tried
+    }
+    return command == QLatin1String("render");
+}
+
+int Command::run()
+{
+    if (!m_isUnderstood) {
         throw LessonError(m_parser.errorText(), QStringLiteral("See lessonconv --help"));
     }
     if (isSet("version")) {
@@ -164,6 +187,11 @@ int Command::run(const QStringList &arguments)
 const LessonFormat &Command::inputFormat(const QString &input) const
 {
     return isSet("from") ? lessonFormatByName(value("from")) : lessonFormatOfInput(input);
+}
+
+const LessonFormat &Command::outputFormat(const QString &output) const
+{
+    return isSet("to") ? lessonFormatByName(value("to")) : lessonFormatOfOutput(output);
 }
 
 QString Command::inkChoice() const
@@ -246,7 +274,7 @@ LessonContext Command::conversionContext(const PluginHost &host, LossReport *los
 int Command::convertOne(const QString &input, const QString &output) const
 {
     const LessonFormat &from = inputFormat(input);
-    const LessonFormat &to = isSet("to") ? lessonFormatByName(value("to")) : lessonFormatOfOutput(output);
+    const LessonFormat &to = outputFormat(output);
     const PluginHost host(value("plugin"));
     LossReport losses;
     ProgressBar bar(!isSet("quiet"));

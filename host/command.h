@@ -21,10 +21,14 @@ void complain(const QString &text);
 class Command
 {
 public:
-    Command();
+    //! The program's name and what follows it. Needs no application yet.
+    explicit Command(const QStringList &arguments);
+
+    //! Whether it needs a QGuiApplication. False as well for what can't be done at all.
+    bool measuresText() const;
 
     //! The exit code. Throws LessonError.
-    int run(const QStringList &arguments);
+    int run();
 
 private:
     bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
@@ -39,12 +43,14 @@ private:
     int render(const QStringList &files) const;
 
     const LessonFormat &inputFormat(const QString &input) const;
+    const LessonFormat &outputFormat(const QString &output) const;
     LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
     BatchSettings batchSettings(const PluginHost &host, const LessonFormat &to) const;
     QString inkChoice() const;
     int jobs() const;
 
     QCommandLineParser m_parser;
+    bool m_isUnderstood = false;
 };
 
 #endif // COMMAND_H

@@ -12,6 +12,7 @@ LessonFormat iwbFormat()
     format.description =
         QStringLiteral("interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb");
     format.recognizes = isIwbFolder;
+    format.measuresText = true;
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<IwbReader>(path, context);
     };

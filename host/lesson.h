@@ -83,6 +83,7 @@ struct LessonFormat
     std::function<bool(const QString &path)> recognizes;
     //! False for a file that has the extension and plainly is something else; may be empty.
     std::function<bool(const QString &path)> mayBe;
+    bool measuresText = false; //!< to read or write it takes a QGuiApplication, for its fonts
     QString folderBeside; //!< the name of a folder beside a file that belongs to it; may be empty
     std::function<std::unique_ptr<LessonReader>(const QString &path, const LessonContext &context)> open;
     //! Empty where the format is only read.

@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QLoggingCategory>
 
+#include <memory>
+
 namespace {
 
 constexpr int notDone = 2;
@@ -26,6 +28,18 @@ void tell(const LessonError &error, bool asJson)
     complain(error.message());
 }
 
+// Screens and fonts take half as much memory again as all the rest, so they come only where text is measured or drawn.
+std::unique_ptr<QCoreApplication> applicationFor(const Command &command, int &argc, char **argv)
+{
+    if (!command.measuresText()) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -35,21 +49,19 @@ int main(int argc, char **argv)
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
     // The same lesson gives the same bytes, whichever run writes it.
     qSetGlobalQHashSeed(0);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     // Qt's own options, "--plugin" among them, are not for it to take.
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     int applicationArguments = 1;
-    QGuiApplication application(applicationArguments, argv);
+    Command command(arguments);
+    const auto application = applicationFor(command, applicationArguments, argv);
     QCoreApplication::setApplicationName(QStringLiteral("lessonconv"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LESSONCONV_VERSION));
     const bool asJson = arguments.contains(QLatin1String("--json"));
     try {
-        return Command().run(arguments);
+        return command.run();
     } catch (const LessonError &error) {
         tell(error, asJson);
     } catch (const std::exception &error) {
