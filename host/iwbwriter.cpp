@@ -21,7 +21,12 @@ namespace {
 const QLatin1String exportFolder("/lesson.iwb");
 const QLatin1String libraryFolder("/lesson/filelibrary");
 const QLatin1String linkFolder("/links");
+const QLatin1String contentFile("content.xml");
 const QLatin1String backColorKey("BackColor");
+const QLatin1String svgTag("svg:svg");
+// How many elements stand around a page and around a record about an item.
+constexpr int pageDepth = 3;
+constexpr int recordDepth = 1;
 
 QString textOf(const QJsonValue &value)
 {
@@ -115,7 +120,7 @@ void IwbWriter::startDocument(const QJsonObject &firstSlide)
         size.insert(QLatin1String("ID"), id);
     }
     m_document = m_context.plugin->tranPresJSON2IWB({}, size);
-    QDomElement svg = m_document.documentElement().firstChildElement(QStringLiteral("svg:svg"));
+    QDomElement svg = m_document.documentElement().firstChildElement(svgTag);
     svg.setAttribute(QStringLiteral("viewBox"),
                      QStringLiteral("0 0 %1 %2").arg(exactText(m_pageSize.width()), exactText(m_pageSize.height())));
 }
@@ -124,24 +129,69 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
 {
     if (m_document.isNull()) {
         startDocument(slide.properties);
+        startPages();
     }
     ++m_slides;
     QDomElement page = m_context.plugin->tranSlideJSON2IWB(m_document, pageProperties(slide.properties));
-    QDomElement pages = m_document.documentElement()
-                            .firstChildElement(QStringLiteral("svg:svg"))
-                            .firstChildElement(QStringLiteral("svg:pageset"));
-    if (page.isNull() || pages.isNull()) {
-        throw LessonError(QStringLiteral("The plug-in writes no IWB pages"),
-                          QStringLiteral("Use the plug-in that belongs to this command"))
-            .in(m_target.target());
+    if (page.isNull()) {
+        failWithoutPages();
     }
-    pages.appendChild(page);
+    pageSet().appendChild(page);
     fillPage(page);
     m_items->write(m_document, page, slide.items, m_slides);
+    checkMedia(page);
+    writePage(page);
     reportUncarried(slide.properties, QStringLiteral("slide"),
                     {QStringLiteral("ID"), QStringLiteral("SlideSourceRect"), QStringLiteral("BackColor"),
                      QStringLiteral("color"), QStringLiteral("AttachFile"), QStringLiteral("document"),
                      QStringLiteral("TextureLineType")});
+}
+
+QDomElement IwbWriter::pageSet() const
+{
+    return m_document.documentElement().firstChildElement(svgTag).firstChildElement(QStringLiteral("svg:pageset"));
+}
+
+// Writes what stands before the pages and keeps what stands behind them.
+void IwbWriter::startPages()
+{
+    QDomElement pages = pageSet();
+    if (pages.isNull()) {
+        failWithoutPages();
+    }
+    const QDomNode mark = pages.appendChild(m_document.createElement(QStringLiteral("pages")));
+    const QByteArray text = xmlDocumentText(m_document.documentElement());
+    const QByteArray marked = xmlLines(mark.toElement(), pageDepth);
+    pages.removeChild(mark);
+    const int place = text.indexOf(marked);
+    m_target.write(contentFile, text.left(place));
+    m_afterPages = text.mid(place + marked.size());
+}
+
+// The page goes into the file and out of the document, and so do the records about its items.
+void IwbWriter::writePage(const QDomElement &page)
+{
+    m_target.append(contentFile, xmlLines(page, pageDepth));
+    pageSet().removeChild(page);
+    QDomElement root = m_document.documentElement();
+    const QDomElement svg = root.firstChildElement(svgTag);
+    for (QDomElement record = svg.nextSiblingElement(); !record.isNull(); record = svg.nextSiblingElement()) {
+        m_records += xmlLines(record, recordDepth);
+        root.removeChild(record);
+    }
+}
+
+void IwbWriter::finishPages()
+{
+    const int end = m_afterPages.lastIndexOf("\n</");
+    m_target.append(contentFile, m_afterPages.left(end) + m_records + m_afterPages.mid(end));
+}
+
+void IwbWriter::failWithoutPages() const
+{
+    throw LessonError(QStringLiteral("The plug-in writes no IWB pages"),
+                      QStringLiteral("Use the plug-in that belongs to this command"))
+        .in(m_target.target());
 }
 
 QJsonObject IwbWriter::pageProperties(const QJsonObject &properties)
@@ -220,11 +270,13 @@ void IwbWriter::fillPage(QDomElement &page) const
 
 void IwbWriter::finish()
 {
+    moveMedia();
     if (m_document.isNull()) {
         startDocument({});
+        m_target.write(contentFile, xmlDocumentText(m_document.documentElement()));
+    } else {
+        finishPages();
     }
-    moveMedia();
-    m_target.write(QStringLiteral("content.xml"), xmlDocumentText(m_document.documentElement()));
     reportTotals();
     if (QFileInfo(m_target.target()).suffix().compare(QLatin1String("iwb"), Qt::CaseInsensitive) == 0) {
         m_target.commitArchive();
@@ -241,8 +293,9 @@ void IwbWriter::failToPlace(const QString &file) const
 }
 
 // The plug-in says nothing of a file that it couldn't copy.
-void IwbWriter::checkMedia(const QDomElement &element, const QDir &folder) const
+void IwbWriter::checkMedia(const QDomElement &element) const
 {
+    const QDir folder(m_work.path() + exportFolder);
     const QString reference = element.attribute(QStringLiteral("xlink:href"));
     const bool isInPackage = reference.contains(QLatin1Char('/')) && !reference.contains(QLatin1Char(':'))
         && !reference.startsWith(QLatin1Char('#'));
@@ -250,14 +303,13 @@ void IwbWriter::checkMedia(const QDomElement &element, const QDir &folder) const
         failToPlace(reference);
     }
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        checkMedia(child, folder);
+        checkMedia(child);
     }
 }
 
 void IwbWriter::moveMedia()
 {
     const QDir folder(m_work.path() + exportFolder);
-    checkMedia(m_document.documentElement(), folder);
     QDirIterator it(folder.path(), QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString file = it.next();

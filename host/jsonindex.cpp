@@ -7,7 +7,6 @@
 #include <QJsonObject>
 #include <QSet>
 
-#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -18,8 +17,10 @@ constexpr int maximumDepth = 2000;
 constexpr int maximumParsedDepth = 1000;
 // Positions in a text that Qt parses are ints.
 constexpr qint64 maximumSize = 1024 * 1024 * 1024;
+constexpr qint64 pieceSize = 64 * 1024;
+constexpr int fileEnd = -1;
 
-bool isBlank(char c)
+bool isBlank(int c)
 {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
@@ -30,7 +31,7 @@ JsonIndex::JsonIndex(const QString &path)
     : m_path(path)
     , m_file(path)
 {
-    if (!m_file.open(QIODevice::ReadOnly)) {
+    if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
                           QStringLiteral("Check that it exists and that you may read it"))
             .in(path);
@@ -41,22 +42,60 @@ JsonIndex::JsonIndex(const QString &path)
                           QStringLiteral("Check that this is a lesson"))
             .in(path);
     }
-    if (m_size > 0) {
-        m_data = reinterpret_cast<const char *>(m_file.map(0, m_size));
-        if (!m_data) {
-            throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
-                              QStringLiteral("Check that it is a file on a disk"))
-                .in(path);
-        }
-    }
     scan();
 }
 
-void JsonIndex::fail(const QString &problem, qint64 position) const
+void JsonIndex::fail(const QString &problem, qint64 position)
 {
-    const auto line = 1 + std::count(m_data, m_data + qMin(position, m_size), '\n');
+    qint64 line = 1;
+    qint64 at = 0;
+    while (at < qMin(position, m_size) && m_file.seek(at)) {
+        const QByteArray piece = m_file.read(qMin(pieceSize, position - at));
+        if (piece.isEmpty()) {
+            break;
+        }
+        line += piece.count('\n');
+        at += piece.size();
+    }
     throw LessonError(problem, QStringLiteral("Check that the file is complete and is a lesson in JSON"))
         .in(m_path, int(line));
+}
+
+// Another program may write to the file meanwhile.
+QByteArray JsonIndex::bytes(qint64 begin, qint64 size)
+{
+    QByteArray bytes(int(size), Qt::Uninitialized);
+    qint64 done = 0;
+    bool isGood = m_file.seek(begin);
+    while (isGood && done < size) {
+        const qint64 count = m_file.read(bytes.data() + done, size - done);
+        if (count == 0) {
+            throw LessonError(QStringLiteral("The file was cut short while it was read"),
+                              QStringLiteral("Convert it again when no other program writes to it"))
+                .in(m_path);
+        }
+        isGood = count > 0;
+        done += count;
+    }
+    if (!isGood) {
+        throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
+                          QStringLiteral("Check that it is a file on a disk"))
+            .in(m_path);
+    }
+    return bytes;
+}
+
+// The byte that comes next, or fileEnd.
+inline int JsonIndex::next()
+{
+    if (m_at >= m_size) {
+        return fileEnd;
+    }
+    if (m_at < m_pieceBegin || m_at >= m_pieceBegin + m_piece.size()) {
+        m_piece = bytes(m_at, qMin(pieceSize, m_size - m_at));
+        m_pieceBegin = m_at;
+    }
+    return uchar(m_piece.at(int(m_at - m_pieceBegin)));
 }
 
 QJsonValue JsonIndex::value(const Range &range)
@@ -87,10 +126,10 @@ QJsonValue JsonIndex::nextValue(int levels)
     return parsedValue(skipValue());
 }
 
-QJsonValue JsonIndex::parsedValue(const Range &range) const
+QJsonValue JsonIndex::parsedValue(const Range &range)
 {
     // In brackets, so that texts and numbers can be parsed like everything else.
-    const QByteArray text = '[' + QByteArray::fromRawData(m_data + range.begin, int(range.end - range.begin)) + ']';
+    const QByteArray text = '[' + bytes(range.begin, range.end - range.begin) + ']';
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
@@ -101,16 +140,16 @@ QJsonValue JsonIndex::parsedValue(const Range &range) const
 
 QByteArray JsonIndex::text(const Range &range)
 {
-    const qint64 size = range.end - range.begin - 2;
-    if (size < 0 || m_data[range.begin] != '"' || std::memchr(m_data + range.begin + 1, '\\', size_t(size))) {
+    const QByteArray text = bytes(range.begin, range.end - range.begin);
+    if (!text.startsWith('"') || text.contains('\\')) {
         return value(range).toString().toUtf8();
     }
-    return QByteArray::fromRawData(m_data + range.begin + 1, int(size));
+    return text.mid(1, text.size() - 2);
 }
 
 void JsonIndex::scan()
 {
-    if (m_size >= 3 && std::memcmp(m_data, "\xef\xbb\xbf", 3) == 0) {
+    if (bytes(0, qMin<qint64>(3, m_size)) == "\xef\xbb\xbf") {
         m_at = 3;
     }
     bool hasSlides = false;
@@ -179,7 +218,7 @@ QString JsonIndex::memberName()
 
 void JsonIndex::skipBlanks()
 {
-    while (m_at < m_size && isBlank(m_data[m_at])) {
+    while (isBlank(next())) {
         ++m_at;
     }
 }
@@ -187,7 +226,7 @@ void JsonIndex::skipBlanks()
 bool JsonIndex::comesNext(char c)
 {
     skipBlanks();
-    return m_at < m_size && m_data[m_at] == c;
+    return next() == uchar(c);
 }
 
 void JsonIndex::expect(char c)
@@ -204,8 +243,8 @@ void JsonIndex::skipString()
 {
     const qint64 begin = m_at;
     expect('"');
-    while (m_at < m_size && m_data[m_at] != '"') {
-        m_at += m_data[m_at] == '\\' ? 2 : 1;
+    for (int c = next(); c != fileEnd && c != '"'; c = next()) {
+        m_at += c == '\\' ? 2 : 1;
     }
     if (m_at >= m_size) {
         fail(QStringLiteral("This is not JSON: a text has no end"), begin);
@@ -220,7 +259,7 @@ JsonIndex::Range JsonIndex::skipValue()
     int depth = 0;
     do {
         skipBlanks();
-        const char c = m_at < m_size ? m_data[m_at] : '\0';
+        const int c = next();
         if (c == '"') {
             skipString();
         } else if (c == '{' || c == '[') {
@@ -245,7 +284,7 @@ JsonIndex::Range JsonIndex::skipValue()
 void JsonIndex::skipLiteral()
 {
     const qint64 begin = m_at;
-    while (m_at < m_size && !isBlank(m_data[m_at]) && !std::strchr(",:]}[{\"", m_data[m_at])) {
+    for (int c = next(); c != fileEnd && !isBlank(c) && !std::strchr(",:]}[{\"", c); c = next()) {
         ++m_at;
     }
     if (m_at == begin) {

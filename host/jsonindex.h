@@ -8,8 +8,8 @@
 #include <QVector>
 
 /*!
- * Where the parts of a lesson in one JSON file stand: found in one pass over the mapped file, parsed one at a time when
- * they are asked for. Every function throws LessonError.
+ * Where the parts of a lesson in one JSON file stand: found in one pass over the file, read and parsed one at a time
+ * when they are asked for, so that memory holds no more than one of them. Every function throws LessonError.
  */
 class JsonIndex
 {
@@ -31,15 +31,17 @@ public:
     QVector<QPair<QString, Range>> resources;
 
     QJsonValue value(const Range &range);
-    //! The bytes of a text, without a copy where it has no backslash in it.
+    //! The bytes of a text.
     QByteArray text(const Range &range);
 
-    [[noreturn]] void fail(const QString &problem, qint64 position) const;
+    [[noreturn]] void fail(const QString &problem, qint64 position);
 
 private:
-    QJsonValue parsedValue(const Range &range) const;
+    QByteArray bytes(qint64 begin, qint64 size);
+    QJsonValue parsedValue(const Range &range);
     QJsonValue nextValue(int levels);
     void scan();
+    int next();
     void skipBlanks();
     void skipString();
     void skipLiteral();
@@ -52,9 +54,10 @@ private:
 
     QString m_path;
     QFile m_file;
-    const char *m_data = nullptr;
     qint64 m_size = 0;
     qint64 m_at = 0;
+    QByteArray m_piece; // of the file, with what stands at m_at in most cases
+    qint64 m_pieceBegin = 0;
 };
 
 #endif // JSONINDEX_H

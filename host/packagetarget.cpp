@@ -208,8 +208,18 @@ QString PackageTarget::makeFile(const QString &relativePath)
 
 void PackageTarget::write(const QString &relativePath, const QByteArray &content)
 {
-    QFile file(makeFile(relativePath));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
+    put(makeFile(relativePath), content, QIODevice::WriteOnly);
+}
+
+void PackageTarget::append(const QString &relativePath, const QByteArray &content)
+{
+    put(directory() + QLatin1Char('/') + relativePath, content, QIODevice::Append);
+}
+
+void PackageTarget::put(const QString &path, const QByteArray &content, QIODevice::OpenMode mode) const
+{
+    QFile file(path);
+    if (!file.open(mode) || file.write(content) != content.size() || !file.flush()) {
         throw writeError(m_shownTarget, file.errorString());
     }
 }

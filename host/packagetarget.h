@@ -1,6 +1,7 @@
 #ifndef PACKAGETARGET_H
 #define PACKAGETARGET_H
 
+#include <QIODevice>
 #include <QSet>
 #include <QString>
 
@@ -37,6 +38,8 @@ public:
     //! that was given out before.
     QString makeFile(const QString &relativePath);
     void write(const QString &relativePath, const QByteArray &content);
+    //! Writes behind what write() has written.
+    void append(const QString &relativePath, const QByteArray &content);
     void copy(const QString &relativePath, const QString &sourceFile);
 
     //! Puts the single file in the place of the target.
@@ -48,6 +51,7 @@ public:
     void commitArchive();
 
 private:
+    void put(const QString &path, const QByteArray &content, QIODevice::OpenMode mode) const;
     void checkTargetIsNoFolder() const;
 
     QString m_shownTarget;

@@ -82,6 +82,11 @@ bool holdsText(const QDomElement &element)
     return false;
 }
 
+void startLine(QString &out, int depth)
+{
+    out += QLatin1Char('\n') + QString(depth, QLatin1Char(' '));
+}
+
 // depth below 0: no line breaks, as within an element that holds text.
 void appendElement(QString &out, const QDomElement &element, int depth)
 {
@@ -106,13 +111,13 @@ void appendElement(QString &out, const QDomElement &element, int depth)
             appendEscaped(out, child.nodeValue(), false);
         } else if (child.isElement()) {
             if (childDepth >= 0) {
-                out += QLatin1Char('\n') + QString(childDepth, QLatin1Char(' '));
+                startLine(out, childDepth);
             }
             appendElement(out, child.toElement(), childDepth);
         }
     }
     if (childDepth >= 0) {
-        out += QLatin1Char('\n') + QString(depth, QLatin1Char(' '));
+        startLine(out, depth);
     }
     out += QLatin1String("</") + element.tagName() + QLatin1Char('>');
 }
@@ -124,6 +129,14 @@ QByteArray xmlDocumentText(const QDomElement &root)
     QString out = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     appendElement(out, root, 0);
     out += QLatin1Char('\n');
+    return out.toUtf8();
+}
+
+QByteArray xmlLines(const QDomElement &element, int depth)
+{
+    QString out;
+    startLine(out, depth);
+    appendElement(out, element, depth);
     return out.toUtf8();
 }
 

@@ -10,6 +10,8 @@
 //! A document in UTF-8 with its declaration, or a node alone. Attributes stand in ascending order behind id and type;
 //! elements that hold only elements are indented, those with text are left as they are.
 QByteArray xmlDocumentText(const QDomElement &root);
+//! An element as it stands in xmlDocumentText() below so many others: the line break and blanks before it, and itself.
+QByteArray xmlLines(const QDomElement &element, int depth);
 QString xmlNodeText(const QDomElement &element);
 
 //! For pasting into the text of an element or an attribute between double quotes. What XML can't hold is left out.

@@ -164,6 +164,21 @@ private slots:
         QCOMPARE(hiddenEntries(), QStringList());
     }
 
+    void tellsOfALessonThatIsCutShortWhileItIsRead()
+    {
+        const QString file = path("in.json");
+        putFile(file, "{\"Slides\": [{\"ID\": \"" + QByteArray(100000, '1') + "\"}]}");
+        const auto reader = openLesson(file);
+        QVERIFY(QFile::resize(file, 50000));
+        try {
+            reader->slide(0);
+            QFAIL("a slide that is only half there");
+        } catch (const LessonError &error) {
+            QVERIFY2(error.message().contains(file) && error.message().contains("cut short"),
+                     qPrintable(error.message()));
+        }
+    }
+
     void tellsLossesByExitCodeAndReport()
     {
         putFile(path("in.json"), R"({"Version": "3.0", "Slides": [{"ID": "1", "Items": [
