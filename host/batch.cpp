@@ -90,6 +90,11 @@ public:
         QObject::connect(&redraw, &QTimer::timeout, [this] { showProgress(); });
         redraw.start(200);
         m_workers.resize(std::size_t(qMin(m_settings.jobs, m_plan.lessons.size())));
+        if (m_settings.lessonSeconds > 0) {
+            for (Worker &worker : m_workers) {
+                limit(worker);
+            }
+        }
         // Not before the loop runs: there may be nothing to wait for.
         QTimer::singleShot(0, &m_loop, [this] {
             for (Worker &worker : m_workers) {
@@ -113,7 +118,20 @@ private:
         std::unique_ptr<QProcess> process; // null before the first lesson and after a crash
         int lesson = -1; // index in the plan
         int answers = 0; // of this process
+        std::unique_ptr<QTimer> limit; // null where there is none
+        bool isLate = false; // its process is being ended
     };
+
+    void limit(Worker &worker) const
+    {
+        worker.limit = std::make_unique<QTimer>();
+        worker.limit->setSingleShot(true);
+        worker.limit->setInterval(m_settings.lessonSeconds * 1000);
+        QObject::connect(worker.limit.get(), &QTimer::timeout, [&worker] {
+            worker.isLate = true;
+            worker.process->kill();
+        });
+    }
 
     void start(Worker &worker)
     {
@@ -179,6 +197,9 @@ private:
         if (!worker.process) {
             start(worker);
         }
+        if (worker.limit) {
+            worker.limit->start();
+        }
         const QJsonObject line{{inputKey, lesson.input}, {outputKey, output}};
         worker.process->write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
     }
@@ -195,18 +216,40 @@ private:
                 continue; // something that a library printed
             }
             ++worker.answers;
+            rest(worker);
             giveNext(worker);
+        }
+    }
+
+    // It is done with its lesson, one way or the other.
+    static void rest(Worker &worker)
+    {
+        worker.isLate = false;
+        if (worker.limit) {
+            worker.limit->stop();
         }
     }
 
     void takeCrash(Worker &worker)
     {
+        const bool isLate = worker.isLate;
+        rest(worker);
         // It is the one who is speaking.
         worker.process.release()->deleteLater();
         if (worker.lesson < 0 || m_result.isInterrupted) {
             return;
         }
         PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
+        if (isLate) {
+            fail(worker.lesson,
+                 LessonError(QStringLiteral("The conversion took longer than %1 s").arg(m_settings.lessonSeconds),
+                             QStringLiteral("The other lessons are not concerned. Give this one more time with "
+                                            "--lesson-timeout, or convert it without"))
+                     .in(m_plan.lessons.at(worker.lesson).input)
+                     .message());
+            giveNext(worker);
+            return;
+        }
         if (worker.answers > 0) {
             // Maybe an earlier lesson did it: this one gets a process that knows no other.
             request(worker);

@@ -14,6 +14,7 @@ struct BatchSettings
     QStringList workerArguments; //!< arguments with which this command runs serveBatch()
     QByteArray fingerprint; //!< whatever makes the same lesson give another result
     int jobs = 1; //!< worker processes
+    int lessonSeconds = 0; //!< a lesson that takes longer fails; 0: each may take as long as it does
     bool resume = false; //!< leave out what is done and unchanged
 };
 

@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 // Deeper than this, elements are told apart by their tags alone: lists of points, nodes and texts repeat there.
@@ -12,6 +14,11 @@ constexpr int distinctDepth = 8;
 constexpr int distinctSiblings = 3;
 constexpr int distinctData = 10;
 constexpr int longestDetail = 60;
+
+// Kinds that have no number: an attribute, a row of a list of properties, and what is deeper than distinctDepth.
+constexpr int attributeMark = -1;
+constexpr int rowMark = -2;
+constexpr int deepMark = -3;
 
 QString withoutDigits(const QString &tag)
 {
@@ -33,17 +40,6 @@ QString textOf(const QDomElement &element)
     return text;
 }
 
-QDomElement elementAt(QDomElement element, const QVector<int> &position)
-{
-    for (const int index : position) {
-        element = element.firstChildElement();
-        for (int i = 0; i < index; ++i) {
-            element = element.nextSiblingElement();
-        }
-    }
-    return element;
-}
-
 // What decides beside the type how the values of an element are read: the kind of a slide's game, and the order of what
 // an item's data holds.
 QString formOf(const QDomElement &element)
@@ -57,20 +53,154 @@ QString formOf(const QDomElement &element)
     return form;
 }
 
-void replaceText(QDomElement element, const QString &text)
+// Calls visit(child, step) for each child element.
+template <typename Visit> void eachChild(const QDomElement &element, const Visit &visit)
 {
-    QDomNode child = element.firstChild();
-    while (!child.isNull()) {
-        const QDomNode next = child.nextSibling();
-        if (child.isText()) {
-            element.removeChild(child);
-        }
-        child = next;
-    }
-    if (!text.isEmpty()) {
-        element.appendChild(element.ownerDocument().createTextNode(text));
+    QHash<QString, int> counts;
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString tag = child.tagName();
+        const bool isRow = tag == QLatin1String("property");
+        visit(child,
+              CarriedCheck::Step{tag, isRow ? child.attribute(QStringLiteral("name")) : QString(), ++counts[tag], -1});
     }
 }
+
+QString textOf(const CarriedCheck::Step &step, bool isFirst)
+{
+    const QString end = !step.row.isEmpty() ? QString(QLatin1Char('[') + step.row + QLatin1Char(']'))
+        : step.count > 1                    ? QStringLiteral("[%1]").arg(step.count)
+                                            : QString();
+    return (isFirst ? QString() : QStringLiteral("/")) + step.tag + end;
+}
+
+// Calls visit(attribute, text) for each value of the element's own: its attributes, and its text, an empty one where it
+// stands alone.
+template <typename Visit> void eachValue(const QDomElement &element, bool isOutermost, const Visit &visit)
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QDomNode attribute = attributes.item(i);
+        if (!attribute.nodeValue().isEmpty()) {
+            visit(attribute.nodeName(), attribute.nodeValue());
+        }
+    }
+    const QString text = textOf(element);
+    if (!text.isEmpty() || (!isOutermost && attributes.isEmpty() && !element.hasChildNodes())) {
+        visit(QString(), text);
+    }
+}
+
+/*!
+ * Another value in the place of one, until the object goes.
+ */
+class Replacement
+{
+public:
+    // other: null takes the value away.
+    Replacement(const QDomElement &element, const QString &attribute, const QString &text, const QString &other)
+        : m_element(element)
+        , m_attribute(attribute)
+        , m_text(text)
+    {
+        if (!attribute.isEmpty()) {
+            if (other.isNull()) {
+                m_element.removeAttribute(attribute);
+            } else {
+                m_element.setAttribute(attribute, other);
+            }
+        } else if (text.isEmpty() && other.isNull()) {
+            m_parent = m_element.parentNode();
+            m_next = m_element.nextSibling();
+            m_parent.removeChild(m_element);
+        } else {
+            replaceText(other);
+        }
+    }
+    ~Replacement()
+    {
+        if (!m_attribute.isEmpty()) {
+            m_element.setAttribute(m_attribute, m_text);
+        } else if (!m_parent.isNull()) {
+            m_next.isNull() ? m_parent.appendChild(m_element) : m_parent.insertBefore(m_element, m_next);
+        } else {
+            m_element.removeChild(m_newText);
+            for (const QDomNode &child : qAsConst(m_children)) {
+                m_element.appendChild(child);
+            }
+        }
+    }
+    Replacement(const Replacement &) = delete;
+    Replacement &operator=(const Replacement &) = delete;
+
+private:
+    void replaceText(const QString &text)
+    {
+        for (QDomNode child = m_element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+            m_children.append(child);
+        }
+        for (const QDomNode &child : qAsConst(m_children)) {
+            if (child.isText()) {
+                m_element.removeChild(child);
+            }
+        }
+        if (!text.isEmpty()) {
+            m_newText = m_element.appendChild(m_element.ownerDocument().createTextNode(text));
+        }
+    }
+
+    QDomElement m_element;
+    QString m_attribute;
+    QString m_text;
+    QDomNode m_parent; // of an element that is taken away
+    QDomNode m_next;
+    QVector<QDomNode> m_children; // as they were, where the text is replaced
+    QDomNode m_newText;
+};
+
+/*!
+ * The values of an element in some places. Only the ways to these are gone.
+ */
+class ValuesInPlaces
+{
+public:
+    void addPlace(const QStringList &path)
+    {
+        int place = 0;
+        for (const QString &step : path) {
+            int &next = m_places[{place, step}];
+            next = next ? next : m_places.size();
+            place = next;
+        }
+    }
+
+    void find(const QDomElement &element, int place = 0)
+    {
+        eachValue(element, place == 0, [this, place](const QString &attribute, const QString &text) {
+            const int at = attribute.isEmpty() ? place : m_places.value({place, QLatin1Char('@') + attribute}, -1);
+            m_texts.insert({at, text});
+        });
+        eachChild(element, [this, place](const QDomElement &child, const CarriedCheck::Step &step) {
+            const auto next = m_places.constFind({place, textOf(step, place == 0)});
+            if (next != m_places.constEnd()) {
+                find(child, *next);
+            }
+        });
+    }
+
+    //! For a path that was added.
+    bool contains(const QStringList &path, const QString &text) const
+    {
+        int place = 0;
+        for (const QString &step : path) {
+            place = m_places.value({place, step});
+        }
+        return m_texts.contains({place, text});
+    }
+
+private:
+    QHash<QPair<int, QString>, int> m_places; // by the place before the last step and that step; 0 is the element
+    QSet<QPair<int, QString>> m_texts; // by the place
+};
 
 } // namespace
 
@@ -83,24 +213,26 @@ void CarriedCheck::examine(const QString &type, const QString &id, const QDomEle
                            const Write &write)
 {
     QVector<Value> values;
-    collect(element, {}, {}, {}, values);
+    Place outermost;
+    outermost.kind = kindOf(-1, type + formOf(element), 0);
+    outermost.deepKind = outermost.kind;
+    m_steps.clear();
+    collect(element, outermost, values);
     m_unchanged = {};
     QVector<Value> lost;
-    const QString form = type + formOf(element);
     for (const Value &value : qAsConst(values)) {
-        if (!isCarried(form + value.kind, element, value, read)) {
+        if (!isCarried(value, element, read)) {
             lost.append(value);
         }
     }
     if (!lost.isEmpty() && write) {
-        QVector<Value> written;
-        collect(write(), {}, {}, {}, written);
-        QSet<QString> returned;
-        for (const Value &value : qAsConst(written)) {
-            returned.insert(value.path + QLatin1Char('=') + value.text);
+        ValuesInPlaces written;
+        for (const Value &value : qAsConst(lost)) {
+            written.addPlace(pathOf(value));
         }
-        const auto end = std::remove_if(lost.begin(), lost.end(), [&returned](const Value &value) {
-            return returned.contains(value.path + QLatin1Char('=') + value.text);
+        written.find(write());
+        const auto end = std::remove_if(lost.begin(), lost.end(), [this, &written](const Value &value) {
+            return written.contains(pathOf(value), value.text);
         });
         lost.erase(end, lost.end());
     }
@@ -109,83 +241,85 @@ void CarriedCheck::examine(const QString &type, const QString &id, const QDomEle
         loss.slide = m_slide;
         loss.itemType = type;
         loss.itemId = id;
-        loss.key = value.path;
+        loss.key = pathOf(value).join(QString());
         loss.detail = value.text.left(longestDetail);
         m_losses->add(loss);
     }
 }
 
-void CarriedCheck::collect(const QDomElement &element, const QString &path, const QString &kind,
-                           const QVector<int> &position, QVector<Value> &values) const
+int CarriedCheck::kindOf(int parent, const QString &name, int number)
 {
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QDomNode attribute = attributes.item(i);
-        if (!attribute.nodeValue().isEmpty()) {
-            const QString place = QLatin1Char('@') + attribute.nodeName();
-            values.append({position, path + place, kind + place, attribute.nodeName(), attribute.nodeValue()});
-        }
-    }
-    const QString text = textOf(element);
-    if (!text.isEmpty() || (!position.isEmpty() && attributes.isEmpty() && !element.hasChildNodes())) {
-        values.append({position, path, kind, {}, text});
-    }
-    QHash<QString, int> counts;
-    int index = 0;
-    const int depth = position.size() + 1;
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QString tag = child.tagName();
-        const int count = ++counts[tag];
-        const QString name = child.attribute(QStringLiteral("name"));
-        const bool isRow = tag == QLatin1String("property") && !name.isEmpty();
-        const QString separator = path.isEmpty() ? QString() : QStringLiteral("/");
-        const QString number = isRow ? QLatin1Char('[') + name + QLatin1Char(']')
-            : count > 1              ? QStringLiteral("[%1]").arg(count)
-                                     : QString();
-        QString childKind = kind + separator;
-        if (depth > distinctDepth) {
-            childKind = kind.section(QLatin1Char('/'), 0, distinctDepth - 1) + QLatin1String("//") + tag;
-        } else if (depth > numberedDepth) {
-            childKind += withoutDigits(tag);
-        } else {
-            childKind += tag
-                + (isRow ? number : QStringLiteral("[%1]").arg(count > distinctSiblings ? distinctSiblings : count));
-        }
-        collect(child, path + separator + tag + number, childKind, position + QVector<int>{index}, values);
-        ++index;
-    }
-}
-
-bool CarriedCheck::isCarried(const QString &place, const QDomElement &element, const Value &value, const Read &read)
-{
-    const auto known = m_known.constFind(place);
-    if (known != m_known.constEnd()) {
+    const Kind kind{parent, name, number};
+    const auto known = m_kinds.constFind(kind);
+    if (known != m_kinds.constEnd()) {
         return *known;
     }
-    if (m_unchanged.isEmpty()) {
-        m_unchanged = read(element.cloneNode(true).toElement());
+    m_kinds.insert(kind, m_answers.size());
+    m_answers.append(Unknown);
+    return m_answers.size() - 1;
+}
+
+int CarriedCheck::kindOfChild(int parent, int depth, const Step &step)
+{
+    if (depth > distinctDepth) {
+        return kindOf(parent, step.tag, deepMark);
     }
-    bool isCarried = false;
-    // A value that is the default makes no difference when it goes, so others are tried as well. Null: remove it.
-    for (const QString &other : {QString(), QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2,3,4,5,6,7")}) {
-        const QDomElement copy = element.cloneNode(true).toElement();
-        QDomElement changed = elementAt(copy, value.position);
-        if (!value.attribute.isEmpty()) {
-            if (other.isNull()) {
-                changed.removeAttribute(value.attribute);
-            } else {
-                changed.setAttribute(value.attribute, other);
-            }
-        } else if (value.text.isEmpty() && other.isNull()) {
-            changed.parentNode().removeChild(changed);
-        } else {
-            replaceText(changed, other);
-        }
-        if (read(copy) != m_unchanged) {
-            isCarried = true;
-            break;
-        }
+    if (depth > numberedDepth) {
+        return kindOf(parent, withoutDigits(step.tag), 0);
     }
-    m_known.insert(place, isCarried);
-    return isCarried;
+    return step.row.isEmpty() ? kindOf(parent, step.tag, qMin(step.count, distinctSiblings))
+                              : kindOf(parent, step.row, rowMark);
+}
+
+// The values that aren't known to be carried.
+void CarriedCheck::collect(const QDomElement &element, const Place &place, QVector<Value> &values)
+{
+    eachValue(element, place.depth == 0, [&](const QString &attribute, const QString &text) {
+        const int kind = attribute.isEmpty() ? place.kind : kindOf(place.kind, attribute, attributeMark);
+        if (m_answers.at(kind) != Carried) {
+            values.append({element, attribute, text, kind, place.step});
+        }
+    });
+    const bool isDeep = place.depth >= distinctDepth;
+    eachChild(element, [&](const QDomElement &child, Step step) {
+        Place next;
+        next.depth = place.depth + 1;
+        next.kind = kindOfChild(isDeep ? place.deepKind : place.kind, next.depth, step);
+        next.deepKind = isDeep ? place.deepKind : next.kind;
+        next.step = m_steps.size();
+        step.previous = place.step;
+        m_steps.append(step);
+        collect(child, next, values);
+    });
+}
+
+// The steps to a value, such as "data", "/rect", "@points".
+QStringList CarriedCheck::pathOf(const Value &value) const
+{
+    QStringList path;
+    if (!value.attribute.isEmpty()) {
+        path.append(QLatin1Char('@') + value.attribute);
+    }
+    for (int step = value.step; step >= 0; step = m_steps.at(step).previous) {
+        path.append(textOf(m_steps.at(step), m_steps.at(step).previous < 0));
+    }
+    std::reverse(path.begin(), path.end());
+    return path;
+}
+
+bool CarriedCheck::isCarried(const Value &value, const QDomElement &element, const Read &read)
+{
+    if (m_answers.at(value.kind) == Unknown) {
+        if (m_unchanged.isEmpty()) {
+            m_unchanged = read(element);
+        }
+        // A value that is the default makes no difference when it goes, so others are tried as well.
+        const QString others[] = {QString(), QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2,3,4,5,6,7")};
+        const bool isCarried = std::any_of(std::begin(others), std::end(others), [&](const QString &other) {
+            const Replacement replacement(value.element, value.attribute, value.text, other);
+            return read(element) != m_unchanged;
+        });
+        m_answers[value.kind] = isCarried ? Carried : NotCarried;
+    }
+    return m_answers.at(value.kind) == Carried;
 }

@@ -23,6 +23,7 @@ namespace {
 enum ExitCode { Done = 0, DoneWithLosses = 1, NotDone = 2 };
 
 constexpr int mostJobs = 256;
+constexpr int mostSeconds = 24 * 60 * 60;
 
 // Names come from files of strangers; what they hold must not move a terminal's cursor.
 QString printable(QString text)
@@ -107,6 +108,7 @@ Command::Command(const QStringList &arguments)
         option("out-dir", "Convert many: the folder for the results.", "folder"),
         option("jobs", "Convert many: this many at the same time; as many as the machine has cores otherwise.",
                "number"),
+        option("lesson-timeout", "Convert many: give up a lesson that takes longer.", "seconds"),
         option("resume", "Convert many: leave out what is done and unchanged."),
         option("report", "Write everything that was lost or kept aside into this file, as JSON.", "file"),
         option("strict", "Treat losses as a failure: exit code 1."),
@@ -214,6 +216,16 @@ int Command::jobs() const
     return qBound(1, number, mostJobs);
 }
 
+int Command::lessonSeconds() const
+{
+    const int seconds = value("lesson-timeout").toInt();
+    if (isSet("lesson-timeout") && (seconds < 1 || seconds > mostSeconds)) {
+        throw LessonError(QStringLiteral("\"%1\" is no number of seconds").arg(value("lesson-timeout")),
+                          QStringLiteral("Give a number from 1 to %1, such as --lesson-timeout 600").arg(mostSeconds));
+    }
+    return seconds;
+}
+
 int Command::formats() const
 {
     for (const LessonFormat &format : lessonFormats()) {
@@ -302,6 +314,7 @@ BatchSettings Command::batchSettings(const PluginHost &host, const LessonFormat 
     BatchSettings settings;
     settings.outputFolder = QDir::cleanPath(value("out-dir"));
     settings.jobs = jobs();
+    settings.lessonSeconds = lessonSeconds();
     settings.resume = isSet("resume");
     settings.workerArguments =
         QStringList{QStringLiteral("serve"),    QStringLiteral("--to"), to.name, QStringLiteral("--ink"), inkChoice(),

@@ -48,6 +48,7 @@ private:
     BatchSettings batchSettings(const PluginHost &host, const LessonFormat &to) const;
     QString inkChoice() const;
     int jobs() const;
+    int lessonSeconds() const;
 
     QCommandLineParser m_parser;
     bool m_isUnderstood = false;

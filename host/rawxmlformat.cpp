@@ -113,7 +113,10 @@ public:
         setStableId(m_presentation, root);
         if (isChecking()) {
             m_check.examine(rootTag, {}, root,
-                            [this](const QDomElement &copy) { return withoutMadeUpId(copy, readPresentation(copy)); },
+                            [this](const QDomElement &changed) {
+                                const QDomElement copy = changed.cloneNode(true).toElement();
+                                return withoutMadeUpId(copy, readPresentation(copy));
+                            },
                             {});
         }
         addPageSize();
@@ -134,8 +137,9 @@ public:
         const QVector<QDomElement> items = takeElements(element, element.firstChildElement());
         LessonSlide slide;
         if (check) {
-            check->examine(slideTag, element.attribute(netId), element.cloneNode(true).toElement(),
-                           [this](const QDomElement &copy) {
+            check->examine(slideTag, element.attribute(netId), element,
+                           [this](const QDomElement &changed) {
+                               const QDomElement copy = changed.cloneNode(true).toElement();
                                return withoutMadeUpId(copy, m_context.plugin->tranSlideXML2JSON(copy, context()));
                            },
                            {});
@@ -241,10 +245,12 @@ private:
             return keptItem(element);
         }
         if (check) {
-            check->examine(
-                element.tagName(), item.value(idKey).toString(), untouched,
-                [this, &context](const QDomElement &copy) { return withoutMadeUpId(copy, readSingle(copy, context)); },
-                {});
+            check->examine(element.tagName(), item.value(idKey).toString(), untouched,
+                           [this, &context](const QDomElement &changed) {
+                               const QDomElement copy = changed.cloneNode(true).toElement();
+                               return withoutMadeUpId(copy, readSingle(copy, context));
+                           },
+                           {});
         }
         setStableId(item, untouched);
         nameMediaFile(item);

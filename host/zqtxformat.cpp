@@ -68,7 +68,7 @@ public:
         if (check) {
             check->examine(
                 slideTag, slide.properties.value(idKey).toString(), root,
-                [this, &context](const QDomElement &copy) { return readProperties(copy, context); },
+                [this, &context](const QDomElement &changed) { return readProperties(changed, context); },
                 [this, &slide] { return writeProperties(slide.properties).documentElement(); });
         }
         QJsonObject itemContext = context;
@@ -144,7 +144,7 @@ public:
         if (isChecking()) {
             m_check.examine(
                 QStringLiteral("presentation"), {}, root,
-                [this](const QDomElement &copy) { return readIndex(m_context.plugin, copy, location()); },
+                [this](const QDomElement &changed) { return readIndex(m_context.plugin, changed, location()); },
                 [this] { return writeIndex(m_context.plugin, m_presentation, {}).documentElement(); });
         }
         m_slides = std::make_unique<ZqtxSlides>(context.plugin, m_presentation);

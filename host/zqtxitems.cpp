@@ -193,7 +193,6 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
         data = element.firstChildElement(QStringLiteral("data"));
         nested = takeNestedItems(element);
     }
-    const QDomElement untouched = check ? element.cloneNode(true).toElement() : QDomElement();
     QJsonObject item = readSingle(element, context);
     if (item.isEmpty()) {
         for (const QDomElement &child : qAsConst(nested)) {
@@ -203,8 +202,8 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
     }
     if (check) {
         check->examine(
-            item.value(typeKey).toString(), item.value(QLatin1String("ID")).toString(), untouched,
-            [this, &context](const QDomElement &copy) { return readSingle(copy, context); },
+            item.value(typeKey).toString(), item.value(QLatin1String("ID")).toString(), element,
+            [this, &context](const QDomElement &changed) { return readSingle(changed, context); },
             [this, &item] { return writeSingle(item); });
     }
     QJsonArray children;
@@ -220,11 +219,16 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
 QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &context) const
 {
     const QString typeAttribute = QStringLiteral("type");
-    if (element.attribute(typeAttribute) == QLatin1String("Chemistry:expressions")) {
+    const QString writtenType = QStringLiteral("Chemistry:expressions");
+    const bool isUnknownAgain = element.attribute(typeAttribute) == writtenType;
+    if (isUnknownAgain) {
         // The one type that the plug-in writes and doesn't know again; it takes the item type in its place.
         element.setAttribute(typeAttribute, QStringLiteral("ZQChemistryExpressions"));
     }
     QJsonObject item = m_plugin->tranItemZQTX2JSON(element, context);
+    if (isUnknownAgain) {
+        element.setAttribute(typeAttribute, writtenType);
+    }
     const QString type = item.value(typeKey).toString();
     if (m_majorVersion == 3 && isContainer(type)) {
         keepIgnored(element, "points", QLatin1String("BoundingBox"), HostKeys::ignoredBox, item);

@@ -23,7 +23,7 @@ _lessonconv()
     case $command in
         "") options="convert render info formats --help --version" ;;
         render) options+=" --size --slides --diff" ;;
-        convert) options+=" --to --out-dir --jobs --resume --report --strict --no-check --ink" ;;
+        convert) options+=" --to --out-dir --jobs --lesson-timeout --resume --report --strict --no-check --ink" ;;
     esac
     if [[ -z $command || $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")

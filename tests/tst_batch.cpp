@@ -170,6 +170,18 @@ private slots:
         QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx", "b.zqtx"}));
     }
 
+    void lateLessonFailsAlone()
+    {
+        mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
+        putLesson("a.json");
+        const Command::Outcome result =
+            convert({"a.json", "0.json", "--to", "zqtx", "--jobs", "1", "--lesson-timeout", "5"});
+        QCOMPARE(result.exitCode, 2);
+        QVERIFY2(result.errors.contains("0.json: The conversion took longer than 5 s"), qPrintable(result.errors));
+        QCOMPARE(result.output, "2 lessons: 1 converted, 1 not converted.\n");
+        QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx"}));
+    }
+
     void interruptionLeavesNothingHalf()
     {
         putLesson("a.json");
@@ -201,6 +213,7 @@ private slots:
         row("itself", {"in/a.json", "--to", "json", "--out-dir", "in"}, "place of the lesson");
         row("same name", {"in/a.json", "other/a.json", "--to", "iwb"}, "both be written as a.json.iwb");
         row("jobs", {"in", "--to", "iwb", "--jobs", "none"}, "number of jobs");
+        row("time", {"in", "--to", "iwb", "--lesson-timeout", "0"}, "number of seconds");
         row("no folder can be made", {"in", "--to", "iwb", "--out-dir", "in/a.json/x"}, "can't be made");
     }
 
