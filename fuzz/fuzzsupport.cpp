@@ -59,14 +59,13 @@ double processorTime()
 
 QString newWorkFolder()
 {
-    const QString memory = QStringLiteral("/dev/shm");
-    static QTemporaryDir folder((QFileInfo(memory).isWritable() ? memory : QDir::tempPath())
-                                + QStringLiteral("/lessonfuzz-XXXXXX"));
+    const QString memory = "/dev/shm";
+    static QTemporaryDir folder((QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + "/lessonfuzz-XXXXXX");
     const QString path = QFileInfo(folder.path()).canonicalFilePath();
     for (const char *part : {"package/images", "filelibrary", "export", "temporary"}) {
-        QDir().mkpath(path + QLatin1Char('/') + QLatin1String(part));
+        QDir().mkpath(path + QLatin1Char('/') + part);
     }
-    qputenv("TMPDIR", QFile::encodeName(path + QLatin1String("/temporary")));
+    qputenv("TMPDIR", QFile::encodeName(path + "/temporary"));
     // libFuzzer leaves by _exit, which skips destructors, but runs atexit functions before.
     std::atexit([] { folder.remove(); });
     return path;
@@ -76,8 +75,8 @@ QJsonValue asHandedIn(const QString &key, const QJsonValue &value)
 {
     if (value.isObject()) {
         QJsonObject object = value.toObject();
-        object.remove(QStringLiteral("IWB_TEXTINFO-VECTOR"));
-        object.remove(QStringLiteral("IWB_TEXTINFO-DELVECTOR"));
+        object.remove("IWB_TEXTINFO-VECTOR");
+        object.remove("IWB_TEXTINFO-DELVECTOR");
         for (auto it = object.begin(); it != object.end(); ++it) {
             it.value() = asHandedIn(it.key(), it.value());
         }
@@ -90,11 +89,11 @@ QJsonValue asHandedIn(const QString &key, const QJsonValue &value)
         }
         return array;
     }
-    if (key == QLatin1String("path")) {
-        return QString(workFolder() + QLatin1String("/package/"));
+    if (key == "path") {
+        return inPackage().value(key);
     }
-    if (key == QLatin1String("tmpFilePath") || key == QLatin1String("filePath")) {
-        return QString(workFolder() + QLatin1String("/export"));
+    if (key == "tmpFilePath" || key == "filePath") {
+        return exportFolder();
     }
     return value;
 }
@@ -115,7 +114,7 @@ void appendTree(const QDomElement &element, const QString &leftOut, QString &tex
     }
     text += QLatin1Char('>');
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.nodeName() == QLatin1String("ArtVectObj_Manager")) {
+        if (child.nodeName() == "ArtVectObj_Manager") {
             continue;
         }
         if (child.isElement()) {
@@ -124,10 +123,12 @@ void appendTree(const QDomElement &element, const QString &leftOut, QString &tex
             text += child.nodeValue();
         }
     }
-    text += QLatin1String("</>");
+    text += "</>";
 }
 
 } // namespace
+
+std::size_t inputSize = 0;
 
 TransformationPlugin &plugin()
 {
@@ -146,12 +147,10 @@ QString workFolder()
     return folder;
 }
 
-QDomDocument documentOf(const std::uint8_t *data, std::size_t size)
+QDomDocument documentOf(const QByteArray &text)
 {
-    plugin();
-    workFolder();
     try {
-        return loadXml(QByteArray(reinterpret_cast<const char *>(data), int(size)), QStringLiteral("input"));
+        return loadXml(text, "input");
     } catch (const LessonError &) {
         return {};
     }
@@ -164,22 +163,30 @@ QJsonObject parsedObject(const QByteArray &text)
     return QJsonDocument::fromJson(text).object();
 }
 
-QJsonObject objectOf(const std::uint8_t *data, std::size_t size)
+QJsonObject objectOf(const QByteArray &text)
 {
-    plugin();
-    const QByteArray text(reinterpret_cast<const char *>(data), int(size));
-    return asHandedIn(QString(), parsedObject(text)).toObject();
+    return asHandedIn({}, parsedObject(text)).toObject();
+}
+
+QString exportFolder()
+{
+    return workFolder() + "/export";
+}
+
+QJsonObject inPackage()
+{
+    return {{"path", QString(workFolder() + "/package/")}};
 }
 
 QJsonObject context(const QString &version)
 {
     const QJsonObject slide{
-        {QStringLiteral("SlideSourceRect"), QStringLiteral("0,0,1024,768")},
-        {QStringLiteral("SlideTagsInfo"),
-         QStringLiteral("<interactive><Trigger><ID value=\"1\"/></Trigger></interactive><effect/>")}};
-    return {{QStringLiteral("slide"), slide},
-            {QStringLiteral("pres"), QJsonObject{{QStringLiteral("Version"), version}}},
-            {QStringLiteral("path"), QString(workFolder() + QLatin1String("/package/"))}};
+        {"SlideSourceRect", "0,0,1024,768"},
+        {"SlideTagsInfo", "<interactive><Trigger><ID value=\"1\"/></Trigger></interactive><effect/>"}};
+    QJsonObject context = inPackage();
+    context.insert("slide", slide);
+    context.insert("pres", QJsonObject{{"Version", version}});
+    return context;
 }
 
 QString treeText(const QDomElement &element, const QString &leftOut)
@@ -192,23 +199,24 @@ QString treeText(const QDomElement &element, const QString &leftOut)
 void mustBeSame(const char *sentence, const QString &one, const QString &other)
 {
     if (one != other) {
-        fail(QStringLiteral("%1\n--- one\n%2\n--- other\n%3").arg(QLatin1String(sentence), one, other));
+        fail("%1\n--- one\n%2\n--- other\n%3"_s.arg(sentence, one, other));
     }
 }
 
-void mustBeSame(const char *sentence, const QJsonObject &one, const QJsonObject &other)
+void mustHoldAttributes(const QJsonObject &keyMap, const QDomElement &element, const QJsonObject &json)
 {
-    if (one != other) {
-        mustBeSame(sentence, QString::fromUtf8(QJsonDocument(one).toJson()),
-                   QString::fromUtf8(QJsonDocument(other).toJson()));
+    for (auto it = keyMap.constBegin(); it != keyMap.constEnd(); ++it) {
+        const QJsonArray path = it.value().toArray();
+        const QString name = path.first().toString();
+        if (path.size() == 1 && element.hasAttribute(name)) {
+            mustBeSame("an attribute is read as it stands", json.value(it.key()).toString(), element.attribute(name));
+        }
     }
 }
 
 void releaseTextRuns(const QJsonObject &item)
 {
-    const auto address = [&item](const char *key) {
-        return quintptr(item.value(QLatin1String(key)).toString().toULongLong());
-    };
+    const auto address = [&item](const char *key) { return quintptr(item.value(key).toString().toULongLong()); };
     const auto list = address("IWB_TEXTINFO-VECTOR");
     const auto destroy = address("IWB_TEXTINFO-DELVECTOR");
     if (list && destroy) {
@@ -216,9 +224,8 @@ void releaseTextRuns(const QJsonObject &item)
     }
 }
 
-CallGuard::CallGuard(const char *what, std::size_t inputSize)
+CallGuard::CallGuard(const char *what)
     : m_what(what)
-    , m_inputSize(inputSize)
     , m_start(processorTime())
 {
     static const QByteArray folder = QFile::encodeName(workFolder());
@@ -233,9 +240,9 @@ CallGuard::~CallGuard()
     const double seconds = processorTime() - m_start;
     const QLatin1String what(m_what);
     if (seconds > longestCall) {
-        fail(QStringLiteral("%1 took %2 s for %3 bytes").arg(what).arg(seconds).arg(m_inputSize));
+        fail("%1 took %2 s for %3 bytes"_s.arg(what).arg(seconds).arg(inputSize));
     }
-    if (mostMemory > memoryPerByte * m_inputSize + spareMemory) {
-        fail(QStringLiteral("%1 took %2 bytes of memory for %3 bytes").arg(what).arg(mostMemory).arg(m_inputSize));
+    if (mostMemory > memoryPerByte * inputSize + spareMemory) {
+        fail("%1 took %2 bytes of memory for %3 bytes"_s.arg(what).arg(mostMemory).arg(inputSize));
     }
 }

@@ -10,24 +10,38 @@
 #include <QString>
 
 #include <cstddef>
-#include <cstdint>
 
 // What the fuzz targets share: the plug-in, inputs as a host would let them through, and what must hold for every call.
+
+inline QString operator""_s(const char *text, std::size_t size)
+{
+    return QString::fromUtf8(text, int(size));
+}
+
+//! What each target does with an input.
+void tryInput(const QByteArray &input);
+
+//! The bytes of the input that is being tried.
+extern std::size_t inputSize;
 
 TransformationPlugin &plugin();
 
 //! A folder for the process alone, in memory where the machine has such a place, with an opened package in "package",
 //! a file library beside it and a folder to export into. Without links, gone with the process.
 QString workFolder();
+QString exportFolder();
+
+//! The surroundings of what is read from the opened package.
+QJsonObject inPackage();
 
 //! The document of a text, empty if a host wouldn't take it: not well-formed, with a document type, deeper than 512.
-QDomDocument documentOf(const std::uint8_t *data, std::size_t size);
+QDomDocument documentOf(const QByteArray &text);
 
 //! The object of a JSON text, empty if it is none.
 QJsonObject parsedObject(const QByteArray &text);
 
 //! The same with the folders that a host fills in, and without the addresses that only a host makes.
-QJsonObject objectOf(const std::uint8_t *data, std::size_t size);
+QJsonObject objectOf(const QByteArray &text);
 
 //! A lesson's surroundings of an item: slide, presentation of that version, folder of the package.
 QJsonObject context(const QString &version);
@@ -38,7 +52,9 @@ QString treeText(const QDomElement &element, const QString &leftOut = {});
 
 //! Ends the program with the sentence and the two values unless they are the same.
 void mustBeSame(const char *sentence, const QString &one, const QString &other);
-void mustBeSame(const char *sentence, const QJsonObject &one, const QJsonObject &other);
+
+//! The same if json lacks an attribute of the element that the translator's key map has a key for.
+void mustHoldAttributes(const QJsonObject &keyMap, const QDomElement &element, const QJsonObject &json);
 
 //! Destroys the list of text runs that came with an item.
 void releaseTextRuns(const QJsonObject &item);
@@ -50,21 +66,20 @@ void releaseTextRuns(const QJsonObject &item);
 class CallGuard
 {
 public:
-    CallGuard(const char *what, std::size_t inputSize);
+    explicit CallGuard(const char *what);
     ~CallGuard();
     CallGuard(const CallGuard &) = delete;
     CallGuard &operator=(const CallGuard &) = delete;
 
 private:
     const char *m_what;
-    std::size_t m_inputSize;
     double m_start;
 };
 
 //! Calls function under a guard.
-template <typename Function> auto guarded(const char *what, std::size_t inputSize, const Function &function)
+template <typename Function> auto guarded(const char *what, const Function &function)
 {
-    const CallGuard guard(what, inputSize);
+    const CallGuard guard(what);
     return function();
 }
 

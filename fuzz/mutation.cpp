@@ -6,6 +6,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QVector>
 
 #include <cstring>
@@ -22,84 +23,49 @@ const char *const tableWords[] = {
 };
 
 // Texts in the forms that the conversions take apart, whole and broken.
-const char *const values[] = {
-    "",
-    "0",
-    "1",
-    "-1",
-    "true",
-    "false",
-    "1,2",
-    "1,2,3,4",
-    "1,0,0,1,10,20",
-    "0,0,0,0,0,0",
-    "10,20,110,220,5,6,7,8,9",
-    ",,,,,,,,",
-    "255,0,128,64",
-    "#ff8000",
-    "rgb(1,2,3)",
-    "1e308,-1e308,nan,inf,1e-320",
-    "99999999999999999999",
-    "-2147483648",
-    "2147483647",
-    "1 2;3 4|5 6",
-    "a|b;c",
-    "../../up.png",
-    "images/a.png",
-    "http://a/b",
-    "file:///dev/null",
-    "/dev/zero",
-    "#page3",
-    "rotate(0.5,10,20)",
-    "M 0 0 L 10 10 Z",
-    "<a><b c=\"1\"/></a>",
-    "<interactive><Trigger><ID value=\"1\"/><Action><ID value=\"2\"/></Action></Trigger></interactive>",
-    "<pageEffect Effect=\"3\" Time=\"2\"/>",
-    "<![CDATA[x]]>",
-    "[{\"a\":1}]",
-    "{\"Solid\":\"255,0,0\",\"Alpha\":\"128\"}",
-    "\"'&<>",
-    "2.0",
-    "3.0",
-};
+const QStringList values =
+    QString(
+        "0 1 -1 true false 1,2 1,2,3,4 1,0,0,1,10,20 0,0,0,0,0,0 10,20,110,220,5,6,7,8,9 ,,,,,,,, "
+        "255,0,128,64 #ff8000 rgb(1,2,3) 1e308,-1e308,nan,inf,1e-320 99999999999999999999 -2147483648 2147483647 a|b;c "
+        "../../up.png images/a.png http://a/b file:///dev/null /dev/zero #page3 rotate(0.5,10,20) <![CDATA[x]]> \"'&<> "
+        "[{\"a\":1}] {\"Solid\":\"255,0,0\",\"Alpha\":\"128\"} 2.0 3.0")
+        .split(' ')
+    << ""
+    << "1 2;3 4|5 6"
+    << "M 0 0 L 10 10 Z"
+    << R"(<a><b c="1"/></a>)"
+    << R"(<pageEffect Effect="3" Time="2"/>)"
+    << R"(<interactive><Trigger><ID value="1"/><Action><ID value="2"/></Action></Trigger></interactive>)";
 
 int below(Random &random, int limit)
 {
     return limit > 0 ? int(random() % unsigned(limit)) : 0;
 }
 
-const QStringList &words()
+const QStringList words = [] {
+    QStringList all;
+    for (const char *word : tableWords) {
+        all.append(word);
+    }
+    return all;
+}();
+
+template <typename Condition> QStringList wordsThat(const Condition &condition)
 {
-    static const QStringList list = [] {
-        QStringList all;
-        for (const char *word : tableWords) {
-            all.append(QString::fromLatin1(word));
-        }
-        return all;
-    }();
+    QStringList list;
+    std::copy_if(words.cbegin(), words.cend(), std::back_inserter(list), condition);
     return list;
 }
 
 bool isName(const QString &text)
 {
-    const auto isGood = [](QChar c) {
-        return (c.unicode() < 128 && c.isLetterOrNumber()) || c == QLatin1Char('_') || c == QLatin1Char(':')
-            || c == QLatin1Char('.') || c == QLatin1Char('-');
-    };
-    return !text.isEmpty() && text.at(0).isLetter() && std::all_of(text.cbegin(), text.cend(), isGood);
+    static const QRegularExpression name("^[A-Za-z][A-Za-z0-9_:.-]*$");
+    return name.match(text).hasMatch();
 }
 
 const QStringList &names()
 {
-    static const QStringList list = [] {
-        QStringList good;
-        for (const QString &word : words()) {
-            if (isName(word)) {
-                good.append(word);
-            }
-        }
-        return good;
-    }();
+    static const QStringList list = wordsThat(isName);
     return list;
 }
 
@@ -135,7 +101,7 @@ QString newValue(const QString &old, Random &random)
 {
     switch (below(random, 6)) {
     case 0:
-        return anyOf(words(), random);
+        return anyOf(words, random);
     case 1:
         return anyOf(itemTypes(), random);
     case 2:
@@ -143,7 +109,7 @@ QString newValue(const QString &old, Random &random)
     case 3:
         return old + QLatin1Char(',') + QString::number(int(random()) % 1000);
     default:
-        return QString::fromLatin1(values[below(random, int(sizeof values / sizeof *values))]);
+        return anyOf(values, random);
     }
 }
 
@@ -173,8 +139,8 @@ QVector<QDomElement> elementsOf(const QDomDocument &document)
 void setNewType(QDomElement &element, Random &random)
 {
     const QString &type = anyOf(itemTypes(), random);
-    if (element.hasAttribute(QStringLiteral("type")) || !isName(type)) {
-        element.setAttribute(QStringLiteral("type"), type);
+    if (element.hasAttribute("type") || !isName(type)) {
+        element.setAttribute("type", type);
     } else {
         element.setTagName(type);
     }
@@ -218,8 +184,7 @@ void mutateElement(QDomElement element, const QVector<QDomElement> &elements, Ra
         setNewType(element, random);
         break;
     case 9:
-        element.appendChild(element.ownerDocument().createCDATASection(
-            newValue({}, random).replace(QLatin1String("]]>"), QLatin1String("]]"))));
+        element.appendChild(element.ownerDocument().createCDATASection(newValue({}, random).replace("]]>", "]]")));
         break;
     default:
         element.appendChild(filledItem(anyOf(itemTypes(), random), newValue({}, random)));
@@ -278,9 +243,9 @@ QJsonValue mutatedJson(const QJsonValue &value, Random &random, int depth)
     const QStringList keys = object.keys();
     const int choice = below(random, 8);
     if (choice == 0 || keys.isEmpty()) {
-        object.insert(QStringLiteral("Type"), anyOf(itemTypes(), random));
+        object.insert("Type", anyOf(itemTypes(), random));
     } else if (choice == 1) {
-        object.insert(anyOf(words(), random), newJsonValue({}, random));
+        object.insert(anyOf(words, random), newJsonValue({}, random));
     } else if (choice == 2) {
         object.remove(anyOf(keys, random));
     } else {
@@ -322,15 +287,7 @@ std::size_t mutateText(std::uint8_t *data, std::size_t size, std::size_t maxSize
 
 const QStringList &itemTypes()
 {
-    static const QStringList list = [] {
-        QStringList known;
-        for (const QString &word : words()) {
-            if (createTranslator(word)) {
-                known.append(word);
-            }
-        }
-        return known;
-    }();
+    static const QStringList list = wordsThat([](const QString &word) { return createTranslator(word) != nullptr; });
     return list;
 }
 
@@ -343,7 +300,7 @@ QJsonObject filledObject(const QString &type, const QString &value)
             object.insert(it.key(), value);
         }
     }
-    object.insert(QStringLiteral("Type"), type);
+    object.insert("Type", type);
     return object;
 }
 
@@ -375,7 +332,7 @@ QDomElement filledRawItem(const QString &type, const QString &value)
             }
         }
         if (isList) {
-            holder = holder.appendChild(newElement(QStringLiteral("row"))).toElement();
+            holder = holder.appendChild(newElement("row")).toElement();
         }
         holder.setAttribute(path.size() > 1 ? path.last().toString() : first, value);
     }

@@ -27,14 +27,16 @@ namespace {
 QString seedFolder;
 QSet<QByteArray> written;
 
+[[noreturn]] void fail(const QString &path)
+{
+    std::fprintf(stderr, "%s can't be read or written\n", qPrintable(path));
+    std::exit(1);
+}
+
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        std::fprintf(stderr, "%s can't be read\n", qPrintable(path));
-        std::exit(1);
-    }
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : (fail(path), QByteArray());
 }
 
 void put(const char *target, const QByteArray &content)
@@ -43,12 +45,11 @@ void put(const char *target, const QByteArray &content)
         return;
     }
     written.insert(target + content);
-    const QString folder = seedFolder + QLatin1Char('/') + QLatin1String(target);
+    const QString folder = seedFolder + QLatin1Char('/') + target;
     QDir().mkpath(folder);
-    QFile file(folder + QStringLiteral("/%1").arg(written.size(), 5, 10, QLatin1Char('0')));
+    QFile file(folder + "/%1"_s.arg(written.size(), 5, 10, QLatin1Char('0')));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-        std::fprintf(stderr, "%s can't be written\n", qPrintable(file.fileName()));
-        std::exit(1);
+        fail(file.fileName());
     }
 }
 
@@ -84,13 +85,13 @@ void putItem(const QJsonObject &item)
 void putElements(const QDomElement &root)
 {
     forEachDescendant(root, [](const QDomElement &element) {
-        if (createTranslator(element.attribute(QStringLiteral("type")))) {
+        if (createTranslator(element.attribute("type"))) {
             put("itemzqtx2json", textOf(element));
-            putItem(plugin().tranItemZQTX2JSON(element, context(QStringLiteral("3.0"))));
+            putItem(plugin().tranItemZQTX2JSON(element, context("3.0")));
         } else if (createTranslator(element.nodeName())) {
             put("itemxml2json", textOf(element));
-            putItem(plugin().tranItemXML2JSON(element, context(QStringLiteral("3.0"))));
-        } else if (element.tagName().startsWith(QLatin1String("svg:"))) {
+            putItem(plugin().tranItemXML2JSON(element, context("3.0")));
+        } else if (element.tagName().startsWith("svg:")) {
             put("itemiwb2json", textOf(element));
         }
         return true;
@@ -117,20 +118,20 @@ void putDocument(const QString &path)
 
 void putPackage(const QString &path)
 {
-    const bool isIwb = path.endsWith(QLatin1String(".iwb"));
-    const QString archive = workFolder() + QLatin1String("/seed.zip");
+    const bool isIwb = path.endsWith(".iwb");
+    const QString archive = workFolder() + "/seed.zip";
     packZip(path, archive);
     put("archives", contentOf(archive));
     QFile::remove(archive);
     if (isIwb) {
-        put("iwbimport", contentOf(path + QLatin1String("/content.xml")));
+        put("iwbimport", contentOf(path + "/content.xml"));
         return;
     }
-    const QString exported = workFolder() + QLatin1String("/seed.iwb");
-    convert(QStringLiteral("zqtx"), path, QStringLiteral("iwb"), exported);
-    const QString unpacked = workFolder() + QLatin1String("/seed");
+    const QString exported = workFolder() + "/seed.iwb";
+    convert("zqtx", path, "iwb", exported);
+    const QString unpacked = workFolder() + "/seed";
     unpackZip(exported, unpacked);
-    put("iwbimport", contentOf(unpacked + QLatin1String("/content.xml")));
+    put("iwbimport", contentOf(unpacked + "/content.xml"));
     QDir(unpacked).removeRecursively();
     QFile::remove(exported);
 }
@@ -139,7 +140,7 @@ void putTypes()
 {
     for (const QString &type : itemTypes()) {
         for (const char *value : {"1,2,3,4,5,6", "1", ""}) {
-            const QString text = QLatin1String(value);
+            const QString text = value;
             putItem(filledObject(type, text));
             put("itemzqtx2json", textOf(filledItem(type, text)));
             put("itemxml2json", textOf(filledRawItem(type, text)));
@@ -160,7 +161,7 @@ int main(int argc, char **argv)
     seedFolder = QFile::decodeName(argv[2]);
     QDir(seedFolder).removeRecursively();
     const QString examples = QFile::decodeName(argv[1]);
-    QDirIterator files(examples, {QStringLiteral("*.xml")}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(examples, {"*.xml"}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         putDocument(files.next());
     }
@@ -168,7 +169,7 @@ int main(int argc, char **argv)
     const QStringList packages = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &package : packages) {
         const QString path = folder.filePath(package);
-        if (QFile::exists(path + QLatin1String("/index.xml")) || package.endsWith(QLatin1String(".iwb"))) {
+        if (QFile::exists(path + "/index.xml") || package.endsWith(".iwb")) {
             putPackage(path);
         }
     }

@@ -1,73 +1,59 @@
 #include "fuzzsupport.h"
-#include "mutation.h"
 
 // Slides and presentations in all five directions: any XML as one to read, any object as one to write, and back.
 
 namespace {
 
-void writeAndReadBack(QJsonObject json, std::size_t size)
+void writeAndReadBack(QJsonObject json)
 {
-    json.insert(QStringLiteral("filePath"), QString(workFolder() + QLatin1String("/export")));
-    const QDomDocument slide =
-        guarded("writing a slide", size, [&json] { return plugin().tranSlideJSON2ZQTX({}, json); });
-    guarded("reading the slide", size, [&slide] { return plugin().tranSlideZQTX2JSON(slide.documentElement(), {}); });
-    guarded("writing the slide once more", size, [&] { return plugin().tranSlideJSON2ZQTX(slide, json); });
-    const QDomDocument index =
-        guarded("writing an index", size, [&json] { return plugin().tranPresJSON2ZQTX({}, json); });
-    guarded("reading the index", size, [&index] { return plugin().tranPresZQTX2JSON(index.documentElement(), {}); });
-    QDomDocument iwb = guarded("writing a root", size, [&json] { return plugin().tranPresJSON2IWB({}, json); });
-    const QDomElement page = guarded("writing a page", size, [&] { return plugin().tranSlideJSON2IWB(iwb, json); });
-    QJsonObject known{{QStringLiteral("path"), QString(workFolder() + QLatin1String("/package/"))}};
-    guarded("reading the page", size, [&] { return plugin().tranSlideIWB2JSON(iwb.documentElement(), page, known); });
+    json.insert("filePath", exportFolder());
+    const QDomDocument slide = guarded("writing a slide", [&] { return plugin().tranSlideJSON2ZQTX({}, json); });
+    guarded("reading the slide", [&] { return plugin().tranSlideZQTX2JSON(slide.documentElement(), {}); });
+    guarded("writing the slide once more", [&] { return plugin().tranSlideJSON2ZQTX(slide, json); });
+    const QDomDocument index = guarded("writing an index", [&] { return plugin().tranPresJSON2ZQTX({}, json); });
+    guarded("reading the index", [&] { return plugin().tranPresZQTX2JSON(index.documentElement(), {}); });
+    QDomDocument iwb = guarded("writing a root", [&] { return plugin().tranPresJSON2IWB({}, json); });
+    const QDomElement page = guarded("writing a page", [&] { return plugin().tranSlideJSON2IWB(iwb, json); });
+    guarded("reading the page", [&] { return plugin().tranSlideIWB2JSON(iwb.documentElement(), page, inPackage()); });
 }
 
-void read(const QDomElement &element, std::size_t size)
+void read(const QDomElement &element)
 {
     const QString before = treeText(element);
-    const QJsonObject slide =
-        guarded("reading a slide", size, [&element] { return plugin().tranSlideZQTX2JSON(element, {}); });
-    const QJsonObject index =
-        guarded("reading an index", size, [&element] { return plugin().tranPresZQTX2JSON(element, {}); });
-    guarded("reading a root", size, [&element] { return plugin().tranPresIWB2JSON(element, {}); });
+    const QJsonObject slide = guarded("reading a slide", [&] { return plugin().tranSlideZQTX2JSON(element, {}); });
+    const QJsonObject index = guarded("reading an index", [&] { return plugin().tranPresZQTX2JSON(element, {}); });
+    guarded("reading a root", [&] { return plugin().tranPresIWB2JSON(element, {}); });
     mustBeSame("a read leaves the document alone", treeText(element), before);
 
-    const QString id = QStringLiteral("ID");
+    const QString id = "ID";
     const QString withoutId = treeText(element, id);
     const QJsonObject rawSlide =
-        guarded("reading a raw slide", size, [&element] { return plugin().tranSlideXML2JSON(element, {}); });
-    const QJsonObject raw =
-        guarded("reading a raw lesson", size, [&element] { return plugin().tranPresXML2JSON(element, {}); });
+        guarded("reading a raw slide", [&] { return plugin().tranSlideXML2JSON(element, {}); });
+    const QJsonObject raw = guarded("reading a raw lesson", [&] { return plugin().tranPresXML2JSON(element, {}); });
     mustBeSame("a raw read leaves the document alone", treeText(element, id), withoutId);
 
-    const QString mark = QStringLiteral("isloaded");
+    const QString mark = "isloaded";
     const QString withoutMarks = treeText(element, mark);
-    QJsonObject known{{QStringLiteral("path"), QString(workFolder() + QLatin1String("/package/"))}};
     const QDomElement page = element.firstChildElement();
-    const QJsonObject imported = guarded("reading a page", size, [&] {
-        return plugin().tranSlideIWB2JSON(element, page.isNull() ? element : page, known);
+    const QJsonObject imported = guarded("reading a page", [&] {
+        return plugin().tranSlideIWB2JSON(element, page.isNull() ? element : page, inPackage());
     });
     mustBeSame("an import only sets its marks", treeText(element, mark), withoutMarks);
     for (const QJsonObject *json : {&slide, &index, &rawSlide, &raw, &imported}) {
-        writeAndReadBack(*json, size);
+        writeAndReadBack(*json);
     }
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void tryInput(const QByteArray &input)
 {
-    if (size > 0 && data[0] == '{') {
-        writeAndReadBack(objectOf(data, size), size);
-        return 0;
+    if (input.startsWith('{') {
+        writeAndReadBack(objectOf(input));
+        return;
     }
-    const QDomDocument document = documentOf(data, size);
+    const QDomDocument document = documentOf(input);
     if (!document.documentElement().isNull()) {
-        read(document.documentElement(), size);
+        read(document.documentElement());
     }
-    return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size, std::size_t maxSize, unsigned seed)
-{
-    return mutateText(data, size, maxSize, seed);
 }

@@ -75,39 +75,19 @@ __attribute__((visibility("default"))) int open64(const char *path, int flags, .
     return next(path, flags, mode);
 }
 
-__attribute__((visibility("default"))) int mkdir(const char *path, mode_t mode)
-{
-    static const auto next = original<int (*)(const char *, mode_t)>("mkdir");
-    check(path, "a folder is made");
-    return next(path, mode);
-}
+// A function that makes something at a path.
+#define WATCHED(name, parameters, arguments, path, what)                                                               \
+    __attribute__((visibility("default"))) int name parameters                                                         \
+    {                                                                                                                  \
+        static const auto next = original<int(*) parameters>(#name);                                                   \
+        check(path, what);                                                                                             \
+        return next arguments;                                                                                         \
+    }
 
-__attribute__((visibility("default"))) int link(const char *from, const char *to)
-{
-    static const auto next = original<int (*)(const char *, const char *)>("link");
-    check(to, "a file is linked");
-    return next(from, to);
-}
-
-__attribute__((visibility("default"))) int linkat(int fromFolder, const char *from, int toFolder, const char *to,
-                                                  int flags)
-{
-    static const auto next = original<int (*)(int, const char *, int, const char *, int)>("linkat");
-    check(to, "a file is linked");
-    return next(fromFolder, from, toFolder, to, flags);
-}
-
-__attribute__((visibility("default"))) int symlink(const char *from, const char *to)
-{
-    static const auto next = original<int (*)(const char *, const char *)>("symlink");
-    check(to, "a link is made");
-    return next(from, to);
-}
-
-__attribute__((visibility("default"))) int rename(const char *from, const char *to)
-{
-    static const auto next = original<int (*)(const char *, const char *)>("rename");
-    check(to, "a file is renamed");
-    return next(from, to);
-}
+WATCHED(mkdir, (const char *path, mode_t mode), (path, mode), path, "a folder is made")
+WATCHED(link, (const char *from, const char *to), (from, to), to, "a file is linked")
+WATCHED(linkat, (int fromFolder, const char *from, int toFolder, const char *to, int flags),
+        (fromFolder, from, toFolder, to, flags), to, "a file is linked")
+WATCHED(symlink, (const char *from, const char *to), (from, to), to, "a link is made")
+WATCHED(rename, (const char *from, const char *to), (from, to), to, "a file is renamed")
 }

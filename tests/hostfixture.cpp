@@ -2,6 +2,8 @@
 
 #include "conversion.h"
 
+#include <QDir>
+
 void Command::begin(const QStringList &arguments, const QString &folder)
 {
     setWorkingDirectory(folder);
@@ -29,6 +31,11 @@ Command::Outcome runCommand(const QStringList &arguments, const QString &folder,
     command.prepare = prepare;
     command.begin(arguments, folder);
     return command.outcome();
+}
+
+QStringList hiddenEntries(const QString &folder)
+{
+    return QDir(folder).entryList({".*"}, QDir::Hidden | QDir::AllEntries | QDir::NoDotAndDotDot);
 }
 
 std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses)

@@ -40,6 +40,9 @@ protected:
 Command::Outcome runCommand(const QStringList &arguments, const QString &folder = {},
                             const std::function<void()> &prepare = {});
 
+//! The names of hidden files and folders, which only a run that was cut off leaves.
+QStringList hiddenEntries(const QString &folder);
+
 //! The reader of a lesson, in the format that its name tells. Throws LessonError.
 std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses = nullptr);
 

@@ -42,14 +42,10 @@ QDomElement xml(const QString &text)
 
 QString toText(const QDomElement &element)
 {
-    QMap<QString, QString> attributes;
-    const QDomNamedNodeMap nodes = element.attributes();
-    for (int i = 0; i < nodes.count(); ++i) {
-        attributes.insert(nodes.item(i).nodeName(), nodes.item(i).nodeValue().toHtmlEscaped());
-    }
-    QString text = QLatin1Char('<') + element.tagName();
-    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
-        text += QLatin1Char(' ') + it.key() + QLatin1String("=\"") + it.value() + QLatin1Char('"');
+    QString text = '<' + element.tagName();
+    const QJsonObject attributes = attributesOf(element);
+    for (auto it = attributes.constBegin(); it != attributes.constEnd(); ++it) {
+        text += ' ' + it.key() + "=\"" + it->toString().toHtmlEscaped() + '"';
     }
     QString content;
     QTextStream stream(&content);
@@ -64,7 +60,7 @@ QString toText(const QDomElement &element)
     if (content.isEmpty()) {
         return text + QLatin1String("/>");
     }
-    return text + QLatin1Char('>') + content + QLatin1String("</") + element.tagName() + QLatin1Char('>');
+    return text + '>' + content + QLatin1String("</") + element.tagName() + '>';
 }
 
 QJsonObject json(const QByteArray &text)
@@ -99,11 +95,24 @@ QString differences(const QJsonObject &actual, const QJsonObject &expected)
     for (auto it = expected.constBegin(); it != expected.constEnd(); ++it) {
         const QJsonValue value = actual.value(it.key());
         if (it->isNull() ? !value.isUndefined() : value != *it) {
-            lines += it.key() + QLatin1String(" is ") + written(value) + QLatin1String(", not ") + written(*it)
-                + QLatin1Char('\n');
+            lines += it.key() + QLatin1String(" is ") + written(value) + QLatin1String(", not ") + written(*it) + '\n';
         }
     }
     return lines;
+}
+
+QJsonObject ownKeys(QJsonObject item)
+{
+    for (const char *key : {"Type", "ID", "Visible", "LockIn", "InfiniteClone", "Matrix", "SlideMatrix"}) {
+        item.remove(key);
+    }
+    return item;
+}
+
+QDomElement toSvg(const QJsonObject &item)
+{
+    QDomDocument document;
+    return plugin()->tranItemJSON2IWB(document, item);
 }
 
 int messagesOf(const std::function<void()> &call)

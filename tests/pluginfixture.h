@@ -31,6 +31,12 @@ QJsonObject attributesOf(const QDomElement &element);
 //! What of expected isn't so in actual, a line a member; a null stands for a member that must be missing.
 QString differences(const QJsonObject &actual, const QJsonObject &expected);
 
+//! What an item was read to beyond the keys that every item has.
+QJsonObject ownKeys(QJsonObject item);
+
+//! The item's svg form, in a document of its own.
+QDomElement toSvg(const QJsonObject &item);
+
 //! How many messages a call leaves on Qt's log.
 int messagesOf(const std::function<void()> &call);
 

@@ -24,7 +24,7 @@ int depthOf(QJsonObject item)
     return depth;
 }
 
-// IDs in order, Children between brackets.
+// "ID=box" of an item or its ID without a box, and those of its Children in order between brackets.
 QString outline(const QJsonObject &item)
 {
     QStringList children;
@@ -32,22 +32,9 @@ QString outline(const QJsonObject &item)
     for (const QJsonValue &child : array) {
         children.append(outline(child.toObject()));
     }
-    const QString id = item.value("ID").toString();
-    return children.isEmpty() ? id : id + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
-}
-
-// "ID=box" of every item that has a box, from the outside in.
-QStringList boxes(const QJsonObject &item)
-{
-    QStringList list;
-    if (item.contains("BoundingBox")) {
-        list.append(item.value("ID").toString() + QLatin1Char('=') + item.value("BoundingBox").toString());
-    }
-    const QJsonArray array = item.value("Children").toArray();
-    for (const QJsonValue &child : array) {
-        list += boxes(child.toObject());
-    }
-    return list;
+    const QString box = item.value("BoundingBox").toString();
+    const QString text = item.value("ID").toString() + (box.isEmpty() ? box : '=' + box);
+    return children.isEmpty() ? text : text + '(' + children.join(' ') + ')';
 }
 
 } // namespace
@@ -64,15 +51,14 @@ private slots:
     {
         const Table<QString> row("text");
         row("groups",
-            nested(R"(<group type="group"><data><rect points="1,2,3,4"/>)"_s, R"(<stroke type="Curve"/>)"_s,
-                   "</data></group>"_s, manyLevels));
-        row("formulas",
-            nested(R"(<group type="ZQStrokesMathFormula"><data><rect/><vertex/>)"
-                   R"(<group type="group"><data><rect/>)"_s,
-                   QString(), "</data></group></data></group>"_s, manyLevels / 2));
-        row("raw groups",
-            nested("<ZQGroupItem><GroupSonItems>"_s, "<ZQSmoothStroke/>"_s, "</GroupSonItems></ZQGroupItem>"_s,
+            nested("<group type='group'><data><rect points='1,2,3,4'/>", "<stroke type='Curve'/>", "</data></group>",
                    manyLevels));
+        row("formulas",
+            nested("<group type='ZQStrokesMathFormula'><data><rect/><vertex/>"
+                   "<group type='group'><data><rect/>",
+                   QString(), "</data></group></data></group>", manyLevels / 2));
+        row("raw groups",
+            nested("<ZQGroupItem><GroupSonItems>", "<ZQSmoothStroke/>", "</GroupSonItems></ZQGroupItem>", manyLevels));
     }
 
     void readsEveryLevelOfGroups()
@@ -81,8 +67,8 @@ private slots:
         const QDomElement element = xml(text);
         QElapsedTimer timer;
         timer.start();
-        const QJsonObject item = element.tagName() == "group"_s ? plugin()->tranItemZQTX2JSON(element, {})
-                                                                : plugin()->tranItemXML2JSON(element, {});
+        const QJsonObject item = element.tagName() == "group" ? plugin()->tranItemZQTX2JSON(element, {})
+                                                              : plugin()->tranItemXML2JSON(element, {});
         QVERIFY(depthOf(item) >= manyLevels);
         QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
     }
@@ -91,15 +77,20 @@ private slots:
     void keepsTheOrderOfNestedItems()
     {
         const QString zqtx =
-            R"(<group type="group" id="a"><data><rect/><stroke type="Curve" id="b"/><group type="group" id="c"><data>)"
-            R"(<stroke type="Curve" id="d"/><nothing type="x"/><stroke type="Curve" id="e"/></data></group>)"
-            R"(<group type="group" id="f"/><stroke type="Curve" id="g"/></data></group>)"_s;
-        QCOMPARE(outline(plugin()->tranItemZQTX2JSON(xml(zqtx), {})), "a(b c(d e) f g)"_s);
+            "<group type='group' id='a'><data><rect/><stroke type='Curve' id='b'/><group type='group' id='c'><data>"
+            "<stroke type='Curve' id='d'/><nothing type='x'/><stroke type='Curve' id='e'/></data></group>"
+            "<group type='group' id='f'/><stroke type='Curve' id='g'/></data></group>";
+        QCOMPARE(outline(plugin()->tranItemZQTX2JSON(xml(zqtx), {})), "a(b c(d e) f g)");
         const QString raw =
-            R"(<ZQGroupItem NetID="a"><GroupSonItems><ZQSmoothStroke NetID="b"/><ZQGroupItem NetID="c">)"
-            R"(<GroupSonItems><ZQSmoothStroke NetID="d"/><Nothing/><ZQSmoothStroke NetID="e"/></GroupSonItems>)"
-            R"(</ZQGroupItem><ZQGroupItem NetID="f"/><ZQSmoothStroke NetID="g"/></GroupSonItems></ZQGroupItem>)"_s;
-        QCOMPARE(outline(plugin()->tranItemXML2JSON(xml(raw), {})), "a(g f c(e d) b)"_s);
+            "<ZQGroupItem NetID='a' TransformMatrix='2,0,0,2,0,0'><GroupSonItems><ZQSmoothStroke "
+            "NetID='b'/><ZQGroupItem NetID='c'>"
+            "<GroupSonItems><ZQSmoothStroke NetID='d'/><Nothing/><ZQSmoothStroke NetID='e'/></GroupSonItems>"
+            "</ZQGroupItem><ZQGroupItem NetID='f'/><ZQSmoothStroke NetID='g'/></GroupSonItems></ZQGroupItem>";
+        const QJsonObject group =
+            plugin()->tranItemXML2JSON(xml(raw), json("{'slide':{'SlideSourceRect':'0,0,1024,768'}}"));
+        QCOMPARE(outline(group), "a(g f c(e d) b)");
+        // A group stands on the page as it is, whatever the size of its slide.
+        QCOMPARE(differences(group, json("{'Matrix':'2,0,0,2,0,0','SlideMatrix':null}")), QString());
     }
 
     // A group's box is the first in its data, be it that of an item far below; items before and behind that one have
@@ -107,17 +98,17 @@ private slots:
     void findsTheFirstBoxInEveryGroup()
     {
         const QString zqtx =
-            R"(<group type="group" id="a"><data>)"
-            R"(<group type="group" id="b"><data><stroke type="Curve" id="c"><data><vertex/></data></stroke></data></group>)"
-            R"(<group type="group" id="d"><data><group type="group" id="e"><data>)"
-            R"(<stroke type="Curve" id="f"><data><rect points="1"/></data></stroke></data></group>)"
-            R"(<group type="group" id="g"><data><x/></data></group>)"
-            R"(<group type="group" id="h"><data><x/></data><data><rect points="2"/></data></group></data></group>)"
-            R"(<group type="group" id="i"><data><x><rect points="3"/></x><group type="group" id="j"><data>)"
-            R"(<stroke type="Curve" id="k"><data><x/><rect points="4"/></data></stroke></data></group></data></group>)"
-            R"(</data></group>)"_s;
-        QCOMPARE(boxes(plugin()->tranItemZQTX2JSON(xml(zqtx), {})).join(QLatin1Char(' ')),
-                 "a=1 d=1 e=1 f=1 i=3 j=4 k=4"_s);
+            "<group type='group' id='a'><data>"
+            "<group type='group' id='b'><data><stroke type='Curve' "
+            "id='c'><data><vertex/></data></stroke></data></group>"
+            "<group type='group' id='d'><data><group type='group' id='e'><data>"
+            "<stroke type='Curve' id='f'><data><rect points='1'/></data></stroke></data></group>"
+            "<group type='group' id='g'><data><x/></data></group>"
+            "<group type='group' id='h'><data><x/></data><data><rect points='2'/></data></group></data></group>"
+            "<group type='group' id='i'><data><x><rect points='3'/></x><group type='group' id='j'><data>"
+            "<stroke type='Curve' id='k'><data><x/><rect points='4'/></data></stroke></data></group></data></group>"
+            "</data></group>";
+        QCOMPARE(outline(plugin()->tranItemZQTX2JSON(xml(zqtx), {})), "a=1(b(c) d=1(e=1(f=1) g h) i=3(j=4(k=4)))");
     }
 };
 

@@ -28,7 +28,7 @@ class TestHostActivities : public QObject
 private:
     QTemporaryDir m_folder;
 
-    QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
+    QString path(const char *name) const { return m_folder.filePath(name); }
 
     QString lessonWith(const QJsonObject &activity) const
     {
@@ -50,14 +50,12 @@ private slots:
 
     void picturesDontDrift_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("templet");
-        QTest::addColumn<QString>("written");
-        const auto row = [](const char *name, const char *type, const char *templet, const char *written) {
-            QTest::addRow("%s, %s", type, name) << type << templet << written;
+        const Table<QString, QString, QString> table("type", "templet", "written");
+        const auto row = [&table](const char *name, const char *type, const char *templet, const char *written) {
+            table(QByteArray(type) + ", " + name, type, templet, written);
         };
-        const char *const canvas = R"(<templet index="2"><background pic="a.png"/><backgroundx2/>)"
-                                   R"(<right pic="x/r.png"/><container %1 hotpath="h.png" path="p.png"/></templet>)";
+        const char *const canvas = "<templet index='2'><background pic='a.png'/><backgroundx2/>"
+                                   "<right pic='x/r.png'/><container %1 hotpath='h.png' path='p.png'/></templet>";
         for (const char *type : {"Judgment", "NumberComparison", "PronunciationTest", "Grouping"}) {
             row("pictures of the application", type,
                 "'index':'2','background':'/i/Canvas/a.png','right':'/i/Canvas/x/r.png',"
@@ -72,15 +70,15 @@ private slots:
             "'index':'3','background':'DATA//ClassActivity/a.png','right':'DATA/r.png',"
             "'container':{'path':'DATA/ClassActivity/p.png','hotpath':'','process_bar_back':'DATA/b.png'},"
             "'material':{'font_align':'l','path2':'DATA/ClassActivity/p2.png'}",
-            R"(<templet index="3"><background pic="ClassActivity/a.png"/><backgroundx2/><right pic="/r.png"/>)"
-            R"(<container %1 hotpath="" path="/ClassActivity/p.png" process_bar_back="/b.png"/>)"
-            R"(<material font_align="l" font_color="" font_family="" font_offsetup="" font_size="" path="")"
-            R"( path2="/ClassActivity/p2.png"/></templet>)");
+            "<templet index='3'><background pic='ClassActivity/a.png'/><backgroundx2/><right pic='/r.png'/>"
+            "<container %1 hotpath='' path='/ClassActivity/p.png' process_bar_back='/b.png'/>"
+            "<material font_align='l' font_color='' font_family='' font_offsetup='' font_size='' path=''"
+            " path2='/ClassActivity/p2.png'/></templet>");
         // What a lesson itself names is nobody's machine.
         row("references", "Grouping",
             "'index':'3','background':'/ClassActivity/a.png','container':{'path':'/x/y','hotpath':''}",
-            R"(<templet index="3"><background pic="/ClassActivity/a.png"/><backgroundx2/>)"
-            R"(<container %1 hotpath="" path="/x/y"/></templet>)");
+            "<templet index='3'><background pic='/ClassActivity/a.png'/><backgroundx2/>"
+            "<container %1 hotpath='' path='/x/y'/></templet>");
     }
 
     // Three trips, each into a document that is the same.
@@ -89,13 +87,11 @@ private slots:
         QFETCH(QString, type);
         QFETCH(QString, templet);
         QFETCH(QString, written);
-        QJsonObject look = json(withData("{" + templet + "}").toUtf8());
+        QJsonObject look = json(withData("{" + templet + "}"));
         look.insert("backgroundx2", "");
         QString file = lessonWith({{"type", type}, {"templet", look}});
         const QDomElement expected =
-            xml(written.contains("%1") ? written.arg(
-                    R"(font_align="" font_color="" font_family="" font_offsetup="" font_size="" hotoffset="")")
-                                       : written);
+            xml(written.arg("font_align='' font_color='' font_family='' font_offsetup='' font_size='' hotoffset=''"));
         for (int trip = 1; trip <= 3; ++trip) {
             const QString package = m_folder.filePath(QString::number(trip));
             QCOMPARE(convertedLesson(file, package).summary(), QString());
@@ -107,23 +103,6 @@ private slots:
         }
         QCOMPARE(fileContent(path("3/slides/1.xml")), fileContent(path("1/slides/1.xml")));
         QCOMPARE(fileContent(path("3.json")), fileContent(path("1.json")));
-    }
-
-    // An editor that opens the package has its paths again.
-    void editorsFindTheirPictures()
-    {
-        const QJsonObject look = json(withData("{'index':'3','background':'DATA/ClassActivity/a.png',"
-                                               "'backgroundx2':'DATA/b.png','board':'DATA/ClassActivity/c.png',"
-                                               "'container':{'path':'DATA/ClassActivity/p.png'}}")
-                                          .toUtf8());
-        convertedLesson(lessonWith({{"type", "Grouping"}, {"templet", look}}), path("out"));
-        const QDomDocument slide = loadXmlFile(path("out/slides/1.xml"));
-        const QJsonObject read = plugin()->tranSlideZQTX2JSON(slide.documentElement(), {});
-        const QJsonObject found = read.value("activity").toObject().value("templet").toObject();
-        for (const char *key : {"background", "backgroundx2", "board"}) {
-            QCOMPARE(found.value(key), look.value(key));
-        }
-        QCOMPARE(found.value("container").toObject().value("path"), look.value("container").toObject().value("path"));
     }
 
     void picturesOfTheDataTravel()
@@ -179,13 +158,12 @@ private slots:
     void lossesAreNamed()
     {
         QFETCH(QString, activity);
-        QFETCH(QStringList, keys);
         QStringList lost;
         const LossReport losses = convertedLesson(lessonWith(json(activity)), path("out"));
         for (const Loss &loss : losses.entries()) {
             lost.append(loss.key);
         }
-        QCOMPARE(lost, keys);
+        QTEST(lost, "keys");
     }
 };
 

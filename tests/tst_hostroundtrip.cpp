@@ -87,16 +87,6 @@ private slots:
         QTemporaryDir folder;
         QCOMPARE(convert(example, folder.filePath("1.json")), QString());
     }
-
-    void rawPicturesKeepTheirFile()
-    {
-        QTemporaryDir folder;
-        const QString package = folder.filePath("package");
-        const QString losses = convert(EXAMPLES_DIR "/rawxml/standard.xml"_s, package);
-        QVERIFY2(!losses.contains("MultiMediaFile"), qPrintable(losses));
-        QVERIFY(fileContent(package + "/slides/2.xml").contains("resource=\"resources/bamboo.png\""));
-        QVERIFY(filesBelow(package).contains("resources/bamboo.png"));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestHostRoundTrip)

@@ -17,7 +17,7 @@ class TestHostValues : public QObject
 
 private:
     // Through the text of the document, as a file would go.
-    static QJsonObject writtenAndRead(const QJsonObject &item, const char *version = "3.0")
+    static QJsonObject writtenAndRead(const QJsonObject &item, const QString &version = "3.0")
     {
         const QJsonObject presentation{{"Version", version}};
         const ZqtxItems items(plugin(), presentation);
@@ -32,11 +32,7 @@ private:
 private slots:
     void survive_data()
     {
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<QJsonObject>("item");
-        const auto row = [](const char *name, const char *text, const char *version = "3.0") {
-            QTest::newRow(name) << version << json(text);
-        };
+        const Table<QJsonObject> row("item"); // with the version of its lesson, 3.0 unless told
         row("weight and time of chalk",
             "{'Type':'ZQChalkStroke','Weight':'0.5,1','Time':'0,16','PointBrushWid':'3,4'}");
         row("deleted pixels and a texture",
@@ -46,9 +42,9 @@ private slots:
             "{'Type':'ZQGroupItem','Children':[{'Type':'x','KeptXml':'<a type=\\'x\\'><b>c</b></a>'},"
             "{'Type':'ZQSmoothStroke','ID':'2'},{'Type':'ZQFuture','ID':'3','Wings':[1,2]}]}");
         row("box of a version 3 group", "{'Type':'ZQGroupItem','IgnoredBoundingBox':'1,2,3,4'}");
-        row("box of a version 2 group", "{'Type':'ZQGroupItem','BoundingBox':'1,2,3,4'}", "2.0");
-        row("steps of an old stroke", "{'Type':'ZQSmoothStroke','XY':'1000.12,-3,0.333313,0.25,-0.666687,1e+06'}",
-            "2.9");
+        row("box of a version 2 group", "{'Version':'2.0','Type':'ZQGroupItem','BoundingBox':'1,2,3,4'}");
+        row("steps of an old stroke",
+            "{'Version':'2.9','Type':'ZQSmoothStroke','XY':'1000.12,-3,0.333313,0.25,-0.666687,1e+06'}");
         row("mind map full of markup",
             R"({'Type':'ZQMindMapItem','BoundingBox':'1,2,3,4','mindMapData':[{'title':'a < b & c ]]>\r\n','type':1,'style':2,
             'spreadStyle':0,'fillColor':'<','borderColor':'&amp;','lineColor':''},{'style':3},{'pos':'<1,2>','position':1,
@@ -91,9 +87,9 @@ private slots:
 
     void survive()
     {
-        QFETCH(QString, version);
         QFETCH(QJsonObject, item);
-        const QJsonObject found = writtenAndRead(item, qPrintable(version));
+        const QString version = item.take("Version").toString("3.0");
+        const QJsonObject found = writtenAndRead(item, version);
         for (auto it = item.constBegin(); it != item.constEnd(); ++it) {
             if (it.key() != HostKeys::children) {
                 QCOMPARE(found.value(it.key()), it.value());
@@ -111,8 +107,8 @@ private slots:
     // Old lessons store points relative to the first one.
     void writesOffsetsForOldLessons()
     {
-        QCOMPARE(pointsAsOffsets("10,20,1,2,3,4,-5,0.5"_s), "10,20,1,2,4,6,-1,6.5"_s);
-        QCOMPARE(pointsAsOffsets("10,20"_s), "10,20"_s);
+        QCOMPARE(pointsAsOffsets("10,20,1,2,3,4,-5,0.5"_s), "10,20,1,2,4,6,-1,6.5");
+        QCOMPARE(pointsAsOffsets("10,20"_s), "10,20");
         QCOMPARE(pointsAsOffsets(QString()), QString());
     }
 
@@ -128,7 +124,7 @@ private slots:
         items.read(stroke, {}, &check);
         QStringList keys;
         for (const Loss &loss : losses.entries()) {
-            keys.append(loss.key + QLatin1Char('=') + loss.detail);
+            keys.append(loss.key + '=' + loss.detail);
         }
         keys.sort();
         QCOMPARE(keys, QStringList({"@mood=good", "data/rect@tilt=3", "note=Look!"}));

@@ -4,24 +4,15 @@
 
 namespace {
 
-QJsonObject context(const char *sourceRect = "0,0,1024,768", const char *tags = "", const char *version = "4.0")
+QJsonObject context(const QString &sourceRect = "0,0,1024,768", const QString &tags = {})
 {
-    const QJsonObject slide{{"SlideSourceRect"_s, QLatin1String(sourceRect)}, {"SlideTagsInfo"_s, QLatin1String(tags)}};
-    return {{"slide"_s, slide}, {"pres"_s, QJsonObject{{"Version"_s, QLatin1String(version)}}}};
+    const QJsonObject slide{{"SlideSourceRect", sourceRect}, {"SlideTagsInfo", tags}};
+    return {{"slide", slide}, {"pres", QJsonObject{{"Version", "4.0"}}}};
 }
 
 QJsonObject withVersion(const QString &version)
 {
-    return {{"pres"_s, QJsonObject{{"Version"_s, version}}}};
-}
-
-QStringList idsOf(const QJsonValue &children)
-{
-    QStringList ids;
-    for (const QJsonValue &child : children.toArray()) {
-        ids.append(child.toObject().value("ID").toString());
-    }
-    return ids;
+    return {{"pres", QJsonObject{{"Version", version}}}};
 }
 
 } // namespace
@@ -37,8 +28,8 @@ private slots:
     void generatesAnIdForARawItemWithoutNetId()
     {
         const QDomElement withId = xml(R"(<ZQSmoothStroke NetID="7" ID="8"/>)");
-        QCOMPARE(plugin()->tranItemXML2JSON(withId, context()).value("ID").toString(), "7"_s);
-        QCOMPARE(withId.attribute("ID"), "8"_s);
+        QCOMPARE(plugin()->tranItemXML2JSON(withId, context()).value("ID").toString(), "7");
+        QCOMPARE(withId.attribute("ID"), "8");
 
         const QDomElement without = xml(R"(<ZQSmoothStroke ID="8"/>)");
         const QString first = plugin()->tranItemXML2JSON(without, context()).value("ID").toString();
@@ -76,7 +67,7 @@ private slots:
 
     void fitsTheSourceRectangleIntoThePage_data()
     {
-        const Table<QByteArray, QString> row("source", "fit");
+        const Table<QString, QString> row("source", "fit");
         row("4:3", "0,0,720,540", "2,0,0,2,0,0");
         row("16:9", "0,0,1280,720", "1.5,0,0,1.5,0,0");
         row("16:10", "0,0,1536,960", "1.125,0,0,1.125,0,0");
@@ -88,10 +79,10 @@ private slots:
     }
     void fitsTheSourceRectangleIntoThePage()
     {
-        QFETCH(QByteArray, source);
+        QFETCH(QString, source);
         QFETCH(QString, fit);
         const QDomElement element = xml("<ZQSmoothStroke/>");
-        const QJsonObject item = plugin()->tranItemXML2JSON(element, context(source.constData()));
+        const QJsonObject item = plugin()->tranItemXML2JSON(element, context(source));
         QCOMPARE(item.value("SlideMatrix").toString(), fit);
         QCOMPARE(item.value("Matrix").toString(), fit);
     }
@@ -103,74 +94,69 @@ private slots:
             "<x value='1'><s><interactiveType value='ACTION_OPENWEB'/><reservation value='http://a.b'/></s></x>"
             "</interactive>";
         const auto read = [tags](const char *id) {
-            const QString text = "<ZQSmoothStroke NetID='%1'/>"_s.arg(QLatin1String(id));
+            const QString text = "<ZQSmoothStroke NetID='%1'/>"_s.arg(id);
             return plugin()->tranItemXML2JSON(xml(text), context("0,0,1024,768", tags));
         };
-        QCOMPARE(read("1").value("InteractiveType").toString(), "ACTION_OPENWEB"_s);
-        QCOMPARE(read("1").value("InteractiveValue").toString(), "http://a.b"_s);
+        QCOMPARE(read("1").value("InteractiveType").toString(), "ACTION_OPENWEB");
+        QCOMPARE(read("1").value("InteractiveValue").toString(), "http://a.b");
         QVERIFY(!read("2").contains("InteractiveType"));
     }
 
     void readsZqtx_data()
     {
-        const Table<QString, QString, QJsonObject> row("element", "version", "expected");
-        row("defaults", "<stroke type='Curve'/>", "3",
-            "{'Type':'ZQSmoothStroke','Visible':true,'LockIn':'0','InfiniteClone':'0','Color':'#ffff0000',"
+        const Table<QString, QJsonObject> row("element", "expected");
+        row("defaults", "<stroke type='Curve'/>",
+            "{'Color':'#ffff0000',"
             "'Width':'5.0'}");
-        row("opacity goes into the colour", "<stroke type='Curve' color='#ff102030' opacity='128' width='[ ,]3'/>", "3",
-            "{'Type':'ZQSmoothStroke','Visible':true,'LockIn':'0','InfiniteClone':'0','Color':'#80102030','Width':'3'"
+        row("opacity goes into the colour", "<stroke type='Curve' color='#ff102030' opacity='128' width='[ ,]3'/>",
+            "{'Color':'#80102030','Width':'3'"
             "}");
         row("children of a tag answer by whether they have content",
             "<stroke type='Curve'><data/><property stroke_type='2'/><data><rect points='1,2,3,4'/></data>"
             "<properties><property name='link_type' value='ACTION_OPENWEB'/><property name='link_value'/></properties>"
             "</stroke>",
-            "3",
-            "{'Type':'ZQSmoothStroke','Visible':true,'LockIn':'0','InfiniteClone':'0','Color':'#ffff0000',"
+            "{'Color':'#ffff0000',"
             "'Width':'5.0','DashStyle':'2','BoundingBox':'1,2,3,4','InteractiveType':'ACTION_OPENWEB',"
             "'InteractiveValue':''}");
-        row("one href fills texture and stamp", "<stroke type='Stamp'><element href='a.png'/></stroke>", "3",
-            "{'Type':'ZQStrokesStamp','Visible':true,'LockIn':'0','InfiniteClone':'0','Color':'#ffff0000',"
+        row("one href fills texture and stamp", "<stroke type='Stamp'><element href='a.png'/></stroke>",
+            "{'Color':'#ffff0000',"
             "'Width':'5.0','DrawTexture':'a.png','Stamp':'a.png'}");
-        row("animations", "<stroke type='Curve'><animations><appearance type='fade'/></animations></stroke>", "3",
-            "{'Type':'ZQSmoothStroke','Visible':true,'LockIn':'0','InfiniteClone':'0','Color':'#ffff0000',"
+        row("animations", "<stroke type='Curve'><animations><appearance type='fade'/></animations></stroke>",
+            "{'Color':'#ffff0000',"
             "'Width':'5.0','animations':{'appearance':{'type':'fade'}}}");
-        row("unknown type", "<stroke type='Crayon'/>", "3", "{}");
+        row("unknown type", "<stroke type='Crayon'/>", "{}");
     }
     void readsZqtx()
     {
         QFETCH(QString, element);
-        QFETCH(QString, version);
         QFETCH(QJsonObject, expected);
-        QCOMPARE(toText(plugin()->tranItemZQTX2JSON(xml(element), withVersion(version))), toText(expected));
+        const QJsonObject item = plugin()->tranItemZQTX2JSON(xml(element), withVersion("3"));
+        QCOMPARE(toText(ownKeys(item)), toText(expected));
+        QCOMPARE(differences(item,
+                             expected.isEmpty() ? json("{'Visible':null,'LockIn':null}")
+                                                : json("{'Visible':true,'LockIn':'0','InfiniteClone':'0'}")),
+                 QString());
     }
 
     void rewritesThePointsOfOldLessons_data()
     {
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<QString>("points");
-        QTest::addColumn<QString>("expected");
-
-        const auto row = [](const char *version, const char *points, const char *expected) {
-            QTest::addRow("version %s: %s", version, points) << version << points << expected;
-        };
-        row("3.1", "10,20,1,2,4,6", "10,20,1,2,4,6");
-        row("4", "10,20,1,2,4,6", "10,20,1,2,4,6");
+        const Table<QString, QString, QString> row("version", "points", "expected");
+        row("newer", "3.1", "10,20,1,2,4,6", "10,20,1,2,4,6");
         // Relative to the first point: 1,2 and 4,6. Relative to the one before: 1,2 and 3,4.
-        row("2.9", "10,20,1,2,4,6", "10,20,1,2,3,4");
-        row("", "10,20,1,2,4,6,", "10,20,1,2,3,4");
-        row("2", "10,20,1", "10,20");
-        row("2", "1.23456789,20", "1.23457,20");
-        row("2", "", "");
-        row("2", "7,", "7,");
+        row("relative to the first", "2.9", "10,20,1,2,4,6", "10,20,1,2,3,4");
+        row("no version", "", "10,20,1,2,4,6,", "10,20,1,2,3,4");
+        row("a number left over", "2", "10,20,1", "10,20");
+        row("six digits", "2", "1.23456789,20", "1.23457,20");
+        row("nothing", "2", "", "");
+        row("one number", "2", "7,", "7,");
     }
     void rewritesThePointsOfOldLessons()
     {
         QFETCH(QString, version);
         QFETCH(QString, points);
-        QFETCH(QString, expected);
         const QString text = "<stroke type='Curve'><data><vertex points='%1'/></data></stroke>"_s.arg(points);
         const QJsonObject stroke = plugin()->tranItemZQTX2JSON(xml(text), withVersion(version));
-        QCOMPARE(stroke.value("XY").toString(), expected);
+        QTEST(stroke.value("XY").toString(), "expected");
     }
 
     void writesZqtx_data()
@@ -184,8 +170,6 @@ private slots:
         row("a missing child is made", "", "{'Type':'ZQSmoothStroke','DashStyle':'2'}", "property@stroke_type", "2");
         row("a missing inner element is not", "", "{'Type':'ZQChalkStroke','Weight':'1,2'}", "data/weight@points",
             nullptr);
-        row("the widths have their place", "", "{'Type':'ZQChalkStroke','PointBrushWid':'1,2'}",
-            "data/path_width@points", "1,2");
         row("without children nothing is made", "<stroke type='Curve'/>",
             "{'Type':'ZQSmoothStroke','DashStyle':'2','Angle':'1'}", "property@stroke_type", nullptr);
         row("the type of a given element counts", "<stroke type='Curve'/>", "{'Type':'ZQGroupItem'}", "@type", "Curve");
@@ -198,10 +182,6 @@ private slots:
             "{'InteractiveType':''}", "properties/property@name", nullptr);
         row("emphasis without attributes", "", "{'Type':'ZQSmoothStroke','animations':{'emphasis':{}}}",
             "animations/disappearance@x", nullptr);
-        row("appearance", "", "{'Type':'ZQSmoothStroke','animations':{'appearance':{'a':'b'}}}",
-            "animations/appearance@a", "b");
-        row("group", "", "{'Type':'ZQGroupItem','SupportCoverlayer':'1'}", "@type", "group");
-        row("formula", "", "{'Type':'ZQStrokesMathFormula','BoundingBox':'1,2,3,4'}", "data/rect@points", "1,2,3,4");
         row("no place for strokes of a formula", "", "{'Type':'ZQStrokesMathFormula','Formula_Strokes':'x'}",
             "element/property@Formula_Strokes", nullptr);
     }
@@ -213,8 +193,8 @@ private slots:
         QFETCH(QString, expected);
         QDomElement element = plugin()->tranItemJSON2ZQTX(given.isEmpty() ? QDomElement() : xml(given), item);
         QVERIFY(!element.isNull());
-        const QString attribute = path.section(QLatin1Char('@'), 1);
-        const QStringList tags = path.section(QLatin1Char('@'), 0, 0).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+        const QString attribute = path.section('@', 1);
+        const QStringList tags = path.section('@', 0, 0).split('/', Qt::SkipEmptyParts);
         for (const QString &tag : tags) {
             element = element.firstChildElement(tag);
         }
@@ -222,61 +202,20 @@ private slots:
         QCOMPARE(element.attribute(attribute), expected);
     }
 
-    void givesElementsWithoutNeighbours_data()
-    {
-        const Table<QJsonObject> row("item");
-        row("declaration in front", "{'Type':'ZQImagePic'}");
-        row("declaration and values", "{'Type':'ZQChineseAlphabetItem'}");
-        row("a title that ends the map",
-            "{'Type':'ZQMindMapItem','mindMapData':[{'title':'</title></mapItemInfo></data></mindmap><!-- x -->'},"
-            "{},{}]}");
-    }
-    // A neighbour would have gone with the document of the template.
-    void givesElementsWithoutNeighbours()
-    {
-        QFETCH(QJsonObject, item);
-        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, item);
-        QVERIFY(!element.isNull());
-        QVERIFY(element.previousSibling().isNull());
-        QVERIFY(element.nextSibling().isNull());
-    }
-
-    void keepsTheOrderOfGroups()
-    {
-        const QDomElement raw = xml("<ZQGroupItem NetID='g' TransformMatrix='2,0,0,2,0,0'><GroupSonItems>"
-                                    "<ZQSmoothStroke NetID='a'/><Unknown/><ZQSmoothStroke NetID='b'/>"
-                                    "<ZQGroupItem NetID='c'><GroupSonItems><ZQSmoothStroke NetID='d'/></GroupSonItems>"
-                                    "</ZQGroupItem></GroupSonItems></ZQGroupItem>"_s);
-        const QJsonObject rawGroup = plugin()->tranItemXML2JSON(raw, context());
-        const QJsonArray rawChildren = rawGroup.value("Children").toArray();
-        QCOMPARE(idsOf(rawChildren), QStringList({"c"_s, "b"_s, "a"_s}));
-        QCOMPARE(idsOf(rawChildren.first().toObject().value("Children")), QStringList("d"_s));
-        QCOMPARE(rawGroup.value("Matrix").toString(), "2,0,0,2,0,0"_s);
-        QVERIFY(!rawGroup.contains("SlideMatrix"));
-
-        const QDomElement zqtx = xml("<group type='group'><data><rect points='1,2,3,4'/><stroke id='a' type='Curve'/>"
-                                     "<stroke id='x' type='Unknown'/><stroke id='b' type='Chalk'/></data></group>"_s);
-        const QJsonObject group = plugin()->tranItemZQTX2JSON(zqtx, withVersion("4"_s));
-        QCOMPARE(idsOf(group.value("Children")), QStringList({"a"_s, "b"_s}));
-    }
-
     void dropsTheBoxOfVersionThree_data()
     {
-        const Table<QString, bool> row("version", "keepsBox");
-        row("none", nullptr, true);
-        row("2", "2.0", true);
-        row("3", "3.7", false);
-        row("4", "4.0", true);
+        const Table<bool> row("keepsBox");
+        row("", true);
+        row("2.0", true);
+        row("3.7", false);
+        row("4.0", true);
     }
     void dropsTheBoxOfVersionThree()
     {
-        QFETCH(QString, version);
-        QFETCH(bool, keepsBox);
         for (const char *type : {"group", "ZQStrokesMathFormula", "ZQStrokesChemFormula"}) {
-            const QString text =
-                "<group type='%1'><data><rect points='1,2,3,4'/></data></group>"_s.arg(QLatin1String(type));
-            const QJsonObject item = plugin()->tranItemZQTX2JSON(xml(text), withVersion(version));
-            QCOMPARE(item.contains("BoundingBox"), keepsBox);
+            const QString text = "<group type='%1'><data><rect points='1,2,3,4'/></data></group>"_s.arg(type);
+            const QJsonObject item = plugin()->tranItemZQTX2JSON(xml(text), withVersion(QTest::currentDataTag()));
+            QTEST(item.contains("BoundingBox"), "keepsBox");
             QVERIFY(!item.contains("Children"));
         }
     }
@@ -285,17 +224,17 @@ private slots:
     {
         const QDomElement raw =
             xml("<ZQSmoothStroke NetID='1'><PixelDeleteInfos><I x='1'/><I x='2'/></PixelDeleteInfos>"
-                "</ZQSmoothStroke>"_s);
+                "</ZQSmoothStroke>");
         QCOMPARE(plugin()->tranItemXML2JSON(raw, context()).value("PixelDeleteInfos"),
                  QJsonValue(json("{'a':[{'x':'1'},{'x':'2'}]}").value("a")));
         const auto fromZqtx = [](const char *infos) {
             const QString text = "<stroke type='Curve'><element><property pixelDeleteInfos='%1'/>"
-                                 "</element></stroke>"_s.arg(QLatin1String(infos));
+                                 "</element></stroke>"_s.arg(infos);
             return plugin()->tranItemZQTX2JSON(xml(text), {}).value("PixelDeleteInfos");
         };
         QCOMPARE(fromZqtx("[1,2]"), QJsonValue(QJsonArray{1, 2}));
-        QCOMPARE(fromZqtx("[1,2"), QJsonValue("[1,2"_s));
-        QCOMPARE(fromZqtx("{}"), QJsonValue("{}"_s));
+        QCOMPARE(fromZqtx("[1,2"), QJsonValue("[1,2"));
+        QCOMPARE(fromZqtx("{}"), QJsonValue("{}"));
     }
 };
 

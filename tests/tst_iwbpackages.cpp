@@ -124,7 +124,7 @@ private slots:
         convertedLesson(EXAMPLES_DIR "/geometry", path("out"), "iwb");
         const QDomElement written = contentOf(path("out"));
         int count = 0;
-        for (const QString &slide : {"figures"_s, "triangles"_s}) {
+        for (const QString &slide : {"figures", "triangles"}) {
             const QDomElement items =
                 xml(fileContent(EXAMPLES_DIR "/geometry/slides/" + slide + ".xml")).firstChildElement("items");
             for (QDomElement item = items.firstChildElement(); !item.isNull(); item = item.nextSiblingElement()) {
@@ -182,16 +182,13 @@ private slots:
 
     void paintsShapes_data()
     {
-        const Table<QString, QString> row("item",
-                                          "expected"); // stroke, width, opacity, dashes, fill, its opacity, ends
+        // Stroke, width, opacity, dashes, fill, its opacity, ends.
+        const Table<QString, QString> row("item", "expected");
         const char *const black = "rgb(0,0,0)|2|||none|";
         row("nothing is said: black, two wide, empty", "'Type':'ZQMath2DCircle'", black);
-        row("colours that are none", "'Type':'ZQMath2DTriangle','LineColor':'1,2','ArtObj_Color':{}", black);
         row("a colour object, 0xFF8000 at a half",
             "'Type':'ZQMath2DCircle','ArtObj_Color':{'Solid':16744448,'Alpha':0.5}",
             "rgb(0,0,0)|2|128||rgb(255,128,0)|0.501961");
-        row("an opaque fill", "'Type':'ZQMath2DEllipse','ArtObj_Color':'255,1,2,3','ArtObj_Fill':'1'",
-            "rgb(0,0,0)|2|255||rgb(1,2,3)|");
         row("three parts are opaque", "'Type':'ZQMath2DRectangle','ArtObj_Color':'1,2,3','LineColor':'4,5,6'",
             "rgb(4,5,6)|2|255||rgb(1,2,3)|");
         row("not filled", "'Type':'ZQMath2DTriangle','ArtObj_Color':'255,1,2,3','ArtObj_Fill':'0'", black);
@@ -207,7 +204,6 @@ private slots:
         // 10 x 3, 2 x 3, 2 x 3, 2 x 3; 5 x 3, 5 x 3; 10 x 3, 2 x 3, 10 x 3.
         row("dash dot dot", "'Type':'ZQMath2DSegment','ArtObj_Style':'1','ArtObj_Width':'3'",
             "rgb(0,0,0)|3||30,6,6,6|||circle circle");
-        row("dash", "'Type':'ZQMath2DQuadrangle','ArtObj_Mode':'2','ArtObj_Width':'3'", "rgb(0,0,0)|3||15,15|none|");
         row("dash dot", "'Type':'ZQMath2DAngle','ArtObj_Mode':'3','ArtObj_Width':'3'", "rgb(0,0,0)|3||30,6,30|none|");
         row("a dash of a line without a width", "'Type':'ZQMath2DSegment','ArtObj_Style':'2'",
             "rgb(0,0,0)|2||10,10|||circle circle");
@@ -219,7 +215,6 @@ private slots:
             "rgb(0,0,0)|2|||||circle circle");
         row("a width that is none", "'Type':'ZQMath2DSegment','ArtObj_Width':'-1'", "rgb(0,0,0)|2|||||circle circle");
         row("one arrow", "'Type':'ZQMath2DSegmentWith1Arrow'", "rgb(0,0,0)|2|||||arrow ");
-        row("two arrows", "'Type':'ZQMath2DSegmentWith2Arrow'", "rgb(0,0,0)|2|||||arrow arrow");
         row("an arrow that the item tells otherwise", "'Type':'ZQMath2DSegmentWith2Arrow','ArtObj_ArrowType':'1'",
             "rgb(0,0,0)|2|||||arrow ");
     }
@@ -227,7 +222,6 @@ private slots:
     void paintsShapes()
     {
         QFETCH(QString, item);
-        QFETCH(QString, expected);
         // In a box of 100 x 60, with points for whatever needs some.
         putFile(path("in.json"),
                 lessonText(json("{'ID':'i','BoundingBox':'100,50,200,110','Control':[0,0,60,0,60,40],"
@@ -244,7 +238,7 @@ private slots:
         if (element.hasAttribute(start)) {
             values.append(element.attribute(start) + ' ' + element.attribute("stroke-lineshape-end"));
         }
-        QCOMPARE(values.join('|'), expected);
+        QTEST(values.join('|'), "expected");
         QCOMPARE(driftOf(path("in.json")), QString());
     }
 
@@ -286,12 +280,6 @@ private slots:
     void foreignPagesDontDrift_data()
     {
         const Table<QByteArray> row("items");
-        row("turned shapes",
-            "<svg:g transform='rotate(17 300 200) scale(1.3 0.7)'><svg:rect id='a' x='10' y='20' width='300' "
-            "height='90' "
-            "fill='#123' stroke='red' stroke-width='3'/></svg:g><svg:ellipse id='b' cx='400' cy='300' rx='90' ry='20' "
-            "transform='rotate(-33.3 400 300)'/><svg:circle id='c' cx='77.7' cy='88.8' r='33.3' stroke='blue' "
-            "stroke-opacity='.3'/>");
         row("outlines",
             "<svg:polyline id='a' points='1,2 3.3333333,40 100,7' fill='none' stroke='red'/>"
             "<svg:polygon id='b' points='100,100 200,100.5 150,200' fill='rgb(1,2,3)' fill-opacity='.7'/>"
@@ -359,7 +347,6 @@ private slots:
     void readsOtherPrograms()
     {
         QFETCH(QByteArray, document);
-        QFETCH(QStringList, types);
         putFile(path("in/content.xml"), document);
         putFile(path("in/images/a.png"), redPicture());
         LossReport losses;
@@ -376,7 +363,7 @@ private slots:
                              .trimmed());
             QVERIFY(resource.isEmpty() || QFile::exists(reader->resourceFile(resource)));
         }
-        QCOMPARE(found, types);
+        QTEST(found, "types");
         QVERIFY2(losses.lossCount() == 0, qPrintable(losses.summary()));
     }
 

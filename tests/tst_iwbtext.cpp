@@ -11,10 +11,10 @@ QStringList lines(const IwbTextInfoList &runs)
     QStringList result;
     for (const IwbTextInfo &run : runs) {
         QString text = run.text;
-        text.replace(QLatin1Char('\n'), QLatin1Char('/')).replace(QChar(0x2028), QLatin1Char('^'));
+        text.replace('\n', '/').replace(QChar(0x2028), '^');
         result << QStringList{text,     run.fontSize,  run.fontWeight, run.fontStyle, run.textDecoration,
                               run.fill, run.textAlign, run.fontFamily}
-                      .join(QLatin1Char('|'));
+                      .join('|');
     }
     return result;
 }
@@ -113,12 +113,12 @@ private slots:
     {
         const TextRuns text = textRunsFromHtml("a<img src='file:///etc/passwd'/>b"_s);
         QCOMPARE(text.losses, QStringList{"1 pictures within the text"_s});
-        QCOMPARE(text.runs.first().text, "ab"_s);
+        QCOMPARE(text.runs.first().text, "ab");
         const TextRuns plain = textRunsFromPlainText(QString::fromUtf8("a\x01"
                                                                        "b\x1f\n\xf0\x9f\x8d\x8e")
                                                      + QChar(0xd800));
         QCOMPARE(plain.losses, QStringList{"3 control characters"_s});
-        QCOMPARE(plain.runs.first().text, "ab\n"_s);
+        QCOMPARE(plain.runs.first().text, "ab\n");
         QCOMPARE(plain.runs.last().text, QString::fromUtf8("\xf0\x9f\x8d\x8e"));
     }
 
@@ -149,8 +149,8 @@ private slots:
         QCOMPARE(TextRunLoan::liveLists(), 0);
 
         auto *foreign = new IwbTextInfoList{IwbTextInfo(), IwbTextInfo()};
-        item = {{"IWB_TEXTINFO-VECTOR"_s, QString::number(quintptr(foreign))},
-                {"IWB_TEXTINFO-DELVECTOR"_s, QString::number(quintptr(&destroyAndCount))}};
+        item = {{"IWB_TEXTINFO-VECTOR", QString::number(quintptr(foreign))},
+                {"IWB_TEXTINFO-DELVECTOR", QString::number(quintptr(&destroyAndCount))}};
         QCOMPARE(takeTextRuns(item)->size(), 2);
         QCOMPARE(destroyedLists, 1);
         QVERIFY(!takeTextRuns(item));

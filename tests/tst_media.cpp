@@ -32,14 +32,13 @@ private slots:
     void keepsKeysInZqtx()
     {
         QFETCH(QString, type);
-        QFETCH(QString, txType);
         QJsonObject item = json("{'name':'n','resource':'r','loop':'1','outlinetype':'2','clipShape':'3',"
                                 "'BoundingBox':'1,2,3,4'}");
         item.insert("Type", type);
         const QDomElement media = plugin()->tranItemJSON2ZQTX({}, item);
         QCOMPARE(media.tagName(), "media");
         QCOMPARE(differences(attributesOf(media), json("{'name':'n','resource':'r','locked':'0','id':''}")), QString());
-        QCOMPARE(media.attribute("type"), txType);
+        QTEST(media.attribute("type"), "txType");
         QCOMPARE(media.firstChildElement("property").attribute("loop"), "1");
         QCOMPARE(differences(plugin()->tranItemZQTX2JSON(media, {}), item), QString());
     }
@@ -75,12 +74,11 @@ private slots:
     void exportsFiles()
     {
         QFETCH(QString, type);
-        QFETCH(QString, tag);
         QFETCH(QString, directory);
-        const QString target = m_directory->path() + QLatin1Char('/') + directory + "a.bin"_s;
+        const QString target = m_directory->path() + '/' + directory + "a.bin"_s;
         putFile(file("source/a.bin"), "new");
         const QDomElement element = exported(type, "file:///"_s + file("source/a.bin"));
-        QCOMPARE(element.tagName(), tag);
+        QTEST(element.tagName(), "tag");
         QCOMPARE(element.attribute("xlink:href"), QString(directory + "a.bin"_s));
         QCOMPARE(element.attribute("width"), "10");
         QCOMPARE(fileContent(target), QByteArray("new"));
@@ -201,7 +199,7 @@ private slots:
     }
 
 private:
-    QString file(const char *name) const { return m_directory->path() + QLatin1Char('/') + QLatin1String(name); }
+    QString file(const char *name) const { return m_directory->path() + '/' + name; }
 
     QDomElement exported(const QString &type, const QString &source) const
     {

@@ -77,11 +77,6 @@ private slots:
             "<lineColor>ll</lineColor><visiable>1</visiable><childrenVisiable>0</childrenVisiable>"
             "<nodeHtml><![CDATA[<p>a & b</p>]]></nodeHtml><link/><shade>1</shade><stamp>8</stamp><attachments>"
             "<attachment type='t' path='p' name='n'/></attachments><childNodes/></node></mapItemInfo>");
-        row("descendants in order", "[{},{},{'childNodes':[{'stamp':1,'childNodes':[{'stamp':2}]},{'stamp':3}]}]",
-            mapAround(
-                node(QString("<childNodes>"_s
-                             + node("<stamp>1</stamp><childNodes>"_s + node("<stamp>2</stamp>"_s) + "</childNodes>"_s)
-                             + node("<stamp>3</stamp>"_s) + "</childNodes>"_s))));
         row("the tree ends where a text breaks it", "[{'title':'a < b & c'},{},{}]",
             "<mapItemInfo><title>a </title></mapItemInfo>");
         row("nothing grows behind the item",
@@ -93,8 +88,10 @@ private slots:
     {
         QFETCH(QString, tree);
         QFETCH(QString, data);
-        const QJsonObject item{{"Type"_s, "ZQMindMapItem"_s}, {"mindMapData"_s, array(tree)}};
-        QCOMPARE(toText(written(item, item)), toText(mapElement(data)));
+        const QJsonObject item{{"Type", "ZQMindMapItem"}, {"mindMapData", array(tree)}};
+        const QDomElement element = written(item, item);
+        QCOMPARE(toText(element), toText(mapElement(data)));
+        QVERIFY(element.previousSibling().isNull() && element.nextSibling().isNull());
     }
 
     void readsTheTree_data()
@@ -133,8 +130,8 @@ private slots:
         const QDomElement given = mapElement("<mapItemInfo><title>old</title></mapItemInfo>"_s);
         const QJsonObject item = json("{'Type':'ZQMindMapItem','ID':'7','mindMapData':[{'title':'new'},{},{}]}");
         const QDomElement result = plugin()->tranItemJSON2ZQTX(given, item);
-        QCOMPARE(result.attribute("id"), "7"_s);
-        QCOMPARE(result.firstChildElement("data").text(), "old"_s);
+        QCOMPARE(result.attribute("id"), "7");
+        QCOMPARE(result.firstChildElement("data").text(), "old");
     }
 
     // Nothing else of the library writes a line, whatever it is given.

@@ -24,8 +24,8 @@ const double longestCall = 2;
 const qint64 mostOfMemory = qint64(264) * mebibyte;
 #endif
 
-const QJsonObject pres{{"Version"_s, "3.0"_s}};
-const QJsonObject itemContext{{"pres"_s, pres}};
+const QJsonObject pres{{"Version", "3.0"}};
+const QJsonObject itemContext{{"pres", pres}};
 
 QDomElement readExample(const QString &file)
 {
@@ -39,7 +39,7 @@ QDomElement readExample(const QString &file)
 // An attribute value that holds the text.
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + text.toHtmlEscaped() + QLatin1Char('"');
+    return '"' + text.toHtmlEscaped() + '"';
 }
 
 QString repeated(const QString &piece, int size = mebibyte)
@@ -185,7 +185,7 @@ private slots:
         inTime("raw slide written", [&] { plugin()->tranSlideJSON2ZQTX({}, json); });
         inTime("raw item", [&] { json = plugin()->tranItemXML2JSON(element, itemContext); });
         inTime("raw item in its slide", [&] {
-            plugin()->tranItemXML2JSON(xml("<ZQSmoothStroke NetID=\"1\"/>"), {{"slide"_s, json}});
+            plugin()->tranItemXML2JSON(xml("<ZQSmoothStroke NetID=\"1\"/>"), {{"slide", json}});
         });
         inTime("index", [&] { plugin()->tranPresZQTX2JSON(element, {}); });
         inTime("page", [&] { plugin()->tranSlideIWB2JSON(element, element, {}); });
@@ -206,13 +206,13 @@ private slots:
         QDomDocument document = plugin()->tranPresJSON2IWB({}, {});
         for (const QString &type : {"ZQImagePic"_s, "ZQMediaVideo"_s, "ZQMediaAudio"_s}) {
             plugin()->tranItemJSON2IWB(document,
-                                       {{"Type"_s, type},
-                                        {"AbsMediaFile"_s, file},
-                                        {"MultiMediaFile"_s, "a.png"_s},
-                                        {"InteractiveType"_s, "ACTION_OPENFILE"_s},
-                                        {"InteractiveValue"_s, file}});
+                                       {{"Type", type},
+                                        {"AbsMediaFile", file},
+                                        {"MultiMediaFile", "a.png"},
+                                        {"InteractiveType", "ACTION_OPENFILE"},
+                                        {"InteractiveValue", file}});
         }
-        plugin()->tranSlideJSON2IWB(document, {{"ID"_s, "1"_s}, {"index"_s, 1}, {"AttachFile"_s, file}});
+        plugin()->tranSlideJSON2IWB(document, {{"ID", "1"}, {"index", 1}, {"AttachFile", file}});
         plugin()->tranItemIWB2JSON(xml("<svg:image xlink:href=%1/>"_s.arg(quoted(file))), {});
         QDir::setCurrent(former);
         QVERIFY(QDir(folder.path()).isEmpty());

@@ -13,7 +13,7 @@ class TestRawRoads : public QObject
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 
-    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    QString path(const char *name) const { return m_folder->filePath(name); }
 
     QString putLesson(const QByteArray &items, const QByteArray &slide = "SlideSourceRect='0,0,1024,768'") const
     {
@@ -116,7 +116,7 @@ private slots:
         const QString report = convertedLesson(raw, path("package"), "zqtx").summary();
         convertedLesson(path("package"), path("detour"), "iwb");
         if (lost.isEmpty()) {
-            QCOMPARE(report, "Note: items: 1 had a matrix, which is worked into where they stand"_s);
+            QCOMPARE(report, "Note: items: 1 had a matrix, which is worked into where they stand");
             QCOMPARE(drawn(path("detour")), drawn(path("direct")));
         } else {
             QVERIFY2(report.contains(lost), qPrintable(report));
@@ -184,7 +184,7 @@ private:
             end = match.capturedEnd();
         }
         rounded += content.midRef(end);
-        return rounded.split(QLatin1Char('\n'));
+        return rounded.split('\n');
     }
 };
 

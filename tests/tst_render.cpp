@@ -68,7 +68,7 @@ private slots:
         QCOMPARE(runCommand({"render", path("lesson.json"), path("only.svg"), "--slides", "2"}).exitCode, 0);
         QDomDocument svg;
         QVERIFY(svg.setContent(fileContent(path("only.svg"))));
-        QCOMPARE(svg.documentElement().attribute("viewBox"), "0 0 400.00 300.00"_s);
+        QCOMPARE(svg.documentElement().attribute("viewBox"), "0 0 400.00 300.00");
 
         QCOMPARE(runCommand({"render", path("lesson.json"), path("lesson.pdf")}).exitCode, 0);
         const QByteArray pdf = fileContent(path("lesson.pdf"));

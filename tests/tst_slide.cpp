@@ -4,6 +4,22 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+namespace {
+
+QJsonObject readTags(const QString &tags)
+{
+    QDomElement slide = xml("<slide/>");
+    slide.setAttribute("SlideTagsInfo", tags);
+    return plugin()->tranSlideXML2JSON(slide, {});
+}
+
+QJsonObject triggersOf(const QString &tags)
+{
+    return QJsonDocument::fromJson(readTags(tags).value("objAnimationData").toString().toUtf8()).object();
+}
+
+} // namespace
+
 /*!
  * Presentations and slides in raw XML and ZQTX: header, background, page effects, tags, animations, scripts.
  */
@@ -17,12 +33,12 @@ private slots:
         const QDomDocument made =
             plugin()->tranPresJSON2ZQTX({}, json("{'Width':'1440','Height':1080,'Slides':[{'ID':'1'},{}]}"));
         const QDomElement root = made.documentElement();
-        QCOMPARE(root.attribute("width"), "1440"_s);
+        QCOMPARE(root.attribute("width"), "1440");
         QVERIFY(root.hasAttribute("height"));
         QCOMPARE(root.attribute("height"), QString());
         const QDomElement first = root.firstChildElement("slides").firstChildElement();
-        QCOMPARE(first.attribute("href"), "slides/1.xml"_s);
-        QCOMPARE(first.nextSiblingElement().attribute("href"), "slides/.xml"_s);
+        QCOMPARE(first.attribute("href"), "slides/1.xml");
+        QCOMPARE(first.nextSiblingElement().attribute("href"), "slides/.xml");
 
         QDomDocument given;
         given.setContent("<main><slides><file href='old'/></slides></main>"_s);
@@ -71,9 +87,7 @@ private slots:
     void readsThePageEffectOfATag_data()
     {
         const Table<QString, QString> row("tags", "effect");
-        const auto effect = [](const char *name) {
-            return "<pageEffect><type value='%1'/></pageEffect>"_s.arg(QLatin1String(name));
-        };
+        const auto effect = [](const char *name) { return "<pageEffect><type value='%1'/></pageEffect>"_s.arg(name); };
         row("known", effect("push_12_mc"), "ID_SLIDE_EFFECT_YSFG");
         row("unknown", effect("spin"), "ID_SLIDE_EFFECT_ZXFG");
         row("empty", effect(""), "");
@@ -85,9 +99,7 @@ private slots:
     {
         QFETCH(QString, tags);
         QFETCH(QString, effect);
-        QDomElement slide = xml("<slide/>");
-        slide.setAttribute("SlideTagsInfo", tags);
-        const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
+        const QJsonObject read = readTags(tags);
         QCOMPARE(read.contains("EffectType"), !effect.isNull());
         QCOMPARE(read.value("EffectType").toString(), effect);
     }
@@ -120,15 +132,10 @@ private slots:
     {
         QFETCH(QString, script);
         QFETCH(QJsonObject, expected);
-        QDomElement slide = xml("<slide/>");
-        slide.setAttribute("SlideTagsInfo",
-                           QString("<x/>|$|<interactive>"_s + script
-                                   + "</interactive><a value='late'/>|$|<interactive>"
-                                     "<activeItem value='second'/></interactive>"_s));
-        const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
-        QVERIFY(read.value("iszqt").toBool());
-        const QString text = read.value("objAnimationData").toString();
-        QJsonObject triggers = QJsonDocument::fromJson(text.toUtf8()).object();
+        const QString tags = "<x/>|$|<interactive>" + script
+            + "</interactive><a value='late'/>|$|<interactive><activeItem value='second'/></interactive>";
+        QVERIFY(readTags(tags).value("iszqt").toBool());
+        QJsonObject triggers = triggersOf(tags);
         QSet<QString> ids;
         int actions = 0;
         for (auto trigger = triggers.begin(); trigger != triggers.end(); ++trigger) {
@@ -147,40 +154,33 @@ private slots:
 
     void survivesLongAndDeepScripts()
     {
-        const auto triggers = [](const QString &script) {
-            QDomElement slide = xml("<slide/>");
-            slide.setAttribute("SlideTagsInfo", QString("<interactive>"_s + script));
-            const QJsonObject read = plugin()->tranSlideXML2JSON(slide, {});
-            return QJsonDocument::fromJson(read.value("objAnimationData").toString().toUtf8()).object();
-        };
         const QJsonObject actions =
-            triggers("<activeItem>"_s + "<a value='1'/>"_s.repeated(20000)).value("src_NO==0").toObject();
+            triggersOf("<interactive><activeItem>" + "<a value='1'/>"_s.repeated(20000)).value("src_NO==0").toObject();
         QCOMPARE(actions.size(), 20000);
         // Members stand in the order of their texts.
-        QCOMPARE(actions.keys().mid(0, 4).last(), "animation_NO==100"_s);
+        QCOMPARE(actions.keys().mid(0, 4).last(), "animation_NO==100");
         QVERIFY(actions.contains("animation_NO==19999"));
         // Too deep for a DOM: the parse stops early, within the one action.
-        const QString deep = "<activeItem>"_s + "<a>"_s.repeated(200000);
-        QCOMPARE(triggers(deep).value("src_NO==0").toObject().size(), 1);
+        const QString deep = "<interactive><activeItem>" + "<a>"_s.repeated(200000);
+        QCOMPARE(triggersOf(deep).value("src_NO==0").toObject().size(), 1);
     }
 
     void writesSlides()
     {
-        const QDomElement slide =
-            plugin()
-                ->tranSlideJSON2ZQTX({},
-                                     json("{'ID':'7','color':'#ff00ff00','document':'a.png','effect_time':'2',"
-                                          "'animations':{'animation':['1',2]},'other':'x'}"))
-                .documentElement();
+        const QDomDocument written =
+            plugin()->tranSlideJSON2ZQTX({},
+                                         json("{'ID':'7','color':'#ff00ff00','document':'a.png','effect_time':'2',"
+                                              "'animations':{'animation':['1',2]},'other':'x'}"));
+        const QDomElement slide = written.documentElement();
         QStringList tags;
         for (QDomElement child = slide.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             tags.append(child.tagName());
         }
-        QCOMPARE(tags.join(QLatin1Char(' ')), "background items effect animations"_s);
+        QCOMPARE(tags.join(' '), "background items effect animations");
         const QDomElement background = slide.firstChildElement();
-        QCOMPARE(background.firstChildElement().attribute("value"), "#ff00ff00"_s);
-        QCOMPARE(background.lastChildElement().attribute("document"), "a.png"_s);
-        QCOMPARE(slide.firstChildElement("effect").attribute("time"), "2"_s);
+        QCOMPARE(background.firstChildElement().attribute("value"), "#ff00ff00");
+        QCOMPARE(background.lastChildElement().attribute("document"), "a.png");
+        QCOMPARE(slide.firstChildElement("effect").attribute("time"), "2");
         const QJsonObject read = plugin()->tranSlideZQTX2JSON(slide, {});
         QCOMPARE(read.value("animations").toObject(), json("{'animation':['1','']}"));
         QVERIFY(!plugin()->tranSlideZQTX2JSON(xml("<slide/>"), {}).contains("animations"));

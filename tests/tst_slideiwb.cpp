@@ -1,19 +1,10 @@
 #include "pluginfixture.h"
 
 #include <QDir>
-#include <QFile>
-#include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
-
-int messages = 0;
-
-void countMessage(QtMsgType, const QMessageLogContext &, const QString &)
-{
-    ++messages;
-}
 
 QDomDocument iwbRoot()
 {
@@ -29,7 +20,14 @@ class TestSlideIwb : public QObject
 {
     Q_OBJECT
 
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
 private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
     void writesTheRoot_data()
     {
         const Table<QJsonObject, QString> row("presentation", "attributes");
@@ -66,12 +64,7 @@ private slots:
 
     void writesColours_data()
     {
-        QTest::addColumn<QString>("color");
-        QTest::addColumn<QString>("fill");
-        QTest::addColumn<QString>("opacity");
-        const auto row = [](const char *color, const char *fill, const char *opacity) {
-            QTest::newRow(color) << color << fill << opacity;
-        };
+        const Table<QString, QString> row("fill", "opacity");
         row("#ff8000", "rgb(255,128,0)", "1");
         // 0x80 of 0xff is 0.50196078...
         row("#80ff8000", "rgb(255,128,0)", "0.501961");
@@ -81,12 +74,11 @@ private slots:
     }
     void writesColours()
     {
-        QFETCH(QString, color);
         QFETCH(QString, fill);
         QFETCH(QString, opacity);
         QDomDocument root = iwbRoot();
         QJsonObject slide = json("{'index':3,'ID':'s','x':'0','y':'1','Width':'1440','Height':'1080','AttachFile':''}");
-        slide.insert("BackColor", color);
+        slide.insert("BackColor", QTest::currentDataTag());
         const QDomElement page = plugin()->tranSlideJSON2IWB(root, slide);
         const QString expected = "<svg:page id='page3'><svg:rect id='s_rect' x='0' y='1' width='1440' "
                                  "height='1080' fill='%1' fill-opacity='%2'/></svg:page>"_s;
@@ -98,11 +90,7 @@ private slots:
 
     void readsColours_data()
     {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<QString>("color");
-        const auto row = [](const char *attributes, const char *color) {
-            QTest::newRow(attributes) << attributes << color;
-        };
+        const Table<QString> row("color");
         row("fill='rgb(255,128,0)' fill-opacity='1'", "#ff8000");
         row("fill='rgb( 1, 2,3 )' fill-opacity='0.5'", "#010203");
         row("fill='rgb(1,2)'", "#010200");
@@ -114,10 +102,9 @@ private slots:
     }
     void readsColours()
     {
-        QFETCH(QString, attributes);
         QFETCH(QString, color);
         const QDomElement page =
-            xml("<svg:page><g><svg:rect %1/><svg:rect fill='x'/></g></svg:page>"_s.arg(attributes));
+            xml("<svg:page><g><svg:rect %1/><svg:rect fill='x'/></g></svg:page>"_s.arg(QTest::currentDataTag()));
         const QDomElement rectangle = page.firstChildElement().firstChildElement();
         for (const QDomElement &given : {page, rectangle}) {
             const QJsonObject slide = plugin()->tranSlideIWB2JSON({}, given, json("{'ID':'old','path':'/p/'}"));
@@ -126,34 +113,27 @@ private slots:
             QVERIFY(slide.value("ID").toString().toLongLong() > 0);
             QCOMPARE(slide.size(), 4);
         }
-        QCOMPARE(rectangle.attribute("isloaded"), "1"_s);
+        QCOMPARE(rectangle.attribute("isloaded"), "1");
     }
 
     void movesThePicture()
     {
-        QTemporaryDir directory;
-        const QDir root(directory.path());
-        QVERIFY(root.mkpath("lesson/filelibrary") && root.mkpath("lesson.iwb"));
-        QImage picture(7, 5, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        QVERIFY(picture.save(root.filePath("lesson/filelibrary/a.png")));
-
+        putFile(path("lesson/filelibrary/a.png"), redPicture());
+        QDir(m_folder->path()).mkdir("lesson.iwb");
         QDomDocument document = iwbRoot();
-        QJsonObject slide = json("{'index':1,'ID':'s','AttachFile':'a.png'}");
-        slide.insert("filePath", root.filePath("lesson.iwb"));
-        const QDomElement page = plugin()->tranSlideJSON2IWB(document, slide);
+        const QDomElement page = plugin()->tranSlideJSON2IWB(
+            document, {{"index", 1}, {"ID", "s"}, {"AttachFile", "a.png"}, {"filePath", path("lesson.iwb")}});
         QCOMPARE(toText(page.lastChildElement()),
-                 toText(xml("<svg:image id='s_bgd' xlink:href='images/s_bgd.png' x='0' y='0' width='7' "
-                            "height='5' background-posture='stretched-to-fill'/>"_s)));
-        QVERIFY(QFile::exists(root.filePath("lesson.iwb/images/s_bgd.png")));
+                 toText(xml("<svg:image id='s_bgd' xlink:href='images/s_bgd.png' x='0' y='0' width='4' height='3' "
+                            "background-posture='stretched-to-fill'/>")));
+        QCOMPARE(fileContent(path("lesson.iwb/images/s_bgd.png")), redPicture());
 
         // The library that the picture comes back to lies beside the package.
-        QVERIFY(root.mkpath("filelibrary"));
-        const QJsonObject package{{"path"_s, root.filePath("lesson.iwb/")}};
-        const QJsonObject read = plugin()->tranSlideIWB2JSON(document.documentElement(), page, package);
-        const QString name = read.value("AttachFile").toString();
-        QCOMPARE(QImage(root.filePath("filelibrary/" + name)).size(), QSize(7, 5));
-        QCOMPARE(page.lastChildElement().attribute("isloaded"), "1"_s);
+        QDir(m_folder->path()).mkdir("filelibrary");
+        const QJsonObject read =
+            plugin()->tranSlideIWB2JSON(document.documentElement(), page, {{"path", path("lesson.iwb/")}});
+        QCOMPARE(fileContent(path("filelibrary/" + read.value("AttachFile").toString())), redPicture());
+        QCOMPARE(page.lastChildElement().attribute("isloaded"), "1");
     }
 
     void measuresWhatIsNoPictureAsNothing_data()
@@ -168,20 +148,16 @@ private slots:
     {
         QFETCH(QString, id);
         QFETCH(QString, file);
-        QTemporaryDir directory;
-        const QDir root(directory.path());
-        QVERIFY(root.mkpath("lesson/filelibrary") && root.mkpath("lesson.iwb"));
-        for (const char *name : {"text.png", "a.png"}) {
-            QFile text(root.filePath("lesson/filelibrary/" + QLatin1String(name)));
-            QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no picture") > 0);
-        }
+        putFile(path("lesson/filelibrary/text.png"), "no picture");
+        putFile(path("lesson/filelibrary/a.png"), "no picture");
+        const QDir root(m_folder->path());
+        root.mkdir("lesson.iwb");
         QDomDocument document = iwbRoot();
-        const QDomElement page = plugin()->tranSlideJSON2IWB(
-            document, {{"ID"_s, id}, {"AttachFile"_s, file}, {"filePath"_s, root.filePath("lesson.iwb")}});
-        const QDomElement image = page.lastChildElement();
-        QCOMPARE(image.attribute("xlink:href"), QString("images/"_s + id + "_bgd.png"_s));
-        QCOMPARE(image.attribute("width"), "0"_s);
-        QCOMPARE(image.attribute("height"), "0"_s);
+        const QDomElement page =
+            plugin()->tranSlideJSON2IWB(document, {{"ID", id}, {"AttachFile", file}, {"filePath", path("lesson.iwb")}});
+        QJsonObject expected = json("{'width':'0','height':'0'}");
+        expected.insert("xlink:href", "images/%1_bgd.png"_s.arg(id));
+        QCOMPARE(differences(attributesOf(page.lastChildElement()), expected), QString());
         QCOMPARE(root.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 2);
     }
 
@@ -204,79 +180,63 @@ private slots:
         QFETCH(QString, rectangle);
         QFETCH(QString, image);
         QFETCH(bool, isTaken);
-        QTemporaryDir directory;
-        const QDir root(directory.path());
-        QVERIFY(root.mkpath("p") && root.mkpath("filelibrary"));
-        QFile file(root.filePath("p/a.png"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.close();
+        putFile(path("p/a.png"), {});
+        QDir(m_folder->path()).mkdir("filelibrary");
         const QDomElement iwb = xml("<iwb>%1</iwb>"_s.arg(records));
         const QDomElement page = xml(
             "<svg:page><svg:rect id='%1'/><svg:image id='%2' xlink:href='a.png'/></svg:page>"_s.arg(rectangle, image));
-        const QJsonObject slide = plugin()->tranSlideIWB2JSON(iwb, page, {{"path"_s, root.filePath("p/")}});
+        const QJsonObject slide = plugin()->tranSlideIWB2JSON(iwb, page, {{"path", path("p/")}});
         QCOMPARE(slide.contains("AttachFile"), isTaken);
-        QCOMPARE(QDir(root.filePath("filelibrary")).entryList(QDir::Files).size(), isTaken ? 1 : 0);
+        QCOMPARE(filesBelow(path("filelibrary")).size(), isTaken ? 1 : 0);
     }
 
     void writesLinks_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("href");
-        const auto row = [](const char *kind, const char *value, const char *href) {
-            QTest::addRow("%s %s", kind, value) << kind << value << href;
-        };
-        row("ACTION_OPENWEB", "a.example", "http://a.example");
-        row("ACTION_OPENWEB", "go?to=https://a.example", "go?to=https://a.example");
-        row("ACTION_TOOLTIP", "hint", "txt://hint");
-        row("ACTION_GOTOSLIDE", "12", "#page12");
-        row("ACTION_OPENTOOL", "clock", "tool://clock");
-        row("ACTION_DANCE", "x", "");
-        row("ACTION_OPENFILE", "DIR/a.txt", "additional/a.txt");
-        row("ACTION_OPENFILE", "DIR/missing.txt", "");
-        row("ACTION_OPENFILE", "DIR", "");
+        const Table<QString, QString> row("kind", "href");
+        row("a.example", "ACTION_OPENWEB", "http://a.example");
+        row("go?to=https://a.example", "ACTION_OPENWEB", "go?to=https://a.example");
+        row("hint", "ACTION_TOOLTIP", "txt://hint");
+        row("12", "ACTION_GOTOSLIDE", "#page12");
+        row("clock", "ACTION_OPENTOOL", "tool://clock");
+        row("x", "ACTION_DANCE", "");
+        row("DIR/a.txt", "ACTION_OPENFILE", "additional/a.txt");
+        row("DIR/missing.txt", "ACTION_OPENFILE", "");
+        row("DIR", "ACTION_OPENFILE", "");
     }
     void writesLinks()
     {
         QFETCH(QString, kind);
-        QFETCH(QString, value);
         QFETCH(QString, href);
-        QTemporaryDir directory;
-        const QDir root(directory.path());
-        QVERIFY(root.mkpath("export"));
-        QFile file(root.filePath("a.txt"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("text") == 4);
-        file.close();
+        putFile(path("a.txt"), "text");
+        QDir(m_folder->path()).mkdir("export");
         QDomDocument document = iwbRoot();
         // Ink has no svg form of its own: the link around it is empty.
-        const QDomElement link =
-            plugin()->tranItemJSON2IWB(document,
-                                       {{"Type"_s, "ZQSmoothStroke"_s},
-                                        {"ID"_s, "5"_s},
-                                        {"tmpFilePath"_s, root.filePath("export")},
-                                        {"InteractiveType"_s, kind},
-                                        {"InteractiveValue"_s, value.replace("DIR"_s, directory.path())}});
+        const QString value = QString(QTest::currentDataTag()).replace("DIR", m_folder->path());
+        const QDomElement link = plugin()->tranItemJSON2IWB(document,
+                                                            {{"Type", "ZQSmoothStroke"},
+                                                             {"ID", "5"},
+                                                             {"tmpFilePath", path("export")},
+                                                             {"InteractiveType", kind},
+                                                             {"InteractiveValue", value}});
         QCOMPARE(toText(link), toText(xml("<svg:a id='5_link' xlink:href='%1'/>"_s.arg(href))));
-        QCOMPARE(toText(document.documentElement().lastChildElement()),
-                 "<iwb:link file=\"internal\" ref=\"5_link\"/>"_s);
-        const bool isCopied = href.startsWith("additional/");
-        QCOMPARE(QFile::exists(root.filePath("export/additional/a.txt")), isCopied);
+        QCOMPARE(toText(document.documentElement().lastChildElement()), "<iwb:link file=\"internal\" ref=\"5_link\"/>");
+        QCOMPARE(QFile::exists(path("export/additional/a.txt")), href.startsWith("additional/"));
     }
 
     void keepsQuiet()
     {
-        messages = 0;
-        const auto former = qInstallMessageHandler(countMessage);
-        QDomDocument noRoot;
-        plugin()->tranSlideJSON2IWB(noRoot, json("{'BackColor':'#12','AttachFile':'a.png'}"));
-        plugin()->tranSlideIWB2JSON({}, {}, {});
-        plugin()->tranSlideIWB2JSON({}, xml("<svg:rect fill='rgb(999,-1,x)' fill-opacity='7e9'/>"), {});
-        QDomDocument empty("slide"_s);
-        plugin()->tranSlideJSON2ZQTX(empty, json("{'animations':{'animation':['1']},'activity':{'templet':{'<':''}}}"));
-        plugin()->tranPresJSON2ZQTX(empty, json("{'Slides':[{'ID':'1'}]}"));
-        plugin()->tranPresJSON2IWB(empty, json("{'Width':'1','Height':'2'}"));
-        qInstallMessageHandler(former);
-        QCOMPARE(messages, 0);
+        const auto calls = [] {
+            QDomDocument noRoot;
+            plugin()->tranSlideJSON2IWB(noRoot, json("{'BackColor':'#12','AttachFile':'a.png'}"));
+            plugin()->tranSlideIWB2JSON({}, {}, {});
+            plugin()->tranSlideIWB2JSON({}, xml("<svg:rect fill='rgb(999,-1,x)' fill-opacity='7e9'/>"), {});
+            QDomDocument empty("slide");
+            plugin()->tranSlideJSON2ZQTX(empty,
+                                         json("{'animations':{'animation':['1']},'activity':{'templet':{'<':''}}}"));
+            plugin()->tranPresJSON2ZQTX(empty, json("{'Slides':[{'ID':'1'}]}"));
+            plugin()->tranPresJSON2IWB(empty, json("{'Width':'1','Height':'2'}"));
+        };
+        QCOMPARE(messagesOf(calls), 0);
     }
 };
 

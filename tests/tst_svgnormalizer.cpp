@@ -14,16 +14,6 @@ const char *const head = "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xml
 const char *const foot = "</svg:svg></iwb>";
 const char *const nativeHead = "<iwb version='1.0'><svg:svg version='tesselmark' width='800' height='600'>";
 
-QDomDocument parsed(const QString &text)
-{
-    QDomDocument document;
-    QString error;
-    if (!document.setContent(text, false, &error)) {
-        qFatal("%s in %s", qPrintable(error), qPrintable(text));
-    }
-    return document;
-}
-
 // "rect x=1 y=2 ..." with attributes in ascending order, those of paint after a bar.
 QString describe(const IwbElement &item)
 {
@@ -37,22 +27,21 @@ QString describe(const IwbElement &item)
     }
     QString text = item.element.tagName().mid(4);
     for (auto it = place.constBegin(); it != place.constEnd(); ++it) {
-        text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
+        text += ' ' + it.key() + '=' + it.value();
     }
     if (item.angle != 0) {
         text += " turned %1"_s.arg(item.angle * 180 / M_PI, 0, 'g', 6);
     }
     text += " |"_s;
     for (auto it = paint.constBegin(); it != paint.constEnd(); ++it) {
-        text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
+        text += ' ' + it.key() + '=' + it.value();
     }
     return text;
 }
 
 IwbPage firstPage(const QString &content, const char *start = head)
 {
-    const QDomDocument document = parsed(QLatin1String(start) + content + QLatin1String(foot));
-    return SvgNormalizer(document.documentElement()).page(0);
+    return SvgNormalizer(xml(start + content + foot)).page(0);
 }
 
 } // namespace
@@ -119,10 +108,9 @@ private slots:
     void shapes()
     {
         QFETCH(QString, svg);
-        QFETCH(QString, expected);
         const IwbPage page = firstPage(svg);
         QCOMPARE(page.items.size(), 1);
-        QCOMPARE(describe(page.items.first()), expected);
+        QTEST(describe(page.items.first()), "expected");
     }
 
     void nativeConventions()
@@ -143,53 +131,25 @@ private slots:
                  "polyline points=0,0,10,0,10,10 | stroke=rgb(4,5,6) stroke-width=2"_s);
     }
 
-    void prefixesDoNotMatter_data()
-    {
-        const Table<QString> row("document");
-        row("svg without a prefix",
-            "<iwb:iwb xmlns:iwb='http://www.becta.org.uk/iwb'><svg xmlns='http://www.w3.org/2000/svg' viewbox='0 0 "
-            "9 9'>"
-            "<page id='p'><rect width='1' height='1'/></page></svg><iwb:element ref='x' locked='true'/></iwb:iwb>");
-        row("another prefix, no page",
-            "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0' xmlns:s='http://www.w3.org/2000/svg'>"
-            "<s:svg width='9px' height='9px'><s:rect width='1' height='1'/></s:svg></iwb>");
-        row("a svg document alone",
-            "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><g><rect width='1' height='1'/></g></svg>");
-    }
-
-    void prefixesDoNotMatter()
-    {
-        QFETCH(QString, document);
-        const QDomDocument content = parsed(document);
-        const SvgNormalizer normalizer(content.documentElement());
-        QCOMPARE(normalizer.pageCount(), 1);
-        QDomDocument size;
-        QCOMPARE(normalizer.sizeElement(size).attribute("width"), "9"_s);
-        const IwbPage page = normalizer.page(0);
-        QCOMPARE(page.items.size(), 1);
-        QCOMPARE(page.items.first().element.tagName(), "svg:rect"_s);
-    }
-
     void backgroundsAreFoundByTheirRecords()
     {
-        const QDomDocument document =
-            parsed(QLatin1String(head)
-                   + "<svg:page><svg:rect id='r' width='5' height='5' fill='red'/>"
-                     "<svg:rect id='b' width='800' height='600' fill='blue'/><svg:image id='i' xlink:href='b.png'/>"
-                     "</svg:page><svg:page><svg:rect id='r2' width='5' height='5' fill='red'/></svg:page></svg:svg>"
-                     "<element ref='b' background='true'/><element ref='i' background='true'/>"
-                     "<element ref='r' locked='true'/></iwb>"_s);
-        const SvgNormalizer normalizer(document.documentElement());
+        const SvgNormalizer normalizer(
+            xml(QLatin1String(head)
+                + "<svg:page><svg:rect id='r' width='5' height='5' fill='red'/>"
+                  "<svg:rect id='b' width='800' height='600' fill='blue'/><svg:image id='i' xlink:href='b.png'/>"
+                  "</svg:page><svg:page><svg:rect id='r2' width='5' height='5' fill='red'/></svg:page></svg:svg>"
+                  "<element ref='b' background='true'/><element ref='i' background='true'/>"
+                  "<element ref='r' locked='true'/></iwb>"));
         const IwbPage first = normalizer.page(0);
         const QDomElement rect = first.page.firstChildElement("svg:rect");
-        QCOMPARE(rect.attribute("fill"), "rgb(0,0,255)"_s);
-        QCOMPARE(first.backgroundReference, "b.png"_s);
+        QCOMPARE(rect.attribute("fill"), "rgb(0,0,255)");
+        QCOMPARE(first.backgroundReference, "b.png");
         QCOMPARE(first.items.size(), 1);
         QVERIFY(first.items.first().isLocked);
         // Without a record a rectangle is an item, and the page is white.
         const IwbPage second = normalizer.page(1);
         QCOMPARE(second.items.size(), 1);
-        QCOMPARE(second.page.firstChildElement().attribute("fill"), "rgb(255,255,255)"_s);
+        QCOMPARE(second.page.firstChildElement().attribute("fill"), "rgb(255,255,255)");
     }
 
     void textBecomesSpans()
@@ -200,8 +160,8 @@ private slots:
         const QDomElement area = page.items.first().element;
         QStringList spans;
         for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-            spans << span.text() + QLatin1Char('|') + span.attribute("font-weight") + QLatin1Char('|')
-                    + span.attribute("font-style") + QLatin1Char('|') + span.attribute("text-align");
+            spans << span.text() + '|' + span.attribute("font-weight") + '|' + span.attribute("font-style") + '|'
+                    + span.attribute("text-align");
         }
         QCOMPARE(
             spans,
@@ -239,18 +199,8 @@ private slots:
         const IwbPage page = firstPage(svg);
         QVERIFY(!page.remarks.isEmpty());
         const SvgRemark &first = page.remarks.first();
-        const QString text = first.tag + QLatin1Char(' ') + first.id + ": "_s + first.text;
+        const QString text = first.tag + ' ' + first.id + ": "_s + first.text;
         QVERIFY2(text.startsWith(remark), qPrintable(text));
-    }
-
-    void slantedEllipsesKeepTheirAxes()
-    {
-        // The image of the unit circle under x' = x + y, y' = y has the half axes (1 + sqrt 5)/2 and (sqrt 5 - 1)/2.
-        const ScaleAndTurn axes = ellipseUnder(QTransform(1, 0, 1, 1, 0, 0), 1, 1);
-        QCOMPARE(axes.scaleX, (std::sqrt(5.0) + 1) / 2);
-        QCOMPARE(axes.scaleY, (std::sqrt(5.0) - 1) / 2);
-        // The long axis lies where tan(2a) = 2 * (1 * 1) / (1 + 1 - 1) = 2.
-        QVERIFY(qAbs(std::tan(2 * axes.angle) - 2) < 1e-9);
     }
 };
 
