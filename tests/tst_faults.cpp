@@ -53,9 +53,8 @@ QByteArray lessonText(const char *mark, int slides)
     QByteArray text = "{\"Title\": \"" + QByteArray(mark) + "\", \"Slides\": [";
     for (int i = 0; i < slides; ++i) {
         text += (i ? ", " : "") + QByteArray("{\"ID\": \"") + mark + QByteArray::number(i)
-            + "\", \"Items\": [{\"Type\": \"ZQImagePic\", \"ID\": \"7\", \"BoundingBox\": \"1,2,3,4\", "
-              "\"Matrix\": \"1,0,0,1,0,0\", \"resource\": \"images/a.png\", "
-              "\"MultiMediaFile\": \"images/a.png\"}]}";
+            + "\", \"Items\": [{\"Type\": \"ZQImagePic\", \"ID\": \"7\", \"BoundingBox\": \"1,2,3,4\", \"Matrix\": "
+              "\"1,0,0,1,0,0\", \"resource\": \"images/a.png\", \"MultiMediaFile\": \"images/a.png\"}]}";
     }
     return text + "], \"Resources\": {\"images/a.png\": \"" + picture.data().toBase64() + "\"}}";
 }

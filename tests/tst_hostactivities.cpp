@@ -150,9 +150,7 @@ private slots:
         row("two backgrounds", "{'background':'a.png','templet':{'background':'b.png'}}", {"activity.background"});
         row("one background beside its place", "{'background':'/i/Canvas/a.png','templet':{'index':'1'}}", {});
         row("numbers and flags",
-            "{'type':'Judgment','countdown':5,'templet':{'index':2},"
-            "'matchs':[{'question':7,'answer':true}]}",
-            {});
+            "{'type':'Judgment','countdown':5,'templet':{'index':2},'matchs':[{'question':7,'answer':true}]}", {});
     }
 
     void lossesAreNamed()

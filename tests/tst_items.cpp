@@ -90,9 +90,8 @@ private slots:
     void takesLinksFromTheTagsOfTheSlide()
     {
         const char *tags =
-            "<a/>|$|<interactive><x value='1'><interactiveType value='ACTION_TOOLTIP'/></x>"
-            "<x value='1'><s><interactiveType value='ACTION_OPENWEB'/><reservation value='http://a.b'/></s></x>"
-            "</interactive>";
+            "<a/>|$|<interactive><x value='1'><interactiveType value='ACTION_TOOLTIP'/></x><x value='1'><s>"
+            "<interactiveType value='ACTION_OPENWEB'/><reservation value='http://a.b'/></s></x></interactive>";
         const auto read = [tags](const char *id) {
             const QString text = "<ZQSmoothStroke NetID='%1'/>"_s.arg(id);
             return plugin()->tranItemXML2JSON(xml(text), context("0,0,1024,768", tags));
@@ -105,25 +104,19 @@ private slots:
     void readsZqtx_data()
     {
         const Table<QString, QJsonObject> row("element", "expected");
-        row("defaults", "<stroke type='Curve'/>",
-            "{'Color':'#ffff0000',"
-            "'Width':'5.0'}");
+        row("defaults", "<stroke type='Curve'/>", "{'Color':'#ffff0000','Width':'5.0'}");
         row("opacity goes into the colour", "<stroke type='Curve' color='#ff102030' opacity='128' width='[ ,]3'/>",
-            "{'Color':'#80102030','Width':'3'"
-            "}");
+            "{'Color':'#80102030','Width':'3'}");
         row("children of a tag answer by whether they have content",
             "<stroke type='Curve'><data/><property stroke_type='2'/><data><rect points='1,2,3,4'/></data>"
             "<properties><property name='link_type' value='ACTION_OPENWEB'/><property name='link_value'/></properties>"
             "</stroke>",
-            "{'Color':'#ffff0000',"
-            "'Width':'5.0','DashStyle':'2','BoundingBox':'1,2,3,4','InteractiveType':'ACTION_OPENWEB',"
-            "'InteractiveValue':''}");
+            "{'Color':'#ffff0000','Width':'5.0','DashStyle':'2','BoundingBox':'1,2,3,4',"
+            "'InteractiveType':'ACTION_OPENWEB','InteractiveValue':''}");
         row("one href fills texture and stamp", "<stroke type='Stamp'><element href='a.png'/></stroke>",
-            "{'Color':'#ffff0000',"
-            "'Width':'5.0','DrawTexture':'a.png','Stamp':'a.png'}");
+            "{'Color':'#ffff0000','Width':'5.0','DrawTexture':'a.png','Stamp':'a.png'}");
         row("animations", "<stroke type='Curve'><animations><appearance type='fade'/></animations></stroke>",
-            "{'Color':'#ffff0000',"
-            "'Width':'5.0','animations':{'appearance':{'type':'fade'}}}");
+            "{'Color':'#ffff0000','Width':'5.0','animations':{'appearance':{'type':'fade'}}}");
         row("unknown type", "<stroke type='Crayon'/>", "{}");
     }
     void readsZqtx()

@@ -80,10 +80,8 @@ private slots:
             "transform='translate(0 20) skewY(5)'/>");
         row("paths of straight lines",
             "<svg:path d='M20 20h100v60l-50 40H20z' fill='orange' stroke='black' stroke-width='3' "
-            "stroke-linejoin='round' stroke-linecap='round'/>"
-            "<svg:path d='m200,30 80,0 0,80 -80,0zM220 150L300 150 260 220' fill='none' stroke='red' "
-            "stroke-linejoin='round' stroke-linecap='round' "
-            "stroke-width='4'/>"
+            "stroke-linejoin='round' stroke-linecap='round'/><svg:path d='m200,30 80,0 0,80 -80,0zM220 150L300 150 "
+            "260 220' fill='none' stroke='red' stroke-linejoin='round' stroke-linecap='round' stroke-width='4'/>"
             "<svg:path d='M30 200 L130 200' stroke='blue' stroke-width='8' stroke-linecap='round'/>");
         row("translucent",
             "<svg:rect x='20' y='20' width='200' height='150' fill='red'/>"

@@ -49,9 +49,8 @@ private slots:
         row("nothing at all", "", list("|28|normal|normal|none|#000000|start|Arial"));
         // 12 points are 12 * 96 / 72 = 16 pixels.
         row("points and names",
-            "<p align=center><span style=\"font-family:'Times New Roman'; "
-            "font-size:12pt; color:red; font-weight:600; "
-            "font-style:italic; text-decoration:underline\">a</span>b</p>",
+            "<p align=center><span style=\"font-family:'Times New Roman'; font-size:12pt; color:red; "
+            "font-weight:600; font-style:italic; text-decoration:underline\">a</span>b</p>",
             list("a|16|bold|italic|underline|#ff0000|center|Times New Roman ;; "
                  "b|28|normal|normal|none|#000000|center|Arial"));
         row("paragraphs and a line",

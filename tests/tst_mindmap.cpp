@@ -107,13 +107,11 @@ private slots:
             "<node><width>1.5</width></node></mapItemInfo>",
             "[{'title':'T','style':2,'borderColor':'b'},{'style':4},{'width':0}]");
         row("values of a node",
-            "<mapItemInfo><node><pos>1,2</pos><visiable>1</visiable><shade>1</shade><stamp>7</stamp>"
-            "<nodeHtml><![CDATA[<p>&]]></nodeHtml><attachments><attachment path='p' x='y'/></attachments>"
-            "<childNodes><node><shade>2</shade><childNodes/></node><node><link>l</link></node></childNodes>"
-            "</node></mapItemInfo>",
-            "[{},{},{'pos':'1,2','visiable':'1','shade':true,'stamp':7,'nodeHtml':'<p>&',"
-            "'attachments':[{'type':'','name':'','path':'p'}],"
-            "'childNodes':[{'shade':false,'childNodes':[]},{'link':'l'}]}]");
+            "<mapItemInfo><node><pos>1,2</pos><visiable>1</visiable><shade>1</shade><stamp>7</stamp><nodeHtml>"
+            "<![CDATA[<p>&]]></nodeHtml><attachments><attachment path='p' x='y'/></attachments><childNodes><node>"
+            "<shade>2</shade><childNodes/></node><node><link>l</link></node></childNodes></node></mapItemInfo>",
+            "[{},{},{'pos':'1,2','visiable':'1','shade':true,'stamp':7,'nodeHtml':'<p>&','attachments':[{'type':'',"
+            "'name':'','path':'p'}],'childNodes':[{'shade':false,'childNodes':[]},{'link':'l'}]}]");
     }
 
     void readsTheTree()

@@ -32,8 +32,7 @@ private slots:
     {
         const Table<QJsonObject, QString> row("presentation", "attributes");
         row("both sizes", "{'ID':'7','Width':'1440','Height':'1080','Visible':true,'Author':'a'}",
-            "id='7' width='1440' height='1080' visible='1' "
-            "viewbox='0 0 1440 1080'");
+            "id='7' width='1440' height='1080' visible='1' viewbox='0 0 1440 1080'");
         row("one size", "{'Width':'1440','Visible':'1'}", "width='1440' visible='0'");
     }
     void writesTheRoot()

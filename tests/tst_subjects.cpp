@@ -91,8 +91,7 @@ private slots:
             "{'Control': [1.5, 0]}");
         row("half a control point", R"(<ZQPhysicsLaBa Discipline_xControl0="1"/>)", "{}");
         row("control points in single precision",
-            R"(<ZQPhysicsLaBa Discipline_xControl0="0.1" )"
-            R"(Discipline_yControl0="16777217"/>)",
+            "<ZQPhysicsLaBa Discipline_xControl0='0.1' Discipline_yControl0='16777217'/>",
             "{'Control': [0.10000000149011612, 16777216]}");
         row("a colour element before an attribute, alpha and channels left out",
             R"(<ZQPhysicsLaBa ArtObj_Color="51,1,2,3" LineColor="51,1,2,3"><x><ArtObj_Color r="255"/></x></ZQPhysicsLaBa>)",

@@ -22,9 +22,8 @@ private slots:
             "<generalTool type='General:curtain'><data><property rect='0,0,9,9' picture='p.png'/><rect points=''/>"
             "</data></generalTool>");
         row("only the ruler has a length", "{'Type':'Math:ruler','Length':'300'}",
-            "<generalTool type='Math:ruler'><data>"
-            "<element Length='300' RotateAngle='' Translate_X='' Translate_Y=''/><rect points=''/></data>"
-            "</generalTool>");
+            "<generalTool type='Math:ruler'><data><element Length='300' RotateAngle='' Translate_X='' "
+            "Translate_Y=''/><rect points=''/></data></generalTool>");
         row("a polygon keeps its control points",
             "{'Type':'ZQBasicTriangleItem','Control':'0,0,1,1','LineColor':'#ff0000'}",
             "<basicgraph type='ZQBasicTriangleItem'><TURN/><data><rect points='' controlpoints='0,0,1,1'/>"
