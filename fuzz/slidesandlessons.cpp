@@ -48,7 +48,7 @@ void read(const QDomElement &element)
 
 void tryInput(const QByteArray &input)
 {
-    if (input.startsWith('{') {
+    if (input.startsWith('{')) {
         writeAndReadBack(objectOf(input));
         return;
     }

@@ -124,7 +124,7 @@ private slots:
         convertedLesson(EXAMPLES_DIR "/geometry", path("out"), "iwb");
         const QDomElement written = contentOf(path("out"));
         int count = 0;
-        for (const QString &slide : {"figures", "triangles"}) {
+        for (const QString &slide : {"figures"_s, "triangles"_s}) {
             const QDomElement items =
                 xml(fileContent(EXAMPLES_DIR "/geometry/slides/" + slide + ".xml")).firstChildElement("items");
             for (QDomElement item = items.firstChildElement(); !item.isNull(); item = item.nextSiblingElement()) {
