@@ -219,7 +219,7 @@ std::optional<QMatrix> unrotatedMatrix(const QJsonObject &json)
         return std::nullopt;
     }
     const QPointF center = matrix->mapRect(*box).center();
-    const float degrees = degreesOf(textOf(json, "Angle").toFloat());
+    const float degrees = degreesOf(toSingle(textOf(json, "Angle")));
     return rotationAbout(degrees, center).inverted() * *matrix;
 }
 

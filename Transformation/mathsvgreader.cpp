@@ -39,7 +39,7 @@ void readDash(const QDomElement &element, const char *key, QJsonObject &json)
 
 float floatAttribute(const QDomElement &element, const char *name)
 {
-    return element.attribute(QLatin1String(name)).toFloat();
+    return toSingle(element.attribute(QLatin1String(name)));
 }
 
 // The sum of two attributes in single precision, as a number text.
@@ -74,8 +74,8 @@ QMatrix matrixFromSvgRect(const QDomElement &element, QJsonObject &json)
     rotation.remove(QLatin1String("rotate")).remove(QLatin1Char('(')).remove(QLatin1Char(')'));
     const QStringList parts = rotation.split(QLatin1Char(','));
     if (parts.size() == 3) {
-        const QPointF center(qreal(parts.at(1).toFloat()), qreal(parts.at(2).toFloat()));
-        matrix = matrix * rotationAbout(degreesOf(parts.at(0).toFloat()), center);
+        const QPointF center(qreal(toSingle(parts.at(1))), qreal(toSingle(parts.at(2))));
+        matrix = matrix * rotationAbout(degreesOf(toSingle(parts.at(0))), center);
     }
     json.insert(QLatin1String("Matrix"), matrixToText(matrix));
     return matrix;

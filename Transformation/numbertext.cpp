@@ -1,6 +1,7 @@
 #include "numbertext.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 
 namespace {
@@ -15,20 +16,76 @@ template <std::size_t N> QString joined(const std::array<double, N> &numbers)
         if (!text.isEmpty()) {
             text += separator;
         }
-        text += numberText(number);
+        appendNumber(text, number);
     }
     return text;
+}
+
+// A number halfway between two texts is rounded away from zero by Qt, and to the even one by the standard library. Only
+// multiples of 1/1024 can lie there; just beyond them, both agree.
+double withoutTie(double value)
+{
+    const double multiple = value * 1024;
+    return multiple == std::trunc(multiple) ? std::nextafter(value, std::copysign(1e6, value)) : value;
+}
+
+// Plain decimal numbers, all but a few, in a fraction of the time that Qt takes. They have no exponent and are too
+// short to leave the range of single precision.
+std::optional<double> plainNumber(QStringView text)
+{
+    std::array<char, 24> latin1{};
+    const auto length = std::size_t(text.size());
+    if (length > latin1.size()) {
+        return std::nullopt;
+    }
+    for (std::size_t i = 0; i < length; ++i) {
+        const ushort c = text.at(qsizetype(i)).unicode();
+        if ((c < '0' || c > '9') && c != '.' && c != '-') {
+            return std::nullopt;
+        }
+        latin1[i] = char(c);
+    }
+    double number = 0;
+    const char *end = latin1.data() + length;
+    const auto result = std::from_chars(latin1.data(), end, number);
+    return result.ec == std::errc() && result.ptr == end ? std::make_optional(number) : std::nullopt;
 }
 
 } // namespace
 
 QString numberText(double value)
 {
-    // Most numbers are whole, and whole numbers of up to six digits read the same as integers, only faster.
-    if (std::fabs(value) < 1e6 && value == std::trunc(value)) {
-        return QString::number(int(value));
+    QString text;
+    appendNumber(text, value);
+    return text;
+}
+
+void appendNumber(QString &text, double value)
+{
+    if (!(std::fabs(value) < 1e6)) {
+        text += QString::number(value, 'g', 6);
+        return;
     }
-    return QString::number(value, 'g', 6);
+    std::array<char, 32> latin1{};
+    char *const begin = latin1.data();
+    char *const end = begin + latin1.size();
+    // Whole numbers read the same as integers, zero without its sign.
+    const auto result = value == std::trunc(value)
+        ? std::to_chars(begin, end, int(value))
+        : std::to_chars(begin, end, withoutTie(value), std::chars_format::general, 6);
+    text += QLatin1String(begin, int(result.ptr - begin));
+}
+
+double toNumber(QStringView text)
+{
+    const auto number = plainNumber(text);
+    return number ? *number : text.toString().toDouble();
+}
+
+float toSingle(QStringView text)
+{
+    const auto number = plainNumber(text);
+    return number ? float(*number) : text.toString().toFloat();
 }
 
 QVector<double> numbersFromText(const QString &text)
@@ -38,7 +95,7 @@ QVector<double> numbersFromText(const QString &text)
     int start = 0;
     while (start >= 0) {
         const int end = text.indexOf(separator, start);
-        numbers.append(text.midRef(start, end < 0 ? -1 : end - start).toDouble());
+        numbers.append(toNumber(text.midRef(start, end < 0 ? -1 : end - start)));
         start = end < 0 ? -1 : end + 1;
     }
     return numbers;

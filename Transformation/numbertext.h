@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 #include <QVector>
 
 #include <array>
@@ -15,6 +16,15 @@
 
 //! A number in the format 'g' with six significant digits.
 QString numberText(double value);
+
+//! The same, at the end of a text.
+void appendNumber(QString &text, double value);
+
+//! The number of a whole text, as Qt reads it in the C locale; 0 for any other text.
+double toNumber(QStringView text);
+
+//! The same in single precision.
+float toSingle(QStringView text);
 
 //! The numbers of a text, split at every comma; an empty text gives the single number 0.
 QVector<double> numbersFromText(const QString &text);
@@ -29,7 +39,7 @@ template <std::size_t N> std::optional<std::array<float, N>> leadingFloats(const
             return std::nullopt;
         }
         const int end = text.indexOf(QLatin1Char(','), start);
-        number = text.midRef(start, end < 0 ? -1 : end - start).toFloat();
+        number = toSingle(text.midRef(start, end < 0 ? -1 : end - start));
         start = end < 0 ? -1 : end + 1;
     }
     return numbers;

@@ -44,7 +44,7 @@ void appendPoint(const QDomElement &point, QJsonArray &numbers)
 {
     for (const QString &name : {QStringLiteral("x0"), QStringLiteral("y0"), QStringLiteral("x1"), QStringLiteral("y1"),
                                 QStringLiteral("x2"), QStringLiteral("y2")}) {
-        numbers.append(double(point.attribute(name).toFloat()));
+        numbers.append(double(toSingle(point.attribute(name))));
     }
 }
 
@@ -161,7 +161,7 @@ QMatrix ZQComplexorTran::innerMatrix(const QDomElement &element)
 {
     const auto number = [&element](const QString &name, float missing) {
         const auto text = attributeText(element, name);
-        return text ? text->toFloat() : missing;
+        return text ? toSingle(*text) : missing;
     };
     const auto sign = [&element](const QString &flip) {
         return element.attribute(flip) == QLatin1String("0") ? 1.0 : -1.0;

@@ -102,8 +102,8 @@ void readRawControl(const QDomElement &element, QJsonObject &json)
         if (!x || !y) {
             break;
         }
-        control.append(double(x->toFloat()));
-        control.append(double(y->toFloat()));
+        control.append(double(toSingle(*x)));
+        control.append(double(toSingle(*y)));
     }
     if (!control.isEmpty()) {
         json.insert(QLatin1String("Control"), control);
