@@ -158,6 +158,7 @@ ZQActivityItemTran::ZQActivityItemTran(const QString &type)
 {
     const QString line = vocabulary().contains(type) ? type : QStringLiteral("container");
     setKeyMaps(vocabulary().keyMaps(line, keyMaps()));
+    foldsMatrixIntoBox = true;
 }
 
 std::unique_ptr<ZQHTran> ZQActivityItemTran::create(const QString &type)
@@ -194,7 +195,6 @@ QString ZQActivityItemTran::fromTxType(const QString &type)
 QJsonObject ZQActivityItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     json = ZQComItemControlTran::tranXML2JSON(element, json, context);
-    foldMatrixIntoBox(json);
     if (element.tagName() == attachments) {
         json.insert(attachments, backAndFront(element));
     }

@@ -30,6 +30,7 @@ ZQChineseAlphabetItemTran::ZQChineseAlphabetItemTran(const QString &type)
 {
     static const KeyMaps maps = keyMaps().with({}, txPaths());
     setKeyMaps(maps);
+    foldsMatrixIntoBox = true;
 }
 
 std::unique_ptr<ZQHTran> ZQChineseAlphabetItemTran::create(const QString &type)
@@ -45,13 +46,6 @@ QString ZQChineseAlphabetItemTran::toTxType(const QString &type)
 QString ZQChineseAlphabetItemTran::fromTxType(const QString &type)
 {
     return typePairs().fromTxType(type);
-}
-
-QJsonObject ZQChineseAlphabetItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
-{
-    json = ZQComItemControlTran::tranXML2JSON(element, json, context);
-    foldMatrixIntoBox(json);
-    return json;
 }
 
 QDomElement ZQChineseAlphabetItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)

@@ -17,8 +17,6 @@ public:
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 
-    //! Folds a scale into the box.
-    QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
     QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
     QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;

@@ -45,27 +45,38 @@ const KeyPaths &txPaths()
 }
 
 // A raw bound has at least six numbers: right, bottom, two more, left, top. The item's box is left, top, right, bottom.
-void reorderBound(QJsonObject &json)
+QString boxOfBound(const QString &bound)
 {
-    const auto found = json.find(QLatin1String("BoundingBox"));
-    if (found == json.end()) {
-        return;
-    }
-    const QString bound = found->toString();
     const QLatin1Char comma(',');
     std::array<int, 6> ends{};
     int start = 0;
     for (int &end : ends) {
         if (start > bound.size()) {
-            return;
+            return bound;
         }
         end = bound.indexOf(comma, start);
         end = end < 0 ? bound.size() : end;
         start = end + 1;
     }
-    const QStringRef leftTop = bound.midRef(ends[3] + 1, ends[5] - ends[3] - 1);
-    const QStringRef rightBottom = bound.leftRef(ends[1]);
-    *found = QString(leftTop + comma + rightBottom);
+    return bound.midRef(ends[3] + 1, ends[5] - ends[3] - 1) + comma + bound.leftRef(ends[1]);
+}
+
+const QLatin1String visibleKey("Visible");
+const QLatin1String lockKey("LockIn");
+const QLatin1String cloneKey("InfiniteClone");
+
+// Visible is a boolean and true unless the text says 0; LockIn and InfiniteClone are "1" or "0".
+QJsonValue flagOfText(const QString &key, const QString &text)
+{
+    static const QJsonValue set = QStringLiteral("1");
+    static const QJsonValue unset = QStringLiteral("0");
+    const bool isSet = text.toInt() != 0;
+    return key == visibleKey ? QJsonValue(isSet) : isSet ? set : unset;
+}
+
+bool isFlag(const QString &key)
+{
+    return key == visibleKey || key == lockKey || key == cloneKey;
 }
 
 void normalizeFlag(QJsonObject &json, QLatin1String key)
@@ -78,18 +89,68 @@ void normalizeFlag(QJsonObject &json, QLatin1String key)
     json.insert(key, text.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
-// Visible becomes a boolean and is true unless the text says 0; LockIn and InfiniteClone become "1" or "0".
 void normalizeFlags(QJsonObject &json)
 {
-    const QLatin1String visible("Visible");
-    const auto found = json.find(visible);
+    const auto found = json.find(visibleKey);
     if (found == json.end()) {
-        json.insert(visible, true);
+        json.insert(visibleKey, true);
     } else {
         *found = found->toString().toInt() != 0;
     }
-    normalizeFlag(json, QLatin1String("LockIn"));
-    normalizeFlag(json, QLatin1String("InfiniteClone"));
+    normalizeFlag(json, lockKey);
+    normalizeFlag(json, cloneKey);
+}
+
+const QLatin1String typeKey("Type");
+const QLatin1String matrixKey("Matrix");
+const QLatin1String boxKey("BoundingBox");
+
+// How the items of a slide are fitted into the page.
+struct SlideFit
+{
+    QString source; //!< the text of the slide's source rectangle
+    QMatrix matrix;
+    QString text; //!< of the matrix
+    QJsonObject item; //!< what an item has, but for its type, if its element says nothing
+};
+
+// The matrix of an item on the page. A text that is no matrix stays as it is.
+QString fittedMatrix(const std::optional<QString> &text, const SlideFit &fit)
+{
+    if (!text) {
+        return fit.text;
+    }
+    const auto matrix = matrixFromText(*text);
+    return matrix ? matrixToText(*matrix * fit.matrix) : *text;
+}
+
+QJsonObject unfittedItem()
+{
+    return {{typeKey, QString()}, {visibleKey, true}, {lockKey, QStringLiteral("0")}, {cloneKey, QStringLiteral("0")}};
+}
+
+SlideFit makeFit(const QString &sourceText)
+{
+    SlideFit fit{sourceText, {}, {}, unfittedItem()};
+    if (const auto source = rectangleFromText(sourceText)) {
+        const QRectF target(QPointF(), ZQComItemControlTran::slideTargetSize(*source));
+        fit.matrix = ZQComItemControlTran::fitMatrix(*source, target);
+    }
+    fit.text = matrixToText(fit.matrix);
+    fit.item.insert(matrixKey, fit.text);
+    fit.item.insert(QLatin1String("SlideMatrix"), fit.text);
+    return fit;
+}
+
+// The items of a slide come one after the other, so the last fit is kept.
+const SlideFit &fitOf(const QJsonObject &slide)
+{
+    thread_local SlideFit last = makeFit({});
+    const QString source = slide.value(QLatin1String("SlideSourceRect")).toString();
+    if (source != last.source) {
+        last = makeFit(source);
+    }
+    return last;
 }
 
 bool isAcceptedLink(const QString &kind)
@@ -117,18 +178,28 @@ ZQComItemControlTran::ZQComItemControlTran(const QString &type)
 
 QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
-    json = ZQHTran::tranXML2JSON(element, json, context);
     const QString type = element.nodeName();
-    json.insert(QLatin1String("Type"), type);
-    reorderBound(json);
-    normalizeFlags(json);
     const QJsonObject slide = context.value(QLatin1String("slide")).toObject();
     // The record of deleted pixels is meant without the s that its item type has.
-    if (type != QLatin1String("ZQStrokeDeletePixel") && type != QLatin1String("ZQGroupItem")) {
-        fitToSlide(json, slide);
+    const bool isFitted = type != QLatin1String("ZQStrokeDeletePixel") && type != QLatin1String("ZQGroupItem");
+    const SlideFit *fit = isFitted ? &fitOf(slide) : nullptr;
+    // Replacing values costs less than adding keys, so the keys of any item are there from the start.
+    static const QJsonObject unfitted = unfittedItem();
+    QJsonObject item = fit ? fit->item : unfitted;
+    for (auto it = json.constBegin(); it != json.constEnd(); ++it) {
+        item.insert(it.key(), it.value());
     }
-    readLink(json, slide);
-    return json;
+    item = ZQHTran::tranXML2JSON(element, item, context);
+    item.insert(typeKey, type);
+    if (fit) {
+        m_rawPlace.matrix = fittedMatrix(m_rawPlace.matrix, *fit);
+    }
+    if (foldsMatrixIntoBox) {
+        foldMatrix(m_rawPlace);
+    }
+    storePlace(item);
+    readLink(item, slide);
+    return item;
 }
 
 QJsonObject ZQComItemControlTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)
@@ -204,20 +275,15 @@ QString ZQComItemControlTran::joinResourcePaths(const QString &files, QLatin1Cha
     return entries.join(QLatin1Char(','));
 }
 
-void ZQComItemControlTran::foldMatrixIntoBox(QJsonObject &json)
+void ZQComItemControlTran::storeRawText(const QString &key, const QString &text, QJsonObject &json)
 {
-    const auto matrixMember = json.find(QLatin1String("Matrix"));
-    const auto boxMember = json.find(QLatin1String("BoundingBox"));
-    if (matrixMember == json.end() || boxMember == json.end()) {
-        return;
+    if (key == matrixKey) {
+        m_rawPlace.matrix = text;
+    } else if (key == boxKey) {
+        m_rawPlace.box = boxOfBound(text);
+    } else {
+        json.insert(key, isFlag(key) ? flagOfText(key, text) : QJsonValue(text));
     }
-    const auto matrix = matrixFromText(matrixMember->toString());
-    const auto box = boxFromText(boxMember->toString());
-    if (!matrix || !box || !(matrix->m11() > 1.0)) {
-        return;
-    }
-    *matrixMember = matrixToText(QMatrix());
-    *boxMember = boxToText(matrix->mapRect(*box));
 }
 
 int ZQComItemControlTran::lessonVersion(const QJsonObject &context)
@@ -241,22 +307,27 @@ void ZQComItemControlTran::readNestedItems(const QDomElement &element, QJsonObje
     NestedItems::read(element, item, json, context, form);
 }
 
-void ZQComItemControlTran::fitToSlide(QJsonObject &json, const QJsonObject &slide)
+void ZQComItemControlTran::storePlace(QJsonObject &json) const
 {
-    QMatrix fit;
-    const auto source = rectangleFromText(slide.value(QLatin1String("SlideSourceRect")).toString());
-    if (source) {
-        fit = fitMatrix(*source, QRectF(QPointF(), slideTargetSize(*source)));
+    if (m_rawPlace.matrix) {
+        json.insert(matrixKey, *m_rawPlace.matrix);
     }
-    const QString fitText = matrixToText(fit);
-    const QLatin1String matrixKey("Matrix");
-    const auto found = json.find(matrixKey);
-    if (found == json.end()) {
-        json.insert(matrixKey, fitText);
-    } else if (const auto matrix = matrixFromText(found->toString())) {
-        *found = matrixToText(*matrix * fit);
+    if (m_rawPlace.box) {
+        json.insert(boxKey, *m_rawPlace.box);
     }
-    json.insert(QLatin1String("SlideMatrix"), fitText);
+}
+
+void ZQComItemControlTran::foldMatrix(RawPlace &place)
+{
+    if (!place.matrix || !place.box) {
+        return;
+    }
+    const auto matrix = matrixFromText(*place.matrix);
+    const auto box = boxFromText(*place.box);
+    if (matrix && box && matrix->m11() > 1.0) {
+        place.matrix = matrixToText(QMatrix());
+        place.box = boxToText(matrix->mapRect(*box));
+    }
 }
 
 void ZQComItemControlTran::readLink(QJsonObject &json, const QJsonObject &slide)

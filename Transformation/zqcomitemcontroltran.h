@@ -8,6 +8,8 @@
 #include <QSize>
 #include <QString>
 
+#include <optional>
+
 /*!
  * What every item on a slide has: geometry, rotation, visibility, lock, clone flag, flips, cover layer, hyperlink and
  * its own animations. On the way from raw XML it also fits the item from the slide's source rectangle into a page 1080
@@ -37,9 +39,8 @@ public:
     static QString joinResourcePaths(const QString &files, QLatin1Char separator, const QString &directory);
 
 protected:
-    //! Folds a raw item's Matrix into its BoundingBox when m11 is above 1: the box is mapped, the matrix becomes the
-    //! identity. Anything else, short texts included, stays as it is.
-    static void foldMatrixIntoBox(QJsonObject &json);
+    //! Stores flags in their final form, and keeps back what the item's place is made of.
+    void storeRawText(const QString &key, const QString &text, QJsonObject &json) override;
 
     //! The major version of the lesson, from "pres" in the context; 0 if it isn't told.
     static int lessonVersion(const QJsonObject &context);
@@ -51,12 +52,26 @@ protected:
 
     QString itemType; //!< as given to the constructor
 
+    //! Whether a raw item's Matrix goes into its BoundingBox when m11 is above 1: the box is mapped, the matrix becomes
+    //! the identity. Anything else, short texts included, stays as it is.
+    bool foldsMatrixIntoBox = false;
+
 private:
-    static void fitToSlide(QJsonObject &json, const QJsonObject &slide);
+    // What the raw form says about an item's place.
+    struct RawPlace
+    {
+        std::optional<QString> matrix;
+        std::optional<QString> box; //!< left, top, right, bottom
+    };
+
+    static void foldMatrix(RawPlace &place);
+    void storePlace(QJsonObject &json) const;
     static void readLink(QJsonObject &json, const QJsonObject &slide);
     static void readItemAnimations(const QDomElement &element, QJsonObject &json);
     static void writeItemAnimations(QDomElement &element, const QJsonObject &json);
     static QDomElement animationGroupElement(const QString &name, const QJsonObject &animations);
+
+    RawPlace m_rawPlace;
 };
 
 #endif // ZQCOMITEMCONTROLTRAN_H

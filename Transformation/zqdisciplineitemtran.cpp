@@ -127,8 +127,14 @@ QJsonObject ZQDisciplineItemTran::tranXML2JSON(QDomElement element, QJsonObject 
     json = ZQComItemControlTran::tranXML2JSON(element, json, context);
     readRawControl(element, json);
     readRawColors(element, json);
-    json.remove(QLatin1String("BoundingBox"));
     return json;
+}
+
+void ZQDisciplineItemTran::storeRawText(const QString &key, const QString &text, QJsonObject &json)
+{
+    if (key != QLatin1String("BoundingBox")) {
+        ZQComItemControlTran::storeRawText(key, text, json);
+    }
 }
 
 QJsonObject ZQDisciplineItemTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)

@@ -22,6 +22,8 @@ public:
     QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 
 protected:
+    void storeRawText(const QString &key, const QString &text, QJsonObject &json) override;
+
     QStringList colorKeys; //!< the keys that carry a colour
 
 private:

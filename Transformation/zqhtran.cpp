@@ -88,14 +88,19 @@ QString ZQHTran::nextGeneratedId()
     return QString::number(QDateTime::currentMSecsSinceEpoch() + qint64(idCounter));
 }
 
-void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json) const
+void ZQHTran::storeRawText(const QString &key, const QString &text, QJsonObject &json)
+{
+    json.insert(key, text);
+}
+
+void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json)
 {
     RawPlaces places(element);
     for (const KeyMap::Row &row : m_keyMaps->xml.rows()) {
         const QString &first = row.path.first();
         if (row.path.size() > 1) {
             if (const auto text = places.descendantText(row.path)) {
-                json.insert(row.key, *text);
+                storeRawText(row.key, *text, json);
             }
         } else if (isBetween(first, '[', ']')) {
             const QString tag = first.mid(1, first.size() - 2);
@@ -110,7 +115,7 @@ void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json) const
                 json.insert(tag, childAttributesAsJson(found));
             }
         } else if (const auto text = attributeText(element, first)) {
-            json.insert(row.key, *text);
+            storeRawText(row.key, *text, json);
         }
     }
     if (!json.contains(QLatin1String("ID"))) {

@@ -55,6 +55,9 @@ protected:
     //! What the constructors so far have stored.
     const KeyMaps &keyMaps() const { return *m_keyMaps; }
 
+    //! Stores what a text of the raw form stands for: as a rule the text itself, under the key of its row.
+    virtual void storeRawText(const QString &key, const QString &text, QJsonObject &json);
+
     //! A new ID: the milliseconds since 1970 plus a counter of this process, in decimal.
     static QString nextGeneratedId();
 
@@ -65,7 +68,7 @@ protected:
 private:
     static int idCounter;
 
-    void readKeysFromXml(QDomElement &element, QJsonObject &json) const;
+    void readKeysFromXml(QDomElement &element, QJsonObject &json);
     void readKeysFromTx(const QDomElement &element, QJsonObject &json) const;
     void writeKeysToTx(QDomElement &element, const QJsonObject &json) const;
 

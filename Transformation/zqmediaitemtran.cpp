@@ -119,6 +119,7 @@ ZQMediaItemTran::ZQMediaItemTran(const QString &type)
     : ZQComItemControlTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
+    foldsMatrixIntoBox = true;
 }
 
 std::unique_ptr<ZQHTran> ZQMediaItemTran::create(const QString &type)
@@ -155,7 +156,6 @@ QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json,
         const QLatin1Char separator(files.contains(QLatin1Char('|')) ? '|' : ';');
         json.insert(fileKey, joinResourcePaths(files, separator, context.value(QLatin1String("path")).toString()));
     }
-    foldMatrixIntoBox(json);
     return json;
 }
 
