@@ -17,11 +17,6 @@ QString textOf(const QJsonObject &json, const char *key)
     return json.value(QLatin1String(key)).toString();
 }
 
-QString pointText(const QPointF &point)
-{
-    return numberText(point.x()) + QLatin1Char(',') + numberText(point.y());
-}
-
 // The item's matrix: the identity if it has none, nothing if its text is too short.
 std::optional<QMatrix> itemMatrix(const QJsonObject &json)
 {
@@ -43,11 +38,14 @@ QVector<QPointF> mappedPairs(const QMatrix &matrix, const QVector<double> &numbe
 QString pointsText(const QVector<QPointF> &points)
 {
     QString text;
+    text.reserve(points.size() * 16);
     for (const QPointF &point : points) {
         if (!text.isEmpty()) {
             text += QLatin1Char(',');
         }
-        text += pointText(point);
+        appendNumber(text, point.x());
+        text += QLatin1Char(',');
+        appendNumber(text, point.y());
     }
     return text;
 }
@@ -58,23 +56,23 @@ QString closedOutline(QVector<QPointF> corners)
     return pointsText(corners);
 }
 
-void setPoints(QJsonObject &json, const QString &points)
+void setPoints(SvgAttributes &svg, const QString &points)
 {
-    json.insert(QLatin1String("points"), points);
+    svg.set(QStringLiteral("points"), points);
 }
 
-void polygonGeometry(QJsonObject &json)
+void polygonGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
     const auto matrix = itemMatrix(json);
     const QVector<double> numbers = numbersFromText(textOf(json, "Control"));
     if (matrix && numbers.size() >= 6) {
-        setPoints(json, closedOutline(mappedPairs(*matrix, numbers)));
+        setPoints(svg, closedOutline(mappedPairs(*matrix, numbers)));
     }
 }
 
 // The three control points are the middle of the one side and the ends of the other. The width follows from the height
 // by the proportion of 4 to 3.
-void parallelogramGeometry(QJsonObject &json)
+void parallelogramGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
     const auto matrix = itemMatrix(json);
     const QVector<double> numbers = numbersFromText(textOf(json, "Control"));
@@ -87,20 +85,20 @@ void parallelogramGeometry(QJsonObject &json)
     const qreal width = qreal(float(qreal(height) * 1.33333));
     const QPointF &p1 = p.at(1);
     const QPointF &p2 = p.at(2);
-    setPoints(json,
+    setPoints(svg,
               closedOutline({p2, QPointF(p1.x() - width * 0.5, p1.y()), QPointF(p1.x() + width * 0.5, p1.y()),
                              QPointF(p2.x() + width, p2.y())}));
 }
 
-void normalPolygonGeometry(QJsonObject &json)
+void normalPolygonGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
     if (const auto matrix = itemMatrix(json)) {
-        setPoints(json, regularPolygonPoints(*matrix, textOf(json, "ArtObj_Ln").toInt()));
+        setPoints(svg, regularPolygonPoints(*matrix, textOf(json, "ArtObj_Ln").toInt()));
     }
 }
 
 // XYValue has one more character at its end, which is cut whatever it is.
-void polylineGeometry(QJsonObject &json)
+void polylineGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
     const auto matrix = itemMatrix(json);
     const QJsonValue value = json.value(QLatin1String("XYValue"));
@@ -111,33 +109,33 @@ void polylineGeometry(QJsonObject &json)
     text.chop(1);
     const QVector<double> numbers = numbersFromText(text);
     if (numbers.size() >= 2) {
-        setPoints(json, pointsText(mappedPairs(*matrix, numbers)));
+        setPoints(svg, pointsText(mappedPairs(*matrix, numbers)));
     }
 }
 
 // The two control points and the item's origin.
-void angleGeometry(QJsonObject &json)
+void angleGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
     const auto matrix = itemMatrix(json);
     const QJsonValue control = json.value(QLatin1String("Control"));
     QVector<double> numbers = numbersFromText(control.toString());
     if (matrix && control.isString() && numbers.size() == 4) {
         numbers << 0 << 0;
-        setPoints(json, pointsText(mappedPairs(*matrix, numbers)));
+        setPoints(svg, pointsText(mappedPairs(*matrix, numbers)));
     }
 }
 
-void setLineEnds(QJsonObject &json, const char *start, const char *end)
+void setLineEnds(SvgAttributes &svg, const char *start, const char *end)
 {
     if (start) {
-        json.insert(QLatin1String("stroke-lineshape-start"), QLatin1String(start));
+        svg.set(QStringLiteral("stroke-lineshape-start"), QLatin1String(start));
     }
     if (end) {
-        json.insert(QLatin1String("stroke-lineshape-end"), QLatin1String(end));
+        svg.set(QStringLiteral("stroke-lineshape-end"), QLatin1String(end));
     }
 }
 
-void lineCoordinates(QJsonObject &json)
+void lineCoordinates(const QJsonObject &json, SvgAttributes &svg)
 {
     const auto matrix = itemMatrix(json);
     const QJsonValue control = json.value(QLatin1String("Control"));
@@ -146,34 +144,34 @@ void lineCoordinates(QJsonObject &json)
         return;
     }
     const QVector<QPointF> ends = mappedPairs(*matrix, numbers.mid(0, 4));
-    json.insert(QLatin1String("x1"), numberText(ends.at(0).x()));
-    json.insert(QLatin1String("y1"), numberText(ends.at(0).y()));
-    json.insert(QLatin1String("x2"), numberText(ends.at(1).x()));
-    json.insert(QLatin1String("y2"), numberText(ends.at(1).y()));
+    svg.set(QStringLiteral("x1"), numberText(ends.at(0).x()));
+    svg.set(QStringLiteral("y1"), numberText(ends.at(0).y()));
+    svg.set(QStringLiteral("x2"), numberText(ends.at(1).x()));
+    svg.set(QStringLiteral("y2"), numberText(ends.at(1).y()));
 }
 
-void segmentGeometry(QJsonObject &json)
+void segmentGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
     switch (textOf(json, "ArtObj_ArrowType").toInt()) {
     case 0:
-        setLineEnds(json, "circle", "circle");
+        setLineEnds(svg, "circle", "circle");
         break;
     case 1:
-        setLineEnds(json, "arrow", nullptr);
+        setLineEnds(svg, "arrow", nullptr);
         break;
     case 2:
-        setLineEnds(json, "arrow", "arrow");
+        setLineEnds(svg, "arrow", "arrow");
         break;
     default:
         break;
     }
-    lineCoordinates(json);
+    lineCoordinates(json, svg);
 }
 
-void geoSegmentGeometry(QJsonObject &json)
+void geoSegmentGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
-    setLineEnds(json, "circle", "circle");
-    lineCoordinates(json);
+    setLineEnds(svg, "circle", "circle");
+    lineCoordinates(json, svg);
 }
 
 // Pair number index of the control points, or what stands for it.
@@ -184,30 +182,31 @@ QPointF rimPoint(const QVector<double> &numbers, int index, const QPointF &missi
 }
 
 // The centre is the item's origin; a radius is the distance of a mapped rim point from it.
-void roundGeometry(QJsonObject &json, const QVector<QPointF> &missingRim, const QStringList &radiusKeys)
+void roundGeometry(const QJsonObject &json, SvgAttributes &svg, const QVector<QPointF> &missingRim,
+                   const QStringList &radiusKeys)
 {
     const auto matrix = itemMatrix(json);
     if (!matrix) {
         return;
     }
     const QPointF center = matrix->map(QPointF(0, 0));
-    json.insert(QLatin1String("cx"), numberText(center.x()));
-    json.insert(QLatin1String("cy"), numberText(center.y()));
+    svg.set(QStringLiteral("cx"), numberText(center.x()));
+    svg.set(QStringLiteral("cy"), numberText(center.y()));
     const QVector<double> numbers = numbersFromText(textOf(json, "Control"));
     for (int i = 0; i < radiusKeys.size(); ++i) {
         const QPointF rim = matrix->map(rimPoint(numbers, i, missingRim.at(i)));
-        json.insert(radiusKeys.at(i), numberText(QLineF(center, rim).length()));
+        svg.set(radiusKeys.at(i), numberText(QLineF(center, rim).length()));
     }
 }
 
-void circleGeometry(QJsonObject &json)
+void circleGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
-    roundGeometry(json, {QPointF(50, 0)}, {QStringLiteral("r")});
+    roundGeometry(json, svg, {QPointF(50, 0)}, {QStringLiteral("r")});
 }
 
-void ellipseGeometry(QJsonObject &json)
+void ellipseGeometry(const QJsonObject &json, SvgAttributes &svg)
 {
-    roundGeometry(json, {QPointF(100, 0), QPointF(0, 100)}, {QStringLiteral("rx"), QStringLiteral("ry")});
+    roundGeometry(json, svg, {QPointF(100, 0), QPointF(0, 100)}, {QStringLiteral("rx"), QStringLiteral("ry")});
 }
 
 // The item's matrix with the rotation about the centre of its box taken out, as "transform" carries it.
@@ -286,17 +285,17 @@ const TypeShape typeShapes[] = {
     {"ZQMath2DParallelogram", &parallelogramToSvg},
 };
 
-void addStroke(const SvgShape &shape, QJsonObject &json)
+void setStroke(const SvgShape &shape, const QJsonObject &json, SvgAttributes &svg)
 {
     const QJsonValue color = json.value(QLatin1String(shape.strokeKey));
     QString text = QStringLiteral("0,0,0");
     if (color.isString()) {
         text = color.toString().mid(shape.cut == SvgShape::CutsStroke ? 4 : 0);
     }
-    json.insert(QLatin1String("stroke"), QString(QLatin1String("rgb(") + text + QLatin1Char(')')));
+    svg.set(QStringLiteral("stroke"), QString(QLatin1String("rgb(") + text + QLatin1Char(')')));
 }
 
-void addFill(const SvgShape &shape, QJsonObject &json)
+void setFill(const SvgShape &shape, const QJsonObject &json, SvgAttributes &svg)
 {
     if (shape.fill == SvgShape::NoFill) {
         return;
@@ -307,9 +306,9 @@ void addFill(const SvgShape &shape, QJsonObject &json)
         return;
     }
     const QColor color = parseColorText(value.toString());
-    json.insert(QLatin1String("fill"),
-                QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue()));
-    json.insert(QLatin1String("stroke-opacity"), QString::number(color.alpha()));
+    svg.set(QStringLiteral("fill"),
+            QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue()));
+    svg.set(QStringLiteral("stroke-opacity"), QString::number(color.alpha()));
 }
 
 // The pen styles of the line styles 0 to 3; any other is solid.
@@ -329,6 +328,20 @@ int penStyleOf(const QString &lineStyle)
 
 } // namespace
 
+SvgAttributes::SvgAttributes(const QDomElement &element, const KeyMap &iwbKeys)
+    : m_element(element)
+    , m_iwbKeys(iwbKeys)
+{
+}
+
+void SvgAttributes::set(const QString &name, const QString &value)
+{
+    const KeyMap::Row *row = m_iwbKeys.row(name);
+    if (row && row->path.size() == 1) {
+        m_element.setAttribute(row->path.first(), value);
+    }
+}
+
 const SvgShape *svgShapeOf(const QString &itemType)
 {
     static const auto shapes = [] {
@@ -344,19 +357,19 @@ const SvgShape *svgShapeOf(const QString &itemType)
     return itemType.contains(QLatin1String("Normal")) ? &normalPolygonToSvg : nullptr;
 }
 
-void addSvgPaint(const SvgShape &shape, QJsonObject &json)
+void setSvgPaint(const SvgShape &shape, const QJsonObject &json, SvgAttributes &svg)
 {
-    addStroke(shape, json);
-    addFill(shape, json);
+    setStroke(shape, json, svg);
+    setFill(shape, json, svg);
     const QJsonValue widthValue = json.value(QLatin1String("ArtObj_Width"));
     int width = 2;
     if (!widthValue.isUndefined()) {
         width = widthValue.toString().toInt();
-        json.insert(QLatin1String("stroke-width"), widthValue);
+        svg.set(QStringLiteral("stroke-width"), widthValue.toString());
     }
     const QString dashes = dashArrayFor(penStyleOf(textOf(json, shape.dashKey)), width);
     if (!dashes.isEmpty()) {
-        json.insert(QLatin1String("stroke-dasharray"), dashes);
+        svg.set(QStringLiteral("stroke-dasharray"), dashes);
     }
 }
 

@@ -1,6 +1,8 @@
 #ifndef MATHSVG_H
 #define MATHSVG_H
 
+#include "keypaths.h"
+
 #include <QColor>
 #include <QDomElement>
 #include <QJsonObject>
@@ -12,9 +14,23 @@
 // the texts that they share.
 
 /*!
+ * The attributes of an svg shape. Those that its item type doesn't have in IWB are left out.
+ */
+class SvgAttributes
+{
+public:
+    SvgAttributes(const QDomElement &element, const KeyMap &iwbKeys);
+
+    void set(const QString &name, const QString &value);
+
+private:
+    QDomElement m_element;
+    const KeyMap &m_iwbKeys;
+};
+
+/*!
  * How a type leaves as an svg shape. The parts that most shapes have in common are told by keys; the geometry is a
- * function that adds the svg attributes to the object under their own names, or leaves them out where control points
- * or matrix don't suffice.
+ * function that sets the svg attributes, or leaves them out where control points or matrix don't suffice.
  */
 struct SvgShape
 {
@@ -29,7 +45,7 @@ struct SvgShape
     };
 
     const char *tag;
-    void (*addGeometry)(QJsonObject &json); //!< may be null
+    void (*setGeometry)(const QJsonObject &json, SvgAttributes &svg); //!< may be null
     const char *strokeKey;
     Cut cut;
     const char *fillKey;
@@ -42,8 +58,8 @@ struct SvgShape
 //! The svg shape of an item type, or null.
 const SvgShape *svgShapeOf(const QString &itemType);
 
-//! Adds stroke, fill, stroke-width and stroke-dasharray to the object, under the names of the svg attributes.
-void addSvgPaint(const SvgShape &shape, QJsonObject &json);
+//! Sets stroke, fill, stroke-width and stroke-dasharray.
+void setSvgPaint(const SvgShape &shape, const QJsonObject &json, SvgAttributes &svg);
 
 //! Reads an svg shape other than a rectangle: type, geometry and paint. An angle's "points" are six numbers.
 QJsonObject svgLineToJson(const QDomElement &element, QJsonObject json);

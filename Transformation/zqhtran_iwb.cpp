@@ -8,6 +8,10 @@
 
 #include <QDomDocument>
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 // The conversions of the base class to and from IWB, and what the IWB writers share.
 
 namespace {
@@ -54,30 +58,37 @@ QString linkTarget(const QString &kind, const QString &value, const QString &tmp
     return {};
 }
 
-// x, y, Width and Height of the box under the matrix, and "transform" if the item has an angle.
-void writeMappedBox(QDomElement &element, QJsonObject &json)
+// The texts of a place in svg, by the keys of its rows.
+using PlaceTexts = std::array<std::pair<QLatin1String, QString>, 4>;
+
+// x, y, Width and Height of the box under the matrix.
+std::optional<QRectF> mappedBox(const QJsonObject &json)
 {
     const auto box = boxFromText(json.value(QLatin1String("BoundingBox")).toString());
     const auto matrix = matrixFromText(json.value(QLatin1String("Matrix")).toString());
     if (!box || !matrix) {
-        return;
+        return std::nullopt;
     }
     // The differences are taken in single precision, as the numbers of the text are.
     const QRectF rectangle(box->left(), box->top(), qreal(float(box->right()) - float(box->left())),
                            qreal(float(box->bottom()) - float(box->top())));
-    const QRectF mapped = matrix->mapRect(rectangle);
-    json.insert(QLatin1String("x"), numberText(mapped.left()));
-    json.insert(QLatin1String("y"), numberText(mapped.top()));
-    json.insert(QLatin1String("Width"), numberText(mapped.width()));
-    json.insert(QLatin1String("Height"), numberText(mapped.height()));
-    if (json.contains(QLatin1String("Angle"))) {
-        const double centerX = (mapped.right() + mapped.left()) * 0.5;
-        const double centerY = (mapped.bottom() + mapped.top()) * 0.5;
-        element.setAttribute(QStringLiteral("transform"),
-                             QString(QLatin1String("rotate(") + json.value(QLatin1String("Angle")).toString()
-                                     + QLatin1Char(',') + numberText(centerX) + QLatin1Char(',') + numberText(centerY)
-                                     + QLatin1Char(')')));
-    }
+    return matrix->mapRect(rectangle);
+}
+
+PlaceTexts placeTexts(const QRectF &box)
+{
+    return {{{QLatin1String("x"), numberText(box.left())},
+             {QLatin1String("y"), numberText(box.top())},
+             {QLatin1String("Width"), numberText(box.width())},
+             {QLatin1String("Height"), numberText(box.height())}}};
+}
+
+QString rotationText(const QString &angle, const QRectF &box)
+{
+    const double centerX = (box.right() + box.left()) * 0.5;
+    const double centerY = (box.bottom() + box.top()) * 0.5;
+    return QLatin1String("rotate(") + angle + QLatin1Char(',') + numberText(centerX) + QLatin1Char(',')
+        + numberText(centerY) + QLatin1Char(')');
 }
 
 // The angle of a transform with exactly three numbers between its brackets, such as "rotate(0.5,10,20)".
@@ -102,18 +113,33 @@ QDomElement ZQHTran::tranJSON2IWB(QDomElement element, QJsonObject json, QJsonOb
     if (element.isNull()) {
         return element;
     }
-    if (json.contains(QLatin1String("BoundingBox"))) {
-        writeMappedBox(element, json);
+    PlaceTexts place;
+    if (const auto box = mappedBox(json)) {
+        place = placeTexts(*box);
+        const auto angle = json.constFind(QLatin1String("Angle"));
+        if (angle != json.constEnd()) {
+            element.setAttribute(QStringLiteral("transform"), rotationText(angle->toString(), *box));
+        }
     }
     for (const KeyMap::Row &row : keyMaps().iwb.rows()) {
+        if (row.path.size() != 1) {
+            continue;
+        }
+        const QString &name = row.path.first();
+        const auto placed =
+            std::find_if(place.cbegin(), place.cend(), [&row](const auto &text) { return row.key == text.first; });
+        if (placed != place.cend()) {
+            element.setAttribute(name, placed->second);
+            continue;
+        }
         const auto value = json.constFind(row.key);
-        if (row.path.size() != 1 || value == json.constEnd()) {
+        if (value == json.constEnd()) {
             continue;
         }
         if (row.key == QLatin1String("Visible")) {
-            element.setAttribute(row.path.first(), value->toBool() ? QStringLiteral("1") : QStringLiteral("0"));
+            element.setAttribute(name, value->toBool() ? QStringLiteral("1") : QStringLiteral("0"));
         } else {
-            element.setAttribute(row.path.first(), value->toString());
+            element.setAttribute(name, value->toString());
         }
     }
     return element;

@@ -293,13 +293,14 @@ QJsonObject ZQMathematicsTran::tranIWB2JSON(QDomElement element, QJsonObject jso
     return json;
 }
 
-QDomElement ZQMathematicsTran::shapeToSvg(const SvgShape &shape, QJsonObject json, const QJsonObject &context)
+QDomElement ZQMathematicsTran::shapeToSvg(const SvgShape &shape, const QJsonObject &json, const QJsonObject &context)
 {
-    if (shape.addGeometry) {
-        shape.addGeometry(json);
-    }
-    addSvgPaint(shape, json);
     QDomElement element = ZQHTran::tranJSON2IWB(newElement(QLatin1String(shape.tag)), json, context);
+    SvgAttributes svg(element, keyMaps().iwb);
+    if (shape.setGeometry) {
+        shape.setGeometry(json, svg);
+    }
+    setSvgPaint(shape, json, svg);
     if (shape.finish) {
         shape.finish(element, json);
     }

@@ -37,7 +37,7 @@ public:
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
 private:
-    QDomElement shapeToSvg(const SvgShape &shape, QJsonObject json, const QJsonObject &context);
+    QDomElement shapeToSvg(const SvgShape &shape, const QJsonObject &json, const QJsonObject &context);
     QJsonObject svgRectToJson(const QDomElement &element, QJsonObject json, const QJsonObject &context);
 };
 
