@@ -51,12 +51,32 @@ private:
     bool m_isTooDeep = false;
 };
 
+// No fewer elements than can be open at once. Not counted is a tag that ends itself for certain: up to the next tag
+// there is no other end of one. A single "/>" may be part of a value, but then the tag's own end is counted further on.
+int mostOpenElements(const QString &xml)
+{
+    const QLatin1Char start('<');
+    const QLatin1Char end('>');
+    int count = 0;
+    int next = xml.indexOf(start);
+    while (next >= 0) {
+        const int tag = next;
+        next = xml.indexOf(start, tag + 1);
+        const QStringRef text = xml.midRef(tag, next < 0 ? -1 : next - tag);
+        const int tagEnd = text.indexOf(end);
+        const bool endsItself =
+            tagEnd > 0 && text.at(tagEnd - 1) == QLatin1Char('/') && text.indexOf(end, tagEnd + 1) < 0;
+        count += endsItself ? 0 : 1;
+    }
+    return count;
+}
+
 // The text up to the first tag that lies too deep; nothing of it if the depth comes out of entities. The deprecated
 // reader is the one that fills the DOM: only it sees the elements that the DOM will see.
 QString shallowPart(const QString &xml)
 {
     const bool hasEntities = xml.contains(QLatin1String("<!ENTITY"));
-    if (xml.count(QLatin1Char('<')) <= deepestNesting && !hasEntities) {
+    if (!hasEntities && mostOpenElements(xml) <= deepestNesting) {
         return xml;
     }
     NestingCheck check;

@@ -5,8 +5,12 @@
 #include "numbertext.h"
 #include "xmlplaces.h"
 
+#include <QHash>
+#include <QVector>
 #include <QtMath>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -40,6 +44,8 @@ QDomElement managerOf(const QDomElement &item)
     return nestsTooDeep(manager) ? QDomElement() : manager;
 }
 
+const int pathCount = 4;
+
 void appendPoint(const QDomElement &point, QJsonArray &numbers)
 {
     for (const QString &name : {QStringLiteral("x0"), QStringLiteral("y0"), QStringLiteral("x1"), QStringLiteral("y1"),
@@ -48,27 +54,71 @@ void appendPoint(const QDomElement &point, QJsonArray &numbers)
     }
 }
 
-// The points of up to four paths, each numbered from 0; the first missing number ends a path.
+// The number behind the prefix of a tag, or -1 for any other tag.
+int numberOfTag(const QString &tag, QLatin1String prefix)
+{
+    if (!tag.startsWith(prefix)) {
+        return -1;
+    }
+    const QStringRef digits = tag.midRef(prefix.size());
+    const bool isPlain = digits.size() == 1 || !digits.startsWith(QLatin1Char('0'));
+    bool isNumber = std::all_of(digits.begin(), digits.end(),
+                                [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    const int number = isPlain && isNumber ? digits.toInt(&isNumber) : -1;
+    return isNumber ? number : -1;
+}
+
+// The first path of each number.
+std::array<QDomElement, pathCount> pathsOf(const QDomElement &manager)
+{
+    std::array<QDomElement, pathCount> paths;
+    forEachDescendant(manager, [&paths](const QDomElement &element) {
+        const int number = numberOfTag(element.tagName(), QLatin1String("ArtVectObj_Path"));
+        if (number >= 0 && number < pathCount && paths[std::size_t(number)].isNull()) {
+            paths[std::size_t(number)] = element;
+        }
+        return true;
+    });
+    return paths;
+}
+
+// The points of a path that are numbered from 0; the first missing number ends it. Points come in their order as a
+// rule, so the path is walked through once, and only those that come too early are remembered.
+QVector<QDomElement> pointsOf(const QDomElement &path)
+{
+    QVector<QDomElement> points;
+    QHash<int, QDomElement> early;
+    forEachDescendant(path, [&points, &early](const QDomElement &element) {
+        const int number = numberOfTag(element.tagName(), QLatin1String("ArtVectObj_Point"));
+        if (number == points.size()) {
+            points.append(element);
+            while (!early.isEmpty() && early.contains(points.size())) {
+                points.append(early.take(points.size()));
+            }
+        } else if (number > points.size() && !early.contains(number)) {
+            early.insert(number, element);
+        }
+        return true;
+    });
+    return points;
+}
+
 void readPaths(const QDomElement &manager, QJsonObject &json)
 {
-    for (int i = 0; i <= 3; ++i) {
-        const QString number = QString::number(i);
-        const QDomElement path = descendantByTag(manager, QLatin1String("ArtVectObj_Path") + number);
-        RawPlaces points(path);
+    const auto paths = pathsOf(manager);
+    for (int i = 0; i < pathCount; ++i) {
+        const QVector<QDomElement> points = pointsOf(paths[std::size_t(i)]);
+        if (points.isEmpty()) {
+            continue;
+        }
+        if (i == 0) {
+            json.insert(QLatin1String("VectorPathType"), points.first().attribute(QStringLiteral("Type")).toInt());
+        }
         QJsonArray numbers;
-        for (int j = 0;; ++j) {
-            const QDomElement point = points.descendant(QLatin1String("ArtVectObj_Point") + QString::number(j));
-            if (point.isNull()) {
-                break;
-            }
+        for (const QDomElement &point : points) {
             appendPoint(point, numbers);
-            if (i == 0 && j == 0) {
-                json.insert(QLatin1String("VectorPathType"), point.attribute(QStringLiteral("Type")).toInt());
-            }
         }
-        if (!numbers.isEmpty()) {
-            json.insert(QLatin1String("VectorControl") + number, numbers);
-        }
+        json.insert(QLatin1String("VectorControl") + QString::number(i), numbers);
     }
 }
 
