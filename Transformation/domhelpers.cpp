@@ -71,12 +71,45 @@ int mostOpenElements(const QString &xml)
     return count;
 }
 
-// The text up to the first tag that lies too deep; nothing of it if the depth comes out of entities. The deprecated
-// reader is the one that fills the DOM: only it sees the elements that the DOM will see.
-QString shallowPart(const QString &xml)
+// Whether a document type stands before the first element. Comments and instructions may stand before it.
+bool declaresDocumentType(const QString &xml)
 {
-    const bool hasEntities = xml.contains(QLatin1String("<!ENTITY"));
-    if (!hasEntities && mostOpenElements(xml) <= deepestNesting) {
+    const QLatin1String documentType("<!DOCTYPE");
+    if (!xml.contains(documentType)) {
+        return false;
+    }
+    const QStringView text(xml);
+    qsizetype at = 0;
+    while (at < text.size()) {
+        const QStringView rest = text.mid(at);
+        if (rest.front().isSpace()) {
+            ++at;
+            continue;
+        }
+        const bool isComment = rest.startsWith(QLatin1String("<!--"));
+        if (!isComment && !rest.startsWith(QLatin1String("<?"))) {
+            return rest.startsWith(documentType);
+        }
+        const qsizetype end =
+            isComment ? text.indexOf(QLatin1String("-->"), at + 4) : text.indexOf(QLatin1String("?>"), at);
+        if (end < 0) {
+            return false;
+        }
+        at = end + (isComment ? 3 : 2);
+    }
+    return false;
+}
+
+// The part of the text that is safe to parse: up to the first tag that lies too deep, and nothing of a text with a
+// document type. Its entities unfold without a limit in depth, each reference costs as much as all that was unfolded
+// before, and the parser calls itself for each bracket of a content model. The deprecated reader is the one that fills
+// the DOM: only it sees the elements that the DOM will see.
+QString safePart(const QString &xml)
+{
+    if (declaresDocumentType(xml)) {
+        return {};
+    }
+    if (mostOpenElements(xml) <= deepestNesting) {
         return xml;
     }
     NestingCheck check;
@@ -88,12 +121,12 @@ QString shallowPart(const QString &xml)
         return xml;
     }
     // At that moment the reader has the end of the tag, and may have the character behind it.
-    return hasEntities ? QString() : xml.left(xml.lastIndexOf(QLatin1Char('<'), source.charactersRead() - 2));
+    return xml.left(xml.lastIndexOf(QLatin1Char('<'), source.charactersRead() - 2));
 }
 
 bool parse(QDomDocument &document, const QString &xml)
 {
-    const QString parsed = shallowPart(xml);
+    const QString parsed = safePart(xml);
     return document.setContent(parsed, false) && parsed.size() == xml.size();
 }
 

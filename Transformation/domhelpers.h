@@ -8,7 +8,8 @@
 
 //! The document element of xml, parsed without namespace processing into a document of its own. What the parser built
 //! before an error stays: "<animations>" gives an empty element. A text without a start tag gives a null element.
-//! A text that nests elements more than 4000 deep ends there, as if by an error.
+//! A text that nests elements more than 4000 deep ends there, as if by an error, and one that declares a document type
+//! has no element: strangers could stall the parser by its entities, and crash it by its content models.
 QDomElement elementFromXml(const QString &xml);
 
 //! The same, but null for a text with any error in it.

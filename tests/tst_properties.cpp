@@ -152,6 +152,8 @@ private slots:
         tags("entities of elements",
              "<!DOCTYPE x [<!ENTITY e \"%1\">]><pageEffect>%2</pageEffect>"_s.arg("<a>"_s.repeated(1000),
                                                                                   "&e;"_s.repeated(300)));
+        tags("brackets of a content model",
+             "<?a?><!---><?--><!DOCTYPE x [<!ELEMENT x %1]><pageEffect/>"_s.arg(repeated("("_s)));
 
         row("game",
             "<slide><activity type=\"1\"><templet/><matchs>%1</matchs></activity></slide>"_s.arg(
