@@ -33,7 +33,7 @@ QJsonObject convert(Conversion &conversion, const Level &level)
 {
     Conversion *outer = runningConversion;
     runningConversion = &conversion;
-    const QJsonObject object = level.form->convert(conversion.item, level.context);
+    QJsonObject object = level.form->convert(conversion.item, level.context);
     runningConversion = outer;
     return object;
 }

@@ -116,6 +116,7 @@ QDomElement ZQTextBoxTran::tranJSON2IWB(QDomElement, QJsonObject json, QJsonObje
     document.appendChild(document.createElement(QStringLiteral("svg:textarea")));
     QDomElement area = ZQComItemControlTran::tranJSON2IWB(document.documentElement(), json, context);
 
+    // The host hands over the list and what frees it as addresses. NOLINTNEXTLINE(performance-no-int-to-ptr)
     auto *list = reinterpret_cast<IwbTextInfoList *>(addressFromText(json.value(listKey)));
     if (json.contains(QLatin1String("BoundingBox"))) {
         if (const auto box = boxFromText(json.value(QLatin1String("BoundingBox")).toString())) {
@@ -131,6 +132,7 @@ QDomElement ZQTextBoxTran::tranJSON2IWB(QDomElement, QJsonObject json, QJsonObje
         for (const IwbTextInfo &info : qAsConst(*list)) {
             area.appendChild(writeTextInfo(document.createElement(QStringLiteral("svg:tspan")), info, json, true));
         }
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         const auto destroy = reinterpret_cast<IwbTextInfoListDeleter>(addressFromText(json.value(deleterKey)));
         if (destroy) {
             destroy(list);
