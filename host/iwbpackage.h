@@ -3,11 +3,11 @@
 
 #include "iwbpage.h"
 #include "packagesource.h"
+#include "workfolder.h"
 
 #include <QHash>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 /*!
  * An opened IWB package: its content document, and the files that the document names. References that leave the package
@@ -38,7 +38,7 @@ private:
     QString saveEmbedded(const QString &uri);
 
     PackageSource m_source;
-    QTemporaryDir m_work;
+    WorkFolder m_work;
     QDomDocument m_document;
     QHash<QString, QString> m_embedded; // file on disk by path in the package
 };

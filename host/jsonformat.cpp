@@ -4,12 +4,12 @@
 #include "lessonerror.h"
 #include "packagenames.h"
 #include "packagetarget.h"
+#include "workfolder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -75,7 +75,7 @@ public:
     QString resourceFile(const QString &relativePath) override
     {
         if (!m_folder) {
-            m_folder = std::make_unique<QTemporaryDir>();
+            m_folder = std::make_unique<WorkFolder>();
         }
         const QString path = m_folder->filePath(relativePath);
         if (QFileInfo::exists(path)) {
@@ -105,7 +105,7 @@ private:
     JsonIndex m_index;
     QJsonObject m_presentation;
     QHash<QString, JsonIndex::Range> m_resources;
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WorkFolder> m_folder;
 };
 
 QByteArray compact(const QJsonValue &value)

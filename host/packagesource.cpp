@@ -40,7 +40,7 @@ PackageSource::PackageSource(const QString &path)
         m_directory = QDir(path).absolutePath();
         return;
     }
-    m_unpacked = std::make_unique<QTemporaryDir>();
+    m_unpacked = std::make_unique<WorkFolder>();
     if (!m_unpacked->isValid()) {
         throw LessonError(QStringLiteral("No temporary folder can be made: %1").arg(m_unpacked->errorString()),
                           QStringLiteral("Make room in the folder for temporary files"));

@@ -1,9 +1,10 @@
 #ifndef PACKAGESOURCE_H
 #define PACKAGESOURCE_H
 
+#include "workfolder.h"
+
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -35,7 +36,7 @@ public:
 private:
     QString m_path;
     QString m_directory;
-    std::unique_ptr<QTemporaryDir> m_unpacked;
+    std::unique_ptr<WorkFolder> m_unpacked;
 };
 
 #endif // PACKAGESOURCE_H

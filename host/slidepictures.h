@@ -2,9 +2,9 @@
 #define SLIDEPICTURES_H
 
 #include "lesson.h"
+#include "workfolder.h"
 
 #include <QSizeF>
-#include <QTemporaryDir>
 #include <QVector>
 
 /*!
@@ -40,7 +40,7 @@ public:
 private:
     LessonReader &m_reader;
     LessonContext m_context;
-    QTemporaryDir m_folder;
+    WorkFolder m_folder;
 };
 
 #endif // SLIDEPICTURES_H

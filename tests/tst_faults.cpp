@@ -1,4 +1,5 @@
 #include "hostfixture.h"
+#include "workfolder.h"
 #include "ziparchive.h"
 #include "ziptext.h"
 
@@ -71,6 +72,7 @@ class TestFaults : public QObject
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
+    QByteArray m_formerTemporary;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
@@ -103,6 +105,8 @@ private:
         return filesBelow(target);
     }
 
+    QStringList workFolders() const { return QDir(path("tmp")).entryList({"lessonconv*"_s}); }
+
     void addTargets()
     {
         const Table<QString> row("target");
@@ -116,8 +120,16 @@ private slots:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         putFile(path("old.json"), lessonText("old", 3));
+        m_formerTemporary = qgetenv("TMPDIR");
+        const QString temporary = path("tmp");
+        QVERIFY(QDir().mkdir(temporary) && QFile::setPermissions(temporary, QFile::Permissions(0x7777)));
+        qputenv("TMPDIR", QFile::encodeName(temporary));
     }
-    void cleanup() { m_folder.reset(); }
+    void cleanup()
+    {
+        m_formerTemporary.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", m_formerTemporary);
+        m_folder.reset();
+    }
 
     void runsOutOfSpace_data() { addTargets(); }
 
@@ -220,6 +232,18 @@ private slots:
         QCOMPARE(convert("new.json", target).exitCode, 0);
         QCOMPARE(contentOf(path(target)), whole);
         QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+        QCOMPARE(workFolders(), QStringList());
+    }
+
+    // What a dead run unpacked goes with the next run, and what a living one works in stays.
+    void sweepsWhatDeadRunsUnpacked()
+    {
+        QCOMPARE(convert("old.json", "in.zqtx").exitCode, 0);
+        QCOMPARE(convert("in.zqtx", "out.json", diePastSmallFiles).exitCode, -1);
+        QCOMPARE(workFolders().size(), 1);
+        const WorkFolder living;
+        QCOMPARE(convert("in.zqtx", "out.json").exitCode, 0);
+        QCOMPARE(workFolders(), QStringList(QFileInfo(living.path()).fileName()));
     }
 };
 
