@@ -393,7 +393,7 @@ QJsonObject SlideActivity::readFigure(const QDomElement &figure, const char *nam
 
 QString SlideActivity::readBackground(const QString &pic, bool isShared) const
 {
-    const QString canvasPath = m_canvasDirectory + pic;
+    QString canvasPath = m_canvasDirectory + pic;
     if (isShared) {
         return canvasPath;
     }

@@ -102,7 +102,7 @@ const MapType fromTxTypeFamilies[] = {
 template <std::size_t N> QString firstAnswer(const MapType (&families)[N], const QString &type)
 {
     for (const MapType mapType : families) {
-        const QString answer = mapType(type);
+        QString answer = mapType(type);
         if (!answer.isEmpty()) {
             return answer;
         }

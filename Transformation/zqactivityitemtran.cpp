@@ -174,7 +174,7 @@ QStringList ZQActivityItemTran::types()
 
 QString ZQActivityItemTran::toTxType(const QString &type)
 {
-    const QString txType = typePairs().toTxType(type);
+    QString txType = typePairs().toTxType(type);
     if (!txType.isEmpty()) {
         return txType;
     }
@@ -184,7 +184,7 @@ QString ZQActivityItemTran::toTxType(const QString &type)
 
 QString ZQActivityItemTran::fromTxType(const QString &type)
 {
-    const QString ownType = typePairs().fromTxType(type);
+    QString ownType = typePairs().fromTxType(type);
     if (!ownType.isEmpty()) {
         return ownType;
     }

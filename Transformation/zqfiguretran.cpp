@@ -81,7 +81,7 @@ QHash<QString, QString> readableTypes()
 {
     QHash<QString, QString> types;
     for (const QString &type : vocabulary().types()) {
-        types.insert(QLatin1String("Shape:") + type.mid(qstrlen("ZQShape")).toLower(), type);
+        types.insert(QLatin1String("Shape:") + type.mid(int(qstrlen("ZQShape"))).toLower(), type);
     }
     return types;
 }
