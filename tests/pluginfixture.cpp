@@ -9,6 +9,8 @@
 #include <QPluginLoader>
 #include <QVector>
 
+#include <ctime>
+
 QObject *pluginObject()
 {
     static QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
@@ -123,6 +125,14 @@ int messagesOf(const std::function<void()> &call)
     call();
     qInstallMessageHandler(former);
     return count;
+}
+
+bool takesTooLong(const std::function<void()> &call)
+{
+    // Processor time, since other programs may keep the machine.
+    const std::clock_t start = std::clock();
+    call();
+    return double(std::clock() - start) / CLOCKS_PER_SEC >= 2 * slowness;
 }
 
 void putFile(const QString &path, const QByteArray &content)

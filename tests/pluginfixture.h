@@ -40,6 +40,19 @@ QDomElement toSvg(const QJsonObject &item);
 //! How many messages a call leaves on Qt's log.
 int messagesOf(const std::function<void()> &call);
 
+//! How many times slower things go in this build than in one for users.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int slowness = 10;
+#elif !defined(__OPTIMIZE__)
+constexpr int slowness = 4;
+#else
+constexpr int slowness = 1;
+#endif
+
+//! Whether a call takes longer than it may, which is two seconds of processor time in a build for users. A busy machine
+//! is slow at times, so a call that fails here should get a second and a third try.
+bool takesTooLong(const std::function<void()> &call);
+
 //! Writes a file, with the folders on its way. Fails the program if it can't.
 void putFile(const QString &path, const QByteArray &content);
 

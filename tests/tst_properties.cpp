@@ -7,22 +7,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <ctime>
-
 #include <sys/resource.h>
 
 namespace {
 
 const int mebibyte = 1024 * 1024;
 
-// Seconds of a call, and bytes for all calls of an input. Sanitizers slow everything down and give memory back late.
-#ifdef __SANITIZE_ADDRESS__
-const double longestCall = 20;
-const qint64 mostOfMemory = qint64(4096) * mebibyte;
-#else
-const double longestCall = 2;
-const qint64 mostOfMemory = qint64(264) * mebibyte;
-#endif
+// For all calls of an input. Sanitizers give memory back late.
+const qint64 mostOfMemory = qint64(slowness == 1 ? 264 : 4096) * mebibyte;
 
 const QJsonObject pres{{"Version", "3.0"}};
 const QJsonObject itemContext{{"pres", pres}};
@@ -52,6 +44,34 @@ qint64 mostMemory()
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     return qint64(usage.ru_maxrss) * 1024;
+}
+
+// Every way that takes such an element, and what it gives written again: those that take too long.
+QStringList slowCalls(const QDomElement &element)
+{
+    QStringList slow;
+    const auto inTime = [&slow](const char *what, const auto &call) {
+        if (takesTooLong(call)) {
+            slow.append(QLatin1String(what));
+        }
+    };
+    QJsonObject json;
+    inTime("item", [&] { json = plugin()->tranItemZQTX2JSON(element, itemContext); });
+    inTime("item written", [&] { plugin()->tranItemJSON2ZQTX({}, json); });
+    inTime("slide", [&] { json = plugin()->tranSlideZQTX2JSON(element, {}); });
+    inTime("slide written", [&] { plugin()->tranSlideJSON2ZQTX({}, json); });
+    inTime("raw slide", [&] { json = plugin()->tranSlideXML2JSON(element, {}); });
+    inTime("raw slide written", [&] { plugin()->tranSlideJSON2ZQTX({}, json); });
+    inTime("raw item", [&] { json = plugin()->tranItemXML2JSON(element, itemContext); });
+    inTime("raw item in its slide", [&] {
+        plugin()->tranItemXML2JSON(xml("<ZQSmoothStroke NetID=\"1\"/>"), {{"slide", json}});
+    });
+    inTime("index", [&] { plugin()->tranPresZQTX2JSON(element, {}); });
+    inTime("page", [&] { plugin()->tranSlideIWB2JSON(element, element, {}); });
+    inTime("IWB item", [&] { json = plugin()->tranItemIWB2JSON(element, {}); });
+    QDomDocument document = plugin()->tranPresJSON2IWB({}, {});
+    inTime("IWB item written", [&] { plugin()->tranItemJSON2IWB(document, json); });
+    return slow;
 }
 
 } // namespace
@@ -165,35 +185,15 @@ private slots:
         row("polyline", "<svg:polyline points=%1/>"_s.arg(quoted(repeated("1,2 "_s))));
     }
 
-    // Every way that takes such an element, and what it gives written again.
     void takesAMebibyteOfAnything()
     {
         QFETCH(QString, text);
-        const QDomElement element = xml(text);
         const qint64 memoryBefore = mostMemory();
-        // Processor time, since other programs may keep the machine.
-        const auto inTime = [](const char *what, const auto &call) {
-            const std::clock_t start = std::clock();
-            call();
-            const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
-            QVERIFY2(seconds < longestCall, qPrintable("%1 took %2 s"_s.arg(QLatin1String(what)).arg(seconds)));
-        };
-        QJsonObject json;
-        inTime("item", [&] { json = plugin()->tranItemZQTX2JSON(element, itemContext); });
-        inTime("item written", [&] { plugin()->tranItemJSON2ZQTX({}, json); });
-        inTime("slide", [&] { json = plugin()->tranSlideZQTX2JSON(element, {}); });
-        inTime("slide written", [&] { plugin()->tranSlideJSON2ZQTX({}, json); });
-        inTime("raw slide", [&] { json = plugin()->tranSlideXML2JSON(element, {}); });
-        inTime("raw slide written", [&] { plugin()->tranSlideJSON2ZQTX({}, json); });
-        inTime("raw item", [&] { json = plugin()->tranItemXML2JSON(element, itemContext); });
-        inTime("raw item in its slide", [&] {
-            plugin()->tranItemXML2JSON(xml("<ZQSmoothStroke NetID=\"1\"/>"), {{"slide", json}});
-        });
-        inTime("index", [&] { plugin()->tranPresZQTX2JSON(element, {}); });
-        inTime("page", [&] { plugin()->tranSlideIWB2JSON(element, element, {}); });
-        inTime("IWB item", [&] { json = plugin()->tranItemIWB2JSON(element, {}); });
-        QDomDocument document = plugin()->tranPresJSON2IWB({}, {});
-        inTime("IWB item written", [&] { plugin()->tranItemJSON2IWB(document, json); });
+        QStringList slow;
+        for (int tries = 0; tries < 3 && (tries == 0 || !slow.isEmpty()); ++tries) {
+            slow = slowCalls(xml(text));
+        }
+        QCOMPARE(slow, QStringList());
         const qint64 memory = mostMemory() - memoryBefore;
         QVERIFY2(memory < mostOfMemory, qPrintable(QString::number(memory)));
     }
