@@ -17,7 +17,7 @@ namespace {
 // huge ones the header is believed, so that a small file can't fill the memory.
 QRect pictureRect(const QString &file)
 {
-    const qint64 largestLoaded = 16 * 1024 * 1024;
+    const qint64 largestLoaded = qint64(16) * 1024 * 1024;
     if (!isFile(file)) {
         return {0, 0, 0, 0};
     }

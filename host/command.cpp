@@ -164,7 +164,7 @@ int Command::run()
         print(m_parser.helpText());
         return words.isEmpty() && !isSet("help") ? NotDone : Done;
     }
-    const QString command = words.first();
+    const QString &command = words.first();
     const QStringList files = words.mid(1);
     if (command == QLatin1String("formats") && files.isEmpty()) {
         return formats();

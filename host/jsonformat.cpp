@@ -15,7 +15,7 @@ namespace {
 
 const QLatin1String itemsKey("Items");
 // A multiple of three, so that the base64 texts of chunks follow on each other.
-constexpr qint64 chunkSize = 3 * 64 * 1024;
+constexpr qint64 chunkSize = qint64(3) * 64 * 1024;
 
 class JsonReader : public LessonReader
 {

@@ -16,8 +16,8 @@ constexpr int maximumDepth = 2000;
 // As deep as Qt's own parser goes, less the brackets that are put around a value.
 constexpr int maximumParsedDepth = 1000;
 // Positions in a text that Qt parses are ints.
-constexpr qint64 maximumSize = 1024 * 1024 * 1024;
-constexpr qint64 pieceSize = 64 * 1024;
+constexpr qint64 maximumSize = qint64(1024) * 1024 * 1024;
+constexpr qint64 pieceSize = qint64(64) * 1024;
 constexpr int fileEnd = -1;
 
 bool isBlank(int c)

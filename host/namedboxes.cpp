@@ -134,8 +134,8 @@ void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
     } else {
         constexpr double height = 44;
         const int perColumn = qMax(1, int((m_svg.size().height() - 20) / (height + 8)));
-        box =
-            QRectF(12 + m_withoutPlace / perColumn * 372, 12 + m_withoutPlace % perColumn * (height + 8), 360, height);
+        const int column = m_withoutPlace / perColumn;
+        box = QRectF(12 + column * 372, 12 + m_withoutPlace % perColumn * (height + 8), 360, height);
         ++m_withoutPlace;
     }
     QDomElement frame =

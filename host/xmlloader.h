@@ -9,7 +9,7 @@
 //! each.
 constexpr int maximumXmlDepth = 1100;
 //! Larger XML files are refused, in bytes.
-constexpr qint64 maximumXmlSize = 256 * 1024 * 1024;
+constexpr qint64 maximumXmlSize = qint64(256) * 1024 * 1024;
 
 //! So are elements with more attributes: telling whether two have the same name takes time for each pair of them.
 constexpr int maximumXmlAttributes = 10000;
