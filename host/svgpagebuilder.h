@@ -66,7 +66,6 @@ private:
     QColor m_background;
     QString m_backgroundStem;
     bool m_hasBackground = false;
-    bool m_refusesPicture = false;
 };
 
 #endif // SVGPAGEBUILDER_H

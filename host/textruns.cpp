@@ -490,9 +490,13 @@ std::optional<IwbTextInfoList> takeTextRuns(QJsonObject &item)
     if (!listAddress) {
         return std::nullopt;
     }
-    const IwbTextInfoList runs = *reinterpret_cast<IwbTextInfoList *>(listAddress);
-    if (destroyerAddress) {
-        reinterpret_cast<IwbTextInfoListDeleter>(destroyerAddress)(reinterpret_cast<void *>(listAddress));
+    // The plug-in hands over the list and what frees it as addresses. NOLINTBEGIN(performance-no-int-to-ptr)
+    auto *list = reinterpret_cast<IwbTextInfoList *>(listAddress);
+    const auto destroy = reinterpret_cast<IwbTextInfoListDeleter>(destroyerAddress);
+    // NOLINTEND(performance-no-int-to-ptr)
+    const IwbTextInfoList runs = *list;
+    if (destroy) {
+        destroy(list);
     }
     return runs;
 }

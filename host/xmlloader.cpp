@@ -19,7 +19,7 @@ bool hasTooManyAttributes(const QByteArray &text)
     char quote = 0;
     for (const char c : text) {
         if (quote) {
-            quote = c == quote ? 0 : quote;
+            quote = c == quote ? '\0' : quote;
         } else if (c == '<' || c == '>') {
             isInTag = c == '<';
             quotes = 0;
@@ -164,7 +164,7 @@ QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
             .in(name);
     }
     if (file.size() > maximumXmlSize) {
-        throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / (1024 * 1024)),
+        throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024),
                           QStringLiteral("Check that this is a lesson"))
             .in(name);
     }

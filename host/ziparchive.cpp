@@ -22,8 +22,8 @@ constexpr int maximumEntries = 100000;
 constexpr qint64 maximumUnpackedSize = qint64(2) * 1024 * 1024 * 1024;
 // Text of strokes packs to about a tenth, empty pictures to about a hundredth. Small entries are let pass.
 constexpr qint64 maximumRatio = 1000;
-constexpr qint64 smallEntry = 1024 * 1024;
-constexpr qint64 chunkSize = 256 * 1024;
+constexpr qint64 smallEntry = qint64(1024) * 1024;
+constexpr qint64 chunkSize = qint64(256) * 1024;
 
 [[noreturn]] void refuse(const QString &archive, const QString &problem)
 {
