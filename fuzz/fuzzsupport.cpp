@@ -220,6 +220,7 @@ void releaseTextRuns(const QJsonObject &item)
     const auto list = address("IWB_TEXTINFO-VECTOR");
     const auto destroy = address("IWB_TEXTINFO-DELVECTOR");
     if (list && destroy) {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how the plug-in hands them over.
         reinterpret_cast<IwbTextInfoListDeleter>(destroy)(reinterpret_cast<void *>(list));
     }
 }
