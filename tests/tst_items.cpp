@@ -55,6 +55,10 @@ private slots:
         row("matrix is the fit", "", "Matrix", "1.40625,0,0,1.40625,0,0"_s);
         row("matrix times fit", "TransformMatrix='2,0,0,2,10,20'", "Matrix", "2.8125,0,0,2.8125,14.0625,28.125"_s);
         row("matrix too short", "TransformMatrix='2,0,0'", "Matrix", "2,0,0"_s);
+        row("halfway numbers are rounded away from zero", "TransformMatrix='1,0,0,1,210,-210'", "Matrix",
+            "1.40625,0,0,1.40625,295.313,-295.313"_s);
+        row("numbers in any form", "TransformMatrix=' 1,0,0,+1,1e1,.5'", "Matrix",
+            "1.40625,0,0,1.40625,14.0625,0.703125"_s);
     }
     void readsCommonRawKeys()
     {
