@@ -96,11 +96,14 @@ public:
             }
         }
         // Not before the loop runs: there may be nothing to wait for.
-        QTimer::singleShot(0, &m_loop, [this] {
+        QTimer begin;
+        begin.setSingleShot(true);
+        QObject::connect(&begin, &QTimer::timeout, [this] {
             for (Worker &worker : m_workers) {
                 giveNext(worker);
             }
         });
+        begin.start(0);
         m_loop.exec();
         for (Worker &worker : m_workers) {
             end(worker);
