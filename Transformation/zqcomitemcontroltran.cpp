@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cmath>
+#include <mutex>
 
 namespace {
 
@@ -142,11 +143,14 @@ SlideFit makeFit(const QString &sourceText)
     return fit;
 }
 
-// The items of a slide come one after the other, so the last fit is kept.
-const SlideFit &fitOf(const QJsonObject &slide)
+// The items of a slide come one after the other, so the last fit is kept, for all threads. One for each thread would have
+// to be destroyed by its thread before the plug-in could be unloaded.
+SlideFit fitOf(const QJsonObject &slide)
 {
-    thread_local SlideFit last = makeFit({});
+    static std::mutex mutex;
+    static SlideFit last = makeFit({});
     const QString source = slide.value(QLatin1String("SlideSourceRect")).toString();
+    const std::lock_guard<std::mutex> lock(mutex);
     if (source != last.source) {
         last = makeFit(source);
     }
@@ -182,7 +186,7 @@ QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject 
     const QJsonObject slide = context.value(QLatin1String("slide")).toObject();
     // The record of deleted pixels is meant without the s that its item type has.
     const bool isFitted = type != QLatin1String("ZQStrokeDeletePixel") && type != QLatin1String("ZQGroupItem");
-    const SlideFit *fit = isFitted ? &fitOf(slide) : nullptr;
+    const std::optional<SlideFit> fit = isFitted ? std::make_optional(fitOf(slide)) : std::nullopt;
     // Replacing values costs less than adding keys, so the keys of any item are there from the start.
     static const QJsonObject unfitted = unfittedItem();
     QJsonObject item = fit ? fit->item : unfitted;
