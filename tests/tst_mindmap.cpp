@@ -77,6 +77,9 @@ private slots:
             "<lineColor>ll</lineColor><visiable>1</visiable><childrenVisiable>0</childrenVisiable>"
             "<nodeHtml><![CDATA[<p>a & b</p>]]></nodeHtml><link/><shade>1</shade><stamp>8</stamp><attachments>"
             "<attachment type='t' path='p' name='n'/></attachments><childNodes/></node></mapItemInfo>");
+        QString marked = mapAround(node());
+        marked.replace("<title/>"_s, "<title><b/>x</title>"_s).replace("CDATA[", "CDATA[<p>");
+        row("texts of markup", "[{'title':'<b/>x'},{},{'nodeHtml':'<p>'}]", marked);
         row("the tree ends where a text breaks it", "[{'title':'a < b & c'},{},{}]",
             "<mapItemInfo><title>a </title></mapItemInfo>");
         row("nothing grows behind the item",
