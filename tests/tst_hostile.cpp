@@ -258,7 +258,7 @@ private slots:
             "");
         QByteArray wide = "<slide id=\"1\"";
         for (int i = 0; i < 1000000; ++i) {
-            wide += " a" + QByteArray::number(i) + "=\"\"";
+            wide += QByteArray(" a" + QByteArray::number(i) + "=\"\"");
         }
         row("a million attributes", "in/slides/1.xml", QByteArray(wide + "><items/></slide>"), "attributes");
         row("a million elements", "in/slides/1.xml",
