@@ -84,13 +84,17 @@ template <typename Function> auto guarded(const char *what, const Function &func
 }
 
 /*!
- * A translator's key maps, which its class keeps to itself.
+ * A translator's key maps, which its class keeps to itself, and the generic walks over them, to which the translator's
+ * own class adds nothing here.
  */
-struct TranslatorMaps : ZQHTran
+class GenericTranslator : public ZQHTran
 {
-    static const QJsonObject &xml(const ZQHTran &translator) { return translator.*&TranslatorMaps::xmlKeyMap; }
-    static const QJsonObject &tx(const ZQHTran &translator) { return translator.*&TranslatorMaps::txKeyMap; }
-    static const QJsonObject &iwb(const ZQHTran &translator) { return translator.*&TranslatorMaps::iwbKeyMap; }
+public:
+    explicit GenericTranslator(const ZQHTran &translator) { setKeyMaps((translator.*&GenericTranslator::keyMaps)()); }
+
+    const QJsonObject &xmlMap() const { return xmlKeyMap; }
+    const QJsonObject &txMap() const { return txKeyMap; }
+    const QJsonObject &iwbMap() const { return iwbKeyMap; }
 };
 
 #endif // FUZZSUPPORT_H

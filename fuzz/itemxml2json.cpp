@@ -13,7 +13,8 @@ void tryInput(const QByteArray &input)
     }
     if (const auto translator = createTranslator(element.nodeName())) {
         const QDomElement copy = element.cloneNode().toElement();
-        mustHoldAttributes(TranslatorMaps::xml(*translator), element, translator->ZQHTran::tranXML2JSON(copy, {}, {}));
+        GenericTranslator generic(*translator);
+        mustHoldAttributes(generic.xmlMap(), element, generic.tranXML2JSON(copy, {}, {}));
     }
     const QString before = treeText(element, "ID");
     const QJsonObject item =

@@ -12,8 +12,8 @@ void tryInput(const QByteArray &input)
         return;
     }
     if (const auto translator = createTranslator(element.attribute("type"))) {
-        mustHoldAttributes(TranslatorMaps::tx(*translator), element,
-                           translator->ZQHTran::tranZQTX2JSON(element, {}, {}));
+        GenericTranslator generic(*translator);
+        mustHoldAttributes(generic.txMap(), element, generic.tranZQTX2JSON(element, {}, {}));
     }
     const QString before = treeText(element);
     const auto read = [](const QDomElement &source) {

@@ -293,9 +293,9 @@ const QStringList &itemTypes()
 
 QJsonObject filledObject(const QString &type, const QString &value)
 {
-    const auto translator = createTranslator(type);
+    const GenericTranslator translator(*createTranslator(type));
     QJsonObject object;
-    for (const QJsonObject *map : {&TranslatorMaps::tx(*translator), &TranslatorMaps::iwb(*translator)}) {
+    for (const QJsonObject *map : {&translator.txMap(), &translator.iwbMap()}) {
         for (auto it = map->constBegin(); it != map->constEnd(); ++it) {
             object.insert(it.key(), value);
         }
@@ -315,8 +315,8 @@ QDomElement filledRawItem(const QString &type, const QString &value)
         return {};
     }
     QDomElement element = newElement(type);
-    const auto translator = createTranslator(type);
-    const QJsonObject &map = TranslatorMaps::xml(*translator);
+    const GenericTranslator translator(*createTranslator(type));
+    const QJsonObject &map = translator.xmlMap();
     for (auto it = map.constBegin(); it != map.constEnd(); ++it) {
         const QJsonArray path = it.value().toArray();
         QString first = path.at(0).toString();
