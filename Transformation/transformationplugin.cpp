@@ -69,7 +69,12 @@ QDomElement TransformationPlugin::tranItemJSON2ZQTX(QDomElement element, QJsonOb
     if (!translator) {
         return element;
     }
-    setType(json, jsonTypeToTxType(type));
+    const QString txType = jsonTypeToTxType(type);
+    if (json.contains(typeKey)) {
+        translator->writeType(txType);
+    } else {
+        json.insert(typeKey, txType);
+    }
     return translator->tranJSON2ZQTX(element, json, {});
 }
 

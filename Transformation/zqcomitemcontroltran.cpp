@@ -66,18 +66,10 @@ const QLatin1String visibleKey("Visible");
 const QLatin1String lockKey("LockIn");
 const QLatin1String cloneKey("InfiniteClone");
 
-// Visible is a boolean and true unless the text says 0; LockIn and InfiniteClone are "1" or "0".
-QJsonValue flagOfText(const QString &key, const QString &text)
+// LockIn and InfiniteClone as texts; Visible is a boolean.
+QString flagText(bool isSet)
 {
-    static const QJsonValue set = QStringLiteral("1");
-    static const QJsonValue unset = QStringLiteral("0");
-    const bool isSet = text.toInt() != 0;
-    return key == visibleKey ? QJsonValue(isSet) : isSet ? set : unset;
-}
-
-bool isFlag(const QString &key)
-{
-    return key == visibleKey || key == lockKey || key == cloneKey;
+    return isSet ? QStringLiteral("1") : QStringLiteral("0");
 }
 
 void normalizeFlag(QJsonObject &json, QLatin1String key)
@@ -87,7 +79,7 @@ void normalizeFlag(QJsonObject &json, QLatin1String key)
     if (text == QLatin1String("0") || text == QLatin1String("1")) {
         return;
     }
-    json.insert(key, text.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0"));
+    json.insert(key, flagText(text.toInt() != 0));
 }
 
 void normalizeFlags(QJsonObject &json)
@@ -127,7 +119,7 @@ QString fittedMatrix(const std::optional<QString> &text, const SlideFit &fit)
 
 QJsonObject unfittedItem()
 {
-    return {{typeKey, QString()}, {visibleKey, true}, {lockKey, QStringLiteral("0")}, {cloneKey, QStringLiteral("0")}};
+    return {{typeKey, QString()}, {visibleKey, true}, {lockKey, flagText(false)}, {cloneKey, flagText(false)}};
 }
 
 SlideFit makeFit(const QString &sourceText)
@@ -196,12 +188,12 @@ QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject 
     item = ZQHTran::tranXML2JSON(element, item, context);
     item.insert(typeKey, type);
     if (fit) {
-        m_rawPlace.matrix = fittedMatrix(m_rawPlace.matrix, *fit);
+        m_raw.matrix = fittedMatrix(m_raw.matrix, *fit);
     }
     if (foldsMatrixIntoBox) {
-        foldMatrix(m_rawPlace);
+        foldMatrix(m_raw);
     }
-    storePlace(item);
+    storeRawValues(item, json.isEmpty());
     readLink(item, slide);
     return item;
 }
@@ -281,12 +273,19 @@ QString ZQComItemControlTran::joinResourcePaths(const QString &files, QLatin1Cha
 
 void ZQComItemControlTran::storeRawText(const QString &key, const QString &text, QJsonObject &json)
 {
+    const auto isSet = [&text] { return text.toInt() != 0; };
     if (key == matrixKey) {
-        m_rawPlace.matrix = text;
+        m_raw.matrix = text;
     } else if (key == boxKey) {
-        m_rawPlace.box = boxOfBound(text);
+        m_raw.box = boxOfBound(text);
+    } else if (key == visibleKey) {
+        m_raw.isVisible = isSet();
+    } else if (key == lockKey) {
+        m_raw.isLocked = isSet();
+    } else if (key == cloneKey) {
+        m_raw.isCloned = isSet();
     } else {
-        json.insert(key, isFlag(key) ? flagOfText(key, text) : QJsonValue(text));
+        json.insert(key, text);
     }
 }
 
@@ -311,26 +310,37 @@ void ZQComItemControlTran::readNestedItems(const QDomElement &element, QJsonObje
     NestedItems::read(element, item, json, context, form);
 }
 
-void ZQComItemControlTran::storePlace(QJsonObject &json) const
+// Most flags are those of a new item, and to store what is there already costs as much as anything else.
+void ZQComItemControlTran::storeRawValues(QJsonObject &json, bool hasNewFlags) const
 {
-    if (m_rawPlace.matrix) {
-        json.insert(matrixKey, *m_rawPlace.matrix);
+    if (m_raw.matrix) {
+        json.insert(matrixKey, *m_raw.matrix);
     }
-    if (m_rawPlace.box) {
-        json.insert(boxKey, *m_rawPlace.box);
+    if (m_raw.box) {
+        json.insert(boxKey, *m_raw.box);
+    }
+    if (m_raw.isVisible && !(hasNewFlags && *m_raw.isVisible)) {
+        json.insert(visibleKey, *m_raw.isVisible);
+    }
+    if (m_raw.isLocked && !(hasNewFlags && !*m_raw.isLocked)) {
+        json.insert(lockKey, flagText(*m_raw.isLocked));
+    }
+    if (m_raw.isCloned && !(hasNewFlags && !*m_raw.isCloned)) {
+        json.insert(cloneKey, flagText(*m_raw.isCloned));
     }
 }
 
-void ZQComItemControlTran::foldMatrix(RawPlace &place)
+void ZQComItemControlTran::foldMatrix(RawValues &raw)
 {
-    if (!place.matrix || !place.box) {
+    if (!raw.matrix || !raw.box) {
         return;
     }
-    const auto matrix = matrixFromText(*place.matrix);
-    const auto box = boxFromText(*place.box);
+    const auto matrix = matrixFromText(*raw.matrix);
+    const auto box = boxFromText(*raw.box);
     if (matrix && box && matrix->m11() > 1.0) {
-        place.matrix = matrixToText(QMatrix());
-        place.box = boxToText(matrix->mapRect(*box));
+        static const QString identity = matrixToText(QMatrix());
+        raw.matrix = identity;
+        raw.box = boxToText(matrix->mapRect(*box));
     }
 }
 

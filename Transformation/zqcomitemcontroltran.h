@@ -39,7 +39,7 @@ public:
     static QString joinResourcePaths(const QString &files, QLatin1Char separator, const QString &directory);
 
 protected:
-    //! Stores flags in their final form, and keeps back what the item's place is made of.
+    //! Keeps back the flags and what the item's place is made of, which are stored in their final form at the end.
     void storeRawText(const QString &key, const QString &text, QJsonObject &json) override;
 
     //! The major version of the lesson, from "pres" in the context; 0 if it isn't told.
@@ -57,21 +57,24 @@ protected:
     bool foldsMatrixIntoBox = false;
 
 private:
-    // What the raw form says about an item's place.
-    struct RawPlace
+    // What the raw form says about an item's place and flags.
+    struct RawValues
     {
         std::optional<QString> matrix;
         std::optional<QString> box; //!< left, top, right, bottom
+        std::optional<bool> isVisible;
+        std::optional<bool> isLocked;
+        std::optional<bool> isCloned;
     };
 
-    static void foldMatrix(RawPlace &place);
-    void storePlace(QJsonObject &json) const;
+    static void foldMatrix(RawValues &raw);
+    void storeRawValues(QJsonObject &json, bool hasNewFlags) const;
     static void readLink(QJsonObject &json, const QJsonObject &slide);
     static void readItemAnimations(const QDomElement &element, QJsonObject &json);
     static void writeItemAnimations(QDomElement &element, const QJsonObject &json);
     static QDomElement animationGroupElement(const QString &name, const QJsonObject &animations);
 
-    RawPlace m_rawPlace;
+    RawValues m_raw;
 };
 
 #endif // ZQCOMITEMCONTROLTRAN_H

@@ -8,11 +8,13 @@
 
 namespace {
 
+const QLatin1String typeKey("Type");
+
 // Items of the mathematics box are left alone by the eraser. At this moment Type is still the ZQTX type.
 void ignoreEraserForMathematics(QJsonObject &json)
 {
     const QLatin1String ignoreEraser("IgnoreEraser");
-    if (json.value(QLatin1String("Type")).toString().contains(QLatin1String("Math")) && !json.contains(ignoreEraser)) {
+    if (json.value(typeKey).toString().contains(QLatin1String("Math")) && !json.contains(ignoreEraser)) {
         json.insert(ignoreEraser, true);
     }
 }
@@ -81,6 +83,11 @@ void ZQHTran::setKeyMaps(const KeyMaps &maps)
     m_keyMaps = &maps;
 }
 
+QString ZQHTran::writtenType(const QJsonObject &json) const
+{
+    return m_writtenType.isNull() ? json.value(typeKey).toString() : m_writtenType;
+}
+
 QString ZQHTran::nextGeneratedId()
 {
     // Unsigned arithmetic, so that a counter at its end wraps around.
@@ -132,7 +139,7 @@ void ZQHTran::readKeysFromTx(const QDomElement &element, QJsonObject &json) cons
     for (const KeyMap::Row &row : m_keyMaps->tx.rows()) {
         if (const auto text = places.text(row.path)) {
             json.insert(row.key, *text);
-            typeMayBeNew |= row.key == QLatin1String("Type");
+            typeMayBeNew |= row.key == typeKey;
         }
         if (typeMayBeNew && row.path.size() == 1) {
             typeMayBeNew = false;
@@ -152,12 +159,13 @@ void ZQHTran::writeKeysToTx(QDomElement &element, const QJsonObject &json) const
         if (!row) {
             continue;
         }
+        const QString text = row->key == typeKey ? writtenType(json) : it.value().toString();
         if (row->path.size() > 1) {
-            targets.write(row->path, it.value().toString());
+            targets.write(row->path, text);
         } else if (row->path.first() == QLatin1String("visible")) {
             element.setAttribute(row->path.first(), it.value().toBool() ? QStringLiteral("1") : QStringLiteral("0"));
         } else {
-            element.setAttribute(row->path.first(), it.value().toString());
+            element.setAttribute(row->path.first(), text);
         }
     }
 }

@@ -34,6 +34,10 @@ public:
     //! Writes the texts of json into a ZQTX element by txKeyMap and returns it. A null element takes nothing.
     virtual QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context);
 
+    //! Has the next writes to ZQTX take this type for that of their objects. To store it in an object would copy all
+    //! of the object's texts, since the caller holds it too.
+    void writeType(const QString &type) { m_writtenType = type; }
+
     //! Writes position, rotation and the one-segment keys of iwbKeyMap into an svg element and returns it.
     virtual QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context);
 
@@ -58,6 +62,9 @@ protected:
     //! Stores what a text of the raw form stands for: as a rule the text itself, under the key of its row.
     virtual void storeRawText(const QString &key, const QString &text, QJsonObject &json);
 
+    //! The type of an object that is written to ZQTX.
+    QString writtenType(const QJsonObject &json) const;
+
     //! A new ID: the milliseconds since 1970 plus a counter of this process, in decimal.
     static QString nextGeneratedId();
 
@@ -73,6 +80,7 @@ private:
     void writeKeysToTx(QDomElement &element, const QJsonObject &json) const;
 
     const KeyMaps *m_keyMaps = nullptr; //!< the three maps as the walks read them
+    QString m_writtenType; //!< null if each object's own type is written
 };
 
 #endif // ZQHTRAN_H

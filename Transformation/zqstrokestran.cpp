@@ -200,7 +200,7 @@ QDomElement ZQStrokesTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, 
             QStringLiteral(R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
                            R"(<transform><rotate angle="0"/></transform>)"
                            R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
-        element = (isFormula(json.value(QLatin1String("Type")).toString()) ? formula : stroke).instance();
+        element = (isFormula(writtenType(json)) ? formula : stroke).instance();
     }
     return ZQInkStrokeTran::tranJSON2ZQTX(element, json, context);
 }
