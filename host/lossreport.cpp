@@ -128,10 +128,16 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
 
 void LossReport::add(const Loss &loss)
 {
-    m_entries.append(loss);
+    // The entries of a large lesson differ in little but their places.
+    m_entries.append({loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail)});
     if (loss.kind != Loss::Kept && loss.kind != Loss::Note) {
         ++m_lossCount;
     }
+}
+
+QString LossReport::shared(const QString &text)
+{
+    return *m_texts.insert(text);
 }
 
 QString LossReport::summary() const

@@ -2,6 +2,7 @@
 #define LOSSREPORT_H
 
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -49,7 +50,10 @@ public:
     QJsonObject toJson() const;
 
 private:
+    QString shared(const QString &text);
+
     QVector<Loss> m_entries;
+    QSet<QString> m_texts; //!< each text of the entries that others may have too, once
     QString m_format;
     int m_lossCount = 0;
 };
