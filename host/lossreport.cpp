@@ -5,6 +5,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include <set>
+
 namespace {
 
 // Longer lists are cut in the summary; the JSON has every entry.
@@ -34,16 +36,29 @@ QString shortened(const QString &key)
     return key.size() <= longest ? key : key.left(longest / 2) + QLatin1String("...") + key.right(longest / 2);
 }
 
-QString place(const Loss &loss)
+QString name(const Loss &loss)
 {
     QString text = loss.itemType;
     if (!loss.key.isEmpty()) {
         text += (text.isEmpty() ? QString() : QStringLiteral(".")) + shortened(loss.key);
     }
-    if (loss.slide > 0) {
-        text += QLatin1String(" on slide ") + QString::number(loss.slide);
-    }
     return text;
+}
+
+// " on slide 3", " on slides 3 to 9" or " on 5 slides from 3 to 9"; nothing for the presentation alone.
+QString onSlides(const std::set<int> &slides)
+{
+    if (slides.empty() || *slides.rbegin() == 0) {
+        return {};
+    }
+    const int first = *slides.begin();
+    const int last = *slides.rbegin();
+    const int count = int(slides.size());
+    if (count == 1) {
+        return QStringLiteral(" on slide %1").arg(first);
+    }
+    return count == last - first + 1 ? QStringLiteral(" on slides %1 to %2").arg(first).arg(last)
+                                     : QStringLiteral(" on %1 slides from %2 to %3").arg(count).arg(first).arg(last);
 }
 
 QString named(const QStringList &names)
@@ -74,23 +89,37 @@ QString countedByType(const QVector<Loss> &losses)
     return named(texts);
 }
 
-QString listed(const QVector<Loss> &losses)
+enum class Details { Hidden, Shown };
+
+// What is the same but for its slide is named once, in the order in which it came up.
+QString listed(const QVector<Loss> &losses, Details details = Details::Hidden)
 {
-    QStringList places;
-    QHash<QString, int> counts;
+    struct Group
+    {
+        QString name;
+        QString detail;
+        std::set<int> slides;
+        int count = 0;
+    };
+    QVector<Group> groups;
+    QHash<QPair<QString, QString>, int> indexes;
     for (const Loss &loss : losses) {
-        const QString text = place(loss);
-        if (++counts[text] == 1) {
-            places.append(text);
+        const QPair<QString, QString> same(name(loss), details == Details::Shown ? QLatin1String(": ") + loss.detail : QString());
+        auto index = indexes.constFind(same);
+        if (index == indexes.constEnd()) {
+            index = indexes.insert(same, groups.size());
+            groups.append({same.first, same.second, {}, 0});
         }
+        Group &group = groups[*index];
+        group.slides.insert(loss.slide);
+        ++group.count;
     }
-    for (QString &text : places) {
-        const int count = counts.value(text);
-        if (count > 1) {
-            text += QStringLiteral(" (%1 times)").arg(count);
-        }
+    QStringList texts;
+    for (const Group &group : qAsConst(groups)) {
+        const QString times = group.count > 1 ? QStringLiteral(" (%1 times)").arg(group.count) : QString();
+        texts.append(group.name + onSlides(group.slides) + times + group.detail);
     }
-    return named(places);
+    return named(texts);
 }
 
 // "no IWB form", or "no form here" where the format has no name.
@@ -113,15 +142,12 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
         return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ")
             + countedByType(losses);
     case Loss::File:
-        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ") + listed(losses);
+        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
+            + listed(losses);
     case Loss::Note:
         break;
     }
-    QStringList texts;
-    for (const Loss &loss : losses) {
-        texts.append(place(loss) + QLatin1String(": ") + loss.detail);
-    }
-    return QLatin1String("Note: ") + named(texts);
+    return QLatin1String("Note: ") + listed(losses, Details::Shown);
 }
 
 } // namespace

@@ -145,6 +145,24 @@ private slots:
         items.read(xml(question.arg(answer + content)), {}, &check);
         QCOMPARE(losses.lossCount(), 2);
     }
+
+    void namesTheSameLossOnce()
+    {
+        LossReport losses;
+        losses.add({Loss::Value, 0, "presentation", {}, "Author", "A"});
+        for (const int slide : {2, 3, 3, 4}) {
+            losses.add({Loss::Value, slide, "ZQImagePic", {}, "Effect", QString::number(slide)});
+        }
+        losses.add({Loss::Value, 4, "ZQImagePic", {}, "Other", {}});
+        for (const int slide : {1, 5, 5}) {
+            losses.add({Loss::Note, slide, "ZQGroupItem", {}, {}, "taken apart"});
+        }
+        losses.add({Loss::Note, 5, "ZQGroupItem", {}, {}, "empty"});
+        QCOMPARE(losses.summary(),
+                 "6 values lost: presentation.Author, ZQImagePic.Effect on slides 2 to 4 (4 times), "
+                 "ZQImagePic.Other on slide 4\n"
+                 "Note: ZQGroupItem on 2 slides from 1 to 5 (3 times): taken apart, ZQGroupItem on slide 5: empty");
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHostValues)
