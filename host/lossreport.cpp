@@ -104,7 +104,8 @@ QString listed(const QVector<Loss> &losses, Details details = Details::Hidden)
     QVector<Group> groups;
     QHash<QPair<QString, QString>, int> indexes;
     for (const Loss &loss : losses) {
-        const QPair<QString, QString> same(name(loss), details == Details::Shown ? QLatin1String(": ") + loss.detail : QString());
+        const QPair<QString, QString> same(name(loss),
+                                           details == Details::Shown ? QLatin1String(": ") + loss.detail : QString());
         auto index = indexes.constFind(same);
         if (index == indexes.constEnd()) {
             index = indexes.insert(same, groups.size());
@@ -155,7 +156,8 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
 void LossReport::add(const Loss &loss)
 {
     // The entries of a large lesson differ in little but their places.
-    m_entries.append({loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail)});
+    m_entries.append(
+        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail)});
     if (loss.kind != Loss::Kept && loss.kind != Loss::Note) {
         ++m_lossCount;
     }
