@@ -97,7 +97,8 @@ void writePiece(const QJsonObject &json)
     }
     const QDomDocument document = plugin()->tranSlideJSON2ZQTX({}, json);
     QDomElement target = document.documentElement().firstChildElement(QStringLiteral("items"));
-    for (const QJsonValue &item : items->toArray()) {
+    const QJsonArray array = items->toArray();
+    for (const QJsonValue &item : array) {
         target.appendChild(plugin()->tranItemJSON2ZQTX({}, item.toObject()));
     }
 }

@@ -96,6 +96,7 @@ Cost costOf(const QStringList &command)
 {
     std::vector<QByteArray> words;
     std::vector<char *> arguments;
+    arguments.reserve(std::size_t(command.size()) + 1);
     for (const QString &word : command) {
         words.push_back(word.toLocal8Bit());
     }

@@ -79,7 +79,7 @@ __attribute__((visibility("default"))) int open64(const char *path, int flags, .
 #define WATCHED(name, parameters, arguments, path, what)                                                               \
     __attribute__((visibility("default"))) int name parameters                                                         \
     {                                                                                                                  \
-        static const auto next = original<int(*) parameters>(#name);                                                   \
+        static const auto next = original<decltype(&(name))>(#name);                                                   \
         check(path, what);                                                                                             \
         return next arguments;                                                                                         \
     }
