@@ -24,7 +24,11 @@ QString LessonError::message() const
         }
         text += QLatin1String(": ");
     }
-    text += m_problem + QLatin1Char('.');
+    text += m_problem;
+    // The words of a library may end with a mark of their own.
+    if (!text.endsWith(QLatin1Char('.')) && !text.endsWith(QLatin1Char('?'))) {
+        text += QLatin1Char('.');
+    }
     if (!m_remedy.isEmpty()) {
         text += QLatin1Char(' ') + m_remedy + QLatin1Char('.');
     }

@@ -299,6 +299,10 @@ void PackageTarget::commitDirectory(const std::function<bool(const QString &)> &
 void PackageTarget::commitArchive()
 {
     checkTargetIsNoFolder();
-    packZip(directory(), file());
+    try {
+        packZip(directory(), file());
+    } catch (LessonError &error) {
+        throw error.in(m_shownTarget);
+    }
     commitFile();
 }

@@ -18,11 +18,22 @@
 namespace {
 
 // No file may grow beyond this, as on a disk that is full. A lesson's small files fit.
-void allowSmallFilesOnly()
+void limitFiles(rlim_t bytes)
 {
-    const rlimit limit{16 * 1024, 16 * 1024};
+    const rlimit limit{bytes, bytes};
     ::setrlimit(RLIMIT_FSIZE, &limit);
     ::signal(SIGXFSZ, SIG_IGN);
+}
+
+void allowSmallFilesOnly()
+{
+    limitFiles(16 * 1024);
+}
+
+// So little room is noticed only when a buffer is flushed.
+void allowTinyFilesOnly()
+{
+    limitFiles(64);
 }
 
 void diePastSmallFiles()
@@ -31,6 +42,13 @@ void diePastSmallFiles()
     ::signal(SIGXFSZ, SIG_DFL);
     const rlimit noCore{0, 0};
     ::setrlimit(RLIMIT_CORE, &noCore);
+}
+
+// Keeps others from reading a file, and tells its permissions.
+QFile::Permissions ownerAlone(const QString &file)
+{
+    QFile::setPermissions(file, QFile::permissions(file) & ~(QFile::ReadGroup | QFile::ReadOther));
+    return QFile::permissions(file);
 }
 
 // To root, no file is protected.
@@ -141,19 +159,40 @@ private slots:
         QCOMPARE(convert("old.json", target).exitCode, 0);
         const auto before = contentOf(path(target));
 
-        const Command::Outcome full = convert("new", target, allowSmallFilesOnly);
-        QCOMPARE(full.exitCode, 2);
-        QCOMPARE(full.errors.count('\n'), 1);
-        QVERIFY2(full.errors.contains(target) && full.errors.contains("room"), qPrintable(full.errors));
-        QCOMPARE(contentOf(path(target)), before);
-        QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+        putFile(path("words.json"), "{\"Title\": \"no picture\", \"Slides\": [{\"ID\": \"1\"}]}");
+        for (const auto &full :
+             {convert("words.json", target, allowTinyFilesOnly), convert("new", target, allowSmallFilesOnly)}) {
+            QCOMPARE(full.exitCode, 2);
+            QCOMPARE(full.errors.count('\n'), 1);
+            QVERIFY2(full.errors.contains(target) && full.errors.contains("room"), qPrintable(full.errors));
+            QCOMPARE(contentOf(path(target)), before);
+            QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+        }
 
         // The same as a death in the middle of a write.
         QCOMPARE(convert("new", target, diePastSmallFiles).exitCode, -1);
         QCOMPARE(contentOf(path(target)), before);
+        const QFile::Permissions permissions = ownerAlone(path(target));
         QCOMPARE(convert("new", target).exitCode, 0);
         QVERIFY(contentOf(path(target)) != before);
+        QVERIFY(QFileInfo(path(target)).isDir() || QFile::permissions(path(target)) == permissions);
         QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+    }
+
+    // Each file has room, and the archive of both has not.
+    void runsOutOfSpaceForTheArchive()
+    {
+        std::minstd_rand random(7);
+        QByteArray noise(12 * 1024, 0);
+        std::generate(noise.begin(), noise.end(), [&random] { return char(random()); });
+        const QByteArray file = "\"" + noise.toBase64() + "\"";
+        putFile(path("pair.json"),
+                R"({"Slides": [{}], "Resources": {"images/a": )" + file + R"(, "images/b": )" + file + "}}");
+        QCOMPARE(convert("pair.json", "pair", allowSmallFilesOnly).exitCode, 0);
+        const Command::Outcome outcome = convert("pair", "out.zqtx", allowSmallFilesOnly);
+        QCOMPARE(outcome.exitCode, 2);
+        QVERIFY2(outcome.errors.startsWith("lessonconv: out.zqtx: "), qPrintable(outcome.errors));
+        QVERIFY(!QFileInfo::exists(path("out.zqtx")));
     }
 
     void leavesProtectedTargetsAlone_data() { addTargets(); }

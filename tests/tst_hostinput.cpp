@@ -178,6 +178,19 @@ private slots:
         }
     }
 
+    // Empty texts, lists and objects count as none; false and 0 are values.
+    void findsLostValuesOfEachKind()
+    {
+        putFile(path("in.json"), R"({"Version": "3.0", "Slides": [{"ID": "1", "Items": [{"Type": "ZQSmoothStroke",
+            "ID": "7", "A": 2.5, "B": true, "C": [1, [2]], "D": {"x": 1}, "E": "", "F": [], "G": {}, "H": null,
+            "I": false, "J": 0}]}]})");
+        QByteArray expected("lessonconv: 6 values lost");
+        for (const char key : {'A', 'B', 'C', 'D', 'I', 'J'}) {
+            expected += (key == 'A' ? ": ZQSmoothStroke." : ", ZQSmoothStroke.") + QByteArray(1, key) + " on slide 1";
+        }
+        QCOMPARE(convert("in.json", "out").errors, QString(expected + '\n'));
+    }
+
     void tellsLossesByExitCodeAndReport()
     {
         putFile(path("in.json"), R"({"Version": "3.0", "Slides": [{"ID": "1", "Items": [
