@@ -51,6 +51,7 @@ private slots:
     {
         const Table<QString, QStringList, Files> row("input", "words", "files");
         row("no such file", "none.zqtx", {"none.zqtx", "no such file"}, {});
+        row("name with a line break", "no\nne.zqtx", {"no ne.zqtx"}, {});
         row("not XML", "in", {"in/index.xml, line 2", "not well-formed"},
             {{"in/index.xml", "<main>\n<slides></main>"}});
         row("another document", "in", {"in/index.xml", "begins with <html>", "<main>"},
