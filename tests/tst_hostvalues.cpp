@@ -104,6 +104,17 @@ private slots:
         }
     }
 
+    void knowsWhatIsTheSame()
+    {
+        QVERIFY(isSameValue("Control"_s, "1.50,02", "1.5,2"));
+        QVERIFY(isSameValue("XY"_s, "1e1,3", "10,3"));
+        QVERIFY(!isSameValue("XY"_s, "10,3", "10,3,4"));
+        QVERIFY(!isSameValue("ArtObj_Width"_s, "1.50", "1.5"));
+        QVERIFY(isSameValue("Color"_s, "red", "#ffff0000"));
+        QVERIFY(isSameValue("ArtObj_Color"_s, "1,2,3", "255,1,2,3"));
+        QVERIFY(!isSameValue("ArtObj_Color"_s, "1,2,3", "254,1,2,3"));
+    }
+
     // Old lessons store points relative to the first one.
     void writesOffsetsForOldLessons()
     {

@@ -123,6 +123,19 @@ private slots:
         }
     }
 
+    // Twice as large and turned by 90 degrees: x is 100 - 2y, y is 50 + 2x. Points behind the first one are steps.
+    void inkIsPlaced()
+    {
+        putFile(path("in.json"),
+                R"({"Version":"3.0","Slides":[{"ID":"1","Items":[{"Type":"ZQSmoothStroke","ID":"7","XY":"10,20,1,2",)"
+                R"("Width":"2","BoundingBox":"10,20,11,22","Matrix":"0,2,-2,0,100,50"}]}]})");
+        convertedLesson(path("in.json"), path("package"), "zqtx");
+        const QJsonObject found = openLesson(path("package"))->slide(0).items.first().toObject();
+        QCOMPARE(
+            differences(found, {{"XY", "60,70,-4,2"}, {"Width", "4"}, {"BoundingBox", "56,70,60,72"}, {"Angle", "0"}}),
+            QString());
+    }
+
     void readsTheSameTwice()
     {
         const QString raw = path("raw.xml");

@@ -180,6 +180,7 @@ private slots:
         row("other vocabulary", "<x:y xmlns:x='urn:x'/>", "x:y : lessons have nothing like it");
         row("gradient", "<svg:circle r='1' fill='url(#g)'/>", "svg:circle : fill \"url(#g)\" (a gradient");
         row("round corners", "<svg:rect width='9' height='9' rx='2'/>", "svg:rect : its corners");
+        row("no size", "<svg:ellipse id='e' rx='3'/>", "svg:ellipse e: it has no size");
         row("odd points", "<svg:polyline points='1 2 3'/>", "svg:polyline : its last point has no y");
         row("clip", "<svg:g clip-path='url(#c)'/>", "svg:g : clip-path is left out");
         row("transform", "<svg:rect width='1' height='1' transform='bend(3)'/>", "svg:rect : transform \"bend(3)\"");
