@@ -74,6 +74,7 @@ private slots:
         json("cut JSON", {"in.json, line 1", "no end"}, "{\"Slides\": [{\"ID\": \"1");
         json("empty file", {"in.json", "ends too early"}, "");
         json("other JSON", {"in.json", "no \"Slides\""}, "{\"name\": \"lodash\"}");
+        json("name twice", {"in.json, line 2", "\"Slides\" twice"}, "{\"Slides\": [],\n\"Slides\": []}");
         json("item that is none", {"in.json, line 2", "item of slide 1"},
              "{\"Slides\": [\n{\"Items\": [\"circle\"]}]}");
         json("slide ID with a separator", {"out.zqtx", "../1", "slide 1"}, R"({"Slides": [{"ID": "../1"}]})");
