@@ -67,7 +67,7 @@ private slots:
         row("wrong root of a slide", "in", {"in/slides/1.xml", "<main>", "<slide>"},
             {indexOf("slides/1.xml"), {"in/slides/1.xml", "<main/>"}});
 
-        const auto json = [&row](const char *name, const QStringList &words, const char *text) {
+        const auto json = [&row](const char *name, const QStringList &words, const QByteArray &text) {
             row(name, "in.json", words, {{"in.json", text}});
         };
         json("not JSON", {"in.json, line 2", "not JSON"}, "{\"Slides\": [\n{\"ID\" \"1\"}]}");
@@ -77,6 +77,9 @@ private slots:
         json("name twice", {"in.json, line 2", "\"Slides\" twice"}, "{\"Slides\": [],\n\"Slides\": []}");
         json("item that is none", {"in.json, line 2", "item of slide 1"},
              "{\"Slides\": [\n{\"Items\": [\"circle\"]}]}");
+        const QByteArray group("{\"Type\": \"ZQGroupItem\", \"Children\": [");
+        json("groups in groups", {"out.zqtx/slides/1.xml", "slide 1", "deeper than 1100"},
+             "{\"Slides\": [{\"Items\": [" + group.repeated(560) + QByteArray("]}").repeated(560) + "]}]}");
         json("slide ID with a separator", {"out.zqtx", "../1", "slide 1"}, R"({"Slides": [{"ID": "../1"}]})");
         json("slide ID twice", {"out.zqtx", "\"a\"", "Slide 2"}, R"({"Slides": [{"ID": "a"}, {"ID": "a"}]})");
         json("resource out of the package", {"in.json, line 1", "../a.png", "leads out"},
