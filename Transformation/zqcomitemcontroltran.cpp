@@ -310,7 +310,8 @@ void ZQComItemControlTran::readNestedItems(const QDomElement &element, QJsonObje
     NestedItems::read(element, item, json, context, form);
 }
 
-// Most flags are those of a new item, and to store what is there already costs as much as anything else.
+// Most flags are those of a new item. If json has those already, they aren't stored again, which costs as much as a key
+// that differs.
 void ZQComItemControlTran::storeRawValues(QJsonObject &json, bool hasNewFlags) const
 {
     if (m_raw.matrix) {
@@ -319,13 +320,13 @@ void ZQComItemControlTran::storeRawValues(QJsonObject &json, bool hasNewFlags) c
     if (m_raw.box) {
         json.insert(boxKey, *m_raw.box);
     }
-    if (m_raw.isVisible && !(hasNewFlags && *m_raw.isVisible)) {
+    if (m_raw.isVisible && !(*m_raw.isVisible && hasNewFlags)) {
         json.insert(visibleKey, *m_raw.isVisible);
     }
-    if (m_raw.isLocked && !(hasNewFlags && !*m_raw.isLocked)) {
+    if (m_raw.isLocked && (*m_raw.isLocked || !hasNewFlags)) {
         json.insert(lockKey, flagText(*m_raw.isLocked));
     }
-    if (m_raw.isCloned && !(hasNewFlags && !*m_raw.isCloned)) {
+    if (m_raw.isCloned && (*m_raw.isCloned || !hasNewFlags)) {
         json.insert(cloneKey, flagText(*m_raw.isCloned));
     }
 }

@@ -17,7 +17,7 @@
 
 namespace {
 
-// No file may grow beyond this, as on a disk that is full. A lesson's small files fit.
+// No file may grow beyond this, as on a disk that is full.
 void limitFiles(rlim_t bytes)
 {
     const rlimit limit{bytes, bytes};
@@ -25,6 +25,7 @@ void limitFiles(rlim_t bytes)
     ::signal(SIGXFSZ, SIG_IGN);
 }
 
+// A lesson's small files fit.
 void allowSmallFilesOnly()
 {
     limitFiles(16 * 1024);
