@@ -1,9 +1,9 @@
 #include "fuzzsupport.h"
 
+#include "files/lessonerror.h"
+#include "files/xmlloader.h"
 #include "iwbtextinfo.h"
-#include "lessonerror.h"
 #include "writewatch.h"
-#include "xmlloader.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -18,6 +18,8 @@
 
 #include <sanitizer/allocator_interface.h>
 #include <sanitizer/lsan_interface.h>
+
+using namespace lessonhost;
 
 namespace {
 

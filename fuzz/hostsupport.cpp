@@ -1,14 +1,16 @@
 #include "hostsupport.h"
 
-#include "conversion.h"
+#include "files/lessonerror.h"
+#include "formats/conversion.h"
 #include "fuzzsupport.h"
-#include "lessonerror.h"
-#include "lossreport.h"
+#include "losses/lossreport.h"
 
 #include <QGuiApplication>
 
 #include <cstdio>
 #include <cstdlib>
+
+using namespace lessonhost;
 
 void startApplication()
 {

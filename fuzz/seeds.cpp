@@ -1,9 +1,9 @@
 #include "domhelpers.h"
+#include "files/ziparchive.h"
 #include "fuzzsupport.h"
 #include "hostsupport.h"
 #include "mutation.h"
 #include "translatorchains.h"
-#include "ziparchive.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -13,6 +13,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+
+using namespace lessonhost;
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t *, std::size_t size, std::size_t)
 {

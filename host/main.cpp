@@ -1,5 +1,5 @@
-#include "command.h"
-#include "lessonerror.h"
+#include "command/command.h"
+#include "files/lessonerror.h"
 
 #include <QGuiApplication>
 #include <QJsonDocument>
@@ -7,6 +7,8 @@
 #include <QLoggingCategory>
 
 #include <memory>
+
+using namespace lessonhost;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "hostfixture.h"
 
-#include "conversion.h"
+#include "formats/conversion.h"
 
 #include <QDir>
 

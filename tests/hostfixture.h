@@ -1,13 +1,15 @@
 #ifndef HOSTFIXTURE_H
 #define HOSTFIXTURE_H
 
-#include "lesson.h"
-#include "lessonerror.h"
-#include "lossreport.h"
+#include "files/lessonerror.h"
+#include "lesson/lesson.h"
+#include "losses/lossreport.h"
 #include "pluginfixture.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
+
+using namespace lessonhost;
 
 // What tests of the host share: conversions through its library and through the command.
 

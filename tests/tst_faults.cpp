@@ -1,6 +1,6 @@
+#include "files/workfolder.h"
+#include "files/ziparchive.h"
 #include "hostfixture.h"
-#include "workfolder.h"
-#include "ziparchive.h"
 #include "ziptext.h"
 
 #include <QBuffer>

@@ -1,5 +1,5 @@
+#include "files/xmlloader.h"
 #include "hostfixture.h"
-#include "xmlloader.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -1,5 +1,5 @@
+#include "files/ziparchive.h"
 #include "hostfixture.h"
-#include "ziparchive.h"
 #include "ziptext.h"
 
 #include <QDir>

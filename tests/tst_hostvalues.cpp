@@ -1,12 +1,14 @@
-#include "carriedcheck.h"
-#include "lossreport.h"
-#include "modelforms.h"
+#include "files/xmlloader.h"
+#include "files/xmltext.h"
+#include "formats/zqtxitems.h"
+#include "lesson/modelforms.h"
+#include "losses/carriedcheck.h"
+#include "losses/lossreport.h"
 #include "pluginfixture.h"
-#include "xmlloader.h"
-#include "xmltext.h"
-#include "zqtxitems.h"
 
 #include <QtTest>
+
+using namespace lessonhost;
 
 /*!
  * Values that the plug-in alone would lose or change on their way into ZQTX and back.

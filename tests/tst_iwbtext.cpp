@@ -1,7 +1,9 @@
+#include "lesson/textruns.h"
 #include "pluginfixture.h"
-#include "textruns.h"
 
 #include <QtTest>
+
+using namespace lessonhost;
 
 namespace {
 

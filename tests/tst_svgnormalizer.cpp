@@ -1,11 +1,13 @@
 #include "pluginfixture.h"
-#include "svgnormalizer.h"
-#include "svgvalues.h"
+#include "svg/svgnormalizer.h"
+#include "svg/svgvalues.h"
 
 #include <QDomDocument>
 #include <QtTest>
 
 #include <cmath>
+
+using namespace lessonhost;
 
 namespace {
 

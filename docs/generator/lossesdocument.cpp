@@ -1,8 +1,8 @@
 #include "documents.h"
 
-#include "conversion.h"
+#include "formats/conversion.h"
 #include "itemfamilies.h"
-#include "lossreport.h"
+#include "losses/lossreport.h"
 #include "sampleitems.h"
 #include "transformationplugin.h"
 #include "translatorchains.h"
@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+
+using namespace lessonhost;
 
 namespace {
 

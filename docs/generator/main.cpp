@@ -1,10 +1,12 @@
 #include "documents.h"
-#include "lessonerror.h"
+#include "files/lessonerror.h"
 
 #include <QFile>
 #include <QGuiApplication>
 
 #include <cstdio>
+
+using namespace lessonhost;
 
 namespace {
 

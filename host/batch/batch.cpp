@@ -1,0 +1,449 @@
+#include "batch/batch.h"
+
+#include "batch/batchjournal.h"
+#include "files/lessonerror.h"
+#include "files/packagetarget.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <algorithm>
+#include <csignal>
+#include <iostream>
+#include <numeric>
+#include <vector>
+
+#include <pthread.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String failureKey("failure");
+const QLatin1String inputKey("input");
+const QLatin1String lossesKey("losses");
+const QLatin1String outputKey("output");
+
+/*!
+ * Turns the signals that end a program into something to read, for the object's life. Worker processes that are started
+ * meanwhile don't see those of the terminal: whoever started them decides.
+ */
+class Interruptions
+{
+public:
+    Interruptions()
+    {
+        sigemptyset(&m_signals);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            sigaddset(&m_signals, signal);
+        }
+        pthread_sigmask(SIG_BLOCK, &m_signals, &m_before);
+        m_descriptor = signalfd(-1, &m_signals, SFD_CLOEXEC | SFD_NONBLOCK);
+    }
+    ~Interruptions()
+    {
+        signalfd_siginfo taken{};
+        while (read(m_descriptor, &taken, sizeof taken) > 0) { }
+        close(m_descriptor);
+        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    }
+    Interruptions(const Interruptions &) = delete;
+    Interruptions &operator=(const Interruptions &) = delete;
+
+    int descriptor() const { return m_descriptor; }
+
+private:
+    sigset_t m_signals{};
+    sigset_t m_before{};
+    int m_descriptor = -1;
+};
+
+class BatchRun
+{
+public:
+    BatchRun(const BatchPlan &plan, const BatchSettings &settings, const BatchWatcher &watcher)
+        : m_plan(plan)
+        , m_settings(settings)
+        , m_watcher(watcher)
+        , m_journal(settings.outputFolder, settings.fingerprint)
+        , m_states(plan.lessons.size())
+    {
+        m_result.lessons.resize(plan.lessons.size());
+    }
+
+    BatchResult run()
+    {
+        Interruptions interruptions;
+        QSocketNotifier notifier(interruptions.descriptor(), QSocketNotifier::Read);
+        QObject::connect(&notifier, &QSocketNotifier::activated, [this, &notifier] {
+            notifier.setEnabled(false);
+            interrupt();
+        });
+        QTimer redraw;
+        QObject::connect(&redraw, &QTimer::timeout, [this] { showProgress(); });
+        redraw.start(200);
+        m_workers.resize(std::size_t(qMin(m_settings.jobs, m_plan.lessons.size())));
+        if (m_settings.lessonSeconds > 0) {
+            for (Worker &worker : m_workers) {
+                limit(worker);
+            }
+        }
+        // Not before the loop runs: there may be nothing to wait for.
+        QTimer begin;
+        begin.setSingleShot(true);
+        QObject::connect(&begin, &QTimer::timeout, [this] {
+            for (Worker &worker : m_workers) {
+                giveNext(worker);
+            }
+        });
+        begin.start(0);
+        m_loop.exec();
+        for (Worker &worker : m_workers) {
+            end(worker);
+        }
+        if (!m_problem.isEmpty()) {
+            throw LessonError(QStringLiteral("A worker process can't be started: %1").arg(m_problem),
+                              QStringLiteral("Check that there is enough memory, or give fewer --jobs"));
+        }
+        return m_result;
+    }
+
+private:
+    struct Worker
+    {
+        std::unique_ptr<QProcess> process; // null before the first lesson and after a crash
+        int lesson = -1; // index in the plan
+        int answers = 0; // of this process
+        std::unique_ptr<QTimer> limit; // null where there is none
+        bool isLate = false; // its process is being ended
+    };
+
+    void limit(Worker &worker) const
+    {
+        worker.limit = std::make_unique<QTimer>();
+        worker.limit->setSingleShot(true);
+        worker.limit->setInterval(m_settings.lessonSeconds * 1000);
+        QObject::connect(worker.limit.get(), &QTimer::timeout, [&worker] {
+            worker.isLate = true;
+            worker.process->kill();
+        });
+    }
+
+    void start(Worker &worker)
+    {
+        worker.answers = 0;
+        worker.process = std::make_unique<QProcess>();
+        QProcess *process = worker.process.get();
+        process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        QObject::connect(process, &QProcess::readyReadStandardOutput, &m_loop, [this, &worker] { takeAnswer(worker); });
+        QObject::connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &m_loop,
+                         [this, &worker] { takeCrash(worker); });
+        QObject::connect(process, &QProcess::errorOccurred, &m_loop, [this, process](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart) {
+                m_problem = process->errorString();
+                m_loop.quit();
+            }
+        });
+        process->start(QCoreApplication::applicationFilePath(), m_settings.workerArguments);
+    }
+
+    // Skips what is done, and ends the run when there is nothing left and nobody works.
+    void giveNext(Worker &worker)
+    {
+        worker.lesson = -1;
+        while (m_next < m_plan.lessons.size() && m_settings.resume && isDoneBefore(m_next)) {
+            ++m_next;
+        }
+        if (m_next < m_plan.lessons.size()) {
+            worker.lesson = m_next++;
+            request(worker);
+            return;
+        }
+        const auto isIdle = [](const Worker &one) { return one.lesson < 0; };
+        if (std::all_of(m_workers.cbegin(), m_workers.cend(), isIdle)) {
+            m_loop.quit();
+        }
+    }
+
+    bool isDoneBefore(int index)
+    {
+        const QJsonObject losses = m_journal.doneBefore(m_plan.lessons.at(index));
+        if (losses.isEmpty()) {
+            return false;
+        }
+        m_result.lessons[index].state = BatchResult::DoneBefore;
+        m_result.lessons[index].losses = losses;
+        ++m_done;
+        return true;
+    }
+
+    QString outputOf(int index) const
+    {
+        return m_settings.outputFolder + QLatin1Char('/') + m_plan.lessons.at(index).output;
+    }
+
+    void request(Worker &worker)
+    {
+        const BatchPlan::Lesson &lesson = m_plan.lessons.at(worker.lesson);
+        m_states[worker.lesson] = m_journal.stateOf(lesson);
+        m_name = lesson.input;
+        showProgress();
+        const QString output = outputOf(worker.lesson);
+        QDir().mkpath(QFileInfo(output).path()); // if not, the worker says so
+        if (!worker.process) {
+            start(worker);
+        }
+        if (worker.limit) {
+            worker.limit->start();
+        }
+        const QJsonObject line{{inputKey, lesson.input}, {outputKey, output}};
+        worker.process->write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+    }
+
+    void takeAnswer(Worker &worker)
+    {
+        while (worker.lesson >= 0 && worker.process->canReadLine()) {
+            const QJsonObject answer = QJsonDocument::fromJson(worker.process->readLine()).object();
+            if (answer.contains(failureKey)) {
+                fail(worker.lesson, answer.value(failureKey).toString());
+            } else if (answer.contains(lossesKey)) {
+                succeed(worker.lesson, answer);
+            } else {
+                continue; // something that a library printed
+            }
+            ++worker.answers;
+            rest(worker);
+            giveNext(worker);
+        }
+    }
+
+    // It is done with its lesson, one way or the other.
+    static void rest(Worker &worker)
+    {
+        worker.isLate = false;
+        if (worker.limit) {
+            worker.limit->stop();
+        }
+    }
+
+    void takeCrash(Worker &worker)
+    {
+        const bool isLate = worker.isLate;
+        rest(worker);
+        // It is the one who is speaking.
+        worker.process.release()->deleteLater();
+        if (worker.lesson < 0 || m_result.isInterrupted) {
+            return;
+        }
+        PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
+        if (isLate) {
+            fail(worker.lesson,
+                 LessonError(QStringLiteral("The conversion took longer than %1 s").arg(m_settings.lessonSeconds),
+                             QStringLiteral("The other lessons are not concerned. Give this one more time with "
+                                            "--lesson-timeout, or convert it without"))
+                     .in(m_plan.lessons.at(worker.lesson).input)
+                     .message());
+            giveNext(worker);
+            return;
+        }
+        if (worker.answers > 0) {
+            // Maybe an earlier lesson did it: this one gets a process that knows no other.
+            request(worker);
+            return;
+        }
+        fail(worker.lesson,
+             LessonError(QStringLiteral("The converter broke down over this lesson"),
+                         QStringLiteral("The other lessons are not concerned. Please send this one to the makers"))
+                 .in(m_plan.lessons.at(worker.lesson).input)
+                 .message());
+        giveNext(worker);
+    }
+
+    void succeed(int index, const QJsonObject &losses)
+    {
+        BatchResult::Lesson &lesson = m_result.lessons[index];
+        lesson.state = BatchResult::Converted;
+        lesson.losses = losses;
+        QJsonObject remembered = losses;
+        remembered.remove(QLatin1String("entries"));
+        m_journal.note(m_plan.lessons.at(index), m_states.at(index), remembered);
+        ++m_done;
+    }
+
+    void fail(int index, const QString &message)
+    {
+        m_result.lessons[index].state = BatchResult::Failed;
+        m_result.lessons[index].message = message;
+        ++m_done;
+        m_watcher.failure(message);
+    }
+
+    void interrupt()
+    {
+        m_result.isInterrupted = true;
+        for (Worker &worker : m_workers) {
+            if (worker.process) {
+                worker.process->kill();
+            }
+        }
+        m_loop.quit();
+    }
+
+    void end(Worker &worker)
+    {
+        if (!worker.process) {
+            return;
+        }
+        worker.process->disconnect();
+        worker.process->closeWriteChannel();
+        worker.process->waitForFinished();
+        if (worker.lesson >= 0) {
+            PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
+        }
+    }
+
+    void showProgress() { m_watcher.progress(m_done, m_plan.lessons.size(), m_name); }
+
+    const BatchPlan &m_plan;
+    const BatchSettings &m_settings;
+    const BatchWatcher &m_watcher;
+    BatchJournal m_journal;
+    BatchResult m_result;
+    QVector<QString> m_states; // of the lessons before their conversion
+    QString m_name;
+    QString m_problem;
+    QEventLoop m_loop;
+    std::vector<Worker> m_workers;
+    int m_next = 0;
+    int m_done = 0;
+};
+
+QString counted(int count, const char *what)
+{
+    return QString::number(count) + QLatin1Char(' ') + QLatin1String(what);
+}
+
+QLatin1String stateName(BatchResult::State state)
+{
+    switch (state) {
+    case BatchResult::Converted:
+        return QLatin1String("converted");
+    case BatchResult::DoneBefore:
+        return QLatin1String("done before");
+    case BatchResult::Failed:
+        return QLatin1String("failed");
+    case BatchResult::Open:
+        break;
+    }
+    return QLatin1String("open");
+}
+
+} // namespace
+
+int BatchResult::count(State state) const
+{
+    return int(std::count_if(lessons.cbegin(), lessons.cend(),
+                             [state](const Lesson &lesson) { return lesson.state == state; }));
+}
+
+int BatchResult::lossCount() const
+{
+    return std::accumulate(lessons.cbegin(), lessons.cend(), 0,
+                           [](int sum, const Lesson &lesson) { return sum + lesson.lossCount(); });
+}
+
+int BatchResult::lessonsWithLosses() const
+{
+    return int(
+        std::count_if(lessons.cbegin(), lessons.cend(), [](const Lesson &lesson) { return lesson.lossCount() > 0; }));
+}
+
+QString BatchResult::summary(const BatchPlan &plan, bool hasReport) const
+{
+    QStringList parts{counted(count(Converted), "converted")};
+    for (const auto &[state, what] :
+         {std::pair(DoneBefore, "done before"), {Failed, "not converted"}, {Open, "not begun"}}) {
+        if (count(state) > 0) {
+            parts.append(counted(count(state), what));
+        }
+    }
+    QString text = counted(lessons.size(), lessons.size() == 1 ? "lesson: " : "lessons: ")
+        + parts.join(QLatin1String(", ")) + QLatin1String(".\n");
+    if (const int concerned = lessonsWithLosses()) {
+        text += QStringLiteral("%1 lost something, %2 in all; %3 names each.\n")
+                    .arg(counted(concerned, concerned == 1 ? "lesson" : "lessons"),
+                         counted(lossCount(), lossCount() == 1 ? "value, item or file" : "values, items or files"),
+                         hasReport ? QStringLiteral("the report") : QStringLiteral("--report FILE"));
+    }
+    if (!plan.passedOver.isEmpty()) {
+        text += plan.passedOver.size() == 1
+            ? QStringLiteral("1 file is called like a lesson and is none: %1.\n").arg(plan.passedOver.first())
+            : QStringLiteral("%1 files are called like lessons and are none, such as %2.\n")
+                  .arg(plan.passedOver.size())
+                  .arg(plan.passedOver.first());
+    }
+    if (isInterrupted) {
+        text += QLatin1String("Interrupted. The same command with --resume does the rest.\n");
+    }
+    return text;
+}
+
+QJsonObject BatchResult::toJson(const BatchPlan &plan) const
+{
+    QJsonArray list;
+    for (int i = 0; i < lessons.size(); ++i) {
+        const Lesson &lesson = lessons.at(i);
+        QJsonObject entry{{inputKey, plan.lessons.at(i).input},
+                          {outputKey, plan.lessons.at(i).output},
+                          {QStringLiteral("state"), stateName(lesson.state)}};
+        if (lesson.state == Failed) {
+            entry.insert(QStringLiteral("message"), lesson.message);
+        } else if (lesson.state != Open) {
+            entry.insert(lossesKey, lesson.losses);
+        }
+        list.append(entry);
+    }
+    QJsonObject counts{{lossesKey, lossCount()}, {QStringLiteral("with losses"), lessonsWithLosses()}};
+    for (const State state : {Converted, DoneBefore, Failed, Open}) {
+        counts.insert(stateName(state), count(state));
+    }
+    return {{QStringLiteral("counts"), counts},
+            {QStringLiteral("interrupted"), isInterrupted},
+            {QStringLiteral("lessons"), list},
+            {QStringLiteral("passedOver"), QJsonArray::fromStringList(plan.passedOver)}};
+}
+
+BatchResult runBatch(const BatchPlan &plan, const BatchSettings &settings, const BatchWatcher &watcher)
+{
+    return BatchRun(plan, settings, watcher).run();
+}
+
+void serveBatch(const std::function<QJsonObject(const QString &, const QString &)> &convert)
+{
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        const QJsonObject request = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
+        QJsonObject answer;
+        try {
+            answer = convert(request.value(inputKey).toString(), request.value(outputKey).toString());
+        } catch (const LessonError &error) {
+            answer.insert(failureKey, error.message());
+        } catch (const std::exception &error) {
+            answer.insert(
+                failureKey,
+                QStringLiteral("Something unexpected happened: %1").arg(QString::fromLocal8Bit(error.what())));
+        }
+        std::cout << QJsonDocument(answer).toJson(QJsonDocument::Compact).constData() << std::endl;
+    }
+}
+
+} // namespace lessonhost

@@ -1,0 +1,48 @@
+#ifndef BATCHJOURNAL_H
+#define BATCHJOURNAL_H
+
+#include "batch/batchplan.h"
+
+#include <QFile>
+#include <QHash>
+#include <QJsonObject>
+
+namespace lessonhost {
+
+/*!
+ * What runs over many lessons have done in a folder, kept there in the file ".lessonconv-done": a line of JSON a
+ * lesson, written when its result is in place. A run that is killed loses at most its last line, and with it the
+ * knowledge that one lesson is done. Of several lines about a result the last one counts.
+ */
+class BatchJournal
+{
+public:
+    //! settings: whatever makes the same lesson give another result, such as the version. Throws LessonError.
+    BatchJournal(const QString &outputFolder, const QByteArray &settings);
+
+    //! What note() was given when the result was made, if neither the lesson, nor the settings, nor the result have
+    //! changed since; otherwise an empty object.
+    QJsonObject doneBefore(const BatchPlan::Lesson &lesson);
+
+    //! Remembers the lesson as it was when doneBefore() or stateOf() was asked before the conversion.
+    void note(const BatchPlan::Lesson &lesson, const QString &state, const QJsonObject &result);
+
+    //! Sizes and times of all files of a lesson, as a short text.
+    QString stateOf(const BatchPlan::Lesson &lesson);
+
+private:
+    QString pathOf(const BatchPlan::Lesson &lesson) const;
+    void read();
+    void dropOldLines();
+
+    QString m_folder;
+    QByteArray m_settings;
+    QFile m_file;
+    QHash<QString, QJsonObject> m_lines; // by output
+    int m_lineCount = 0; // in the file
+    QHash<QString, QByteArray> m_folderStates; // folders that many files share
+};
+
+} // namespace lessonhost
+
+#endif // BATCHJOURNAL_H

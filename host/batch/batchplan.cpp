@@ -1,0 +1,184 @@
+#include "batch/batchplan.h"
+
+#include "files/lessonerror.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+const LessonFormat *formatOf(const QFileInfo &entry)
+{
+    for (const LessonFormat &format : lessonFormats()) {
+        if (format.recognizes && format.recognizes(entry.filePath())) {
+            return &format;
+        }
+    }
+    const QString extension = entry.suffix().toLower();
+    for (const LessonFormat &format : lessonFormats()) {
+        if (entry.isFile() && format.extensions.contains(extension)) {
+            return &format;
+        }
+    }
+    return nullptr;
+}
+
+// The name without its ending, if that is the one of a format: "Lesson 1.2" keeps its number.
+QString stemOf(const QString &path)
+{
+    const QString extension = QFileInfo(path).suffix();
+    const auto &formats = lessonFormats();
+    const bool isKnown = std::any_of(formats.cbegin(), formats.cend(), [&extension](const LessonFormat &format) {
+        return format.extensions.contains(extension.toLower());
+    });
+    return isKnown ? path.chopped(extension.size() + 1) : path;
+}
+
+class Planner
+{
+public:
+    Planner(const LessonFormat *from, const LessonFormat &to, const QString &outputFolder)
+        : m_from(from)
+        , m_extension(QLatin1Char('.') + to.extensions.first())
+        , m_output(QFileInfo(outputFolder).absoluteFilePath())
+        , m_shownOutput(outputFolder)
+    {
+        const QString canonical = QFileInfo(outputFolder).canonicalFilePath();
+        if (!canonical.isEmpty()) {
+            m_output = canonical;
+        }
+    }
+
+    void addLesson(const QString &input, const QString &place, const LessonFormat *format)
+    {
+        const QString canonical = QFileInfo(input).canonicalFilePath();
+        if (!canonical.isEmpty()) {
+            if (m_seen.contains(canonical)) {
+                return;
+            }
+            m_seen.insert(canonical);
+        }
+        m_plan.lessons.append({input, place, format});
+    }
+
+    void searchFolder(const QString &folder, const QString &place)
+    {
+        const QString own = QFileInfo(folder).canonicalFilePath();
+        if (own == m_output || own.startsWith(m_output + QLatin1Char('/'))) {
+            throw LessonError(QStringLiteral("The results would lie among the lessons"),
+                              QStringLiteral("Give another folder with --out-dir"))
+                .in(m_shownOutput);
+        }
+        // A stack of its own: folders may lie in each other deeper than calls may.
+        QVector<QPair<QString, QString>> waiting{{folder, place}};
+        while (!waiting.isEmpty()) {
+            const auto [path, placeOfPath] = waiting.takeLast();
+            const QFileInfoList entries = QDir(path).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
+            for (const QFileInfo &entry : entries) {
+                const QString entryPlace = placeOfPath + entry.fileName();
+                if (!addIfLesson(entry, entryPlace) && entry.isDir() && !entry.isSymLink()
+                    && entry.canonicalFilePath() != m_output) {
+                    waiting.append({entry.filePath(), entryPlace + QLatin1Char('/')});
+                }
+            }
+        }
+    }
+
+    BatchPlan take()
+    {
+        nameResults();
+        auto &lessons = m_plan.lessons;
+        std::sort(lessons.begin(), lessons.end(), [](const BatchPlan::Lesson &one, const BatchPlan::Lesson &other) {
+            return one.output < other.output;
+        });
+        m_plan.passedOver.sort();
+        return m_plan;
+    }
+
+private:
+    bool addIfLesson(const QFileInfo &entry, const QString &place)
+    {
+        const LessonFormat *format = formatOf(entry);
+        if (!format || (m_from && format != m_from) || (entry.isDir() && entry.isSymLink())) {
+            return false;
+        }
+        if (entry.isFile() && format->mayBe && !format->mayBe(entry.filePath())) {
+            m_plan.passedOver.append(entry.filePath());
+        } else {
+            addLesson(entry.filePath(), place, format);
+        }
+        return true;
+    }
+
+    // Until here the results are called like the lessons.
+    void nameResults()
+    {
+        const auto resultOf = [this](const QString &place) { return QString(stemOf(place) + m_extension); };
+        // Some file systems don't tell small letters from capitals.
+        QHash<QString, int> counts;
+        for (const BatchPlan::Lesson &lesson : qAsConst(m_plan.lessons)) {
+            ++counts[resultOf(lesson.output).toCaseFolded()];
+        }
+        QHash<QString, QString> inputs;
+        for (BatchPlan::Lesson &lesson : m_plan.lessons) {
+            const QString result = resultOf(lesson.output);
+            lesson.output = counts.value(result.toCaseFolded()) == 1 ? result : QString(lesson.output + m_extension);
+            const QString folded = lesson.output.toCaseFolded();
+            if (inputs.contains(folded)) {
+                throw LessonError(QStringLiteral("This lesson and %1 would both be written as %2")
+                                      .arg(inputs.value(folded), lesson.output),
+                                  QStringLiteral("Rename one of them, or convert them into different folders"))
+                    .in(lesson.input);
+            }
+            inputs.insert(folded, lesson.input);
+            if (QFileInfo(lesson.input).canonicalFilePath() == m_output + QLatin1Char('/') + lesson.output) {
+                throw LessonError(QStringLiteral("The result would take the place of the lesson itself"),
+                                  QStringLiteral("Give another folder with --out-dir"))
+                    .in(lesson.input);
+            }
+        }
+    }
+
+    BatchPlan m_plan;
+    QSet<QString> m_seen; // canonical paths
+    const LessonFormat *m_from;
+    QString m_extension; // with its point
+    QString m_output; // canonical, if it exists
+    QString m_shownOutput;
+};
+
+} // namespace
+
+BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const LessonFormat &to,
+                    const QString &outputFolder)
+{
+    Planner planner(from, to, outputFolder);
+    const auto isFolderToSearch = [](const QString &input) {
+        const QFileInfo info(input);
+        return info.isDir() && !formatOf(info);
+    };
+    const bool isOneFolder = std::count_if(inputs.cbegin(), inputs.cend(), isFolderToSearch) == 1;
+    for (const QString &input : inputs) {
+        const QString name = QFileInfo(QDir::cleanPath(QFileInfo(input).absoluteFilePath())).fileName();
+        if (isFolderToSearch(input)) {
+            planner.searchFolder(QDir::cleanPath(input), isOneFolder ? QString() : QString(name + QLatin1Char('/')));
+        } else {
+            planner.addLesson(input, name, from ? from : formatOf(QFileInfo(input)));
+        }
+    }
+    BatchPlan plan = planner.take();
+    if (plan.lessons.isEmpty()) {
+        throw LessonError(QStringLiteral("There are no lessons in it"),
+                          QStringLiteral("See lessonconv formats for the names that lessons have"))
+            .in(inputs.join(QLatin1String(", ")));
+    }
+    return plan;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,42 @@
+#ifndef BATCHPLAN_H
+#define BATCHPLAN_H
+
+#include "lesson/lesson.h"
+
+#include <QVector>
+
+namespace lessonhost {
+
+/*!
+ * Which lessons a run over many converts, and where each goes.
+ */
+struct BatchPlan
+{
+    struct Lesson
+    {
+        QString input; //!< as the user called it, or the folder as the user called it and the way from there
+        QString output; //!< relative to the folder for the results, with "/" between the parts
+        const LessonFormat *format = nullptr; //!< null where none can be told: reading it will say so
+    };
+
+    QVector<Lesson> lessons; //!< ascending by output
+    QStringList passedOver; //!< files in folders that have the name of a lesson and are something else
+};
+
+/*!
+ * Looks for lessons and names their results.
+ *
+ * A given folder that is no lesson itself is searched with all its folders, links and hidden entries left out; a lesson
+ * that is a folder is one lesson and not searched. What is found in a folder keeps its way from there; with several
+ * folders, each result lies in a folder of that name. A lesson that is met twice is converted once. Where two lessons
+ * would have one name, such as a.zqtx and a.json, both keep the ending that they have: a.zqtx.iwb and a.json.iwb.
+ *
+ * from: the format of all inputs, or null to tell it from each. Throws LessonError where results can't be kept apart,
+ * the results would lie among the lessons, or there is no lesson.
+ */
+BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const LessonFormat &to,
+                    const QString &outputFolder);
+
+} // namespace lessonhost
+
+#endif // BATCHPLAN_H

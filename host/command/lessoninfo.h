@@ -1,0 +1,42 @@
+#ifndef LESSONINFO_H
+#define LESSONINFO_H
+
+#include "lesson/lesson.h"
+
+#include <QMap>
+
+namespace lessonhost {
+
+/*!
+ * What a lesson holds, counted.
+ */
+struct LessonInfo
+{
+    QString title;
+    QString version;
+    QString width;
+    QString height;
+    int slides = 0;
+    QMap<QString, int> items; //!< by type, nested ones too
+    QMap<QString, int> unknownItems; //!< by type: kept as they came
+    int mindMapNodes = 0;
+    int cards = 0;
+    int questions = 0;
+    QMap<QString, int> activities; //!< by kind
+    int triggers = 0;
+    int animatedItems = 0;
+    int resources = 0;
+    qint64 resourceBytes = 0;
+    QStringList missingFiles; //!< named by the lesson and not there
+
+    int itemCount() const;
+    QString toText() const;
+    QJsonObject toJson() const;
+};
+
+//! Throws LessonError.
+LessonInfo lessonInfo(LessonReader &reader, const std::function<void(int done, int total)> &progress);
+
+} // namespace lessonhost
+
+#endif // LESSONINFO_H

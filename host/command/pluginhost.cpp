@@ -1,0 +1,58 @@
+#include "command/pluginhost.h"
+
+#include "files/lessonerror.h"
+#include "izqtransformation.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String pluginFile("libzqtransformation.so");
+
+} // namespace
+
+PluginHost::PluginHost(const QString &path)
+{
+    QString file = path;
+    if (file.isEmpty()) {
+        for (const QString &place : usualPlaces()) {
+            const QString candidate = place + QLatin1Char('/') + pluginFile;
+            if (QFileInfo(candidate).isFile()) {
+                file = candidate;
+                break;
+            }
+        }
+        if (file.isEmpty()) {
+            throw LessonError(QStringLiteral("The plug-in %1 was not found").arg(pluginFile),
+                              QStringLiteral("Build the project, or say where the plug-in is with --plugin"));
+        }
+    }
+    if (!QFileInfo(file).isFile()) {
+        throw LessonError(QStringLiteral("There is no such plug-in"),
+                          QStringLiteral("Check the path given to --plugin"))
+            .in(file);
+    }
+    m_loader.setFileName(QFileInfo(file).absoluteFilePath());
+    m_plugin = qobject_cast<IZQTransformation *>(m_loader.instance());
+    if (!m_plugin) {
+        throw LessonError(m_loader.isLoaded()
+                              ? QStringLiteral("This plug-in converts no lessons")
+                              : QStringLiteral("The plug-in can't be loaded: %1").arg(m_loader.errorString()),
+                          QStringLiteral("Build the plug-in again with the same Qt as the command"))
+            .in(file);
+    }
+}
+
+QStringList PluginHost::usualPlaces()
+{
+    const QString beside = QCoreApplication::applicationDirPath();
+    return {QDir::cleanPath(beside + QLatin1String("/../lib")),
+            QDir::cleanPath(beside + QLatin1String("/../" PLUGIN_FOLDER_BELOW_PREFIX)),
+            QStringLiteral(INSTALLED_PLUGIN_FOLDER), beside + QLatin1String("/zqtransformation")};
+}
+
+} // namespace lessonhost

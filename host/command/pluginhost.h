@@ -1,0 +1,34 @@
+#ifndef PLUGINHOST_H
+#define PLUGINHOST_H
+
+#include <QPluginLoader>
+#include <QStringList>
+
+class IZQTransformation;
+
+namespace lessonhost {
+
+/*!
+ * Finds and loads the plug-in. The plug-in stays loaded to the end of the process.
+ */
+class PluginHost
+{
+public:
+    //! path: the plug-in's file, or empty to look in the usual places. Throws LessonError.
+    explicit PluginHost(const QString &path = {});
+
+    IZQTransformation *plugin() const { return m_plugin; }
+    QString fileName() const { return m_loader.fileName(); }
+
+    //! Where the plug-in is looked for: beside the build's command, then in the folder of the
+    //! installation, wherever that was moved to as a whole.
+    static QStringList usualPlaces();
+
+private:
+    QPluginLoader m_loader;
+    IZQTransformation *m_plugin = nullptr;
+};
+
+} // namespace lessonhost
+
+#endif // PLUGINHOST_H

@@ -1,0 +1,33 @@
+#ifndef PROGRESSBAR_H
+#define PROGRESSBAR_H
+
+#include <QElapsedTimer>
+#include <QString>
+
+namespace lessonhost {
+
+/*!
+ * A bar on the terminal's error output for work that takes a while. Nothing is shown where that is no terminal.
+ */
+class ProgressBar
+{
+public:
+    explicit ProgressBar(bool isWanted);
+    ~ProgressBar();
+    ProgressBar(const ProgressBar &) = delete;
+    ProgressBar &operator=(const ProgressBar &) = delete;
+
+    //! what: what is counted, such as "slides"; name: what is being worked on, cut to the width of the terminal.
+    void show(int done, int total, const char *what = "slides", const QString &name = {});
+    void clear();
+
+private:
+    bool m_isShown = false; // something stands on the line
+    bool m_isWanted;
+    QElapsedTimer m_sinceStart;
+    QElapsedTimer m_sinceShown;
+};
+
+} // namespace lessonhost
+
+#endif // PROGRESSBAR_H

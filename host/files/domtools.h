@@ -1,0 +1,23 @@
+#ifndef DOMTOOLS_H
+#define DOMTOOLS_H
+
+#include <QDomElement>
+#include <QVector>
+
+namespace lessonhost {
+
+//! The first direct child element of that tag that has child nodes, or that has none, or null.
+QDomElement childWithContent(const QDomElement &parent, const QString &tag, bool withChildren);
+
+//! An element that belongs to a document which it keeps alive.
+QDomElement looseElement(const QString &tag);
+
+//! Takes child elements out of their parent, from first on.
+QVector<QDomElement> takeElements(QDomElement parent, QDomElement first);
+
+//! The levels of elements, 1 for an element without child elements. Needs no stack.
+int elementDepth(const QDomElement &root);
+
+} // namespace lessonhost
+
+#endif // DOMTOOLS_H

@@ -1,0 +1,85 @@
+#include "files/packagenames.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+constexpr int maximumPathLength = 1024;
+constexpr int maximumNameBytes = 255;
+
+bool hasControlCharacter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(), [](QChar c) {
+        // Directional marks can make a name look like another one.
+        return c.category() == QChar::Other_Control || (c >= QChar(0x202a) && c <= QChar(0x202e))
+            || (c >= QChar(0x2066) && c <= QChar(0x2069));
+    });
+}
+
+// CON, PRN, AUX, NUL, COM1 to COM9, LPT1 to LPT9, also with an extension.
+bool isDeviceName(const QString &name)
+{
+    const QString base = name.section(QLatin1Char('.'), 0, 0).toUpper();
+    static const QStringList plain{QStringLiteral("CON"), QStringLiteral("PRN"), QStringLiteral("AUX"),
+                                   QStringLiteral("NUL")};
+    if (plain.contains(base)) {
+        return true;
+    }
+    return base.size() == 4 && (base.startsWith(QLatin1String("COM")) || base.startsWith(QLatin1String("LPT")))
+        && base.at(3) >= QLatin1Char('1') && base.at(3) <= QLatin1Char('9');
+}
+
+} // namespace
+
+QString problemWithFileName(const QString &name)
+{
+    if (name.isEmpty()) {
+        return QStringLiteral("it is empty");
+    }
+    if (name == QLatin1String(".") || name == QLatin1String("..")) {
+        return QStringLiteral("it leads out of the package");
+    }
+    if (name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\'))) {
+        return QStringLiteral("it contains a separator of folders");
+    }
+    if (name.contains(QLatin1Char(':'))) {
+        return QStringLiteral("it contains a colon");
+    }
+    if (hasControlCharacter(name)) {
+        return QStringLiteral("it contains control characters");
+    }
+    if (isDeviceName(name)) {
+        return QStringLiteral("it is the name of a device");
+    }
+    if (name.toUtf8().size() > maximumNameBytes) {
+        return QStringLiteral("it is too long");
+    }
+    return {};
+}
+
+QString problemWithPackagePath(const QString &path)
+{
+    if (path.isEmpty()) {
+        return QStringLiteral("it is empty");
+    }
+    if (path.size() > maximumPathLength) {
+        return QStringLiteral("it is too long");
+    }
+    if (path.startsWith(QLatin1Char('/'))) {
+        return QStringLiteral("it is an absolute path");
+    }
+    const QStringList parts = path.split(QLatin1Char('/'));
+    for (const QString &part : parts) {
+        const QString problem = problemWithFileName(part);
+        if (!problem.isEmpty()) {
+            return part.isEmpty() ? QStringLiteral("it has an empty part") : problem;
+        }
+    }
+    return {};
+}
+
+} // namespace lessonhost

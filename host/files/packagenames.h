@@ -1,0 +1,18 @@
+#ifndef PACKAGENAMES_H
+#define PACKAGENAMES_H
+
+#include <QString>
+
+namespace lessonhost {
+
+//! Why a name in an archive or document can't be a path inside a package, as a clause such as "it leads out of the
+//! package"; empty for a good one. Good: relative, "/" between parts, no "." or ".." part, no backslash, drive letter,
+//! control character or name that a system keeps for devices, at most 1024 characters.
+QString problemWithPackagePath(const QString &path);
+
+//! The same for a single part, such as the identifier of a slide that names a file.
+QString problemWithFileName(const QString &name);
+
+} // namespace lessonhost
+
+#endif // PACKAGENAMES_H

@@ -1,0 +1,46 @@
+#ifndef PACKAGESOURCE_H
+#define PACKAGESOURCE_H
+
+#include "files/workfolder.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace lessonhost {
+
+/*!
+ * A package to read: a directory as it is, or an archive unpacked into a temporary directory for the object's life.
+ *
+ * Archives come from strangers. Entries that are absolute, lead out of the package, are links or devices, repeat a
+ * name, or unpack to more than an honest lesson needs are refused, and nothing of the archive is used.
+ */
+class PackageSource
+{
+public:
+    //! Throws LessonError.
+    explicit PackageSource(const QString &path);
+
+    //! What the user called it, for messages.
+    QString path() const { return m_path; }
+    //! The directory on disk, without a separator at its end.
+    QString directory() const { return m_directory; }
+
+    bool contains(const QString &relativePath) const;
+    //! The file on disk. Throws LessonError for a path that is unsafe, leads through a link, or isn't a file here.
+    QString file(const QString &relativePath) const;
+    //! Name for messages: the package and the path inside.
+    QString displayName(const QString &relativePath) const;
+    //! All files, ascending, relative to the package. Links are left out.
+    QStringList files() const;
+
+private:
+    QString m_path;
+    QString m_directory;
+    std::unique_ptr<WorkFolder> m_unpacked;
+};
+
+} // namespace lessonhost
+
+#endif // PACKAGESOURCE_H

@@ -1,0 +1,184 @@
+#include "files/xmltext.h"
+
+#include <QDomElement>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+bool isXmlCharacter(const QString &text, int i)
+{
+    const QChar c = text.at(i);
+    if (c.isHighSurrogate()) {
+        return i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+    }
+    if (c.isLowSurrogate()) {
+        return i > 0 && text.at(i - 1).isHighSurrogate();
+    }
+    const ushort code = c.unicode();
+    return (code >= 0x20 && code < 0xfffe) || code == '\t' || code == '\n' || code == '\r';
+}
+
+// Line breaks and tabs are only kept by parsers where they are written as references: all of them in attributes, in
+// texts the carriage return.
+void appendEscaped(QString &out, const QString &text, bool isAttribute)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        switch (c.unicode()) {
+        case '&':
+            out += QLatin1String("&amp;");
+            break;
+        case '<':
+            out += QLatin1String("&lt;");
+            break;
+        case '>':
+            out += QLatin1String("&gt;");
+            break;
+        case '"':
+            out += isAttribute ? QStringLiteral("&quot;") : QStringLiteral("\"");
+            break;
+        case '\r':
+            out += QLatin1String("&#13;");
+            break;
+        case '\n':
+            out += isAttribute ? QStringLiteral("&#10;") : QStringLiteral("\n");
+            break;
+        case '\t':
+            out += isAttribute ? QStringLiteral("&#9;") : QStringLiteral("\t");
+            break;
+        default:
+            if (isXmlCharacter(text, i)) {
+                out += c;
+            }
+        }
+    }
+}
+
+QStringList orderedNames(const QDomNamedNodeMap &attributes)
+{
+    QStringList names;
+    for (int i = 0; i < attributes.count(); ++i) {
+        names.append(attributes.item(i).nodeName());
+    }
+    const auto rank = [](const QString &name) {
+        return name == QLatin1String("id") ? 0 : name == QLatin1String("type") ? 1 : 2;
+    };
+    std::sort(names.begin(), names.end(), [&rank](const QString &one, const QString &other) {
+        return std::make_pair(rank(one), one) < std::make_pair(rank(other), other);
+    });
+    return names;
+}
+
+bool holdsText(const QDomElement &element)
+{
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isText()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void startLine(QString &out, int depth)
+{
+    out += QLatin1Char('\n') + QString(depth, QLatin1Char(' '));
+}
+
+// depth below 0: no line breaks, as within an element that holds text.
+void appendElement(QString &out, const QDomElement &element, int depth)
+{
+    out += QLatin1Char('<') + element.tagName();
+    const QDomNamedNodeMap attributes = element.attributes();
+    const QStringList names = orderedNames(attributes);
+    for (const QString &name : names) {
+        out += QLatin1Char(' ') + name + QLatin1String("=\"");
+        appendEscaped(out, attributes.namedItem(name).nodeValue(), true);
+        out += QLatin1Char('"');
+    }
+    if (!element.hasChildNodes()) {
+        out += QLatin1String("/>");
+        return;
+    }
+    out += QLatin1Char('>');
+    const int childDepth = depth < 0 || holdsText(element) ? -1 : depth + 1;
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isCDATASection()) {
+            out += QLatin1String("<![CDATA[") + escapedForCData(child.nodeValue()) + QLatin1String("]]>");
+        } else if (child.isText()) {
+            appendEscaped(out, child.nodeValue(), false);
+        } else if (child.isElement()) {
+            if (childDepth >= 0) {
+                startLine(out, childDepth);
+            }
+            appendElement(out, child.toElement(), childDepth);
+        }
+    }
+    if (childDepth >= 0) {
+        startLine(out, depth);
+    }
+    out += QLatin1String("</") + element.tagName() + QLatin1Char('>');
+}
+
+} // namespace
+
+QByteArray xmlDocumentText(const QDomElement &root)
+{
+    QString out = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+    appendElement(out, root, 0);
+    out += QLatin1Char('\n');
+    return out.toUtf8();
+}
+
+QByteArray xmlLines(const QDomElement &element, int depth)
+{
+    QString out;
+    startLine(out, depth);
+    appendElement(out, element, depth);
+    return out.toUtf8();
+}
+
+QString xmlNodeText(const QDomElement &element)
+{
+    QString out;
+    appendElement(out, element, -1);
+    return out;
+}
+
+QString escapedForXml(const QString &text)
+{
+    QString out;
+    out.reserve(text.size() + text.size() / 8);
+    appendEscaped(out, text, true);
+    return out;
+}
+
+QString escapedForCData(const QString &text)
+{
+    if (text.contains(QLatin1Char('\r'))) {
+        // Only a reference keeps it, and only a node of text can hold one. All of the text goes there, since a node of
+        // blanks alone would be dropped.
+        return QLatin1String("]]>") + escapedForXml(text) + QLatin1String("<![CDATA[");
+    }
+    QString out;
+    out.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        if (isXmlCharacter(text, i)) {
+            out += text.at(i);
+        }
+    }
+    return out.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
+}
+
+bool isXmlName(const QString &text)
+{
+    static const QRegularExpression name(
+        QStringLiteral("\\A[A-Za-z_\\x{4e00}-\\x{9fa5}][A-Za-z0-9_.\\x{4e00}-\\x{9fa5}-]*\\z"));
+    return name.match(text).hasMatch();
+}
+
+} // namespace lessonhost

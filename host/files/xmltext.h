@@ -1,0 +1,30 @@
+#ifndef XMLTEXT_H
+#define XMLTEXT_H
+
+#include <QByteArray>
+#include <QDomNode>
+#include <QString>
+
+namespace lessonhost {
+
+// XML as text. The same tree always gives the same bytes, and every character that XML can hold comes back.
+
+//! A document in UTF-8 with its declaration, or a node alone. Attributes stand in ascending order behind id and type;
+//! elements that hold only elements are indented, those with text are left as they are.
+QByteArray xmlDocumentText(const QDomElement &root);
+//! An element as it stands in xmlDocumentText() below so many others: the line break and blanks before it, and itself.
+QByteArray xmlLines(const QDomElement &element, int depth);
+QString xmlNodeText(const QDomElement &element);
+
+//! For pasting into the text of an element or an attribute between double quotes. What XML can't hold is left out.
+QString escapedForXml(const QString &text);
+
+//! For pasting between "<![CDATA[" and "]]>": sections are closed and opened again around what they can't hold.
+QString escapedForCData(const QString &text);
+
+//! True for what can name an element or an attribute, in ASCII and common Chinese.
+bool isXmlName(const QString &text);
+
+} // namespace lessonhost
+
+#endif // XMLTEXT_H

@@ -1,0 +1,79 @@
+#include "formats/conversion.h"
+
+#include "files/lessonerror.h"
+#include "lesson/activitypictures.h"
+#include "lesson/modelforms.h"
+#include "losses/lossreport.h"
+
+#include <QMap>
+#include <QSet>
+
+namespace lessonhost {
+
+namespace {
+
+void reportKeptItems(const QJsonArray &items, int slide, LossReport *losses)
+{
+    for (const QJsonValue &value : items) {
+        const QJsonObject item = value.toObject();
+        if (item.contains(HostKeys::keptXml)) {
+            Loss kept;
+            kept.kind = Loss::Kept;
+            kept.slide = slide;
+            kept.itemType = item.value(QLatin1String("Type")).toString();
+            kept.itemId = item.value(QLatin1String("ID")).toString();
+            losses->add(kept);
+        }
+        reportKeptItems(item.value(HostKeys::children).toArray(), slide, losses);
+    }
+}
+
+} // namespace
+
+void checkCanWrite(const LessonFormat &format, const QString &output)
+{
+    if (!format.canWrite()) {
+        throw LessonError(QStringLiteral("The format \"%1\" can't be written").arg(format.name),
+                          QStringLiteral("See lessonconv formats"))
+            .in(output);
+    }
+}
+
+void convertLesson(const LessonFormat &from, const QString &input, const LessonFormat &to, const QString &output,
+                   const LessonContext &context, const Progress &progress)
+{
+    if (!from.canRead()) {
+        throw LessonError(QStringLiteral("The format \"%1\" can't be read").arg(from.name),
+                          QStringLiteral("See lessonconv formats"))
+            .in(input);
+    }
+    checkCanWrite(to, output);
+    const auto reader = from.open(input, context);
+    const auto writer = to.create(output, context);
+    writer->begin(reader->presentation());
+    const QStringList resources = reader->resources();
+    QSet<QString> added;
+    for (const QString &resource : resources) {
+        writer->addResource(resource, reader->resourceFile(resource));
+        added.insert(resource);
+    }
+    const int count = reader->slideCount();
+    for (int i = 0; i < count; ++i) {
+        const LessonSlide slide = reader->slide(i);
+        if (context.losses) {
+            reportKeptItems(slide.items, i + 1, context.losses);
+        }
+        const QMap<QString, QString> pictures = picturesInData(slide.properties);
+        for (auto it = pictures.constBegin(); it != pictures.constEnd(); ++it) {
+            if (!added.contains(it.key())) {
+                writer->addResource(it.key(), it.value());
+                added.insert(it.key());
+            }
+        }
+        writer->writeSlide(slide);
+        progress(i + 1, count);
+    }
+    writer->finish();
+}
+
+} // namespace lessonhost

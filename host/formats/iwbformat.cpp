@@ -1,0 +1,27 @@
+#include "formats/lessonformats.h"
+
+#include "iwb/iwbpackage.h"
+#include "iwb/iwbreader.h"
+#include "iwb/iwbwriter.h"
+
+namespace lessonhost {
+
+LessonFormat iwbFormat()
+{
+    LessonFormat format;
+    format.name = QStringLiteral("iwb");
+    format.extensions = QStringList{QStringLiteral("iwb")};
+    format.description =
+        QStringLiteral("interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb");
+    format.recognizes = isIwbFolder;
+    format.measuresText = true;
+    format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
+        return std::make_unique<IwbReader>(path, context);
+    };
+    format.create = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonWriter> {
+        return std::make_unique<IwbWriter>(path, context);
+    };
+    return format;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,233 @@
+#include "formats/lessonformats.h"
+
+#include "files/lessonerror.h"
+#include "files/packagenames.h"
+#include "files/packagetarget.h"
+#include "files/workfolder.h"
+#include "formats/jsonindex.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String itemsKey("Items");
+// A multiple of three, so that the base64 texts of chunks follow on each other.
+constexpr qint64 chunkSize = qint64(3) * 64 * 1024;
+
+class JsonReader : public LessonReader
+{
+public:
+    explicit JsonReader(const QString &path)
+        : m_path(path)
+        , m_index(path)
+    {
+        for (const auto &member : qAsConst(m_index.members)) {
+            m_presentation.insert(member.first, m_index.value(member.second));
+        }
+        for (const auto &resource : qAsConst(m_index.resources)) {
+            const QString problem = problemWithPackagePath(resource.first);
+            if (!problem.isEmpty()) {
+                m_index.fail(QStringLiteral("The resource \"%1\" can't be used: %2").arg(resource.first, problem),
+                             resource.second.begin);
+            }
+            if (m_resources.contains(resource.first)) {
+                m_index.fail(QStringLiteral("The resource \"%1\" is there twice").arg(resource.first),
+                             resource.second.begin);
+            }
+            m_resources.insert(resource.first, resource.second);
+        }
+    }
+
+    QJsonObject presentation() override { return m_presentation; }
+    int slideCount() override { return m_index.slides.size(); }
+
+    LessonSlide slide(int index) override
+    {
+        const JsonIndex::Range range = m_index.slides.at(index);
+        const QJsonValue value = m_index.value(range);
+        LessonSlide slide;
+        slide.properties = value.toObject();
+        const QJsonValue items = slide.properties.take(itemsKey);
+        if (!value.isObject() || !(items.isArray() || items.isUndefined())) {
+            m_index.fail(QStringLiteral("Slide %1 is no object with a list of items").arg(index + 1), range.begin);
+        }
+        slide.items = items.toArray();
+        for (const QJsonValue &item : qAsConst(slide.items)) {
+            if (!item.isObject()) {
+                m_index.fail(QStringLiteral("An item of slide %1 is no object").arg(index + 1), range.begin);
+            }
+        }
+        return slide;
+    }
+
+    QStringList resources() override
+    {
+        QStringList paths;
+        for (const auto &resource : qAsConst(m_index.resources)) {
+            paths.append(resource.first);
+        }
+        return paths;
+    }
+
+    QString resourceFile(const QString &relativePath) override
+    {
+        if (!m_folder) {
+            m_folder = std::make_unique<WorkFolder>();
+        }
+        const QString path = m_folder->filePath(relativePath);
+        if (QFileInfo::exists(path)) {
+            return path;
+        }
+        const JsonIndex::Range range = m_resources.value(relativePath);
+        if (!m_resources.contains(relativePath)) {
+            throw LessonError(QStringLiteral("The lesson has no file \"%1\"").arg(relativePath)).in(m_path);
+        }
+        const auto decoded =
+            QByteArray::fromBase64Encoding(m_index.text(range), QByteArray::AbortOnBase64DecodingErrors);
+        if (!decoded) {
+            m_index.fail(QStringLiteral("The resource \"%1\" is no base64 text").arg(relativePath), range.begin);
+        }
+        QFile file(path);
+        if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)
+            || file.write(*decoded) != (*decoded).size()) {
+            throw LessonError(QStringLiteral("A file of the lesson can't be unpacked: %1").arg(file.errorString()),
+                              QStringLiteral("Make room in the folder for temporary files"))
+                .in(m_path);
+        }
+        return path;
+    }
+
+private:
+    QString m_path;
+    JsonIndex m_index;
+    QJsonObject m_presentation;
+    QHash<QString, JsonIndex::Range> m_resources;
+    std::unique_ptr<WorkFolder> m_folder;
+};
+
+QByteArray compact(const QJsonValue &value)
+{
+    const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return array.mid(1, array.size() - 2);
+}
+
+/*!
+ * Writes slide by slide, each item on a line of its own, so that two versions of a lesson can be compared line by line.
+ */
+class JsonWriter : public LessonWriter
+{
+public:
+    explicit JsonWriter(const QString &path)
+        : m_target(path)
+        , m_file(m_target.file())
+    {
+        if (!m_file.open(QIODevice::WriteOnly)) {
+            failToWrite();
+        }
+    }
+
+    void begin(const QJsonObject &presentation) override
+    {
+        put("{\n");
+        for (auto it = presentation.constBegin(); it != presentation.constEnd(); ++it) {
+            put("  " + compact(it.key()) + ": " + compact(it.value()) + ",\n");
+        }
+        put("  \"Slides\": [");
+    }
+
+    void addResource(const QString &relativePath, const QString &sourceFile) override
+    {
+        m_resources.append({relativePath, sourceFile});
+    }
+
+    void writeSlide(const LessonSlide &slide) override
+    {
+        put(m_hasSlides ? ",\n    {\n" : "\n    {\n");
+        m_hasSlides = true;
+        for (auto it = slide.properties.constBegin(); it != slide.properties.constEnd(); ++it) {
+            put("      " + compact(it.key()) + ": " + compact(it.value()) + ",\n");
+        }
+        put("      \"Items\": [");
+        for (int i = 0; i < slide.items.size(); ++i) {
+            put((i > 0 ? ",\n        " : "\n        ") + compact(slide.items.at(i)));
+        }
+        put(slide.items.isEmpty() ? "]\n    }" : "\n      ]\n    }");
+    }
+
+    void finish() override
+    {
+        put(m_hasSlides ? "\n  ]" : "]");
+        if (!m_resources.isEmpty()) {
+            put(",\n  \"Resources\": {");
+            for (int i = 0; i < m_resources.size(); ++i) {
+                put((i > 0 ? ",\n    " : "\n    ") + compact(m_resources.at(i).first) + ": \"");
+                putBase64(m_resources.at(i).second);
+                put("\"");
+            }
+            put("\n  }");
+        }
+        put("\n}\n");
+        if (!m_file.flush()) {
+            failToWrite();
+        }
+        m_file.close();
+        m_target.commitFile();
+    }
+
+private:
+    void put(const QByteArray &text)
+    {
+        if (m_file.write(text) != text.size()) {
+            failToWrite();
+        }
+    }
+
+    void putBase64(const QString &sourceFile)
+    {
+        QFile source(sourceFile);
+        if (!source.open(QIODevice::ReadOnly)) {
+            throw LessonError(QStringLiteral("The file can't be read: %1").arg(source.errorString()),
+                              QStringLiteral("Check that you may read it"))
+                .in(sourceFile);
+        }
+        while (!source.atEnd()) {
+            put(source.read(chunkSize).toBase64());
+        }
+    }
+
+    [[noreturn]] void failToWrite() const
+    {
+        throw LessonError(QStringLiteral("It can't be written: %1").arg(m_file.errorString()),
+                          QStringLiteral("Check that there is room and that you may write there"))
+            .in(m_target.target());
+    }
+
+    PackageTarget m_target;
+    QFile m_file;
+    QVector<QPair<QString, QString>> m_resources;
+    bool m_hasSlides = false;
+};
+
+} // namespace
+
+LessonFormat jsonFormat()
+{
+    LessonFormat format;
+    format.name = QStringLiteral("json");
+    format.extensions = QStringList{QStringLiteral("json")};
+    format.description = QStringLiteral("the lesson model in one file, with the files that belong to it inside");
+    format.open = [](const QString &path, const LessonContext &) -> std::unique_ptr<LessonReader> {
+        return std::make_unique<JsonReader>(path);
+    };
+    format.create = [](const QString &path, const LessonContext &) -> std::unique_ptr<LessonWriter> {
+        return std::make_unique<JsonWriter>(path);
+    };
+    return format;
+}
+
+} // namespace lessonhost

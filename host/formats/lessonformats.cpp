@@ -1,0 +1,100 @@
+#include "formats/lessonformats.h"
+
+#include "files/lessonerror.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+const QVector<LessonFormat> &lessonFormats()
+{
+    static const QVector<LessonFormat> formats{
+        jsonFormat(),
+        zqtxFormat(),
+        rawXmlFormat(),
+        iwbFormat(),
+    };
+    return formats;
+}
+
+namespace {
+
+QStringList namesOfFormats(bool (LessonFormat::*canDo)() const)
+{
+    QStringList names;
+    for (const LessonFormat &format : lessonFormats()) {
+        if ((format.*canDo)()) {
+            names.append(format.name);
+        }
+    }
+    return names;
+}
+
+const LessonFormat *formatByExtension(const QString &path)
+{
+    const QString extension = QFileInfo(path).suffix().toLower();
+    const auto &formats = lessonFormats();
+    const auto found = std::find_if(formats.cbegin(), formats.cend(), [&extension](const LessonFormat &format) {
+        return format.extensions.contains(extension);
+    });
+    return found == formats.cend() ? nullptr : &*found;
+}
+
+[[noreturn]] void failWithoutFormat(const QString &path, const QString &option, const QStringList &names)
+{
+    throw LessonError(
+        QStringLiteral("The format can't be told from the name"),
+        QStringLiteral("Say which it is with %1 (one of %2)").arg(option, names.join(QLatin1String(", "))))
+        .in(path);
+}
+
+} // namespace
+
+const LessonFormat &lessonFormatByName(const QString &name)
+{
+    const auto &formats = lessonFormats();
+    const auto found = std::find_if(formats.cbegin(), formats.cend(),
+                                    [&name](const LessonFormat &format) { return format.name == name; });
+    if (found == formats.cend()) {
+        throw LessonError(
+            QStringLiteral("There is no format \"%1\"").arg(name),
+            QStringLiteral("Use one of %1").arg(namesOfFormats(&LessonFormat::canRead).join(QLatin1String(", "))));
+    }
+    return *found;
+}
+
+const LessonFormat &lessonFormatOfInput(const QString &path)
+{
+    if (!QFileInfo::exists(path)) {
+        throw LessonError(QStringLiteral("There is no such file or folder"), QStringLiteral("Check the path")).in(path);
+    }
+    for (const LessonFormat &format : lessonFormats()) {
+        if (format.recognizes && format.recognizes(path)) {
+            return format;
+        }
+    }
+    if (const LessonFormat *format = formatByExtension(path)) {
+        return *format;
+    }
+    if (QFileInfo(path).isDir()) {
+        throw LessonError(QStringLiteral("This folder is no lesson: it has neither index.xml nor content.xml"),
+                          QStringLiteral("To convert all lessons in a folder, say --to FORMAT --out-dir FOLDER"))
+            .in(path);
+    }
+    failWithoutFormat(path, QStringLiteral("--from"), namesOfFormats(&LessonFormat::canRead));
+}
+
+const LessonFormat &lessonFormatOfOutput(const QString &path)
+{
+    if (const LessonFormat *format = formatByExtension(path)) {
+        return *format;
+    }
+    if (QFileInfo(path).suffix().isEmpty()) {
+        return lessonFormatByName(QStringLiteral("zqtx"));
+    }
+    failWithoutFormat(path, QStringLiteral("--to"), namesOfFormats(&LessonFormat::canWrite));
+}
+
+} // namespace lessonhost

@@ -1,0 +1,324 @@
+#include "formats/lessonformats.h"
+
+#include "files/domtools.h"
+#include "files/lessonerror.h"
+#include "files/packagesource.h"
+#include "files/xmlloader.h"
+#include "files/xmltext.h"
+#include "formats/rawattributes.h"
+#include "izqtransformation.h"
+#include "lesson/modelforms.h"
+#include "lesson/pageplace.h"
+#include "losses/carriedcheck.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSize>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String rootTag("presentation");
+const QLatin1String slideTag("slide");
+const QLatin1String groupSons("GroupSonItems");
+const QLatin1String resourceFolder("resources");
+const QLatin1String idKey("ID");
+const QLatin1String netId("NetID");
+
+// What a raw presentation says in attributes of its own; the plug-in reads none of them.
+constexpr const char *presentationAttributes[] = {"Width",  "Height", "Version",       "Version_app",
+                                                  "Author", "Date",   "Date_modified", "Title"};
+
+/*!
+ * The size of the page into which items of a slide with this source rectangle are fitted, by the nearest of the usual
+ * proportions.
+ */
+QSize pageSize(const QString &sourceRect)
+{
+    const QStringList parts = sourceRect.split(QLatin1Char(','));
+    const float ratio = parts.size() < 4 ? 0 : parts.at(2).toFloat() / parts.at(3).toFloat();
+    const float to43 = std::fabs(ratio - 1.3333F);
+    const float to169 = std::fabs(ratio - 1.7777F);
+    const float to1610 = std::fabs(ratio - 1.6F);
+    if (to169 > to43 && to1610 > to43) {
+        return {1440, 1080};
+    }
+    if (to169 <= to43 && to1610 > to169) {
+        return {1920, 1080};
+    }
+    return {1728, 1080};
+}
+
+// Identifiers that the plug-in makes up are new each time.
+QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
+{
+    if (!element.hasAttribute(netId)) {
+        object.remove(idKey);
+    }
+    const QLatin1String script("objAnimationData");
+    if (object.contains(script)) {
+        static const QRegularExpression actionIndex(QStringLiteral("\"actionIndex\": \"[0-9]*\""));
+        object.insert(script, object.value(script).toString().remove(actionIndex));
+    }
+    return object;
+}
+
+void collectIds(const QDomElement &element, QSet<QString> &ids)
+{
+    if (element.hasAttribute(netId)) {
+        ids.insert(element.attribute(netId));
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        collectIds(child, ids);
+    }
+}
+
+/*!
+ * A lesson in raw XML: <presentation> with <slide> elements, whose children are the items; files in the folder
+ * "resources" beside it.
+ */
+class RawXmlReader : public LessonReader
+{
+public:
+    RawXmlReader(const QString &path, const LessonContext &context)
+        : m_context(context)
+        , m_path(path)
+        , m_document(loadXmlFile(path))
+        , m_check(context.losses)
+        , m_attributes(context.plugin, resourceFolder + QLatin1Char('/'))
+    {
+        QDomElement root = m_document.documentElement();
+        if (root.tagName() != rootTag) {
+            throw LessonError(QStringLiteral("The document begins with <%1> where a raw lesson has <%2>")
+                                  .arg(root.tagName(), rootTag),
+                              QStringLiteral("Check that this is a lesson in raw XML"))
+                .in(path);
+        }
+        collectIds(root, m_ids);
+        const QDomElement first = root.firstChildElement(slideTag);
+        for (QDomElement slide = first; !slide.isNull(); slide = slide.nextSiblingElement(slideTag)) {
+            m_slides.append(slide);
+        }
+        for (const QDomElement &slide : qAsConst(m_slides)) {
+            root.removeChild(slide);
+        }
+        // Reading gives an element without an identifier one.
+        m_presentation = readPresentation(root.cloneNode(true).toElement());
+        setStableId(m_presentation, root);
+        if (isChecking()) {
+            m_check.examine(rootTag, {}, root,
+                            [this](const QDomElement &changed) {
+                                const QDomElement copy = changed.cloneNode(true).toElement();
+                                return withoutMadeUpId(copy, readPresentation(copy));
+                            },
+                            {});
+        }
+        addPageSize();
+    }
+
+    QJsonObject presentation() override { return m_presentation; }
+    int slideCount() override { return m_slides.size(); }
+
+    LessonSlide slide(int index) override
+    {
+        const bool isChecked = isChecking() && !m_checked.contains(index);
+        m_checked.insert(index);
+        m_check.setSlide(index + 1);
+        CarriedCheck *check = isChecked ? &m_check : nullptr;
+
+        // Reading changes elements.
+        const QDomElement element = m_slides.at(index).cloneNode(true).toElement();
+        const QVector<QDomElement> items = takeElements(element, element.firstChildElement());
+        LessonSlide slide;
+        if (check) {
+            check->examine(slideTag, element.attribute(netId), element,
+                           [this](const QDomElement &changed) {
+                               const QDomElement copy = changed.cloneNode(true).toElement();
+                               return withoutMadeUpId(copy, m_context.plugin->tranSlideXML2JSON(copy, context()));
+                           },
+                           {});
+        }
+        m_nextId = (index + 1) * idsOfSlide;
+        const QDomElement untouched = element.cloneNode(false).toElement();
+        slide.properties = m_context.plugin->tranSlideXML2JSON(element, context());
+        setStableId(slide.properties, untouched);
+        QJsonObject itemContext = context();
+        itemContext.insert(QStringLiteral("slide"), slide.properties);
+        for (const QDomElement &item : items) {
+            slide.items.append(readItem(item, itemContext, check));
+        }
+        return slide;
+    }
+
+    QStringList resources() override
+    {
+        const QFileInfo folder(QFileInfo(m_path).absolutePath() + QLatin1Char('/') + resourceFolder);
+        if (!folder.isDir()) {
+            return {};
+        }
+        QStringList files = PackageSource(folder.filePath()).files();
+        for (QString &file : files) {
+            file.prepend(resourceFolder + QLatin1Char('/'));
+        }
+        return files;
+    }
+
+    QString resourceFile(const QString &relativePath) override
+    {
+        return PackageSource(QFileInfo(m_path).absolutePath()).file(relativePath);
+    }
+
+private:
+    static constexpr qint64 idsOfSlide = 1000000;
+
+    // The identifiers that the plug-in makes up are others each time; a lesson that is read twice has the same.
+    void setStableId(QJsonObject &object, const QDomElement &element)
+    {
+        if (element.hasAttribute(netId)) {
+            return;
+        }
+        QString id;
+        do {
+            id = QString::number(m_nextId++);
+        } while (m_ids.contains(id));
+        object.insert(idKey, id);
+    }
+
+    bool isChecking() const { return m_context.verify && m_context.losses; }
+
+    // References to files get the folder as their only directory, wherever they pointed to on the machine they are
+    // from.
+    QJsonObject context() const
+    {
+        return {{QStringLiteral("pres"), m_presentation},
+                {QStringLiteral("path"), QString(resourceFolder + QLatin1Char('/'))}};
+    }
+
+    QJsonObject readPresentation(const QDomElement &root) const
+    {
+        QJsonObject presentation = m_context.plugin->tranPresXML2JSON(root, context());
+        for (const char *name : presentationAttributes) {
+            const QLatin1String key(name);
+            if (root.hasAttribute(key) && !presentation.contains(key)) {
+                presentation.insert(key, root.attribute(key));
+            }
+        }
+        return presentation;
+    }
+
+    // A raw lesson says how large its slides were; the model wants the page that they are fitted into.
+    void addPageSize()
+    {
+        const QLatin1String width("Width");
+        const QLatin1String height("Height");
+        if (m_slides.isEmpty() || m_presentation.contains(width) || m_presentation.contains(height)) {
+            return;
+        }
+        const QJsonObject slide =
+            m_context.plugin->tranSlideXML2JSON(m_slides.first().cloneNode(false).toElement(), context());
+        const QSize size = pageSize(slide.value(QLatin1String("SlideSourceRect")).toString());
+        m_presentation.insert(width, QString::number(size.width()));
+        m_presentation.insert(height, QString::number(size.height()));
+    }
+
+    QJsonObject readItem(QDomElement element, const QJsonObject &context, CarriedCheck *check)
+    {
+        QVector<QDomElement> nested;
+        QDomElement sons;
+        if (isContainer(element.tagName())) {
+            sons = element.firstChildElement(groupSons);
+            nested = takeElements(sons, sons.firstChildElement());
+        }
+        QDomElement untouched = element.cloneNode(true).toElement();
+        untouched.removeChild(untouched.firstChildElement(groupSons));
+        QJsonObject item = readSingle(element, context);
+        if (item.isEmpty()) {
+            for (const QDomElement &son : qAsConst(nested)) {
+                sons.appendChild(son);
+            }
+            return keptItem(element);
+        }
+        if (check) {
+            check->examine(element.tagName(), item.value(idKey).toString(), untouched,
+                           [this, &context](const QDomElement &changed) {
+                               const QDomElement copy = changed.cloneNode(true).toElement();
+                               return withoutMadeUpId(copy, readSingle(copy, context));
+                           },
+                           {});
+        }
+        setStableId(item, untouched);
+        nameMediaFile(item);
+        // The order of a raw group's sons is from front to back.
+        QJsonArray children;
+        for (auto son = nested.crbegin(); son != nested.crend(); ++son) {
+            children.append(readItem(*son, context, check));
+        }
+        if (!children.isEmpty()) {
+            item.insert(HostKeys::children, children);
+        }
+        return item;
+    }
+
+    QJsonObject readSingle(const QDomElement &element, const QJsonObject &context)
+    {
+        QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
+        if (!item.isEmpty()) {
+            m_attributes.addTo(item, element);
+        }
+        return item;
+    }
+
+    static QJsonObject keptItem(const QDomElement &element)
+    {
+        QJsonObject item{{QStringLiteral("Type"), element.tagName()}, {HostKeys::keptXml, xmlNodeText(element)}};
+        if (element.hasAttribute(netId)) {
+            item.insert(idKey, element.attribute(netId));
+        }
+        return item;
+    }
+
+    LessonContext m_context;
+    QString m_path;
+    QDomDocument m_document;
+    CarriedCheck m_check;
+    RawAttributes m_attributes;
+    QSet<int> m_checked;
+    QSet<QString> m_ids; // that the lesson has
+    qint64 m_nextId = 1;
+    QVector<QDomElement> m_slides;
+    QJsonObject m_presentation;
+};
+
+// What can't be read so far may be a damaged lesson.
+bool mayBeLesson(const QString &path)
+{
+    QFile file(path);
+    QXmlStreamReader xml(&file);
+    return !file.open(QIODevice::ReadOnly) || !xml.readNextStartElement() || xml.name() == rootTag;
+}
+
+} // namespace
+
+LessonFormat rawXmlFormat()
+{
+    LessonFormat format;
+    format.name = QStringLiteral("rawxml");
+    format.extensions = QStringList{QStringLiteral("xml")};
+    format.description = QStringLiteral("flat XML in one file, files in the folder \"resources\" beside it; only read");
+    format.mayBe = mayBeLesson;
+    format.folderBeside = resourceFolder;
+    format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
+        return std::make_unique<RawXmlReader>(path, context);
+    };
+    return format;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,404 @@
+#include "formats/lessonformats.h"
+
+#include "files/domtools.h"
+#include "files/lessonerror.h"
+#include "files/packagenames.h"
+#include "files/packagesource.h"
+#include "files/packagetarget.h"
+#include "files/xmlloader.h"
+#include "files/xmltext.h"
+#include "formats/zqtxitems.h"
+#include "izqtransformation.h"
+#include "lesson/activitypictures.h"
+#include "lesson/modelforms.h"
+#include "lesson/pageplace.h"
+#include "losses/carriedcheck.h"
+#include "losses/comparison.h"
+#include "losses/lossreport.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String indexFile("index.xml");
+const QLatin1String indexTag("main");
+const QLatin1String slideTag("slide");
+const QLatin1String itemsTag("items");
+const QLatin1String slidesTag("slides");
+const QLatin1String idKey("ID");
+
+QString slideFile(const QString &id)
+{
+    return QLatin1String("slides/") + id + QLatin1String(".xml");
+}
+
+QDomElement rootOf(const QDomDocument &document, const QString &tag, const QString &file)
+{
+    const QDomElement root = document.documentElement();
+    if (root.tagName() != tag) {
+        throw LessonError(
+            QStringLiteral("The document begins with <%1> where a lesson has <%2>").arg(root.tagName(), tag),
+            QStringLiteral("Check that this is a ZQTX lesson"))
+            .in(file);
+    }
+    return root;
+}
+
+/*!
+ * A ZQTX slide document and its two forms: the model and the XML.
+ */
+class ZqtxSlides
+{
+public:
+    ZqtxSlides(IZQTransformation *plugin, const QJsonObject &presentation)
+        : m_plugin(plugin)
+        , m_items(plugin, presentation)
+        , m_presentation(presentation)
+    {
+    }
+
+    LessonSlide read(const QDomElement &root, const QString &path, CarriedCheck *check) const
+    {
+        const QJsonObject context{{QStringLiteral("pres"), m_presentation}, {QStringLiteral("path"), path}};
+        const QDomElement items = root.firstChildElement(itemsTag);
+        const QVector<QDomElement> elements = takeElements(items, items.firstChildElement());
+        LessonSlide slide;
+        slide.properties = readProperties(root, context);
+        if (check) {
+            check->examine(
+                slideTag, slide.properties.value(idKey).toString(), root,
+                [this, &context](const QDomElement &changed) { return readProperties(changed, context); },
+                [this, &slide] { return writeProperties(slide.properties).documentElement(); });
+        }
+        QJsonObject itemContext = context;
+        itemContext.insert(QStringLiteral("slide"), slide.properties);
+        for (const QDomElement &element : elements) {
+            slide.items.append(m_items.read(element, itemContext, check));
+        }
+        return slide;
+    }
+
+    QDomDocument write(const LessonSlide &slide) const
+    {
+        QDomDocument document = writeProperties(slide.properties);
+        QDomElement items = document.documentElement().firstChildElement(itemsTag);
+        for (const QJsonValue &item : slide.items) {
+            items.appendChild(m_items.write(item.toObject()));
+        }
+        return document;
+    }
+
+private:
+    QJsonObject readProperties(const QDomElement &root, const QJsonObject &context) const
+    {
+        return withReferencesOf(root, m_plugin->tranSlideZQTX2JSON(root, context));
+    }
+
+    QDomDocument writeProperties(const QJsonObject &properties) const
+    {
+        return m_plugin->tranSlideJSON2ZQTX({}, writableProperties(properties));
+    }
+
+    IZQTransformation *m_plugin;
+    ZqtxItems m_items;
+    QJsonObject m_presentation;
+};
+
+QJsonObject readIndex(IZQTransformation *plugin, const QDomElement &root, const QString &path)
+{
+    QJsonObject presentation = plugin->tranPresZQTX2JSON(root, QJsonObject{{QStringLiteral("path"), path}});
+    // The model of the plug-in has no title.
+    const QString title = root.attribute(QStringLiteral("title"));
+    if (!title.isEmpty()) {
+        presentation.insert(HostKeys::title, title);
+    }
+    return presentation;
+}
+
+QDomDocument writeIndex(IZQTransformation *plugin, const QJsonObject &presentation, const QStringList &slideIds)
+{
+    QJsonObject written = writableProperties(presentation);
+    QJsonArray slides;
+    for (const QString &id : slideIds) {
+        slides.append(QJsonObject{{idKey, id}});
+    }
+    written.insert(QStringLiteral("Slides"), slides);
+    QDomDocument document = plugin->tranPresJSON2ZQTX({}, written);
+    document.documentElement().setAttribute(QStringLiteral("title"), written.value(HostKeys::title).toString());
+    return document;
+}
+
+class ZqtxReader : public LessonReader
+{
+public:
+    ZqtxReader(const QString &path, const LessonContext &context)
+        : m_context(context)
+        , m_source(path)
+        , m_check(context.losses)
+    {
+        const QDomDocument document = loadXmlFile(m_source.file(indexFile), m_source.displayName(indexFile));
+        const QDomElement root = rootOf(document, indexTag, m_source.displayName(indexFile));
+        readSlideList(root);
+        m_presentation = readIndex(context.plugin, root, location());
+        if (isChecking()) {
+            m_check.examine(
+                QStringLiteral("presentation"), {}, root,
+                [this](const QDomElement &changed) { return readIndex(m_context.plugin, changed, location()); },
+                [this] { return writeIndex(m_context.plugin, m_presentation, {}).documentElement(); });
+        }
+        m_slides = std::make_unique<ZqtxSlides>(context.plugin, m_presentation);
+    }
+
+    QJsonObject presentation() override { return m_presentation; }
+    int slideCount() override { return m_files.size(); }
+
+    LessonSlide slide(int index) override
+    {
+        const QString file = m_files.at(index);
+        const QDomDocument document = loadXmlFile(m_source.file(file), m_source.displayName(file));
+        const QDomElement root = rootOf(document, slideTag, m_source.displayName(file));
+        const bool isChecked = isChecking() && !m_checked.contains(index);
+        m_checked.insert(index);
+        m_check.setSlide(index + 1);
+        LessonSlide slide = m_slides->read(root, location(), isChecked ? &m_check : nullptr);
+        if (slide.properties.value(idKey).toString().isEmpty()) {
+            slide.properties.insert(idKey, QFileInfo(file).completeBaseName());
+        }
+        if (isChecked) {
+            noteRenamedFile(index, slide.properties.value(idKey).toString());
+        }
+        return slide;
+    }
+
+    QStringList resources() override
+    {
+        QStringList files = m_source.files();
+        const QSet<QString> documents(m_files.cbegin(), m_files.cend());
+        const auto end = std::remove_if(files.begin(), files.end(), [&documents](const QString &file) {
+            return file == indexFile || documents.contains(file);
+        });
+        files.erase(end, files.end());
+        return files;
+    }
+
+    QString resourceFile(const QString &relativePath) override { return m_source.file(relativePath); }
+
+private:
+    bool isChecking() const { return m_context.verify && m_context.losses; }
+    QString location() const { return m_source.directory() + QLatin1Char('/') + indexFile; }
+
+    // Takes the files out of the index, so that what is left there is the presentation's own.
+    void readSlideList(const QDomElement &root)
+    {
+        const QString name = m_source.displayName(indexFile);
+        const QString hrefAttribute = QStringLiteral("href");
+        QDomElement list = root.firstChildElement(slidesTag);
+        QSet<QString> known;
+        QDomElement next;
+        for (QDomElement entry = list.firstChildElement(QStringLiteral("file")); !entry.isNull(); entry = next) {
+            next = entry.nextSiblingElement(QStringLiteral("file"));
+            const QString file = entry.attribute(hrefAttribute);
+            const QString problem = problemWithPackagePath(file);
+            if (!problem.isEmpty()) {
+                throw LessonError(QStringLiteral("The slide \"%1\" can't be opened: %2").arg(file, problem),
+                                  QStringLiteral("Name a file of the package, such as slides/1.xml"))
+                    .in(name);
+            }
+            if (known.contains(file)) {
+                throw LessonError(QStringLiteral("The slide \"%1\" is named twice").arg(file),
+                                  QStringLiteral("Remove one of the two lines"))
+                    .in(name);
+            }
+            if (!m_source.contains(file)) {
+                throw LessonError(QStringLiteral("The slide \"%1\" is missing from the package").arg(file),
+                                  QStringLiteral("Put the file back, or remove its line"))
+                    .in(name);
+            }
+            m_files.append(file);
+            known.insert(file);
+            entry.removeAttribute(hrefAttribute);
+            if (entry.attributes().isEmpty() && !entry.hasChildNodes()) {
+                list.removeChild(entry);
+            }
+        }
+    }
+
+    void noteRenamedFile(int index, const QString &id) const
+    {
+        if (slideFile(id) == m_files.at(index)) {
+            return;
+        }
+        Loss note;
+        note.kind = Loss::Note;
+        note.slide = index + 1;
+        note.itemType = QStringLiteral("slide");
+        note.key = idKey;
+        note.detail =
+            QStringLiteral("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id));
+        m_context.losses->add(note);
+    }
+
+    LessonContext m_context;
+    PackageSource m_source;
+    CarriedCheck m_check;
+    QSet<int> m_checked;
+    QStringList m_files;
+    QJsonObject m_presentation;
+    std::unique_ptr<ZqtxSlides> m_slides;
+};
+
+// An archive for a name that ends in .zqtx, a folder for others.
+bool isArchiveName(const QString &path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("zqtx"), Qt::CaseInsensitive) == 0;
+}
+
+bool isZqtxFolder(const QString &path)
+{
+    try {
+        const QString file = path + QLatin1Char('/') + indexFile;
+        return QFileInfo(file).isFile() && loadXmlFile(file).documentElement().tagName() == indexTag;
+    } catch (const LessonError &) {
+        return false;
+    }
+}
+
+class ZqtxWriter : public LessonWriter
+{
+public:
+    ZqtxWriter(const QString &path, const LessonContext &context)
+        : m_context(context)
+        , m_target(path)
+    {
+    }
+
+    void begin(const QJsonObject &presentation) override
+    {
+        m_presentation = presentation;
+        m_slides = std::make_unique<ZqtxSlides>(m_context.plugin, presentation);
+    }
+
+    void addResource(const QString &relativePath, const QString &sourceFile) override
+    {
+        m_target.copy(relativePath, sourceFile);
+    }
+
+    void writeSlide(const LessonSlide &slide) override
+    {
+        const int number = m_ids.size() + 1;
+        LessonSlide written = slideInPageForm(slide, m_context.plugin, &m_placedItems);
+        written.properties = withShortPictures(written.properties);
+        const QString id = usableId(valueText(slide.properties.value(idKey)), number);
+        written.properties.insert(idKey, id);
+        const QDomElement root = m_slides->write(written).documentElement();
+        const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
+        if (elementDepth(root) > maximumXmlDepth) {
+            throw LessonError(QStringLiteral("The items of slide %1 are nested deeper than %2 levels of XML")
+                                  .arg(number)
+                                  .arg(maximumXmlDepth),
+                              QStringLiteral("Take some groups or branches apart"))
+                .in(name);
+        }
+        const QByteArray text = xmlDocumentText(root);
+        m_target.write(slideFile(id), text);
+        m_ids.append(id);
+        m_usedIds.insert(id);
+        if (m_context.verify && m_context.losses) {
+            const LessonSlide found = m_slides->read(loadXml(text, name).documentElement(), m_target.target(), nullptr);
+            const Comparison comparison(m_context.losses, number);
+            comparison.compareProperties(QStringLiteral("slide"), written.properties, found.properties);
+            comparison.compareItems(written.items, found.items);
+        }
+    }
+
+    void finish() override
+    {
+        const QByteArray text = xmlDocumentText(writeIndex(m_context.plugin, m_presentation, m_ids).documentElement());
+        m_target.write(indexFile, text);
+        if (m_context.verify && m_context.losses) {
+            const QString name = m_target.target() + QLatin1Char('/') + indexFile;
+            Comparison(m_context.losses, 0)
+                .compareProperties(QStringLiteral("presentation"), m_presentation,
+                                   readIndex(m_context.plugin, loadXml(text, name).documentElement(), name));
+        }
+        notePlacedItems();
+        if (isArchiveName(m_target.target())) {
+            m_target.commitArchive();
+        } else {
+            m_target.commitDirectory(isZqtxFolder);
+        }
+    }
+
+private:
+    void notePlacedItems() const
+    {
+        if (m_placedItems == 0 || !m_context.losses) {
+            return;
+        }
+        Loss note;
+        note.kind = Loss::Note;
+        note.itemType = QStringLiteral("items");
+        note.detail = QStringLiteral("%1 had a matrix, which is worked into where they stand").arg(m_placedItems);
+        m_context.losses->add(note);
+    }
+
+    // The identifier names the slide's file.
+    QString usableId(const QString &id, int number) const
+    {
+        if (id.isEmpty()) {
+            QString free = QString::number(number);
+            while (m_usedIds.contains(free)) {
+                free.prepend(QLatin1Char('0'));
+            }
+            return free;
+        }
+        const QString problem = problemWithFileName(id);
+        if (!problem.isEmpty()) {
+            throw LessonError(QStringLiteral("The identifier \"%1\" of slide %2 can't name a file: %3")
+                                  .arg(id)
+                                  .arg(number)
+                                  .arg(problem),
+                              QStringLiteral("Give the slide another ID"))
+                .in(m_target.target());
+        }
+        if (m_usedIds.contains(id)) {
+            throw LessonError(
+                QStringLiteral("Slide %1 has the identifier \"%2\" of a slide before it").arg(number).arg(id),
+                QStringLiteral("Give the slide another ID"))
+                .in(m_target.target());
+        }
+        return id;
+    }
+
+    LessonContext m_context;
+    PackageTarget m_target;
+    QJsonObject m_presentation;
+    QStringList m_ids;
+    QSet<QString> m_usedIds;
+    int m_placedItems = 0;
+    std::unique_ptr<ZqtxSlides> m_slides;
+};
+
+} // namespace
+
+LessonFormat zqtxFormat()
+{
+    LessonFormat format;
+    format.name = QStringLiteral("zqtx");
+    format.extensions = QStringList{QStringLiteral("zqtx")};
+    format.description =
+        QStringLiteral("lesson package: a folder with index.xml and slides/, or the same zipped as .zqtx");
+    format.recognizes = [](const QString &path) { return QFileInfo(path + QLatin1Char('/') + indexFile).isFile(); };
+    format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
+        return std::make_unique<ZqtxReader>(path, context);
+    };
+    format.create = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonWriter> {
+        return std::make_unique<ZqtxWriter>(path, context);
+    };
+    return format;
+}
+
+} // namespace lessonhost

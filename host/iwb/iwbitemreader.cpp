@@ -1,0 +1,181 @@
+#include "iwb/iwbitemreader.h"
+
+#include "izqtransformation.h"
+#include "lesson/iwbgeometry.h"
+#include "lesson/textruns.h"
+#include "svg/svgvalues.h"
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String boxKey("BoundingBox");
+const QLatin1String controlKey("Control");
+const QLatin1String fillFlagKey("ArtObj_Fill");
+
+// What the plug-in leaves of the element or needs on the way, and what other keys say better.
+constexpr const char *passingKeys[] = {
+    "x",
+    "y",
+    "width",
+    "height",
+    "Width",
+    "Height",
+    "cx",
+    "cy",
+    "r",
+    "rx",
+    "ry",
+    "points",
+    "stroke",
+    "fill",
+    "x1",
+    "y1",
+    "x2",
+    "y2",
+    "stroke-width",
+    "stroke-opacity",
+    "stroke-dasharray",
+    "stroke-lineshape-start",
+    "stroke-lineshape-end",
+    "path",
+    "saveType",
+    "Matrix",
+    "BoundingBox_IWB_RECT",
+    "Discipline_xCreate",
+    "Discipline_yCreate",
+};
+
+double number(const QDomElement &element, const char *attribute)
+{
+    return element.attribute(QLatin1String(attribute)).toDouble();
+}
+
+QString pair(double x, double y)
+{
+    return exactText(x) + QLatin1Char(',') + exactText(y);
+}
+
+// Points around an origin of the shape's own.
+void setControl(QJsonObject &json, const ShapeForm &form, const QDomElement &element)
+{
+    switch (form.outline) {
+    case ShapeForm::Circle:
+        json.insert(controlKey, pair(number(element, "r"), 0));
+        break;
+    case ShapeForm::Ellipse:
+        json.insert(controlKey,
+                    QString(pair(number(element, "rx"), 0) + QLatin1Char(',') + pair(0, number(element, "ry"))));
+        break;
+    case ShapeForm::Angle: {
+        const QPolygonF points = pointsOf(svgNumbers(element.attribute(QStringLiteral("points"))));
+        if (points.size() == 3) {
+            json.insert(controlKey,
+                        pointsText(QPolygonF() << points.at(0) - points.at(2) << points.at(1) - points.at(2)));
+        }
+        break;
+    }
+    case ShapeForm::Polyline:
+        // Its last character is cut off on the way out.
+        json.insert(QLatin1String("XYValue"),
+                    QString(json.value(QLatin1String("XYValue")).toString() + QLatin1Char(',')));
+        break;
+    default:
+        break;
+    }
+}
+
+// Colours with all four parts; no key for none.
+void completeColors(QJsonObject &json, const ShapeForm &form)
+{
+    for (const char *key : {form.lineKey, form.fillKey}) {
+        if (!key) {
+            continue;
+        }
+        const QLatin1String name(key);
+        const auto color = itemColor(json.value(name));
+        if (color) {
+            json.insert(name, colorText(*color));
+        } else {
+            json.remove(name);
+        }
+    }
+    if (form.outline == ShapeForm::Polyline) {
+        // ZQTX knows no such flag for polylines: the colour alone tells.
+        json.remove(fillFlagKey);
+    } else if (form.fillKey && !json.contains(QLatin1String(form.fillKey))) {
+        json.insert(fillFlagKey, QStringLiteral("0"));
+    }
+}
+
+} // namespace
+
+IwbItemReader::IwbItemReader(IZQTransformation *plugin, const QString &packageFolder)
+    : m_plugin(plugin)
+    , m_path(packageFolder + QLatin1Char('/'))
+{
+}
+
+QJsonObject IwbItemReader::read(const IwbElement &item) const
+{
+    QJsonObject json = m_plugin->tranItemIWB2JSON(item.element, {{QStringLiteral("path"), m_path}});
+    const QString type = json.value(QLatin1String("Type")).toString();
+    const auto runs = takeTextRuns(json);
+    if (type.isEmpty()) {
+        return {};
+    }
+    if (runs) {
+        // The first describes the area; it has a text only where the area itself holds one.
+        QStringList shifts;
+        for (QDomElement span = item.element.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+            shifts.append(span.attribute(QStringLiteral("baseline-shift")));
+        }
+        json.insert(QLatin1String("TextHtml"), htmlFromTextRuns(runs->mid(1), shifts));
+    }
+    for (const char *key : passingKeys) {
+        json.remove(QLatin1String(key));
+    }
+    if (const ShapeForm *form = shapeForm(type)) {
+        setControl(json, *form, item.element);
+        completeColors(json, *form);
+    }
+    if (const auto extent = drawnExtent(item.element)) {
+        json.insert(boxKey, boxText(*extent));
+    }
+    json.remove(QLatin1String("Angle"));
+    if (item.angle != 0) {
+        json.insert(QLatin1String("Angle"), exactText(item.angle));
+    }
+    json.insert(QLatin1String("Visible"), item.isVisible);
+    json.insert(QLatin1String("LockIn"), item.isLocked ? QStringLiteral("1") : QStringLiteral("0"));
+    json.insert(QLatin1String("InfiniteClone"), item.isEndless ? QStringLiteral("1") : QStringLiteral("0"));
+    return json;
+}
+
+QJsonObject IwbItemReader::readLink(const QString &target, const QHash<QString, int> &pageNumbers) const
+{
+    QString known = target;
+    if (target.startsWith(QLatin1Char('#'))) {
+        const int page = pageNumbers.value(target.mid(1));
+        if (page == 0) {
+            return {};
+        }
+        known = QLatin1String("#page") + QString::number(page);
+    } else if (target.contains(QLatin1String("#page")) && !target.contains(QLatin1String("://"))) {
+        // The plug-in would cut the number from the wrong place.
+        return {};
+    }
+    // A link around nothing but a name that no item has: the plug-in reads its target all the same.
+    QDomDocument document;
+    QDomElement link = document.createElement(QStringLiteral("svg:a"));
+    document.appendChild(link);
+    link.setAttribute(QStringLiteral("xlink:href"), known);
+    link.appendChild(document.createElement(QStringLiteral("svg:g")));
+    QJsonObject json = m_plugin->tranItemIWB2JSON(link, {});
+    if (json.value(QLatin1String("InteractiveType")).toString() == QLatin1String("ACTION_OPENFILE")) {
+        return {};
+    }
+    return json;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,161 @@
+#include "iwb/iwbpackage.h"
+
+#include "files/lessonerror.h"
+#include "files/packagenames.h"
+#include "files/xmlloader.h"
+#include "svg/svgnames.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String contentFile("content.xml");
+
+bool hasScheme(const QString &reference)
+{
+    const int colon = reference.indexOf(QLatin1Char(':'));
+    // A single letter before the colon is a drive.
+    return colon > 0 && reference.indexOf(QLatin1Char('/')) != 0
+        && reference.leftRef(colon).indexOf(QLatin1Char('/')) < 0;
+}
+
+QString plainPath(QString reference)
+{
+    reference.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    while (reference.startsWith(QLatin1String("./"))) {
+        reference.remove(0, 2);
+    }
+    return reference;
+}
+
+QString suffixOfMediaType(const QString &type)
+{
+    struct Row
+    {
+        const char *type;
+        const char *suffix;
+    };
+    static constexpr Row rows[] = {{"image/png", "png"},  {"image/jpeg", "jpg"}, {"image/jpg", "jpg"},
+                                   {"image/gif", "gif"},  {"image/bmp", "bmp"},  {"image/svg+xml", "svg"},
+                                   {"audio/mpeg", "mp3"}, {"audio/mp3", "mp3"},  {"video/mp4", "mp4"}};
+    for (const Row &row : rows) {
+        if (type == QLatin1String(row.type)) {
+            return QLatin1String(row.suffix);
+        }
+    }
+    return QStringLiteral("bin");
+}
+
+} // namespace
+
+IwbPackage::IwbPackage(const QString &path)
+    : m_source(path)
+{
+    if (!m_work.isValid()) {
+        throw LessonError(QStringLiteral("No temporary folder can be made: %1").arg(m_work.errorString()),
+                          QStringLiteral("Make room in the folder for temporary files"));
+    }
+    m_document = loadXmlFile(m_source.file(contentFile), displayName());
+    if (iwbName(root()) != QLatin1String("iwb") && svgName(root()) != QLatin1String("svg")) {
+        throw LessonError(
+            QStringLiteral("The document begins with <%1> where an IWB file has <iwb>").arg(root().tagName()),
+            QStringLiteral("Check that this is an IWB lesson"))
+            .in(displayName());
+    }
+    extractEmbedded(root());
+}
+
+QString IwbPackage::displayName() const
+{
+    return m_source.displayName(contentFile);
+}
+
+QStringList IwbPackage::resources() const
+{
+    QStringList paths = m_source.files();
+    paths.removeOne(contentFile);
+    paths += m_embedded.keys();
+    paths.sort();
+    return paths;
+}
+
+QString IwbPackage::file(const QString &resource) const
+{
+    const QString embedded = m_embedded.value(resource);
+    return embedded.isEmpty() ? m_source.file(resource) : embedded;
+}
+
+QString IwbPackage::resolve(const QString &reference, QString *problem) const
+{
+    const QString asWritten = plainPath(reference.trimmed());
+    const QString decoded = QUrl::fromPercentEncoding(asWritten.toUtf8());
+    for (const QString &path : {asWritten, decoded}) {
+        if (m_embedded.contains(path) || (m_source.contains(path) && path != contentFile)) {
+            return path;
+        }
+    }
+    if (asWritten.isEmpty()) {
+        *problem = QStringLiteral("it names no file");
+    } else if (hasScheme(asWritten)) {
+        *problem = QStringLiteral("it lies outside of the package and isn't fetched");
+    } else {
+        *problem = problemWithPackagePath(decoded);
+        if (problem->isEmpty()) {
+            const bool isFolder = QFileInfo(m_source.directory() + QLatin1Char('/') + decoded).isDir();
+            *problem = isFolder ? QStringLiteral("it is a folder") : QStringLiteral("the package has no such file");
+        }
+    }
+    return {};
+}
+
+// Pictures within the document become files, and their references the names of these.
+void IwbPackage::extractEmbedded(QDomElement element)
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        QDomAttr attribute = attributes.item(i).toAttr();
+        if (attribute.name().endsWith(QLatin1String("href")) && attribute.value().startsWith(QLatin1String("data:"))) {
+            attribute.setValue(saveEmbedded(attribute.value()));
+        }
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        extractEmbedded(child);
+    }
+}
+
+QString IwbPackage::saveEmbedded(const QString &uri)
+{
+    const int comma = uri.indexOf(QLatin1Char(','));
+    const QStringList head = uri.mid(5, qMax(0, comma - 5)).split(QLatin1Char(';'));
+    const QByteArray data = QByteArray::fromPercentEncoding(uri.mid(comma + 1).toUtf8());
+    const QString name =
+        QStringLiteral("embedded-%1.%2").arg(m_embedded.size() + 1).arg(suffixOfMediaType(head.first()));
+    QFile file(m_work.filePath(name));
+    const QByteArray content = head.contains(QLatin1String("base64")) ? QByteArray::fromBase64(data) : data;
+    if (comma < 0 || !file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        return {};
+    }
+    QString path = QLatin1String("images/") + name;
+    while (m_source.contains(path)) {
+        path.insert(path.lastIndexOf(QLatin1Char('.')), QLatin1Char('_'));
+    }
+    m_embedded.insert(path, file.fileName());
+    return path;
+}
+
+bool isIwbFolder(const QString &path)
+{
+    try {
+        const QString file = path + QLatin1Char('/') + contentFile;
+        return QFileInfo(file).isFile() && iwbName(loadXmlFile(file).documentElement()) == QLatin1String("iwb");
+    } catch (const LessonError &) {
+        return false;
+    }
+}
+
+} // namespace lessonhost

@@ -1,0 +1,53 @@
+#ifndef IWBPACKAGE_H
+#define IWBPACKAGE_H
+
+#include "files/packagesource.h"
+#include "files/workfolder.h"
+#include "svg/iwbpage.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+namespace lessonhost {
+
+/*!
+ * An opened IWB package: its content document, and the files that the document names. References that leave the package
+ * lead nowhere; pictures that stand in the document itself become files.
+ */
+class IwbPackage
+{
+public:
+    //! Throws LessonError.
+    explicit IwbPackage(const QString &path);
+
+    QDomElement root() const { return m_document.documentElement(); }
+    QString displayName() const;
+
+    //! Files but the content, and the pictures of the document itself, as paths in the package.
+    QStringList resources() const;
+    //! Where a resource lies on disk. Throws LessonError.
+    QString file(const QString &resource) const;
+
+    //! The resource that a reference of the document means, or nothing and the reason as a clause.
+    QString resolve(const QString &reference, QString *problem) const;
+
+    //! A folder of the program's own to work in.
+    QString workFolder() const { return m_work.path(); }
+
+private:
+    void extractEmbedded(QDomElement element);
+    QString saveEmbedded(const QString &uri);
+
+    PackageSource m_source;
+    WorkFolder m_work;
+    QDomDocument m_document;
+    QHash<QString, QString> m_embedded; // file on disk by path in the package
+};
+
+//! True for a folder that holds the content of an IWB package.
+bool isIwbFolder(const QString &path);
+
+} // namespace lessonhost
+
+#endif // IWBPACKAGE_H

@@ -1,0 +1,113 @@
+#ifndef LESSON_H
+#define LESSON_H
+
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class IZQTransformation;
+
+namespace lessonhost {
+
+class LossReport;
+
+/*!
+ * One slide of the lesson model: its own keys, and its items in order from back to front.
+ */
+struct LessonSlide
+{
+    QJsonObject properties;
+    QJsonArray items;
+};
+
+/*!
+ * An open lesson, slide by slide, so that memory doesn't grow with their number. Every function throws LessonError.
+ */
+class LessonReader
+{
+public:
+    virtual ~LessonReader() = default;
+
+    //! The presentation's keys, without Slides.
+    virtual QJsonObject presentation() = 0;
+    virtual int slideCount() = 0;
+    //! Slides are counted from 0 and may be asked for in any order, more than once.
+    virtual LessonSlide slide(int index) = 0;
+
+    //! Files that belong to the lesson, as paths relative to the package with "/" between the parts.
+    virtual QStringList resources() = 0;
+    //! Where a resource lies on disk while the reader lives.
+    virtual QString resourceFile(const QString &relativePath) = 0;
+};
+
+/*!
+ * A lesson being written. Nothing is seen at the target before finish(); a writer that is dropped before leaves no
+ * trace. Every function throws LessonError.
+ */
+class LessonWriter
+{
+public:
+    virtual ~LessonWriter() = default;
+
+    //! First: the presentation's keys, without Slides.
+    virtual void begin(const QJsonObject &presentation) = 0;
+    //! Where resources are needed while slides are written, they are added before the slides.
+    virtual void addResource(const QString &relativePath, const QString &sourceFile) = 0;
+    virtual void writeSlide(const LessonSlide &slide) = 0;
+    //! Last: puts what was written in the place of whatever was at the target.
+    virtual void finish() = 0;
+};
+
+/*!
+ * What readers and writers are given to work with.
+ */
+struct LessonContext
+{
+    IZQTransformation *plugin = nullptr;
+    LossReport *losses = nullptr;
+    bool verify = true; //!< read back what was written and report what did not survive
+    QHash<QString, QString> options; //!< of single formats, by the name of the command's option
+};
+
+/*!
+ * A format as lessonconv offers it.
+ */
+struct LessonFormat
+{
+    QString name;
+    QStringList extensions; //!< lower case, without the point
+    QString description; //!< a line for "lessonconv formats"
+    //! True for a directory or file that is this format whatever its name says; may be empty.
+    std::function<bool(const QString &path)> recognizes;
+    //! False for a file that has the extension and plainly is something else; may be empty.
+    std::function<bool(const QString &path)> mayBe;
+    bool measuresText = false; //!< to read or write it takes a QGuiApplication, for its fonts
+    QString folderBeside; //!< the name of a folder beside a file that belongs to it; may be empty
+    std::function<std::unique_ptr<LessonReader>(const QString &path, const LessonContext &context)> open;
+    //! Empty where the format is only read.
+    std::function<std::unique_ptr<LessonWriter>(const QString &path, const LessonContext &context)> create;
+
+    bool canRead() const { return bool(open); }
+    bool canWrite() const { return bool(create); }
+};
+
+//! All formats, each added by one line in lessonformats.cpp.
+const QVector<LessonFormat> &lessonFormats();
+
+//! The format of that name. Throws LessonError for a name that no format has.
+const LessonFormat &lessonFormatByName(const QString &name);
+
+//! The format of a lesson on disk, by what it holds or, failing that, by its extension.
+const LessonFormat &lessonFormatOfInput(const QString &path);
+
+//! The format to write, by the extension; a path without one is a ZQTX directory.
+const LessonFormat &lessonFormatOfOutput(const QString &path);
+
+} // namespace lessonhost
+
+#endif // LESSON_H

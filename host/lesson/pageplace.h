@@ -1,0 +1,25 @@
+#ifndef PAGEPLACE_H
+#define PAGEPLACE_H
+
+#include "lesson/lesson.h"
+
+namespace lessonhost {
+
+/*!
+ * Brings the values of raw lessons into the keys that packages have for them, such that what is drawn stays the same.
+ *
+ * Packages know no matrix: an item stands in its box, turned about its centre by Angle. Their media have a resource,
+ * their texts are HTML, the background of a page is a color and a document. What has no such form, a slanted picture
+ * for instance, keeps its own keys.
+ *
+ * placed is increased by the items whose Matrix was worked into their box, turn or points.
+ */
+LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin, int *placed = nullptr);
+
+//! A package names a media item's file as its resource; a raw lesson lists files in MultiMediaFile. The first becomes
+//! the resource of an item that has none, and a list of one goes.
+void nameMediaFile(QJsonObject &item);
+
+} // namespace lessonhost
+
+#endif // PAGEPLACE_H

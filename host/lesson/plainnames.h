@@ -1,0 +1,14 @@
+#ifndef PLAINNAMES_H
+#define PLAINNAMES_H
+
+#include <QString>
+
+namespace lessonhost {
+
+//! What a teacher calls an item type: "ZQPhysicsKaiGuan1" is "Switch". A type that nobody named is told by the words in
+//! its name: "ZQPhysicsNewPart2" is "Physics: New Part 2".
+QString plainName(const QString &itemType);
+
+} // namespace lessonhost
+
+#endif // PLAINNAMES_H

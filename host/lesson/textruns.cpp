@@ -1,0 +1,506 @@
+#include "lesson/textruns.h"
+
+#include <QFont>
+#include <QMap>
+#include <QSet>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextFragment>
+#include <QTextList>
+#include <QVariant>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String listKey("IWB_TEXTINFO-VECTOR");
+const QLatin1String destroyerKey("IWB_TEXTINFO-DELVECTOR");
+
+// Text boards come from strangers, so nothing that their HTML names is loaded.
+class ClosedTextDocument : public QTextDocument
+{
+protected:
+    QVariant loadResource(int, const QUrl &) override { return {}; }
+};
+
+// Weights as svg numbers them and as fonts here do.
+struct Weight
+{
+    int svg;
+    int font;
+};
+constexpr Weight weights[] = {{100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
+                              {600, 63}, {700, 75}, {800, 81}, {900, 87}};
+
+QString svgWeight(int fontWeight)
+{
+    int best = 400;
+    int bestDistance = 1000;
+    for (const Weight &weight : weights) {
+        const int distance = qAbs(weight.font - fontWeight);
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = weight.svg;
+        }
+    }
+    switch (best) {
+    case 400:
+        return QStringLiteral("normal");
+    case 700:
+        return QStringLiteral("bold");
+    default:
+        return QString::number(best);
+    }
+}
+
+// The weight as style sheets of text documents write it: eight times the font's.
+QString htmlWeight(const QString &svg)
+{
+    bool isNumber = false;
+    const int number = svg.toInt(&isNumber);
+    if (!isNumber) {
+        return svg.startsWith(QLatin1String("bold")) ? QStringLiteral("bold") : QStringLiteral("normal");
+    }
+    int font = 50;
+    for (const Weight &weight : weights) {
+        if (weight.svg <= number) {
+            font = weight.font;
+        }
+    }
+    return QString::number(font * 8);
+}
+
+struct AlignmentName
+{
+    Qt::AlignmentFlag flag;
+    const char *svg;
+    const char *html;
+};
+constexpr AlignmentName alignments[] = {
+    {Qt::AlignLeft, "start", "left"},
+    {Qt::AlignRight, "end", "right"},
+    {Qt::AlignHCenter, "center", "center"},
+    {Qt::AlignJustify, "justify", "justify"},
+};
+
+QString svgAlignment(Qt::Alignment alignment)
+{
+    for (const AlignmentName &name : alignments) {
+        if (alignment & name.flag) {
+            return QLatin1String(name.svg);
+        }
+    }
+    return QStringLiteral("start");
+}
+
+QLatin1String htmlAlignment(const QString &svg)
+{
+    for (const AlignmentName &name : alignments) {
+        if (svg == QLatin1String(name.svg) || svg == QLatin1String(name.html)) {
+            return QLatin1String(name.html);
+        }
+    }
+    return QLatin1String("left");
+}
+
+// Pixels of a text whose size isn't given.
+constexpr double defaultPixels = 28;
+constexpr double pixelsOfPoint = 96.0 / 72.0;
+
+double pixelSize(const QTextCharFormat &format)
+{
+    double pixels = defaultPixels;
+    if (format.hasProperty(QTextFormat::FontPixelSize)) {
+        pixels = format.intProperty(QTextFormat::FontPixelSize);
+    } else if (format.hasProperty(QTextFormat::FontPointSize)) {
+        pixels = format.doubleProperty(QTextFormat::FontPointSize) * pixelsOfPoint;
+    }
+    // <h1>, <font size="+2"> and the like: steps around the size.
+    static constexpr double steps[] = {0.7, 0.8, 1.0, 1.2, 1.5, 2, 2.4};
+    const int step = format.intProperty(QTextFormat::FontSizeAdjustment);
+    return pixels * steps[qBound(0, step + 2, 6)];
+}
+
+QString familyNames(const QTextCharFormat &format)
+{
+    QStringList names = format.fontFamilies().toStringList();
+    if (names.isEmpty() && !format.fontFamily().isEmpty()) {
+        names.append(format.fontFamily());
+    }
+    return names.isEmpty() ? QStringLiteral("Arial") : names.join(QLatin1String(", "));
+}
+
+QString decoration(const QTextCharFormat &format)
+{
+    QStringList lines;
+    if (format.fontUnderline()) {
+        lines.append(QStringLiteral("underline"));
+    }
+    if (format.fontStrikeOut()) {
+        lines.append(QStringLiteral("line-through"));
+    }
+    return lines.isEmpty() ? QStringLiteral("none") : lines.join(QLatin1Char(' '));
+}
+
+IwbTextInfo runOf(const QTextCharFormat &format, Qt::Alignment alignment)
+{
+    IwbTextInfo run;
+    const QBrush brush = format.foreground();
+    run.fill = brush.style() == Qt::NoBrush ? QStringLiteral("#000000") : brush.color().name();
+    run.fontWeight =
+        format.hasProperty(QTextFormat::FontWeight) ? svgWeight(format.fontWeight()) : QStringLiteral("normal");
+    run.fontStyle = format.fontItalic() ? QStringLiteral("italic") : QStringLiteral("normal");
+    run.fontFamily = withoutControlCharacters(familyNames(format));
+    run.fontSize = QString::number(pixelSize(format));
+    run.textDecoration = decoration(format);
+    run.textAlign = svgAlignment(alignment);
+    return run;
+}
+
+// Where a run must end at the latest: behind the end of a line, where other programs need an element of their own, and
+// within the three characters that would end the CDATA section that its text becomes.
+int runEnd(const QString &text, int start)
+{
+    for (int i = start; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('\n') || text.at(i) == QChar::LineSeparator) {
+            return i + 1;
+        }
+        if (text.midRef(i, 3) == QLatin1String("]]>")) {
+            return i + 2;
+        }
+    }
+    return text.size();
+}
+
+bool sameFormat(const IwbTextInfo &a, const IwbTextInfo &b)
+{
+    return a.fill == b.fill && a.fontWeight == b.fontWeight && a.fontStyle == b.fontStyle
+        && a.fontFamily == b.fontFamily && a.fontSize == b.fontSize && a.textDecoration == b.textDecoration
+        && a.textAlign == b.textAlign;
+}
+
+struct Piece
+{
+    IwbTextInfo format;
+    QString shift;
+    QString text;
+};
+
+void appendPiece(QVector<Piece> &pieces, const Piece &piece)
+{
+    if (!pieces.isEmpty() && sameFormat(pieces.constLast().format, piece.format)
+        && pieces.constLast().shift == piece.shift) {
+        pieces.last().text += piece.text;
+    } else {
+        pieces.append(piece);
+    }
+}
+
+void appendRuns(TextRuns &result, const Piece &piece)
+{
+    int start = 0;
+    do {
+        const int end = runEnd(piece.text, start);
+        IwbTextInfo run = piece.format;
+        run.text = piece.text.mid(start, end - start);
+        result.runs.append(run);
+        result.shifts.append(piece.shift);
+        start = end;
+    } while (start < piece.text.size());
+}
+
+QString shiftOf(const QTextCharFormat &format)
+{
+    switch (format.verticalAlignment()) {
+    case QTextCharFormat::AlignSubScript:
+        return QStringLiteral("sub");
+    case QTextCharFormat::AlignSuperScript:
+        return QStringLiteral("super");
+    default:
+        return {};
+    }
+}
+
+/*!
+ * Counts what text documents know and runs don't.
+ */
+class TextLosses
+{
+public:
+    void lookAt(const QTextBlock &block)
+    {
+        const QTextBlockFormat format = block.blockFormat();
+        count("indented paragraphs", format.indent() > 0 || format.leftMargin() > 0 || format.textIndent() != 0);
+        count("paragraphs with a line height of their own", format.lineHeightType() != QTextBlockFormat::SingleHeight);
+        count("backgrounds of paragraphs", format.background().style() != Qt::NoBrush);
+        count("rules", format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth));
+        count("cells of tables", QTextCursor(block).currentTable() != nullptr);
+    }
+
+    void lookAt(const QTextCharFormat &format)
+    {
+        count("texts with a background", format.background().style() != Qt::NoBrush);
+        count("texts with a line above", format.fontOverline());
+        count("texts in another case or spacing",
+              format.fontCapitalization() != QFont::MixedCase
+                  || (format.hasProperty(QTextFormat::FontLetterSpacing) && format.fontLetterSpacing() != 0));
+        count("links within the text", format.isAnchor() && !format.anchorHref().isEmpty());
+    }
+
+    void count(const char *what, int times)
+    {
+        if (times > 0) {
+            m_counts[QLatin1String(what)] += times;
+        }
+    }
+
+    QStringList toTexts() const
+    {
+        QStringList texts;
+        for (auto it = m_counts.cbegin(); it != m_counts.cend(); ++it) {
+            texts.append(QString::number(it.value()) + QLatin1Char(' ') + it.key());
+        }
+        return texts;
+    }
+
+private:
+    QMap<QString, int> m_counts;
+};
+
+QString listMarker(const QTextBlock &block)
+{
+    const QTextList *list = block.textList();
+    if (!list) {
+        return {};
+    }
+    const bool isNumbered = list->format().style() <= QTextListFormat::ListDecimal;
+    return (isNumbered ? list->itemText(block) : QString(QChar(0x2022))) + QLatin1Char(' ');
+}
+
+TextRuns runsOf(const QTextDocument &document)
+{
+    TextRuns result;
+    TextLosses losses;
+    QVector<Piece> pieces;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        losses.lookAt(block);
+        const Qt::Alignment alignment = block.blockFormat().alignment();
+        Piece piece{runOf(block.charFormat(), alignment), shiftOf(block.charFormat()), {}};
+        QString marker = listMarker(block);
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            int characters = 0;
+            QString text = withoutControlCharacters(fragment.text(), &characters);
+            losses.count("control characters", characters);
+            losses.count("pictures within the text", text.count(QChar::ObjectReplacementCharacter));
+            text.remove(QChar::ObjectReplacementCharacter);
+            if (!text.isEmpty()) {
+                losses.lookAt(fragment.charFormat());
+                piece = {runOf(fragment.charFormat(), alignment), shiftOf(fragment.charFormat()), marker + text};
+                appendPiece(pieces, piece);
+                marker.clear();
+            }
+        }
+        const QString end = block.next().isValid() ? QString(QLatin1Char('\n')) : QString();
+        if (!marker.isEmpty() || !end.isEmpty() || pieces.isEmpty()) {
+            piece.text = marker + end;
+            appendPiece(pieces, piece);
+        }
+    }
+    for (const Piece &piece : qAsConst(pieces)) {
+        appendRuns(result, piece);
+    }
+    result.losses = losses.toTexts();
+    return result;
+}
+
+// The value of a style attribute must not end it.
+QString styleSafe(QString text)
+{
+    for (const char c : {'\'', '"', ';', '<', '>', '&'}) {
+        text.remove(QLatin1Char(c));
+    }
+    return text.trimmed();
+}
+
+QString styleOf(const IwbTextInfo &run, const QString &shift)
+{
+    QStringList families;
+    for (const QString &family : run.fontFamily.split(QLatin1Char(','))) {
+        const QString name = styleSafe(family);
+        if (!name.isEmpty()) {
+            families.append(QLatin1Char('\'') + name + QLatin1Char('\''));
+        }
+    }
+    const double pixels = run.fontSize.toDouble();
+    const double points = (pixels > 0 ? pixels : defaultPixels) / pixelsOfPoint;
+    return QLatin1String("font-family:") + families.join(QLatin1Char(',')) + QLatin1String("; font-size:")
+        + QString::number(points, 'g', 10) + QLatin1String("pt; font-weight:") + htmlWeight(run.fontWeight)
+        + QLatin1String("; font-style:")
+        + (run.fontStyle == QLatin1String("normal") ? QLatin1String("normal") : QLatin1String("italic"))
+        + QLatin1String("; text-decoration:") + styleSafe(run.textDecoration) + QLatin1String("; color:")
+        + styleSafe(run.fill) + QLatin1Char(';')
+        + (shift.isEmpty() ? QString() : QLatin1String(" vertical-align:") + shift + QLatin1Char(';'));
+}
+
+// What stands between two ends of paragraphs.
+struct Paragraph
+{
+    QString align;
+    QString firstStyle;
+    QString spans; // empty for a paragraph without text
+};
+
+void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &shift, const QString &text)
+{
+    const QString style = styleOf(run, shift);
+    if (paragraph.align.isEmpty()) {
+        paragraph.align = run.textAlign;
+        paragraph.firstStyle = style;
+    }
+    if (!text.isEmpty()) {
+        QString escaped = text.toHtmlEscaped();
+        escaped.replace(QChar::LineSeparator, QLatin1String("<br/>"));
+        paragraph.spans +=
+            QLatin1String("<span style=\"") + style + QLatin1String("\">") + escaped + QLatin1String("</span>");
+    }
+}
+
+// A paragraph without text needs a line break within, the mark that text documents know it by, and its font.
+QString paragraphHtml(const Paragraph &paragraph)
+{
+    const QString start = QLatin1String("<p align=\"") + htmlAlignment(paragraph.align)
+        + QLatin1String("\" style=\"margin:0px; white-space:pre-wrap;");
+    if (paragraph.spans.isEmpty()) {
+        return start + QLatin1String(" -qt-paragraph-type:empty; ") + paragraph.firstStyle
+            + QLatin1String("\"><br/></p>");
+    }
+    return start + QLatin1String("\">") + paragraph.spans + QLatin1String("</p>");
+}
+
+QSet<void *> &lentLists()
+{
+    static QSet<void *> lists;
+    return lists;
+}
+
+void destroyLentList(void *list)
+{
+    if (lentLists().remove(list)) {
+        delete static_cast<IwbTextInfoList *>(list);
+    }
+}
+
+quintptr addressIn(const QJsonObject &item, QLatin1String key)
+{
+    return quintptr(item.value(key).toString().toULongLong());
+}
+
+} // namespace
+
+TextRuns textRunsFromHtml(const QString &html)
+{
+    ClosedTextDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setHtml(html);
+    return runsOf(document);
+}
+
+TextRuns textRunsFromPlainText(const QString &text)
+{
+    ClosedTextDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setPlainText(text);
+    return runsOf(document);
+}
+
+QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts)
+{
+    QVector<Paragraph> paragraphs(1);
+    for (int n = 0; n < runs.size(); ++n) {
+        const IwbTextInfo &run = runs.at(n);
+        const QStringList parts = run.text.split(QLatin1Char('\n'));
+        for (int i = 0; i < parts.size(); ++i) {
+            if (i > 0) {
+                paragraphs.append(Paragraph());
+            }
+            // What follows on a last newline belongs to the next run, which may be formatted otherwise.
+            const bool isRest = i > 0 && i + 1 == parts.size() && parts.at(i).isEmpty() && n + 1 < runs.size();
+            if (!isRest) {
+                appendSpan(paragraphs.last(), run, shifts.value(n), parts.at(i));
+            }
+        }
+    }
+    QString html = QStringLiteral("<html><body>");
+    for (const Paragraph &paragraph : qAsConst(paragraphs)) {
+        html += paragraphHtml(paragraph);
+    }
+    return html + QLatin1String("</body></html>");
+}
+
+QString withoutControlCharacters(const QString &text, int *dropped)
+{
+    QString clean;
+    clean.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (isPair) {
+            clean += c;
+            clean += text.at(++i);
+            continue;
+        }
+        const ushort code = c.unicode();
+        const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+        if (isControl || c.isSurrogate() || code >= 0xfffe) {
+            if (dropped) {
+                ++*dropped;
+            }
+        } else {
+            clean += c;
+        }
+    }
+    return clean;
+}
+
+TextRunLoan::TextRunLoan(QJsonObject &item, const IwbTextInfoList &runs)
+    : m_list(new IwbTextInfoList(runs))
+{
+    lentLists().insert(m_list);
+    IwbTextInfoListDeleter destroyer = destroyLentList;
+    item.insert(listKey, QString::number(quintptr(m_list)));
+    item.insert(destroyerKey, QString::number(quintptr(destroyer)));
+}
+
+TextRunLoan::~TextRunLoan()
+{
+    destroyLentList(m_list);
+}
+
+int TextRunLoan::liveLists()
+{
+    return lentLists().size();
+}
+
+std::optional<IwbTextInfoList> takeTextRuns(QJsonObject &item)
+{
+    const quintptr listAddress = addressIn(item, listKey);
+    const quintptr destroyerAddress = addressIn(item, destroyerKey);
+    item.remove(listKey);
+    item.remove(destroyerKey);
+    if (!listAddress) {
+        return std::nullopt;
+    }
+    // The plug-in hands over the list and what frees it as addresses. NOLINTBEGIN(performance-no-int-to-ptr)
+    auto *list = reinterpret_cast<IwbTextInfoList *>(listAddress);
+    const auto destroy = reinterpret_cast<IwbTextInfoListDeleter>(destroyerAddress);
+    // NOLINTEND(performance-no-int-to-ptr)
+    const IwbTextInfoList runs = *list;
+    if (destroy) {
+        destroy(list);
+    }
+    return runs;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,208 @@
+#include "losses/lossreport.h"
+
+#include <QHash>
+#include <QJsonArray>
+#include <QMap>
+#include <QStringList>
+
+#include <set>
+
+namespace lessonhost {
+
+namespace {
+
+// Longer lists are cut in the summary; the JSON has every entry.
+constexpr int maximumNamed = 20;
+
+QLatin1String kindName(Loss::Kind kind)
+{
+    switch (kind) {
+    case Loss::Value:
+        return QLatin1String("value");
+    case Loss::Item:
+        return QLatin1String("item");
+    case Loss::Kept:
+        return QLatin1String("kept");
+    case Loss::File:
+        return QLatin1String("file");
+    case Loss::Note:
+        break;
+    }
+    return QLatin1String("note");
+}
+
+// Deep in a tree, the two ends of the way tell enough.
+QString shortened(const QString &key)
+{
+    constexpr int longest = 80;
+    return key.size() <= longest ? key : key.left(longest / 2) + QLatin1String("...") + key.right(longest / 2);
+}
+
+QString name(const Loss &loss)
+{
+    QString text = loss.itemType;
+    if (!loss.key.isEmpty()) {
+        text += (text.isEmpty() ? QString() : QStringLiteral(".")) + shortened(loss.key);
+    }
+    return text;
+}
+
+// " on slide 3", " on slides 3 to 9" or " on 5 slides from 3 to 9"; nothing for the presentation alone.
+QString onSlides(const std::set<int> &slides)
+{
+    if (slides.empty() || *slides.rbegin() == 0) {
+        return {};
+    }
+    const int first = *slides.begin();
+    const int last = *slides.rbegin();
+    const int count = int(slides.size());
+    if (count == 1) {
+        return QStringLiteral(" on slide %1").arg(first);
+    }
+    return count == last - first + 1 ? QStringLiteral(" on slides %1 to %2").arg(first).arg(last)
+                                     : QStringLiteral(" on %1 slides from %2 to %3").arg(count).arg(first).arg(last);
+}
+
+QString named(const QStringList &names)
+{
+    if (names.size() <= maximumNamed) {
+        return names.join(QLatin1String(", "));
+    }
+    return names.mid(0, maximumNamed).join(QLatin1String(", "))
+        + QStringLiteral(" and %1 more").arg(names.size() - maximumNamed);
+}
+
+// "9 ZQPhysicsDianZu, 3 ZQMindMapItem", the most frequent first.
+QString countedByType(const QVector<Loss> &losses)
+{
+    QMap<QString, int> counts;
+    for (const Loss &loss : losses) {
+        ++counts[loss.itemType];
+    }
+    QVector<QPair<int, QString>> rows;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        rows.append({-it.value(), it.key()});
+    }
+    std::sort(rows.begin(), rows.end());
+    QStringList texts;
+    for (const auto &row : qAsConst(rows)) {
+        texts.append(QString::number(-row.first) + QLatin1Char(' ') + row.second);
+    }
+    return named(texts);
+}
+
+enum class Details { Hidden, Shown };
+
+// What is the same but for its slide is named once, in the order in which it came up.
+QString listed(const QVector<Loss> &losses, Details details = Details::Hidden)
+{
+    struct Group
+    {
+        QString name;
+        QString detail;
+        std::set<int> slides;
+        int count = 0;
+    };
+    QVector<Group> groups;
+    QHash<QPair<QString, QString>, int> indexes;
+    for (const Loss &loss : losses) {
+        const QPair<QString, QString> same(name(loss),
+                                           details == Details::Shown ? QLatin1String(": ") + loss.detail : QString());
+        auto index = indexes.constFind(same);
+        if (index == indexes.constEnd()) {
+            index = indexes.insert(same, groups.size());
+            groups.append({same.first, same.second, {}, 0});
+        }
+        Group &group = groups[*index];
+        group.slides.insert(loss.slide);
+        ++group.count;
+    }
+    QStringList texts;
+    for (const Group &group : qAsConst(groups)) {
+        const QString times = group.count > 1 ? QStringLiteral(" (%1 times)").arg(group.count) : QString();
+        texts.append(group.name + onSlides(group.slides) + times + group.detail);
+    }
+    return named(texts);
+}
+
+// "no IWB form", or "no form here" where the format has no name.
+QString missingForm(const QString &format)
+{
+    return QLatin1String("no ") + (format.isEmpty() ? QStringLiteral("form here") : format + QLatin1String(" form"));
+}
+
+QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format)
+{
+    const int count = losses.size();
+    const QString number = QString::number(count);
+    switch (kind) {
+    case Loss::Value:
+        return number + QLatin1String(count == 1 ? " value lost: " : " values lost: ") + listed(losses);
+    case Loss::Item:
+        return number + QLatin1String(count == 1 ? " item has " : " items have ") + missingForm(format)
+            + QLatin1String(": ") + countedByType(losses);
+    case Loss::Kept:
+        return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ")
+            + countedByType(losses);
+    case Loss::File:
+        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
+            + listed(losses);
+    case Loss::Note:
+        break;
+    }
+    return QLatin1String("Note: ") + listed(losses, Details::Shown);
+}
+
+} // namespace
+
+void LossReport::add(const Loss &loss)
+{
+    // The entries of a large lesson differ in little but their places.
+    m_entries.append(
+        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail)});
+    if (loss.kind != Loss::Kept && loss.kind != Loss::Note) {
+        ++m_lossCount;
+    }
+}
+
+QString LossReport::shared(const QString &text)
+{
+    return *m_texts.insert(text);
+}
+
+QString LossReport::summary() const
+{
+    QStringList lines;
+    for (const auto kind : {Loss::Value, Loss::Item, Loss::File, Loss::Kept, Loss::Note}) {
+        QVector<Loss> losses;
+        std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
+                     [kind](const Loss &loss) { return loss.kind == kind; });
+        if (!losses.isEmpty()) {
+            lines.append(line(kind, losses, m_format));
+        }
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+QJsonObject LossReport::toJson() const
+{
+    QJsonArray entries;
+    for (const Loss &loss : m_entries) {
+        QJsonObject entry{{QStringLiteral("kind"), kindName(loss.kind)}, {QStringLiteral("type"), loss.itemType}};
+        if (loss.slide > 0) {
+            entry.insert(QStringLiteral("slide"), loss.slide);
+        }
+        for (const auto &[name, text] : {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail}}) {
+            if (!text.isEmpty()) {
+                entry.insert(QLatin1String(name), text);
+            }
+        }
+        entries.append(entry);
+    }
+    return {
+        {QStringLiteral("losses"), m_lossCount},
+        {QStringLiteral("summary"), QJsonArray::fromStringList(summary().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},
+        {QStringLiteral("entries"), entries}};
+}
+
+} // namespace lessonhost

@@ -1,0 +1,65 @@
+#ifndef LOSSREPORT_H
+#define LOSSREPORT_H
+
+#include <QJsonObject>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+namespace lessonhost {
+
+/*!
+ * What a conversion could not bring over.
+ */
+struct Loss
+{
+    enum Kind {
+        Value, //!< a value of an item, a slide or the presentation did not survive
+        Item, //!< an item has no form in the format written, and isn't there
+        Kept, //!< an item nobody can convert went over as it came: named, but no loss
+        File, //!< a file that the lesson names isn't there or can't be taken
+        Note, //!< done otherwise than one would expect: named, but no loss
+    };
+
+    Kind kind = Value;
+    int slide = 0; //!< counted from 1; 0 is the presentation
+    QString itemType; //!< item type, or "slide" or "presentation"
+    QString itemId;
+    QString key; //!< JSON key, XML attribute or file
+    QString detail; //!< what it was, or why; may be empty
+};
+
+/*!
+ * Collects losses in the order in which they are found and puts them into words and JSON.
+ */
+class LossReport
+{
+public:
+    void add(const Loss &loss);
+
+    const QVector<Loss> &entries() const { return m_entries; }
+    //! Everything but what was kept and the notes.
+    int lossCount() const { return m_lossCount; }
+    bool isEmpty() const { return m_entries.isEmpty(); }
+
+    //! What the summary calls the format being written, such as "IWB".
+    void setFormat(const QString &name) { m_format = name; }
+
+    //! A line for each kind: "2 values lost: ZQChalkStroke.Weight on slide 3, ...". No text without entries.
+    QString summary() const;
+
+    //! {"losses": number, "summary": lines, "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
+    QJsonObject toJson() const;
+
+private:
+    QString shared(const QString &text);
+
+    QVector<Loss> m_entries;
+    QSet<QString> m_texts; //!< each text of the entries that others may have too, once
+    QString m_format;
+    int m_lossCount = 0;
+};
+
+} // namespace lessonhost
+
+#endif // LOSSREPORT_H

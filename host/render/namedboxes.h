@@ -1,0 +1,34 @@
+#ifndef NAMEDBOXES_H
+#define NAMEDBOXES_H
+
+#include <QJsonObject>
+#include <QRectF>
+#include <QString>
+
+namespace lessonhost {
+
+class PlainSvg;
+
+/*!
+ * Shows the items that have no drawing of their own in svg.
+ */
+class NamedBoxes
+{
+public:
+    explicit NamedBoxes(PlainSvg &svg);
+
+    //! A tree of boxes and lines, in the item's box or the whole page. False for what is no mind map.
+    bool drawMindMap(const QJsonObject &item);
+
+    //! The item's box with the plain name of its type and the text that stands on it; for an item without a box, a
+    //! small one at the page's left edge. hasPicture: it lies over a picture that is to be seen.
+    void drawBox(const QJsonObject &item, bool hasPicture);
+
+private:
+    PlainSvg &m_svg;
+    int m_withoutPlace = 0;
+};
+
+} // namespace lessonhost
+
+#endif // NAMEDBOXES_H

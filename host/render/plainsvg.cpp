@@ -1,0 +1,365 @@
+#include "render/plainsvg.h"
+
+#include "files/packagenames.h"
+#include "files/pictures.h"
+#include "render/labellines.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QImageReader>
+#include <QVector>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+// Everything that draws, and nothing that runs or loads.
+const char *const keptAttributes[] = {
+    "x",
+    "y",
+    "width",
+    "height",
+    "rx",
+    "ry",
+    "cx",
+    "cy",
+    "r",
+    "x1",
+    "y1",
+    "x2",
+    "y2",
+    "d",
+    "points",
+    "fill",
+    "fill-opacity",
+    "fill-rule",
+    "stroke",
+    "stroke-width",
+    "stroke-opacity",
+    "stroke-dasharray",
+    "stroke-linecap",
+    "stroke-linejoin",
+    "opacity",
+    "transform",
+    "preserveAspectRatio",
+};
+const char *const keptTags[] = {"rect", "circle", "ellipse", "line", "polyline", "polygon", "path"};
+
+QString number(double value)
+{
+    return QString::number(qIsFinite(value) ? value : 0, 'f', 2);
+}
+
+QString withoutPrefix(const QString &tag)
+{
+    return tag.section(QLatin1Char(':'), -1);
+}
+
+void copyAttributes(const QDomElement &from, QDomElement &to)
+{
+    for (const char *name : keptAttributes) {
+        const QString value = from.attribute(QLatin1String(name));
+        // A reference to a paint server or a style leads out of what is copied.
+        if (!value.isEmpty() && !value.contains(QLatin1String("url("), Qt::CaseInsensitive)) {
+            to.setAttribute(QLatin1String(name), value);
+        }
+    }
+}
+
+struct Piece
+{
+    QDomElement span;
+    QFont font;
+    QString text;
+    double width = 0;
+};
+using Line = QVector<Piece>;
+
+double pixelSize(const QDomElement &span)
+{
+    bool isNumber = false;
+    const double size = span.attribute(QStringLiteral("font-size")).toDouble(&isNumber);
+    return isNumber ? qBound(1.0, size, 2000.0) : 28;
+}
+
+QFont fontOf(const QDomElement &span)
+{
+    QFont font(span.attribute(QStringLiteral("font-family"), QStringLiteral("Arial")));
+    font.setPixelSize(qMax(1, qRound(pixelSize(span))));
+    font.setBold(span.attribute(QStringLiteral("font-weight")) == QLatin1String("bold"));
+    font.setItalic(span.attribute(QStringLiteral("font-style")) == QLatin1String("italic"));
+    return font;
+}
+
+// Where the next word ends, the blanks behind it included. Wide scripts have no blanks: each of their letters is a
+// word.
+int wordEnd(const QString &text, int from)
+{
+    int end = from;
+    while (end < text.size() && !text.at(end).isSpace() && text.at(end).unicode() < 0x2e80) {
+        ++end;
+    }
+    end = qMax(end, from + 1);
+    while (end < text.size() && text.at(end) == QLatin1Char(' ')) {
+        ++end;
+    }
+    return end;
+}
+
+// Breaks the runs of a text area into lines of at most a width.
+QVector<Line> linesOf(const QDomElement &area, double width)
+{
+    QVector<Line> lines(1);
+    double used = 0;
+    for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+        if (withoutPrefix(span.tagName()) != QLatin1String("tspan")) {
+            continue;
+        }
+        const QString text = span.text();
+        const QFont font = fontOf(span);
+        const QFontMetricsF metrics(font);
+        for (int at = 0; at < text.size();) {
+            const QChar first = text.at(at);
+            if (first == QLatin1Char('\n') || first == QChar::LineSeparator) {
+                lines.append(Line());
+                used = 0;
+                ++at;
+                continue;
+            }
+            const int end = wordEnd(text, at);
+            const QString word = text.mid(at, end - at);
+            const double wordWidth = metrics.horizontalAdvance(word);
+            if (used > 0 && used + wordWidth > width + 1) {
+                lines.append(Line());
+                used = 0;
+            }
+            Line &line = lines.last();
+            if (line.isEmpty() || line.constLast().span != span) {
+                line.append({span, font, QString(), 0});
+            }
+            line.last().text += word;
+            line.last().width += wordWidth;
+            used += wordWidth;
+            at = end;
+        }
+    }
+    return lines;
+}
+
+// The picture as the text of an address, in a form that every viewer knows. Empty for what is no picture.
+QString dataAddress(const QString &fileName)
+{
+    if (!pictureProblem(fileName).isEmpty()) {
+        return {};
+    }
+    QImageReader reader(fileName);
+    reader.setAutoTransform(true);
+    const QByteArray format = reader.format();
+    QByteArray content;
+    QString type = QString::fromLatin1(format);
+    if (format == "png" || format == "jpeg" || format == "gif") {
+        QFile file(fileName);
+        if (file.open(QIODevice::ReadOnly)) {
+            content = file.readAll();
+        }
+    } else if (const QImage image = reader.read(); !image.isNull()) {
+        QBuffer buffer(&content);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "png");
+        type = QStringLiteral("png");
+    }
+    return content.isEmpty() ? QString()
+                             : QString(QLatin1String("data:image/") + type + QLatin1String(";base64,")
+                                       + QString::fromLatin1(content.toBase64()));
+}
+
+} // namespace
+
+PlainSvg::PlainSvg(const QSizeF &size, const QString &folder)
+    : m_size(size)
+    , m_folder(folder)
+{
+    m_svg = m_document.createElement(QStringLiteral("svg"));
+    m_document.appendChild(m_svg);
+    m_svg.setAttribute(QStringLiteral("xmlns"), QStringLiteral("http://www.w3.org/2000/svg"));
+    m_svg.setAttribute(QStringLiteral("xmlns:xlink"), QStringLiteral("http://www.w3.org/1999/xlink"));
+    m_svg.setAttribute(QStringLiteral("viewBox"),
+                       QStringLiteral("0 0 %1 %2").arg(number(size.width()), number(size.height())));
+    m_svg.setAttribute(QStringLiteral("width"), number(size.width()));
+    m_svg.setAttribute(QStringLiteral("height"), number(size.height()));
+    QDomElement paper = append(QStringLiteral("rect"));
+    paper.setAttribute(QStringLiteral("width"), number(size.width()));
+    paper.setAttribute(QStringLiteral("height"), number(size.height()));
+    paper.setAttribute(QStringLiteral("fill"), QStringLiteral("#ffffff"));
+}
+
+QDomElement PlainSvg::append(const QString &tag)
+{
+    QDomElement element = m_document.createElement(tag);
+    m_svg.appendChild(element);
+    return element;
+}
+
+void PlainSvg::add(const QDomElement &element)
+{
+    const QString tag = withoutPrefix(element.tagName());
+    if (tag == QLatin1String("textarea")) {
+        addText(element);
+    } else if (tag == QLatin1String("image")) {
+        addPicture(element);
+    } else if (std::any_of(std::begin(keptTags), std::end(keptTags),
+                           [&tag](const char *kept) { return tag == QLatin1String(kept); })) {
+        QDomElement copy = append(tag);
+        copyAttributes(element, copy);
+        // The boxes that IWB gives such shapes mean nothing to svg.
+        if (tag != QLatin1String("rect")) {
+            for (const char *name : {"x", "y", "width", "height"}) {
+                copy.removeAttribute(QLatin1String(name));
+            }
+        }
+    }
+}
+
+void PlainSvg::addPicture(const QDomElement &image)
+{
+    const QString reference = image.attribute(QStringLiteral("xlink:href"));
+    if (!problemWithPackagePath(reference).isEmpty()) {
+        return;
+    }
+    const QString address = dataAddress(QDir(m_folder).filePath(reference));
+    if (!address.isEmpty()) {
+        QDomElement copy = append(QStringLiteral("image"));
+        copyAttributes(image, copy);
+        copy.setAttribute(QStringLiteral("xlink:href"), address);
+    }
+}
+
+void PlainSvg::addText(const QDomElement &area)
+{
+    const double left = area.attribute(QStringLiteral("x")).toDouble();
+    double y = area.attribute(QStringLiteral("y")).toDouble();
+    double width = area.attribute(QStringLiteral("width")).toDouble();
+    if (!(width > 0)) {
+        width = m_size.width() - left;
+    }
+    QDomElement group = append(QStringLiteral("g"));
+    copyAttributes(area, group);
+    for (const char *name : {"x", "y", "width", "height", "fill"}) {
+        group.removeAttribute(QLatin1String(name));
+    }
+    for (const Line &line : linesOf(area, width)) {
+        double ascent = line.isEmpty() ? 28 : 0;
+        double descent = line.isEmpty() ? 6 : 0;
+        double used = 0;
+        for (const Piece &piece : line) {
+            const QFontMetricsF metrics(piece.font);
+            ascent = qMax(ascent, metrics.ascent());
+            descent = qMax(descent, metrics.descent());
+            used += piece.width;
+        }
+        double x = left;
+        if (!line.isEmpty()) {
+            const QString align = line.constFirst().span.attribute(QStringLiteral("text-align"));
+            const bool isEnd = align == QLatin1String("end") || align == QLatin1String("right");
+            x += isEnd                                                                        ? width - used
+                : align.startsWith(QLatin1String("cent")) || align == QLatin1String("middle") ? (width - used) / 2
+                                                                                              : 0;
+        }
+        for (const Piece &piece : line) {
+            QDomElement text = m_document.createElement(QStringLiteral("text"));
+            group.appendChild(text);
+            text.setAttribute(QStringLiteral("x"), number(x));
+            text.setAttribute(QStringLiteral("y"), number(y + ascent));
+            text.setAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
+            text.setAttribute(QStringLiteral("font-family"), piece.font.family());
+            text.setAttribute(QStringLiteral("font-size"), number(pixelSize(piece.span)));
+            for (const char *name : {"fill", "font-weight", "font-style"}) {
+                const QString value = piece.span.attribute(QLatin1String(name));
+                if (!value.isEmpty() && !value.contains(QLatin1String("url("), Qt::CaseInsensitive)) {
+                    text.setAttribute(QLatin1String(name), value);
+                }
+            }
+            // Another program's font of that name may be wider.
+            if (piece.width > 0) {
+                text.setAttribute(QStringLiteral("textLength"), number(piece.width));
+            }
+            text.appendChild(m_document.createTextNode(piece.text));
+            // Drawn, since not every viewer knows the attribute.
+            const QString decoration = piece.span.attribute(QStringLiteral("text-decoration"));
+            const double size = pixelSize(piece.span);
+            for (const auto &row : {std::make_pair("underline", 0.12), std::make_pair("line-through", -0.3)}) {
+                if (decoration.contains(QLatin1String(row.first))) {
+                    QDomElement rule = m_document.createElement(QStringLiteral("rect"));
+                    group.appendChild(rule);
+                    rule.setAttribute(QStringLiteral("x"), number(x));
+                    rule.setAttribute(QStringLiteral("y"), number(y + ascent + row.second * size));
+                    rule.setAttribute(QStringLiteral("width"), number(piece.width));
+                    rule.setAttribute(QStringLiteral("height"), number(size * 0.06));
+                    rule.setAttribute(QStringLiteral("fill"), text.attribute(QStringLiteral("fill")));
+                }
+            }
+            x += piece.width;
+        }
+        y += ascent + descent;
+    }
+}
+
+QDomElement PlainSvg::addRectangle(const QRectF &box, const QColor &line, const QColor &fill)
+{
+    QDomElement rectangle = append(QStringLiteral("rect"));
+    rectangle.setAttribute(QStringLiteral("x"), number(box.x()));
+    rectangle.setAttribute(QStringLiteral("y"), number(box.y()));
+    rectangle.setAttribute(QStringLiteral("width"), number(box.width()));
+    rectangle.setAttribute(QStringLiteral("height"), number(box.height()));
+    rectangle.setAttribute(QStringLiteral("rx"), QStringLiteral("6"));
+    rectangle.setAttribute(QStringLiteral("stroke"), line.name());
+    rectangle.setAttribute(QStringLiteral("stroke-width"), QStringLiteral("2"));
+    rectangle.setAttribute(QStringLiteral("fill"), fill.name());
+    rectangle.setAttribute(QStringLiteral("fill-opacity"), number(fill.alphaF()));
+    return rectangle;
+}
+
+void PlainSvg::addLine(const QLineF &line, const QColor &color, double width)
+{
+    QDomElement element = append(QStringLiteral("line"));
+    element.setAttribute(QStringLiteral("x1"), number(line.x1()));
+    element.setAttribute(QStringLiteral("y1"), number(line.y1()));
+    element.setAttribute(QStringLiteral("x2"), number(line.x2()));
+    element.setAttribute(QStringLiteral("y2"), number(line.y2()));
+    element.setAttribute(QStringLiteral("stroke"), color.name());
+    element.setAttribute(QStringLiteral("stroke-width"), number(width));
+}
+
+void PlainSvg::addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color)
+{
+    constexpr int longestText = 600; // what follows would be too small to read
+    const QString shown = text.left(longestText);
+    LabelLines label = linesThatFit(shown, box.size(), pixelSize);
+    QDomElement group = append(QStringLiteral("g"));
+    const LabelLines upright = linesThatFit(shown, box.size().transposed(), pixelSize);
+    if (upright.size > label.size * 1.5) {
+        label = upright;
+        group.setAttribute(QStringLiteral("transform"),
+                           QStringLiteral("rotate(-90 %1 %2)").arg(number(box.center().x()), number(box.center().y())));
+    }
+    group.setAttribute(QStringLiteral("text-anchor"), QStringLiteral("middle"));
+    group.setAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
+    group.setAttribute(QStringLiteral("font-size"), number(label.size));
+    group.setAttribute(QStringLiteral("fill"), color.name());
+    double y =
+        box.center().y() - (label.lines.size() - 1) * label.size * LabelLines::lineHeight / 2 + label.size * 0.35;
+    for (const QString &line : qAsConst(label.lines)) {
+        QDomElement element = m_document.createElement(QStringLiteral("text"));
+        element.setAttribute(QStringLiteral("x"), number(box.center().x()));
+        element.setAttribute(QStringLiteral("y"), number(y));
+        element.appendChild(m_document.createTextNode(line));
+        group.appendChild(element);
+        y += label.size * LabelLines::lineHeight;
+    }
+}
+
+} // namespace lessonhost

@@ -1,0 +1,47 @@
+#ifndef PLAINSVG_H
+#define PLAINSVG_H
+
+#include <QColor>
+#include <QDomDocument>
+#include <QLineF>
+#include <QRectF>
+#include <QString>
+
+namespace lessonhost {
+
+/*!
+ * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that
+ * runs or leads out of it.
+ */
+class PlainSvg
+{
+public:
+    //! folder: where the pictures of the elements lie that will be added.
+    PlainSvg(const QSizeF &size, const QString &folder);
+
+    QSizeF size() const { return m_size; }
+    QDomElement element() const { return m_svg; }
+
+    //! Adds an element of an IWB page.
+    void add(const QDomElement &element);
+
+    QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
+    void addLine(const QLineF &line, const QColor &color, double width);
+    //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
+    //! that lets it be larger.
+    void addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color);
+
+private:
+    QDomElement append(const QString &tag);
+    void addText(const QDomElement &area);
+    void addPicture(const QDomElement &image);
+
+    QSizeF m_size;
+    QString m_folder;
+    QDomDocument m_document;
+    QDomElement m_svg;
+};
+
+} // namespace lessonhost
+
+#endif // PLAINSVG_H

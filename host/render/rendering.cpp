@@ -1,0 +1,345 @@
+#include "render/rendering.h"
+
+#include "files/lessonerror.h"
+#include "files/packagetarget.h"
+#include "lesson/pageplace.h"
+#include "losses/lossreport.h"
+#include "render/slidedifference.h"
+#include "render/slidepictures.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgRenderer>
+
+namespace lessonhost {
+
+namespace {
+
+using Progress = std::function<void(int done, int total)>;
+
+constexpr int largestSide = 16384;
+constexpr double pointsPerPixel = 0.75;
+
+const char *const pageHead = R"(<!DOCTYPE html>
+<html lang="en"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width">
+<title>%1</title>
+<style>
+body { margin: 2em auto; max-width: 1600px; padding: 0 1em; background: #f4f4f2; font-family: sans-serif; color: #222 }
+figure { margin: 0 0 2em } figcaption { margin: .4em 0; color: #555 }
+svg { width: 100%; height: auto; background: #fff; box-shadow: 0 1px 6px #0004 }
+.pair { display: grid; grid-template-columns: 1fr 1fr; gap: 1em } .losses { color: #a00 } .none { color: #262 }
+</style></head><body>
+<h1>%1</h1>
+)";
+
+void writeWhole(const PackageTarget &target, const QByteArray &content)
+{
+    QFile file(target.file());
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
+        throw LessonError(QStringLiteral("The picture can't be written: %1").arg(file.errorString()),
+                          QStringLiteral("Check that there is room and that you may write there"))
+            .in(target.target());
+    }
+}
+
+QVector<int> chosenSlides(const RenderSettings &settings, int count)
+{
+    QVector<int> chosen;
+    if (settings.slides.isEmpty()) {
+        for (int i = 0; i < count; ++i) {
+            chosen.append(i);
+        }
+    }
+    for (const int slide : settings.slides) {
+        if (slide >= count) {
+            throw LessonError(QStringLiteral("There is no slide %1: the lesson has %2").arg(slide + 1).arg(count),
+                              QStringLiteral("Name other slides with --slides"));
+        }
+        chosen.append(slide);
+    }
+    return chosen;
+}
+
+// The size of the output: as asked for, or that of the page, made smaller where no picture can be so large.
+QSize sizeFor(const SlidePicture &picture, const QSize &asked)
+{
+    const QSize size = asked.isEmpty() ? picture.size.toSize() : asked;
+    return size.boundedTo(QSize(largestSide, largestSide)).expandedTo(QSize(1, 1));
+}
+
+// The picture in the middle of a page, its sides in their proportion.
+void paint(QPainter &painter, const SlidePicture &picture, const QSizeF &page)
+{
+    QSvgRenderer renderer(picture.svg);
+    const QSizeF size = picture.size.scaled(page, Qt::KeepAspectRatio);
+    renderer.render(&painter,
+                    QRectF(QPointF((page.width() - size.width()) / 2, (page.height() - size.height()) / 2), size));
+}
+
+QString caption(const SlidePicture &picture)
+{
+    return picture.named.isEmpty()
+        ? QStringLiteral("Slide %1").arg(picture.slide)
+        : QStringLiteral("Slide %1 (items shown by their name: %2)").arg(picture.slide).arg(picture.named.size());
+}
+
+/*!
+ * Takes the pictures one after the other and puts everything in its place at the end.
+ */
+class Output
+{
+public:
+    virtual ~Output() = default;
+    virtual void add(const SlidePicture &picture) = 0;
+    virtual QStringList finish() = 0;
+};
+
+class HtmlOutput : public Output
+{
+public:
+    HtmlOutput(const QString &path, const QString &title)
+        : m_target(path)
+        , m_html(QString(QLatin1String(pageHead)).replace(QLatin1String("%1"), title.toHtmlEscaped()).toUtf8())
+    {
+    }
+    void add(const SlidePicture &picture) override
+    {
+        m_html += "<figure id=\"slide" + QByteArray::number(picture.slide) + "\">\n" + picture.svg + "\n<figcaption>"
+            + caption(picture).toHtmlEscaped().toUtf8() + "</figcaption></figure>\n";
+    }
+    void addHtml(const QByteArray &html) { m_html += html; }
+    QStringList finish() override
+    {
+        writeWhole(m_target, m_html + "</body></html>\n");
+        m_target.commitFile();
+        return {m_target.target()};
+    }
+
+private:
+    PackageTarget m_target;
+    QByteArray m_html;
+};
+
+class PdfOutput : public Output
+{
+public:
+    PdfOutput(const QString &path, const QString &title, const QSize &size)
+        : m_target(path)
+        , m_size(size)
+        , m_writer(m_target.file())
+    {
+        m_writer.setTitle(title);
+        m_writer.setCreator(QStringLiteral("lessonconv"));
+        m_writer.setResolution(96);
+    }
+    void add(const SlidePicture &picture) override
+    {
+        const QSize size = sizeFor(picture, m_size);
+        m_writer.setPageSize(QPageSize(QSizeF(size) * pointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
+        m_writer.setPageMargins(QMarginsF());
+        const bool isReady = m_painter.isActive() ? m_writer.newPage() : m_painter.begin(&m_writer);
+        if (!isReady) {
+            throw LessonError(QStringLiteral("The pages can't be written"),
+                              QStringLiteral("Check that there is room and that you may write there"))
+                .in(m_target.target());
+        }
+        paint(m_painter, picture, QSizeF(m_writer.width(), m_writer.height()));
+    }
+    QStringList finish() override
+    {
+        m_painter.end();
+        m_target.commitFile();
+        return {m_target.target()};
+    }
+
+private:
+    PackageTarget m_target;
+    QSize m_size;
+    QPdfWriter m_writer;
+    QPainter m_painter;
+};
+
+class FilesOutput : public Output
+{
+public:
+    FilesOutput(const QString &pattern, const QSize &size)
+        : m_pattern(pattern)
+        , m_size(size)
+        , m_isPng(pattern.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
+    {
+    }
+    void add(const SlidePicture &picture) override
+    {
+        const QString path = QString(m_pattern).replace(QLatin1String("%d"), QString::number(picture.slide));
+        m_targets.push_back(std::make_unique<PackageTarget>(path));
+        if (!m_isPng) {
+            writeWhole(*m_targets.back(), picture.svg);
+            return;
+        }
+        const QSize size = sizeFor(picture, m_size);
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        paint(painter, picture, size);
+        painter.end();
+        if (image.isNull() || !image.save(m_targets.back()->file(), "png")) {
+            throw LessonError(QStringLiteral("The picture can't be written"),
+                              QStringLiteral("Check that there is room, or ask for a smaller --size"))
+                .in(path);
+        }
+    }
+    QStringList finish() override
+    {
+        QStringList files;
+        for (const auto &target : m_targets) {
+            target->commitFile();
+            files.append(target->target());
+        }
+        return files;
+    }
+
+private:
+    QString m_pattern;
+    QSize m_size;
+    bool m_isPng;
+    std::vector<std::unique_ptr<PackageTarget>> m_targets;
+};
+
+std::unique_ptr<Output> outputFor(const QString &path, const QString &title, const QSize &size, int slides)
+{
+    const QString extension = QFileInfo(path).suffix().toLower();
+    if (extension == QLatin1String("html")) {
+        return std::make_unique<HtmlOutput>(path, title);
+    }
+    if (extension == QLatin1String("pdf")) {
+        return std::make_unique<PdfOutput>(path, title, size);
+    }
+    if (extension != QLatin1String("svg") && extension != QLatin1String("png")) {
+        throw LessonError(QStringLiteral("Pictures can't be written in this form"),
+                          QStringLiteral("Give the output a name in .html, .pdf, .svg or .png"))
+            .in(path);
+    }
+    if (slides > 1 && !path.contains(QLatin1String("%d"))) {
+        throw LessonError(QStringLiteral("%1 slides don't go into one picture").arg(slides),
+                          QStringLiteral("Put %d in the name for the number of the slide, or choose one with --slides"))
+            .in(path);
+    }
+    return std::make_unique<FilesOutput>(path, size);
+}
+
+QString titleOf(const QJsonObject &presentation)
+{
+    const QString title = presentation.value(QLatin1String("Title")).toString();
+    return title.isEmpty() ? QStringLiteral("Lesson") : title;
+}
+
+} // namespace
+
+QSize sizeFromText(const QString &text)
+{
+    if (text.isEmpty()) {
+        return {};
+    }
+    const QStringList parts = text.split(QLatin1Char('x'));
+    const QSize size(parts.value(0).toInt(), parts.value(1).toInt());
+    if (parts.size() != 2 || size.isEmpty() || size.width() > largestSide || size.height() > largestSide) {
+        throw LessonError(QStringLiteral("\"%1\" is no size").arg(text),
+                          QStringLiteral("Write width and height in pixels, such as --size 1280x720, up to %1 each")
+                              .arg(largestSide));
+    }
+    return size;
+}
+
+QVector<int> slidesFromText(const QString &text)
+{
+    QVector<int> slides;
+    const QStringList parts = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
+    for (const QString &part : parts) {
+        const QStringList ends = part.split(QLatin1Char('-'));
+        const int first = ends.constFirst().toInt();
+        const int last = ends.constLast().toInt();
+        if (ends.size() > 2 || first < 1 || last < first || last - first > 100000) {
+            throw LessonError(QStringLiteral("\"%1\" names no slides").arg(text),
+                              QStringLiteral("Count from 1, such as --slides 2-5 or --slides 1,4"));
+        }
+        for (int slide = first; slide <= last; ++slide) {
+            slides.append(slide - 1);
+        }
+    }
+    return slides;
+}
+
+QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
+                         const RenderSettings &settings, const Progress &progress)
+{
+    const QVector<int> slides = chosenSlides(settings, reader.slideCount());
+    const auto target = outputFor(output, titleOf(reader.presentation()), settings.size, slides.size());
+    SlidePictures pictures(reader, context);
+    QJsonArray named;
+    for (int i = 0; i < slides.size(); ++i) {
+        const SlidePicture picture = pictures.picture(slides.at(i));
+        target->add(picture);
+        for (const SlidePicture::Named &item : picture.named) {
+            named.append(QJsonObject{{QStringLiteral("slide"), picture.slide},
+                                     {QStringLiteral("type"), item.type},
+                                     {QStringLiteral("id"), item.id}});
+        }
+        progress(i + 1, slides.size());
+    }
+    if (slides.isEmpty()) {
+        throw LessonError(QStringLiteral("The lesson has no slides to draw"));
+    }
+    return {{QStringLiteral("slides"), slides.size()},
+            {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
+            {QStringLiteral("named"), named}};
+}
+
+QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
+                             const QString &secondName, const LessonContext &context, const QString &output,
+                             const RenderSettings &settings, const Progress &progress)
+{
+    if (QFileInfo(output).suffix().compare(QLatin1String("html"), Qt::CaseInsensitive) != 0) {
+        throw LessonError(QStringLiteral("Two lessons side by side are written as one page"),
+                          QStringLiteral("Give the output a name in .html"))
+            .in(output);
+    }
+    const int count = qMax(first.slideCount(), second.slideCount());
+    const QVector<int> slides = chosenSlides(settings, count);
+    HtmlOutput html(output, firstName + QLatin1String(" and ") + secondName);
+    SlidePictures firstPictures(first, context);
+    SlidePictures secondPictures(second, context);
+    LossReport losses;
+    for (int i = 0; i < slides.size(); ++i) {
+        const int slide = slides.at(i);
+        html.addHtml("<h2>Slide " + QByteArray::number(slide + 1) + "</h2>\n<div class=\"pair\">\n");
+        for (const bool isFirst : {true, false}) {
+            if (slide < (isFirst ? first : second).slideCount()) {
+                html.add((isFirst ? firstPictures : secondPictures).picture(slide));
+            } else {
+                html.addHtml("<p>This lesson has no such slide.</p>\n");
+            }
+        }
+        html.addHtml("</div>\n");
+        if (slide < first.slideCount()) {
+            LessonSlide given = first.slide(slide);
+            LessonSlide found = slide < second.slideCount() ? second.slide(slide) : LessonSlide();
+            const QLatin1String rawKey("SlideSourceRect");
+            if (given.properties.contains(rawKey) || found.properties.contains(rawKey)) {
+                given = slideInPageForm(given, context.plugin);
+                found = slideInPageForm(found, context.plugin);
+            }
+            html.addHtml(slideDifference(given, found, slide + 1, losses));
+        }
+        progress(i + 1, slides.size());
+    }
+    return {{QStringLiteral("slides"), slides.size()},
+            {QStringLiteral("files"), QJsonArray::fromStringList(html.finish())},
+            {QStringLiteral("losses"), losses.toJson()}};
+}
+
+} // namespace lessonhost

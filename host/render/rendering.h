@@ -1,0 +1,40 @@
+#ifndef RENDERING_H
+#define RENDERING_H
+
+#include "lesson/lesson.h"
+
+#include <QJsonObject>
+#include <QSize>
+
+namespace lessonhost {
+
+/*!
+ * How a lesson is drawn.
+ */
+struct RenderSettings
+{
+    QSize size; //!< pixels; empty for that of the lesson's pages
+    QVector<int> slides; //!< counted from 0; empty for all
+};
+
+//! "1280x720" as a size; an empty text gives an empty one. Throws LessonError.
+QSize sizeFromText(const QString &text);
+
+//! "2-5,8" as slides counted from 0, in this order. Throws LessonError for what isn't such a text.
+QVector<int> slidesFromText(const QString &text);
+
+//! Draws a lesson into a .html or .pdf file, or into .svg or .png files, one a slide, with %d in the name for the
+//! slide's number. Returns {"slides", "files", "named": [{"slide", "type", "id"}]}, where named are the items that are
+//! shown by name only. Throws LessonError; then nothing is written.
+QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
+                         const RenderSettings &settings, const std::function<void(int done, int total)> &progress);
+
+//! Writes a .html file with the slides of two lessons side by side and the values of the first that the second lacks.
+//! Returns {"slides", "files", "losses"}. Throws LessonError.
+QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
+                             const QString &secondName, const LessonContext &context, const QString &output,
+                             const RenderSettings &settings, const std::function<void(int done, int total)> &progress);
+
+} // namespace lessonhost
+
+#endif // RENDERING_H

@@ -1,0 +1,153 @@
+#include "render/slidedifference.h"
+
+#include "lesson/modelforms.h"
+#include "lesson/plainnames.h"
+#include "losses/comparison.h"
+#include "losses/lossreport.h"
+
+#include <QHash>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String idKey("ID");
+const QLatin1String typeKey("Type");
+
+// All items, those of groups behind their group, which stands without them.
+void collectItems(const QJsonArray &items, QVector<QJsonObject> &result)
+{
+    for (const QJsonValue &value : items) {
+        QJsonObject item = value.toObject();
+        const QJsonArray children = item.take(HostKeys::children).toArray();
+        result.append(item);
+        collectItems(children, result);
+    }
+}
+
+// Without what says nothing about the item: an angle of zero, and a mark that the plug-in sets by the type.
+QJsonObject withoutDefaults(QJsonObject item)
+{
+    const QLatin1String angle("Angle");
+    if (item.value(angle).toString().toDouble() == 0) {
+        item.remove(angle);
+    }
+    item.remove(QLatin1String("IgnoreEraser"));
+    return item;
+}
+
+class SlideDifference
+{
+public:
+    SlideDifference(int slide, LossReport &losses)
+        : m_losses(losses)
+        , m_slide(slide)
+        , m_comparison(&losses, slide)
+    {
+    }
+
+    void compare(const LessonSlide &given, const LessonSlide &found)
+    {
+        m_comparison.compareProperties(QStringLiteral("slide"), given.properties, found.properties);
+        QVector<QJsonObject> givenItems;
+        collectItems(given.items, givenItems);
+        QVector<QJsonObject> foundItems;
+        collectItems(found.items, foundItems);
+        QHash<QString, QJsonObject> byId;
+        for (const QJsonObject &item : qAsConst(foundItems)) {
+            byId.insert(item.value(idKey).toString(), item);
+        }
+        for (int i = 0; i < givenItems.size(); ++i) {
+            const QJsonObject &item = givenItems.at(i);
+            const QString id = item.value(idKey).toString();
+            const QJsonObject other = id.isEmpty() ? foundItems.value(i) : byId.value(id);
+            if (!other.isEmpty()) {
+                m_comparison.compareItems({withoutDefaults(item)}, {other});
+            } else if (!isContainer(item.value(typeKey).toString())) {
+                addMissing(item);
+            }
+        }
+    }
+
+private:
+    void addMissing(const QJsonObject &item)
+    {
+        Loss loss;
+        loss.kind = Loss::Item;
+        loss.slide = m_slide;
+        loss.itemType = item.value(typeKey).toString();
+        loss.itemId = item.value(idKey).toString();
+        m_losses.add(loss);
+    }
+
+    LossReport &m_losses;
+    int m_slide;
+    Comparison m_comparison;
+};
+
+// "Circle, 3 Arrow", in the order of the slide.
+QString countedNames(const QStringList &names)
+{
+    QStringList parts;
+    QStringList seen;
+    for (const QString &name : names) {
+        if (!seen.contains(name)) {
+            seen.append(name);
+            const int count = names.count(name);
+            parts.append(count > 1 ? QString(QString::number(count) + QLatin1Char(' ') + name) : name);
+        }
+    }
+    return parts.join(QLatin1String(", "));
+}
+
+QByteArray asHtml(const QVector<Loss> &losses)
+{
+    QStringList missing;
+    QString rows;
+    QString item; // whose keys the last row holds
+    for (const Loss &loss : losses) {
+        const QString name =
+            loss.itemType == QLatin1String("slide") ? QStringLiteral("Slide") : plainName(loss.itemType);
+        if (loss.kind == Loss::Item) {
+            missing.append(name);
+            continue;
+        }
+        const QString owner = loss.itemType + QLatin1Char(' ') + loss.itemId;
+        if (owner != item) {
+            rows += (rows.isEmpty() ? QString() : QStringLiteral("</li>\n"))
+                + QStringLiteral("<li><b>%1</b> <small>%2</small>: ")
+                      .arg(name.toHtmlEscaped(), loss.itemId.left(60).toHtmlEscaped());
+        } else {
+            rows += QLatin1String(", ");
+        }
+        item = owner;
+        rows += QStringLiteral("<span title=\"%2\">%1</span>")
+                    .arg(loss.key.left(200).toHtmlEscaped(), loss.detail.toHtmlEscaped());
+    }
+    if (missing.isEmpty() && rows.isEmpty()) {
+        return QByteArrayLiteral("<p class=\"none\">Nothing is lost.</p>\n");
+    }
+    QString html;
+    if (!missing.isEmpty()) {
+        html += QLatin1String("<p class=\"losses\">Missing: ") + countedNames(missing).toHtmlEscaped()
+            + QLatin1String("</p>\n");
+    }
+    if (!rows.isEmpty()) {
+        html += QStringLiteral("<details class=\"losses\"><summary>Missing or other values: %1</summary>\n<ul>%2</li>\n"
+                               "</ul></details>\n")
+                    .arg(losses.size() - missing.size())
+                    .arg(rows);
+    }
+    return html.toUtf8();
+}
+
+} // namespace
+
+QByteArray slideDifference(const LessonSlide &given, const LessonSlide &found, int slide, LossReport &losses)
+{
+    const int before = losses.entries().size();
+    SlideDifference(slide, losses).compare(given, found);
+    return asHtml(losses.entries().mid(before));
+}
+
+} // namespace lessonhost

@@ -1,0 +1,155 @@
+#include "render/slidepictures.h"
+
+#include "files/lessonerror.h"
+#include "files/xmlloader.h"
+#include "files/xmltext.h"
+#include "lesson/iwbgeometry.h"
+#include "lesson/modelforms.h"
+#include "losses/lossreport.h"
+#include "render/namedboxes.h"
+#include "render/plainsvg.h"
+
+#include <QDir>
+#include <QHash>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String idKey("ID");
+const QLatin1String typeKey("Type");
+
+bool isHidden(const QJsonObject &item)
+{
+    const QJsonValue visible = item.value(QLatin1String("Visible"));
+    return visible.isBool() ? !visible.toBool() : visible.isString() && visible.toString() == QLatin1String("0");
+}
+
+// The items that stand on the page by themselves, groups taken apart. Each gets an identifier by which it is found
+// again; links are left out, as a picture opens nothing.
+void takeApart(const QJsonArray &items, QVector<QJsonObject> &result)
+{
+    for (const QJsonValue &value : items) {
+        QJsonObject item = value.toObject();
+        if (isHidden(item)) {
+            continue;
+        }
+        const QJsonArray children = item.value(HostKeys::children).toArray();
+        if (!children.isEmpty()) {
+            takeApart(children, result);
+            continue;
+        }
+        item.remove(QLatin1String("InteractiveType"));
+        item.insert(QLatin1String("OwnID"), item.value(idKey));
+        item.insert(idKey, QString(QLatin1String("drawn") + QString::number(result.size())));
+        result.append(item);
+    }
+}
+
+// The picture on an item that has no drawing: a picture item in its box, or an empty object.
+QJsonObject pictureOn(const QJsonObject &item, const QStringList &files)
+{
+    for (const QLatin1String key : {QLatin1String("document"), QLatin1String("picture")}) {
+        const QJsonValue value = item.value(key);
+        const QString file = value.isArray() ? value.toArray().at(0).toString() : value.toString();
+        if (files.contains(file)) {
+            return {{typeKey, QStringLiteral("ZQImagePic")},
+                    {idKey, QString(item.value(idKey).toString() + QLatin1String("picture"))},
+                    {QLatin1String("BoundingBox"), item.value(QLatin1String("BoundingBox"))},
+                    {QLatin1String("Angle"), item.value(QLatin1String("Angle"))},
+                    {QLatin1String("Matrix"), item.value(QLatin1String("Matrix"))},
+                    {QLatin1String("resource"), file}};
+        }
+    }
+    return {};
+}
+
+// What IWB leaves without anything to see.
+bool isDrawn(const QDomElement &element)
+{
+    const QString tag = element.tagName();
+    return !tag.isEmpty() && tag != QLatin1String("svg:video") && tag != QLatin1String("svg:a")
+        && (tag != QLatin1String("svg:image") || !element.attribute(QStringLiteral("xlink:href")).isEmpty());
+}
+
+} // namespace
+
+SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context)
+    : m_reader(reader)
+    , m_context(context)
+{
+    m_context.verify = false;
+    m_context.options.clear();
+    if (!m_folder.isValid()) {
+        throw LessonError(QStringLiteral("No folder to work in can be made"),
+                          QStringLiteral("Check that there is room in the folder for temporary files"));
+    }
+}
+
+SlidePicture SlidePictures::picture(int index)
+{
+    const LessonSlide slide = m_reader.slide(index);
+    QVector<QJsonObject> items;
+    takeApart(slide.items, items);
+
+    LessonSlide exported;
+    exported.properties = slide.properties;
+    const QStringList files = m_reader.resources();
+    for (const QJsonObject &item : qAsConst(items)) {
+        exported.items.append(item);
+        const QJsonObject picture = pictureOn(item, files);
+        if (!picture.isEmpty()) {
+            exported.items.append(picture);
+        }
+    }
+    LossReport unwanted;
+    m_context.losses = &unwanted;
+    const QString package = m_folder.filePath(QStringLiteral("slide%1").arg(index));
+    const auto writer = lessonFormatByName(QStringLiteral("iwb")).create(package, m_context);
+    writer->begin(m_reader.presentation());
+    for (const QString &resource : files) {
+        writer->addResource(resource, m_reader.resourceFile(resource));
+    }
+    writer->writeSlide(exported);
+    writer->finish();
+
+    const QDomDocument document = loadXmlFile(package + QLatin1String("/content.xml"));
+    const QDomElement svg = document.documentElement().firstChildElement(QStringLiteral("svg:svg"));
+    const QVector<double> viewBox =
+        itemNumbers(svg.attribute(QStringLiteral("viewBox")).replace(QLatin1Char(' '), QLatin1Char(',')));
+    SlidePicture result;
+    result.slide = index + 1;
+    result.size = QSizeF(qBound(1.0, viewBox.value(2, 1440), 20000.0), qBound(1.0, viewBox.value(3, 1080), 20000.0));
+
+    PlainSvg plain(result.size, package);
+    QHash<QString, QDomElement> drawn;
+    QDomElement page =
+        svg.firstChildElement(QStringLiteral("svg:pageset")).firstChildElement(QStringLiteral("svg:page"));
+    for (QDomElement e = page.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        const QString id = e.attribute(QStringLiteral("id"));
+        if (id.startsWith(QLatin1String("drawn"))) {
+            drawn.insert(id, e);
+        } else {
+            plain.add(e);
+        }
+    }
+    NamedBoxes boxes(plain);
+    for (const QJsonObject &item : qAsConst(items)) {
+        const QDomElement element = drawn.value(item.value(idKey).toString());
+        if (isDrawn(element)) {
+            plain.add(element);
+        } else if (!boxes.drawMindMap(item)) {
+            const QDomElement picture = drawn.value(item.value(idKey).toString() + QLatin1String("picture"));
+            if (isDrawn(picture)) {
+                plain.add(picture);
+            }
+            boxes.drawBox(item, isDrawn(picture));
+            result.named.append({item.value(typeKey).toString(), item.value(QLatin1String("OwnID")).toString()});
+        }
+    }
+    QDir(package).removeRecursively();
+    result.svg = xmlNodeText(plain.element()).toUtf8();
+    return result;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,50 @@
+#ifndef SLIDEPICTURES_H
+#define SLIDEPICTURES_H
+
+#include "files/workfolder.h"
+#include "lesson/lesson.h"
+
+#include <QSizeF>
+#include <QVector>
+
+namespace lessonhost {
+
+/*!
+ * One slide as an svg that needs no other file.
+ */
+struct SlidePicture
+{
+    //! An item that is shown by its name alone.
+    struct Named
+    {
+        QString type;
+        QString id;
+    };
+
+    int slide = 0; //!< counted from 1
+    QSizeF size; //!< pixels
+    QByteArray svg;
+    QVector<Named> named;
+};
+
+/*!
+ * Draws slides: what the IWB export draws of an item, mind maps as boxes and lines, and a named box for every other
+ * item, so that nobody takes a gap for an empty page. Hidden items are left out.
+ */
+class SlidePictures
+{
+public:
+    SlidePictures(LessonReader &reader, const LessonContext &context);
+
+    //! The picture of a slide, counted from 0. Throws LessonError.
+    SlidePicture picture(int index);
+
+private:
+    LessonReader &m_reader;
+    LessonContext m_context;
+    WorkFolder m_folder;
+};
+
+} // namespace lessonhost
+
+#endif // SLIDEPICTURES_H

@@ -1,0 +1,74 @@
+#ifndef IWBPAGE_H
+#define IWBPAGE_H
+
+#include <QDomDocument>
+#include <QHash>
+#include <QRectF>
+#include <QString>
+#include <QVector>
+
+namespace lessonhost {
+
+/*!
+ * Something of a page that could not be brought over, or only otherwise than it was.
+ */
+struct SvgRemark
+{
+    QString tag;
+    QString id;
+    QString text;
+    bool isLoss = true; //!< false where only the form differs
+};
+
+/*!
+ * One item of a page as the plug-in reads it, with what stands around the element.
+ */
+struct IwbElement
+{
+    QDomElement element; //!< svg:rect, svg:line, svg:polyline, svg:circle, svg:ellipse, svg:textarea, svg:image, ...
+    QString id;
+    double angle = 0; //!< radians about the centre of the box; of text, media, rectangles and ellipses
+    QString reference; //!< of media, as the file has it
+    QString link; //!< target of the link around the item, as the file has it
+    bool isVisible = true;
+    bool isLocked = false;
+    bool isEndless = false; //!< gives copies of itself without end
+};
+
+/*!
+ * A page in the form that the plug-in reads: the background stands in the page element and has its record under root,
+ * the items stand beside it.
+ */
+struct IwbPage
+{
+    QDomDocument document; //!< keeps the elements alive
+    QDomElement root;
+    QDomElement page;
+    QString backgroundReference; //!< the background picture as the file has it, or empty
+    QVector<IwbElement> items;
+    QVector<SvgRemark> remarks;
+};
+
+/*!
+ * What the iwb:element records say about one element.
+ */
+struct IwbRecord
+{
+    bool isBackground = false;
+    bool refusesPicture = false; //!< says that it is no background
+    bool isLocked = false;
+};
+
+/*!
+ * What a page needs to know of its document.
+ */
+struct IwbDocumentRules
+{
+    QHash<QString, IwbRecord> records; //!< by the identifier that they refer to
+    QRectF viewBox;
+    bool isNative = false; //!< written by this system or the plug-in, with its own conventions
+};
+
+} // namespace lessonhost
+
+#endif // IWBPAGE_H

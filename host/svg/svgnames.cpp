@@ -1,0 +1,84 @@
+#include "svg/svgnames.h"
+
+namespace lessonhost {
+
+namespace {
+
+QString prefixOf(const QString &name)
+{
+    const int colon = name.indexOf(QLatin1Char(':'));
+    return colon < 0 ? QString() : name.left(colon);
+}
+
+QString localNameOf(const QString &name)
+{
+    return name.mid(name.indexOf(QLatin1Char(':')) + 1);
+}
+
+// The namespace that a prefix is declared for at an element, or an empty text.
+QString namespaceOf(const QDomElement &element, const QString &prefix)
+{
+    const QString declaration = prefix.isEmpty() ? QStringLiteral("xmlns") : QString(QLatin1String("xmlns:") + prefix);
+    for (QDomElement at = element; !at.isNull(); at = at.parentNode().toElement()) {
+        if (at.hasAttribute(declaration)) {
+            return at.attribute(declaration);
+        }
+    }
+    return {};
+}
+
+struct Vocabulary
+{
+    QLatin1String prefix;
+    QLatin1String namespacePart;
+};
+const Vocabulary svgVocabulary{QLatin1String("svg"), QLatin1String("www.w3.org/2000/svg")};
+// Two bodies have published the format, with dates and versions in the name.
+const Vocabulary iwbVocabularies[] = {{QLatin1String("iwb"), QLatin1String("imsglobal.org/xsd/iwb")},
+                                      {QLatin1String("iwb"), QLatin1String("becta.org.uk/iwb")}};
+
+bool isOf(const QDomElement &element, const Vocabulary &vocabulary)
+{
+    const QString prefix = prefixOf(element.tagName());
+    const QString uri = namespaceOf(element, prefix);
+    if (uri.isEmpty()) {
+        return prefix.isEmpty() || prefix == vocabulary.prefix;
+    }
+    return uri.contains(vocabulary.namespacePart);
+}
+
+} // namespace
+
+QString svgName(const QDomElement &element)
+{
+    return isOf(element, svgVocabulary) ? localNameOf(element.tagName()) : QString();
+}
+
+QString iwbName(const QDomElement &element)
+{
+    for (const Vocabulary &vocabulary : iwbVocabularies) {
+        if (isOf(element, vocabulary)) {
+            return localNameOf(element.tagName());
+        }
+    }
+    return {};
+}
+
+QString linkTarget(const QDomElement &element)
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    QString plain;
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        if (localNameOf(attribute.name()) != QLatin1String("href")) {
+            continue;
+        }
+        if (attribute.name() != QLatin1String("href")) {
+            return attribute.value();
+        }
+        plain = attribute.value();
+    }
+    return plain;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,23 @@
+#ifndef SVGNAMES_H
+#define SVGNAMES_H
+
+#include <QDomElement>
+#include <QString>
+
+namespace lessonhost {
+
+// Names of elements in documents that were read without namespace processing.
+
+//! The name without its prefix if the element is of the svg vocabulary, else an empty text. A prefix that is declared
+//! nowhere counts as what it says, and an element without any namespace as svg.
+QString svgName(const QDomElement &element);
+
+//! The same for the vocabulary of IWB files; an element without any namespace counts here too.
+QString iwbName(const QDomElement &element);
+
+//! The target of an element's "href", whatever prefix it has.
+QString linkTarget(const QDomElement &element);
+
+} // namespace lessonhost
+
+#endif // SVGNAMES_H

@@ -1,0 +1,49 @@
+#ifndef SVGNORMALIZER_H
+#define SVGNORMALIZER_H
+
+#include "svg/iwbpage.h"
+
+namespace lessonhost {
+
+/*!
+ * Brings the content of IWB files, whoever wrote them, into the few forms that the plug-in reads: whatever prefix
+ * stands for svg, groups with transforms, polygons, paths of straight lines, styles, units, all ways to write colours.
+ *
+ * Files with the version "tesselmark" follow the plug-in's own conventions where they differ from svg: the angle of
+ * rotate(a,x,y) with commas is in radians (with blanks it is in degrees as everywhere), a stroke-opacity above 1 is the
+ * alpha of the fill, and missing attributes of text mean bold, italic and underlined.
+ */
+class SvgNormalizer
+{
+public:
+    //! root: the document element. A document without an svg element has no pages.
+    explicit SvgNormalizer(const QDomElement &root);
+
+    //! False where the document has no svg element.
+    bool hasSvg() const { return !m_svg.isNull(); }
+
+    //! The attributes of the svg element that the plug-in reads the size of the lesson from.
+    QDomElement sizeElement(QDomDocument &document) const;
+
+    int pageCount() const { return m_pages.size(); }
+    //! The identifier of a page in the file.
+    QString pageId(int index) const { return m_pages.at(index).attribute(QStringLiteral("id")); }
+    IwbPage page(int index) const;
+
+    //! About the document as a whole.
+    const QVector<SvgRemark> &remarks() const { return m_remarks; }
+
+private:
+    void readSize();
+    void findPages(const QDomElement &holder);
+    void readRecords(const QDomElement &root);
+
+    QDomElement m_svg;
+    QVector<QDomElement> m_pages;
+    IwbDocumentRules m_rules;
+    QVector<SvgRemark> m_remarks;
+};
+
+} // namespace lessonhost
+
+#endif // SVGNORMALIZER_H

@@ -1,0 +1,520 @@
+#include "svg/svgpagebuilder.h"
+
+#include "svg/svgnames.h"
+#include "svg/svgtext.h"
+#include "svg/svgvalues.h"
+
+#include <QDomDocument>
+#include <QStringList>
+#include <algorithm>
+
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+// Names that the plug-in compares, so that the background is found whatever the file called it.
+const QLatin1String backgroundRect("background_rect");
+const QLatin1String backgroundImage("background_bgd");
+
+// Elements that show nothing by themselves.
+constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
+
+// Elements whose own readers look at what is within.
+constexpr const char *holders[] = {"g", "svg", "a", "switch", "text", "textarea", "textArea"};
+
+template <size_t size> bool isOneOf(const char *const (&names)[size], const QString &name)
+{
+    return std::any_of(std::begin(names), std::end(names), [&name](const char *n) { return name == QLatin1String(n); });
+}
+
+QString coordinate(double value)
+{
+    // Noise of a transform isn't a coordinate.
+    return QString::number(qAbs(value) < 1e-9 ? 0 : value, 'g', 10);
+}
+
+void setBox(QDomElement &element, const QRectF &box)
+{
+    element.setAttribute(QStringLiteral("x"), coordinate(box.x()));
+    element.setAttribute(QStringLiteral("y"), coordinate(box.y()));
+    element.setAttribute(QStringLiteral("width"), coordinate(box.width()));
+    element.setAttribute(QStringLiteral("height"), coordinate(box.height()));
+}
+
+QPolygonF pairs(const QVector<double> &numbers)
+{
+    QPolygonF points;
+    for (int i = 0; i + 1 < numbers.size(); i += 2) {
+        points.append(QPointF(numbers.at(i), numbers.at(i + 1)));
+    }
+    return points;
+}
+
+QString pointList(const QPolygonF &points)
+{
+    QStringList numbers;
+    for (const QPointF &point : points) {
+        numbers << coordinate(point.x()) << coordinate(point.y());
+    }
+    return numbers.join(QLatin1Char(','));
+}
+
+double meanScale(const QTransform &matrix)
+{
+    return std::sqrt(qAbs(matrix.determinant()));
+}
+
+bool isArrow(const QString &text)
+{
+    return text == QLatin1String("arrow") || text.startsWith(QLatin1String("url("));
+}
+
+} // namespace
+
+SvgPageBuilder::SvgPageBuilder(const IwbDocumentRules &rules)
+    : m_rules(rules)
+    , m_background(Qt::white)
+{
+    m_result.root = m_result.document.createElement(QStringLiteral("iwb"));
+    m_result.document.appendChild(m_result.root);
+    m_result.page = m_result.document.createElement(QStringLiteral("svg:page"));
+    m_result.root.appendChild(m_result.page);
+    m_items = m_result.document.createElement(QStringLiteral("items"));
+    m_result.root.appendChild(m_items);
+}
+
+const QHash<QString, SvgPageBuilder::Convert> &SvgPageBuilder::conversions()
+{
+    static const QHash<QString, Convert> table{
+        {QStringLiteral("g"), &SvgPageBuilder::group},
+        {QStringLiteral("svg"), &SvgPageBuilder::nestedSvg},
+        {QStringLiteral("switch"), &SvgPageBuilder::alternatives},
+        {QStringLiteral("a"), &SvgPageBuilder::link},
+        {QStringLiteral("rect"), &SvgPageBuilder::rectangle},
+        {QStringLiteral("circle"), &SvgPageBuilder::ellipse},
+        {QStringLiteral("ellipse"), &SvgPageBuilder::ellipse},
+        {QStringLiteral("line"), &SvgPageBuilder::line},
+        {QStringLiteral("polyline"), &SvgPageBuilder::polyline},
+        {QStringLiteral("polygon"), &SvgPageBuilder::polygon},
+        {QStringLiteral("path"), &SvgPageBuilder::path},
+        {QStringLiteral("image"), &SvgPageBuilder::image},
+        {QStringLiteral("video"), &SvgPageBuilder::image},
+        {QStringLiteral("audio"), &SvgPageBuilder::sound},
+        {QStringLiteral("text"), &SvgPageBuilder::text},
+        {QStringLiteral("textarea"), &SvgPageBuilder::textArea},
+        {QStringLiteral("textArea"), &SvgPageBuilder::textArea},
+    };
+    return table;
+}
+
+bool SvgPageBuilder::isDrawn(const QString &svgName)
+{
+    return !svgName.isEmpty() && !isOneOf(silentElements, svgName);
+}
+
+IwbPage SvgPageBuilder::build(const QDomElement &page)
+{
+    Place place;
+    place.style.matrix = QTransform::fromTranslate(-m_rules.viewBox.x(), -m_rules.viewBox.y());
+    place.style = place.style.child(page, nativeTransform(page), remarkAbout(page));
+    children(page, place);
+    finishBackground();
+    return m_result;
+}
+
+void SvgPageBuilder::children(const QDomElement &holder, const Place &place)
+{
+    for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        convert(child, place);
+    }
+}
+
+void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
+{
+    const QString name = svgName(element);
+    if (isOneOf(silentElements, name)) {
+        return;
+    }
+    const auto conversion = conversions().constFind(name);
+    if (conversion == conversions().constEnd()) {
+        remark(element, QStringLiteral("lessons have nothing like it"));
+        return;
+    }
+    Place place = outer;
+    place.style = outer.style.child(element, nativeTransform(element), remarkAbout(element));
+    if (!takeBackground(element, name, place.style)) {
+        (this->*conversion.value())(element, place);
+    }
+    remarkOnExtras(element, name);
+}
+
+// What elements may have about them that shows something or acts, and that no item has.
+void SvgPageBuilder::remarkOnExtras(const QDomElement &element, const QString &name)
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QString attribute = attributes.item(i).nodeName();
+        if (attribute.startsWith(QLatin1String("on"))) {
+            remark(element, QLatin1String("the script of ") + attribute + QLatin1String(" is left out"));
+        }
+    }
+    if (isOneOf(holders, name)) {
+        return;
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        remark(element, QLatin1Char('<') + child.tagName() + QLatin1String("> within it is left out"));
+    }
+}
+
+// rotate(a,x,y) with the angle in degrees, where the plug-in wrote it in radians.
+QString SvgPageBuilder::nativeTransform(const QDomElement &element) const
+{
+    const QString transform = element.attribute(QStringLiteral("transform")).trimmed();
+    const QLatin1String rotate("rotate(");
+    if (!m_rules.isNative || !transform.startsWith(rotate) || transform.count(QLatin1Char(',')) != 2) {
+        return transform;
+    }
+    const QVector<double> numbers = svgNumbers(transform.mid(rotate.size()));
+    if (numbers.size() != 3) {
+        return transform;
+    }
+    return rotate + QString::number(numbers.at(0) * 180 / M_PI, 'g', 12) + QLatin1Char(' ')
+        + QString::number(numbers.at(1), 'g', 12) + QLatin1Char(' ') + QString::number(numbers.at(2), 'g', 12)
+        + QLatin1Char(')');
+}
+
+void SvgPageBuilder::group(const QDomElement &element, const Place &place)
+{
+    children(element, place);
+}
+
+void SvgPageBuilder::nestedSvg(const QDomElement &element, const Place &place)
+{
+    Place inner = place;
+    const QVector<double> box = svgNumbers(element.attribute(QStringLiteral("viewBox")));
+    QTransform fit;
+    if (box.size() == 4 && box.at(2) > 0 && box.at(3) > 0) {
+        const double width = length(element, "width", box.at(2));
+        const double height = length(element, "height", box.at(3));
+        const double scale = qMin(width / box.at(2), height / box.at(3));
+        fit = QTransform::fromTranslate(-box.at(0) - box.at(2) / 2, -box.at(1) - box.at(3) / 2)
+            * QTransform::fromScale(scale, scale) * QTransform::fromTranslate(width / 2, height / 2);
+    }
+    inner.style.matrix =
+        fit * QTransform::fromTranslate(length(element, "x"), length(element, "y")) * place.style.matrix;
+    children(element, inner);
+}
+
+void SvgPageBuilder::alternatives(const QDomElement &element, const Place &place)
+{
+    const QDomElement first = element.firstChildElement();
+    if (!first.isNull()) {
+        convert(first, place);
+    }
+}
+
+void SvgPageBuilder::link(const QDomElement &element, const Place &place)
+{
+    if (element.firstChildElement().isNull()) {
+        if (!element.text().trimmed().isEmpty()) {
+            remark(element, QStringLiteral("it links a text that stands in no text element"));
+            return;
+        }
+        media(element, place, QStringLiteral("svg:a"));
+        return;
+    }
+    Place inner = place;
+    inner.link = linkTarget(element);
+    children(element, inner);
+}
+
+void SvgPageBuilder::rectangle(const QDomElement &element, const Place &place)
+{
+    const QRectF box(length(element, "x"), length(element, "y"), length(element, "width"), length(element, "height"));
+    if (!(box.width() > 0) || !(box.height() > 0)) {
+        remark(element, QStringLiteral("it has no size"));
+        return;
+    }
+    if (length(element, "rx") > 0 || length(element, "ry") > 0) {
+        remark(element, QStringLiteral("its corners are no longer round"), false);
+    }
+    if (!scaleAndTurn(place.style.matrix)) {
+        outline(element, place, QPolygonF() << box.topLeft() << box.topRight() << box.bottomRight() << box.bottomLeft(),
+                true);
+        return;
+    }
+    IwbElement &item = addItem(element, place, QStringLiteral("svg:rect"));
+    placeBox(item, box, place.style.matrix);
+    setPluginPaint(item.element, svgPaint(place.style, m_rules.isNative, remarkAbout(element)));
+}
+
+void SvgPageBuilder::ellipse(const QDomElement &element, const Place &place)
+{
+    const bool isCircle = svgName(element) == QLatin1String("circle");
+    const double rx = length(element, isCircle ? "r" : "rx");
+    const double ry = isCircle ? rx : length(element, "ry");
+    if (!(rx > 0) || !(ry > 0)) {
+        remark(element, QStringLiteral("it has no size"));
+        return;
+    }
+    const QPointF center = place.style.matrix.map(QPointF(length(element, "cx"), length(element, "cy")));
+    const ScaleAndTurn axes = ellipseUnder(place.style.matrix, rx, ry);
+    const bool staysCircle = isCircle && qAbs(axes.scaleX - axes.scaleY) <= 1e-6 * axes.scaleX;
+    IwbElement &item =
+        addItem(element, place, staysCircle ? QStringLiteral("svg:circle") : QStringLiteral("svg:ellipse"));
+    item.element.setAttribute(QStringLiteral("cx"), coordinate(center.x()));
+    item.element.setAttribute(QStringLiteral("cy"), coordinate(center.y()));
+    if (staysCircle) {
+        item.element.setAttribute(QStringLiteral("r"), coordinate(axes.scaleX));
+    } else {
+        item.element.setAttribute(QStringLiteral("rx"), coordinate(axes.scaleX));
+        item.element.setAttribute(QStringLiteral("ry"), coordinate(axes.scaleY));
+        item.angle = axes.angle;
+    }
+    setPluginPaint(item.element, svgPaint(place.style, m_rules.isNative, remarkAbout(element)));
+}
+
+void SvgPageBuilder::line(const QDomElement &element, const Place &place)
+{
+    QPointF from = place.style.matrix.map(QPointF(length(element, "x1"), length(element, "y1")));
+    QPointF to = place.style.matrix.map(QPointF(length(element, "x2"), length(element, "y2")));
+    bool startsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-start")))
+        || isArrow(place.style.property(QStringLiteral("marker-start")));
+    bool endsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-end")))
+        || isArrow(place.style.property(QStringLiteral("marker-end")));
+    if (endsWithArrow && !startsWithArrow) {
+        // Lessons know a single arrow at the start only.
+        std::swap(from, to);
+        std::swap(startsWithArrow, endsWithArrow);
+    }
+    IwbElement &item = addItem(element, place, QStringLiteral("svg:line"));
+    item.element.setAttribute(QStringLiteral("x1"), coordinate(from.x()));
+    item.element.setAttribute(QStringLiteral("y1"), coordinate(from.y()));
+    item.element.setAttribute(QStringLiteral("x2"), coordinate(to.x()));
+    item.element.setAttribute(QStringLiteral("y2"), coordinate(to.y()));
+    if (startsWithArrow) {
+        item.element.setAttribute(QStringLiteral("stroke-lineshape-start"), QStringLiteral("arrow"));
+    }
+    if (endsWithArrow) {
+        item.element.setAttribute(QStringLiteral("stroke-lineshape-end"), QStringLiteral("arrow"));
+    }
+    SvgStyle style = place.style;
+    style.set(QStringLiteral("fill"), QStringLiteral("none"));
+    setPluginPaint(item.element, svgPaint(style, m_rules.isNative, remarkAbout(element)));
+}
+
+void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
+{
+    const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
+    if (numbers.size() % 2 == 1) {
+        remark(element, QStringLiteral("its last point has no y and is left out"));
+    }
+    outline(element, place, pairs(numbers), false);
+}
+
+void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
+{
+    const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
+    if (numbers.size() % 2 == 1) {
+        remark(element, QStringLiteral("its last point has no y and is left out"));
+    }
+    outline(element, place, pairs(numbers), true);
+}
+
+void SvgPageBuilder::path(const QDomElement &element, const Place &place)
+{
+    const auto outlines = svgStraightPath(element.attribute(QStringLiteral("d")));
+    if (!outlines) {
+        remark(element, QStringLiteral("it has curves, which lessons don't have"));
+        return;
+    }
+    if (outlines->size() > 1) {
+        remark(element, QString::number(outlines->size()) + QLatin1String(" outlines became an item each"), false);
+    }
+    for (const SvgOutline &shape : *outlines) {
+        if (shape.points.size() > 1) {
+            outline(element, place, shape.points, shape.closed);
+        }
+    }
+}
+
+// A polyline of the page. One with three points would be read as an angle: it gets its last point twice.
+void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPolygonF points, bool isClosed)
+{
+    if (points.isEmpty()) {
+        remark(source, QStringLiteral("it has no points"));
+        return;
+    }
+    if (isClosed && points.first() != points.last()) {
+        points.append(points.first());
+    }
+    for (const char *marker : {"marker-start", "marker-end"}) {
+        const QString value = place.style.property(QLatin1String(marker));
+        if (!value.isEmpty() && value != QLatin1String("none")) {
+            remark(source, QLatin1String(marker) + QLatin1String(" is left out"));
+        }
+    }
+    const SvgPaint paint = svgPaint(place.style, m_rules.isNative, remarkAbout(source));
+    if (points.size() == 3 && (!m_rules.isNative || paint.fill.alpha() > 0)) {
+        points.append(points.last());
+    }
+    IwbElement &item = addItem(source, place, QStringLiteral("svg:polyline"));
+    item.element.setAttribute(QStringLiteral("points"), pointList(place.style.matrix.map(points)));
+    setPluginPaint(item.element, paint);
+}
+
+void SvgPageBuilder::image(const QDomElement &element, const Place &place)
+{
+    media(element, place, QLatin1String("svg:") + svgName(element));
+}
+
+void SvgPageBuilder::sound(const QDomElement &element, const Place &place)
+{
+    media(element, place, QStringLiteral("svg:a"));
+}
+
+void SvgPageBuilder::media(const QDomElement &source, const Place &place, const QString &tag)
+{
+    IwbElement &item = addItem(source, place, tag);
+    item.reference = linkTarget(source);
+    const QRectF box(length(source, "x"), length(source, "y"), length(source, "width"), length(source, "height"));
+    if (!placeBox(item, box, place.style.matrix)) {
+        remark(source, QStringLiteral("it is drawn slanted no longer"), false);
+    }
+    if (place.style.matrix.determinant() < 0 && tag == QLatin1String("svg:image")) {
+        remark(source, QStringLiteral("it is mirrored no longer"), false);
+    }
+    if (place.style.opacity < 1) {
+        remark(source, QStringLiteral("it is no longer translucent"), false);
+    }
+}
+
+void SvgPageBuilder::text(const QDomElement &element, const Place &place)
+{
+    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element));
+    IwbElement &item = addItem(element, place, QStringLiteral("svg:textarea"));
+    const QDomElement firstSpan = element.firstChildElement();
+    const QDomElement &anchor = element.hasAttribute(QStringLiteral("y")) || firstSpan.isNull() ? element : firstSpan;
+    const QRectF box = content.boxAt(length(anchor, "x"), length(anchor, "y"));
+    if (!placeBox(item, box, place.style.matrix)) {
+        remark(element, QStringLiteral("it is drawn slanted no longer"), false);
+    }
+    content.writeInto(item.element, meanScale(place.style.matrix));
+}
+
+void SvgPageBuilder::textArea(const QDomElement &element, const Place &place)
+{
+    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element));
+    IwbElement &item = addItem(element, place, QStringLiteral("svg:textarea"));
+    QRectF box(length(element, "x"), length(element, "y"), length(element, "width"), length(element, "height"));
+    if (!(box.width() > 0)) {
+        box.setWidth(content.size().width());
+    }
+    if (!(box.height() > 0)) {
+        box.setHeight(content.size().height());
+    }
+    if (!placeBox(item, box, place.style.matrix)) {
+        remark(element, QStringLiteral("it is drawn slanted no longer"), false);
+    }
+    content.writeInto(item.element, meanScale(place.style.matrix));
+}
+
+// The page's colour and picture, which records name. The rectangle that the plug-in makes shares the beginning of its
+// name with the picture.
+bool SvgPageBuilder::takeBackground(const QDomElement &element, const QString &name, const SvgStyle &style)
+{
+    const QString id = element.attribute(QStringLiteral("id"));
+    const IwbRecord record = m_rules.records.value(id);
+    if (name == QLatin1String("rect") && record.isBackground && !m_hasBackground) {
+        m_hasBackground = true;
+        m_background = svgPaint(style, m_rules.isNative, remarkAbout(element)).fill;
+        m_backgroundStem = id.endsWith(QLatin1String("_rect")) ? id.chopped(5) : QString();
+        return true;
+    }
+    const bool isNamedPicture = !m_backgroundStem.isEmpty() && id == m_backgroundStem + QLatin1String("_bgd");
+    if (name == QLatin1String("image") && m_result.backgroundReference.isEmpty()
+        && (record.isBackground || isNamedPicture) && !record.refusesPicture) {
+        m_result.backgroundReference = linkTarget(element);
+        return true;
+    }
+    return false;
+}
+
+void SvgPageBuilder::finishBackground()
+{
+    QDomDocument &document = m_result.document;
+    QDomElement rect = document.createElement(QStringLiteral("svg:rect"));
+    rect.setAttribute(QStringLiteral("id"), backgroundRect);
+    setBox(rect, QRectF(QPointF(), m_rules.viewBox.size()));
+    const QColor color = m_background.alpha() > 0 ? m_background : QColor(Qt::white);
+    rect.setAttribute(QStringLiteral("fill"),
+                      QString(QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue())));
+    m_result.page.appendChild(rect);
+    if (!m_result.backgroundReference.isEmpty()) {
+        QDomElement picture = document.createElement(QStringLiteral("svg:image"));
+        picture.setAttribute(QStringLiteral("id"), backgroundImage);
+        m_result.page.appendChild(picture);
+    }
+    QDomElement record = document.createElement(QStringLiteral("iwb:element"));
+    record.setAttribute(QStringLiteral("ref"), backgroundRect);
+    m_result.root.appendChild(record);
+}
+
+// Puts a box under a transform: its size along its own sides, its centre, and its angle. False where a slant is lost.
+bool SvgPageBuilder::placeBox(IwbElement &item, const QRectF &box, const QTransform &matrix)
+{
+    const auto parts = scaleAndTurn(matrix);
+    const double scaleX = std::hypot(matrix.m11(), matrix.m12());
+    const double scaleY = std::hypot(matrix.m21(), matrix.m22());
+    const bool isPlain = matrix.type() <= QTransform::TxTranslate;
+    if (isPlain) {
+        setBox(item.element, matrix.mapRect(box));
+    } else {
+        const QPointF center = matrix.map(box.center());
+        const QSizeF size(box.width() * scaleX, box.height() * scaleY);
+        setBox(item.element, QRectF(center - QPointF(size.width(), size.height()) / 2, size));
+        item.angle = std::atan2(matrix.m12(), matrix.m11());
+        if (qAbs(item.angle) < 1e-9) {
+            item.angle = 0;
+        }
+    }
+    return parts.has_value();
+}
+
+IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &place, const QString &tag)
+{
+    IwbElement item;
+    item.element = m_result.document.createElement(tag);
+    m_items.appendChild(item.element);
+    item.id = source.attribute(QStringLiteral("id"));
+    item.link = place.link;
+    item.isVisible = place.style.isVisible();
+    item.isLocked =
+        m_rules.records.value(item.id).isLocked || source.attribute(QStringLiteral("lockin")) == QLatin1String("1");
+    item.isEndless = source.attribute(QStringLiteral("infiniteclone")) == QLatin1String("1");
+    m_result.items.append(item);
+    return m_result.items.last();
+}
+
+double SvgPageBuilder::length(const QDomElement &element, const char *name, double fallback)
+{
+    const QLatin1String attribute(name);
+    const bool isVertical = attribute == QLatin1String("y") || attribute == QLatin1String("height")
+        || attribute == QLatin1String("cy") || attribute == QLatin1String("ry");
+    const double reference = isVertical ? m_rules.viewBox.height() : m_rules.viewBox.width();
+    return svgLength(element.attribute(attribute), reference).value_or(fallback);
+}
+
+void SvgPageBuilder::remark(const QDomElement &element, const QString &text, bool isLoss)
+{
+    m_result.remarks.append({element.tagName(), element.attribute(QStringLiteral("id")), text, isLoss});
+}
+
+std::function<void(const QString &)> SvgPageBuilder::remarkAbout(const QDomElement &element)
+{
+    return [this, element](const QString &text) { remark(element, text); };
+}
+
+} // namespace lessonhost

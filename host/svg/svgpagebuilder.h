@@ -1,0 +1,75 @@
+#ifndef SVGPAGEBUILDER_H
+#define SVGPAGEBUILDER_H
+
+#include "svg/iwbpage.h"
+#include "svg/svgstyle.h"
+
+#include <QPolygonF>
+
+namespace lessonhost {
+
+/*!
+ * Walks one page of an IWB file and makes the plug-in's form of it.
+ */
+class SvgPageBuilder
+{
+public:
+    explicit SvgPageBuilder(const IwbDocumentRules &rules);
+
+    IwbPage build(const QDomElement &page);
+
+    //! True for svg elements that show something, converted or not.
+    static bool isDrawn(const QString &svgName);
+
+private:
+    // What an element has around it.
+    struct Place
+    {
+        SvgStyle style;
+        QString link;
+    };
+
+    using Convert = void (SvgPageBuilder::*)(const QDomElement &, const Place &);
+    static const QHash<QString, Convert> &conversions();
+
+    void children(const QDomElement &holder, const Place &place);
+    void convert(const QDomElement &element, const Place &outer);
+    void remarkOnExtras(const QDomElement &element, const QString &name);
+
+    void group(const QDomElement &element, const Place &place);
+    void nestedSvg(const QDomElement &element, const Place &place);
+    void alternatives(const QDomElement &element, const Place &place);
+    void link(const QDomElement &element, const Place &place);
+    void rectangle(const QDomElement &element, const Place &place);
+    void ellipse(const QDomElement &element, const Place &place);
+    void line(const QDomElement &element, const Place &place);
+    void polyline(const QDomElement &element, const Place &place);
+    void polygon(const QDomElement &element, const Place &place);
+    void path(const QDomElement &element, const Place &place);
+    void image(const QDomElement &element, const Place &place);
+    void sound(const QDomElement &element, const Place &place);
+    void text(const QDomElement &element, const Place &place);
+    void textArea(const QDomElement &element, const Place &place);
+
+    bool takeBackground(const QDomElement &element, const QString &name, const SvgStyle &style);
+    void finishBackground();
+    void outline(const QDomElement &source, const Place &place, QPolygonF points, bool isClosed);
+    void media(const QDomElement &source, const Place &place, const QString &tag);
+    bool placeBox(IwbElement &item, const QRectF &box, const QTransform &matrix);
+    IwbElement &addItem(const QDomElement &source, const Place &place, const QString &tag);
+    double length(const QDomElement &element, const char *name, double fallback = 0);
+    void remark(const QDomElement &element, const QString &text, bool isLoss = true);
+    std::function<void(const QString &)> remarkAbout(const QDomElement &element);
+    QString nativeTransform(const QDomElement &element) const;
+
+    const IwbDocumentRules &m_rules;
+    IwbPage m_result;
+    QDomElement m_items;
+    QColor m_background;
+    QString m_backgroundStem;
+    bool m_hasBackground = false;
+};
+
+} // namespace lessonhost
+
+#endif // SVGPAGEBUILDER_H

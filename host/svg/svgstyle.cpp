@@ -1,0 +1,251 @@
+#include "svg/svgstyle.h"
+
+#include "svg/svgvalues.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+// Properties that children inherit and that mean something here.
+const QSet<QString> &inheritedProperties()
+{
+    static const QSet<QString> names{
+        QStringLiteral("fill"),
+        QStringLiteral("fill-opacity"),
+        QStringLiteral("stroke"),
+        QStringLiteral("stroke-width"),
+        QStringLiteral("stroke-opacity"),
+        QStringLiteral("stroke-dasharray"),
+        QStringLiteral("color"),
+        QStringLiteral("font-family"),
+        QStringLiteral("font-size"),
+        QStringLiteral("font-weight"),
+        QStringLiteral("font-style"),
+        QStringLiteral("font-stretch"),
+        QStringLiteral("text-decoration"),
+        QStringLiteral("text-align"),
+        QStringLiteral("text-anchor"),
+        QStringLiteral("visibility"),
+        QStringLiteral("marker-start"),
+        QStringLiteral("marker-end"),
+    };
+    return names;
+}
+
+// Properties that change the look and that no item has.
+constexpr const char *unknownEffects[] = {"clip-path", "mask", "filter"};
+
+double opacityOf(const QString &text)
+{
+    const auto value = svgLength(text, 1);
+    return value ? qBound(0.0, *value, 1.0) : 1.0;
+}
+
+// A font size among keywords and lengths.
+double fontSizeOf(const QString &text, double inherited)
+{
+    struct Keyword
+    {
+        const char *name;
+        double pixels;
+    };
+    static constexpr Keyword keywords[] = {{"xx-small", 9}, {"x-small", 10}, {"small", 13},   {"medium", 16},
+                                           {"large", 18},   {"x-large", 24}, {"xx-large", 32}};
+    for (const Keyword &keyword : keywords) {
+        if (text == QLatin1String(keyword.name)) {
+            return keyword.pixels;
+        }
+    }
+    if (text == QLatin1String("smaller") || text == QLatin1String("larger")) {
+        return text == QLatin1String("larger") ? inherited * 1.2 : inherited / 1.2;
+    }
+    const auto length = svgLength(text, inherited, inherited);
+    return length && *length > 0 ? *length : inherited;
+}
+
+QColor withOpacity(QColor color, double opacity)
+{
+    color.setAlpha(qRound(color.alpha() * qBound(0.0, opacity, 1.0)));
+    return color;
+}
+
+QColor paintColor(const SvgStyle &style, const QString &name, const QColor &fallback,
+                  const std::function<void(const QString &)> &problem)
+{
+    QString text = style.property(name).trimmed();
+    if (text.isEmpty()) {
+        return fallback;
+    }
+    if (text.startsWith(QLatin1String("url("))) {
+        problem(name + QLatin1String(" \"") + text + QLatin1String("\" (a gradient or pattern) is left out"));
+        text = text.mid(text.indexOf(QLatin1Char(')')) + 1).trimmed();
+        return svgColor(text).value_or(QColor(0, 0, 0, 0));
+    }
+    if (text == QLatin1String("currentColor")) {
+        text = style.property(QStringLiteral("color"));
+    }
+    if (const auto color = svgColor(text)) {
+        return *color;
+    }
+    problem(name + QLatin1String(" \"") + text + QLatin1String("\" isn't a colour"));
+    return fallback;
+}
+
+int dashParts(const QString &text)
+{
+    const QVector<double> numbers = svgNumbers(text);
+    if (numbers.isEmpty()) {
+        return 0;
+    }
+    return numbers.size() > 4 ? 4 : qMax(2, numbers.size());
+}
+
+QString rgb(const QColor &color, bool withAlpha)
+{
+    QStringList parts{QString::number(color.red()), QString::number(color.green()), QString::number(color.blue())};
+    if (withAlpha) {
+        parts.prepend(QString::number(color.alpha()));
+    }
+    return QLatin1String("rgb(") + parts.join(QLatin1Char(',')) + QLatin1Char(')');
+}
+
+} // namespace
+
+SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
+                         const std::function<void(const QString &)> &problem) const
+{
+    SvgStyle result = *this;
+    const double inheritedSize = fontPixels();
+    QHash<QString, QString> own = svgDeclarations(element.attribute(QStringLiteral("style")));
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        if (!own.contains(attribute.name())) {
+            own.insert(attribute.name(), attribute.value());
+        }
+    }
+    for (auto it = own.constBegin(); it != own.constEnd(); ++it) {
+        if (inheritedProperties().contains(it.key()) && it.value() != QLatin1String("inherit")) {
+            result.m_properties.insert(it.key(), it.value());
+        }
+    }
+    const QString shift = QStringLiteral("baseline-shift");
+    result.m_properties.insert(shift, own.value(shift)); // not inherited
+    const QString fontSize = QStringLiteral("font-size");
+    if (own.contains(fontSize)) {
+        result.m_properties.insert(fontSize, QString::number(fontSizeOf(own.value(fontSize), inheritedSize), 'g', 10));
+    }
+    for (const char *effect : unknownEffects) {
+        const QString value = own.value(QLatin1String(effect));
+        if (!value.isEmpty() && value != QLatin1String("none")) {
+            problem(QLatin1String(effect) + QLatin1String(" is left out"));
+        }
+    }
+    result.opacity = opacity * opacityOf(own.value(QStringLiteral("opacity")));
+    const bool isHidden = own.value(QStringLiteral("display")) == QLatin1String("none")
+        || own.value(QStringLiteral("visible")) == QLatin1String("0");
+    result.m_isDisplayed = m_isDisplayed && !isHidden;
+    if (!transform.isEmpty() && transform != QLatin1String("none")) {
+        if (const auto step = svgTransform(transform)) {
+            result.matrix = *step * matrix;
+        } else {
+            problem(QLatin1String("transform \"") + transform + QLatin1String("\" can't be read"));
+        }
+    }
+    return result;
+}
+
+bool SvgStyle::isVisible() const
+{
+    // A child may be shown in a hidden group, but not in one that isn't displayed.
+    const QString visibility = property(QStringLiteral("visibility"));
+    return m_isDisplayed && visibility != QLatin1String("hidden") && visibility != QLatin1String("collapse");
+}
+
+double SvgStyle::fontPixels() const
+{
+    bool ok = false;
+    const double pixels = m_properties.value(QStringLiteral("font-size")).toDouble(&ok);
+    return ok && pixels > 0 ? pixels : 16;
+}
+
+SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void(const QString &)> &problem)
+{
+    SvgPaint paint;
+    const QColor none(0, 0, 0, 0);
+    paint.fill = paintColor(style, QStringLiteral("fill"), isNative ? none : QColor(Qt::black), problem);
+    paint.line = paintColor(style, QStringLiteral("stroke"), isNative ? QColor(Qt::black) : none, problem);
+
+    double fillOpacity = opacityOf(style.property(QStringLiteral("fill-opacity")));
+    double lineOpacity = 1;
+    const QString strokeOpacity = style.property(QStringLiteral("stroke-opacity"));
+    const double value = svgLength(strokeOpacity, 1).value_or(1);
+    const bool isWhole = strokeOpacity == QLatin1String("0") || strokeOpacity == QLatin1String("1");
+    const bool hasFillOpacity = style.has(QStringLiteral("fill-opacity"));
+    if (value > 1 || (isNative && isWhole && !hasFillOpacity && paint.fill.alpha() > 0)) {
+        fillOpacity = hasFillOpacity ? fillOpacity : qBound(0.0, value / 255, 1.0);
+    } else {
+        lineOpacity = value;
+    }
+    paint.fill = withOpacity(paint.fill, fillOpacity * style.opacity);
+    paint.line = withOpacity(paint.line, lineOpacity * style.opacity);
+
+    const QString width = style.property(QStringLiteral("stroke-width"));
+    paint.lineWidth = svgLength(width).value_or(isNative ? 2 : 1) * std::sqrt(qAbs(style.matrix.determinant()));
+    if (paint.lineWidth <= 0) {
+        paint.lineWidth = 1;
+        paint.line.setAlpha(0);
+    }
+    const QString dashes = style.property(QStringLiteral("stroke-dasharray"));
+    paint.dashParts = dashParts(dashes);
+    if (svgNumbers(dashes).size() > 4) {
+        problem(QLatin1String("stroke-dasharray \"") + dashes + QLatin1String("\" became dash dot dot"));
+    }
+    return paint;
+}
+
+void setPluginPaint(QDomElement &element, const SvgPaint &paint)
+{
+    element.setAttribute(QStringLiteral("stroke"), rgb(paint.line, paint.line.alpha() < 255));
+    element.setAttribute(QStringLiteral("stroke-width"), QString::number(paint.lineWidth, 'g', 10));
+    if (paint.fill.alpha() > 0) {
+        element.setAttribute(QStringLiteral("fill"), rgb(paint.fill, false));
+        element.setAttribute(QStringLiteral("stroke-opacity"), QString::number(paint.fill.alpha()));
+    }
+    if (paint.dashParts > 0) {
+        // Only the number of parts is read.
+        QStringList parts;
+        for (int i = 0; i < paint.dashParts; ++i) {
+            parts.append(QStringLiteral("1"));
+        }
+        element.setAttribute(QStringLiteral("stroke-dasharray"), parts.join(QLatin1Char(',')));
+    }
+}
+
+void setSvgPaint(QDomElement &element, const SvgPaint &paint)
+{
+    const QString strokeOpacity = QStringLiteral("stroke-opacity");
+    const QString fillOpacity = QStringLiteral("fill-opacity");
+    const bool hasFill = paint.fill.alpha() > 0;
+    const bool hasLine = paint.line.alpha() > 0;
+    const bool hasTranslucentLine = hasLine && paint.line.alpha() < 255;
+    if (!hasFill && element.tagName() != QLatin1String("svg:line")) {
+        element.setAttribute(QStringLiteral("fill"), QStringLiteral("none"));
+    }
+    if (hasFill && (paint.fill.alpha() < 255 || hasTranslucentLine)) {
+        element.setAttribute(fillOpacity, QString::number(paint.fill.alpha() / 255.0));
+    }
+    if (!hasLine) {
+        element.setAttribute(QStringLiteral("stroke"), QStringLiteral("none"));
+    } else if (hasTranslucentLine) {
+        element.setAttribute(strokeOpacity, QString::number(paint.line.alpha() / 255.0));
+    }
+    element.setAttribute(QStringLiteral("stroke-width"), QString::number(paint.lineWidth, 'g', 10));
+}
+
+} // namespace lessonhost
