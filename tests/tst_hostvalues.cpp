@@ -3,6 +3,7 @@
 #include "formats/zqtxitems.h"
 #include "lesson/modelforms.h"
 #include "losses/carriedcheck.h"
+#include "losses/equivalence.h"
 #include "losses/lossreport.h"
 #include "pluginfixture.h"
 

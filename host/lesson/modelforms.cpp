@@ -2,7 +2,6 @@
 
 #include "files/xmltext.h"
 
-#include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QStringList>
@@ -340,17 +339,6 @@ private:
     float m_previous;
 };
 
-QString normalizedColor(const QString &text)
-{
-    const QColor color(text);
-    return color.isValid() ? color.name(QColor::HexArgb) : text;
-}
-
-bool haveSameNumbers(const QString &one, const QString &other)
-{
-    return floatsOf(numberParts(one)) == floatsOf(numberParts(other));
-}
-
 } // namespace
 
 int majorVersion(const QJsonObject &presentation)
@@ -362,6 +350,11 @@ bool isContainer(const QString &itemType)
 {
     return itemType == QLatin1String("ZQGroupItem") || itemType == QLatin1String("group")
         || itemType == QLatin1String("ZQStrokesMathFormula") || itemType == QLatin1String("ZQStrokesChemFormula");
+}
+
+QVector<float> singleNumbers(const QString &text)
+{
+    return floatsOf(numberParts(text));
 }
 
 bool isFigure(const QString &itemType)
@@ -394,23 +387,6 @@ QString valueText(const QJsonValue &value)
     default:
         return QLatin1String("");
     }
-}
-
-bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &found)
-{
-    const QString one = valueText(given);
-    const QString other = valueText(found);
-    if (one == other) {
-        return true;
-    }
-    if (key == QLatin1String("Color")) {
-        return normalizedColor(one) == normalizedColor(other);
-    }
-    if (key == QLatin1String("XY") || key == QLatin1String("Control")) {
-        return haveSameNumbers(one, other);
-    }
-    // Three parts of a colour are opaque.
-    return other == QLatin1String("255,") + one;
 }
 
 QJsonObject writableProperties(const QJsonObject &properties)

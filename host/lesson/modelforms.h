@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
+#include <QVector>
 
 namespace lessonhost {
 
@@ -33,9 +34,9 @@ QJsonObject writableProperties(const QJsonObject &properties);
 //! of numbers with commas between. Other arrays and objects give a null text.
 QString valueText(const QJsonValue &value);
 
-//! True if a write and a read of the one could give the other: the same value under valueText, or colours of strokes
-//! that name the same colour, or points with the same numbers. Missing and empty values are the same.
-bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &found);
+//! The numbers of a list with commas between, in single precision; a part that is no number counts as 0, and a comma at
+//! the end stands before none.
+QVector<float> singleNumbers(const QString &text);
 
 //! The steps between a stroke's points, as the model has them, as offsets from the first point, as lessons older than
 //! version 3 store them. The offsets are chosen such that reading gives the same steps again.

@@ -4,6 +4,7 @@
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "lesson/modelforms.h"
+#include "losses/equivalence.h"
 #include "losses/lossreport.h"
 
 #include <QJsonArray>
