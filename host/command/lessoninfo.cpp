@@ -1,7 +1,8 @@
 #include "command/lessoninfo.h"
 
 #include "files/packagenames.h"
-#include "lesson/modelforms.h"
+#include "lesson/itemkeys.h"
+#include "lesson/itemvalues.h"
 #include "lesson/plainnames.h"
 
 #include <QFileInfo>

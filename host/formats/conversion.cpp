@@ -2,7 +2,7 @@
 
 #include "files/lessonerror.h"
 #include "lesson/activitypictures.h"
-#include "lesson/modelforms.h"
+#include "lesson/itemkeys.h"
 #include "losses/lossreport.h"
 
 #include <QMap>

@@ -7,7 +7,8 @@
 #include "files/xmltext.h"
 #include "formats/rawattributes.h"
 #include "izqtransformation.h"
-#include "lesson/modelforms.h"
+#include "lesson/itemkeys.h"
+#include "lesson/itemtypes.h"
 #include "lesson/pageplace.h"
 #include "losses/carriedcheck.h"
 

@@ -4,7 +4,10 @@
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "izqtransformation.h"
-#include "lesson/modelforms.h"
+#include "lesson/itemkeys.h"
+#include "lesson/itemtypes.h"
+#include "lesson/itemvalues.h"
+#include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
 
 #include <QJsonArray>

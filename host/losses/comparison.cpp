@@ -3,7 +3,9 @@
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
-#include "lesson/modelforms.h"
+#include "lesson/itemkeys.h"
+#include "lesson/itemtypes.h"
+#include "lesson/itemvalues.h"
 #include "losses/equivalence.h"
 #include "losses/lossreport.h"
 

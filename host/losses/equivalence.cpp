@@ -1,6 +1,6 @@
 #include "losses/equivalence.h"
 
-#include "lesson/modelforms.h"
+#include "lesson/itemvalues.h"
 
 #include <QColor>
 

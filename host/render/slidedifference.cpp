@@ -1,6 +1,7 @@
 #include "render/slidedifference.h"
 
-#include "lesson/modelforms.h"
+#include "lesson/itemkeys.h"
+#include "lesson/itemtypes.h"
 #include "lesson/plainnames.h"
 #include "losses/comparison.h"
 #include "losses/lossreport.h"

@@ -1,56 +1,21 @@
-#include "lesson/modelforms.h"
+#include "lesson/writableforms.h"
 
 #include "files/xmltext.h"
+#include "lesson/itemkeys.h"
+#include "lesson/itemvalues.h"
+#include "lesson/strokeoffsets.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QStringList>
-#include <QVector>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace lessonhost {
 
 namespace {
 
 const QLatin1String typeKey("Type");
-const QLatin1String solidKey("Solid");
-const QLatin1String alphaKey("Alpha");
-
-QString shortestText(double number)
-{
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
-}
-
-bool isColorObject(const QJsonObject &object)
-{
-    return object.contains(solidKey)
-        && std::all_of(object.constBegin(), object.constEnd(),
-                       [](const QJsonValue &value) { return value.isDouble(); });
-}
-
-QString colorText(const QJsonObject &color)
-{
-    const int solid = color.value(solidKey).toInt();
-    const int alpha = qRound(color.value(alphaKey).toDouble(1.0) * 255.0);
-    return QStringLiteral("%1,%2,%3,%4").arg(alpha).arg((solid >> 16) & 255).arg((solid >> 8) & 255).arg(solid & 255);
-}
-
-bool isNumberArray(const QJsonArray &array)
-{
-    return std::all_of(array.constBegin(), array.constEnd(), [](const QJsonValue &value) { return value.isDouble(); });
-}
-
-QString numberArrayText(const QJsonArray &array)
-{
-    QStringList numbers;
-    for (const QJsonValue &number : array) {
-        numbers.append(shortestText(number.toDouble()));
-    }
-    return numbers.join(QLatin1Char(','));
-}
 
 // JSON in ASCII, since the text is read back as Latin-1.
 QString asciiJson(const QJsonArray &array)
@@ -280,114 +245,7 @@ bool isQuestionNumber(const QString &key)
     });
 }
 
-// A comma at the end stands before no number.
-QStringList numberParts(const QString &text)
-{
-    QStringList parts = text.split(QLatin1Char(','));
-    if (parts.last().isEmpty()) {
-        parts.removeLast();
-    }
-    return parts;
-}
-
-QVector<float> floatsOf(const QStringList &parts)
-{
-    QVector<float> numbers;
-    numbers.reserve(parts.size());
-    for (const QString &part : parts) {
-        numbers.append(part.toFloat());
-    }
-    return numbers;
-}
-
-QString sixDigits(float number)
-{
-    return QString::number(double(number), 'g', 6);
-}
-
-/*!
- * One coordinate of a stroke on its way from steps to offsets. It follows what a reader does in single precision, so
- * that errors don't add up along the stroke.
- */
-class OffsetTrack
-{
-public:
-    explicit OffsetTrack(float origin)
-        : m_origin(origin)
-        , m_previous(origin)
-    {
-    }
-
-    QString offset(float step)
-    {
-        const float wanted = m_previous + step;
-        const float near = wanted - m_origin;
-        const float limit = std::numeric_limits<float>::infinity();
-        float offset = near;
-        for (const float candidate : {near, std::nextafter(near, limit), std::nextafter(near, -limit)}) {
-            if (sixDigits(candidate + m_origin - m_previous) == sixDigits(step)) {
-                offset = candidate;
-                break;
-            }
-        }
-        m_previous = offset + m_origin;
-        return QString::number(double(offset), 'g', 9);
-    }
-
-private:
-    float m_origin;
-    float m_previous;
-};
-
 } // namespace
-
-int majorVersion(const QJsonObject &presentation)
-{
-    return valueText(presentation.value(QLatin1String("Version"))).section(QLatin1Char('.'), 0, 0).toInt();
-}
-
-bool isContainer(const QString &itemType)
-{
-    return itemType == QLatin1String("ZQGroupItem") || itemType == QLatin1String("group")
-        || itemType == QLatin1String("ZQStrokesMathFormula") || itemType == QLatin1String("ZQStrokesChemFormula");
-}
-
-QVector<float> singleNumbers(const QString &text)
-{
-    return floatsOf(numberParts(text));
-}
-
-bool isFigure(const QString &itemType)
-{
-    return itemType.startsWith(QLatin1String("ZQShape"));
-}
-
-QString valueText(const QJsonValue &value)
-{
-    switch (value.type()) {
-    case QJsonValue::String: {
-        const QString text = value.toString();
-        return text.isNull() ? QString(QLatin1String("")) : text;
-    }
-    case QJsonValue::Bool:
-        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
-    case QJsonValue::Double:
-        return shortestText(value.toDouble());
-    case QJsonValue::Array: {
-        const QJsonArray array = value.toArray();
-        return isNumberArray(array) ? numberArrayText(array) + QLatin1String("") : QString();
-    }
-    case QJsonValue::Object: {
-        const QJsonObject object = value.toObject();
-        if (object.isEmpty()) {
-            return QLatin1String("");
-        }
-        return isColorObject(object) ? colorText(object) : QString();
-    }
-    default:
-        return QLatin1String("");
-    }
-}
 
 QJsonObject writableProperties(const QJsonObject &properties)
 {
@@ -432,23 +290,6 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
         }
     }
     return written;
-}
-
-QString pointsAsOffsets(const QString &steps)
-{
-    const QStringList parts = numberParts(steps);
-    if (parts.size() < 4) {
-        return steps;
-    }
-    const QVector<float> numbers = floatsOf(parts);
-    OffsetTrack x(numbers.at(0));
-    OffsetTrack y(numbers.at(1));
-    QStringList offsets{parts.at(0), parts.at(1)};
-    for (int i = 2; i + 1 < numbers.size(); i += 2) {
-        offsets.append(x.offset(numbers.at(i)));
-        offsets.append(y.offset(numbers.at(i + 1)));
-    }
-    return offsets.join(QLatin1Char(','));
 }
 
 } // namespace lessonhost
