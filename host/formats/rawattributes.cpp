@@ -1,7 +1,7 @@
 #include "formats/rawattributes.h"
 
 #include "izqtransformation.h"
-#include "lesson/iwbgeometry.h"
+#include "lesson/itemvalues.h"
 
 #include <QColor>
 #include <QStringList>

@@ -17,6 +17,7 @@
 #include "losses/carriedcheck.h"
 #include "losses/comparison.h"
 #include "losses/lossreport.h"
+#include "svg/pluginoutlines.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -291,7 +292,7 @@ public:
     void writeSlide(const LessonSlide &slide) override
     {
         const int number = m_ids.size() + 1;
-        LessonSlide written = slideInPageForm(slide, m_context.plugin, &m_placedItems);
+        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems);
         written.properties = withShortPictures(written.properties);
         const QString id = usableId(valueText(slide.properties.value(idKey)), number);
         written.properties.insert(idKey, id);

@@ -1,8 +1,10 @@
 #include "iwb/iwbitemreader.h"
 
 #include "izqtransformation.h"
-#include "lesson/iwbgeometry.h"
+#include "lesson/itemvalues.h"
+#include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
+#include "svg/svgextent.h"
 #include "svg/svgvalues.h"
 
 namespace lessonhost {

@@ -2,9 +2,15 @@
 
 #include "files/lessonerror.h"
 #include "files/pictures.h"
+#include "iwb/shapeplacing.h"
 #include "izqtransformation.h"
+#include "lesson/itemplace.h"
+#include "lesson/itemvalues.h"
+#include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "losses/lossreport.h"
+#include "svg/pluginoutlines.h"
+#include "svg/svgextent.h"
 #include "svg/svgstyle.h"
 
 #include <QFile>
@@ -250,7 +256,7 @@ void IwbItemWriter::writeItem(const QJsonObject &item)
 
 void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
 {
-    const PlacedShape placed = placeShape(item, form, m_setting.plugin);
+    const PlacedShape placed = placeShape(item, form, pluginOutlines(m_setting.plugin));
     const SvgPaint paint = paintOf(item, form);
     QJsonObject prepared = commonKeys(item);
     for (auto it = placed.geometry.constBegin(); it != placed.geometry.constEnd(); ++it) {

@@ -2,7 +2,7 @@
 #define IWBITEMWRITER_H
 
 #include "files/lessonfiles.h"
-#include "lesson/iwbgeometry.h"
+#include "lesson/shapeforms.h"
 
 #include <QDomDocument>
 #include <QJsonArray>

@@ -3,7 +3,6 @@
 #include "files/lessonerror.h"
 #include "files/pictures.h"
 #include "izqtransformation.h"
-#include "lesson/iwbshapes.h"
 
 #include <QDir>
 #include <QFile>

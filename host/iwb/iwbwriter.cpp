@@ -6,6 +6,7 @@
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
 #include "izqtransformation.h"
+#include "lesson/itemvalues.h"
 #include "lesson/textruns.h"
 
 #include <QDir>

@@ -100,4 +100,107 @@ QVector<float> singleNumbers(const QString &text)
     return numbers;
 }
 
+QString colorText(const QColor &color)
+{
+    return QStringLiteral("%1,%2,%3,%4").arg(color.alpha()).arg(color.red()).arg(color.green()).arg(color.blue());
+}
+
+std::optional<QColor> itemColor(const QJsonValue &value)
+{
+    if (value.isObject()) {
+        const QJsonObject object = value.toObject();
+        if (!object.contains(QLatin1String("Solid"))) {
+            return std::nullopt;
+        }
+        QColor color(QRgb(object.value(QLatin1String("Solid")).toInt()));
+        color.setAlphaF(qBound(0.0, object.value(QLatin1String("Alpha")).toDouble(1), 1.0));
+        return color;
+    }
+    const QString text = value.toString().trimmed();
+    const QStringList parts = text.split(QLatin1Char(','));
+    const auto channel = [&parts](int i) { return qBound(0, qRound(parts.at(i).toDouble()), 255); };
+    if (parts.size() == 4) {
+        return QColor(channel(1), channel(2), channel(3), channel(0));
+    }
+    if (parts.size() == 3) {
+        return QColor(channel(0), channel(1), channel(2));
+    }
+    const QColor named(text);
+    return named.isValid() ? std::optional<QColor>(named) : std::nullopt;
+}
+
+QVector<double> itemNumbers(const QJsonValue &value)
+{
+    QVector<double> numbers;
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        numbers.reserve(array.size());
+        for (const QJsonValue &number : array) {
+            numbers.append(number.isDouble() ? number.toDouble() : number.toString().toDouble());
+        }
+        return numbers;
+    }
+    const QString text = value.toString();
+    if (text.trimmed().isEmpty()) {
+        return numbers;
+    }
+    const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
+    numbers.reserve(parts.size());
+    for (const QStringRef &part : parts) {
+        const double number = part.trimmed().toDouble();
+        numbers.append(qIsFinite(number) ? number : 0);
+    }
+    return numbers;
+}
+
+QPolygonF pointsOf(const QVector<double> &numbers)
+{
+    QPolygonF points;
+    points.reserve(numbers.size() / 2);
+    for (int i = 0; i + 1 < numbers.size(); i += 2) {
+        points.append(QPointF(numbers.at(i), numbers.at(i + 1)));
+    }
+    return points;
+}
+
+QString exactText(double value)
+{
+    return QString::number(qAbs(value) < 1e-9 ? 0 : value, 'g', 12);
+}
+
+QString pointsText(const QPolygonF &points)
+{
+    QStringList numbers;
+    numbers.reserve(points.size() * 2);
+    for (const QPointF &point : points) {
+        numbers << exactText(point.x()) << exactText(point.y());
+    }
+    return numbers.join(QLatin1Char(','));
+}
+
+QString boxText(const QRectF &box)
+{
+    return exactText(box.left()) + QLatin1Char(',') + exactText(box.top()) + QLatin1Char(',') + exactText(box.right())
+        + QLatin1Char(',') + exactText(box.bottom());
+}
+
+std::optional<QTransform> transformOfText(const QString &text)
+{
+    const QVector<double> n = itemNumbers(text);
+    if (n.size() < 6) {
+        return std::nullopt;
+    }
+    return QTransform(n.at(0), n.at(1), n.at(2), n.at(3), n.at(4), n.at(5));
+}
+
+QString transformText(const QTransform &transform)
+{
+    QStringList numbers;
+    for (const double number :
+         {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
+        numbers.append(exactText(number));
+    }
+    return numbers.join(QLatin1Char(','));
+}
+
 } // namespace lessonhost

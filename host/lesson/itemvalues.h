@@ -1,10 +1,16 @@
 #ifndef ITEMVALUES_H
 #define ITEMVALUES_H
 
+#include <QColor>
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QPolygonF>
+#include <QRectF>
 #include <QString>
+#include <QTransform>
 #include <QVector>
+
+#include <optional>
 
 namespace lessonhost {
 
@@ -23,6 +29,30 @@ QStringList numberParts(const QString &text);
 //! The numbers of a list with commas between, in single precision; a part that is no number counts as 0, and a comma at
 //! the end stands before none.
 QVector<float> singleNumbers(const QString &text);
+
+//! a,r,g,b.
+QString colorText(const QColor &color);
+
+//! The colour of a value of an item: an object with Solid and Alpha, or a text a,r,g,b or r,g,b or a name. Nothing for
+//! an empty or other value.
+std::optional<QColor> itemColor(const QJsonValue &value);
+
+//! The numbers of a value: an array of numbers, or a text with commas between. A part that is no number counts as 0.
+QVector<double> itemNumbers(const QJsonValue &value);
+
+//! Points from x and y in turn; a last x without its y is left out.
+QPolygonF pointsOf(const QVector<double> &numbers);
+
+//! A number with as many digits as a coordinate may need, so that what is computed from it rounds as it did.
+QString exactText(double value);
+//! x and y in turn with commas between.
+QString pointsText(const QPolygonF &points);
+//! left,top,right,bottom.
+QString boxText(const QRectF &box);
+
+//! m11,m12,m21,m22,dx,dy as a transform and back. Nothing for fewer numbers.
+std::optional<QTransform> transformOfText(const QString &text);
+QString transformText(const QTransform &transform);
 
 } // namespace lessonhost
 

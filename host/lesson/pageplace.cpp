@@ -1,8 +1,11 @@
 #include "lesson/pageplace.h"
 
-#include "lesson/iwbgeometry.h"
+#include "lesson/itemplace.h"
+#include "lesson/itemvalues.h"
+#include "lesson/planegeometry.h"
+#include "lesson/shapeforms.h"
+#include "lesson/shapegeometry.h"
 #include "lesson/textruns.h"
-#include "svg/svgvalues.h"
 
 #include <QColor>
 #include <QJsonArray>
@@ -62,9 +65,9 @@ void setPoints(QJsonObject &item, const ShapeForm &form, const QPolygonF &points
 }
 
 // False where a turned box can't tell how the shape is drawn.
-bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &matrix, IZQTransformation *plugin)
+bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &matrix, const OutlineSource &outlines)
 {
-    const QRectF own = shapeExtent(item, form, plugin);
+    const QRectF own = shapeExtent(item, form, outlines);
     ItemPlace place = placeUnder(matrix, own);
     switch (form.outline) {
     case ShapeForm::Circle: {
@@ -90,7 +93,7 @@ bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &ma
     if (isPlain(matrix)) {
         setPlace(item, place);
     } else {
-        setPoints(item, form, matrix.map(shapePoints(item, form, plugin)));
+        setPoints(item, form, matrix.map(shapePoints(item, form, outlines)));
     }
     return true;
 }
@@ -116,10 +119,10 @@ void placeInk(QJsonObject &item, const QTransform &matrix)
     item.remove(angleKey);
 }
 
-bool placeItem(QJsonObject &item, const QTransform &matrix, IZQTransformation *plugin)
+bool placeItem(QJsonObject &item, const QTransform &matrix, const OutlineSource &outlines)
 {
     if (const ShapeForm *form = shapeForm(item.value(typeKey).toString())) {
-        return placeDrawing(item, *form, matrix, plugin);
+        return placeDrawing(item, *form, matrix, outlines);
     }
     if (item.contains(strokeKey)) {
         placeInk(item, matrix);
@@ -161,13 +164,13 @@ void makeHtml(QJsonObject &item)
     }
 }
 
-QJsonArray itemsInPageForm(const QJsonArray &items, IZQTransformation *plugin, int &placed);
+QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outlines, int &placed);
 
 // A raw group stands around its items, which are placed by themselves; its own box isn't one of the page.
-void placeGroup(QJsonObject &group, IZQTransformation *plugin, int &placed)
+void placeGroup(QJsonObject &group, const OutlineSource &outlines, int &placed)
 {
     const int before = placed;
-    const QJsonArray children = itemsInPageForm(group.value(childrenKey).toArray(), plugin, placed);
+    const QJsonArray children = itemsInPageForm(group.value(childrenKey).toArray(), outlines, placed);
     group.insert(childrenKey, children);
     if (placed == before) {
         return;
@@ -192,29 +195,29 @@ void placeGroup(QJsonObject &group, IZQTransformation *plugin, int &placed)
     }
 }
 
-QJsonObject itemInPageForm(QJsonObject item, IZQTransformation *plugin, int &placed)
+QJsonObject itemInPageForm(QJsonObject item, const OutlineSource &outlines, int &placed)
 {
     nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
     if (!item.value(childrenKey).toArray().isEmpty()) {
-        placeGroup(item, plugin, placed);
+        placeGroup(item, outlines, placed);
         return item;
     }
     const auto matrix = transformOfText(item.value(matrixKey).toString());
     item.remove(slideMatrixKey); // its part in the matrix
-    if (matrix && placeItem(item, *matrix, plugin)) {
+    if (matrix && placeItem(item, *matrix, outlines)) {
         item.remove(matrixKey);
         ++placed;
     }
     return item;
 }
 
-QJsonArray itemsInPageForm(const QJsonArray &items, IZQTransformation *plugin, int &placed)
+QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outlines, int &placed)
 {
     QJsonArray result;
     for (const QJsonValue &item : items) {
-        result.append(itemInPageForm(item.toObject(), plugin, placed));
+        result.append(itemInPageForm(item.toObject(), outlines, placed));
     }
     return result;
 }
@@ -244,12 +247,12 @@ void makeBackground(QJsonObject &properties)
 
 } // namespace
 
-LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin, int *placed)
+LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outlines, int *placed)
 {
     LessonSlide result = slide;
     int count = 0;
     makeBackground(result.properties);
-    result.items = itemsInPageForm(slide.items, plugin, count);
+    result.items = itemsInPageForm(slide.items, outlines, count);
     // It tells what the matrices were fitted from.
     result.properties.remove(QLatin1String("SlideSourceRect"));
     if (placed) {

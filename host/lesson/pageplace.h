@@ -2,6 +2,7 @@
 #define PAGEPLACE_H
 
 #include "lesson/lesson.h"
+#include "lesson/shapegeometry.h"
 
 namespace lessonhost {
 
@@ -14,7 +15,7 @@ namespace lessonhost {
  *
  * placed is increased by the items whose Matrix was worked into their box, turn or points.
  */
-LessonSlide slideInPageForm(const LessonSlide &slide, IZQTransformation *plugin, int *placed = nullptr);
+LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outlines, int *placed = nullptr);
 
 //! A package names a media item's file as its resource; a raw lesson lists files in MultiMediaFile. The first becomes
 //! the resource of an item that has none, and a list of one goes.

@@ -1,7 +1,7 @@
 #include "render/namedboxes.h"
 
-#include "lesson/iwbgeometry.h"
-#include "lesson/iwbshapes.h"
+#include "lesson/itemplace.h"
+#include "lesson/itemvalues.h"
 #include "lesson/plainnames.h"
 #include "render/plainsvg.h"
 

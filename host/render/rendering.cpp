@@ -6,6 +6,7 @@
 #include "losses/lossreport.h"
 #include "render/slidedifference.h"
 #include "render/slidepictures.h"
+#include "svg/pluginoutlines.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -330,8 +331,8 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
             LessonSlide found = slide < second.slideCount() ? second.slide(slide) : LessonSlide();
             const QLatin1String rawKey("SlideSourceRect");
             if (given.properties.contains(rawKey) || found.properties.contains(rawKey)) {
-                given = slideInPageForm(given, context.plugin);
-                found = slideInPageForm(found, context.plugin);
+                given = slideInPageForm(given, pluginOutlines(context.plugin));
+                found = slideInPageForm(found, pluginOutlines(context.plugin));
             }
             html.addHtml(slideDifference(given, found, slide + 1, losses));
         }

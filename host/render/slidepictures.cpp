@@ -4,7 +4,7 @@
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "lesson/itemkeys.h"
-#include "lesson/iwbgeometry.h"
+#include "lesson/itemvalues.h"
 #include "losses/lossreport.h"
 #include "render/namedboxes.h"
 #include "render/plainsvg.h"

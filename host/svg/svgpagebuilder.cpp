@@ -1,5 +1,6 @@
 #include "svg/svgpagebuilder.h"
 
+#include "lesson/planegeometry.h"
 #include "svg/svgnames.h"
 #include "svg/svgtext.h"
 #include "svg/svgvalues.h"

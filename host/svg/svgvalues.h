@@ -43,19 +43,6 @@ std::optional<QVector<SvgOutline>> svgStraightPath(const QString &data);
 //! The declarations of a style attribute.
 QHash<QString, QString> svgDeclarations(const QString &style);
 
-//! A scale along x and y and then a rotation, in radians, that take the unit vectors where the linear part of transform
-//! does. Nothing if it shears.
-struct ScaleAndTurn
-{
-    double scaleX = 1;
-    double scaleY = 1; //!< negative where the transform mirrors
-    double angle = 0;
-};
-std::optional<ScaleAndTurn> scaleAndTurn(const QTransform &transform);
-
-//! The ellipse that transform makes of the axis-parallel ellipse with these radii: radii and angle of its own axes.
-ScaleAndTurn ellipseUnder(const QTransform &transform, double rx, double ry);
-
 } // namespace lessonhost
 
 #endif // SVGVALUES_H

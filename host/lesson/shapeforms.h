@@ -1,14 +1,9 @@
-#ifndef IWBSHAPES_H
-#define IWBSHAPES_H
+#ifndef SHAPEFORMS_H
+#define SHAPEFORMS_H
 
 #include <QColor>
 #include <QJsonObject>
-#include <QPolygonF>
-#include <QRectF>
 #include <QString>
-#include <QVector>
-
-#include <optional>
 
 namespace lessonhost {
 
@@ -52,29 +47,6 @@ QJsonObject withoutDoubledWidth(QJsonObject item);
 //! The line's colour as the plug-in takes it for this form: its alpha is not among it.
 QString lineColorText(const ShapeForm &form, const QColor &color);
 
-//! a,r,g,b.
-QString colorText(const QColor &color);
-
-//! The colour of a value of an item: an object with Solid and Alpha, or a text a,r,g,b or r,g,b or a name. Nothing for
-//! an empty or other value.
-std::optional<QColor> itemColor(const QJsonValue &value);
-
-//! The numbers of a value: an array of numbers, or a text with commas between. A part that is no number counts as 0.
-QVector<double> itemNumbers(const QJsonValue &value);
-
-//! Points from x and y in turn; a last x without its y is left out.
-QPolygonF pointsOf(const QVector<double> &numbers);
-
-//! A number with as many digits as a coordinate may need, so that what is computed from it rounds as it did.
-QString exactText(double value);
-//! x and y in turn with commas between.
-QString pointsText(const QPolygonF &points);
-//! left,top,right,bottom.
-QString boxText(const QRectF &box);
-
-//! The smallest box around points; empty and at 0,0 for none.
-QRectF extentOf(const QPolygonF &points);
-
 } // namespace lessonhost
 
-#endif // IWBSHAPES_H
+#endif // SHAPEFORMS_H

@@ -1,0 +1,229 @@
+#include "iwb/shapeplacing.h"
+
+#include "lesson/itemplace.h"
+#include "lesson/itemvalues.h"
+#include "lesson/planegeometry.h"
+#include "lesson/shapeforms.h"
+#include "lesson/shapegeometry.h"
+
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String boxKey("BoundingBox");
+const QLatin1String matrixKey("Matrix");
+const QLatin1String controlKey("Control");
+const QLatin1String pointsKey("XYValue");
+const QLatin1String typeKey("Type");
+const QLatin1String identityText("1,0,0,1,0,0");
+
+// Scale along one axis; points that have no extent of their own stay together.
+double fitScale(double own, double target)
+{
+    if (own < 1e-9 || qAbs(target - own) < 1e-7) {
+        return 1;
+    }
+    return target / own;
+}
+
+// Stretches points to fill a box, with what has no extent in the middle, and turns them about its centre.
+QPolygonF fitted(const QPolygonF &points, const ItemPlace &place)
+{
+    const QRectF own = extentOf(points);
+    const double scaleX = fitScale(own.width(), place.box.width());
+    const double scaleY = fitScale(own.height(), place.box.height());
+    const QTransform fit = QTransform::fromTranslate(-own.center().x(), -own.center().y())
+        * QTransform::fromScale(scaleX, scaleY)
+        * QTransform::fromTranslate(place.box.center().x(), place.box.center().y());
+    const QPolygonF filled = fit.map(points);
+    return place.angle == 0 ? filled : turnAbout(place.box.center(), place.angle).map(filled);
+}
+
+class ShapePlacer
+{
+public:
+    ShapePlacer(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
+        : m_item(withImplied(item, form))
+        , m_form(form)
+        , m_outlines(outlines)
+    {
+        m_result.form = &form;
+        copy(QLatin1String("ArtObj_Ln"));
+        copy(QLatin1String("ArtObj_ArrowType"));
+    }
+
+    PlacedShape place()
+    {
+        const auto matrix = matrixOf(m_item);
+        switch (m_form.outline) {
+        case ShapeForm::Circle:
+        case ShapeForm::Ellipse:
+            matrix ? ellipseUnder(*matrix) : ellipseInBox();
+            break;
+        case ShapeForm::Rectangle:
+            matrix ? rectangleUnder(*matrix) : rectangleInBox();
+            break;
+        default:
+            matrix ? pointsUnder(*matrix) : pointsInBox();
+            break;
+        }
+        m_result.geometry.insert(typeKey, QLatin1String(m_result.form->type));
+        return m_result;
+    }
+
+private:
+    void copy(QLatin1String key)
+    {
+        if (m_item.contains(key)) {
+            m_result.geometry.insert(key, m_item.value(key));
+        }
+    }
+
+    void set(QLatin1String key, const QString &text) { m_result.geometry.insert(key, text); }
+
+    ItemPlace target(const QRectF &own) const { return {boxOf(m_item).value_or(own), angleOf(m_item)}; }
+
+    void pointsUnder(const QTransform &matrix)
+    {
+        if (m_form.outline == ShapeForm::Derived && m_item.contains(controlKey)) {
+            // Under a matrix of its own a parallelogram would lie flat whichever way it is turned.
+            m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
+            set(matrixKey, identityText);
+            set(controlKey, pointsText(matrix.map(m_outlines(m_item))));
+            return;
+        }
+        copy(matrixKey);
+        if (m_form.outline == ShapeForm::Polyline) {
+            set(pointsKey, pointsText(padded(shapePoints(m_item, m_form, m_outlines))) + QLatin1Char(','));
+        } else {
+            set(controlKey, pointsText(pointsOf(itemNumbers(m_item.value(controlKey)))));
+        }
+    }
+
+    void pointsInBox()
+    {
+        QPolygonF points = shapePoints(m_item, m_form, m_outlines);
+        if (points.isEmpty()) {
+            return;
+        }
+        const auto origin = m_form.outline == ShapeForm::Angle ? createdAt(m_item) : std::nullopt;
+        if (origin) {
+            points.last() = *origin;
+        } else {
+            points = fitted(points, target(extentOf(points)));
+        }
+        m_result.box = extentOf(points);
+        set(matrixKey, identityText);
+        switch (m_form.outline) {
+        case ShapeForm::Polyline:
+            set(pointsKey, pointsText(padded(points)) + QLatin1Char(','));
+            break;
+        case ShapeForm::Angle:
+            angle(points);
+            break;
+        case ShapeForm::Derived:
+            m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
+            Q_FALLTHROUGH();
+        default:
+            set(controlKey, pointsText(points));
+            break;
+        }
+    }
+
+    // A polyline of three points would come back as an angle, one of a single point shows nothing.
+    static QPolygonF padded(QPolygonF points)
+    {
+        if (points.size() == 3 || points.size() == 1) {
+            points.append(points.last());
+        }
+        return points;
+    }
+
+    // The origin is a matrix's, in single precision; the other points are told from where it really is.
+    void angle(const QPolygonF &points)
+    {
+        if (points.size() < 3) {
+            return;
+        }
+        const auto single = [](double value) { return qAbs(value) < 1e-9 ? 0 : double(float(value)); };
+        const QPointF origin(single(points.at(2).x()), single(points.at(2).y()));
+        set(matrixKey,
+            QLatin1String("1,0,0,1,") + QString::number(origin.x(), 'g', 17) + QLatin1Char(',')
+                + QString::number(origin.y(), 'g', 17));
+        set(controlKey, pointsText(QPolygonF() << points.at(0) - origin << points.at(1) - origin));
+    }
+
+    void ellipseUnder(const QTransform &matrix)
+    {
+        copy(matrixKey);
+        const QPolygonF rim = pointsOf(itemNumbers(m_item.value(controlKey)));
+        if (!rim.isEmpty()) {
+            set(controlKey, pointsText(rim));
+        }
+        if (m_form.outline == ShapeForm::Ellipse) {
+            m_result.angle = std::atan2(matrix.m12(), matrix.m11());
+        }
+    }
+
+    void ellipseInBox()
+    {
+        const QPointF origin = createdAt(m_item).value_or(QPointF());
+        const QSizeF radii = ownRadii(m_item, m_form.outline, origin);
+        const QPointF corner(radii.width(), radii.height());
+        const ItemPlace place = target(QRectF(origin - corner, origin + corner));
+        const double rx = place.box.width() / 2;
+        const double ry = place.box.height() / 2;
+        const bool isCircle = m_form.outline == ShapeForm::Circle && qAbs(rx - ry) <= 0.5;
+        if (isCircle) {
+            set(controlKey, exactText((rx + ry) / 2) + QLatin1String(",0"));
+        } else {
+            m_result.form = shapeForm(QStringLiteral("ZQMath2DEllipse"));
+            set(controlKey, exactText(rx) + QLatin1String(",0,0,") + exactText(ry));
+            m_result.angle = place.angle;
+        }
+        set(matrixKey,
+            QLatin1String("1,0,0,1,") + exactText(place.box.center().x()) + QLatin1Char(',')
+                + exactText(place.box.center().y()));
+        m_result.box = place.box;
+    }
+
+    void rectangle(const ItemPlace &place)
+    {
+        m_result.box = place.box;
+        m_result.angle = place.angle;
+        set(matrixKey, identityText);
+        set(boxKey, boxText(place.box));
+        set(controlKey, pointsText(QPolygonF() << place.box.topRight() << place.box.bottomLeft()));
+    }
+
+    void rectangleInBox() { rectangle(target(extentOf(pointsOf(itemNumbers(m_item.value(controlKey)))))); }
+
+    void rectangleUnder(const QTransform &matrix)
+    {
+        const QRectF own = shapeExtent(m_item, m_form, m_outlines);
+        if (scaleAndTurn(matrix)) {
+            rectangle(placeUnder(matrix, own));
+            return;
+        }
+        // A slanted rectangle is a quadrangle.
+        m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
+        set(matrixKey, identityText);
+        set(controlKey, pointsText(withoutRepeatedEnd(matrix.map(QPolygonF(own)))));
+    }
+
+    const QJsonObject m_item;
+    const ShapeForm &m_form;
+    const OutlineSource &m_outlines;
+    PlacedShape m_result;
+};
+
+} // namespace
+
+PlacedShape placeShape(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
+{
+    return ShapePlacer(item, form, outlines).place();
+}
+
+} // namespace lessonhost
