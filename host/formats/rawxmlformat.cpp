@@ -9,7 +9,9 @@
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
+#include "lesson/itemvalues.h"
 #include "lesson/pageplace.h"
+#include "lesson/pagesize.h"
 #include "losses/carriedcheck.h"
 
 #include <QDir>
@@ -17,11 +19,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
-#include <QSize>
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <cmath>
 
 namespace lessonhost {
 
@@ -37,26 +37,6 @@ const QLatin1String netId("NetID");
 // What a raw presentation says in attributes of its own; the plug-in reads none of them.
 constexpr const char *presentationAttributes[] = {"Width",  "Height", "Version",       "Version_app",
                                                   "Author", "Date",   "Date_modified", "Title"};
-
-/*!
- * The size of the page into which items of a slide with this source rectangle are fitted, by the nearest of the usual
- * proportions.
- */
-QSize pageSize(const QString &sourceRect)
-{
-    const QStringList parts = sourceRect.split(QLatin1Char(','));
-    const float ratio = parts.size() < 4 ? 0 : parts.at(2).toFloat() / parts.at(3).toFloat();
-    const float to43 = std::fabs(ratio - 1.3333F);
-    const float to169 = std::fabs(ratio - 1.7777F);
-    const float to1610 = std::fabs(ratio - 1.6F);
-    if (to169 > to43 && to1610 > to43) {
-        return {1440, 1080};
-    }
-    if (to169 <= to43 && to1610 > to169) {
-        return {1920, 1080};
-    }
-    return {1728, 1080};
-}
 
 // Identifiers that the plug-in makes up are new each time.
 QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
@@ -225,7 +205,7 @@ private:
         }
         const QJsonObject slide =
             m_context.plugin->tranSlideXML2JSON(m_slides.first().cloneNode(false).toElement(), context());
-        const QSize size = pageSize(slide.value(QLatin1String("SlideSourceRect")).toString());
+        const QSize size = pageOfSourceRect(valueText(slide.value(SlideKeys::sourceRect)));
         m_presentation.insert(width, QString::number(size.width()));
         m_presentation.insert(height, QString::number(size.height()));
     }

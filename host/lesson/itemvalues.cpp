@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 namespace lessonhost {
 
@@ -25,11 +26,20 @@ bool isColorObject(const QJsonObject &object)
                        [](const QJsonValue &value) { return value.isDouble(); });
 }
 
-QString colorObjectText(const QJsonObject &color)
+// 0 for what is no number.
+int channel(double value)
 {
-    const int solid = color.value(solidKey).toInt();
-    const int alpha = qRound(color.value(alphaKey).toDouble(1.0) * 255.0);
-    return QStringLiteral("%1,%2,%3,%4").arg(alpha).arg((solid >> 16) & 255).arg((solid >> 8) & 255).arg(solid & 255);
+    return value > 0 ? qRound(qMin(value, 255.0)) : 0;
+}
+
+QColor colorOfObject(const QJsonObject &object)
+{
+    const double largest = std::numeric_limits<quint32>::max();
+    const double solid = itemNumber(object.value(solidKey));
+    // Numbers with the sign bit of an alpha are negative where 32 bits hold them.
+    QColor color(QRgb(qint64(qBound(-largest, solid, largest))));
+    color.setAlpha(channel(itemNumber(object.value(alphaKey), 1) * 255));
+    return color;
 }
 
 bool isNumberArray(const QJsonArray &array)
@@ -73,7 +83,7 @@ QString valueText(const QJsonValue &value)
         if (object.isEmpty()) {
             return QLatin1String("");
         }
-        return isColorObject(object) ? colorObjectText(object) : QString();
+        return isColorObject(object) ? colorText(colorOfObject(object)) : QString();
     }
     default:
         return QLatin1String("");
@@ -109,24 +119,41 @@ std::optional<QColor> itemColor(const QJsonValue &value)
 {
     if (value.isObject()) {
         const QJsonObject object = value.toObject();
-        if (!object.contains(QLatin1String("Solid"))) {
-            return std::nullopt;
-        }
-        QColor color(QRgb(object.value(QLatin1String("Solid")).toInt()));
-        color.setAlphaF(qBound(0.0, object.value(QLatin1String("Alpha")).toDouble(1), 1.0));
-        return color;
+        return object.contains(solidKey) ? std::optional<QColor>(colorOfObject(object)) : std::nullopt;
     }
-    const QString text = value.toString().trimmed();
+    const QString text = valueText(value).trimmed();
     const QStringList parts = text.split(QLatin1Char(','));
-    const auto channel = [&parts](int i) { return qBound(0, qRound(parts.at(i).toDouble()), 255); };
+    const auto part = [&parts](int i) { return channel(parts.at(i).toDouble()); };
     if (parts.size() == 4) {
-        return QColor(channel(1), channel(2), channel(3), channel(0));
+        return QColor(part(1), part(2), part(3), part(0));
     }
     if (parts.size() == 3) {
-        return QColor(channel(0), channel(1), channel(2));
+        return QColor(part(0), part(1), part(2));
     }
     const QColor named(text);
     return named.isValid() ? std::optional<QColor>(named) : std::nullopt;
+}
+
+bool isEmptyValue(const QJsonValue &value)
+{
+    const QString text = valueText(value);
+    return text.isEmpty() && !text.isNull();
+}
+
+bool itemFlag(const QJsonValue &value, bool missing)
+{
+    if (value.isBool()) {
+        return value.toBool();
+    }
+    return isEmptyValue(value) ? missing : valueText(value).toInt() != 0;
+}
+
+double itemNumber(const QJsonValue &value, double missing)
+{
+    const double number = value.isDouble() ? value.toDouble()
+        : isEmptyValue(value)              ? missing
+                                           : valueText(value).toDouble();
+    return qIsFinite(number) ? number : 0;
 }
 
 QVector<double> itemNumbers(const QJsonValue &value)
@@ -136,11 +163,11 @@ QVector<double> itemNumbers(const QJsonValue &value)
         const QJsonArray array = value.toArray();
         numbers.reserve(array.size());
         for (const QJsonValue &number : array) {
-            numbers.append(number.isDouble() ? number.toDouble() : number.toString().toDouble());
+            numbers.append(itemNumber(number));
         }
         return numbers;
     }
-    const QString text = value.toString();
+    const QString text = valueText(value);
     if (text.trimmed().isEmpty()) {
         return numbers;
     }
@@ -184,9 +211,9 @@ QString boxText(const QRectF &box)
         + QLatin1Char(',') + exactText(box.bottom());
 }
 
-std::optional<QTransform> transformOfText(const QString &text)
+std::optional<QTransform> itemTransform(const QJsonValue &value)
 {
-    const QVector<double> n = itemNumbers(text);
+    const QVector<double> n = itemNumbers(value);
     if (n.size() < 6) {
         return std::nullopt;
     }
