@@ -1,5 +1,6 @@
 #include "formats/zqtxitems.h"
 #include "hostfixture.h"
+#include "lesson/fontvalues.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/pagesize.h"
@@ -197,6 +198,19 @@ private slots:
         const ItemView view(item);
         QTEST(view.flag(QLatin1String("v"), true), "flag");
         QTEST(view.number(QLatin1String("v"), 7), "number");
+    }
+
+    void knowsFontsByTheirNames()
+    {
+        QCOMPARE(fontWeight("700"), fontWeight("bold"));
+        QCOMPARE(fontWeight("650"), fontWeight("600"));
+        QCOMPARE(fontWeight("lighter"), fontWeight("normal"));
+        QCOMPARE(textAlignment("middle"), Qt::AlignHCenter);
+        QCOMPARE(textAlignment("right"), textAlignment("end"));
+        for (const int weight : {300, 400, 600, 700}) {
+            const QString text = QString::number(weight);
+            QCOMPARE(fontWeight(fontWeightText(fontWeight(text))), fontWeight(text));
+        }
     }
 
     // An outer group is hidden, one in it locked and linked.

@@ -1,6 +1,7 @@
 #include "command/lessoninfo.h"
 
 #include "files/packagenames.h"
+#include "lesson/isoneof.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/plainnames.h"
@@ -26,11 +27,6 @@ const QLatin1String activityKey("activity");
 
 constexpr const char *cardTypes[] = {"General:everCard", "ZQActivityFlipItem", "ZQLiteraturePinyin",
                                      "ZQLiteratureHanzibihua", "ZQChineseCharacterItem"};
-
-bool isOneOf(const QString &text, const char *const *begin, const char *const *end)
-{
-    return std::any_of(begin, end, [&text](const char *row) { return text == QLatin1String(row); });
-}
 
 int nodeCount(const QJsonObject &node)
 {
@@ -85,7 +81,7 @@ private:
             ++m_info.items[type];
             if (type == QLatin1String("ZQQuestionItem")) {
                 ++m_info.questions;
-            } else if (isOneOf(type, std::begin(cardTypes), std::end(cardTypes))) {
+            } else if (isOneOf(cardTypes, type)) {
                 ++m_info.cards;
             }
             const QJsonArray map = item.value(QLatin1String("mindMapData")).toArray();
@@ -108,7 +104,7 @@ private:
         }
         const QJsonObject object = value.toObject();
         for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
-            if (isOneOf(it.key(), std::begin(fileKeys), std::end(fileKeys))) {
+            if (isOneOf(fileKeys, it.key())) {
                 collectFile(it.value());
             } else if (it.key() != HostKeys::children && it.key() != activityKey && !it.value().isString()) {
                 collectFiles(it.value());
@@ -249,7 +245,7 @@ QJsonObject LessonInfo::toJson() const
     };
 }
 
-LessonInfo lessonInfo(LessonReader &reader, const std::function<void(int, int)> &progress)
+LessonInfo lessonInfo(LessonReader &reader, const Progress &progress)
 {
     LessonInfo info;
     const QJsonObject presentation = reader.presentation();

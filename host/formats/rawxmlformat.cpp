@@ -4,7 +4,7 @@
 #include "files/lessonerror.h"
 #include "files/packagesource.h"
 #include "files/xmlloader.h"
-#include "files/xmltext.h"
+#include "formats/keptitem.h"
 #include "formats/rawattributes.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
@@ -225,7 +225,7 @@ private:
             for (const QDomElement &son : qAsConst(nested)) {
                 sons.appendChild(son);
             }
-            return keptItem(element);
+            return keptItem(element, element.tagName(), netId);
         }
         if (check) {
             check->examine(element.tagName(), item.value(idKey).toString(), untouched,
@@ -253,15 +253,6 @@ private:
         QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
         if (!item.isEmpty()) {
             m_attributes.addTo(item, element);
-        }
-        return item;
-    }
-
-    static QJsonObject keptItem(const QDomElement &element)
-    {
-        QJsonObject item{{QStringLiteral("Type"), element.tagName()}, {HostKeys::keptXml, xmlNodeText(element)}};
-        if (element.hasAttribute(netId)) {
-            item.insert(idKey, element.attribute(netId));
         }
         return item;
     }

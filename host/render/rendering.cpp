@@ -20,8 +20,6 @@ namespace lessonhost {
 
 namespace {
 
-using Progress = std::function<void(int done, int total)>;
-
 constexpr int largestSide = 16384;
 constexpr double pointsPerPixel = 0.75;
 
