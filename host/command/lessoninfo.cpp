@@ -53,11 +53,8 @@ public:
         }
         const QString script = slide.properties.value(QLatin1String("objAnimationData")).toString();
         m_info.triggers += QJsonDocument::fromJson(script.toUtf8()).object().size();
-        m_info.animatedItems += slide.properties.value(QLatin1String("animations"))
-                                    .toObject()
-                                    .value(QLatin1String("animation"))
-                                    .toArray()
-                                    .size();
+        m_info.animatedItems +=
+            slide.properties.value(ItemKeys::animations).toObject().value(QLatin1String("animation")).toArray().size();
         countItems(slide.items);
     }
 
@@ -73,7 +70,7 @@ private:
     {
         for (const QJsonValue &value : items) {
             const QJsonObject item = value.toObject();
-            const QString type = item.value(QLatin1String("Type")).toString();
+            const QString type = valueText(item.value(ItemKeys::type));
             if (item.contains(HostKeys::keptXml)) {
                 ++m_info.unknownItems[type];
                 continue;
@@ -84,7 +81,7 @@ private:
             } else if (isOneOf(cardTypes, type)) {
                 ++m_info.cards;
             }
-            const QJsonArray map = item.value(QLatin1String("mindMapData")).toArray();
+            const QJsonArray map = item.value(ItemKeys::mindMap).toArray();
             if (map.size() >= 3) {
                 m_info.mindMapNodes += nodeCount(map.at(2).toObject());
             }

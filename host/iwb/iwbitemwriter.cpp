@@ -225,11 +225,11 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         const QString content = view.text(ItemKeys::textContent);
         text = textRunsFromPlainText(plain.isEmpty() ? content : plain);
         if (!plain.isEmpty() && !content.isEmpty() && plain != content) {
-            report(item, Loss::Value, QStringLiteral("TextContent"), {});
+            report(item, Loss::Value, ItemKeys::textContent, {});
         }
     }
     for (const QString &loss : qAsConst(text.losses)) {
-        report(item, Loss::Value, QStringLiteral("TextHtml"), loss);
+        report(item, Loss::Value, ItemKeys::html, loss);
     }
     QJsonObject prepared = commonKeys(item);
     const auto place = view.place();
