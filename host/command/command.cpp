@@ -4,6 +4,7 @@
 #include "command/lessoninfo.h"
 #include "command/pluginhost.h"
 #include "command/progressbar.h"
+#include "command/terminal.h"
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
@@ -15,7 +16,6 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QLoggingCategory>
-#include <QTextStream>
 #include <QThread>
 
 namespace lessonhost {
@@ -26,17 +26,6 @@ enum ExitCode { Done = 0, DoneWithLosses = 1, NotDone = 2 };
 
 constexpr int mostJobs = 256;
 constexpr int mostSeconds = 24 * 60 * 60;
-
-// Names come from files of strangers; what they hold must not move a terminal's cursor.
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control && c != QLatin1Char('\n')) {
-            c = QChar::ReplacementCharacter;
-        }
-    }
-    return text;
-}
 
 QCommandLineOption option(const char *name, const char *description, const char *value = nullptr)
 {
@@ -67,11 +56,6 @@ The lesson that is read is never changed. What the other format can't hold is
 named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
 2 not done.)";
 
-void printJson(const QJsonObject &object)
-{
-    print(QString::fromUtf8(QJsonDocument(object).toJson()));
-}
-
 void writeReport(const QString &path, const QJsonObject &report)
 {
     PackageTarget target(path);
@@ -84,16 +68,6 @@ void writeReport(const QString &path, const QJsonObject &report)
 }
 
 } // namespace
-
-void print(const QString &text)
-{
-    QTextStream(stdout) << printable(text);
-}
-
-void complain(const QString &text)
-{
-    QTextStream(stderr) << "lessonconv: " << printable(text) << '\n';
-}
 
 Command::Command(const QStringList &arguments)
 {

@@ -11,12 +11,6 @@ struct LessonFormat;
 class LossReport;
 class PluginHost;
 
-//! On standard output; what would move a terminal's cursor is replaced.
-void print(const QString &text);
-
-//! On standard error, as a sentence of the command.
-void complain(const QString &text);
-
 /*!
  * The command: its options, and what each of its words does.
  */
