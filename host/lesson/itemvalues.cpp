@@ -171,12 +171,15 @@ QVector<double> itemNumbers(const QJsonValue &value)
     if (text.trimmed().isEmpty()) {
         return numbers;
     }
-    const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
-    numbers.reserve(parts.size());
-    for (const QStringRef &part : parts) {
-        const double number = part.trimmed().toDouble();
+    // One after the other: a list of the parts would take more memory than the numbers.
+    numbers.reserve(text.count(QLatin1Char(',')) + 1);
+    int end = -1;
+    do {
+        const int begin = end + 1;
+        end = text.indexOf(QLatin1Char(','), begin);
+        const double number = text.midRef(begin, end < 0 ? -1 : end - begin).trimmed().toDouble();
         numbers.append(qIsFinite(number) ? number : 0);
-    }
+    } while (end >= 0);
     return numbers;
 }
 
@@ -197,12 +200,12 @@ QString exactText(double value)
 
 QString pointsText(const QPolygonF &points)
 {
-    QStringList numbers;
-    numbers.reserve(points.size() * 2);
+    QString text;
     for (const QPointF &point : points) {
-        numbers << exactText(point.x()) << exactText(point.y());
+        text += (text.isEmpty() ? QLatin1String() : QLatin1String(",")) + exactText(point.x()) + QLatin1Char(',')
+            + exactText(point.y());
     }
-    return numbers.join(QLatin1Char(','));
+    return text;
 }
 
 QString boxText(const QRectF &box)
