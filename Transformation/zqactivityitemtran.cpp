@@ -219,12 +219,9 @@ QJsonObject ZQActivityItemTran::tranZQTX2JSON(QDomElement element, QJsonObject j
     return json;
 }
 
-QDomElement ZQActivityItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQActivityItemTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        element = activityElement(itemType == flipCard, json);
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    return activityElement(itemType == flipCard, json);
 }
 
 QDomElement ZQActivityItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)

@@ -29,11 +29,12 @@ public:
     //! Reads "back" and "front" of the attachments, not "error".
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
-    //! The texts of "attachments" go into a new element as they stand; where one breaks the XML, the rest is missing.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
-
     QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    //! The texts of "attachments" go into a new element as they stand; where one breaks the XML, the rest is missing.
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQACTIVITYITEMTRAN_H

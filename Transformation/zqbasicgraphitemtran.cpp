@@ -82,14 +82,11 @@ QStringList ZQBasicGraphItemTran::types()
     return vocabulary().types();
 }
 
-QDomElement ZQBasicGraphItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQBasicGraphItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate graph(
-            QStringLiteral(R"(<basicgraph id="" visible="1" locked="0" uclone="0"  type="basicgraph">)"
-                           R"(<transform><rotate angle="0"/></transform><data><rect points="" controlpoints="" />)"
-                           R"(<content text="" type="html"/></data></basicgraph>)"));
-        element = graph.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate graph(
+        QStringLiteral(R"(<basicgraph id="" visible="1" locked="0" uclone="0"  type="basicgraph">)"
+                       R"(<transform><rotate angle="0"/></transform><data><rect points="" controlpoints="" />)"
+                       R"(<content text="" type="html"/></data></basicgraph>)"));
+    return graph.instance();
 }

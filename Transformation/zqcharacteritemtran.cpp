@@ -44,15 +44,12 @@ QString ZQCharacterItemTran::fromTxType(const QString &type)
     return typePairs().fromTxType(type);
 }
 
-QDomElement ZQCharacterItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQCharacterItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate item(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<character visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><rect points="" controlpoints=""/></data></character>)"));
-        element = item.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate item(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<character visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><rect points="" controlpoints=""/></data></character>)"));
+    return item.instance();
 }

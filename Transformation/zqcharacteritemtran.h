@@ -17,7 +17,8 @@ public:
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQCHARACTERITEMTRAN_H

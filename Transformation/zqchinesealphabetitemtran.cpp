@@ -58,16 +58,13 @@ QJsonObject ZQChineseAlphabetItemTran::tranIWB2JSON(QDomElement, QJsonObject jso
     return json;
 }
 
-QDomElement ZQChineseAlphabetItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQChineseAlphabetItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate item(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<pinyin_item visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<background><picture document=""/></background>)"
-                           R"(<data><rect points="" controlpoints=""/><content/></data></pinyin_item>)"));
-        element = item.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate item(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<pinyin_item visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<background><picture document=""/></background>)"
+                       R"(<data><rect points="" controlpoints=""/><content/></data></pinyin_item>)"));
+    return item.instance();
 }

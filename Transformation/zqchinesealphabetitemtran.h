@@ -17,9 +17,11 @@ public:
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
     QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQCHINESEALPHABETITEMTRAN_H

@@ -195,7 +195,7 @@ QJsonObject ZQComItemControlTran::tranZQTX2JSON(QDomElement element, QJsonObject
 
 QDomElement ZQComItemControlTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
-    element = ZQHTran::tranJSON2ZQTX(element, json, context);
+    element = ZQHTran::tranJSON2ZQTX(element.isNull() ? newTxElement(json) : element, json, context);
     writeItemAnimations(element, json);
     return element;
 }
@@ -274,6 +274,11 @@ void ZQComItemControlTran::storeRawText(const QString &key, const QString &text,
     } else {
         json.insert(key, text);
     }
+}
+
+QDomElement ZQComItemControlTran::newTxElement(const QJsonObject &) const
+{
+    return {};
 }
 
 int ZQComItemControlTran::lessonVersion(const QJsonObject &context)

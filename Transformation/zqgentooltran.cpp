@@ -67,20 +67,14 @@ QStringList ZQGenToolTran::types()
     return vocabulary().types();
 }
 
-QDomElement ZQGenToolTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQGenToolTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const QHash<QString, ElementTemplate> templates = [] {
-            QHash<QString, ElementTemplate> made;
-            for (const QString &type : vocabulary().types()) {
-                made.insert(type, ElementTemplate(ZQGenToolTran(type).templateText()));
-            }
-            return made;
-        }();
-        const auto found = templates.constFind(itemType);
-        element = found != templates.constEnd() ? found->instance() : elementFromXml(templateText());
+    static QHash<QString, ElementTemplate> templates;
+    auto found = templates.find(itemType);
+    if (found == templates.end()) {
+        found = templates.insert(itemType, ElementTemplate(templateText()));
     }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    return found->instance();
 }
 
 // The key map says it all: each element in <data> that a path leads through, with an empty attribute for each of its

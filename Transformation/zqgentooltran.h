@@ -21,7 +21,8 @@ public:
     //! The types that the family's table names.
     static QStringList types();
 
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 
 private:
     QString templateText() const;

@@ -62,13 +62,9 @@ QJsonObject ZQGroupItemTran::tranZQTX2JSON(QDomElement element, QJsonObject json
     return json;
 }
 
-QDomElement ZQGroupItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQGroupItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate group(
-            QStringLiteral(R"(<group><transform><rotate angle="0"/></transform><element/>)"
-                           R"(<data><rect points=""/></data></group>)"));
-        element = group.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate group(QStringLiteral(R"(<group><transform><rotate angle="0"/></transform><element/>)"
+                                                      R"(<data><rect points=""/></data></group>)"));
+    return group.instance();
 }

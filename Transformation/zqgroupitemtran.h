@@ -18,7 +18,9 @@ public:
     //! Children come out in the reverse of their order in the document.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQGROUPITEMTRAN_H

@@ -83,15 +83,12 @@ QJsonObject ZQLiteratureTran::tranXML2JSON(QDomElement element, QJsonObject json
     return json;
 }
 
-QDomElement ZQLiteratureTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQLiteratureTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate discipline(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
-                           R"(<properties><property value="" name=""/></properties>)"
-                           R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
-        element = discipline.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate discipline(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
+                       R"(<properties><property value="" name=""/></properties>)"
+                       R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
+    return discipline.instance();
 }

@@ -27,7 +27,9 @@ public:
 
     //! An empty object for the pinyin card and the stroke order, which have no raw form.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQLITERATURETRAN_H

@@ -95,15 +95,11 @@ QJsonObject ZQMathSubjectTran::tranZQTX2JSON(QDomElement element, QJsonObject js
     return json;
 }
 
-QDomElement ZQMathSubjectTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQMathSubjectTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        if (itemType == coursewareType) {
-            element = coursewareElement(json.value(documentKey));
-        } else {
-            static const ElementTemplate formula(itemText(QStringLiteral("mathformula"), {}));
-            element = formula.instance();
-        }
+    if (itemType == coursewareType) {
+        return coursewareElement(json.value(documentKey));
     }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate formula(itemText(QStringLiteral("mathformula"), {}));
+    return formula.instance();
 }

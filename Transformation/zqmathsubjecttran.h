@@ -25,8 +25,9 @@ public:
 
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
+protected:
     //! References go into a new element as they stand. One that breaks the XML gives a null element.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQMATHSUBJECTTRAN_H

@@ -159,17 +159,14 @@ QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json,
     return json;
 }
 
-QDomElement ZQMediaItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQMediaItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate media(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<media visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><rect points="" controlpoints="" outlinetype=""/></data></media>)"));
-        element = media.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate media(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<media visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><rect points="" controlpoints="" outlinetype=""/></data></media>)"));
+    return media.instance();
 }
 
 QDomElement ZQMediaItemTran::tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context)

@@ -25,7 +25,6 @@ public:
 
     //! MultiMediaFile becomes a list of paths between commas; a scale above 1 is folded into the box.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 
     //! A new svg element, and the file AbsMediaFile copied below the directory tmpFilePath. A document has no svg
     //! form: the element comes back as it was.
@@ -33,6 +32,9 @@ public:
 
     //! Copies the file below path (with one separator at its end) into filelibrary/ beside that directory.
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQMEDIAITEMTRAN_H

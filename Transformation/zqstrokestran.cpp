@@ -191,16 +191,12 @@ QJsonObject ZQStrokesTran::tranZQTX2JSON(QDomElement element, QJsonObject json, 
     return json;
 }
 
-QDomElement ZQStrokesTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQStrokesTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate formula(
-            QStringLiteral(R"(<group><element/><data><rect points=""/></data></group>)"));
-        static const ElementTemplate stroke(
-            QStringLiteral(R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
-        element = (isFormula(writtenType(json)) ? formula : stroke).instance();
-    }
-    return ZQInkStrokeTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate formula(QStringLiteral(R"(<group><element/><data><rect points=""/></data></group>)"));
+    static const ElementTemplate stroke(
+        QStringLiteral(R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
+    return (isFormula(writtenType(json)) ? formula : stroke).instance();
 }

@@ -26,8 +26,9 @@ public:
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
+protected:
     //! Children of a formula stroke are not written: the host puts them into <data>.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQSTROKESTRAN_H

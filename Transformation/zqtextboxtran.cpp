@@ -99,15 +99,12 @@ QJsonObject ZQTextBoxTran::tranXML2JSON(QDomElement element, QJsonObject json, Q
     return ZQComItemControlTran::tranXML2JSON(element, json, context);
 }
 
-QDomElement ZQTextBoxTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQTextBoxTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate text(QStringLiteral(
-            R"(<text id="" visible="1" locked="0" uclone="0" type="Text"><transform><rotate angle="0"/></transform>)"
-            R"(<data><content text="" type="html"/><rect points="" controlpoints=""/></data></text>)"));
-        element = text.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate text(QStringLiteral(
+        R"(<text id="" visible="1" locked="0" uclone="0" type="Text"><transform><rotate angle="0"/></transform>)"
+        R"(<data><content text="" type="html"/><rect points="" controlpoints=""/></data></text>)"));
+    return text.instance();
 }
 
 QDomElement ZQTextBoxTran::tranJSON2IWB(QDomElement, QJsonObject json, QJsonObject context)

@@ -24,7 +24,6 @@ public:
     static QStringList types();
 
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 
     //! A new svg:textarea. The list under "IWB_TEXTINFO-VECTOR" is written and then destroyed by the function under
     //! "IWB_TEXTINFO-DELVECTOR"; without that function it stays alive.
@@ -33,6 +32,9 @@ public:
     //! Puts a new list into the object, first the run of the svg:textarea itself, then one for each child element. The
     //! caller owns the list.
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 
 private:
     static void readTextInfo(const QDomElement &element, IwbTextInfoList &list);
