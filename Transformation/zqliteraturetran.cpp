@@ -15,7 +15,7 @@ const FamilyVocabulary &vocabulary()
             {{"ZQLiteraturePinyin"},
              {attributes({"ArtObj_DispHanzi", "ArtObj_HZcolor", "ArtObj_Pinyin", "ArtObj_Hanzi", "ArtObj_Color",
                           "DispGrid", "Discipline_xControl0", "Discipline_yControl0"}),
-              attribute("ArtObj_HZFont", "[ArtObj_HZFont]"), attribute("ArtObj_Font", "[ArtObj_Font]")},
+              attributesOf("ArtObj_HZFont"), attributesOf("ArtObj_Font")},
              {attribute("DispGrid"), property("ChineseWord", "Chinese word")}},
             {{"ZQLiteratureHanzibihua"}, attribute("ArtObj_HZ"), property("ChineseWord", "Chinese word")},
             {{"ZQLiteratureYinbiao"},

@@ -18,7 +18,7 @@ const FamilyVocabulary &vocabulary()
     };
     static const FamilyVocabulary table(
         {{},
-         {attribute("PixelDeleteInfos", "<PixelDeleteInfos>")},
+         {attributesOfChildren("PixelDeleteInfos")},
          {attribute("resource"), path("PixelDeleteInfos", "element", "property", "pixelDeleteInfos"),
           path("XY", "data", "vertex", "points"), attribute("Width", "width"), attribute("Opacity", "opacity"),
           attribute("Color", "color"), childAttribute("DrawTexture", "element", "href"),
