@@ -2,6 +2,7 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "links.h"
 #include "nesteditems.h"
 #include "numbertext.h"
 #include "transformationplugin.h"
@@ -131,12 +132,6 @@ QJsonObject newFittedItem()
     item.insert(matrixKey, QString());
     item.insert(slideMatrixKey, QString());
     return item;
-}
-
-bool isAcceptedLink(const QString &kind)
-{
-    return kind == QLatin1String("ACTION_OPENFILE") || kind == QLatin1String("ACTION_OPENWEB")
-        || kind == QLatin1String("ACTION_GOTOSLIDE");
 }
 
 // Whether an attribute of the script may be the id. A script can be long and most items have no part in it, so it is
@@ -356,7 +351,7 @@ void ZQComItemControlTran::readLink(QJsonObject &json, const QJsonObject &slide)
                 continue;
             }
             const QString kind = descendantByTag(tag, QStringLiteral("interactiveType")).attribute(valueAttribute);
-            if (isAcceptedLink(kind)) {
+            if (mayStandInTags(kind)) {
                 const QDomElement reservation = descendantByTag(tag, QStringLiteral("reservation"));
                 json.insert(QLatin1String("InteractiveType"), kind);
                 json.insert(QLatin1String("InteractiveValue"), reservation.attribute(valueAttribute));
