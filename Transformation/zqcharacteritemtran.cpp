@@ -1,7 +1,6 @@
 #include "zqcharacteritemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
@@ -14,13 +13,13 @@ const KeyPaths &txPaths()
     return paths;
 }
 
-const TypePairs &typePairs()
+} // namespace
+
+const TypePairs &ZQCharacterItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQChineseCharacterItem", "character"}};
     return pairs;
 }
-
-} // namespace
 
 ZQCharacterItemTran::ZQCharacterItemTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -32,16 +31,6 @@ ZQCharacterItemTran::ZQCharacterItemTran(const QString &type)
 std::unique_ptr<ZQHTran> ZQCharacterItemTran::create(const QString &type)
 {
     return type == QLatin1String("ZQChineseCharacterItem") ? std::make_unique<ZQCharacterItemTran>(type) : nullptr;
-}
-
-QString ZQCharacterItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQCharacterItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QDomElement ZQCharacterItemTran::newTxElement(const QJsonObject &) const

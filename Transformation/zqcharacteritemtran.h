@@ -1,6 +1,7 @@
 #ifndef ZQCHARACTERITEMTRAN_H
 #define ZQCHARACTERITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
 
 #include <memory>
@@ -8,14 +9,14 @@
 /*!
  * The card of a Chinese character: the character, its pinyin and how it is shown.
  */
-class ZQCharacterItemTran : public ZQComItemControlTran
+class ZQCharacterItemTran : public ZQComItemControlTran, public PairedTypes<ZQCharacterItemTran>
 {
 public:
     explicit ZQCharacterItemTran(const QString &type);
 
+    static const TypePairs &typePairs();
+
     static std::unique_ptr<ZQHTran> create(const QString &type);
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
 
 protected:
     QDomElement newTxElement(const QJsonObject &json) const override;

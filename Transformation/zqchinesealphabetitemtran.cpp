@@ -1,7 +1,6 @@
 #include "zqchinesealphabetitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
@@ -17,13 +16,13 @@ const KeyPaths &txPaths()
     return paths;
 }
 
-const TypePairs &typePairs()
+} // namespace
+
+const TypePairs &ZQChineseAlphabetItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQChineseAlphabetItem", "ZQChineseAlphabetItem"}};
     return pairs;
 }
-
-} // namespace
 
 ZQChineseAlphabetItemTran::ZQChineseAlphabetItemTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -36,16 +35,6 @@ ZQChineseAlphabetItemTran::ZQChineseAlphabetItemTran(const QString &type)
 std::unique_ptr<ZQHTran> ZQChineseAlphabetItemTran::create(const QString &type)
 {
     return type == QLatin1String("ZQChineseAlphabetItem") ? std::make_unique<ZQChineseAlphabetItemTran>(type) : nullptr;
-}
-
-QString ZQChineseAlphabetItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQChineseAlphabetItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QDomElement ZQChineseAlphabetItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)

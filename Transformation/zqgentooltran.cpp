@@ -1,7 +1,6 @@
 #include "zqgentooltran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 #include <QHash>
 #include <QMap>
@@ -19,7 +18,9 @@ KeyPaths inElement(const char *key)
     return inElement(key, key);
 }
 
-const FamilyVocabulary &vocabulary()
+} // namespace
+
+const FamilyVocabulary &ZQGenToolTran::vocabulary()
 {
     static const KeyPaths placedInstrument = {inElement("Translate_X"), inElement("Translate_Y"),
                                               inElement("RotateAngle")};
@@ -49,22 +50,10 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-} // namespace
-
 ZQGenToolTran::ZQGenToolTran(const QString &type)
     : ZQComItemControlTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQGenToolTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQGenToolTran>(type) : nullptr;
-}
-
-QStringList ZQGenToolTran::types()
-{
-    return vocabulary().types();
 }
 
 QDomElement ZQGenToolTran::newTxElement(const QJsonObject &) const

@@ -1,17 +1,16 @@
 #include "zqgroupitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "nesteditems.h"
 #include "translatorchains.h"
 
-namespace {
-
-const TypePairs &typePairs()
+const TypePairs &ZQGroupItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQGroupItem", "group"}};
     return pairs;
 }
+
+namespace {
 
 const KeyPaths &txPaths()
 {
@@ -26,16 +25,6 @@ ZQGroupItemTran::ZQGroupItemTran(const QString &type)
 {
     static const KeyMaps maps = keyMaps().with({}, txPaths());
     setKeyMaps(maps);
-}
-
-QString ZQGroupItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQGroupItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQGroupItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

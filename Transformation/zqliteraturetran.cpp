@@ -1,11 +1,8 @@
 #include "zqliteraturetran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQLiteratureTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {{},
@@ -28,7 +25,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQLiteratureTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQLiteraturePinyin", "Chinese:pinyin"},
@@ -37,8 +34,6 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
-
-} // namespace
 
 ZQLiteratureTran::ZQLiteratureTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -52,21 +47,6 @@ std::unique_ptr<ZQHTran> ZQLiteratureTran::create(const QString &type)
 {
     const bool known = vocabulary().contains(type) || !fromTxType(type).isEmpty();
     return known ? std::make_unique<ZQLiteratureTran>(type) : nullptr;
-}
-
-QStringList ZQLiteratureTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQLiteratureTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQLiteratureTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQLiteratureTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

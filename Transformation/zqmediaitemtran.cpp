@@ -1,16 +1,13 @@
 #include "zqmediaitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 #include "packagefiles.h"
 #include "xmlplaces.h"
 
 #include <QFileInfo>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQMediaItemTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {},
@@ -48,7 +45,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQMediaItemTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQImagePic", "image"},   {"ZQMediaFlash", "flash"},  {"ZQMediaAudio", "audio"},
@@ -56,6 +53,8 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
+
+namespace {
 
 // What a type becomes in IWB: its element, and the directory of its files in the package.
 struct IwbForm
@@ -120,26 +119,6 @@ ZQMediaItemTran::ZQMediaItemTran(const QString &type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
     foldsMatrixIntoBox = true;
-}
-
-std::unique_ptr<ZQHTran> ZQMediaItemTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQMediaItemTran>(type) : nullptr;
-}
-
-QStringList ZQMediaItemTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQMediaItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQMediaItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

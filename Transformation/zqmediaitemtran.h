@@ -1,27 +1,22 @@
 #ifndef ZQMEDIAITEMTRAN_H
 #define ZQMEDIAITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * Items that point to a file: pictures, Flash movies, audio, video and documents. On the way to and from IWB it copies
  * the file into the package of the target and rewrites the reference. A failed copy isn't reported.
  */
-class ZQMediaItemTran : public ZQComItemControlTran
+class ZQMediaItemTran : public ZQComItemControlTran,
+                        public ItemFamily<ZQMediaItemTran>,
+                        public PairedTypes<ZQMediaItemTran>
 {
 public:
     explicit ZQMediaItemTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
+    static const FamilyVocabulary &vocabulary();
+    static const TypePairs &typePairs();
 
     //! MultiMediaFile becomes a list of paths between commas; a scale above 1 is folded into the box.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;

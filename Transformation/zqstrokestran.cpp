@@ -1,15 +1,12 @@
 #include "zqstrokestran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 
 #include <QColor>
 #include <QJsonDocument>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQStrokesTran::vocabulary()
 {
     static const KeyPaths pointRows = {
         path("Weight", "data", "weight", "points"),
@@ -38,7 +35,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQStrokesTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQSmoothStroke", "Curve"},
@@ -54,6 +51,8 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
+
+namespace {
 
 bool isFormula(const QString &type)
 {
@@ -119,26 +118,6 @@ ZQStrokesTran::ZQStrokesTran(const QString &type)
     : ZQInkStrokeTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQStrokesTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQStrokesTran>(type) : nullptr;
-}
-
-QStringList ZQStrokesTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQStrokesTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQStrokesTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQStrokesTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

@@ -1,14 +1,11 @@
 #include "zqtextboxtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 
 #include <QLineF>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQTextBoxTran::vocabulary()
 {
     static const FamilyVocabulary table({},
                                         {
@@ -31,6 +28,8 @@ const FamilyVocabulary &vocabulary()
                                         });
     return table;
 }
+
+namespace {
 
 // The attributes of a run of text, in the order in which they are written.
 struct RunAttribute
@@ -82,16 +81,6 @@ ZQTextBoxTran::ZQTextBoxTran(const QString &type)
     : ZQComItemControlTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQTextBoxTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQTextBoxTran>(type) : nullptr;
-}
-
-QStringList ZQTextBoxTran::types()
-{
-    return vocabulary().types();
 }
 
 QJsonObject ZQTextBoxTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

@@ -1,27 +1,21 @@
 #ifndef ZQTEXTBOXTRAN_H
 #define ZQTEXTBOXTRAN_H
 
+#include "itemfamily.h"
 #include "iwbtextinfo.h"
 #include "zqcomitemcontroltran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * The text board. Its rich text is one HTML string, never looked into here. In IWB it is an svg:textarea with an
  * svg:tspan for each run of text; the runs travel as a list in memory, whose address stands in the JSON in decimal
  * text.
  */
-class ZQTextBoxTran : public ZQComItemControlTran
+class ZQTextBoxTran : public ZQComItemControlTran, public ItemFamily<ZQTextBoxTran>
 {
 public:
     explicit ZQTextBoxTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
+    static const FamilyVocabulary &vocabulary();
 
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 

@@ -1,7 +1,6 @@
 #include "zqwordlatticeitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
@@ -15,13 +14,13 @@ const KeyPaths &txPaths()
     return paths;
 }
 
-const TypePairs &typePairs()
+} // namespace
+
+const TypePairs &ZQWordLatticeItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQWordLatticeItem", "wordlattice"}};
     return pairs;
 }
-
-} // namespace
 
 ZQWordLatticeItemTran::ZQWordLatticeItemTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -33,16 +32,6 @@ ZQWordLatticeItemTran::ZQWordLatticeItemTran(const QString &type)
 std::unique_ptr<ZQHTran> ZQWordLatticeItemTran::create(const QString &type)
 {
     return type == QLatin1String("ZQWordLatticeItem") ? std::make_unique<ZQWordLatticeItemTran>(type) : nullptr;
-}
-
-QString ZQWordLatticeItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQWordLatticeItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QDomElement ZQWordLatticeItemTran::newTxElement(const QJsonObject &) const

@@ -1,6 +1,7 @@
 #ifndef ZQWORDLATTICEITEMTRAN_H
 #define ZQWORDLATTICEITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
 
 #include <memory>
@@ -8,14 +9,14 @@
 /*!
  * The lattice in which the characters of a word are written.
  */
-class ZQWordLatticeItemTran : public ZQComItemControlTran
+class ZQWordLatticeItemTran : public ZQComItemControlTran, public PairedTypes<ZQWordLatticeItemTran>
 {
 public:
     explicit ZQWordLatticeItemTran(const QString &type);
 
+    static const TypePairs &typePairs();
+
     static std::unique_ptr<ZQHTran> create(const QString &type);
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
 
 protected:
     QDomElement newTxElement(const QJsonObject &json) const override;
