@@ -96,18 +96,19 @@ void normalizeFlags(QJsonObject &json)
 
 const QLatin1String typeKey("Type");
 const QLatin1String matrixKey("Matrix");
-const QLatin1String boxKey("BoundingBox");
-
 const QLatin1String slideMatrixKey("SlideMatrix");
+const QLatin1String boxKey("BoundingBox");
 
 // How the items of a slide are fitted into the page.
 QMatrix slideFit(const QJsonObject &slide)
 {
-    const auto source = rectangleFromText(slide.value(QLatin1String("SlideSourceRect")).toString());
-    if (!source) {
+    const auto numbers = leadingFloats<4>(slide.value(QLatin1String("SlideSourceRect")).toString());
+    if (!numbers) {
         return {};
     }
-    return ZQComItemControlTran::fitMatrix(*source, QRectF({}, ZQComItemControlTran::slideTargetSize(*source)));
+    const auto [x, y, width, height] = *numbers;
+    const QRectF source{qreal(x), qreal(y), qreal(width), qreal(height)};
+    return ZQComItemControlTran::fitMatrix(source, QRectF({}, ZQComItemControlTran::slideTargetSize(source)));
 }
 
 // The matrix of an item on the page. A text that is no matrix stays as it is.
@@ -279,7 +280,7 @@ QDomElement ZQComItemControlTran::newTxElement(const QJsonObject &) const
 int ZQComItemControlTran::lessonVersion(const QJsonObject &context)
 {
     const QJsonObject presentation = context.value(QLatin1String("pres")).toObject();
-    return majorVersion(presentation.value(QLatin1String("Version")).toString());
+    return presentation.value(QLatin1String("Version")).toString().section(QLatin1Char('.'), 0, 0).toInt();
 }
 
 void ZQComItemControlTran::readNestedItems(const QDomElement &element, QJsonObject &json, const QJsonObject &context)
