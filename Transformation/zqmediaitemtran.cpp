@@ -129,11 +129,13 @@ QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json,
     if (attribute && !json.contains(fileKey)) {
         json.insert(fileKey, *attribute);
     }
-    if (json.contains(fileKey)) {
-        const QString files = json.value(fileKey).toString();
-        // A text with neither separator stays one entry.
-        const QLatin1Char separator(files.contains(QLatin1Char('|')) ? '|' : ';');
-        json.insert(fileKey, joinResourcePaths(files, separator, context.value(QLatin1String("path")).toString()));
+    const QString files = json.value(fileKey).toString();
+    const bool hasBars = files.contains(QLatin1Char('|'));
+    // A text with neither separator is no list and stays as it came.
+    if (hasBars || files.contains(QLatin1Char(';'))) {
+        json.insert(fileKey,
+                    joinResourcePaths(files, QLatin1Char(hasBars ? '|' : ';'),
+                                      context.value(QLatin1String("path")).toString()));
     }
     return json;
 }

@@ -18,7 +18,7 @@ public:
     static const FamilyVocabulary &vocabulary();
     static const TypePairs &typePairs();
 
-    //! MultiMediaFile becomes a list of paths between commas; a scale above 1 is folded into the box.
+    //! A list in MultiMediaFile becomes one of paths between commas; a scale above 1 is folded into the box.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
     //! A new svg element, and the file AbsMediaFile copied below the directory tmpFilePath. A document has no svg
