@@ -52,6 +52,18 @@ QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
     return object;
 }
 
+// The plug-in finds the files of a list in the lesson's folder; a single file comes as the element names it.
+void findSingleFile(const QDomElement &element, QJsonObject &item)
+{
+    const QLatin1String key("MultiMediaFile");
+    const QString file = element.attribute(key);
+    if (item.value(key) == QJsonValue(file)) {
+        const int slash = file.lastIndexOf(QLatin1Char('/'));
+        const QString name = file.mid((slash >= 0 ? slash : file.lastIndexOf(QLatin1Char('\\'))) + 1);
+        item.insert(key, name.isEmpty() ? QString() : resourceFolder + QLatin1Char('/') + name);
+    }
+}
+
 void collectIds(const QDomElement &element, QSet<QString> &ids)
 {
     if (element.hasAttribute(netId)) {
@@ -236,6 +248,7 @@ private:
                            {});
         }
         setStableId(item, untouched);
+        findSingleFile(untouched, item);
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
         QJsonArray children;
