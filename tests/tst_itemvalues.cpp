@@ -171,9 +171,19 @@ private slots:
         QFETCH(QString, color);
         const auto found = ItemView(item).color(QLatin1String("c"));
         QCOMPARE(found ? found->name(QColor::HexArgb) : QString(), color);
-        if (found && !valueText(item.value("c")).contains("n")) {
-            QCOMPARE(itemColor(colorText(*found)), found); // NOLINT(bugprone-unchecked-optional-access)
+        if (found) {
+            QCOMPARE(itemColor(colorText(*found)), found);
+            QCOMPARE(itemColor(valueText(item.value("c"))), found);
         }
+    }
+
+    void readsColorsOfPages()
+    {
+        QCOMPARE(backColor(66051), itemColor("1,2,3"));
+        QCOMPARE(backColor(4278255873.0), itemColor("#010101"));
+        QCOMPARE(backColor("66051"), backColor(66051));
+        QCOMPARE(backColor("128,1,2,3"), itemColor("128,1,2,3"));
+        QVERIFY(!backColor(QJsonValue()));
     }
 
     void readsFlagsAndNumbers_data()

@@ -10,19 +10,6 @@ namespace lessonhost {
 
 namespace {
 
-bool isXmlCharacter(const QString &text, int i)
-{
-    const QChar c = text.at(i);
-    if (c.isHighSurrogate()) {
-        return i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
-    }
-    if (c.isLowSurrogate()) {
-        return i > 0 && text.at(i - 1).isHighSurrogate();
-    }
-    const ushort code = c.unicode();
-    return (code >= 0x20 && code < 0xfffe) || code == '\t' || code == '\n' || code == '\r';
-}
-
 /*!
  * A text that becomes UTF-8 while it is put together, so that a large one is there once and in half the size.
  */
@@ -166,6 +153,19 @@ template <typename Out> void appendElement(Out &out, const QDomElement &element,
 }
 
 } // namespace
+
+bool isXmlCharacter(const QString &text, int i)
+{
+    const QChar c = text.at(i);
+    if (c.isHighSurrogate()) {
+        return i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+    }
+    if (c.isLowSurrogate()) {
+        return i > 0 && text.at(i - 1).isHighSurrogate();
+    }
+    const ushort code = c.unicode();
+    return (code >= 0x20 && code < 0xfffe) || code == '\t' || code == '\n' || code == '\r';
+}
 
 QByteArray xmlDocumentText(const QDomElement &root)
 {

@@ -35,13 +35,7 @@ constexpr int recordDepth = 1;
 // The name of a background's colour: a number 0xRRGGBB or any text of a colour.
 QString backgroundColor(const QJsonObject &properties)
 {
-    const QJsonValue backColor = properties.value(SlideKeys::backColor);
-    std::optional<QColor> color;
-    if (backColor.isDouble()) {
-        color = QColor(QRgb(backColor.toInt()));
-    } else {
-        color = itemColor(backColor);
-    }
+    auto color = backColor(properties.value(SlideKeys::backColor));
     if (!color) {
         color = itemColor(properties.value(SlideKeys::color));
     }

@@ -32,14 +32,40 @@ int channel(double value)
     return value > 0 ? qRound(qMin(value, 255.0)) : 0;
 }
 
-QColor colorOfObject(const QJsonObject &object)
+// Numbers with the sign bit of an alpha are negative where 32 bits hold them.
+QRgb rgbOf(double number)
 {
     const double largest = std::numeric_limits<quint32>::max();
-    const double solid = itemNumber(object.value(solidKey));
-    // Numbers with the sign bit of an alpha are negative where 32 bits hold them.
-    QColor color(QRgb(qint64(qBound(-largest, solid, largest))));
-    color.setAlpha(channel(itemNumber(object.value(alphaKey), 1) * 255));
+    return QRgb(qint64(qBound(-largest, number, largest)));
+}
+
+QRgb solidOf(const QJsonObject &object)
+{
+    return rgbOf(itemNumber(object.value(solidKey)));
+}
+
+double alphaOf(const QJsonObject &object)
+{
+    return itemNumber(object.value(alphaKey), 1) * 255;
+}
+
+QColor colorOfObject(const QJsonObject &object)
+{
+    QColor color(solidOf(object));
+    color.setAlpha(channel(alphaOf(object)));
     return color;
+}
+
+// An alpha beyond 255 stays what it was, since a write and a read keep it.
+QString textOfObject(const QJsonObject &object)
+{
+    const QRgb solid = solidOf(object);
+    constexpr double furthest = 1e6;
+    return QStringLiteral("%1,%2,%3,%4")
+        .arg(qRound(qBound(-furthest, alphaOf(object), furthest)))
+        .arg(qRed(solid))
+        .arg(qGreen(solid))
+        .arg(qBlue(solid));
 }
 
 bool isNumberArray(const QJsonArray &array)
@@ -83,7 +109,7 @@ QString valueText(const QJsonValue &value)
         if (object.isEmpty()) {
             return QLatin1String("");
         }
-        return isColorObject(object) ? colorText(colorOfObject(object)) : QString();
+        return isColorObject(object) ? textOfObject(object) : QString();
     }
     default:
         return QLatin1String("");
@@ -132,6 +158,13 @@ std::optional<QColor> itemColor(const QJsonValue &value)
     }
     const QColor named(text);
     return named.isValid() ? std::optional<QColor>(named) : std::nullopt;
+}
+
+std::optional<QColor> backColor(const QJsonValue &value)
+{
+    bool isNumber = false;
+    const double number = valueText(value).toDouble(&isNumber);
+    return isNumber && qIsFinite(number) ? QColor(rgbOf(number)) : itemColor(value);
 }
 
 bool isEmptyValue(const QJsonValue &value)

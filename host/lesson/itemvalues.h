@@ -40,6 +40,9 @@ QVector<double> itemNumbers(const QJsonValue &value);
 //! a,r,g,b or r,g,b or a name, such as #aarrggbb. Nothing for an empty or other value.
 std::optional<QColor> itemColor(const QJsonValue &value);
 
+//! The colour of a slide's BackColor: the number 0xRRGGBB or its text, or what itemColor() knows.
+std::optional<QColor> backColor(const QJsonValue &value);
+
 //! The parts of a text with commas between; a comma at the end stands before none.
 QStringList numberParts(const QString &text);
 

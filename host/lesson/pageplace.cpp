@@ -101,11 +101,13 @@ void placeInk(QJsonObject &item, const QTransform &matrix)
         points[i] = (i == 0 ? matrix : steps).map(points.at(i));
     }
     item.insert(ItemKeys::steps, pointsText(points));
-    if (view.has(ItemKeys::width)) {
+    if (item.contains(ItemKeys::width)) {
         item.insert(ItemKeys::width, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
     }
-    if (const auto box = view.box()) {
-        setPlace(item, {matrix.mapRect(*box), 0});
+    const QVector<double> box = view.numbers(ItemKeys::box);
+    if (box.size() >= 4) {
+        const QRectF own(QPointF(box.at(0), box.at(1)), QPointF(box.at(2), box.at(3)));
+        setPlace(item, {matrix.mapRect(own), 0});
     }
     item.remove(ItemKeys::angle);
 }
@@ -212,7 +214,7 @@ void makeBackground(QJsonObject &properties)
 {
     const QJsonValue number = properties.value(SlideKeys::backColor);
     if (number.isDouble() && isEmptyValue(properties.value(SlideKeys::color))) {
-        properties.insert(SlideKeys::color, colorText(QColor(QRgb(number.toInt()))));
+        properties.insert(SlideKeys::color, colorText(backColor(number).value_or(QColor(Qt::white))));
         properties.remove(SlideKeys::backColor);
     }
     const QString files = valueText(properties.value(SlideKeys::files));

@@ -1,5 +1,6 @@
 #include "lesson/textruns.h"
 
+#include "files/xmltext.h"
 #include "lesson/fontvalues.h"
 
 #include <QFont>
@@ -372,21 +373,10 @@ QString withoutControlCharacters(const QString &text, int *dropped)
     QString clean;
     clean.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
-        if (isPair) {
-            clean += c;
-            clean += text.at(++i);
-            continue;
-        }
-        const ushort code = c.unicode();
-        const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
-        if (isControl || c.isSurrogate() || code >= 0xfffe) {
-            if (dropped) {
-                ++*dropped;
-            }
-        } else {
-            clean += c;
+        if (isXmlCharacter(text, i)) {
+            clean += text.at(i);
+        } else if (dropped) {
+            ++*dropped;
         }
     }
     return clean;
