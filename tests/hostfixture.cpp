@@ -4,30 +4,31 @@
 
 #include <QDir>
 
-void Command::begin(const QStringList &arguments, const QString &folder)
+void CommandProcess::begin(const QStringList &arguments, const QString &folder)
 {
     setWorkingDirectory(folder);
     start(LESSONCONV, arguments);
     QVERIFY(waitForStarted());
 }
 
-Command::Outcome Command::outcome()
+CommandProcess::Outcome CommandProcess::outcome()
 {
     waitForFinished(250000);
     return {exitStatus() == NormalExit ? exitCode() : -1, QString::fromUtf8(readAllStandardOutput()),
             QString::fromUtf8(readAllStandardError())};
 }
 
-void Command::setupChildProcess()
+void CommandProcess::setupChildProcess()
 {
     if (prepare) {
         prepare();
     }
 }
 
-Command::Outcome runCommand(const QStringList &arguments, const QString &folder, const std::function<void()> &prepare)
+CommandProcess::Outcome runCommand(const QStringList &arguments, const QString &folder,
+                                   const std::function<void()> &prepare)
 {
-    Command command;
+    CommandProcess command;
     command.prepare = prepare;
     command.begin(arguments, folder);
     return command.outcome();

@@ -16,7 +16,7 @@ using namespace lessonhost;
 /*!
  * The command, with something done to its process before it starts.
  */
-class Command : public QProcess
+class CommandProcess : public QProcess
 {
 public:
     struct Outcome
@@ -39,8 +39,8 @@ protected:
 };
 
 //! Runs the command from beginning to end.
-Command::Outcome runCommand(const QStringList &arguments, const QString &folder = {},
-                            const std::function<void()> &prepare = {});
+CommandProcess::Outcome runCommand(const QStringList &arguments, const QString &folder = {},
+                                   const std::function<void()> &prepare = {});
 
 //! The names of hidden files and folders, which only a run that was cut off leaves.
 QStringList hiddenEntries(const QString &folder);

@@ -22,14 +22,14 @@ private:
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
-    void begin(Command &command, const QStringList &arguments) const
+    void begin(CommandProcess &command, const QStringList &arguments) const
     {
         command.begin(QStringList{"convert", "--out-dir", "out"} + arguments, m_folder->path());
     }
 
-    Command::Outcome convert(const QStringList &arguments) const
+    CommandProcess::Outcome convert(const QStringList &arguments) const
     {
-        Command command;
+        CommandProcess command;
         begin(command, arguments);
         return command.outcome();
     }
@@ -55,7 +55,7 @@ private slots:
         putFile(path("in/term3/lesson333.json"), "{\"Slides\":[");
         putFile(path("in/term7/lesson777.json"),
                 R"({"Slides":[{"ID":"1","Items":[{"Type":"ZQSmoothStroke","ID":"7","Mood":"good"}]}]})");
-        const Command::Outcome result = convert({"in", "--to", "zqtx", "--report", "report.json"});
+        const CommandProcess::Outcome result = convert({"in", "--to", "zqtx", "--report", "report.json"});
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.output.startsWith("1000 lessons: 999 converted, 1 not converted.\n"
                                           "1 lesson lost something, 1 value, item or file in all"),
@@ -82,7 +82,7 @@ private slots:
         QCOMPARE(lost, 1);
 
         putLesson("in/term3/lesson333.json");
-        const Command::Outcome second = convert({"in", "--to", "zqtx", "--resume", "--strict"});
+        const CommandProcess::Outcome second = convert({"in", "--to", "zqtx", "--resume", "--strict"});
         QCOMPARE(second.exitCode, 1);
         QVERIFY2(second.output.startsWith("1000 lessons: 1 converted, 999 done before.\n"), qPrintable(second.output));
     }
@@ -99,7 +99,7 @@ private slots:
         putLesson("in/.hidden/a.json");
         putLesson("in/results/old.json");
         QFile::link(path("in"), path("in/math/loop"));
-        const Command::Outcome result =
+        const CommandProcess::Outcome result =
             convert({"in", "--to", "json", "--out-dir", "in/results", "--report", "report.json"});
         QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
         QCOMPARE(result.output,
@@ -124,7 +124,7 @@ private slots:
     {
         const QStringList arguments{"in", "--to", "zqtx", "--resume"};
         const auto converted = [&](const char *what) {
-            const Command::Outcome result = convert(arguments);
+            const CommandProcess::Outcome result = convert(arguments);
             const QRegularExpressionMatch match = QRegularExpression("(\\d+) converted").match(result.output);
             return match.hasMatch() ? match.captured(1).toInt()
                                     : (qWarning("%s: %s", what, qPrintable(result.errors)), -1);
@@ -151,7 +151,7 @@ private slots:
         mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
         putLesson("a.json");
         putLesson("b.json");
-        Command process;
+        CommandProcess process;
         begin(process, {"0.json", "a.json", "b.json", "--to", "zqtx", "--jobs", "1"});
         const QString children = "/proc/%1/task/%1/children"_s.arg(process.processId());
         QByteArray worker;
@@ -162,7 +162,7 @@ private slots:
             }(),
             20000);
         kill(worker.toInt(), SIGKILL);
-        const Command::Outcome result = process.outcome();
+        const CommandProcess::Outcome result = process.outcome();
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.errors.contains("0.json: The converter broke down over this lesson"),
                  qPrintable(result.errors));
@@ -174,7 +174,7 @@ private slots:
     {
         mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
         putLesson("a.json");
-        const Command::Outcome result =
+        const CommandProcess::Outcome result =
             convert({"a.json", "0.json", "--to", "zqtx", "--jobs", "1", "--lesson-timeout", "5"});
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.errors.contains("0.json: The conversion took longer than 5 s"), qPrintable(result.errors));
@@ -188,12 +188,12 @@ private slots:
         mkfifo(QFile::encodeName(path("b.json")).constData(), 0600);
         putLesson("c.json");
         const QStringList arguments{"a.json", "b.json", "c.json", "--to", "zqtx", "--jobs", "1", "--resume"};
-        Command process;
+        CommandProcess process;
         begin(process, arguments);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("out/a.zqtx")), 20000);
         QTest::qWait(200);
         kill(pid_t(process.processId()), SIGINT);
-        const Command::Outcome result = process.outcome();
+        const CommandProcess::Outcome result = process.outcome();
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.output.contains("2 not begun.\nInterrupted."), qPrintable(result.output));
         QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx"}));
@@ -224,7 +224,7 @@ private slots:
         putLesson("in/a.json");
         putLesson("other/a.json", "Another");
         QDir().mkpath(path("empty"));
-        const Command::Outcome result = convert(arguments);
+        const CommandProcess::Outcome result = convert(arguments);
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.errors.contains(message), qPrintable(result.errors));
         QVERIFY(!QFile::exists(path("out")));

@@ -100,7 +100,8 @@ private:
         return {"convert", from, to, "--quiet", "--no-check"};
     }
 
-    Command::Outcome convert(const QString &from, const QString &to, const std::function<void()> &prepare = {}) const
+    CommandProcess::Outcome convert(const QString &from, const QString &to,
+                                    const std::function<void()> &prepare = {}) const
     {
         return runCommand(arguments(from, to), m_folder->path(), prepare);
     }
@@ -190,7 +191,7 @@ private slots:
         putFile(path("pair.json"),
                 R"({"Slides": [{}], "Resources": {"images/a": )" + file + R"(, "images/b": )" + file + "}}");
         QCOMPARE(convert("pair.json", "pair", allowSmallFilesOnly).exitCode, 0);
-        const Command::Outcome outcome = convert("pair", "out.zqtx", allowSmallFilesOnly);
+        const CommandProcess::Outcome outcome = convert("pair", "out.zqtx", allowSmallFilesOnly);
         QCOMPARE(outcome.exitCode, 2);
         QVERIFY2(outcome.errors.startsWith("lessonconv: out.zqtx: "), qPrintable(outcome.errors));
         QVERIFY(!QFileInfo::exists(path("out.zqtx")));
@@ -210,7 +211,7 @@ private slots:
         const QFile::Permissions readable = QFile::ReadOwner | QFile::ReadOther | QFile::ReadGroup | QFile::ExeOwner
             | QFile::ExeOther | QFile::ExeGroup;
         QVERIFY(QFile::setPermissions(m_folder->path(), readable));
-        const Command::Outcome outcome = convert("old.json", target, becomeNobody);
+        const CommandProcess::Outcome outcome = convert("old.json", target, becomeNobody);
         QFile::setPermissions(m_folder->path(), readable | QFile::WriteOwner);
         QCOMPARE(outcome.exitCode, 2);
         QVERIFY2(outcome.errors.contains("Check that you may write there"), qPrintable(outcome.errors));
@@ -261,7 +262,7 @@ private slots:
 
         std::minstd_rand random(uint(target.size()));
         for (int i = 0; i < 13; ++i) {
-            Command command;
+            CommandProcess command;
             command.begin(arguments(i % 2 ? "old.json" : "new.json", target), m_folder->path());
             QTest::qSleep(int(random() % uint(duration)) + 1);
             command.kill();

@@ -36,7 +36,7 @@ private slots:
     {
         QFETCH(QString, lesson);
         QFETCH(QJsonObject, expected);
-        const Command::Outcome outcome = runCommand({"info", EXAMPLES_DIR "/"_s + lesson, "--json"});
+        const CommandProcess::Outcome outcome = runCommand({"info", EXAMPLES_DIR "/"_s + lesson, "--json"});
         QCOMPARE(outcome.exitCode, 0);
         const QJsonObject told = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
         QCOMPARE(differences(told, expected), QString());
@@ -53,7 +53,7 @@ private slots:
         putFile(folder.filePath("slides/1.xml"),
                 "<slide id=\"1\"><items><media id=\"5\" type=\"image\" resource=\"images/gone.png\"/>"
                 "<gadget id=\"6\" type=\"ZQGadget\"/><gadget id=\"7\" type=\"ZQGadget\"/></items></slide>");
-        const Command::Outcome outcome = runCommand({"info", folder.path()});
+        const CommandProcess::Outcome outcome = runCommand({"info", folder.path()});
         QCOMPARE(outcome.exitCode, 0);
         QCOMPARE(outcome.output,
                  QString("Page size       800 x 600\n"
@@ -66,7 +66,7 @@ private slots:
                          "Unknown items   2\n"
                          "     2  ZQGadget\n"));
 
-        const Command::Outcome failure = runCommand({"info", folder.filePath("none"), "--json"});
+        const CommandProcess::Outcome failure = runCommand({"info", folder.filePath("none"), "--json"});
         QCOMPARE(failure.exitCode, 2);
         const QJsonObject error = QJsonDocument::fromJson(failure.output.toUtf8()).object().value("error").toObject();
         QCOMPARE(error.value("file").toString(), folder.filePath("none"));

@@ -39,7 +39,7 @@ private:
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
-    Command::Outcome convert(const QString &input, const QString &output, const QStringList &options = {}) const
+    CommandProcess::Outcome convert(const QString &input, const QString &output, const QStringList &options = {}) const
     {
         return runCommand(QStringList{"convert", input, output} + options, m_folder->path());
     }
@@ -113,7 +113,7 @@ private slots:
         }
         QFile::link(path("secret.xml"), path("in/slides/link.xml"));
 
-        const Command::Outcome outcome = convert(input, "out.zqtx");
+        const CommandProcess::Outcome outcome = convert(input, "out.zqtx");
         QCOMPARE(outcome.exitCode, 2);
         for (const QString &word : qAsConst(words)) {
             QVERIFY2(outcome.errors.contains(word), qPrintable(outcome.errors));
@@ -146,7 +146,7 @@ private slots:
         putFile(path("notes"), "keep");
         const auto before = filesBelow(m_folder->path());
 
-        const Command::Outcome outcome = convert("in.json", output);
+        const CommandProcess::Outcome outcome = convert("in.json", output);
         QCOMPARE(outcome.exitCode, 2);
         const QString place = output.section("/out.json", 0, 0);
         QVERIFY2(outcome.errors.contains(place) && outcome.errors.contains(words), qPrintable(outcome.errors));
@@ -201,7 +201,7 @@ private slots:
         putFile(path("in.json"), R"({"Version": "3.0", "Slides": [{"ID": "1", "Items": [
             {"Type": "ZQSmoothStroke", "ID": "7", "XY": "1,2,3,4", "Mood": "cheerful"}]}]})");
         QCOMPARE(convert("in.json", "out").exitCode, 0);
-        const Command::Outcome strict = convert("in.json", "out", {"--report", "report.json", "--strict"});
+        const CommandProcess::Outcome strict = convert("in.json", "out", {"--report", "report.json", "--strict"});
         QCOMPARE(strict.exitCode, 1);
         QCOMPARE(strict.errors, "lessonconv: 1 value lost: ZQSmoothStroke.Mood on slide 1\n");
 

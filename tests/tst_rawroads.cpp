@@ -51,6 +51,18 @@ private slots:
             "{'BoundingBox':'0,0,2,1','Matrix':'2.4356953125,1.40625,-1.40625,2.4356953125,0,0'}");
     }
 
+    // Sanitizers see what goes wrong where such numbers become whole ones.
+    void coloursAreOfAnyNumbers()
+    {
+        const QByteArray item = "<ZQMath2DCircle ArtObj_Color='nan,0,0,0' ArtObj_Color1='255,-3e9,0,0' "
+                                "Discipline_xControl0='80' Discipline_yControl0='5'/>";
+        for (const char *name : {"out.zqtx", "out.iwb", "out.json"}) {
+            convertedLesson(putLesson(item), path(name));
+        }
+        const QJsonObject found = openLesson(path("out.zqtx"))->slide(0).items.first().toObject();
+        QCOMPARE(found.value("ArtObj_Color"), QJsonValue(json("{'Alpha':0,'Solid':0}")));
+    }
+
     void attributesReachTheModel()
     {
         QFETCH(QByteArray, item);

@@ -38,7 +38,8 @@ private slots:
 
     void drawsEveryItem()
     {
-        const Command::Outcome result = runCommand({"render", path("lesson.json"), path("lesson.html"), "--json"});
+        const CommandProcess::Outcome result =
+            runCommand({"render", path("lesson.json"), path("lesson.html"), "--json"});
         QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
         const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
         QCOMPARE(json.value("slides").toInt(), 2);
@@ -84,7 +85,7 @@ private slots:
             fileContent(path("lesson.json")).replace("\"Text\":\"<script>alert(1)</script>\"", "\"Text\":\"\"");
         changed.replace(R"({"ID":"3","Type":"General:spotlight","BoundingBox":"10,10,110,60"},)", "");
         putFile(path("other.json"), changed);
-        const Command::Outcome result =
+        const CommandProcess::Outcome result =
             runCommand({"render", "--diff", path("lesson.json"), path("other.json"), path("diff.html"), "--json"});
         QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
         const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
@@ -112,7 +113,7 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(QString, message);
         arguments[0] = m_folder.filePath(arguments.at(0));
-        const Command::Outcome result = runCommand(QStringList{"render", path("lesson.json")} + arguments);
+        const CommandProcess::Outcome result = runCommand(QStringList{"render", path("lesson.json")} + arguments);
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.errors.contains(message), qPrintable(result.errors));
         QVERIFY(!QFile::exists(arguments.at(0)));

@@ -147,6 +147,8 @@ private slots:
             "{'ArtObj_Color0': {'Alpha': 0.2, 'Solid': 16711680}}");
         row("a colour without alpha", "Physics:laba", property("Color of edge", "255,0,x"),
             "{'ArtObj_Color0': {'Alpha': 1, 'Solid': 16711680}}");
+        row("a colour beyond all colours", "Physics:laba", property("Color of edge", "-3e9,-3e9,0,1e-9"),
+            "{'ArtObj_Color0': {'Alpha': -11764705.882352941, 'Solid': -196608000000000}}");
         row("an empty colour", "Physics:laba", property("Color of edge", ""), "{'ArtObj_Color0': {}}");
         row("a short colour", "Physics:laba", property("Color of edge", "1,2"), "{'ArtObj_Color0': {}}");
         row("control points in double precision", "Physics:laba", rect("0.1,16777217,"),

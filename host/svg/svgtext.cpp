@@ -69,7 +69,7 @@ bool keepsBlanks(const QDomElement &element)
 QFontMetricsF metrics(const SvgStyle &style)
 {
     QFont font(style.property(QStringLiteral("font-family")).split(QLatin1Char(',')).first().remove(QLatin1Char('\'')));
-    font.setPixelSize(qBound(1, qRound(style.fontPixels()), 10000));
+    font.setPixelSize(qRound(qBound(1.0, style.fontPixels(), 10000.0)));
     font.setWeight(fontWeight(style.property(QStringLiteral("font-weight"))));
     return QFontMetricsF(font);
 }
