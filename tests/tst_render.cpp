@@ -155,10 +155,34 @@ private slots:
         const QImage page(path("drawn.png"));
         QCOMPARE(runCommand({"convert", path("drawn.json"), path("drawn"), "--to", "iwb"}).exitCode, 0);
         const QImage background(path("drawn/images/1_bgd.png"));
-        for (const QColor &color :
-             {page.pixelColor(100, 250), page.pixelColor(300, 250), background.copy(9, 9, 1, 1).pixelColor(0, 0)}) {
+        for (const QColor &color : {page.pixelColor(100, 250), page.pixelColor(300, 250),
+                                    background.isNull() ? QColor() : background.pixelColor(9, 9)}) {
             QVERIFY2(isShown ? color == QColor(Qt::green) : color != QColor(Qt::red), qPrintable(color.name()));
         }
+    }
+
+    void textsOpenNothing()
+    {
+        ::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600);
+        QByteArray lesson = R"({"Slides":[{"ID":"1","Items":[
+            {"ID":"1","Type":"ZQMindMapItem","mindMapData":[{},{},{"nodeHtml":"LOAD"}]},
+            {"ID":"2","Type":"ZQQuestionItem","R_Content_svg":"LOAD"},
+            {"ID":"3","Type":"ZQTextBoard","BoundingBox":"0,0,9,9","TextHtml":"LOAD"}]}]})";
+        lesson.replace("LOAD",
+                       "<link rel='stylesheet' type='text/css' href='PIPE'/><style>@import url(PIPE)</style>"
+                       "<body background='PIPE'>shown<img src='PIPE'/>");
+        putFile(path("texts.json"), lesson.replace("PIPE", path("pipe").toUtf8()));
+        QCOMPARE(runCommand({"render", path("texts.json"), path("texts.html")}).exitCode, 0);
+        QVERIFY(fileContent(path("texts.html")).count("shown<") == 3);
+    }
+
+    void drawsWithoutADisplay()
+    {
+        const auto prepare = [] {
+            qputenv("QT_QPA_PLATFORM", "xcb");
+            qunsetenv("DISPLAY");
+        };
+        QCOMPARE(runCommand({"render", path("lesson.json"), path("hidden.pdf")}, {}, prepare).exitCode, 0);
     }
 
     // Painters come to an end with every number.
