@@ -234,6 +234,8 @@ private slots:
         row("slides", {"p.html", "--slides", "5-2"}, "names no slides");
         row("size", {"p.html", "--size", "12"}, "is no size");
         row("huge", {"p.html", "--size", "99999x1"}, "is no size");
+        row("more than fits into the memory", {"p.png", "--slides", "1", "--size", "16384x8192"},
+            "Ask for a smaller one");
     }
 
     void refuses()
