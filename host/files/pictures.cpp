@@ -35,7 +35,7 @@ constexpr int mostDepth = 3;
 constexpr int largestSideOfDrawing = 4096;
 
 // What a picture takes beside its pixels, and for each; one that takes more is written anew.
-constexpr qint64 mostBytesBeside = 64 * 1024;
+constexpr qint64 mostBytesBeside = 65536;
 constexpr qint64 mostBytesOfPixel = 8;
 
 // However many pictures there are, each has so many pixels or is left out.
