@@ -36,9 +36,9 @@ std::unique_ptr<QCoreApplication> applicationFor(const Command &command, int &ar
     if (!command.measuresText()) {
         return std::make_unique<QCoreApplication>(argc, argv);
     }
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    // It draws without a display, whatever the desktop's programs are told to take.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

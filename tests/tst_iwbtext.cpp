@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <ctime>
+
 using namespace lessonhost;
 
 namespace {
@@ -108,6 +110,39 @@ private slots:
         QFETCH(QString, html);
         QFETCH(QString, loss);
         QCOMPARE(textRunsFromHtml(html).losses.join("; "_s), loss);
+    }
+
+    // What takes text documents more than linear time, and what only seems to be none of it.
+    void takesLittleTime_data()
+    {
+        const Table<QString, bool> row("html", "isLimited");
+        const auto times = [](const char *html, int count) { return QString::fromLatin1(html).repeated(count); };
+        row("tables in tables", times("<table><tr><td>", 9000) + "x", true);
+        row("behind a quote", times("<x a\"><table><tr><td>\">", 9000), true);
+        row("behind what is no comment", times("<!--><table><tr><td>-->", 9000), true);
+        row("closed as another", times("<table><i></ table><tr></td ></i>", 9000), true);
+        row("empty tables", times("<b/><table/><tr/><td/>", 9000), true);
+        row("rows of the first's width", times("<td>", 5000).prepend("<table><tr>") + times("<tr><td>", 5000), true);
+        row("wide cells", "<table>" + times("<tr><td colspan='99' rowspan=99>", 5000), true);
+        row("wider cells", "<table>" + times("<tr><td &#99;olspan='9999'><td ROWSPAN=9999>", 3000), false);
+        row("letters in letters", times("<b>x", 20000), true);
+        row("list", "<ol>" + times("<li>x", 20000), true);
+        row("pictures", times("<img src=x>", 50000), true);
+        row("rules", "<style>" + times("p.x{color:red}", 5000) + "</style>" + times("<p class=x>x", 5000), true);
+        row("style sheets", times("<style>p.x{color:red}</style><p>x", 5000), true);
+        row("signs", times("<a \"<a '", 50000), false);
+        row("a long text", times("<p><b>one</b> <i>two</i><br/><span style='color:red'>three</span></p>", 5000), false);
+    }
+
+    void takesLittleTime()
+    {
+        QFETCH(QString, html);
+        QFETCH(bool, isLimited);
+        const std::clock_t start = std::clock();
+        const TextRuns text = textRunsFromHtml(html);
+        const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+        QVERIFY2(seconds < 3 * slowness, qPrintable(QString::number(seconds)));
+        QCOMPARE(text.losses.join(' ').contains("tags"), isLimited);
     }
 
     void leavesOutWhatXmlCantHold()

@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 /*!
  * Draws lessons through the command, as a teacher does.
  */
@@ -97,6 +99,133 @@ private slots:
         QVERIFY(html.contains("<li><b>Text</b> <small>5</small>: <span title=\"&lt;script"));
     }
 
+    // Drawings may show what lies with them, and open nothing else.
+    void drawingsOpenNothing_data()
+    {
+        const Table<QString, QByteArray, bool> row("file", "drawing", "isShown");
+        const auto drawing = [](const QByteArray &reference) {
+            return QByteArray("<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+                              "width='50' height='50'><image width='50' height='50' xlink:href='"
+                              + reference + "'/></svg>");
+        };
+        row("file beside it", "a.svg", drawing("beside.png"), true);
+        row("harmless document type", "a.svg",
+            "<!DOCTYPE svg PUBLIC '-//W3C//DTD SVG 1.1//EN' 'PIPE'>" + drawing("beside.png"), true);
+        row("style sheet", "a.svg", "<?xml-stylesheet type=\"text/css\" href=\"PIPE\"?>" + drawing("beside.png"), true);
+        row("drawing in a drawing", "a.svg",
+            drawing("data:image/svg+xml," + drawing("data:image/png;base64,BESIDE").toPercentEncoding()), true);
+        row("path", "a.svg", drawing("PRIVATE"), false);
+        row("path of folders", "a.svg", drawing("../../../../../../../../../../../../../../PRIVATE"), false);
+        row("address", "a.svg", drawing("file://PRIVATE"), false);
+        row("another name of the reference", "a.svg",
+            drawing("PRIVATE").replace("<image",
+                                       "<s:image xmlns:s='s' xmlns:x='http://www.w3.org/1999/xlink' x:href='PRIVATE'"),
+            false);
+        row("drawing that is called a picture", "a.png", drawing("PRIVATE"), false);
+        row("what isn't the picture it says", "a.svg", drawing("data:PRIVATE"), false);
+        row("path in a drawing in a drawing", "a.svg",
+            drawing("data:image/svg+xml," + drawing("PRIVATE").toPercentEncoding()), false);
+        row("entity", "a.svg", "<!DOCTYPE svg [<!ENTITY p SYSTEM 'PRIVATE'>]>" + drawing("PRIVATE"), false);
+        row("pipe", "a.svg", drawing("PIPE"), false);
+        row("device", "a.svg", drawing("/dev/zero"), false);
+    }
+
+    void drawingsOpenNothing()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, drawing);
+        QFETCH(bool, isShown);
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(picture.save(path("private.png")));
+        picture.fill(Qt::green);
+        QVERIFY(picture.save(path("beside.png")));
+        const QByteArray beside = fileContent(path("beside.png")).toBase64();
+        ::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600);
+        for (const auto &word : {std::make_pair("PRIVATE", path("private.png").toUtf8()),
+                                 std::make_pair("PIPE", path("pipe").toUtf8()), std::make_pair("BESIDE", beside)}) {
+            drawing.replace(word.first, word.second);
+        }
+        QByteArray lesson = R"({"Width":"400","Height":"300","Slides":[{"ID":"1","document":"i/FILE","Items":[
+            {"ID":"2","Type":"ZQImagePic","resource":"i/FILE","BoundingBox":"0,0,200,300"}]}],
+            "Resources":{"i/FILE":"DRAWING","i/beside.png":"BESIDE"}})";
+        lesson.replace("FILE", file.toUtf8()).replace("DRAWING", drawing.toBase64()).replace("BESIDE", beside);
+        putFile(path("drawn.json"), lesson);
+        QFile::remove(path("drawn.png"));
+        QCOMPARE(runCommand({"render", path("drawn.json"), path("drawn.png")}).exitCode, 0);
+        const QImage page(path("drawn.png"));
+        QCOMPARE(runCommand({"convert", path("drawn.json"), path("drawn"), "--to", "iwb"}).exitCode, 0);
+        const QImage background(path("drawn/images/1_bgd.png"));
+        for (const QColor &color : {page.pixelColor(100, 250), page.pixelColor(300, 250),
+                                    background.isNull() ? QColor() : background.pixelColor(9, 9)}) {
+            QVERIFY2(isShown ? color == QColor(Qt::green) : color != QColor(Qt::red), qPrintable(color.name()));
+        }
+    }
+
+    void textsOpenNothing()
+    {
+        ::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600);
+        QByteArray lesson = R"({"Slides":[{"ID":"1","Items":[
+            {"ID":"1","Type":"ZQMindMapItem","mindMapData":[{},{},{"nodeHtml":"LOAD"}]},
+            {"ID":"2","Type":"ZQQuestionItem","R_Content_svg":"LOAD"},
+            {"ID":"3","Type":"ZQTextBoard","BoundingBox":"0,0,9,9","TextHtml":"LOAD"}]}]})";
+        lesson.replace("LOAD",
+                       "<link rel='stylesheet' type='text/css' href='PIPE'/><style>@import url(PIPE)</style>"
+                       "<body background='PIPE'>shown<img src='PIPE'/>");
+        putFile(path("texts.json"), lesson.replace("PIPE", path("pipe").toUtf8()));
+        QCOMPARE(runCommand({"render", path("texts.json"), path("texts.html")}).exitCode, 0);
+        QVERIFY(fileContent(path("texts.html")).count("shown<") == 3);
+    }
+
+    void drawsWithoutADisplay()
+    {
+        const auto prepare = [] {
+            qputenv("QT_QPA_PLATFORM", "xcb");
+            qunsetenv("DISPLAY");
+        };
+        QCOMPARE(runCommand({"render", path("lesson.json"), path("hidden.pdf")}, {}, prepare).exitCode, 0);
+    }
+
+    // Painters come to an end with every number.
+    void drawsAnyNumber_data()
+    {
+        const Table<QByteArray> row("drawing");
+        row("far away", "<rect width='1e38' height='9' stroke='red' stroke-width='1e38' stroke-dasharray='3'/>");
+        row("fine dashes", "<g style='stroke-dasharray:1e-9 1e-9'><path stroke='red' d='M0 0L9e9 5'/></g>");
+        row("many dashes",
+            "<polyline fill='none' stroke='red' stroke-dasharray='.01' points='"
+                + QByteArray("0,0 399,299 ").repeated(50000) + "'/>");
+        row("no numbers", "<rect width='nan' height='inf' stroke='red' stroke-dasharray='nan'/>");
+        row("ever larger",
+            QByteArray("<g transform='scale(1e9)'>").repeated(90) + "<rect width='9' height='9' stroke='red'/>"
+                + QByteArray("</g>").repeated(90));
+    }
+
+    void drawsAnyNumber()
+    {
+        QFETCH(QByteArray, drawing);
+        drawing = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 400 300'>" + drawing + "</svg>";
+        putFile(path("numbers.json"),
+                QByteArray(R"({"Width":"400","Height":"300","Resources":{"a.svg":"B64"},"Slides":[{"Items":[
+            {"ID":"1","Type":"ZQImagePic","resource":"a.svg","BoundingBox":"0,0,400,300"},
+            {"ID":"2","Type":"ZQMath2DRectangle","BoundingBox":"0,0,1e38,200","LineColor":"255,0,0,0",
+             "ArtObj_Line":"2"},
+            {"ID":"3","Type":"General:spotlight","BoundingBox":"0,0,1e38,100"}]}]})")
+                    .replace("B64", drawing.toBase64()));
+        for (const char *name : {"numbers.png", "numbers.pdf"}) {
+            QFile::remove(path(name));
+            QCOMPARE(runCommand({"render", path("numbers.json"), path(name)}).exitCode, 0);
+        }
+    }
+
+    void showsTheNameOfADrawingThatIsNone()
+    {
+        putFile(path("none.json"), R"({"Resources":{"a.svg":"PHN2Zz48Zz4="},"Slides":[{"Items":[
+            {"ID":"1","Type":"ZQImagePic","resource":"a.svg","BoundingBox":"0,0,400,300"}]}]})");
+        QCOMPARE(runCommand({"render", path("none.json"), path("none.html")}).exitCode, 0);
+        QVERIFY(fileContent(path("none.html")).contains("that is missing"));
+    }
+
     void refuses_data()
     {
         const Table<QStringList, QString> row("arguments", "message");
@@ -106,6 +235,8 @@ private slots:
         row("slides", {"p.html", "--slides", "5-2"}, "names no slides");
         row("size", {"p.html", "--size", "12"}, "is no size");
         row("huge", {"p.html", "--size", "99999x1"}, "is no size");
+        row("more than fits into the memory", {"p.png", "--slides", "1", "--size", "16384x8192"},
+            "Ask for a smaller one");
     }
 
     void refuses()

@@ -1,10 +1,26 @@
 #include "files/pictures.h"
 
 #include "files/checksum.h"
+#include "files/lessonerror.h"
+#include "files/packagenames.h"
 
+#include <KCompressionDevice>
+
+#include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QUrl>
 #include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace lessonhost {
 
@@ -12,15 +28,118 @@ namespace {
 
 // As wide and high as a picture needs to be on any screen.
 constexpr qint64 mostPixels = qint64(16384) * 16384;
+// A drawing of more text is none that anybody drew.
+constexpr qint64 largestDrawing = qint64(32) * 1024 * 1024;
+// Drawings that stand in each other.
+constexpr int mostDepth = 3;
+constexpr int largestSideOfDrawing = 4096;
 
-// A drawing is no picture to the reader of pixels.
-bool isDrawing(QFile &file)
+// What a picture takes beside its pixels, and for each; one that takes more is written anew.
+constexpr qint64 mostBytesBeside = 65536;
+constexpr qint64 mostBytesOfPixel = 8;
+
+// However many pictures there are, each has so many pixels or is left out.
+constexpr qint64 leastShare = qint64(128) * 128;
+
+// What is known to open nothing. Other readers of pictures that a machine may have start programs or follow names.
+constexpr const char *const knownFormats[] = {"png", "jpeg", "gif", "bmp",  "ico",  "ppm",
+                                              "pgm", "pbm",  "xbm", "webp", "tiff", "tif"};
+
+// Nothing but a plain file is waited for or read.
+std::unique_ptr<QIODevice> openedFile(const QString &path)
 {
-    return file.seek(0) && file.read(4096).contains("<svg");
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC);
+    struct stat there = {};
+    auto file = std::make_unique<QFile>();
+    if (descriptor >= 0 && ::fstat(descriptor, &there) == 0 && S_ISREG(there.st_mode)
+        && file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        return file;
+    }
+    if (descriptor >= 0) {
+        ::close(descriptor);
+    }
+    return nullptr;
+}
+
+// The text of a drawing that is packed, up to a size.
+QByteArray unpacked(QIODevice &device, qint64 size)
+{
+    device.seek(0);
+    KCompressionDevice packed(&device, false, KCompressionDevice::GZip);
+    return packed.open(QIODevice::ReadOnly) ? packed.read(size) : QByteArray();
+}
+
+bool isPacked(QIODevice &device)
+{
+    device.seek(0);
+    return device.peek(2) == "\x1f\x8b";
+}
+
+bool isDrawing(QIODevice &device)
+{
+    constexpr int enough = 4096;
+    if (isPacked(device)) {
+        return unpacked(device, enough).contains("<svg");
+    }
+    return device.peek(enough).contains("<svg");
+}
+
+// The file beside a drawing or below that a reference in it means, or nothing.
+QString fileBeside(const QString &folder, const QString &reference)
+{
+    const QString path = QUrl::fromPercentEncoding(reference.toUtf8());
+    if (folder.isEmpty() || !problemWithPackagePath(path).isEmpty()) {
+        return {};
+    }
+    QString place = folder;
+    for (const QString &part : path.split(QLatin1Char('/'))) {
+        place += QLatin1Char('/') + part;
+        if (QFileInfo(place).isSymLink()) {
+            return {};
+        }
+    }
+    return place;
+}
+
+QByteArray embedded(const QString &address)
+{
+    const int comma = address.indexOf(QLatin1Char(','));
+    const QByteArray data = QByteArray::fromPercentEncoding(address.mid(comma + 1).toUtf8());
+    return address.leftRef(comma).contains(QLatin1String("base64"), Qt::CaseInsensitive) ? QByteArray::fromBase64(data)
+                                                                                         : data;
+}
+
+qint64 pixelsOf(const QSize &size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+// The size in its proportion, with at most so many pixels.
+QSize sizeOf(const QSize &size, qint64 most)
+{
+    const double factor = std::sqrt(double(most) / double(qMax<qint64>(1, pixelsOf(size))));
+    return (factor < 1 ? QSizeF(size) * factor : QSizeF(size)).toSize().expandedTo(QSize(1, 1));
+}
+
+QImage drawn(const QByteArray &svg, qint64 most)
+{
+    QSvgRenderer renderer(svg);
+    const QSize wanted = renderer.defaultSize();
+    if (!renderer.isValid() || wanted.isEmpty()) {
+        return {};
+    }
+    const QSize largest(largestSideOfDrawing, largestSideOfDrawing);
+    const QSize size = wanted.boundedTo(largest) == wanted ? wanted : wanted.scaled(largest, Qt::KeepAspectRatio);
+    QImage image(sizeOf(size, most), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image;
 }
 
 // Whether all parts of a PNG picture are there and hold what they held. Its decoder complains aloud about others.
-bool isWholePng(QFile &file)
+bool isWholePng(QIODevice &file)
 {
     if (!file.seek(8)) {
         return false;
@@ -49,26 +168,189 @@ bool isWholePng(QFile &file)
 
 } // namespace
 
+qint64 PixelBudget::shareFor(qint64 pixels) const
+{
+    return m_left < leastShare || m_unpackedLeft < pixels ? 0 : qMax(m_left / 8, leastShare);
+}
+
+void PixelBudget::take(qint64 pixels, qint64 drawn)
+{
+    m_unpackedLeft -= pixels;
+    m_left -= drawn;
+}
+
+Picture::Picture(const QString &file)
+    : m_device(openedFile(file))
+    , m_folder(QFileInfo(file).path())
+{
+    look();
+}
+
+Picture::Picture(const QByteArray &content, const QString &folder, int depth)
+    : m_folder(folder)
+    , m_depth(depth)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(content);
+    buffer->open(QIODevice::ReadOnly);
+    m_device = std::move(buffer);
+    look();
+}
+
+void Picture::look()
+{
+    if (!m_device) {
+        m_problem = QStringLiteral("it can't be read");
+        return;
+    }
+    // By its content, whatever it is called.
+    const QByteArray format = QImageReader(m_device.get()).format();
+    if (format.startsWith("svg") || isDrawing(*m_device)) {
+        m_format = "svg";
+        return;
+    }
+    if (std::none_of(std::begin(knownFormats), std::end(knownFormats),
+                     [&format](const char *known) { return format == known; })) {
+        m_problem = QStringLiteral("it is no picture that can be read");
+        return;
+    }
+    m_format = format;
+    if (format == "png" && !isWholePng(*m_device)) {
+        m_problem = QStringLiteral("it is a damaged picture");
+        return;
+    }
+    if (pixelsOf(size()) > mostPixels) {
+        m_problem = QStringLiteral("it has more pixels than any screen");
+    }
+}
+
+QSize Picture::size() const
+{
+    if (m_format.isEmpty()) {
+        return {};
+    }
+    if (m_format == "svg") {
+        try {
+            return QSvgRenderer(drawing().text).defaultSize();
+        } catch (const LessonError &) {
+            return {};
+        }
+    }
+    m_device->seek(0);
+    return QImageReader(m_device.get(), m_format).size();
+}
+
+QImage Picture::image(qint64 most) const
+{
+    PixelBudget budget;
+    return image(most, budget);
+}
+
+// budget is what the pictures in a drawing may have.
+QImage Picture::image(qint64 most, PixelBudget &budget) const
+{
+    if (!m_problem.isEmpty()) {
+        return {};
+    }
+    if (m_format == "svg") {
+        try {
+            return drawn(drawing(budget).text, most);
+        } catch (const LessonError &) {
+            return {};
+        }
+    }
+    m_device->seek(0);
+    QImageReader reader(m_device.get(), m_format);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    const bool isScaled = pixelsOf(size) > most;
+    if (isScaled && reader.supportsOption(QImageIOHandler::ScaledSize)) {
+        reader.setScaledSize(sizeOf(size, most));
+    } else if (pixelsOf(size) > PixelBudget::all) {
+        // All of it would be unpacked before it is made smaller.
+        return {};
+    }
+    const QImage image = reader.read();
+    return pixelsOf(image.size()) > most
+        ? image.scaled(sizeOf(image.size(), most), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        : image;
+}
+
+QByteArray Picture::content() const
+{
+    m_device->seek(0);
+    return m_device->readAll();
+}
+
+QString Picture::address(PixelBudget &budget) const
+{
+    const qint64 pixels = m_format == "svg" ? 1 : pixelsOf(size());
+    const qint64 most = budget.shareFor(pixels);
+    const QImage picture = most > 0 ? image(most, budget) : QImage();
+    if (picture.isNull()) {
+        return {};
+    }
+    budget.take(pixels, pixelsOf(picture.size()));
+    QByteArray bytes;
+    QByteArray type = m_format;
+    const bool isKnown = m_format == "png" || m_format == "jpeg" || m_format == "gif";
+    if (isKnown && pixels <= most && m_device->size() <= mostBytesBeside + pixels * mostBytesOfPixel) {
+        bytes = content();
+    } else {
+        type = m_format == "jpeg" ? "jpeg" : "png";
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        picture.save(&buffer, type.constData());
+    }
+    return QLatin1String("data:image/") + QString::fromLatin1(type) + QLatin1String(";base64,")
+        + QString::fromLatin1(bytes.toBase64());
+}
+
+QByteArray Picture::drawingText() const
+{
+    if (m_format != "svg") {
+        return {};
+    }
+    if (isPacked(*m_device)) {
+        return unpacked(*m_device, largestDrawing + 1);
+    }
+    return m_device->size() <= largestDrawing ? content() : QByteArray();
+}
+
+ClosedSvg Picture::drawing() const
+{
+    PixelBudget budget;
+    return drawing(budget);
+}
+
+ClosedSvg Picture::drawing(PixelBudget &budget) const
+{
+    const QByteArray text = drawingText();
+    if (text.isEmpty() || text.size() > largestDrawing) {
+        throw LessonError(
+            QStringLiteral("This is no drawing in svg of at most %1 MiB").arg(largestDrawing / 1024 / 1024),
+            QStringLiteral("Check the file"));
+    }
+    return closedSvg(text, QStringLiteral("svg"),
+                     [&](const QString &reference) { return addressOf(reference, budget); });
+}
+
+QString Picture::addressOf(const QString &reference, PixelBudget &budget) const
+{
+    if (m_depth >= mostDepth) {
+        return {};
+    }
+    if (reference.startsWith(QLatin1String("data:"))) {
+        return Picture(embedded(reference), {}, m_depth + 1).address(budget);
+    }
+    const QString path = fileBeside(m_folder, reference);
+    const auto file = path.isEmpty() ? nullptr : openedFile(path);
+    return file ? Picture(file->readAll(), QFileInfo(path).path(), m_depth + 1).address(budget) : QString();
+}
+
 QString pictureProblem(const QString &file)
 {
-    QFile opened(file);
-    if (!opened.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("it can't be read");
-    }
-    QImageReader reader(&opened);
-    const QByteArray format = reader.format();
-    if (format.isEmpty()) {
-        return isDrawing(opened) ? QString() : QStringLiteral("it is no picture that can be read");
-    }
-    if (format == "png" && !isWholePng(opened)) {
-        return QStringLiteral("it is a damaged picture");
-    }
-    opened.seek(0);
-    const QSize size = QImageReader(file).size();
-    if (qint64(size.width()) * size.height() > mostPixels) {
-        return QStringLiteral("it has more pixels than any screen");
-    }
-    return {};
+    return Picture(file).problem();
 }
 
 } // namespace lessonhost

@@ -1,12 +1,80 @@
 #ifndef PICTURES_H
 #define PICTURES_H
 
+#include "files/closedsvg.h"
+
+#include <QByteArray>
+#include <QIODevice>
+#include <QImage>
+#include <QSize>
 #include <QString>
+
+#include <memory>
 
 namespace lessonhost {
 
-//! Why the picture in a file can't be shown, as a clause such as "it is damaged", or nothing for one that can. Pictures
-//! of pixels are looked at without unpacking them; drawings in svg are taken as they are.
+/*!
+ * How many pixels the pictures that are drawn together may have, so that they fit into the memory: many large ones are
+ * made smaller, the more of them there are the more so.
+ */
+class PixelBudget
+{
+public:
+    static constexpr qint64 all = qint64(8192) * 8192;
+
+    //! What the next picture may have; 0 if there is nothing left for one that has so many before it is made smaller.
+    qint64 shareFor(qint64 pixels) const;
+    void take(qint64 pixels, qint64 drawn);
+
+private:
+    qint64 m_left = all;
+    qint64 m_unpackedLeft = 8 * all;
+};
+
+/*!
+ * A picture of a lesson. Everybody who looks at pictures does it through here: no library is given the name of a file
+ * or a text that names one. What a drawing in svg shows of other pictures is taken from files beside it or below, and
+ * from nowhere else.
+ */
+class Picture
+{
+public:
+    //! Of a plain file; for a link, a pipe or a device it is none.
+    explicit Picture(const QString &file);
+
+    //! Why it can't be shown, as a clause such as "it is a damaged picture", or nothing. Pictures of pixels are looked
+    //! at without unpacking them, drawings aren't read.
+    QString problem() const { return m_problem; }
+    //! "png", "jpeg" and so on, "svg" for drawings; empty for what is no picture.
+    QByteArray format() const { return m_format; }
+    //! Pixels; empty where it tells none.
+    QSize size() const;
+
+    //! Its pixels, made smaller if it has more than most. Null if it can't be drawn.
+    QImage image(qint64 most = PixelBudget::all) const;
+    //! The picture as an address "data:image/..." in a form that every viewer knows. Empty if it can't be drawn.
+    QString address(PixelBudget &budget) const;
+    //! A drawing that leads nowhere. Throws LessonError for what is no drawing.
+    ClosedSvg drawing() const;
+
+private:
+    //! Of a file's content. folder is where it lies; without one no other file is taken into it.
+    Picture(const QByteArray &content, const QString &folder, int depth);
+    void look();
+    QByteArray content() const;
+    QByteArray drawingText() const;
+    ClosedSvg drawing(PixelBudget &budget) const;
+    QImage image(qint64 most, PixelBudget &budget) const;
+    QString addressOf(const QString &reference, PixelBudget &budget) const;
+
+    std::unique_ptr<QIODevice> m_device;
+    QString m_folder;
+    int m_depth = 0; // drawings that it stands in
+    QByteArray m_format;
+    QString m_problem;
+};
+
+//! Picture(file).problem().
 QString pictureProblem(const QString &file);
 
 } // namespace lessonhost

@@ -26,10 +26,11 @@ constexpr qint64 textMemory = 200;
 class DocumentBuilder
 {
 public:
-    DocumentBuilder(QIODevice *text, const QString &name)
+    DocumentBuilder(QIODevice *text, const QString &name, XmlBlanks blanks)
         : m_source(text)
         , m_reader(&m_source)
         , m_name(name)
+        , m_blanks(blanks)
     {
         m_reader.setNamespaceProcessing(false);
     }
@@ -163,7 +164,7 @@ private:
     void flushText()
     {
         const bool isBlank = std::all_of(m_text.cbegin(), m_text.cend(), [](QChar c) { return c.unicode() <= 0x20; });
-        if (!isBlank) {
+        if (!isBlank || (m_blanks == XmlBlanks::Kept && !m_text.isEmpty())) {
             takeMemory(textMemory + m_text.size() * qint64(sizeof(QChar)));
             m_current.appendChild(m_document.createTextNode(m_text));
         }
@@ -173,6 +174,7 @@ private:
     XmlSource m_source;
     QXmlStreamReader m_reader;
     QString m_name;
+    XmlBlanks m_blanks;
     QDomDocument m_document;
     QDomNode m_current;
     QString m_text;
@@ -182,12 +184,12 @@ private:
 
 } // namespace
 
-QDomDocument loadXml(const QByteArray &text, const QString &displayName)
+QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlanks blanks)
 {
     QBuffer buffer;
     buffer.setData(text);
     buffer.open(QIODevice::ReadOnly);
-    return DocumentBuilder(&buffer, displayName).build();
+    return DocumentBuilder(&buffer, displayName, blanks).build();
 }
 
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
@@ -204,7 +206,7 @@ QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
                           QStringLiteral("Check that this is a lesson"))
             .in(name);
     }
-    return DocumentBuilder(&file, name).build();
+    return DocumentBuilder(&file, name, XmlBlanks::Dropped).build();
 }
 
 } // namespace lessonhost

@@ -24,8 +24,11 @@ constexpr qint64 maximumXmlMemory = qint64(512) * 1024 * 1024;
 //! displayName stands for the file in messages; if empty, fileName does.
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName = {});
 
+//! Texts of blanks between elements: mere layout, as in lessons, or words apart, as in drawings.
+enum class XmlBlanks { Dropped, Kept };
+
 //! The same for a text in memory.
-QDomDocument loadXml(const QByteArray &text, const QString &displayName);
+QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlanks blanks = XmlBlanks::Dropped);
 
 } // namespace lessonhost
 

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace lessonhost {
 
@@ -174,7 +173,7 @@ QString IwbReader::mediaFile(const IwbElement &item)
         return {};
     }
     if (isImage && item.element.attribute(QStringLiteral("width")).toDouble() <= 0) {
-        const QSize size = QImageReader(m_package.file(resource)).size();
+        const QSize size = Picture(m_package.file(resource)).size();
         QDomElement element = item.element;
         element.setAttribute(QStringLiteral("width"), qMax(0, size.width()));
         element.setAttribute(QStringLiteral("height"), qMax(0, size.height()));

@@ -16,7 +16,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 
 namespace lessonhost {
 
@@ -213,19 +212,28 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
             report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("a page has one background picture"));
             continue;
         }
-        const QString problem = pictureProblem(source);
-        if (!problem.isEmpty()) {
-            report(Loss::File, QStringLiteral("slide"), reference, problem);
+        const Picture picture(source);
+        if (!picture.problem().isEmpty()) {
+            report(Loss::File, QStringLiteral("slide"), reference, picture.problem());
             continue;
         }
         const QString name = id + QLatin1String(".png");
         const QString file = m_work.path() + libraryFolder + QLatin1Char('/') + name;
         QFile::remove(file);
-        const bool isPng = QImageReader(source).format() == "png";
-        const QImage picture = isPng ? QImage() : QImage(source);
-        if (!isPng && picture.isNull()) {
+        const bool isPng = picture.format() == "png";
+        const QImage image = isPng ? QImage() : picture.image();
+        if (!isPng && image.isNull()) {
             report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("it can't be made a PNG picture"));
-        } else if (isPng ? QFile::copy(source, file) : picture.save(file, "png")) {
+            continue;
+        }
+        if (picture.format() == "svg") {
+            const QStringList leftOut = picture.drawing().leftOut;
+            for (const QString &name : leftOut) {
+                report(Loss::File, QStringLiteral("slide"), reference,
+                       QStringLiteral("it shows \"%1\", which isn't beside it in the lesson").arg(name));
+            }
+        }
+        if (isPng ? QFile::copy(source, file) : image.save(file, "png")) {
             chosen = name;
         } else {
             failToPlace(reference);

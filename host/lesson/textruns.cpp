@@ -1,6 +1,7 @@
 #include "lesson/textruns.h"
 
 #include "files/xmltext.h"
+#include "lesson/closedtext.h"
 #include "lesson/fontvalues.h"
 
 #include <QFont>
@@ -11,7 +12,6 @@
 #include <QTextDocument>
 #include <QTextFragment>
 #include <QTextList>
-#include <QVariant>
 
 namespace lessonhost {
 
@@ -19,13 +19,6 @@ namespace {
 
 const QLatin1String listKey("IWB_TEXTINFO-VECTOR");
 const QLatin1String destroyerKey("IWB_TEXTINFO-DELVECTOR");
-
-// Text boards come from strangers, so nothing that their HTML names is loaded.
-class ClosedTextDocument : public QTextDocument
-{
-protected:
-    QVariant loadResource(int, const QUrl &) override { return {}; }
-};
 
 // The weight as style sheets of text documents write it: eight times the font's.
 QString htmlWeight(const QString &svg)
@@ -331,15 +324,17 @@ quintptr addressIn(const QJsonObject &item, QLatin1String key)
 TextRuns textRunsFromHtml(const QString &html)
 {
     ClosedTextDocument document;
-    document.setUndoRedoEnabled(false);
-    document.setHtml(html);
-    return runsOf(document);
+    const int leftOut = document.setLessonHtml(html);
+    TextRuns runs = runsOf(document);
+    if (leftOut > 0) {
+        runs.losses.append(QStringLiteral("%1 tags, which are too many or nested too deep").arg(leftOut));
+    }
+    return runs;
 }
 
 TextRuns textRunsFromPlainText(const QString &text)
 {
     ClosedTextDocument document;
-    document.setUndoRedoEnabled(false);
     document.setPlainText(text);
     return runsOf(document);
 }

@@ -1,12 +1,12 @@
 #include "render/namedboxes.h"
 
+#include "lesson/closedtext.h"
 #include "lesson/itemview.h"
 #include "lesson/plainnames.h"
 #include "render/plainsvg.h"
 
 #include <QJsonArray>
 #include <QLineF>
-#include <QTextDocumentFragment>
 
 namespace lessonhost {
 
@@ -22,9 +22,7 @@ QString textOn(const ItemView &item)
 {
     for (const char *key : textKeys) {
         const QString text = item.text(QLatin1String(key));
-        const QString plain = text.startsWith(QLatin1Char('<'))
-            ? QTextDocumentFragment::fromHtml(text).toPlainText().simplified()
-            : text.simplified();
+        const QString plain = text.startsWith(QLatin1Char('<')) ? plainWords(text) : text.simplified();
         if (!plain.isEmpty()) {
             return plain;
         }
@@ -50,8 +48,7 @@ double layOut(const QJsonObject &json, int parent, int depth, QVector<Node> &nod
 {
     const int self = nodes.size();
     Node node;
-    node.text =
-        QTextDocumentFragment::fromHtml(valueText(json.value(QLatin1String("nodeHtml")))).toPlainText().simplified();
+    node.text = plainWords(valueText(json.value(QLatin1String("nodeHtml"))));
     node.fill = itemColor(json.value(QLatin1String("fillColor"))).value_or(QColor(0xea, 0xf2, 0xfb));
     node.line = itemColor(json.value(QLatin1String("lineColor"))).value_or(QColor(0x4a, 0x6f, 0xa5));
     node.depth = depth;

@@ -1,16 +1,14 @@
 #include "render/plainsvg.h"
 
+#include "files/drawingbounds.h"
 #include "files/packagenames.h"
-#include "files/pictures.h"
+#include "files/xmltext.h"
 #include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
 #include "render/labellines.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QFontMetricsF>
-#include <QImageReader>
 #include <QVector>
 
 namespace lessonhost {
@@ -51,7 +49,7 @@ const char *const keptTags[] = {"rect", "circle", "ellipse", "line", "polyline",
 
 QString number(double value)
 {
-    return QString::number(qIsFinite(value) ? value : 0, 'f', 2);
+    return QString::number(qIsNaN(value) ? 0 : qBound(-largestInDrawing, value, largestInDrawing), 'f', 2);
 }
 
 QString withoutPrefix(const QString &tag)
@@ -150,33 +148,6 @@ QVector<Line> linesOf(const QDomElement &area, double width)
     return lines;
 }
 
-// The picture as the text of an address, in a form that every viewer knows. Empty for what is no picture.
-QString dataAddress(const QString &fileName)
-{
-    if (!pictureProblem(fileName).isEmpty()) {
-        return {};
-    }
-    QImageReader reader(fileName);
-    reader.setAutoTransform(true);
-    const QByteArray format = reader.format();
-    QByteArray content;
-    QString type = QString::fromLatin1(format);
-    if (format == "png" || format == "jpeg" || format == "gif") {
-        QFile file(fileName);
-        if (file.open(QIODevice::ReadOnly)) {
-            content = file.readAll();
-        }
-    } else if (const QImage image = reader.read(); !image.isNull()) {
-        QBuffer buffer(&content);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "png");
-        type = QStringLiteral("png");
-    }
-    return content.isEmpty() ? QString()
-                             : QString(QLatin1String("data:image/") + type + QLatin1String(";base64,")
-                                       + QString::fromLatin1(content.toBase64()));
-}
-
 } // namespace
 
 PlainSvg::PlainSvg(const QSizeF &size, const QString &folder)
@@ -197,6 +168,12 @@ PlainSvg::PlainSvg(const QSizeF &size, const QString &folder)
     paper.setAttribute(QStringLiteral("fill"), QStringLiteral("#ffffff"));
 }
 
+QByteArray PlainSvg::text()
+{
+    boundDrawing(m_svg);
+    return xmlNodeText(m_svg).toUtf8();
+}
+
 QDomElement PlainSvg::append(const QString &tag)
 {
     QDomElement element = m_document.createElement(tag);
@@ -204,13 +181,13 @@ QDomElement PlainSvg::append(const QString &tag)
     return element;
 }
 
-void PlainSvg::add(const QDomElement &element)
+bool PlainSvg::add(const QDomElement &element)
 {
     const QString tag = withoutPrefix(element.tagName());
     if (tag == QLatin1String("textarea")) {
         addText(element);
     } else if (tag == QLatin1String("image")) {
-        addPicture(element);
+        return addPicture(element);
     } else if (isOneOf(keptTags, tag)) {
         QDomElement copy = append(tag);
         copyAttributes(element, copy);
@@ -221,20 +198,23 @@ void PlainSvg::add(const QDomElement &element)
             }
         }
     }
+    return true;
 }
 
-void PlainSvg::addPicture(const QDomElement &image)
+bool PlainSvg::addPicture(const QDomElement &image)
 {
     const QString reference = image.attribute(QStringLiteral("xlink:href"));
     if (!problemWithPackagePath(reference).isEmpty()) {
-        return;
+        return false;
     }
-    const QString address = dataAddress(QDir(m_folder).filePath(reference));
-    if (!address.isEmpty()) {
-        QDomElement copy = append(QStringLiteral("image"));
-        copyAttributes(image, copy);
-        copy.setAttribute(QStringLiteral("xlink:href"), address);
+    const QString address = Picture(QDir(m_folder).filePath(reference)).address(m_pixels);
+    if (address.isEmpty()) {
+        return false;
     }
+    QDomElement copy = append(QStringLiteral("image"));
+    copyAttributes(image, copy);
+    copy.setAttribute(QStringLiteral("xlink:href"), address);
+    return true;
 }
 
 void PlainSvg::addText(const QDomElement &area)

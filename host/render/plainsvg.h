@@ -1,6 +1,8 @@
 #ifndef PLAINSVG_H
 #define PLAINSVG_H
 
+#include "files/pictures.h"
+
 #include <QColor>
 #include <QDomDocument>
 #include <QLineF>
@@ -20,10 +22,11 @@ public:
     PlainSvg(const QSizeF &size, const QString &folder);
 
     QSizeF size() const { return m_size; }
-    QDomElement element() const { return m_svg; }
+    //! What was added, within the bounds of drawings.
+    QByteArray text();
 
-    //! Adds an element of an IWB page.
-    void add(const QDomElement &element);
+    //! Adds an element of an IWB page. False for a picture that can't be drawn.
+    bool add(const QDomElement &element);
 
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);
@@ -34,10 +37,11 @@ public:
 private:
     QDomElement append(const QString &tag);
     void addText(const QDomElement &area);
-    void addPicture(const QDomElement &image);
+    bool addPicture(const QDomElement &image);
 
     QSizeF m_size;
     QString m_folder;
+    PixelBudget m_pixels;
     QDomDocument m_document;
     QDomElement m_svg;
 };

@@ -22,6 +22,7 @@ namespace lessonhost {
 namespace {
 
 constexpr int largestSide = 16384;
+constexpr int mostMegapixels = 64; // of a picture, four bytes each
 constexpr double pointsPerPixel = 0.75;
 
 const char *const pageHead = R"(<!DOCTYPE html>
@@ -69,6 +70,20 @@ QSize sizeFor(const SlidePicture &picture, const QSize &asked)
 {
     const QSize size = asked.isEmpty() ? picture.size.toSize() : asked;
     return size.boundedTo(QSize(largestSide, largestSide)).expandedTo(QSize(1, 1));
+}
+
+void refuseHuge(const QSize &size, int slide, const QString &output)
+{
+    if (qint64(size.width()) * size.height() > qint64(mostMegapixels) * 1000000) {
+        throw LessonError(
+            QStringLiteral("A picture of slide %1 would have %2 x %3 pixels, which are more than %4 million")
+                .arg(slide)
+                .arg(size.width())
+                .arg(size.height())
+                .arg(mostMegapixels),
+            QStringLiteral("Ask for a smaller one, such as --size 4000x3000, or write .pdf or .svg"))
+            .in(output);
+    }
 }
 
 // The picture in the middle of a page, its sides in their proportion.
@@ -283,6 +298,9 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     QJsonArray named;
     for (int i = 0; i < slides.size(); ++i) {
         const SlidePicture picture = pictures.picture(slides.at(i));
+        if (QFileInfo(output).suffix().compare(QLatin1String("png"), Qt::CaseInsensitive) == 0) {
+            refuseHuge(sizeFor(picture, settings.size), picture.slide, output);
+        }
         target->add(picture);
         for (const SlidePicture::Named &item : picture.named) {
             named.append(QJsonObject{{QStringLiteral("slide"), picture.slide},

@@ -1,14 +1,16 @@
 #include "render/slidepictures.h"
 
 #include "files/lessonerror.h"
+#include "files/pictures.h"
 #include "files/xmlloader.h"
-#include "files/xmltext.h"
 #include "lesson/itemview.h"
 #include "losses/lossreport.h"
 #include "render/namedboxes.h"
 #include "render/plainsvg.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QHash>
 
 namespace lessonhost {
@@ -76,6 +78,39 @@ SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context)
     }
 }
 
+// The drawn page lies in a folder of its own, away from what lay beside a drawing, so that goes into the drawing.
+void SlidePictures::collectFiles()
+{
+    const QStringList resources = m_reader.resources();
+    for (const QString &resource : resources) {
+        m_files.append({resource, m_reader.resourceFile(resource)});
+    }
+    for (int i = 0; i < m_files.size(); ++i) {
+        QString &source = m_files[i].second;
+        const Picture picture(source);
+        ClosedSvg drawing;
+        if (picture.format() == "svg") {
+            try {
+                drawing = picture.drawing();
+            } catch (const LessonError &) {
+                // It shows its name.
+                continue;
+            }
+        }
+        if (drawing.files > 0) {
+            const QString folder = m_folder.filePath(QStringLiteral("drawing%1").arg(i));
+            source = folder + QLatin1Char('/') + QFileInfo(source).fileName();
+            QFile copy(source);
+            if (!QDir().mkpath(folder) || !copy.open(QIODevice::WriteOnly)
+                || copy.write(drawing.text) != drawing.text.size() || !copy.flush()) {
+                throw LessonError(QStringLiteral("A drawing can't be prepared: %1").arg(copy.errorString()),
+                                  QStringLiteral("Make room in the folder for temporary files"))
+                    .in(m_files.at(i).first);
+            }
+        }
+    }
+}
+
 SlidePicture SlidePictures::picture(int index)
 {
     const LessonSlide slide = m_reader.slide(index);
@@ -99,8 +134,11 @@ SlidePicture SlidePictures::picture(int index)
     const QString package = m_folder.filePath(QStringLiteral("slide%1").arg(index));
     const auto writer = lessonFormatByName(QStringLiteral("iwb")).create(package, m_context);
     writer->begin(m_reader.presentation());
-    for (const QString &resource : files) {
-        writer->addResource(resource, m_reader.resourceFile(resource));
+    if (m_files.isEmpty()) {
+        collectFiles();
+    }
+    for (const auto &file : qAsConst(m_files)) {
+        writer->addResource(file.first, file.second);
     }
     writer->writeSlide(exported);
     writer->finish();
@@ -128,19 +166,14 @@ SlidePicture SlidePictures::picture(int index)
     NamedBoxes boxes(plain);
     for (const QJsonObject &item : qAsConst(items)) {
         const QDomElement element = drawn.value(item.value(ItemKeys::id).toString());
-        if (isDrawn(element)) {
-            plain.add(element);
-        } else if (!boxes.drawMindMap(item)) {
+        if ((!isDrawn(element) || !plain.add(element)) && !boxes.drawMindMap(item)) {
             const QDomElement picture = drawn.value(item.value(ItemKeys::id).toString() + QLatin1String("picture"));
-            if (isDrawn(picture)) {
-                plain.add(picture);
-            }
-            boxes.drawBox(item, isDrawn(picture));
+            boxes.drawBox(item, isDrawn(picture) && plain.add(picture));
             result.named.append({ItemView(item).type(), item.value(QLatin1String("OwnID")).toString()});
         }
     }
     QDir(package).removeRecursively();
-    result.svg = xmlNodeText(plain.element()).toUtf8();
+    result.svg = plain.text();
     return result;
 }
 

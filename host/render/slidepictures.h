@@ -40,9 +40,12 @@ public:
     SlidePicture picture(int index);
 
 private:
+    void collectFiles();
+
     LessonReader &m_reader;
     LessonContext m_context;
     WorkFolder m_folder;
+    QVector<QPair<QString, QString>> m_files; // paths in the lesson, and on disk
 };
 
 } // namespace lessonhost
