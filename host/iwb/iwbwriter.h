@@ -7,6 +7,7 @@
 #include "losses/lossreport.h"
 
 #include <QDir>
+#include <QSizeF>
 #include <QTemporaryDir>
 
 namespace lessonhost {
