@@ -171,7 +171,9 @@ ElementTemplate::ElementTemplate(const QString &xml)
 
 QDomElement ElementTemplate::instance() const
 {
-    return m_document.cloneNode().toDocument().documentElement();
+    // A cloned document would do, but for its elements: they still belong to the one that they were cloned from.
+    QDomDocument document;
+    return document.appendChild(document.importNode(m_document.documentElement(), true)).toElement();
 }
 
 QDomElement ElementTemplate::part() const
@@ -219,17 +221,6 @@ QDomElement descendantByTag(const QDomElement &parent, const QString &tag)
         return false;
     });
     return found;
-}
-
-QDomElement childByNameAttribute(const QDomElement &parent, const QString &name)
-{
-    const QString attribute = QStringLiteral("name");
-    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.attribute(attribute) == name) {
-            return child;
-        }
-    }
-    return {};
 }
 
 bool nestsTooDeep(const QDomElement &element)

@@ -70,9 +70,6 @@ template <typename Visit> void forEachDescendant(const QDomElement &parent, Visi
     forEachNodeBelow(parent, [&visit](const QDomNode &node) { return !node.isElement() || visit(node.toElement()); });
 }
 
-//! The first direct child element whose attribute "name" is name, or null. A missing attribute counts as empty.
-QDomElement childByNameAttribute(const QDomElement &parent, const QString &name);
-
 //! Whether elements nest more than 4000 deep in this one, so that printing them may take more stack than there is.
 bool nestsTooDeep(const QDomElement &element);
 

@@ -1,5 +1,6 @@
 #include "iwbitems.h"
 
+#include "links.h"
 #include "zqmathematicstran.h"
 #include "zqmediaitemtran.h"
 #include "zqtextboxtran.h"
@@ -7,27 +8,6 @@
 #include <memory>
 
 namespace {
-
-// Kind and value of the link that a target text stands for. The texts are looked for anywhere, but their length is
-// always cut from the front.
-void readLinkTarget(const QString &href, QJsonObject &json)
-{
-    const auto setLink = [&json](const char *kind, const QString &value) {
-        json.insert(QLatin1String("InteractiveType"), QLatin1String(kind));
-        json.insert(QLatin1String("InteractiveValue"), value);
-    };
-    if (href.contains(QLatin1String("http://")) || href.contains(QLatin1String("https://"))) {
-        setLink("ACTION_OPENWEB", href);
-    } else if (href.contains(QLatin1String("txt://"))) {
-        setLink("ACTION_TOOLTIP", href.mid(6));
-    } else if (href.contains(QLatin1String("#page"))) {
-        setLink("ACTION_GOTOSLIDE", href.mid(5));
-    } else if (href.contains(QLatin1String("tool://"))) {
-        setLink("ACTION_OPENTOOL", href.mid(7));
-    } else if (href.endsWith(QLatin1String(".txt"))) {
-        setLink("ACTION_OPENFILE", json.value(QLatin1String("path")).toString() + href);
-    }
-}
 
 template <typename Translator>
 QJsonObject convertAs(const QDomElement &element, const QJsonObject &json, const QString &type)

@@ -12,7 +12,7 @@ QString text(const char *latin1)
 
 KeyPaths row(const QString &key, const QStringList &path)
 {
-    return KeyPaths(KeyPaths::Row{key, path});
+    return KeyPaths({key, path});
 }
 
 KeyPaths rowsOf(std::initializer_list<const char *> keys, KeyPaths (*rowOf)(const char *key))
@@ -51,6 +51,16 @@ KeyPaths attribute(const char *key, const char *name)
 KeyPaths attributes(std::initializer_list<const char *> keys)
 {
     return rowsOf(keys, attribute);
+}
+
+KeyPaths attributesOf(const char *tag)
+{
+    return KeyPaths({text(tag), {QLatin1Char('[') + text(tag) + QLatin1Char(']')}, KeyPaths::Form::Attributes});
+}
+
+KeyPaths attributesOfChildren(const char *tag)
+{
+    return KeyPaths({text(tag), {QLatin1Char('<') + text(tag) + QLatin1Char('>')}, KeyPaths::Form::ChildAttributes});
 }
 
 KeyPaths childAttribute(const char *key, const char *element, const char *name)
@@ -102,19 +112,19 @@ KeyPaths without(const char *key)
 
 KeyMap KeyMap::with(const KeyPaths &paths) const
 {
-    QMap<QString, QStringList> sorted;
+    QMap<QString, Row> sorted;
     for (const Row &row : m_rows) {
-        sorted.insert(row.key, row.path);
+        sorted.insert(row.key, row);
     }
     for (const Row &row : paths.rows()) {
-        sorted.insert(row.key, row.path);
+        sorted.insert(row.key, row);
     }
     KeyMap map;
-    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
-        if (!it->isEmpty()) {
-            map.m_indexes.insert(it.key(), map.m_rows.size());
-            map.m_rows.append({it.key(), *it});
-            map.m_object.insert(it.key(), QJsonArray::fromStringList(*it));
+    for (const Row &row : qAsConst(sorted)) {
+        if (!row.path.isEmpty()) {
+            map.m_indexes.insert(row.key, map.m_rows.size());
+            map.m_rows.append(row);
+            map.m_object.insert(row.key, QJsonArray::fromStringList(row.path));
         }
     }
     return map;

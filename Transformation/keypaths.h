@@ -18,10 +18,18 @@
 class KeyPaths
 {
 public:
+    //! What a place holds. All but texts are in the raw form only.
+    enum class Form {
+        Text, //!< of an attribute
+        Attributes, //!< all of a descendant element, as an object under its tag
+        ChildAttributes //!< such an object for each child of a descendant element, as an array under its tag
+    };
+
     struct Row
     {
         QString key;
         QStringList path; //!< one to three segments; empty in a row that removes the key
+        Form form = Form::Text;
     };
 
     KeyPaths() = default;
@@ -40,6 +48,10 @@ KeyPaths attribute(const char *key, const char *name);
 
 //! Several attributes of the same names.
 KeyPaths attributes(std::initializer_list<const char *> keys);
+
+//! All attributes of the descendant element with this tag, or of each of its children.
+KeyPaths attributesOf(const char *tag);
+KeyPaths attributesOfChildren(const char *tag);
 
 //! An attribute of a child or descendant element.
 KeyPaths childAttribute(const char *key, const char *element, const char *name);

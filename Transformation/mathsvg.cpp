@@ -2,6 +2,7 @@
 
 #include "numbertext.h"
 
+#include <QColor>
 #include <QHash>
 #include <QLineF>
 #include <QStringList>
@@ -88,6 +89,26 @@ void parallelogramGeometry(const QJsonObject &json, SvgAttributes &svg)
     setPoints(svg,
               closedOutline({p2, QPointF(p1.x() - width * 0.5, p1.y()), QPointF(p1.x() + width * 0.5, p1.y()),
                              QPointF(p2.x() + width, p2.y())}));
+}
+
+// The closed outline as svg points. Empty for fewer than one corner, and for more than 10000, which no lesson means.
+QString regularPolygonPoints(const QMatrix &matrix, int corners)
+{
+    if (corners <= 0 || corners > 10000) {
+        return {};
+    }
+    const double pi = 3.1415926;
+    const QPointF first = corners == 4 ? QPointF(70, 70) : QPointF(86, 50);
+    const double radius = QLineF(QPointF(), first).length();
+    const int step = 360 / corners; // whole degrees: the remainder is dropped
+    const double start = 360 - std::atan(first.y() / first.x()) / pi * 180;
+    QVector<QPointF> outline{matrix.map(first)};
+    outline.reserve(corners + 1);
+    for (int i = 1; i < corners; ++i) {
+        const double angle = (i * step + start) / 180 * pi;
+        outline.append(matrix.map(QPointF(radius * std::cos(angle), -std::sin(angle) * radius)));
+    }
+    return closedOutline(outline);
 }
 
 void normalPolygonGeometry(const QJsonObject &json, SvgAttributes &svg)
@@ -295,6 +316,20 @@ void setStroke(const SvgShape &shape, const QJsonObject &json, SvgAttributes &sv
     svg.set(QStringLiteral("stroke"), QString(QLatin1String("rgb(") + text + QLatin1Char(')')));
 }
 
+// a,r,g,b or r,g,b in decimal, opaque without an alpha. Another number of parts gives an invalid, opaque colour, and so
+// do channels beyond 0 to 255, but a transparent one.
+QColor parseColorText(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (parts.size() == 4) {
+        return {integerPart(parts, 1), integerPart(parts, 2), integerPart(parts, 3), integerPart(parts, 0)};
+    }
+    if (parts.size() == 3) {
+        return {integerPart(parts, 0), integerPart(parts, 1), integerPart(parts, 2)};
+    }
+    return {};
+}
+
 void setFill(const SvgShape &shape, const QJsonObject &json, SvgAttributes &svg)
 {
     if (shape.fill == SvgShape::NoFill) {
@@ -324,6 +359,28 @@ int penStyleOf(const QString &lineStyle)
     default:
         return Qt::SolidLine;
     }
+}
+
+// The pattern of a pen style for a line width in pixels; empty for a solid line.
+QString dashArrayFor(int penStyle, int width)
+{
+    // Products of any width in a file need more than 32 bits.
+    const auto times = [width](int factor) { return QString::number(qint64(width) * factor); };
+    QStringList pattern;
+    switch (penStyle) {
+    case Qt::DashLine:
+        pattern = QStringList{times(5), times(5)};
+        break;
+    case Qt::DashDotLine:
+        pattern = QStringList{times(10), times(2), times(10)};
+        break;
+    case Qt::DashDotDotLine:
+        pattern = QStringList{times(10), times(2), times(2), times(2)};
+        break;
+    default:
+        break;
+    }
+    return pattern.join(QLatin1Char(','));
 }
 
 } // namespace
@@ -373,39 +430,6 @@ void setSvgPaint(const SvgShape &shape, const QJsonObject &json, SvgAttributes &
     }
 }
 
-QColor parseColorText(const QString &text)
-{
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (parts.size() == 4) {
-        return {integerPart(parts, 1), integerPart(parts, 2), integerPart(parts, 3), integerPart(parts, 0)};
-    }
-    if (parts.size() == 3) {
-        return {integerPart(parts, 0), integerPart(parts, 1), integerPart(parts, 2)};
-    }
-    return {};
-}
-
-QString dashArrayFor(int penStyle, int width)
-{
-    // Products of any width in a file need more than 32 bits.
-    const auto times = [width](int factor) { return QString::number(qint64(width) * factor); };
-    QStringList pattern;
-    switch (penStyle) {
-    case Qt::DashLine:
-        pattern = QStringList{times(5), times(5)};
-        break;
-    case Qt::DashDotLine:
-        pattern = QStringList{times(10), times(2), times(10)};
-        break;
-    case Qt::DashDotDotLine:
-        pattern = QStringList{times(10), times(2), times(2), times(2)};
-        break;
-    default:
-        break;
-    }
-    return pattern.join(QLatin1Char(','));
-}
-
 float degreesOf(float radians)
 {
     return float(double(radians) * 180.0 / 3.14159);
@@ -420,23 +444,4 @@ QMatrix rotationAbout(float degrees, const QPointF &center)
     QMatrix back;
     back.translate(center.x(), center.y());
     return toOrigin * rotation * back;
-}
-
-QString regularPolygonPoints(const QMatrix &matrix, int corners)
-{
-    if (corners <= 0 || corners > 10000) {
-        return {};
-    }
-    const double pi = 3.1415926;
-    const QPointF first = corners == 4 ? QPointF(70, 70) : QPointF(86, 50);
-    const double radius = QLineF(QPointF(), first).length();
-    const int step = 360 / corners; // whole degrees: the remainder is dropped
-    const double start = 360 - std::atan(first.y() / first.x()) / pi * 180;
-    QVector<QPointF> outline{matrix.map(first)};
-    outline.reserve(corners + 1);
-    for (int i = 1; i < corners; ++i) {
-        const double angle = (i * step + start) / 180 * pi;
-        outline.append(matrix.map(QPointF(radius * std::cos(angle), -std::sin(angle) * radius)));
-    }
-    return closedOutline(outline);
 }

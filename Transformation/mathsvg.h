@@ -3,7 +3,6 @@
 
 #include "keypaths.h"
 
-#include <QColor>
 #include <QDomElement>
 #include <QJsonObject>
 #include <QMatrix>
@@ -71,27 +70,10 @@ QJsonObject svgEllipseToJson(const QDomElement &element, QJsonObject json);
 //! Type, matrix, control points and paint of an svg:rect, for an object that holds its attributes already.
 QJsonObject readSvgRect(const QDomElement &element, QJsonObject json);
 
-//! The colour of a,r,g,b or r,g,b in decimal, opaque without an alpha. Another number of parts gives an invalid,
-//! opaque colour, and so do channels beyond 0 to 255, but a transparent one.
-QColor parseColorText(const QString &text);
-
-//! The dash pattern of a pen style (2 dash, 4 dash dot, 5 dash dot dot) for a line width in pixels; otherwise empty.
-QString dashArrayFor(int penStyle, int width);
-
-//! The line style (0 to 3) that a dash pattern stands for, by the number of its parts alone.
-int dashArrayToLineStyle(const QString &text);
-
-//! "rgb(1,2,3)" without "rgb", "(" and ")".
-QString stripRgb(const QString &text);
-
 //! The degrees of an angle in radians, with 3.14159 for pi as the format has it.
 float degreesOf(float radians);
 
 //! A rotation by degrees about a point.
 QMatrix rotationAbout(float degrees, const QPointF &center);
-
-//! The closed outline of a regular polygon as svg points, mapped by the matrix. Empty for fewer than one corner, and
-//! for more than 10000, which no lesson means.
-QString regularPolygonPoints(const QMatrix &matrix, int corners);
 
 #endif // MATHSVG_H

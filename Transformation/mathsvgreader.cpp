@@ -7,6 +7,28 @@
 
 namespace {
 
+// "rgb(1,2,3)" without "rgb", "(" and ")".
+QString stripRgb(const QString &text)
+{
+    QString stripped = text;
+    return stripped.remove(QLatin1String("rgb")).remove(QLatin1Char('(')).remove(QLatin1Char(')'));
+}
+
+// The line style (0 to 3) that a dash pattern stands for, by the number of its parts alone.
+int dashArrayToLineStyle(const QString &text)
+{
+    switch (text.count(QLatin1Char(',')) + 1) {
+    case 4:
+        return 1;
+    case 2:
+        return 2;
+    case 3:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
 void readStroke(const QDomElement &element, const char *key, QJsonObject &json)
 {
     json.insert(QLatin1String(key), stripRgb(element.attribute(QStringLiteral("stroke"))));
@@ -172,24 +194,4 @@ QJsonObject readSvgRect(const QDomElement &element, QJsonObject json)
     readDash(element, "ArtObj_Mode", json);
     json.insert(QLatin1String("BoundingBox_IWB_RECT"), QStringList{zero, zero, width, height}.join(QLatin1Char(',')));
     return json;
-}
-
-int dashArrayToLineStyle(const QString &text)
-{
-    switch (text.count(QLatin1Char(',')) + 1) {
-    case 4:
-        return 1;
-    case 2:
-        return 2;
-    case 3:
-        return 3;
-    default:
-        return 0;
-    }
-}
-
-QString stripRgb(const QString &text)
-{
-    QString stripped = text;
-    return stripped.remove(QLatin1String("rgb")).remove(QLatin1Char('(')).remove(QLatin1Char(')'));
 }

@@ -26,7 +26,7 @@ struct Conversion
     std::optional<Level> inner;
 };
 
-thread_local Conversion *runningConversion = nullptr;
+Conversion *runningConversion = nullptr;
 
 // Converts an item of the walk without its own nested items; those are left in the conversion.
 QJsonObject convert(Conversion &conversion, const Level &level)

@@ -51,6 +51,12 @@ std::optional<double> plainNumber(QStringView text)
     return result.ec == std::errc() && result.ptr == end ? std::make_optional(number) : std::nullopt;
 }
 
+double toNumber(QStringView text)
+{
+    const auto number = plainNumber(text);
+    return number ? *number : text.toString().toDouble();
+}
+
 } // namespace
 
 QString numberText(double value)
@@ -74,12 +80,6 @@ void appendNumber(QString &text, double value)
         ? std::to_chars(begin, end, int(value))
         : std::to_chars(begin, end, withoutTie(value), std::chars_format::general, 6);
     text += QLatin1String(begin, int(result.ptr - begin));
-}
-
-double toNumber(QStringView text)
-{
-    const auto number = plainNumber(text);
-    return number ? *number : text.toString().toDouble();
 }
 
 float toSingle(QStringView text)
@@ -134,19 +134,4 @@ std::optional<QRectF> boxFromText(const QString &text)
 QString boxToText(const QRectF &box)
 {
     return joined<4>({box.left(), box.top(), box.right(), box.bottom()});
-}
-
-std::optional<QRectF> rectangleFromText(const QString &text)
-{
-    const auto numbers = leadingFloats<4>(text);
-    if (!numbers) {
-        return std::nullopt;
-    }
-    const auto &n = *numbers;
-    return QRectF(qreal(n[0]), qreal(n[1]), qreal(n[2]), qreal(n[3]));
-}
-
-int majorVersion(const QString &version)
-{
-    return version.section(QLatin1Char('.'), 0, 0).toInt();
 }

@@ -20,10 +20,7 @@ QString numberText(double value);
 //! The same, at the end of a text.
 void appendNumber(QString &text, double value);
 
-//! The number of a whole text, as Qt reads it in the C locale; 0 for any other text.
-double toNumber(QStringView text);
-
-//! The same in single precision.
+//! The number of a whole text in single precision, as Qt reads it in the C locale; 0 for any other text.
 float toSingle(QStringView text);
 
 //! The numbers of a text, split at every comma; an empty text gives the single number 0.
@@ -59,11 +56,5 @@ std::optional<QRectF> boxFromText(const QString &text);
 
 //! left,top,right,bottom, six digits each.
 QString boxToText(const QRectF &box);
-
-//! x,y,width,height in single precision as a rectangle; nothing if there are fewer than four parts.
-std::optional<QRectF> rectangleFromText(const QString &text);
-
-//! The first number of a version such as "3.0.1", 0 if it is no number.
-int majorVersion(const QString &version);
 
 #endif // NUMBERTEXT_H

@@ -50,7 +50,7 @@ void RawPlaces::findDescendants()
     });
 }
 
-thread_local NestedSearches *NestedSearches::s_current = nullptr;
+NestedSearches *NestedSearches::s_current = nullptr;
 
 NestedSearches::NestedSearches()
     : m_outer(s_current)

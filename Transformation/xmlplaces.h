@@ -68,7 +68,7 @@ private:
     static QDomElement newSearch(const QDomElement &holder, const QString &tag);
     const Search *searchAround(const QDomNode &item, const QString &tag);
 
-    static thread_local NestedSearches *s_current;
+    static NestedSearches *s_current;
 
     QVector<Search> m_searches; //!< of the items that are open, from the outside in
     NestedSearches *m_outer;

@@ -1,7 +1,6 @@
 #include "zqactivityitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "markupbuilder.h"
 
 #include <algorithm>
@@ -12,7 +11,9 @@ namespace {
 const QLatin1String flipCard("ZQActivityFlipItem");
 const QLatin1String attachments("attachments");
 
-const FamilyVocabulary &vocabulary()
+} // namespace
+
+const FamilyVocabulary &ZQActivityItemTran::vocabulary()
 {
     static const KeyPaths defaultText = {
         path("defaultTextSize", "data", "content", "defaultTextSize"),
@@ -43,6 +44,8 @@ const FamilyVocabulary &vocabulary()
         });
     return table;
 }
+
+namespace {
 
 // Types of which only a part of the name is told. They have the keys of a container.
 bool hasActivityName(const QString &type)
@@ -167,11 +170,6 @@ std::unique_ptr<ZQHTran> ZQActivityItemTran::create(const QString &type)
     return isMine ? std::make_unique<ZQActivityItemTran>(type) : nullptr;
 }
 
-QStringList ZQActivityItemTran::types()
-{
-    return vocabulary().types();
-}
-
 QString ZQActivityItemTran::toTxType(const QString &type)
 {
     QString txType = typePairs().toTxType(type);
@@ -219,12 +217,9 @@ QJsonObject ZQActivityItemTran::tranZQTX2JSON(QDomElement element, QJsonObject j
     return json;
 }
 
-QDomElement ZQActivityItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQActivityItemTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        element = activityElement(itemType == flipCard, json);
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    return activityElement(itemType == flipCard, json);
 }
 
 QDomElement ZQActivityItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)

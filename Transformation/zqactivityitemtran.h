@@ -1,9 +1,8 @@
 #ifndef ZQACTIVITYITEMTRAN_H
 #define ZQACTIVITYITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
-
-#include <QStringList>
 
 #include <memory>
 
@@ -11,15 +10,15 @@
  * The items that a classroom activity puts on its slide, beside the slide's own record of the activity: containers and
  * materials of games, flip cards, sentence parts, marks, texts of a pronunciation test. They have no IWB form.
  */
-class ZQActivityItemTran : public ZQComItemControlTran
+class ZQActivityItemTran : public ZQComItemControlTran, public ItemFamily<ZQActivityItemTran>
 {
 public:
     explicit ZQActivityItemTran(const QString &type);
 
+    static const FamilyVocabulary &vocabulary();
+
     static std::unique_ptr<ZQHTran> create(const QString &type);
 
-    //! The types that the family's table names.
-    static QStringList types();
     static QString toTxType(const QString &type);
     static QString fromTxType(const QString &type);
 
@@ -29,11 +28,12 @@ public:
     //! Reads "back" and "front" of the attachments, not "error".
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
-    //! The texts of "attachments" go into a new element as they stand; where one breaks the XML, the rest is missing.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
-
     QDomElement tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    //! The texts of "attachments" go into a new element as they stand; where one breaks the XML, the rest is missing.
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQACTIVITYITEMTRAN_H

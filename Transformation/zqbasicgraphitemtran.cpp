@@ -1,11 +1,8 @@
 #include "zqbasicgraphitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQBasicGraphItemTran::vocabulary()
 {
     static const KeyPaths shapeRows = {
         property("ArtObj_Mode"),
@@ -49,10 +46,12 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
+namespace {
+
 // The type of the table whose line serves a type, or the empty text. Some types only need to contain a name.
 QString servingType(const QString &type)
 {
-    if (vocabulary().contains(type)) {
+    if (ZQBasicGraphItemTran::vocabulary().contains(type)) {
         return type;
     }
     for (const QString &name : {QStringLiteral("ZQBasicNormalItem"), QStringLiteral("ZQBasicSegmentItem"),
@@ -77,19 +76,11 @@ std::unique_ptr<ZQHTran> ZQBasicGraphItemTran::create(const QString &type)
     return servingType(type).isEmpty() ? nullptr : std::make_unique<ZQBasicGraphItemTran>(type);
 }
 
-QStringList ZQBasicGraphItemTran::types()
+QDomElement ZQBasicGraphItemTran::newTxElement(const QJsonObject &) const
 {
-    return vocabulary().types();
-}
-
-QDomElement ZQBasicGraphItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
-{
-    if (element.isNull()) {
-        static const ElementTemplate graph(
-            QStringLiteral(R"(<basicgraph id="" visible="1" locked="0" uclone="0"  type="basicgraph">)"
-                           R"(<transform><rotate angle="0"/></transform><data><rect points="" controlpoints="" />)"
-                           R"(<content text="" type="html"/></data></basicgraph>)"));
-        element = graph.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate graph(
+        QStringLiteral(R"(<basicgraph id="" visible="1" locked="0" uclone="0"  type="basicgraph">)"
+                       R"(<transform><rotate angle="0"/></transform><data><rect points="" controlpoints="" />)"
+                       R"(<content text="" type="html"/></data></basicgraph>)"));
+    return graph.instance();
 }

@@ -1,7 +1,6 @@
 #include "zqcharacteritemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
@@ -14,13 +13,13 @@ const KeyPaths &txPaths()
     return paths;
 }
 
-const TypePairs &typePairs()
+} // namespace
+
+const TypePairs &ZQCharacterItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQChineseCharacterItem", "character"}};
     return pairs;
 }
-
-} // namespace
 
 ZQCharacterItemTran::ZQCharacterItemTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -34,25 +33,12 @@ std::unique_ptr<ZQHTran> ZQCharacterItemTran::create(const QString &type)
     return type == QLatin1String("ZQChineseCharacterItem") ? std::make_unique<ZQCharacterItemTran>(type) : nullptr;
 }
 
-QString ZQCharacterItemTran::toTxType(const QString &type)
+QDomElement ZQCharacterItemTran::newTxElement(const QJsonObject &) const
 {
-    return typePairs().toTxType(type);
-}
-
-QString ZQCharacterItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
-}
-
-QDomElement ZQCharacterItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
-{
-    if (element.isNull()) {
-        static const ElementTemplate item(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<character visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><rect points="" controlpoints=""/></data></character>)"));
-        element = item.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate item(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<character visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><rect points="" controlpoints=""/></data></character>)"));
+    return item.instance();
 }

@@ -1,6 +1,7 @@
 #ifndef ZQCHARACTERITEMTRAN_H
 #define ZQCHARACTERITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
 
 #include <memory>
@@ -8,16 +9,17 @@
 /*!
  * The card of a Chinese character: the character, its pinyin and how it is shown.
  */
-class ZQCharacterItemTran : public ZQComItemControlTran
+class ZQCharacterItemTran : public ZQComItemControlTran, public PairedTypes<ZQCharacterItemTran>
 {
 public:
     explicit ZQCharacterItemTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
+    static const TypePairs &typePairs();
 
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQCHARACTERITEMTRAN_H

@@ -1,10 +1,6 @@
 #include "zqchemistrytran.h"
 
-#include "keypaths.h"
-
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQChemistryTran::vocabulary()
 {
     static const KeyPaths withoutVessel = {
         without("ArtObj_DisplayLiquid"),
@@ -98,11 +94,13 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
+namespace {
+
 // The way from ZQTX types back to item types.
 QHash<QString, QString> readableTypes()
 {
     QHash<QString, QString> types;
-    for (const QString &type : vocabulary().types()) {
+    for (const QString &type : ZQChemistryTran::vocabulary().types()) {
         types.insert(ZQChemistryTran::toTxType(type), type);
     }
     types.remove(QStringLiteral("Chemistry:expressions"));
@@ -115,16 +113,6 @@ ZQChemistryTran::ZQChemistryTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQChemistryTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQChemistryTran>(type) : nullptr;
-}
-
-QStringList ZQChemistryTran::types()
-{
-    return vocabulary().types();
 }
 
 QString ZQChemistryTran::toTxType(const QString &type)

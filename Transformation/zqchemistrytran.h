@@ -1,26 +1,19 @@
 #ifndef ZQCHEMISTRYTRAN_H
 #define ZQCHEMISTRYTRAN_H
 
+#include "itemfamily.h"
 #include "zqdisciplineitemtran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * The apparatus of the chemistry box: glassware, stands, burners, and the benzene ring, atom and formula items. A
  * vocabulary and nothing else.
  */
-class ZQChemistryTran : public ZQDisciplineItemTran
+class ZQChemistryTran : public ZQDisciplineItemTran, public ItemFamily<ZQChemistryTran>
 {
 public:
     explicit ZQChemistryTran(const QString &type);
 
-    //! Null for a type that isn't of this family.
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
+    static const FamilyVocabulary &vocabulary();
 
     //! The ZQTX type of any text with "ZQChemistry" in it, listed or not: ZQChemistryShaobei gives Chemistry:shaobei.
     static QString toTxType(const QString &type);

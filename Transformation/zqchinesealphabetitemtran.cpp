@@ -1,7 +1,6 @@
 #include "zqchinesealphabetitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
@@ -17,13 +16,13 @@ const KeyPaths &txPaths()
     return paths;
 }
 
-const TypePairs &typePairs()
+} // namespace
+
+const TypePairs &ZQChineseAlphabetItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQChineseAlphabetItem", "ZQChineseAlphabetItem"}};
     return pairs;
 }
-
-} // namespace
 
 ZQChineseAlphabetItemTran::ZQChineseAlphabetItemTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -38,16 +37,6 @@ std::unique_ptr<ZQHTran> ZQChineseAlphabetItemTran::create(const QString &type)
     return type == QLatin1String("ZQChineseAlphabetItem") ? std::make_unique<ZQChineseAlphabetItemTran>(type) : nullptr;
 }
 
-QString ZQChineseAlphabetItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQChineseAlphabetItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
-}
-
 QDomElement ZQChineseAlphabetItemTran::tranJSON2IWB(QDomElement element, QJsonObject, QJsonObject)
 {
     return element;
@@ -58,16 +47,13 @@ QJsonObject ZQChineseAlphabetItemTran::tranIWB2JSON(QDomElement, QJsonObject jso
     return json;
 }
 
-QDomElement ZQChineseAlphabetItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQChineseAlphabetItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate item(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<pinyin_item visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<background><picture document=""/></background>)"
-                           R"(<data><rect points="" controlpoints=""/><content/></data></pinyin_item>)"));
-        element = item.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate item(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<pinyin_item visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<background><picture document=""/></background>)"
+                       R"(<data><rect points="" controlpoints=""/><content/></data></pinyin_item>)"));
+    return item.instance();
 }

@@ -2,6 +2,7 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "links.h"
 #include "nesteditems.h"
 #include "numbertext.h"
 #include "transformationplugin.h"
@@ -9,7 +10,6 @@
 
 #include <array>
 #include <cmath>
-#include <mutex>
 
 namespace {
 
@@ -96,63 +96,43 @@ void normalizeFlags(QJsonObject &json)
 
 const QLatin1String typeKey("Type");
 const QLatin1String matrixKey("Matrix");
+const QLatin1String slideMatrixKey("SlideMatrix");
 const QLatin1String boxKey("BoundingBox");
 
 // How the items of a slide are fitted into the page.
-struct SlideFit
+QMatrix slideFit(const QJsonObject &slide)
 {
-    QString source; //!< the text of the slide's source rectangle
-    QMatrix matrix;
-    QString text; //!< of the matrix
-    QJsonObject item; //!< what an item has, but for its type, if its element says nothing
-};
-
-// The matrix of an item on the page. A text that is no matrix stays as it is.
-QString fittedMatrix(const std::optional<QString> &text, const SlideFit &fit)
-{
-    if (!text) {
-        return fit.text;
+    const auto numbers = leadingFloats<4>(slide.value(QLatin1String("SlideSourceRect")).toString());
+    if (!numbers) {
+        return {};
     }
-    const auto matrix = matrixFromText(*text);
-    return matrix ? matrixToText(*matrix * fit.matrix) : *text;
+    const auto [x, y, width, height] = *numbers;
+    const QRectF source{qreal(x), qreal(y), qreal(width), qreal(height)};
+    return ZQComItemControlTran::fitMatrix(source, QRectF({}, ZQComItemControlTran::slideTargetSize(source)));
 }
 
-QJsonObject unfittedItem()
+// The matrix of an item on the page. A text that is no matrix stays as it is.
+QString fittedMatrix(const std::optional<QString> &text, const QMatrix &fit, const QString &fitText)
+{
+    if (!text) {
+        return fitText;
+    }
+    const auto matrix = matrixFromText(*text);
+    return matrix ? matrixToText(*matrix * fit) : *text;
+}
+
+// What an item has, but for its type, if its element says nothing.
+QJsonObject newItem()
 {
     return {{typeKey, QString()}, {visibleKey, true}, {lockKey, flagText(false)}, {cloneKey, flagText(false)}};
 }
 
-SlideFit makeFit(const QString &sourceText)
+QJsonObject newFittedItem()
 {
-    SlideFit fit{sourceText, {}, {}, unfittedItem()};
-    if (const auto source = rectangleFromText(sourceText)) {
-        const QRectF target(QPointF(), ZQComItemControlTran::slideTargetSize(*source));
-        fit.matrix = ZQComItemControlTran::fitMatrix(*source, target);
-    }
-    fit.text = matrixToText(fit.matrix);
-    fit.item.insert(matrixKey, fit.text);
-    fit.item.insert(QLatin1String("SlideMatrix"), fit.text);
-    return fit;
-}
-
-// The items of a slide come one after the other, so the last fit is kept, for all threads. One for each thread would have
-// to be destroyed by its thread before the plug-in could be unloaded.
-SlideFit fitOf(const QJsonObject &slide)
-{
-    static std::mutex mutex;
-    static SlideFit last = makeFit({});
-    const QString source = slide.value(QLatin1String("SlideSourceRect")).toString();
-    const std::lock_guard<std::mutex> lock(mutex);
-    if (source != last.source) {
-        last = makeFit(source);
-    }
-    return last;
-}
-
-bool isAcceptedLink(const QString &kind)
-{
-    return kind == QLatin1String("ACTION_OPENFILE") || kind == QLatin1String("ACTION_OPENWEB")
-        || kind == QLatin1String("ACTION_GOTOSLIDE");
+    QJsonObject item = newItem();
+    item.insert(matrixKey, QString());
+    item.insert(slideMatrixKey, QString());
+    return item;
 }
 
 // Whether an attribute of the script may be the id. A script can be long and most items have no part in it, so it is
@@ -178,17 +158,20 @@ QJsonObject ZQComItemControlTran::tranXML2JSON(QDomElement element, QJsonObject 
     const QJsonObject slide = context.value(QLatin1String("slide")).toObject();
     // The record of deleted pixels is meant without the s that its item type has.
     const bool isFitted = type != QLatin1String("ZQStrokeDeletePixel") && type != QLatin1String("ZQGroupItem");
-    const std::optional<SlideFit> fit = isFitted ? std::make_optional(fitOf(slide)) : std::nullopt;
     // Replacing values costs less than adding keys, so the keys of any item are there from the start.
-    static const QJsonObject unfitted = unfittedItem();
-    QJsonObject item = fit ? fit->item : unfitted;
+    static const QJsonObject unfitted = newItem();
+    static const QJsonObject fitted = newFittedItem();
+    QJsonObject item = isFitted ? fitted : unfitted;
     for (auto it = json.constBegin(); it != json.constEnd(); ++it) {
         item.insert(it.key(), it.value());
     }
     item = ZQHTran::tranXML2JSON(element, item, context);
     item.insert(typeKey, type);
-    if (fit) {
-        m_raw.matrix = fittedMatrix(m_raw.matrix, *fit);
+    if (isFitted) {
+        const QMatrix fit = slideFit(slide);
+        const QString fitText = matrixToText(fit);
+        m_raw.matrix = fittedMatrix(m_raw.matrix, fit, fitText);
+        item.insert(slideMatrixKey, fitText);
     }
     if (foldsMatrixIntoBox) {
         foldMatrix(m_raw);
@@ -208,7 +191,7 @@ QJsonObject ZQComItemControlTran::tranZQTX2JSON(QDomElement element, QJsonObject
 
 QDomElement ZQComItemControlTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
 {
-    element = ZQHTran::tranJSON2ZQTX(element, json, context);
+    element = ZQHTran::tranJSON2ZQTX(element.isNull() ? newTxElement(json) : element, json, context);
     writeItemAnimations(element, json);
     return element;
 }
@@ -289,10 +272,15 @@ void ZQComItemControlTran::storeRawText(const QString &key, const QString &text,
     }
 }
 
+QDomElement ZQComItemControlTran::newTxElement(const QJsonObject &) const
+{
+    return {};
+}
+
 int ZQComItemControlTran::lessonVersion(const QJsonObject &context)
 {
     const QJsonObject presentation = context.value(QLatin1String("pres")).toObject();
-    return majorVersion(presentation.value(QLatin1String("Version")).toString());
+    return presentation.value(QLatin1String("Version")).toString().section(QLatin1Char('.'), 0, 0).toInt();
 }
 
 void ZQComItemControlTran::readNestedItems(const QDomElement &element, QJsonObject &json, const QJsonObject &context)
@@ -364,7 +352,7 @@ void ZQComItemControlTran::readLink(QJsonObject &json, const QJsonObject &slide)
                 continue;
             }
             const QString kind = descendantByTag(tag, QStringLiteral("interactiveType")).attribute(valueAttribute);
-            if (isAcceptedLink(kind)) {
+            if (mayStandInTags(kind)) {
                 const QDomElement reservation = descendantByTag(tag, QStringLiteral("reservation"));
                 json.insert(QLatin1String("InteractiveType"), kind);
                 json.insert(QLatin1String("InteractiveValue"), reservation.attribute(valueAttribute));

@@ -42,6 +42,9 @@ protected:
     //! Keeps back the flags and what the item's place is made of, which are stored in their final form at the end.
     void storeRawText(const QString &key, const QString &text, QJsonObject &json) override;
 
+    //! A new element for an item that the host gives none for. Null in a family that writes into given ones only.
+    virtual QDomElement newTxElement(const QJsonObject &json) const;
+
     //! The major version of the lesson, from "pres" in the context; 0 if it isn't told.
     static int lessonVersion(const QJsonObject &context);
 

@@ -1,7 +1,6 @@
 #include "zqcomplexortran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 #include "xmlplaces.h"
 
@@ -13,9 +12,7 @@
 #include <array>
 #include <cmath>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQComplexorTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {{}, {}, {}},
@@ -34,6 +31,8 @@ const FamilyVocabulary &vocabulary()
         });
     return table;
 }
+
+namespace {
 
 const QLatin1String managerKey("manager");
 
@@ -139,16 +138,6 @@ ZQComplexorTran::ZQComplexorTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQComplexorTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQComplexorTran>(type) : nullptr;
-}
-
-QStringList ZQComplexorTran::types()
-{
-    return vocabulary().types();
 }
 
 QString ZQComplexorTran::toTxType(const QString &type)

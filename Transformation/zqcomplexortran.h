@@ -1,27 +1,20 @@
 #ifndef ZQCOMPLEXORTRAN_H
 #define ZQCOMPLEXORTRAN_H
 
+#include "itemfamily.h"
 #include "zqdisciplineitemtran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * Vector shapes: arrows, stars, smileys and the like, each drawn from up to four paths of points in an element of its
  * own. That element goes through the JSON as the text "manager"; the points lie beside it as the arrays
  * VectorControl0 to VectorControl3, x0, y0, x1, y1, x2, y2 for each point, for the host to look at.
  */
-class ZQComplexorTran : public ZQDisciplineItemTran
+class ZQComplexorTran : public ZQDisciplineItemTran, public ItemFamily<ZQComplexorTran>
 {
 public:
     explicit ZQComplexorTran(const QString &type);
 
-    //! Null for a type that isn't of this family.
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
+    static const FamilyVocabulary &vocabulary();
 
     //! The ZQTX type of any text with "ZQVector" in it, listed or not: ZQVectorJuxing gives Vector:juxing.
     static QString toTxType(const QString &type);

@@ -156,18 +156,15 @@ QJsonObject ZQDisciplineItemTran::tranZQTX2JSON(QDomElement element, QJsonObject
     return json;
 }
 
-QDomElement ZQDisciplineItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQDisciplineItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate discipline(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
-                           R"(<properties><property value="" name=""/></properties>)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
-        element = discipline.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate discipline(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
+                       R"(<properties><property value="" name=""/></properties>)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
+    return discipline.instance();
 }
 
 void ZQDisciplineItemTran::readRawColors(const QDomElement &element, QJsonObject &json) const

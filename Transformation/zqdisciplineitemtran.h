@@ -19,9 +19,9 @@ public:
     //! BoundingBox is left out of what the raw form gives.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 
 protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
     void storeRawText(const QString &key, const QString &text, QJsonObject &json) override;
 
     QStringList colorKeys; //!< the keys that carry a colour

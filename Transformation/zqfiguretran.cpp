@@ -1,6 +1,5 @@
 #include "zqfiguretran.h"
 
-#include "keypaths.h"
 #include "zqcomplexortran.h"
 
 namespace {
@@ -20,7 +19,9 @@ KeyPaths interpointProperties()
     return rows;
 }
 
-const FamilyVocabulary &vocabulary()
+} // namespace
+
+const FamilyVocabulary &ZQFigureTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {{}, {}, {}},
@@ -77,10 +78,12 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
+namespace {
+
 QHash<QString, QString> readableTypes()
 {
     QHash<QString, QString> types;
-    for (const QString &type : vocabulary().types()) {
+    for (const QString &type : ZQFigureTran::vocabulary().types()) {
         types.insert(QLatin1String("Shape:") + type.mid(int(qstrlen("ZQShape"))).toLower(), type);
     }
     return types;
@@ -92,16 +95,6 @@ ZQFigureTran::ZQFigureTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQFigureTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQFigureTran>(type) : nullptr;
-}
-
-QStringList ZQFigureTran::types()
-{
-    return vocabulary().types();
 }
 
 QString ZQFigureTran::fromTxType(const QString &type)

@@ -1,26 +1,19 @@
 #ifndef ZQFIGURETRAN_H
 #define ZQFIGURETRAN_H
 
+#include "itemfamily.h"
 #include "zqdisciplineitemtran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * Drawn figures: a cloud, a plane, arrows, brackets, a cross, connection lines. Their geometry lies in properties of
  * plain numbers.
  */
-class ZQFigureTran : public ZQDisciplineItemTran
+class ZQFigureTran : public ZQDisciplineItemTran, public ItemFamily<ZQFigureTran>
 {
 public:
     explicit ZQFigureTran(const QString &type);
 
-    //! Null for a type that isn't of this family.
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
+    static const FamilyVocabulary &vocabulary();
 
     //! The item type of a ZQTX type such as Shape:feiji. There is no way to this form: figures are written with their
     //! item type.

@@ -1,7 +1,6 @@
 #include "zqgentooltran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 #include <QHash>
 #include <QMap>
@@ -19,7 +18,9 @@ KeyPaths inElement(const char *key)
     return inElement(key, key);
 }
 
-const FamilyVocabulary &vocabulary()
+} // namespace
+
+const FamilyVocabulary &ZQGenToolTran::vocabulary()
 {
     static const KeyPaths placedInstrument = {inElement("Translate_X"), inElement("Translate_Y"),
                                               inElement("RotateAngle")};
@@ -49,38 +50,20 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-} // namespace
-
 ZQGenToolTran::ZQGenToolTran(const QString &type)
     : ZQComItemControlTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
-std::unique_ptr<ZQHTran> ZQGenToolTran::create(const QString &type)
+QDomElement ZQGenToolTran::newTxElement(const QJsonObject &) const
 {
-    return vocabulary().contains(type) ? std::make_unique<ZQGenToolTran>(type) : nullptr;
-}
-
-QStringList ZQGenToolTran::types()
-{
-    return vocabulary().types();
-}
-
-QDomElement ZQGenToolTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
-{
-    if (element.isNull()) {
-        static const QHash<QString, ElementTemplate> templates = [] {
-            QHash<QString, ElementTemplate> made;
-            for (const QString &type : vocabulary().types()) {
-                made.insert(type, ElementTemplate(ZQGenToolTran(type).templateText()));
-            }
-            return made;
-        }();
-        const auto found = templates.constFind(itemType);
-        element = found != templates.constEnd() ? found->instance() : elementFromXml(templateText());
+    static QHash<QString, ElementTemplate> templates;
+    auto found = templates.find(itemType);
+    if (found == templates.end()) {
+        found = templates.insert(itemType, ElementTemplate(templateText()));
     }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    return found->instance();
 }
 
 // The key map says it all: each element in <data> that a path leads through, with an empty attribute for each of its

@@ -1,27 +1,22 @@
 #ifndef ZQGENTOOLTRAN_H
 #define ZQGENTOOLTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * The lesson tools that lie on a slide: cards, classification and connection exercises, curtain, spotlight and drawing
  * instruments. Their keys are attributes of elements in <data>; an item type is its own ZQTX type.
  */
-class ZQGenToolTran : public ZQComItemControlTran
+class ZQGenToolTran : public ZQComItemControlTran, public ItemFamily<ZQGenToolTran>
 {
 public:
     explicit ZQGenToolTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
+    static const FamilyVocabulary &vocabulary();
 
-    //! The types that the family's table names.
-    static QStringList types();
-
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 
 private:
     QString templateText() const;

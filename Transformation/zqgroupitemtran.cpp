@@ -1,17 +1,16 @@
 #include "zqgroupitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "nesteditems.h"
 #include "translatorchains.h"
 
-namespace {
-
-const TypePairs &typePairs()
+const TypePairs &ZQGroupItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQGroupItem", "group"}};
     return pairs;
 }
+
+namespace {
 
 const KeyPaths &txPaths()
 {
@@ -26,16 +25,6 @@ ZQGroupItemTran::ZQGroupItemTran(const QString &type)
 {
     static const KeyMaps maps = keyMaps().with({}, txPaths());
     setKeyMaps(maps);
-}
-
-QString ZQGroupItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQGroupItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQGroupItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
@@ -62,13 +51,9 @@ QJsonObject ZQGroupItemTran::tranZQTX2JSON(QDomElement element, QJsonObject json
     return json;
 }
 
-QDomElement ZQGroupItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQGroupItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate group(
-            QStringLiteral(R"(<group><transform><rotate angle="0"/></transform><element/>)"
-                           R"(<data><rect points=""/></data></group>)"));
-        element = group.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate group(QStringLiteral(R"(<group><transform><rotate angle="0"/></transform><element/>)"
+                                                      R"(<data><rect points=""/></data></group>)"));
+    return group.instance();
 }

@@ -19,11 +19,6 @@ void ignoreEraserForMathematics(QJsonObject &json)
     }
 }
 
-bool isBetween(const QString &text, char open, char close)
-{
-    return text.startsWith(QLatin1Char(open)) && text.endsWith(QLatin1Char(close));
-}
-
 // One object per child element, each with that child's attributes.
 QJsonArray childAttributesAsJson(const QDomElement &element)
 {
@@ -104,24 +99,18 @@ void ZQHTran::readKeysFromXml(QDomElement &element, QJsonObject &json)
 {
     RawPlaces places(element);
     for (const KeyMap::Row &row : m_keyMaps->xml.rows()) {
-        const QString &first = row.path.first();
-        if (row.path.size() > 1) {
-            if (const auto text = places.descendantText(row.path)) {
-                storeRawText(row.key, *text, json);
-            }
-        } else if (isBetween(first, '[', ']')) {
-            const QString tag = first.mid(1, first.size() - 2);
-            const QDomElement found = places.descendant(tag);
+        if (row.form != KeyPaths::Form::Text) {
+            const QDomElement found = places.descendant(row.key);
             if (!found.isNull()) {
-                json.insert(tag, attributesAsJson(found));
+                json.insert(row.key,
+                            row.form == KeyPaths::Form::Attributes ? QJsonValue(attributesAsJson(found))
+                                                                   : QJsonValue(childAttributesAsJson(found)));
             }
-        } else if (isBetween(first, '<', '>')) {
-            const QString tag = first.mid(1, first.size() - 2);
-            const QDomElement found = places.descendant(tag);
-            if (!found.isNull()) {
-                json.insert(tag, childAttributesAsJson(found));
-            }
-        } else if (const auto text = attributeText(element, first)) {
+            continue;
+        }
+        const auto text =
+            row.path.size() > 1 ? places.descendantText(row.path) : attributeText(element, row.path.first());
+        if (text) {
             storeRawText(row.key, *text, json);
         }
     }

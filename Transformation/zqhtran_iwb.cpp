@@ -2,8 +2,8 @@
 
 #include "domhelpers.h"
 #include "keypaths.h"
+#include "links.h"
 #include "numbertext.h"
-#include "packagefiles.h"
 #include "xmlplaces.h"
 
 #include <QDomDocument>
@@ -15,48 +15,6 @@
 // The conversions of the base class to and from IWB, and what the IWB writers share.
 
 namespace {
-
-QString fileNameOf(const QString &path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-// Copies a file into tmpFilePath/additional/ and gives the reference to it; empty for a file that doesn't exist.
-QString copyLinkedFile(const QString &file, const QString &tmpFilePath)
-{
-    if (!isFile(file)) {
-        return {};
-    }
-    const QString name = fileNameOf(file);
-    // Without a directory there is no package to copy into.
-    if (!tmpFilePath.isEmpty()) {
-        const QString directory = tmpFilePath + QLatin1String("/additional/");
-        makeDirectory(directory);
-        copyFile(file, directory + name);
-    }
-    return QLatin1String("additional/") + name;
-}
-
-QString linkTarget(const QString &kind, const QString &value, const QString &tmpFilePath)
-{
-    if (kind == QLatin1String("ACTION_OPENFILE")) {
-        return copyLinkedFile(value, tmpFilePath);
-    }
-    if (kind == QLatin1String("ACTION_OPENWEB")) {
-        const bool hasScheme = value.contains(QLatin1String("http://")) || value.contains(QLatin1String("https://"));
-        return hasScheme ? value : QLatin1String("http://") + value;
-    }
-    if (kind == QLatin1String("ACTION_TOOLTIP")) {
-        return QLatin1String("txt://") + value;
-    }
-    if (kind == QLatin1String("ACTION_GOTOSLIDE")) {
-        return QLatin1String("#page") + value;
-    }
-    if (kind == QLatin1String("ACTION_OPENTOOL")) {
-        return QLatin1String("tool://") + value;
-    }
-    return {};
-}
 
 // The texts of a place in svg, by the keys of its rows.
 using PlaceTexts = std::array<std::pair<QLatin1String, QString>, 4>;

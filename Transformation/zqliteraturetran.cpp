@@ -1,11 +1,8 @@
 #include "zqliteraturetran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQLiteratureTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {{},
@@ -15,7 +12,7 @@ const FamilyVocabulary &vocabulary()
             {{"ZQLiteraturePinyin"},
              {attributes({"ArtObj_DispHanzi", "ArtObj_HZcolor", "ArtObj_Pinyin", "ArtObj_Hanzi", "ArtObj_Color",
                           "DispGrid", "Discipline_xControl0", "Discipline_yControl0"}),
-              attribute("ArtObj_HZFont", "[ArtObj_HZFont]"), attribute("ArtObj_Font", "[ArtObj_Font]")},
+              attributesOf("ArtObj_HZFont"), attributesOf("ArtObj_Font")},
              {attribute("DispGrid"), property("ChineseWord", "Chinese word")}},
             {{"ZQLiteratureHanzibihua"}, attribute("ArtObj_HZ"), property("ChineseWord", "Chinese word")},
             {{"ZQLiteratureYinbiao"},
@@ -28,7 +25,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQLiteratureTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQLiteraturePinyin", "Chinese:pinyin"},
@@ -37,8 +34,6 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
-
-} // namespace
 
 ZQLiteratureTran::ZQLiteratureTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -52,21 +47,6 @@ std::unique_ptr<ZQHTran> ZQLiteratureTran::create(const QString &type)
 {
     const bool known = vocabulary().contains(type) || !fromTxType(type).isEmpty();
     return known ? std::make_unique<ZQLiteratureTran>(type) : nullptr;
-}
-
-QStringList ZQLiteratureTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQLiteratureTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQLiteratureTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQLiteratureTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
@@ -83,15 +63,12 @@ QJsonObject ZQLiteratureTran::tranXML2JSON(QDomElement element, QJsonObject json
     return json;
 }
 
-QDomElement ZQLiteratureTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQLiteratureTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate discipline(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
-                           R"(<properties><property value="" name=""/></properties>)"
-                           R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
-        element = discipline.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate discipline(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<discipline visible="1" locked="0" type="" uclone="0" id="">)"
+                       R"(<properties><property value="" name=""/></properties>)"
+                       R"(<data><rect points="" controlpoints=""/></data></discipline>)"));
+    return discipline.instance();
 }

@@ -1,12 +1,9 @@
 #include "zqmathematicstran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "mathsvg.h"
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQMathematicsTran::vocabulary()
 {
     // What many lines have in common: svg attributes, and the properties of filled figures.
     static const KeyPaths pen = {attribute("stroke"), attribute("stroke-width")};
@@ -157,7 +154,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQMathematicsTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQMath2DSegment", "Math:2dsegment"},
@@ -185,6 +182,8 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
+
+namespace {
 
 void setAngle(QJsonObject &json, QLatin1String key, double degrees)
 {
@@ -226,26 +225,6 @@ ZQMathematicsTran::ZQMathematicsTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQMathematicsTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQMathematicsTran>(type) : nullptr;
-}
-
-QStringList ZQMathematicsTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQMathematicsTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQMathematicsTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
 }
 
 QJsonObject ZQMathematicsTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)

@@ -1,11 +1,8 @@
 #ifndef ZQMATHEMATICSTRAN_H
 #define ZQMATHEMATICSTRAN_H
 
+#include "itemfamily.h"
 #include "zqdisciplineitemtran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 struct SvgShape;
 
@@ -16,17 +13,15 @@ struct SvgShape;
  * The svg conversions read and write texts only: Control and colours are texts there, and a value of another JSON type
  * counts as missing or empty. Control is in the item's own pixels, svg coordinates are those of the page.
  */
-class ZQMathematicsTran : public ZQDisciplineItemTran
+class ZQMathematicsTran : public ZQDisciplineItemTran,
+                          public ItemFamily<ZQMathematicsTran>,
+                          public PairedTypes<ZQMathematicsTran>
 {
 public:
     explicit ZQMathematicsTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
+    static const FamilyVocabulary &vocabulary();
+    static const TypePairs &typePairs();
 
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 

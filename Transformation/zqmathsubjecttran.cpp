@@ -1,14 +1,15 @@
 #include "zqmathsubjecttran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
 const QLatin1String coursewareType("ZQDyCoursewareItem");
 const QLatin1String documentKey("document");
 
-const FamilyVocabulary &vocabulary()
+} // namespace
+
+const FamilyVocabulary &ZQMathSubjectTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {},
@@ -21,7 +22,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQMathSubjectTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQFormulaEditorItem", "mathformula"},
@@ -29,6 +30,8 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
+
+namespace {
 
 // The text of an item; resources is the text of a child or empty.
 QString itemText(const QString &tag, const QString &resources)
@@ -61,26 +64,6 @@ ZQMathSubjectTran::ZQMathSubjectTran(const QString &type)
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
-std::unique_ptr<ZQHTran> ZQMathSubjectTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQMathSubjectTran>(type) : nullptr;
-}
-
-QStringList ZQMathSubjectTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQMathSubjectTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQMathSubjectTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
-}
-
 QJsonObject ZQMathSubjectTran::tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     json = ZQComItemControlTran::tranZQTX2JSON(element, json, context);
@@ -95,15 +78,11 @@ QJsonObject ZQMathSubjectTran::tranZQTX2JSON(QDomElement element, QJsonObject js
     return json;
 }
 
-QDomElement ZQMathSubjectTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQMathSubjectTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        if (itemType == coursewareType) {
-            element = coursewareElement(json.value(documentKey));
-        } else {
-            static const ElementTemplate formula(itemText(QStringLiteral("mathformula"), {}));
-            element = formula.instance();
-        }
+    if (itemType == coursewareType) {
+        return coursewareElement(json.value(documentKey));
     }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate formula(itemText(QStringLiteral("mathformula"), {}));
+    return formula.instance();
 }

@@ -1,32 +1,28 @@
 #ifndef ZQMATHSUBJECTTRAN_H
 #define ZQMATHSUBJECTTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * The formula, a text in a property, and the dynamic courseware, which refers to two files: in JSON under "document"
  * the picture and the file of the courseware, in ZQTX the attributes pix and ggb of a child <res>.
  */
-class ZQMathSubjectTran : public ZQComItemControlTran
+class ZQMathSubjectTran : public ZQComItemControlTran,
+                          public ItemFamily<ZQMathSubjectTran>,
+                          public PairedTypes<ZQMathSubjectTran>
 {
 public:
     explicit ZQMathSubjectTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
+    static const FamilyVocabulary &vocabulary();
+    static const TypePairs &typePairs();
 
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
+protected:
     //! References go into a new element as they stand. One that breaks the XML gives a null element.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQMATHSUBJECTTRAN_H

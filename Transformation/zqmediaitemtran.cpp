@@ -1,16 +1,13 @@
 #include "zqmediaitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 #include "packagefiles.h"
 #include "xmlplaces.h"
 
 #include <QFileInfo>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQMediaItemTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {},
@@ -48,7 +45,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQMediaItemTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQImagePic", "image"},   {"ZQMediaFlash", "flash"},  {"ZQMediaAudio", "audio"},
@@ -56,6 +53,8 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
+
+namespace {
 
 // What a type becomes in IWB: its element, and the directory of its files in the package.
 struct IwbForm
@@ -122,26 +121,6 @@ ZQMediaItemTran::ZQMediaItemTran(const QString &type)
     foldsMatrixIntoBox = true;
 }
 
-std::unique_ptr<ZQHTran> ZQMediaItemTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQMediaItemTran>(type) : nullptr;
-}
-
-QStringList ZQMediaItemTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQMediaItemTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQMediaItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
-}
-
 QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     json = ZQComItemControlTran::tranXML2JSON(element, json, context);
@@ -150,26 +129,25 @@ QJsonObject ZQMediaItemTran::tranXML2JSON(QDomElement element, QJsonObject json,
     if (attribute && !json.contains(fileKey)) {
         json.insert(fileKey, *attribute);
     }
-    if (json.contains(fileKey)) {
-        const QString files = json.value(fileKey).toString();
-        // A text with neither separator stays one entry.
-        const QLatin1Char separator(files.contains(QLatin1Char('|')) ? '|' : ';');
-        json.insert(fileKey, joinResourcePaths(files, separator, context.value(QLatin1String("path")).toString()));
+    const QString files = json.value(fileKey).toString();
+    const bool hasBars = files.contains(QLatin1Char('|'));
+    // A text with neither separator is no list and stays as it came.
+    if (hasBars || files.contains(QLatin1Char(';'))) {
+        json.insert(fileKey,
+                    joinResourcePaths(files, QLatin1Char(hasBars ? '|' : ';'),
+                                      context.value(QLatin1String("path")).toString()));
     }
     return json;
 }
 
-QDomElement ZQMediaItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQMediaItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate media(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<media visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><rect points="" controlpoints="" outlinetype=""/></data></media>)"));
-        element = media.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate media(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<media visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><rect points="" controlpoints="" outlinetype=""/></data></media>)"));
+    return media.instance();
 }
 
 QDomElement ZQMediaItemTran::tranJSON2IWB(QDomElement element, QJsonObject json, QJsonObject context)

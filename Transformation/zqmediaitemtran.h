@@ -1,31 +1,25 @@
 #ifndef ZQMEDIAITEMTRAN_H
 #define ZQMEDIAITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * Items that point to a file: pictures, Flash movies, audio, video and documents. On the way to and from IWB it copies
  * the file into the package of the target and rewrites the reference. A failed copy isn't reported.
  */
-class ZQMediaItemTran : public ZQComItemControlTran
+class ZQMediaItemTran : public ZQComItemControlTran,
+                        public ItemFamily<ZQMediaItemTran>,
+                        public PairedTypes<ZQMediaItemTran>
 {
 public:
     explicit ZQMediaItemTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
+    static const FamilyVocabulary &vocabulary();
+    static const TypePairs &typePairs();
 
-    //! The types that the family's table names.
-    static QStringList types();
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
-
-    //! MultiMediaFile becomes a list of paths between commas; a scale above 1 is folded into the box.
+    //! A list in MultiMediaFile becomes one of paths between commas; a scale above 1 is folded into the box.
     QJsonObject tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
 
     //! A new svg element, and the file AbsMediaFile copied below the directory tmpFilePath. A document has no svg
     //! form: the element comes back as it was.
@@ -33,6 +27,9 @@ public:
 
     //! Copies the file below path (with one separator at its end) into filelibrary/ beside that directory.
     QJsonObject tranIWB2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQMEDIAITEMTRAN_H

@@ -237,11 +237,8 @@ QJsonObject ZQMindMapTran::tranZQTX2JSON(QDomElement element, QJsonObject json, 
     return json;
 }
 
-QDomElement ZQMindMapTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQMindMapTran::newTxElement(const QJsonObject &json) const
 {
-    if (!element.isNull()) {
-        return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
-    }
     MarkupBuilder markup;
     markup.open(QLatin1String("mindmap"));
     for (const auto &[name, value] :
@@ -261,9 +258,8 @@ QDomElement ZQMindMapTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, 
     }
     markup.close();
     markup.close();
-    element = markup.element();
     logItem(json);
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    return markup.element();
 }
 
 void ZQMindMapTran::readMindNode(const QDomElement &element, QJsonObject &node)

@@ -23,9 +23,10 @@ public:
     //! Without <mapItemInfo> in <data>, "mindMapData" is an empty array.
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
-    //! The tree is written only where the element is made here. Texts go in as they stand; where one is not
+protected:
+    //! The element with the tree, which is written nowhere else. Texts go in as they stand; where one is not
     //! well-formed, the tree ends. Logs json on the way.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement newTxElement(const QJsonObject &json) const override;
 
 private:
     //! Fills node from the children of a <node>, its attachments and child nodes included.

@@ -30,14 +30,11 @@ std::unique_ptr<ZQHTran> ZQPhoneticItemTran::create(const QString &type)
     return type == QLatin1String("ZQChinesePhoneticItem") ? std::make_unique<ZQPhoneticItemTran>(type) : nullptr;
 }
 
-QDomElement ZQPhoneticItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQPhoneticItemTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate item(QStringLiteral(
-            R"(<phonetic id="" visible="1" locked="0" uclone="0"  type="phonetic">)"
-            R"(<transform><rotate angle="0"/></transform>)"
-            R"(<data><content text="" type="text"/><rect points="" controlpoints=""/></data></phonetic>)"));
-        element = item.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate item(
+        QStringLiteral(R"(<phonetic id="" visible="1" locked="0" uclone="0"  type="phonetic">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><content text="" type="text"/><rect points="" controlpoints=""/></data></phonetic>)"));
+    return item.instance();
 }

@@ -15,7 +15,8 @@ public:
 
     static std::unique_ptr<ZQHTran> create(const QString &type);
 
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQPHONETICITEMTRAN_H

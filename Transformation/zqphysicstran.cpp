@@ -1,10 +1,6 @@
 #include "zqphysicstran.h"
 
-#include "keypaths.h"
-
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQPhysicsTran::vocabulary()
 {
     static const FamilyVocabulary table(
         {{}, {}, property("ArtObj_Color0", "Color of edge")},
@@ -179,11 +175,13 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
+namespace {
+
 // The item types by their folded names.
 QHash<QString, QString> foldedTypes()
 {
     QHash<QString, QString> types;
-    for (const QString &type : vocabulary().types()) {
+    for (const QString &type : ZQPhysicsTran::vocabulary().types()) {
         types.insert(type.toCaseFolded(), type);
     }
     return types;
@@ -195,16 +193,6 @@ ZQPhysicsTran::ZQPhysicsTran(const QString &type)
     : ZQDisciplineItemTran(type)
 {
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
-}
-
-std::unique_ptr<ZQHTran> ZQPhysicsTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQPhysicsTran>(type) : nullptr;
-}
-
-QStringList ZQPhysicsTran::types()
-{
-    return vocabulary().types();
 }
 
 QString ZQPhysicsTran::toTxType(const QString &type)

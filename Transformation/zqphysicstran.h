@@ -1,25 +1,18 @@
 #ifndef ZQPHYSICSTRAN_H
 #define ZQPHYSICSTRAN_H
 
+#include "itemfamily.h"
 #include "zqdisciplineitemtran.h"
-
-#include <QStringList>
-
-#include <memory>
 
 /*!
  * The apparatus of the physics box: circuit parts, lenses, mechanics, measuring tools. A vocabulary and nothing else.
  */
-class ZQPhysicsTran : public ZQDisciplineItemTran
+class ZQPhysicsTran : public ZQDisciplineItemTran, public ItemFamily<ZQPhysicsTran>
 {
 public:
     explicit ZQPhysicsTran(const QString &type);
 
-    //! Null for a type that isn't of this family.
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-
-    //! The types that the family's table names.
-    static QStringList types();
+    static const FamilyVocabulary &vocabulary();
 
     //! The ZQTX type of any text with "ZQPhysics" in it, listed or not: ZQPhysicsKaiGuan1 gives Physics:kaiguan1.
     static QString toTxType(const QString &type);

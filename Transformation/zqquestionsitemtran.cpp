@@ -92,10 +92,7 @@ QJsonObject ZQQuestionsItemTran::tranZQTX2JSON(QDomElement element, QJsonObject 
     return json;
 }
 
-QDomElement ZQQuestionsItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQQuestionsItemTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        element = questionElement(textsOf(json));
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    return questionElement(textsOf(json));
 }

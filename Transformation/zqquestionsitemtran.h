@@ -18,8 +18,9 @@ public:
 
     QJsonObject tranZQTX2JSON(QDomElement element, QJsonObject json, QJsonObject context) override;
 
+protected:
     //! Texts go into a new element as they stand. One that is not well-formed gives a null element.
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQQUESTIONSITEMTRAN_H

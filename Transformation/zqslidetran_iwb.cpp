@@ -3,41 +3,20 @@
 #include "domhelpers.h"
 #include "numbertext.h"
 #include "packagefiles.h"
+#include "picturesize.h"
 
 #include <QColor>
-#include <QImage>
-#include <QImageReader>
 
 // One slide as an svg:page and back. Background colour and picture move with it, its items do not.
 
 namespace {
 
-// The size of a picture in pixels, or nothing for a file that is no picture. A QImage measures the same as a QPixmap,
-// and can be made in a host without a QGuiApplication. Pictures of a usual size are loaded to see that they can be; of
-// huge ones the header is believed, so that a small file can't fill the memory.
-QRect pictureRect(const QString &file)
+void setSize(QJsonObject &json, const QSize &size)
 {
-    const qint64 largestLoaded = qint64(16) * 1024 * 1024;
-    if (!isFile(file)) {
-        return {0, 0, 0, 0};
-    }
-    QImageReader reader(file);
-    const QSize size = reader.size();
-    if (size.isEmpty()) {
-        return {0, 0, 0, 0};
-    }
-    if (qint64(size.width()) * size.height() > largestLoaded) {
-        return {QPoint(), size};
-    }
-    return reader.read().rect();
-}
-
-void setRect(QJsonObject &json, const QRect &rect)
-{
-    json.insert(QLatin1String("x"), QString::number(rect.left()));
-    json.insert(QLatin1String("y"), QString::number(rect.top()));
-    json.insert(QLatin1String("Width"), QString::number(rect.width()));
-    json.insert(QLatin1String("Height"), QString::number(rect.height()));
+    json.insert(QLatin1String("x"), QStringLiteral("0"));
+    json.insert(QLatin1String("y"), QStringLiteral("0"));
+    json.insert(QLatin1String("Width"), QString::number(size.width()));
+    json.insert(QLatin1String("Height"), QString::number(size.height()));
 }
 
 // The rectangle of a page: the first below an svg:page, or the element itself if it is one.
@@ -147,7 +126,7 @@ QJsonObject ZQSlideTran::exportBackground(const QJsonObject &json)
         {QStringLiteral("href"), QString(QLatin1String("images/") + name)},
         {QStringLiteral("background-posture"), QStringLiteral("stretched-to-fill")},
     };
-    setRect(image, pictureRect(target));
+    setSize(image, pictureSize(target));
     return image;
 }
 

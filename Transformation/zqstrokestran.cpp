@@ -1,15 +1,12 @@
 #include "zqstrokestran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 
 #include <QColor>
 #include <QJsonDocument>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQStrokesTran::vocabulary()
 {
     static const KeyPaths pointRows = {
         path("Weight", "data", "weight", "points"),
@@ -18,7 +15,7 @@ const FamilyVocabulary &vocabulary()
     };
     static const FamilyVocabulary table(
         {{},
-         {attribute("PixelDeleteInfos", "<PixelDeleteInfos>")},
+         {attributesOfChildren("PixelDeleteInfos")},
          {attribute("resource"), path("PixelDeleteInfos", "element", "property", "pixelDeleteInfos"),
           path("XY", "data", "vertex", "points"), attribute("Width", "width"), attribute("Opacity", "opacity"),
           attribute("Color", "color"), childAttribute("DrawTexture", "element", "href"),
@@ -38,7 +35,7 @@ const FamilyVocabulary &vocabulary()
     return table;
 }
 
-const TypePairs &typePairs()
+const TypePairs &ZQStrokesTran::typePairs()
 {
     static const TypePairs pairs{
         {"ZQSmoothStroke", "Curve"},
@@ -54,6 +51,8 @@ const TypePairs &typePairs()
     };
     return pairs;
 }
+
+namespace {
 
 bool isFormula(const QString &type)
 {
@@ -121,26 +120,6 @@ ZQStrokesTran::ZQStrokesTran(const QString &type)
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
-std::unique_ptr<ZQHTran> ZQStrokesTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQStrokesTran>(type) : nullptr;
-}
-
-QStringList ZQStrokesTran::types()
-{
-    return vocabulary().types();
-}
-
-QString ZQStrokesTran::toTxType(const QString &type)
-{
-    return typePairs().toTxType(type);
-}
-
-QString ZQStrokesTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
-}
-
 QJsonObject ZQStrokesTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     json = ZQInkStrokeTran::tranXML2JSON(element, json, context);
@@ -191,16 +170,12 @@ QJsonObject ZQStrokesTran::tranZQTX2JSON(QDomElement element, QJsonObject json, 
     return json;
 }
 
-QDomElement ZQStrokesTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQStrokesTran::newTxElement(const QJsonObject &json) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate formula(
-            QStringLiteral(R"(<group><element/><data><rect points=""/></data></group>)"));
-        static const ElementTemplate stroke(
-            QStringLiteral(R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
-        element = (isFormula(writtenType(json)) ? formula : stroke).instance();
-    }
-    return ZQInkStrokeTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate formula(QStringLiteral(R"(<group><element/><data><rect points=""/></data></group>)"));
+    static const ElementTemplate stroke(
+        QStringLiteral(R"(<stroke id="" color="" width="5" visible="1" locked="0" uclone="0" type="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><vertex points=""/><path_width points=""/><rect  points="" /></data></stroke>)"));
+    return (isFormula(writtenType(json)) ? formula : stroke).instance();
 }

@@ -1,14 +1,11 @@
 #include "zqtextboxtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 #include "numbertext.h"
 
 #include <QLineF>
 
-namespace {
-
-const FamilyVocabulary &vocabulary()
+const FamilyVocabulary &ZQTextBoxTran::vocabulary()
 {
     static const FamilyVocabulary table({},
                                         {
@@ -31,6 +28,8 @@ const FamilyVocabulary &vocabulary()
                                         });
     return table;
 }
+
+namespace {
 
 // The attributes of a run of text, in the order in which they are written.
 struct RunAttribute
@@ -84,30 +83,17 @@ ZQTextBoxTran::ZQTextBoxTran(const QString &type)
     setKeyMaps(vocabulary().keyMaps(type, keyMaps()));
 }
 
-std::unique_ptr<ZQHTran> ZQTextBoxTran::create(const QString &type)
-{
-    return vocabulary().contains(type) ? std::make_unique<ZQTextBoxTran>(type) : nullptr;
-}
-
-QStringList ZQTextBoxTran::types()
-{
-    return vocabulary().types();
-}
-
 QJsonObject ZQTextBoxTran::tranXML2JSON(QDomElement element, QJsonObject json, QJsonObject context)
 {
     return ZQComItemControlTran::tranXML2JSON(element, json, context);
 }
 
-QDomElement ZQTextBoxTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
+QDomElement ZQTextBoxTran::newTxElement(const QJsonObject &) const
 {
-    if (element.isNull()) {
-        static const ElementTemplate text(QStringLiteral(
-            R"(<text id="" visible="1" locked="0" uclone="0" type="Text"><transform><rotate angle="0"/></transform>)"
-            R"(<data><content text="" type="html"/><rect points="" controlpoints=""/></data></text>)"));
-        element = text.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate text(QStringLiteral(
+        R"(<text id="" visible="1" locked="0" uclone="0" type="Text"><transform><rotate angle="0"/></transform>)"
+        R"(<data><content text="" type="html"/><rect points="" controlpoints=""/></data></text>)"));
+    return text.instance();
 }
 
 QDomElement ZQTextBoxTran::tranJSON2IWB(QDomElement, QJsonObject json, QJsonObject context)

@@ -1,7 +1,6 @@
 #include "zqwordlatticeitemtran.h"
 
 #include "domhelpers.h"
-#include "keypaths.h"
 
 namespace {
 
@@ -15,13 +14,13 @@ const KeyPaths &txPaths()
     return paths;
 }
 
-const TypePairs &typePairs()
+} // namespace
+
+const TypePairs &ZQWordLatticeItemTran::typePairs()
 {
     static const TypePairs pairs{{"ZQWordLatticeItem", "wordlattice"}};
     return pairs;
 }
-
-} // namespace
 
 ZQWordLatticeItemTran::ZQWordLatticeItemTran(const QString &type)
     : ZQComItemControlTran(type)
@@ -35,25 +34,12 @@ std::unique_ptr<ZQHTran> ZQWordLatticeItemTran::create(const QString &type)
     return type == QLatin1String("ZQWordLatticeItem") ? std::make_unique<ZQWordLatticeItemTran>(type) : nullptr;
 }
 
-QString ZQWordLatticeItemTran::toTxType(const QString &type)
+QDomElement ZQWordLatticeItemTran::newTxElement(const QJsonObject &) const
 {
-    return typePairs().toTxType(type);
-}
-
-QString ZQWordLatticeItemTran::fromTxType(const QString &type)
-{
-    return typePairs().fromTxType(type);
-}
-
-QDomElement ZQWordLatticeItemTran::tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context)
-{
-    if (element.isNull()) {
-        static const ElementTemplate item(
-            QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
-                           R"(<wordlattice visible="1" locked="0" type="" uclone="0" id="" name="">)"
-                           R"(<transform><rotate angle="0"/></transform>)"
-                           R"(<data><rect points="" controlpoints=""/></data></wordlattice>)"));
-        element = item.instance();
-    }
-    return ZQComItemControlTran::tranJSON2ZQTX(element, json, context);
+    static const ElementTemplate item(
+        QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                       R"(<wordlattice visible="1" locked="0" type="" uclone="0" id="" name="">)"
+                       R"(<transform><rotate angle="0"/></transform>)"
+                       R"(<data><rect points="" controlpoints=""/></data></wordlattice>)"));
+    return item.instance();
 }

@@ -1,6 +1,7 @@
 #ifndef ZQWORDLATTICEITEMTRAN_H
 #define ZQWORDLATTICEITEMTRAN_H
 
+#include "itemfamily.h"
 #include "zqcomitemcontroltran.h"
 
 #include <memory>
@@ -8,16 +9,17 @@
 /*!
  * The lattice in which the characters of a word are written.
  */
-class ZQWordLatticeItemTran : public ZQComItemControlTran
+class ZQWordLatticeItemTran : public ZQComItemControlTran, public PairedTypes<ZQWordLatticeItemTran>
 {
 public:
     explicit ZQWordLatticeItemTran(const QString &type);
 
-    static std::unique_ptr<ZQHTran> create(const QString &type);
-    static QString toTxType(const QString &type);
-    static QString fromTxType(const QString &type);
+    static const TypePairs &typePairs();
 
-    QDomElement tranJSON2ZQTX(QDomElement element, QJsonObject json, QJsonObject context) override;
+    static std::unique_ptr<ZQHTran> create(const QString &type);
+
+protected:
+    QDomElement newTxElement(const QJsonObject &json) const override;
 };
 
 #endif // ZQWORDLATTICEITEMTRAN_H

@@ -1,8 +1,8 @@
 #include "command/command.h"
+#include "command/terminal.h"
 #include "files/lessonerror.h"
 
 #include <QGuiApplication>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
 
@@ -25,7 +25,7 @@ void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
 void tell(const LessonError &error, bool asJson)
 {
     if (asJson) {
-        print(QString::fromUtf8(QJsonDocument(QJsonObject{{QStringLiteral("error"), error.toJson()}}).toJson()));
+        printJson({{QStringLiteral("error"), error.toJson()}});
     }
     complain(error.message());
 }

@@ -19,7 +19,7 @@ _lessonconv()
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return ;;
     esac
-    local options="--help --version --plugin --from --quiet --json"
+    local options="--help --version --plugin --from --quiet --verbose --json"
     case $command in
         "") options="convert render info formats --help --version" ;;
         render) options+=" --size --slides --diff" ;;

@@ -249,18 +249,44 @@ private slots:
         row("deep JSON objects", "in.json", QByteArray("{\"Slides\": [{\"a\": " + nested("{\"a\":", "}", deep) + "}]}"),
             "deeper");
 
-        const QByteArray large(50 * 1024 * 1024, 'a');
-        row("attribute of 50 MiB", "in/slides/1.xml",
+        const QByteArray large(30 * 1024 * 1024, 'a');
+        row("attribute of 30 MiB", "in/slides/1.xml",
             QByteArray("<slide id=\"1\" name=\"" + large + "\"><items/></slide>"), "");
-        row("50 MiB of an item", "in/slides/1.xml",
+        row("30 MiB of an item", "in/slides/1.xml",
             QByteArray("<slide><items><stroke type=\"Curve\" id=\"1\"><data><points points=\"" + large
                        + "\"/></data></stroke></items></slide>"),
             "");
-        QByteArray wide = "<slide id=\"1\"";
+        row("slide of 33 MiB", "in/slides/1.xml", "<slide>" + QByteArray(33 * 1024 * 1024, ' ') + "</slide>",
+            "no slide may take more");
+        row("JSON slide of 33 MiB", "in.json",
+            QByteArray("{\"Slides\": [{\"a\": \"") + QByteArray(33 * 1024 * 1024, ' ') + "\"}]}",
+            "no slide may take more");
+        row("a million elements with values", "in/slides/1.xml",
+            QByteArray("<slide>" + QByteArray("<a b=\"\"/>").repeated(1000000) + "</slide>"), "memory");
+        row("a million values in a raw lesson", "in.xml",
+            QByteArray("<presentation>" + QByteArray("<a b='' c=''/>").repeated(500000) + "</presentation>"), "memory");
+
+        QByteArray values;
         for (int i = 0; i < 1000000; ++i) {
-            wide += QByteArray(" a" + QByteArray::number(i) + "=\"\"");
+            values += QByteArray(" a" + QByteArray::number(i) + "=\"\"");
         }
-        row("a million attributes", "in/slides/1.xml", QByteArray(wide + "><items/></slide>"), "attributes");
+        const QByteArray wide = "<slide id=\"1\"><b" + values + "/></slide>";
+        row("a million attributes", "in/slides/1.xml", wide, "attributes");
+        row("behind a comment", "in/slides/1.xml", QByteArray("<!---><a ' -->" + wide), "attributes");
+        row("behind an instruction", "in/slides/1.xml", QByteArray("<?x ?a> <a ' ?>" + wide), "attributes");
+        row("behind character data", "in/slides/1.xml",
+            QByteArray("<slide><![CDATA[]] > ]> <a ' ]]><b" + values + "/></slide>"), "attributes");
+        row("behind a letter that holds a quote", "in/slides/1.xml",
+            QTextCodec::codecForName("UTF-16")->fromUnicode("<!-- \u3c00\u2200 -->" + QString::fromLatin1(wide)),
+            "attributes");
+        row("in another encoding than it says", "in/slides/1.xml",
+            QByteArray("<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + wide), "encoding");
+        QByteArray declarations;
+        for (int i = 0; i < 200000; ++i) {
+            declarations += "<!ATTLIST a b" + QByteArray::number(i) + " CDATA \"\">";
+        }
+        row("attributes declared", "in/slides/1.xml", QByteArray("<!DOCTYPE slide [" + declarations + "]><slide/>"),
+            "document type");
         row("a million elements", "in/slides/1.xml",
             QByteArray("<slide>" + QByteArray("<a/>").repeated(1000000) + "</slide>"), "");
         row("a million groups that end nowhere", "in/slides/1.xml",

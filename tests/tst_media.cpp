@@ -43,7 +43,7 @@ private slots:
         QCOMPARE(differences(plugin()->tranItemZQTX2JSON(media, {}), item), QString());
     }
 
-    void joinsRawFilesWithThePath_data()
+    void joinsRawListsOfFilesWithThePath_data()
     {
         const Table<QString, QString> row("path", "expected");
         row("C:\\films\\a.swf|b.swf||", "p/q/", "p/q/a.swf,p/q/b.swf");
@@ -52,9 +52,11 @@ private slots:
         row("a;1.swf|b;2.swf", "p/", "p/a;1.swf,p/b;2.swf");
         row("a.swf|||b.swf", "p/", "p/a.swf,,,p/b.swf");
         row("||", "p/", "");
+        row(";", "p/", "");
+        row("C:\\films\\a.swf", "p/", "C:\\films\\a.swf");
     }
 
-    void joinsRawFilesWithThePath()
+    void joinsRawListsOfFilesWithThePath()
     {
         QFETCH(QString, path);
         const QDomElement raw = xml("<ZQMediaFlash MultiMediaFile='%1'/>"_s.arg(QTest::currentDataTag()));

@@ -29,6 +29,49 @@ private slots:
         QVERIFY(plugin()->tranSlideQuery(this, "ID"_s).isEmpty());
         QVERIFY(plugin()->tranItemQuery(this, "ZQSmoothStroke"_s).isEmpty());
     }
+
+    // A host may do with the document of an element what it likes.
+    void newElementsShareNoDocument_data()
+    {
+        const Table<QJsonObject> row("item");
+        for (const char *type : {"ZQSmoothStroke",
+                                 "ZQStrokesMathFormula",
+                                 "ZQGroupItem",
+                                 "ZQTextBoard",
+                                 "ZQImagePic",
+                                 "ZQMath2DCircle",
+                                 "ZQVectorJuxing",
+                                 "ZQLiteratureYinbiao",
+                                 "General:everCard",
+                                 "ZQMindMapItem",
+                                 "ZQBasicTriangleItem",
+                                 "ZQActiveContainerItem",
+                                 "ZQActivityFlipItem",
+                                 "ZQChineseCharacterItem",
+                                 "ZQWordLatticeItem",
+                                 "ZQChinesePhoneticItem",
+                                 "ZQChineseAlphabetItem",
+                                 "ZQFormulaEditorItem",
+                                 "ZQDyCoursewareItem",
+                                 "ZQQuestionItem"}) {
+            row(type, QJsonObject{{"Type", type}});
+        }
+        row("with attachments", "{'Type':'ZQActivityFlipItem','attachments':{'back':'a'}}");
+        row("with a question", "{'Type':'ZQQuestionItem','R_Content_svg':'a'}");
+    }
+
+    void newElementsShareNoDocument()
+    {
+        QFETCH(const QJsonObject, item);
+        const QDomElement element = plugin()->tranItemJSON2ZQTX({}, item);
+        const QString expected = toText(element);
+        QVERIFY(!element.isNull());
+        QDomDocument document = element.ownerDocument();
+        document.documentElement().setAttribute("strange", "1");
+        QCOMPARE(toText(plugin()->tranItemJSON2ZQTX({}, item)), expected);
+        document.setContent("<strange/>"_s);
+        QCOMPARE(toText(plugin()->tranItemJSON2ZQTX({}, item)), expected);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestPlugin)

@@ -135,6 +135,31 @@ private slots:
         QCOMPARE(page.lastChildElement().attribute("isloaded"), "1");
     }
 
+    // This test has no GUI application, which it takes to load text in an svg.
+    void measuresADrawingByItsRoot_data()
+    {
+        const Table<QString, QJsonObject> row("root", "expected");
+        row("pixels", "width='40.9' height='30px' viewBox='0 0 4 3'", "{'width':'40','height':'30'}");
+        row("millimetres and inches", "width='10mm' height='1in'", "{'width':'35','height':'90'}");
+        row("shares of the view", "width='50%' height='100%' viewBox='0,0,12,20'", "{'width':'6','height':'20'}");
+        row("the view alone", "viewBox='0 0 12.6 20.4'", "{'width':'13','height':'20'}");
+        row("nothing", "", "{'width':'0','height':'0'}");
+        row("beyond all pictures", "width='1e300' height='1'", "{'width':'0','height':'0'}");
+        row("no number", "width='nan' height='1'", "{'width':'0','height':'0'}");
+    }
+    void measuresADrawingByItsRoot()
+    {
+        QFETCH(QString, root);
+        QFETCH(QJsonObject, expected);
+        putFile(path("lesson/filelibrary/a.png"),
+                "<svg xmlns='http://www.w3.org/2000/svg' %1><text y='9'>a</text></svg>"_s.arg(root).toUtf8());
+        QDir(m_folder->path()).mkdir("lesson.iwb");
+        QDomDocument document = iwbRoot();
+        const QDomElement page = plugin()->tranSlideJSON2IWB(
+            document, {{"ID", "s"}, {"AttachFile", "a.png"}, {"filePath", path("lesson.iwb")}});
+        QCOMPARE(differences(attributesOf(page.lastChildElement()), expected), QString());
+    }
+
     void measuresWhatIsNoPictureAsNothing_data()
     {
         const Table<QString, QString> row("id", "file");

@@ -54,7 +54,7 @@ QString tableHead()
     return QStringLiteral("| Key | Raw XML | ZQTX | IWB |\n|---|---|---|---|\n");
 }
 
-QString table(const KeyMaps &maps, const QStringList &keys)
+QString table(const KeyPlaces &maps, const QStringList &keys)
 {
     if (keys.isEmpty()) {
         return {};
@@ -68,14 +68,14 @@ QString table(const KeyMaps &maps, const QStringList &keys)
     return text + QLatin1Char('\n');
 }
 
-bool isSame(const KeyMaps &one, const KeyMaps &other, const QString &key)
+bool isSame(const KeyPlaces &one, const KeyPlaces &other, const QString &key)
 {
     return one.xml.value(key) == other.xml.value(key) && one.tx.value(key) == other.tx.value(key)
         && one.iwb.value(key) == other.iwb.value(key);
 }
 
 // The keys whose places differ from those in base.
-QStringList keysBeyond(const KeyMaps &maps, const KeyMaps &base)
+QStringList keysBeyond(const KeyPlaces &maps, const KeyPlaces &base)
 {
     QStringList keys = maps.keys();
     keys.erase(std::remove_if(keys.begin(), keys.end(), [&](const QString &key) { return isSame(maps, base, key); }),
@@ -84,7 +84,7 @@ QStringList keysBeyond(const KeyMaps &maps, const KeyMaps &base)
 }
 
 // One line for a key of a single type: the places that it has, and what takes a place away.
-QString ownKey(const KeyMaps &maps, const QString &key)
+QString ownKey(const KeyPlaces &maps, const QString &key)
 {
     QStringList places;
     if (maps.xml.contains(key)) {
@@ -108,11 +108,11 @@ QString elementName(const QString &type)
     return translator->tranJSON2ZQTX({}, item, {}).tagName();
 }
 
-QString typesTable(const ItemFamily &family, const KeyMaps &base, const QStringList &shared)
+QString typesTable(const TitledTypes &family, const KeyPlaces &base, const QStringList &shared)
 {
     QString text = QStringLiteral("| Type | Type in ZQTX | Element | Keys of its own |\n|---|---|---|---|\n");
     for (const QString &type : family.types) {
-        const KeyMaps maps = keyMapsOfType(type);
+        const KeyPlaces maps = keyMapsOfType(type);
         QStringList own;
         const QStringList keys = keysBeyond(maps, base);
         for (const QString &key : keys) {
@@ -135,12 +135,12 @@ QString typesTable(const ItemFamily &family, const KeyMaps &base, const QStringL
 }
 
 // What all types of a family have beyond the base.
-QStringList sharedKeys(const ItemFamily &family, const KeyMaps &base)
+QStringList sharedKeys(const TitledTypes &family, const KeyPlaces &base)
 {
-    const KeyMaps first = keyMapsOfType(family.types.constFirst());
+    const KeyPlaces first = keyMapsOfType(family.types.constFirst());
     QStringList keys = keysBeyond(first, base);
     for (const QString &type : family.types) {
-        const KeyMaps maps = keyMapsOfType(type);
+        const KeyPlaces maps = keyMapsOfType(type);
         keys.erase(
             std::remove_if(keys.begin(), keys.end(), [&](const QString &key) { return !isSame(maps, first, key); }),
             keys.end());
@@ -148,10 +148,10 @@ QStringList sharedKeys(const ItemFamily &family, const KeyMaps &base)
     return keys;
 }
 
-QString familySection(const ItemFamily &family)
+QString familySection(const TitledTypes &family)
 {
     const bool isSubject = isSubjectType(family.types.constFirst());
-    const KeyMaps base = isSubject ? keyMapsOfSubjects() : keyMapsOfEveryItem();
+    const KeyPlaces base = isSubject ? keyMapsOfSubjects() : keyMapsOfEveryItem();
     const QStringList shared = sharedKeys(family, base);
     QString text = QLatin1String("## ") + family.title + QLatin1String("\n\n");
     text += isSubject ? QStringLiteral("With the keys of every item and those of the subjects")
@@ -180,8 +180,8 @@ the parts of classroom activities and animations. LESSON-MODEL.md describes how 
 
 QString formatsDocument()
 {
-    const KeyMaps every = keyMapsOfEveryItem();
-    const KeyMaps subjects = keyMapsOfSubjects();
+    const KeyPlaces every = keyMapsOfEveryItem();
+    const KeyPlaces subjects = keyMapsOfSubjects();
     QString text = QLatin1String(introduction);
     text +=
         QLatin1String("## The presentation\n\nRaw XML: all attributes of `<presentation>`, under their own names.\n\n");
@@ -197,7 +197,7 @@ QString formatsDocument()
         + QLatin1String(
             "Raw XML has colours in elements of their key's name, with the attributes `a`, `r`, `g`, `b`. Read are ")
         + codes(subjectColorKeys()) + QLatin1String(".\n\n");
-    for (const ItemFamily &family : itemFamilies()) {
+    for (const TitledTypes &family : itemFamilies()) {
         text += familySection(family);
     }
     return text.trimmed() + QLatin1Char('\n');

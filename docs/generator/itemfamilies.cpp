@@ -23,7 +23,7 @@ namespace {
 class MapsOf : public ZQHTran
 {
 public:
-    static KeyMaps read(const ZQHTran &translator)
+    static KeyPlaces read(const ZQHTran &translator)
     {
         return {translator.*(&MapsOf::xmlKeyMap), translator.*(&MapsOf::txKeyMap), translator.*(&MapsOf::iwbKeyMap)};
     }
@@ -49,7 +49,7 @@ QStringList activityTypes()
 
 } // namespace
 
-QStringList KeyMaps::keys() const
+QStringList KeyPlaces::keys() const
 {
     QStringList all = xml.keys() + tx.keys() + iwb.keys();
     all.removeDuplicates();
@@ -57,9 +57,9 @@ QStringList KeyMaps::keys() const
     return all;
 }
 
-const QVector<ItemFamily> &itemFamilies()
+const QVector<TitledTypes> &itemFamilies()
 {
-    static const QVector<ItemFamily> families{
+    static const QVector<TitledTypes> families{
         {QStringLiteral("Strokes"), ZQStrokesTran::types()},
         {QStringLiteral("Text boards"), ZQTextBoxTran::types()},
         {QStringLiteral("Pictures, films, sounds and documents"), ZQMediaItemTran::types()},
@@ -83,7 +83,7 @@ const QVector<ItemFamily> &itemFamilies()
     return families;
 }
 
-KeyMaps keyMapsOfType(const QString &type)
+KeyPlaces keyMapsOfType(const QString &type)
 {
     const auto translator = createTranslator(type);
     if (!translator) {
@@ -92,12 +92,12 @@ KeyMaps keyMapsOfType(const QString &type)
     return MapsOf::read(*translator);
 }
 
-KeyMaps keyMapsOfEveryItem()
+KeyPlaces keyMapsOfEveryItem()
 {
     return MapsOf::read(ZQComItemControlTran({}));
 }
 
-KeyMaps keyMapsOfSubjects()
+KeyPlaces keyMapsOfSubjects()
 {
     return MapsOf::read(ZQDisciplineItemTran({}));
 }
@@ -112,12 +112,12 @@ QStringList subjectColorKeys()
     return ColorKeysOf::read(ZQDisciplineItemTran({}));
 }
 
-KeyMaps keyMapsOfSlide()
+KeyPlaces keyMapsOfSlide()
 {
     return MapsOf::read(ZQSlideTran());
 }
 
-KeyMaps keyMapsOfPresentation()
+KeyPlaces keyMapsOfPresentation()
 {
     return MapsOf::read(ZQPresTran());
 }

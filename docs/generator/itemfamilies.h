@@ -7,9 +7,9 @@
 #include <QVector>
 
 /*!
- * The key maps of a translator.
+ * Where the three key maps of a translator have its keys.
  */
-struct KeyMaps
+struct KeyPlaces
 {
     QJsonObject xml;
     QJsonObject tx;
@@ -19,24 +19,24 @@ struct KeyMaps
     QStringList keys() const;
 };
 
-struct ItemFamily
+struct TitledTypes
 {
     QString title;
     QStringList types;
 };
 
 //! All families and the types that they know by name.
-const QVector<ItemFamily> &itemFamilies();
+const QVector<TitledTypes> &itemFamilies();
 
-KeyMaps keyMapsOfType(const QString &type);
-KeyMaps keyMapsOfEveryItem();
+KeyPlaces keyMapsOfType(const QString &type);
+KeyPlaces keyMapsOfEveryItem();
 //! What mathematics, physics, chemistry, vector shapes and figures have in common.
-KeyMaps keyMapsOfSubjects();
+KeyPlaces keyMapsOfSubjects();
 bool isSubjectType(const QString &type);
 //! The keys that may hold colours there.
 QStringList subjectColorKeys();
 
-KeyMaps keyMapsOfSlide();
-KeyMaps keyMapsOfPresentation();
+KeyPlaces keyMapsOfSlide();
+KeyPlaces keyMapsOfPresentation();
 
 #endif // ITEMFAMILIES_H

@@ -100,7 +100,7 @@ QStringList sharedKeys(const QStringList &types, const Losses &losses)
 }
 
 // Names that ZQTX has for other types.
-QStringList namesOfOtherTypes(const ItemFamily &family)
+QStringList namesOfOtherTypes(const TitledTypes &family)
 {
     QStringList names;
     for (const QString &type : family.types) {
@@ -111,7 +111,7 @@ QStringList namesOfOtherTypes(const ItemFamily &family)
     return names;
 }
 
-QString familyRows(const ItemFamily &family, const Losses &losses)
+QString familyRows(const TitledTypes &family, const Losses &losses)
 {
     const QStringList known = without(family.types, namesOfOtherTypes(family));
     const QStringList going = without(without(known, losses.withoutForm), losses.kept);
@@ -161,7 +161,7 @@ QString section(const QString &title, const Losses &losses)
             rows += row(QLatin1String(title), QString(), codes(keys));
         }
     }
-    for (const ItemFamily &family : itemFamilies()) {
+    for (const TitledTypes &family : itemFamilies()) {
         rows += familyRows(family, losses);
     }
     const QString head = QLatin1String("## ") + title + QLatin1String("\n\n");

@@ -102,7 +102,7 @@ QJsonObject sampleItem(const QString &type, int id)
     QJsonObject item;
     int number = 0;
     // Of the keys that only IWB knows, most are attributes of svg that the export works out.
-    KeyMaps maps = keyMapsOfType(type);
+    KeyPlaces maps = keyMapsOfType(type);
     const QJsonValue file = maps.iwb.value(QLatin1String("MultiMediaFile"));
     maps.iwb = {};
     if (!file.isUndefined()) {
@@ -172,7 +172,7 @@ void putValue(QDomDocument &document, QDomElement element, const QJsonArray &pat
 QJsonObject sampleLesson()
 {
     QJsonArray items;
-    for (const ItemFamily &family : itemFamilies()) {
+    for (const TitledTypes &family : itemFamilies()) {
         for (const QString &type : family.types) {
             if (txTypeToJsonType(type) != type) {
                 continue; // the name that another type has in ZQTX
@@ -202,7 +202,7 @@ QString rawSampleLesson()
     slide.setAttribute(QStringLiteral("NetID"), QStringLiteral("1"));
     slide.setAttribute(QStringLiteral("SlideSourceRect"), QStringLiteral("0,0,1920,1080"));
     slide.setAttribute(QStringLiteral("BackColor"), QStringLiteral("255,10,20,30"));
-    for (const ItemFamily &family : itemFamilies()) {
+    for (const TitledTypes &family : itemFamilies()) {
         for (const QString &type : family.types) {
             if (type.contains(QLatin1Char(':')) || txTypeToJsonType(type) != type) {
                 continue; // a name of ZQTX

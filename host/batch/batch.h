@@ -2,8 +2,7 @@
 #define BATCH_H
 
 #include "batch/batchplan.h"
-
-#include <QJsonObject>
+#include "batch/batchresult.h"
 
 namespace lessonhost {
 
@@ -18,36 +17,6 @@ struct BatchSettings
     int jobs = 1; //!< worker processes
     int lessonSeconds = 0; //!< a lesson that takes longer fails; 0: each may take as long as it does
     bool resume = false; //!< leave out what is done and unchanged
-};
-
-/*!
- * What became of each lesson of a plan.
- */
-struct BatchResult
-{
-    enum State { Open, Converted, DoneBefore, Failed };
-
-    struct Lesson
-    {
-        State state = Open;
-        QJsonObject losses; //!< LossReport::toJson(); without its entries for one done before
-        QString message; //!< why it failed
-
-        int lossCount() const { return losses.value(QLatin1String("losses")).toInt(); }
-    };
-
-    QVector<Lesson> lessons; //!< in the order of the plan
-    bool isInterrupted = false;
-
-    int count(State state) const;
-    int lossCount() const;
-    int lessonsWithLosses() const;
-
-    //! "12 lessons: 10 converted, 1 done before, 1 not converted." and what was lost, as sentences.
-    QString summary(const BatchPlan &plan, bool hasReport) const;
-
-    //! {"lessons": [{"input", "output", "state", "losses", "message"}], "counts", "passedOver", "interrupted"}
-    QJsonObject toJson(const BatchPlan &plan) const;
 };
 
 /*!

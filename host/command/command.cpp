@@ -4,19 +4,22 @@
 #include "command/lessoninfo.h"
 #include "command/pluginhost.h"
 #include "command/progressbar.h"
+#include "command/terminal.h"
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
 #include "render/rendering.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QLoggingCategory>
-#include <QTextStream>
-#include <QThread>
+
+#include <limits>
 
 namespace lessonhost {
 
@@ -24,36 +27,11 @@ namespace {
 
 enum ExitCode { Done = 0, DoneWithLosses = 1, NotDone = 2 };
 
-constexpr int mostJobs = 256;
-constexpr int mostSeconds = 24 * 60 * 60;
+constexpr int anyNumber = std::numeric_limits<int>::max();
 
-// Names come from files of strangers; what they hold must not move a terminal's cursor.
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control && c != QLatin1Char('\n')) {
-            c = QChar::ReplacementCharacter;
-        }
-    }
-    return text;
-}
+const char *const usageBegin = "Converts lessons of interactive whiteboards and tells what is in them.\n\n";
 
-QCommandLineOption option(const char *name, const char *description, const char *value = nullptr)
-{
-    return QCommandLineOption(QLatin1String(name), QLatin1String(description), QLatin1String(value ? value : ""));
-}
-
-const char *const usage = R"(Converts lessons of interactive whiteboards and tells what is in them.
-
-  lessonconv convert INPUT OUTPUT   converts a lesson; the names say the formats
-  lessonconv convert INPUTS... --to FORMAT --out-dir FOLDER
-                                    converts many lessons, or all in a folder
-  lessonconv render INPUT OUTPUT    draws the slides as .html, .pdf, .svg or .png
-  lessonconv render --diff A B OUTPUT.html
-                                    two lessons side by side, and what B lacks
-  lessonconv info INPUT             page size, slides, items, missing files
-  lessonconv formats                the formats and their file names
-
+const char *const usageEnd = R"(
 Examples:
   lessonconv convert lesson.zqtx lesson.iwb
   lessonconv convert lesson.json lesson.zqtx --report losses.json
@@ -67,9 +45,37 @@ The lesson that is read is never changed. What the other format can't hold is
 named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
 2 not done.)";
 
-void printJson(const QJsonObject &object)
+// What stands before a purpose in the help.
+constexpr int purposeColumn = 36;
+
+QString usage()
 {
-    print(QString::fromUtf8(QJsonDocument(object).toJson()));
+    QString text = QLatin1String(usageBegin);
+    for (const Command::Word &word : Command::words()) {
+        if (!word.purpose) {
+            continue;
+        }
+        const QString call =
+            QStringLiteral("  lessonconv %1 %2").arg(QLatin1String(word.word), QLatin1String(word.arguments));
+        text += call.size() < purposeColumn - 1
+            ? call.leftJustified(purposeColumn)
+            : QString(call + QLatin1Char('\n') + QString(purposeColumn, QLatin1Char(' ')));
+        text += QLatin1String(word.purpose) + QLatin1Char('\n');
+    }
+    return text + QLatin1String(usageEnd);
+}
+
+// "convert, render, info or formats"
+QString wordList()
+{
+    QStringList words;
+    for (const Command::Word &word : Command::words()) {
+        if (word.purpose && !words.contains(QLatin1String(word.word))) {
+            words.append(QLatin1String(word.word));
+        }
+    }
+    const QString last = words.takeLast();
+    return words.join(QLatin1String(", ")) + QLatin1String(" or ") + last;
 }
 
 void writeReport(const QString &path, const QJsonObject &report)
@@ -85,106 +91,93 @@ void writeReport(const QString &path, const QJsonObject &report)
 
 } // namespace
 
-void print(const QString &text)
+const std::vector<Command::Word> &Command::words()
 {
-    QTextStream(stdout) << printable(text);
-}
-
-void complain(const QString &text)
-{
-    QTextStream(stderr) << "lessonconv: " << printable(text) << '\n';
+    static const std::vector<Word> words{
+        {"convert", nullptr, "INPUT OUTPUT", "converts a lesson; the names say the formats", 1, anyNumber,
+         &Command::convertMeasuresText, &Command::convertOne},
+        {"convert", "out-dir", "INPUTS... --to FORMAT --out-dir FOLDER", "converts many lessons, or all in a folder", 1,
+         anyNumber, &Command::never, &Command::convertMany},
+        {"render", nullptr, "INPUT OUTPUT", "draws the slides as .html, .pdf, .svg or .png", 2, 2, &Command::always,
+         &Command::render},
+        {"render", "diff", "--diff A B OUTPUT.html", "two lessons side by side, and what B lacks", 3, 3,
+         &Command::always, &Command::renderDifference},
+        {"info", nullptr, "INPUT", "page size, slides, items, missing files", 1, 1, &Command::infoMeasuresText,
+         &Command::info},
+        {"formats", nullptr, "", "the formats and their file names", 0, 0, &Command::never, &Command::formats},
+        // What a worker process of convertMany() does.
+        {"serve", nullptr, "", nullptr, 0, 0, &Command::serveMeasuresText, &Command::serve},
+    };
+    return words;
 }
 
 Command::Command(const QStringList &arguments)
+    : m_line(arguments, usage(), wordList())
 {
-    m_parser.setApplicationDescription(QLatin1String(usage));
-    m_parser.addVersionOption();
-    m_parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("convert, render, info or formats"));
-    m_parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("the lessons"),
-                                   QStringLiteral("[files...]"));
-    m_parser.addOption(
-        QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this text.")));
-    m_parser.addOptions({
-        option("from", "The format of the input, where its name doesn't tell.", "format"),
-        option("to", "The format of the output, where its name doesn't tell.", "format"),
-        option("out-dir", "Convert many: the folder for the results.", "folder"),
-        option("jobs", "Convert many: this many at the same time; as many as the machine has cores otherwise.",
-               "number"),
-        option("lesson-timeout", "Convert many: give up a lesson that takes longer.", "seconds"),
-        option("resume", "Convert many: leave out what is done and unchanged."),
-        option("report", "Write everything that was lost or kept aside into this file, as JSON.", "file"),
-        option("strict", "Treat losses as a failure: exit code 1."),
-        option("no-check", "Don't read back what was written. Faster, but losses stay unnoticed."),
-        option("ink", "What becomes of handwriting in IWB: polyline (the default) or drop.", "choice"),
-        option("size", "With render: the size of a picture or page in pixels.", "widthxheight"),
-        option("slides", "With render: only these slides, such as 2-5 or 1,4.", "slides"),
-        option("diff", "With render: two lessons side by side, with the values that the second lacks."),
-        option("json", "Print JSON, also for a failure."),
-        option("quiet", "No progress bar, no list of losses, no summary."),
-        option("verbose", "Print what the libraries log."),
-        option("plugin", "The plug-in's file, where it is in an unusual place.", "file"),
-    });
-    m_isUnderstood = m_parser.parse(arguments);
+}
+
+// The row for the line, or null. The rows of a word for options come behind the one without.
+const Command::Word *Command::word() const
+{
+    const QStringList given = m_line.words();
+    const int files = given.size() - 1;
+    const Word *found = nullptr;
+    for (const Word &word : words()) {
+        if (given.value(0) == QLatin1String(word.word) && (!word.option || m_line.isSet(word.option))) {
+            found = &word;
+        }
+    }
+    return found && files >= found->leastFiles && files <= found->mostFiles ? found : nullptr;
 }
 
 bool Command::measuresText() const
 {
-    const QStringList words = m_isUnderstood ? m_parser.positionalArguments() : QStringList();
-    const QString command = words.value(0);
+    const Word *found = word();
     try {
-        if (command == QLatin1String("serve")) {
-            // What lessons will come isn't known.
-            return !isSet("from") || inputFormat({}).measuresText || outputFormat({}).measuresText;
-        }
-        if (command == QLatin1String("info")) {
-            return inputFormat(words.value(1)).measuresText;
-        }
-        if (command == QLatin1String("convert") && words.size() == 3) {
-            return !isSet("out-dir")
-                && (inputFormat(words.at(1)).measuresText || outputFormat(words.at(2)).measuresText);
-        }
+        return found && (this->*found->measuresText)(m_line.words().mid(1));
     } catch (const LessonError &) {
         return false; // told when it is tried
     }
-    return command == QLatin1String("render");
+}
+
+bool Command::infoMeasuresText(const QStringList &files) const
+{
+    return inputFormat(files.first()).measuresText;
+}
+
+bool Command::convertMeasuresText(const QStringList &files) const
+{
+    return files.size() == 2 && (inputFormat(files.first()).measuresText || outputFormat(files.last()).measuresText);
+}
+
+bool Command::serveMeasuresText(const QStringList &) const
+{
+    // What lessons will come isn't known.
+    return !m_line.isSet("from") || inputFormat({}).measuresText || outputFormat({}).measuresText;
 }
 
 int Command::run()
 {
-    if (!m_isUnderstood) {
-        throw LessonError(m_parser.errorText(), QStringLiteral("See lessonconv --help"));
+    if (!m_line.isUnderstood()) {
+        throw LessonError(m_line.problem(), QStringLiteral("See lessonconv --help"));
     }
-    if (isSet("version")) {
-        m_parser.showVersion();
+    if (m_line.isSet("version")) {
+        m_line.showVersion();
     }
-    if (isSet("verbose")) {
+    if (m_line.isSet("verbose")) {
         qInstallMessageHandler(nullptr);
         QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, true);
     }
-    const QStringList words = m_parser.positionalArguments();
-    if (isSet("help") || words.isEmpty() || words.first() == QLatin1String("help")) {
-        print(m_parser.helpText());
-        return words.isEmpty() && !isSet("help") ? NotDone : Done;
+    const QStringList given = m_line.words();
+    if (m_line.isSet("help") || given.isEmpty() || given.first() == QLatin1String("help")) {
+        print(m_line.help());
+        return given.isEmpty() && !m_line.isSet("help") ? NotDone : Done;
     }
-    const QString &command = words.first();
-    const QStringList files = words.mid(1);
-    if (command == QLatin1String("formats") && files.isEmpty()) {
-        return formats();
-    }
-    if (command == QLatin1String("info") && files.size() == 1) {
-        return info(files.first());
-    }
-    if (command == QLatin1String("convert") && !files.isEmpty()) {
-        return convert(files);
-    }
-    if (command == QLatin1String("serve") && files.isEmpty()) {
-        return serve();
-    }
-    if (command == QLatin1String("render") && files.size() == (isSet("diff") ? 3 : 2)) {
-        return render(files);
+    if (const Word *found = word()) {
+        return (this->*found->run)(given.mid(1));
     }
     throw LessonError(
-        QStringLiteral("The command \"%1\" isn't complete or isn't known").arg(words.join(QLatin1Char(' '))),
+        QStringLiteral("The command \"%1\" isn't complete or isn't known").arg(given.join(QLatin1Char(' '))),
         QStringLiteral("See lessonconv --help"));
 }
 
@@ -198,37 +191,7 @@ const LessonFormat &Command::outputFormat(const QString &output) const
     return isSet("to") ? lessonFormatByName(value("to")) : lessonFormatOfOutput(output);
 }
 
-QString Command::inkChoice() const
-{
-    const QString choice = isSet("ink") ? value("ink") : QStringLiteral("polyline");
-    if (choice != QLatin1String("polyline") && choice != QLatin1String("drop")) {
-        throw LessonError(QStringLiteral("Ink can't be treated as \"%1\"").arg(choice),
-                          QStringLiteral("Say --ink polyline or --ink drop"));
-    }
-    return choice;
-}
-
-int Command::jobs() const
-{
-    const int number = isSet("jobs") ? value("jobs").toInt() : QThread::idealThreadCount();
-    if (isSet("jobs") && (number < 1 || number > mostJobs)) {
-        throw LessonError(QStringLiteral("\"%1\" is no number of jobs").arg(value("jobs")),
-                          QStringLiteral("Give a number from 1 to %1, such as --jobs 4").arg(mostJobs));
-    }
-    return qBound(1, number, mostJobs);
-}
-
-int Command::lessonSeconds() const
-{
-    const int seconds = value("lesson-timeout").toInt();
-    if (isSet("lesson-timeout") && (seconds < 1 || seconds > mostSeconds)) {
-        throw LessonError(QStringLiteral("\"%1\" is no number of seconds").arg(value("lesson-timeout")),
-                          QStringLiteral("Give a number from 1 to %1, such as --lesson-timeout 600").arg(mostSeconds));
-    }
-    return seconds;
-}
-
-int Command::formats() const
+int Command::formats(const QStringList &) const
 {
     for (const LessonFormat &format : lessonFormats()) {
         const QString use = format.canRead() && format.canWrite() ? QStringLiteral("read, written")
@@ -243,15 +206,13 @@ int Command::formats() const
     return Done;
 }
 
-int Command::info(const QString &input) const
+int Command::info(const QStringList &files) const
 {
+    const QString &input = files.first();
     const LessonFormat &format = inputFormat(input);
     const PluginHost host(value("plugin"));
-    LessonContext context;
-    context.plugin = host.plugin();
-    context.verify = false;
     ProgressBar bar(!isSet("quiet"));
-    const auto reader = format.open(input, context);
+    const auto reader = format.open(input, readingContext(host));
     const LessonInfo info = lessonInfo(*reader, [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     if (isSet("json")) {
@@ -262,17 +223,12 @@ int Command::info(const QString &input) const
     return Done;
 }
 
-int Command::convert(const QStringList &files) const
+LessonContext Command::readingContext(const PluginHost &host) const
 {
-    if (isSet("out-dir")) {
-        return convertMany(files);
-    }
-    if (files.size() == 2) {
-        return convertOne(files.first(), files.last());
-    }
-    throw LessonError(
-        QStringLiteral("It isn't said where the result goes"),
-        QStringLiteral("Give a lesson and the name of the result, or many lessons with --to FORMAT --out-dir FOLDER"));
+    LessonContext context;
+    context.plugin = host.plugin();
+    context.verify = false;
+    return context;
 }
 
 LessonContext Command::conversionContext(const PluginHost &host, LossReport *losses) const
@@ -281,12 +237,19 @@ LessonContext Command::conversionContext(const PluginHost &host, LossReport *los
     context.plugin = host.plugin();
     context.losses = losses;
     context.verify = !isSet("no-check");
-    context.options.insert(QStringLiteral("ink"), inkChoice());
+    context.options = m_line.formatOptions();
     return context;
 }
 
-int Command::convertOne(const QString &input, const QString &output) const
+int Command::convertOne(const QStringList &files) const
 {
+    if (files.size() != 2) {
+        throw LessonError(QStringLiteral("It isn't said where the result goes"),
+                          QStringLiteral("Give a lesson and the name of the result, or many lessons with --to FORMAT "
+                                         "--out-dir FOLDER"));
+    }
+    const QString &input = files.first();
+    const QString &output = files.last();
     const LessonFormat &from = inputFormat(input);
     const LessonFormat &to = outputFormat(output);
     const PluginHost host(value("plugin"));
@@ -311,30 +274,23 @@ int Command::convertOne(const QString &input, const QString &output) const
     return isSet("strict") && losses.lossCount() > 0 ? DoneWithLosses : Done;
 }
 
-BatchSettings Command::batchSettings(const PluginHost &host, const LessonFormat &to) const
+BatchSettings Command::batchSettings(const PluginHost &host) const
 {
     BatchSettings settings;
     settings.outputFolder = QDir::cleanPath(value("out-dir"));
-    settings.jobs = jobs();
-    settings.lessonSeconds = lessonSeconds();
+    settings.jobs = m_line.jobs();
+    settings.lessonSeconds = m_line.lessonSeconds();
     settings.resume = isSet("resume");
+    const QStringList arguments = m_line.resultArguments();
     settings.workerArguments =
-        QStringList{QStringLiteral("serve"),    QStringLiteral("--to"), to.name, QStringLiteral("--ink"), inkChoice(),
-                    QStringLiteral("--plugin"), host.fileName()};
-    if (isSet("from")) {
-        settings.workerArguments << QStringLiteral("--from") << value("from");
-    }
-    if (isSet("no-check")) {
-        settings.workerArguments << QStringLiteral("--no-check");
-    }
+        QStringList{QStringLiteral("serve"), QStringLiteral("--plugin"), host.fileName()} + arguments;
     QCryptographicHash plugin(QCryptographicHash::Sha1);
     QFile file(host.fileName());
     if (file.open(QIODevice::ReadOnly)) {
         plugin.addData(&file);
     }
-    settings.fingerprint = m_parser.isSet(QStringLiteral("from")) ? value("from").toUtf8() : QByteArray();
-    settings.fingerprint += ' ' + to.name.toUtf8() + ' ' + inkChoice().toUtf8() + (isSet("no-check") ? " 0 " : " 1 ")
-        + LESSONCONV_VERSION + ' ' + plugin.result().toHex();
+    settings.fingerprint = arguments.join(QLatin1Char(' ')).toUtf8() + ' '
+        + QCoreApplication::applicationVersion().toUtf8() + ' ' + plugin.result().toHex();
     return settings;
 }
 
@@ -348,7 +304,7 @@ int Command::convertMany(const QStringList &inputs) const
     const LessonFormat *from = isSet("from") ? &lessonFormatByName(value("from")) : nullptr;
     checkCanWrite(to, value("out-dir"));
     const PluginHost host(value("plugin"));
-    const BatchSettings settings = batchSettings(host, to);
+    const BatchSettings settings = batchSettings(host);
     const BatchPlan plan = planBatch(inputs, from, to, settings.outputFolder);
     if (!QDir().mkpath(settings.outputFolder)) {
         throw LessonError(QStringLiteral("The folder for the results can't be made"),
@@ -378,8 +334,7 @@ int Command::convertMany(const QStringList &inputs) const
     return isSet("strict") && result.lossCount() > 0 ? DoneWithLosses : Done;
 }
 
-// What a worker process of convertMany() does; not for people.
-int Command::serve() const
+int Command::serve(const QStringList &) const
 {
     const PluginHost host(value("plugin"));
     const LessonFormat &to = lessonFormatByName(value("to"));
@@ -393,25 +348,44 @@ int Command::serve() const
 
 int Command::render(const QStringList &files) const
 {
+    const RenderSettings settings = renderSettings();
+    const PluginHost host(value("plugin"));
+    const LessonContext context = readingContext(host);
+    ProgressBar bar(!isSet("quiet"));
+    const auto reader = inputFormat(files.first()).open(files.first(), context);
+    const QJsonObject result =
+        renderLesson(*reader, context, files.last(), settings, [&bar](int done, int total) { bar.show(done, total); });
+    bar.clear();
+    tellRendered(result);
+    return Done;
+}
+
+int Command::renderDifference(const QStringList &files) const
+{
+    const RenderSettings settings = renderSettings();
+    const PluginHost host(value("plugin"));
+    const LessonContext context = readingContext(host);
+    ProgressBar bar(!isSet("quiet"));
+    const auto first = inputFormat(files.first()).open(files.first(), context);
+    const auto second = lessonFormatOfInput(files.at(1)).open(files.at(1), context);
+    const QJsonObject result =
+        lessonhost::renderDifference(*first, files.first(), *second, files.at(1), context, files.last(), settings,
+                                     [&bar](int done, int total) { bar.show(done, total); });
+    bar.clear();
+    tellRendered(result);
+    return Done;
+}
+
+RenderSettings Command::renderSettings() const
+{
     RenderSettings settings;
     settings.size = sizeFromText(value("size"));
     settings.slides = slidesFromText(value("slides"));
-    const PluginHost host(value("plugin"));
-    LessonContext context;
-    context.plugin = host.plugin();
-    context.verify = false;
-    ProgressBar bar(!isSet("quiet"));
-    const auto progress = [&bar](int done, int total) { bar.show(done, total); };
-    const auto reader = inputFormat(files.first()).open(files.first(), context);
-    QJsonObject result;
-    if (isSet("diff")) {
-        const auto second = lessonFormatOfInput(files.at(1)).open(files.at(1), context);
-        result =
-            renderDifference(*reader, files.first(), *second, files.at(1), context, files.last(), settings, progress);
-    } else {
-        result = renderLesson(*reader, context, files.last(), settings, progress);
-    }
-    bar.clear();
+    return settings;
+}
+
+void Command::tellRendered(const QJsonObject &result) const
+{
     if (isSet("json")) {
         printJson(result);
     } else if (!isSet("quiet")) {
@@ -420,7 +394,6 @@ int Command::render(const QStringList &files) const
                   .arg(result.value(QLatin1String("slides")).toInt())
                   .arg(named ? QStringLiteral(" Items shown by their name: %1.").arg(named) : QString()));
     }
-    return Done;
 }
 
 } // namespace lessonhost

@@ -1,28 +1,43 @@
 #ifndef COMMAND_H
 #define COMMAND_H
 
-#include <QCommandLineParser>
+#include "command/commandline.h"
 
 namespace lessonhost {
 
 struct BatchSettings;
 struct LessonContext;
 struct LessonFormat;
+struct RenderSettings;
 class LossReport;
 class PluginHost;
 
-//! On standard output; what would move a terminal's cursor is replaced.
-void print(const QString &text);
-
-//! On standard error, as a sentence of the command.
-void complain(const QString &text);
-
 /*!
- * The command: its options, and what each of its words does.
+ * The command: what each of its words does.
  */
 class Command
 {
 public:
+    /*!
+     * A word with what follows it, as the help shows it, and what is done then. A word has several rows where an
+     * option decides.
+     */
+    struct Word
+    {
+        const char *word;
+        const char *option; //!< the row is for lines with this option; null for those without
+        const char *arguments;
+        const char *purpose; //!< null for what is not for people
+        int leastFiles;
+        int mostFiles;
+        //! Whether it takes a QGuiApplication.
+        bool (Command::*measuresText)(const QStringList &files) const;
+        int (Command::*run)(const QStringList &files) const;
+    };
+
+    //! In the order of the help.
+    static const std::vector<Word> &words();
+
     //! The program's name and what follows it. Needs no application yet.
     explicit Command(const QStringList &arguments);
 
@@ -33,27 +48,33 @@ public:
     int run();
 
 private:
-    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
-    QString value(const char *name) const { return m_parser.value(QLatin1String(name)); }
+    bool isSet(const char *name) const { return m_line.isSet(name); }
+    QString value(const char *name) const { return m_line.value(name); }
+    const Word *word() const;
 
-    int formats() const;
-    int info(const QString &input) const;
-    int convert(const QStringList &files) const;
-    int convertOne(const QString &input, const QString &output) const;
+    int formats(const QStringList &files) const;
+    int info(const QStringList &files) const;
+    int convertOne(const QStringList &files) const;
     int convertMany(const QStringList &inputs) const;
-    int serve() const;
+    int serve(const QStringList &files) const;
     int render(const QStringList &files) const;
+    int renderDifference(const QStringList &files) const;
+
+    bool never(const QStringList &) const { return false; }
+    bool always(const QStringList &) const { return true; }
+    bool infoMeasuresText(const QStringList &files) const;
+    bool convertMeasuresText(const QStringList &files) const;
+    bool serveMeasuresText(const QStringList &files) const;
 
     const LessonFormat &inputFormat(const QString &input) const;
     const LessonFormat &outputFormat(const QString &output) const;
+    LessonContext readingContext(const PluginHost &host) const;
     LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
-    BatchSettings batchSettings(const PluginHost &host, const LessonFormat &to) const;
-    QString inkChoice() const;
-    int jobs() const;
-    int lessonSeconds() const;
+    BatchSettings batchSettings(const PluginHost &host) const;
+    RenderSettings renderSettings() const;
+    void tellRendered(const QJsonObject &result) const;
 
-    QCommandLineParser m_parser;
-    bool m_isUnderstood = false;
+    CommandLine m_line;
 };
 
 } // namespace lessonhost

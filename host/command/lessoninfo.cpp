@@ -1,6 +1,7 @@
 #include "command/lessoninfo.h"
 
 #include "files/packagenames.h"
+#include "lesson/isoneof.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/plainnames.h"
@@ -27,11 +28,6 @@ const QLatin1String activityKey("activity");
 constexpr const char *cardTypes[] = {"General:everCard", "ZQActivityFlipItem", "ZQLiteraturePinyin",
                                      "ZQLiteratureHanzibihua", "ZQChineseCharacterItem"};
 
-bool isOneOf(const QString &text, const char *const *begin, const char *const *end)
-{
-    return std::any_of(begin, end, [&text](const char *row) { return text == QLatin1String(row); });
-}
-
 int nodeCount(const QJsonObject &node)
 {
     const QJsonArray children = node.value(QLatin1String("childNodes")).toArray();
@@ -57,11 +53,8 @@ public:
         }
         const QString script = slide.properties.value(QLatin1String("objAnimationData")).toString();
         m_info.triggers += QJsonDocument::fromJson(script.toUtf8()).object().size();
-        m_info.animatedItems += slide.properties.value(QLatin1String("animations"))
-                                    .toObject()
-                                    .value(QLatin1String("animation"))
-                                    .toArray()
-                                    .size();
+        m_info.animatedItems +=
+            slide.properties.value(ItemKeys::animations).toObject().value(QLatin1String("animation")).toArray().size();
         countItems(slide.items);
     }
 
@@ -77,7 +70,7 @@ private:
     {
         for (const QJsonValue &value : items) {
             const QJsonObject item = value.toObject();
-            const QString type = item.value(QLatin1String("Type")).toString();
+            const QString type = valueText(item.value(ItemKeys::type));
             if (item.contains(HostKeys::keptXml)) {
                 ++m_info.unknownItems[type];
                 continue;
@@ -85,10 +78,10 @@ private:
             ++m_info.items[type];
             if (type == QLatin1String("ZQQuestionItem")) {
                 ++m_info.questions;
-            } else if (isOneOf(type, std::begin(cardTypes), std::end(cardTypes))) {
+            } else if (isOneOf(cardTypes, type)) {
                 ++m_info.cards;
             }
-            const QJsonArray map = item.value(QLatin1String("mindMapData")).toArray();
+            const QJsonArray map = item.value(ItemKeys::mindMap).toArray();
             if (map.size() >= 3) {
                 m_info.mindMapNodes += nodeCount(map.at(2).toObject());
             }
@@ -108,7 +101,7 @@ private:
         }
         const QJsonObject object = value.toObject();
         for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
-            if (isOneOf(it.key(), std::begin(fileKeys), std::end(fileKeys))) {
+            if (isOneOf(fileKeys, it.key())) {
                 collectFile(it.value());
             } else if (it.key() != HostKeys::children && it.key() != activityKey && !it.value().isString()) {
                 collectFiles(it.value());
@@ -249,7 +242,7 @@ QJsonObject LessonInfo::toJson() const
     };
 }
 
-LessonInfo lessonInfo(LessonReader &reader, const std::function<void(int, int)> &progress)
+LessonInfo lessonInfo(LessonReader &reader, const Progress &progress)
 {
     LessonInfo info;
     const QJsonObject presentation = reader.presentation();

@@ -35,7 +35,7 @@ struct LessonInfo
 };
 
 //! Throws LessonError.
-LessonInfo lessonInfo(LessonReader &reader, const std::function<void(int done, int total)> &progress);
+LessonInfo lessonInfo(LessonReader &reader, const Progress &progress);
 
 } // namespace lessonhost
 

@@ -1,5 +1,7 @@
 #include "files/lessonfiles.h"
 
+#include "files/packagenames.h"
+
 #include <QFileInfo>
 #include <QUrl>
 
@@ -12,17 +14,11 @@ QString bareName(const QString &path)
     return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
-// References are written on all systems and stand in XML and HTML alike.
-QString plainPath(QString reference)
+// References stand in XML and HTML alike.
+QString pathOf(const QString &reference)
 {
-    reference.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    if (reference.startsWith(QLatin1String("file:"))) {
-        reference = QUrl(reference).toLocalFile();
-    }
-    while (reference.startsWith(QLatin1String("./"))) {
-        reference.remove(0, 2);
-    }
-    return reference;
+    const QString path = plainPath(reference);
+    return path.startsWith(QLatin1String("file:")) ? plainPath(QUrl(path).toLocalFile()) : path;
 }
 
 } // namespace
@@ -35,7 +31,7 @@ void LessonFiles::add(const QString &relativePath, const QString &sourceFile)
 
 QString LessonFiles::find(const QString &reference)
 {
-    const QString plain = plainPath(reference);
+    const QString plain = pathOf(reference);
     QString path = plain;
     if (!m_sources.contains(path)) {
         const QStringList candidates = m_pathsByName.value(bareName(plain));

@@ -61,6 +61,15 @@ QString problemWithFileName(const QString &name)
     return {};
 }
 
+QString plainPath(QString reference)
+{
+    reference.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    while (reference.startsWith(QLatin1String("./"))) {
+        reference.remove(0, 2);
+    }
+    return reference;
+}
+
 QString problemWithPackagePath(const QString &path)
 {
     if (path.isEmpty()) {

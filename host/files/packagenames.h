@@ -5,6 +5,9 @@
 
 namespace lessonhost {
 
+//! A reference as a path inside a package is written: "/" between the parts, no "./" in front.
+QString plainPath(QString reference);
+
 //! Why a name in an archive or document can't be a path inside a package, as a clause such as "it leads out of the
 //! package"; empty for a good one. Good: relative, "/" between parts, no "." or ".." part, no backslash, drive letter,
 //! control character or name that a system keeps for devices, at most 1024 characters.

@@ -1,7 +1,9 @@
 #include "files/xmlloader.h"
 
 #include "files/lessonerror.h"
+#include "files/xmlsource.h"
 
+#include <QBuffer>
 #include <QDomElement>
 #include <QFile>
 #include <QXmlStreamReader>
@@ -12,28 +14,10 @@ namespace lessonhost {
 
 namespace {
 
-// True if a tag of the text has more attributes than are let through. The quotes are counted in the bytes: in each
-// encoding that XML comes in they are these bytes, and what else may be is too rare to come up to the limit.
-bool hasTooManyAttributes(const QByteArray &text)
-{
-    int quotes = 0;
-    bool isInTag = false;
-    char quote = 0;
-    for (const char c : text) {
-        if (quote) {
-            quote = c == quote ? '\0' : quote;
-        } else if (c == '<' || c == '>') {
-            isInTag = c == '<';
-            quotes = 0;
-        } else if (isInTag && (c == '"' || c == '\'')) {
-            quote = c;
-            if (++quotes > maximumXmlAttributes) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
+// What the nodes of a DOM take, each with its share of lists and of the texts' administration, in bytes.
+constexpr qint64 elementMemory = 300;
+constexpr qint64 attributeMemory = 400;
+constexpr qint64 textMemory = 200;
 
 /*!
  * Builds the DOM from a stream, so that the text is looked through once and everything that is refused is refused
@@ -42,8 +26,9 @@ bool hasTooManyAttributes(const QByteArray &text)
 class DocumentBuilder
 {
 public:
-    DocumentBuilder(const QByteArray &text, const QString &name)
-        : m_reader(text)
+    DocumentBuilder(QIODevice *text, const QString &name)
+        : m_source(text)
+        , m_reader(&m_source)
         , m_name(name)
     {
         m_reader.setNamespaceProcessing(false);
@@ -53,11 +38,6 @@ public:
     {
         while (!m_reader.atEnd()) {
             switch (m_reader.readNext()) {
-            case QXmlStreamReader::DTD:
-                throw LessonError(
-                    QStringLiteral("The document has a document type declaration, which lessons don't use"),
-                    QStringLiteral("Remove the <!DOCTYPE ...> part"))
-                    .in(m_name, line());
             case QXmlStreamReader::StartElement:
                 startElement();
                 break;
@@ -73,6 +53,7 @@ public:
                 break;
             }
         }
+        refuseSource();
         if (m_reader.hasError()) {
             QString reason = m_reader.errorString();
             while (reason.endsWith(QLatin1Char('.'))) {
@@ -89,6 +70,56 @@ public:
 private:
     int line() const { return int(m_reader.lineNumber()); }
 
+    void refuseSource() const
+    {
+        const QString check = QStringLiteral("Check that this is a lesson");
+        switch (m_source.problem()) {
+        case XmlProblem::None:
+            return;
+        case XmlProblem::TooLarge:
+            throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024), check)
+                .in(m_name);
+        case XmlProblem::TooManyAttributes:
+            throw LessonError(QStringLiteral("An element has more than %1 attributes").arg(maximumXmlAttributes), check)
+                .in(m_name, m_source.line());
+        case XmlProblem::DocumentType:
+            throw LessonError(QStringLiteral("The document has a document type declaration, which lessons don't use"),
+                              QStringLiteral("Remove the <!DOCTYPE ...> part"))
+                .in(m_name, m_source.line());
+        case XmlProblem::OddEncoding:
+            throw LessonError(
+                QStringLiteral("This is not well-formed XML: it isn't in the encoding that it says it is in"),
+                QStringLiteral("Save it in UTF-8"))
+                .in(m_name);
+        case XmlProblem::Unreadable:
+            throw LessonError(QStringLiteral("The file can't be read to its end"),
+                              QStringLiteral("Check the disk that it is on"))
+                .in(m_name);
+        }
+    }
+
+    // Before a node is made that takes so much.
+    void takeMemory(qint64 bytes)
+    {
+        m_memory += bytes;
+        if (m_memory > maximumXmlMemory) {
+            throw LessonError(
+                QStringLiteral("The document is too large: what is in it would take more than %1 MiB of memory")
+                    .arg(maximumXmlMemory / 1024 / 1024),
+                QStringLiteral("Divide it into smaller ones, or check that this is a lesson"))
+                .in(m_name, line());
+        }
+    }
+
+    void takeMemoryFor(const QXmlStreamAttributes &attributes)
+    {
+        qint64 bytes = elementMemory + attributes.size() * attributeMemory;
+        for (const QXmlStreamAttribute &attribute : attributes) {
+            bytes += (attribute.value().size() + attribute.qualifiedName().size()) * qint64(sizeof(QChar));
+        }
+        takeMemory(bytes + m_reader.qualifiedName().size() * qint64(sizeof(QChar)));
+    }
+
     void startElement()
     {
         flushText();
@@ -97,8 +128,9 @@ private:
                               QStringLiteral("Take some groups apart, or check that this is a lesson"))
                 .in(m_name, line());
         }
-        QDomElement element = m_document.createElement(m_reader.qualifiedName().toString());
         const QXmlStreamAttributes attributes = m_reader.attributes();
+        takeMemoryFor(attributes);
+        QDomElement element = m_document.createElement(m_reader.qualifiedName().toString());
         for (const QXmlStreamAttribute &attribute : attributes) {
             element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
         }
@@ -120,6 +152,7 @@ private:
             if (m_reader.text().isEmpty()) {
                 return;
             }
+            takeMemory(textMemory + m_reader.text().size() * qint64(sizeof(QChar)));
             m_current.appendChild(m_document.createCDATASection(m_reader.text().toString()));
         } else {
             m_text += m_reader.text();
@@ -131,29 +164,30 @@ private:
     {
         const bool isBlank = std::all_of(m_text.cbegin(), m_text.cend(), [](QChar c) { return c.unicode() <= 0x20; });
         if (!isBlank) {
+            takeMemory(textMemory + m_text.size() * qint64(sizeof(QChar)));
             m_current.appendChild(m_document.createTextNode(m_text));
         }
         m_text.clear();
     }
 
+    XmlSource m_source;
     QXmlStreamReader m_reader;
     QString m_name;
     QDomDocument m_document;
     QDomNode m_current;
     QString m_text;
     int m_depth = 0;
+    qint64 m_memory = 0; // that the document takes
 };
 
 } // namespace
 
 QDomDocument loadXml(const QByteArray &text, const QString &displayName)
 {
-    if (hasTooManyAttributes(text)) {
-        throw LessonError(QStringLiteral("An element has more than %1 attributes").arg(maximumXmlAttributes),
-                          QStringLiteral("Check that this is a lesson"))
-            .in(displayName);
-    }
-    return DocumentBuilder(text, displayName).build();
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    return DocumentBuilder(&buffer, displayName).build();
 }
 
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
@@ -170,7 +204,7 @@ QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
                           QStringLiteral("Check that this is a lesson"))
             .in(name);
     }
-    return loadXml(file.readAll(), name);
+    return DocumentBuilder(&file, name).build();
 }
 
 } // namespace lessonhost

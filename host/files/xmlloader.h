@@ -14,12 +14,14 @@ constexpr int maximumXmlDepth = 1100;
 constexpr qint64 maximumXmlSize = qint64(256) * 1024 * 1024;
 
 //! So are elements with more attributes: telling whether two have the same name takes time for each pair of them.
-constexpr int maximumXmlAttributes = 10000;
+constexpr int maximumXmlAttributes = 1000;
 
-//! The document in an XML file, without namespace processing. The text is checked before a DOM is built: well-formed,
-//! no document type, not too deep, not too large, not too
-//! many attributes. Throws LessonError with file and line. displayName stands for the
-//! file in messages; if empty, fileName does.
+//! And documents whose DOM would take more memory, in bytes: one of many small elements takes forty times its size.
+constexpr qint64 maximumXmlMemory = qint64(512) * 1024 * 1024;
+
+//! The document in an XML file, without namespace processing. Well-formed, no document type, and none of the limits
+//! above passed: a document is refused before a node is made that passes one. Throws LessonError with file and line.
+//! displayName stands for the file in messages; if empty, fileName does.
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName = {});
 
 //! The same for a text in memory.

@@ -10,22 +10,50 @@ namespace lessonhost {
 
 namespace {
 
-bool isXmlCharacter(const QString &text, int i)
+/*!
+ * A text that becomes UTF-8 while it is put together, so that a large one is there once and in half the size.
+ */
+class Utf8Text
 {
-    const QChar c = text.at(i);
-    if (c.isHighSurrogate()) {
-        return i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+public:
+    void operator+=(QChar c)
+    {
+        m_piece += c;
+        if (m_piece.size() >= pieceSize && !c.isHighSurrogate()) {
+            endPiece();
+        }
     }
-    if (c.isLowSurrogate()) {
-        return i > 0 && text.at(i - 1).isHighSurrogate();
+    void operator+=(QLatin1String text) { m_piece += text; }
+    void operator+=(const QString &text)
+    {
+        m_piece += text;
+        if (m_piece.size() >= pieceSize) {
+            endPiece();
+        }
     }
-    const ushort code = c.unicode();
-    return (code >= 0x20 && code < 0xfffe) || code == '\t' || code == '\n' || code == '\r';
-}
+
+    QByteArray take()
+    {
+        endPiece();
+        return m_bytes;
+    }
+
+private:
+    static constexpr int pieceSize = 64 * 1024;
+
+    void endPiece()
+    {
+        m_bytes += m_piece.toUtf8();
+        m_piece.resize(0);
+    }
+
+    QString m_piece;
+    QByteArray m_bytes;
+};
 
 // Line breaks and tabs are only kept by parsers where they are written as references: all of them in attributes, in
 // texts the carriage return.
-void appendEscaped(QString &out, const QString &text, bool isAttribute)
+template <typename Out> void appendEscaped(Out &out, const QString &text, bool isAttribute)
 {
     for (int i = 0; i < text.size(); ++i) {
         const QChar c = text.at(i);
@@ -84,13 +112,13 @@ bool holdsText(const QDomElement &element)
     return false;
 }
 
-void startLine(QString &out, int depth)
+template <typename Out> void startLine(Out &out, int depth)
 {
     out += QLatin1Char('\n') + QString(depth, QLatin1Char(' '));
 }
 
 // depth below 0: no line breaks, as within an element that holds text.
-void appendElement(QString &out, const QDomElement &element, int depth)
+template <typename Out> void appendElement(Out &out, const QDomElement &element, int depth)
 {
     out += QLatin1Char('<') + element.tagName();
     const QDomNamedNodeMap attributes = element.attributes();
@@ -126,20 +154,34 @@ void appendElement(QString &out, const QDomElement &element, int depth)
 
 } // namespace
 
+bool isXmlCharacter(const QString &text, int i)
+{
+    const QChar c = text.at(i);
+    if (c.isHighSurrogate()) {
+        return i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+    }
+    if (c.isLowSurrogate()) {
+        return i > 0 && text.at(i - 1).isHighSurrogate();
+    }
+    const ushort code = c.unicode();
+    return (code >= 0x20 && code < 0xfffe) || code == '\t' || code == '\n' || code == '\r';
+}
+
 QByteArray xmlDocumentText(const QDomElement &root)
 {
-    QString out = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+    Utf8Text out;
+    out += QLatin1String("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     appendElement(out, root, 0);
     out += QLatin1Char('\n');
-    return out.toUtf8();
+    return out.take();
 }
 
 QByteArray xmlLines(const QDomElement &element, int depth)
 {
-    QString out;
+    Utf8Text out;
     startLine(out, depth);
     appendElement(out, element, depth);
-    return out.toUtf8();
+    return out.take();
 }
 
 QString xmlNodeText(const QDomElement &element)

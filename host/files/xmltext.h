@@ -22,6 +22,9 @@ QString escapedForXml(const QString &text);
 //! For pasting between "<![CDATA[" and "]]>": sections are closed and opened again around what they can't hold.
 QString escapedForCData(const QString &text);
 
+//! True for a character of a text that XML can hold; of pairs of surrogates both are.
+bool isXmlCharacter(const QString &text, int i);
+
 //! True for what can name an element or an attribute, in ASCII and common Chinese.
 bool isXmlName(const QString &text);
 

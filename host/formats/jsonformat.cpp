@@ -49,6 +49,7 @@ public:
     LessonSlide slide(int index) override
     {
         const JsonIndex::Range range = m_index.slides.at(index);
+        checkSlideSize(range.end - range.begin, index + 1, m_path);
         const QJsonValue value = m_index.value(range);
         LessonSlide slide;
         slide.properties = value.toObject();
@@ -147,8 +148,9 @@ public:
 
     void writeSlide(const LessonSlide &slide) override
     {
-        put(m_hasSlides ? ",\n    {\n" : "\n    {\n");
-        m_hasSlides = true;
+        const qint64 begin = m_file.pos();
+        put(m_slides > 0 ? ",\n    {\n" : "\n    {\n");
+        ++m_slides;
         for (auto it = slide.properties.constBegin(); it != slide.properties.constEnd(); ++it) {
             put("      " + compact(it.key()) + ": " + compact(it.value()) + ",\n");
         }
@@ -157,11 +159,12 @@ public:
             put((i > 0 ? ",\n        " : "\n        ") + compact(slide.items.at(i)));
         }
         put(slide.items.isEmpty() ? "]\n    }" : "\n      ]\n    }");
+        checkSlideSize(m_file.pos() - begin, m_slides, m_target.target());
     }
 
     void finish() override
     {
-        put(m_hasSlides ? "\n  ]" : "]");
+        put(m_slides > 0 ? "\n  ]" : "]");
         if (!m_resources.isEmpty()) {
             put(",\n  \"Resources\": {");
             for (int i = 0; i < m_resources.size(); ++i) {
@@ -210,7 +213,7 @@ private:
     PackageTarget m_target;
     QFile m_file;
     QVector<QPair<QString, QString>> m_resources;
-    bool m_hasSlides = false;
+    int m_slides = 0;
 };
 
 } // namespace

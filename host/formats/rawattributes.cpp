@@ -1,31 +1,18 @@
 #include "formats/rawattributes.h"
 
 #include "izqtransformation.h"
+#include "lesson/isoneof.h"
+#include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 
 #include <QColor>
 #include <QStringList>
 
-#include <algorithm>
-
 namespace lessonhost {
 
 namespace {
 
-const QLatin1String typeKey("Type");
-const QLatin1String colorKey("Color");
-const QLatin1String opacityKey("Opacity");
-const QLatin1String widthKey("Width");
-const QLatin1String boxKey("BoundingBox");
-const QLatin1String matrixKey("Matrix");
-
 constexpr const char *referenceKeys[] = {"DrawTexture", "Stamp", "resource", "document", "AudioPath"};
-
-template <size_t size> bool isOneOf(const char *const (&names)[size], const QString &text)
-{
-    return std::any_of(std::begin(names), std::end(names),
-                       [&text](const char *name) { return text == QLatin1String(name); });
-}
 
 // right, bottom, two numbers more, left, top.
 QString boxOfBound(const QString &bound)
@@ -37,27 +24,27 @@ QString boxOfBound(const QString &bound)
     return QStringList{parts.at(4), parts.at(5), parts.at(0), parts.at(1)}.join(QLatin1Char(','));
 }
 
-// a,r,g,b, of which the alpha doesn't count, or the name of a colour.
+// Of a,r,g,b the alpha doesn't count.
 QColor inkColor(const QString &text)
 {
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (parts.size() < 4) {
-        return QColor(text);
+    QColor color = itemColor(text.section(QLatin1Char(','), 0, 3)).value_or(QColor());
+    if (text.contains(QLatin1Char(','))) {
+        color.setAlpha(255);
     }
-    return QColor(parts.at(1).toInt(), parts.at(2).toInt(), parts.at(3).toInt());
+    return color;
 }
 
 // The plug-in works the matrix of an enlarged picture into its box and loses the turn of one that is turned, so that
 // goes back to the box and matrix that it came with.
 void keepTurn(QJsonObject &item, const QDomElement &element)
 {
-    const auto own = transformOfText(element.attribute(QStringLiteral("TransformMatrix")));
-    const auto fit = transformOfText(item.value(QLatin1String("SlideMatrix")).toString());
-    const auto left = transformOfText(item.value(matrixKey).toString());
+    const auto own = itemTransform(element.attribute(QStringLiteral("TransformMatrix")));
+    const auto fit = itemTransform(item.value(ItemKeys::slideMatrix));
+    const auto left = itemTransform(item.value(ItemKeys::matrix));
     const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
     if (own && fit && left && left->isIdentity() && own->isRotating() && !box.isEmpty()) {
-        item.insert(matrixKey, transformText(*own * *fit));
-        item.insert(boxKey, box);
+        item.insert(ItemKeys::matrix, transformText(*own * *fit));
+        item.insert(ItemKeys::box, box);
     }
 }
 
@@ -72,10 +59,10 @@ RawAttributes::RawAttributes(IZQTransformation *plugin, const QString &folder)
 void RawAttributes::addTo(QJsonObject &item, const QDomElement &element)
 {
     const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
-    if (!item.contains(boxKey) && !box.isEmpty()) {
-        item.insert(boxKey, box);
+    if (!item.contains(ItemKeys::box) && !box.isEmpty()) {
+        item.insert(ItemKeys::box, box);
     }
-    if (item.contains(colorKey)) {
+    if (item.contains(ItemKeys::color)) {
         addInk(item, element);
     }
     keepTurn(item, element);
@@ -85,29 +72,29 @@ void RawAttributes::addTo(QJsonObject &item, const QDomElement &element)
 // A stroke that says nothing is red and 5 wide.
 void RawAttributes::addInk(QJsonObject &item, const QDomElement &element) const
 {
-    QColor color = inkColor(element.attribute(colorKey));
-    if (!element.hasAttribute(colorKey)) {
-        color = QColor(item.value(colorKey).toString());
+    QColor color = inkColor(element.attribute(ItemKeys::color));
+    if (!element.hasAttribute(ItemKeys::color)) {
+        color = itemColor(item.value(ItemKeys::color)).value_or(QColor());
     }
-    if (element.hasAttribute(opacityKey)) {
-        color.setAlphaF(qBound(0.0, element.attribute(opacityKey).toInt() / 255.0, 1.0));
+    if (element.hasAttribute(ItemKeys::opacity)) {
+        color.setAlphaF(qBound(0.0, element.attribute(ItemKeys::opacity).toInt() / 255.0, 1.0));
     }
     if (color.isValid()) {
-        item.insert(colorKey, color.name(QColor::HexArgb));
+        item.insert(ItemKeys::color, color.name(QColor::HexArgb));
     }
-    if (element.hasAttribute(widthKey)) {
-        item.insert(widthKey, element.attribute(widthKey).remove(QLatin1String("[ ,]")));
+    if (element.hasAttribute(ItemKeys::width)) {
+        item.insert(ItemKeys::width, element.attribute(ItemKeys::width).remove(QLatin1String("[ ,]")));
     }
 }
 
 void RawAttributes::addNamesakes(QJsonObject &item, const QDomElement &element)
 {
-    const QString type = item.value(typeKey).toString();
+    const QString type = item.value(ItemKeys::type).toString();
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
         const QDomAttr attribute = attributes.item(i).toAttr();
         const QString key = attribute.name();
-        const bool isInkOpacity = key == opacityKey && item.contains(colorKey);
+        const bool isInkOpacity = key == ItemKeys::opacity && item.contains(ItemKeys::color);
         if (!item.contains(key) && !isInkOpacity && !attribute.value().isEmpty() && isKeyOfType(type, key)) {
             const bool isReference = isOneOf(referenceKeys, key);
             item.insert(key, isReference ? reference(attribute.value()) : attribute.value());
@@ -123,7 +110,7 @@ bool RawAttributes::isKeyOfType(const QString &type, const QString &key)
         return *known;
     }
     const auto found = [this, &type, &key](const QString &value) {
-        const QJsonObject probe{{typeKey, type}, {key, value}};
+        const QJsonObject probe{{ItemKeys::type, type}, {key, value}};
         return m_plugin->tranItemZQTX2JSON(m_plugin->tranItemJSON2ZQTX({}, probe), {}).value(key).toString();
     };
     const bool isKey =

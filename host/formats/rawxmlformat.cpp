@@ -4,12 +4,14 @@
 #include "files/lessonerror.h"
 #include "files/packagesource.h"
 #include "files/xmlloader.h"
-#include "files/xmltext.h"
+#include "formats/keptitem.h"
 #include "formats/rawattributes.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
+#include "lesson/itemvalues.h"
 #include "lesson/pageplace.h"
+#include "lesson/pagesize.h"
 #include "losses/carriedcheck.h"
 
 #include <QDir>
@@ -17,11 +19,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
-#include <QSize>
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <cmath>
 
 namespace lessonhost {
 
@@ -38,26 +38,6 @@ const QLatin1String netId("NetID");
 constexpr const char *presentationAttributes[] = {"Width",  "Height", "Version",       "Version_app",
                                                   "Author", "Date",   "Date_modified", "Title"};
 
-/*!
- * The size of the page into which items of a slide with this source rectangle are fitted, by the nearest of the usual
- * proportions.
- */
-QSize pageSize(const QString &sourceRect)
-{
-    const QStringList parts = sourceRect.split(QLatin1Char(','));
-    const float ratio = parts.size() < 4 ? 0 : parts.at(2).toFloat() / parts.at(3).toFloat();
-    const float to43 = std::fabs(ratio - 1.3333F);
-    const float to169 = std::fabs(ratio - 1.7777F);
-    const float to1610 = std::fabs(ratio - 1.6F);
-    if (to169 > to43 && to1610 > to43) {
-        return {1440, 1080};
-    }
-    if (to169 <= to43 && to1610 > to169) {
-        return {1920, 1080};
-    }
-    return {1728, 1080};
-}
-
 // Identifiers that the plug-in makes up are new each time.
 QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
 {
@@ -70,6 +50,18 @@ QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
         object.insert(script, object.value(script).toString().remove(actionIndex));
     }
     return object;
+}
+
+// The plug-in finds the files of a list in the lesson's folder; a single file comes as the element names it.
+void findSingleFile(const QDomElement &element, QJsonObject &item)
+{
+    const QLatin1String key("MultiMediaFile");
+    const QString file = element.attribute(key);
+    if (item.value(key) == QJsonValue(file)) {
+        const int slash = file.lastIndexOf(QLatin1Char('/'));
+        const QString name = file.mid((slash >= 0 ? slash : file.lastIndexOf(QLatin1Char('\\'))) + 1);
+        item.insert(key, name.isEmpty() ? QString() : resourceFolder + QLatin1Char('/') + name);
+    }
 }
 
 void collectIds(const QDomElement &element, QSet<QString> &ids)
@@ -225,7 +217,7 @@ private:
         }
         const QJsonObject slide =
             m_context.plugin->tranSlideXML2JSON(m_slides.first().cloneNode(false).toElement(), context());
-        const QSize size = pageSize(slide.value(QLatin1String("SlideSourceRect")).toString());
+        const QSize size = pageOfSourceRect(valueText(slide.value(SlideKeys::sourceRect)));
         m_presentation.insert(width, QString::number(size.width()));
         m_presentation.insert(height, QString::number(size.height()));
     }
@@ -245,7 +237,7 @@ private:
             for (const QDomElement &son : qAsConst(nested)) {
                 sons.appendChild(son);
             }
-            return keptItem(element);
+            return keptItem(element, element.tagName(), netId);
         }
         if (check) {
             check->examine(element.tagName(), item.value(idKey).toString(), untouched,
@@ -256,6 +248,7 @@ private:
                            {});
         }
         setStableId(item, untouched);
+        findSingleFile(untouched, item);
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
         QJsonArray children;
@@ -273,15 +266,6 @@ private:
         QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
         if (!item.isEmpty()) {
             m_attributes.addTo(item, element);
-        }
-        return item;
-    }
-
-    static QJsonObject keptItem(const QDomElement &element)
-    {
-        QJsonObject item{{QStringLiteral("Type"), element.tagName()}, {HostKeys::keptXml, xmlNodeText(element)}};
-        if (element.hasAttribute(netId)) {
-            item.insert(idKey, element.attribute(netId));
         }
         return item;
     }

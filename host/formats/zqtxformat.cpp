@@ -161,6 +161,7 @@ public:
     LessonSlide slide(int index) override
     {
         const QString file = m_files.at(index);
+        checkSlideSize(QFileInfo(m_source.file(file)).size(), index + 1, m_source.displayName(file));
         const QDomDocument document = loadXmlFile(m_source.file(file), m_source.displayName(file));
         const QDomElement root = rootOf(document, slideTag, m_source.displayName(file));
         const bool isChecked = isChecking() && !m_checked.contains(index);
@@ -306,6 +307,7 @@ public:
                 .in(name);
         }
         const QByteArray text = xmlDocumentText(root);
+        checkSlideSize(text.size(), number, name);
         m_target.write(slideFile(id), text);
         m_ids.append(id);
         m_usedIds.insert(id);

@@ -3,6 +3,7 @@
 #include "files/domtools.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
+#include "formats/keptitem.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
@@ -58,16 +59,6 @@ QJsonObject heldItem(const QDomElement &element)
         return {};
     }
     return QJsonDocument::fromJson(element.attribute(heldItemAttribute).toUtf8()).object();
-}
-
-QJsonObject keptItem(const QDomElement &element)
-{
-    const QString type = element.attribute(QStringLiteral("type"));
-    QJsonObject item{{typeKey, type.isEmpty() ? element.tagName() : type}, {HostKeys::keptXml, xmlNodeText(element)}};
-    if (element.hasAttribute(QStringLiteral("id"))) {
-        item.insert(QStringLiteral("ID"), element.attribute(QStringLiteral("id")));
-    }
-    return item;
 }
 
 // What stands in the rectangle of an item and is left out by the plug-in: the box of a version 3 container, which an
@@ -203,7 +194,8 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
         for (const QDomElement &child : qAsConst(nested)) {
             data.appendChild(child);
         }
-        return keptItem(element);
+        const QString type = element.attribute(QStringLiteral("type"));
+        return keptItem(element, type.isEmpty() ? element.tagName() : type, QStringLiteral("id"));
     }
     if (check) {
         check->examine(

@@ -1,19 +1,16 @@
 #include "iwb/iwbitemreader.h"
 
 #include "izqtransformation.h"
+#include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
-#include "svg/svgextent.h"
+#include "svg/svggeometry.h"
 #include "svg/svgvalues.h"
 
 namespace lessonhost {
 
 namespace {
-
-const QLatin1String boxKey("BoundingBox");
-const QLatin1String controlKey("Control");
-const QLatin1String fillFlagKey("ArtObj_Fill");
 
 // What the plug-in leaves of the element or needs on the way, and what other keys say better.
 constexpr const char *passingKeys[] = {
@@ -63,24 +60,23 @@ void setControl(QJsonObject &json, const ShapeForm &form, const QDomElement &ele
 {
     switch (form.outline) {
     case ShapeForm::Circle:
-        json.insert(controlKey, pair(number(element, "r"), 0));
+        json.insert(ItemKeys::control, pair(number(element, "r"), 0));
         break;
     case ShapeForm::Ellipse:
-        json.insert(controlKey,
+        json.insert(ItemKeys::control,
                     QString(pair(number(element, "rx"), 0) + QLatin1Char(',') + pair(0, number(element, "ry"))));
         break;
     case ShapeForm::Angle: {
         const QPolygonF points = pointsOf(svgNumbers(element.attribute(QStringLiteral("points"))));
         if (points.size() == 3) {
-            json.insert(controlKey,
+            json.insert(ItemKeys::control,
                         pointsText(QPolygonF() << points.at(0) - points.at(2) << points.at(1) - points.at(2)));
         }
         break;
     }
     case ShapeForm::Polyline:
         // Its last character is cut off on the way out.
-        json.insert(QLatin1String("XYValue"),
-                    QString(json.value(QLatin1String("XYValue")).toString() + QLatin1Char(',')));
+        json.insert(ItemKeys::polyline, QString(json.value(ItemKeys::polyline).toString() + QLatin1Char(',')));
         break;
     default:
         break;
@@ -104,9 +100,9 @@ void completeColors(QJsonObject &json, const ShapeForm &form)
     }
     if (form.outline == ShapeForm::Polyline) {
         // ZQTX knows no such flag for polylines: the colour alone tells.
-        json.remove(fillFlagKey);
+        json.remove(ItemKeys::isFilled);
     } else if (form.fillKey && !json.contains(QLatin1String(form.fillKey))) {
-        json.insert(fillFlagKey, QStringLiteral("0"));
+        json.insert(ItemKeys::isFilled, QStringLiteral("0"));
     }
 }
 
@@ -121,7 +117,7 @@ IwbItemReader::IwbItemReader(IZQTransformation *plugin, const QString &packageFo
 QJsonObject IwbItemReader::read(const IwbElement &item) const
 {
     QJsonObject json = m_plugin->tranItemIWB2JSON(item.element, {{QStringLiteral("path"), m_path}});
-    const QString type = json.value(QLatin1String("Type")).toString();
+    const QString type = json.value(ItemKeys::type).toString();
     const auto runs = takeTextRuns(json);
     if (type.isEmpty()) {
         return {};
@@ -132,7 +128,7 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
         for (QDomElement span = item.element.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
             shifts.append(span.attribute(QStringLiteral("baseline-shift")));
         }
-        json.insert(QLatin1String("TextHtml"), htmlFromTextRuns(runs->mid(1), shifts));
+        json.insert(ItemKeys::html, htmlFromTextRuns(runs->mid(1), shifts));
     }
     for (const char *key : passingKeys) {
         json.remove(QLatin1String(key));
@@ -142,15 +138,15 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
         completeColors(json, *form);
     }
     if (const auto extent = drawnExtent(item.element)) {
-        json.insert(boxKey, boxText(*extent));
+        json.insert(ItemKeys::box, boxText(*extent));
     }
-    json.remove(QLatin1String("Angle"));
+    json.remove(ItemKeys::angle);
     if (item.angle != 0) {
-        json.insert(QLatin1String("Angle"), exactText(item.angle));
+        json.insert(ItemKeys::angle, exactText(item.angle));
     }
-    json.insert(QLatin1String("Visible"), item.isVisible);
-    json.insert(QLatin1String("LockIn"), item.isLocked ? QStringLiteral("1") : QStringLiteral("0"));
-    json.insert(QLatin1String("InfiniteClone"), item.isEndless ? QStringLiteral("1") : QStringLiteral("0"));
+    json.insert(ItemKeys::visible, item.isVisible);
+    json.insert(ItemKeys::locked, item.isLocked ? QStringLiteral("1") : QStringLiteral("0"));
+    json.insert(ItemKeys::endless, item.isEndless ? QStringLiteral("1") : QStringLiteral("0"));
     return json;
 }
 
@@ -174,7 +170,7 @@ QJsonObject IwbItemReader::readLink(const QString &target, const QHash<QString, 
     link.setAttribute(QStringLiteral("xlink:href"), known);
     link.appendChild(document.createElement(QStringLiteral("svg:g")));
     QJsonObject json = m_plugin->tranItemIWB2JSON(link, {});
-    if (json.value(QLatin1String("InteractiveType")).toString() == QLatin1String("ACTION_OPENFILE")) {
+    if (json.value(ItemKeys::linkType).toString() == QLatin1String("ACTION_OPENFILE")) {
         return {};
     }
     return json;

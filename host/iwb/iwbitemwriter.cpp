@@ -4,13 +4,13 @@
 #include "files/pictures.h"
 #include "iwb/shapeplacing.h"
 #include "izqtransformation.h"
-#include "lesson/itemplace.h"
-#include "lesson/itemvalues.h"
+#include "lesson/itemtypes.h"
+#include "lesson/itemview.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "losses/lossreport.h"
 #include "svg/pluginoutlines.h"
-#include "svg/svgextent.h"
+#include "svg/svggeometry.h"
 #include "svg/svgstyle.h"
 
 #include <QFile>
@@ -22,10 +22,6 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String idKey("ID");
-const QLatin1String typeKey("Type");
-const QLatin1String linkTypeKey("InteractiveType");
-const QLatin1String linkValueKey("InteractiveValue");
 const QLatin1String openFile("ACTION_OPENFILE");
 
 // Keys of an item that go over, one way or another, or that say nothing about the item itself.
@@ -50,61 +46,6 @@ constexpr const char *carriedByText[] = {"TextHtml", "Text", "TextContent"};
 constexpr const char *carriedByMedia[] = {"resource",    "MultiMediaFile", "AbsMediaFile",
                                           "tmpFilePath", "path",           "saveType"};
 
-// Strokes that are lines. Stamps and records of erased pixels are not.
-bool isInk(const QString &type)
-{
-    static const QSet<QString> types{
-        QStringLiteral("ZQSmoothStroke"),      QStringLiteral("ZQBrushStrokeVelocity"), QStringLiteral("ZQBrushStroke"),
-        QStringLiteral("ZQCombineStroke"),     QStringLiteral("ZQStrokesCombine"),      QStringLiteral("stroke"),
-        QStringLiteral("ZQFluorescentStroke"), QStringLiteral("ZQStrokeTexture"),       QStringLiteral("ZQChalkStroke"),
-        QStringLiteral("ZQBrChalkStroke"),
-    };
-    return types.contains(type);
-}
-
-struct MediaFolder
-{
-    const char *type;
-    const char *folder;
-};
-constexpr MediaFolder mediaFolders[] = {
-    {"ZQImagePic", "images"},
-    {"ZQMediaVideo", "videos"},
-    {"ZQMediaFlash", "videos"},
-    {"ZQMediaAudio", "audio"},
-};
-
-const char *mediaFolder(const QString &type)
-{
-    for (const MediaFolder &row : mediaFolders) {
-        if (type == QLatin1String(row.type)) {
-            return row.folder;
-        }
-    }
-    return nullptr;
-}
-
-bool isTextBoard(const QString &type)
-{
-    return type == QLatin1String("ZQTextBoard") || type == QLatin1String("text");
-}
-
-bool isFlagSet(const QJsonValue &value, bool missing)
-{
-    if (value.isUndefined() || value.isNull()) {
-        return missing;
-    }
-    if (value.isBool()) {
-        return value.toBool();
-    }
-    return value.isDouble() ? value.toDouble() != 0 : value.toString().toInt() != 0;
-}
-
-QString textOf(const QJsonValue &value)
-{
-    return value.isDouble() ? QString::number(value.toDouble(), 'g', 12) : value.toString();
-}
-
 bool saysNothing(const QJsonValue &value)
 {
     switch (value.type()) {
@@ -123,18 +64,18 @@ bool saysNothing(const QJsonValue &value)
     }
 }
 
-SvgPaint paintOf(const QJsonObject &item, const ShapeForm &form)
+SvgPaint paintOf(const ItemView &item, const ShapeForm &form)
 {
     SvgPaint paint;
-    paint.line = itemColor(item.value(QLatin1String(form.lineKey))).value_or(QColor(Qt::black));
+    paint.line = item.color(QLatin1String(form.lineKey)).value_or(QColor(Qt::black));
     paint.fill = QColor(0, 0, 0, 0);
-    const bool isFilled = item.value(QLatin1String("ArtObj_Fill")).toString() != QLatin1String("0");
+    const bool isFilled = item.text(ItemKeys::isFilled) != QLatin1String("0");
     if (form.fillKey && isFilled) {
-        paint.fill = itemColor(item.value(QLatin1String(form.fillKey))).value_or(paint.fill);
+        paint.fill = item.color(QLatin1String(form.fillKey)).value_or(paint.fill);
     }
-    const double width = textOf(item.value(QLatin1String("ArtObj_Width"))).toDouble();
+    const double width = item.number(ItemKeys::lineWidth);
     // Shapes without a width are drawn two pixels wide.
-    paint.lineWidth = width > 0 && qIsFinite(width) ? width : 2;
+    paint.lineWidth = width > 0 ? width : 2;
     return paint;
 }
 
@@ -145,41 +86,10 @@ void setPaintKeys(QJsonObject &prepared, const ShapeForm &form, const SvgPaint &
     if (form.fillKey && paint.fill.alpha() > 0) {
         prepared.insert(QLatin1String(form.fillKey), colorText(paint.fill));
     }
-    prepared.insert(QLatin1String("ArtObj_Width"), QString::number(qBound(1, qRound(paint.lineWidth), 10000)));
+    prepared.insert(ItemKeys::lineWidth, QString::number(qRound(qBound(1.0, paint.lineWidth, 10000.0))));
     if (!dash.isEmpty()) {
         prepared.insert(QLatin1String(form.dashKey), dash);
     }
-}
-
-void setNumber(QDomElement &element, const char *attribute, double value)
-{
-    element.setAttribute(QLatin1String(attribute), QString::number(qAbs(value) < 1e-9 ? 0 : value));
-}
-
-void setBox(QDomElement &element, const QRectF &box)
-{
-    setNumber(element, "x", box.x());
-    setNumber(element, "y", box.y());
-    setNumber(element, "width", box.width());
-    setNumber(element, "height", box.height());
-}
-
-// A turn as svg tells it, in degrees, about the very centre of what is written: another would move the element when it
-// is read. The numbers have blanks between them: with commas they would be in radians.
-void setTurn(QDomElement &element, double angle)
-{
-    double degrees = std::remainder(angle * 180 / M_PI, 360);
-    if (degrees < -180 + 1e-4) {
-        degrees += 360;
-    }
-    if (qAbs(degrees) < 1e-4) {
-        element.removeAttribute(QStringLiteral("transform"));
-        return;
-    }
-    const QPointF center = drawnExtent(element).value_or(QRectF()).center();
-    element.setAttribute(
-        QStringLiteral("transform"),
-        QStringLiteral("rotate(%1 %2 %3)").arg(degrees).arg(exactText(center.x()), exactText(center.y())));
 }
 
 // The item's own element, within a link around it.
@@ -204,17 +114,6 @@ bool isDrawn(const QDomElement &element)
     return !hasArea || (extent.width() > 0 && extent.height() > 0);
 }
 
-// Points of a stroke: the first pair is a place, each further one a step.
-QPolygonF strokePoints(const QJsonObject &item)
-{
-    QPolygonF points = pointsOf(itemNumbers(item.value(QLatin1String("XY"))));
-    for (int i = 1; i < points.size(); ++i) {
-        points[i] += points.at(i - 1);
-    }
-    const auto matrix = transformOfText(item.value(QLatin1String("Matrix")).toString());
-    return matrix ? matrix->map(points) : points;
-}
-
 } // namespace
 
 IwbItemWriter::IwbItemWriter(const Setting &setting)
@@ -234,16 +133,17 @@ void IwbItemWriter::write(QDomDocument &document, QDomElement &page, const QJson
 
 void IwbItemWriter::writeItem(const QJsonObject &item)
 {
-    const QString type = item.value(typeKey).toString();
-    const QJsonArray children = item.value(QLatin1String("Children")).toArray();
+    const ItemView view(item);
+    const QString type = view.type();
+    const QVector<QJsonObject> children = view.looseChildren();
     if (!children.isEmpty()) {
         report(item, Loss::Note, {}, QStringLiteral("taken apart, its items stand on the page by themselves"));
-        for (const QJsonValue &child : children) {
-            writeItem(child.toObject());
+        for (const QJsonObject &child : children) {
+            writeItem(child);
         }
     } else if (const ShapeForm *form = shapeForm(type)) {
         writeShape(item, *form);
-    } else if (isInk(type) && item.contains(QLatin1String("XY"))) {
+    } else if (isInk(type) && view.has(ItemKeys::steps)) {
         writeStroke(item);
     } else if (isTextBoard(type)) {
         writeText(item);
@@ -256,13 +156,14 @@ void IwbItemWriter::writeItem(const QJsonObject &item)
 
 void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
 {
-    const PlacedShape placed = placeShape(item, form, pluginOutlines(m_setting.plugin));
-    const SvgPaint paint = paintOf(item, form);
+    const ItemView view(item);
+    const PlacedShape placed = placeShape(view, form, pluginOutlines(m_setting.plugin));
+    const SvgPaint paint = paintOf(view, form);
     QJsonObject prepared = commonKeys(item);
     for (auto it = placed.geometry.constBegin(); it != placed.geometry.constEnd(); ++it) {
-        prepared.insert(it.key(), it.value().isDouble() ? QJsonValue(textOf(it.value())) : it.value());
+        prepared.insert(it.key(), it.value());
     }
-    setPaintKeys(prepared, *placed.form, paint, textOf(item.value(QLatin1String(form.dashKey))));
+    setPaintKeys(prepared, *placed.form, paint, view.text(QLatin1String(form.dashKey)));
     QDomElement element = convert(item, prepared);
     if (element.isNull()) {
         return;
@@ -277,15 +178,17 @@ void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
     }
     const QRectF extent = drawnExtent(shape).value_or(QRectF());
     const QRectF box = placed.form->outline == ShapeForm::Rectangle ? placed.box.value_or(extent) : extent;
-    setBox(shape, box);
-    setTurn(shape, placed.angle);
+    setSvgBox(shape, box, pluginDigits);
+    setSvgTurn(shape, placed.angle);
     reportUncarried(withoutDoubledWidth(item), carriedByShapes, &form);
     append(item, element);
 }
 
 void IwbItemWriter::writeStroke(const QJsonObject &item)
 {
-    const QPolygonF points = strokePoints(item);
+    const ItemView view(item);
+    const auto matrix = view.matrix();
+    const QPolygonF points = matrix ? matrix->map(view.strokePoints()) : view.strokePoints();
     if (!m_setting.keepsInk || points.isEmpty()) {
         ++m_strokesLeftOut;
         report(item, Loss::Item, {},
@@ -300,12 +203,11 @@ void IwbItemWriter::writeStroke(const QJsonObject &item)
             polyline.insert(QLatin1String(key), item.value(QLatin1String(key)));
         }
     }
-    const QColor color = itemColor(item.value(QLatin1String("Color"))).value_or(QColor(Qt::red));
-    polyline.insert(typeKey, QLatin1String(form.type));
-    polyline.insert(QLatin1String("XYValue"), QString(pointsText(points) + QLatin1Char(',')));
+    const QColor color = view.color(ItemKeys::color).value_or(QColor(Qt::red));
+    polyline.insert(ItemKeys::type, QLatin1String(form.type));
+    polyline.insert(ItemKeys::polyline, QString(pointsText(points) + QLatin1Char(',')));
     polyline.insert(QLatin1String(form.lineKey), colorText(color));
-    polyline.insert(QLatin1String("ArtObj_Width"),
-                    exactText(itemNumbers(item.value(QLatin1String("Width"))).value(0, 5) * itemScale(item)));
+    polyline.insert(ItemKeys::lineWidth, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
     reportUncarried(item, carriedByStrokes);
     writeShape(polyline, form);
     ++m_strokes;
@@ -313,30 +215,31 @@ void IwbItemWriter::writeStroke(const QJsonObject &item)
 
 void IwbItemWriter::writeText(const QJsonObject &item)
 {
-    QString html = item.value(QLatin1String("TextHtml")).toString();
+    const ItemView view(item);
+    const QString html = view.text(ItemKeys::html);
     TextRuns text;
     if (!html.isEmpty()) {
         text = textRunsFromHtml(html);
     } else {
-        const QString plain = item.value(QLatin1String("Text")).toString();
-        const QString content = item.value(QLatin1String("TextContent")).toString();
+        const QString plain = view.text(ItemKeys::text);
+        const QString content = view.text(ItemKeys::textContent);
         text = textRunsFromPlainText(plain.isEmpty() ? content : plain);
         if (!plain.isEmpty() && !content.isEmpty() && plain != content) {
-            report(item, Loss::Value, QStringLiteral("TextContent"), {});
+            report(item, Loss::Value, ItemKeys::textContent, {});
         }
     }
     for (const QString &loss : qAsConst(text.losses)) {
-        report(item, Loss::Value, QStringLiteral("TextHtml"), loss);
+        report(item, Loss::Value, ItemKeys::html, loss);
     }
     QJsonObject prepared = commonKeys(item);
-    const auto place = itemPlace(item);
+    const auto place = view.place();
     if (place) {
-        prepared.insert(QLatin1String("BoundingBox"), boxText(place->box));
-        prepared.insert(QLatin1String("Matrix"), QStringLiteral("1,0,0,1,0,0"));
+        prepared.insert(ItemKeys::box, boxText(place->box));
+        prepared.insert(ItemKeys::matrix, QStringLiteral("1,0,0,1,0,0"));
     }
     for (int i = 0; i < text.runs.size(); ++i) {
         QString &size = text.runs[i].fontSize;
-        const double pixels = size.toDouble() * itemScale(item);
+        const double pixels = size.toDouble() * view.scale();
         size = text.shifts.at(i).isEmpty() ? QString::number(pixels) : exactText(pixels * shiftedLetters);
     }
     const TextRunLoan loan(prepared, text.runs);
@@ -357,8 +260,8 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         }
     }
     if (place) {
-        setBox(area, place->box);
-        setTurn(area, place->angle);
+        setSvgBox(area, place->box, pluginDigits);
+        setSvgTurn(area, place->angle);
     }
     reportUncarried(item, carriedByText);
     append(item, element);
@@ -366,10 +269,11 @@ void IwbItemWriter::writeText(const QJsonObject &item)
 
 void IwbItemWriter::writeMedia(const QJsonObject &item)
 {
-    const QString type = item.value(typeKey).toString();
-    QString reference = item.value(QLatin1String("resource")).toString();
+    const ItemView view(item);
+    const QString type = view.type();
+    QString reference = view.text(ItemKeys::resource);
     if (reference.isEmpty()) {
-        reference = item.value(QLatin1String("MultiMediaFile")).toString().section(QLatin1Char(','), 0, 0);
+        reference = view.firstText(ItemKeys::mediaFiles);
     }
     QString source = m_setting.files->find(reference);
     if (source.isEmpty()) {
@@ -385,13 +289,12 @@ void IwbItemWriter::writeMedia(const QJsonObject &item)
     prepared.insert(QLatin1String("tmpFilePath"), m_setting.exportFolder);
     if (!source.isEmpty()) {
         prepared.insert(QLatin1String("AbsMediaFile"), source);
-        prepared.insert(QLatin1String("MultiMediaFile"),
-                        m_setting.files->nameIn(QLatin1String(mediaFolder(type)), source));
+        prepared.insert(ItemKeys::mediaFiles, m_setting.files->nameIn(QLatin1String(mediaFolder(type)), source));
     }
-    const auto place = itemPlace(item);
+    const auto place = view.place();
     if (place) {
-        prepared.insert(QLatin1String("BoundingBox"), boxText(place->box));
-        prepared.insert(QLatin1String("Matrix"), QStringLiteral("1,0,0,1,0,0"));
+        prepared.insert(ItemKeys::box, boxText(place->box));
+        prepared.insert(ItemKeys::matrix, QStringLiteral("1,0,0,1,0,0"));
     }
     QDomElement element = convert(item, prepared);
     if (element.isNull()) {
@@ -402,8 +305,8 @@ void IwbItemWriter::writeMedia(const QJsonObject &item)
         media.removeAttribute(QStringLiteral("xlink:href"));
     }
     if (place) {
-        setBox(media, place->box);
-        setTurn(media, place->angle);
+        setSvgBox(media, place->box, pluginDigits);
+        setSvgTurn(media, place->angle);
     }
     if (media.tagName() == QLatin1String("svg:image")) {
         media.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
@@ -424,17 +327,17 @@ void IwbItemWriter::writeOther(const QJsonObject &item)
 // are addresses in memory or folders to write into must not count.
 QJsonObject IwbItemWriter::commonKeys(const QJsonObject &item)
 {
+    const ItemView view(item);
     QJsonObject prepared;
-    QString id = withoutControlCharacters(textOf(item.value(idKey)));
+    QString id = withoutControlCharacters(view.id());
     if (id.isEmpty()) {
         id = QStringLiteral("item%1_%2").arg(m_slide).arg(++m_generatedIds);
     }
-    prepared.insert(idKey, id);
-    prepared.insert(typeKey, item.value(typeKey).toString());
-    prepared.insert(QLatin1String("Visible"), isFlagSet(item.value(QLatin1String("Visible")), true));
-    for (const char *key : {"LockIn", "InfiniteClone"}) {
-        const bool isSet = isFlagSet(item.value(QLatin1String(key)), false);
-        prepared.insert(QLatin1String(key), isSet ? QStringLiteral("1") : QStringLiteral("0"));
+    prepared.insert(ItemKeys::id, id);
+    prepared.insert(ItemKeys::type, view.type());
+    prepared.insert(ItemKeys::visible, view.isVisible());
+    for (const QLatin1String key : {ItemKeys::locked, ItemKeys::endless}) {
+        prepared.insert(key, view.flag(key) ? QStringLiteral("1") : QStringLiteral("0"));
     }
     addLink(item, prepared);
     return prepared;
@@ -442,11 +345,12 @@ QJsonObject IwbItemWriter::commonKeys(const QJsonObject &item)
 
 void IwbItemWriter::addLink(const QJsonObject &item, QJsonObject &prepared)
 {
-    const QString kind = item.value(linkTypeKey).toString();
+    const ItemView view(item);
+    const QString kind = view.text(ItemKeys::linkType);
     if (kind.isEmpty()) {
         return;
     }
-    QString value = withoutControlCharacters(textOf(item.value(linkValueKey)));
+    QString value = withoutControlCharacters(view.text(ItemKeys::linkValue));
     if (kind == openFile) {
         value = linkedFile(item, value);
         if (value.isEmpty()) {
@@ -454,8 +358,8 @@ void IwbItemWriter::addLink(const QJsonObject &item, QJsonObject &prepared)
         }
         prepared.insert(QLatin1String("tmpFilePath"), m_setting.exportFolder);
     }
-    prepared.insert(linkTypeKey, kind);
-    prepared.insert(linkValueKey, value);
+    prepared.insert(ItemKeys::linkType, kind);
+    prepared.insert(ItemKeys::linkValue, value);
 }
 
 // The file under the name that it gets in the package, which is that of the path that the plug-in copies from.
@@ -481,7 +385,7 @@ QDomElement IwbItemWriter::convert(const QJsonObject &item, const QJsonObject &p
     QDomElement root = m_document.documentElement();
     const QDomNode lastRecord = root.lastChild();
     const QDomElement element = m_setting.plugin->tranItemJSON2IWB(m_document, prepared);
-    const bool isEmptyLink = prepared.contains(linkTypeKey) && element.firstChildElement().isNull();
+    const bool isEmptyLink = prepared.contains(ItemKeys::linkType) && element.firstChildElement().isNull();
     const bool hasForm = !element.isNull() && !isEmptyLink;
     if (hasForm && isDrawn(innermost(element))) {
         return element;
@@ -497,11 +401,12 @@ QDomElement IwbItemWriter::convert(const QJsonObject &item, const QJsonObject &p
 void IwbItemWriter::append(const QJsonObject &item, QDomElement element)
 {
     QDomElement inner = innermost(element);
-    if (!isFlagSet(item.value(QLatin1String("Visible")), true)) {
+    const ItemView view(item);
+    if (!view.isVisible()) {
         inner.setAttribute(QStringLiteral("visibility"), QStringLiteral("hidden"));
     }
     m_page.appendChild(element);
-    if (isFlagSet(item.value(QLatin1String("LockIn")), false)) {
+    if (view.isLocked()) {
         QDomElement record = m_document.createElement(QStringLiteral("iwb:element"));
         record.setAttribute(QStringLiteral("ref"), inner.attribute(QStringLiteral("id")));
         record.setAttribute(QStringLiteral("locked"), QStringLiteral("true"));
@@ -514,8 +419,9 @@ void IwbItemWriter::report(const QJsonObject &item, int kind, const QString &key
     Loss loss;
     loss.kind = Loss::Kind(kind);
     loss.slide = m_slide;
-    loss.itemType = item.value(typeKey).toString();
-    loss.itemId = textOf(item.value(idKey));
+    const ItemView view(item);
+    loss.itemType = view.type();
+    loss.itemId = view.id();
     loss.key = key;
     loss.detail = detail;
     m_setting.losses->add(loss);

@@ -24,15 +24,6 @@ bool hasScheme(const QString &reference)
         && reference.leftRef(colon).indexOf(QLatin1Char('/')) < 0;
 }
 
-QString plainPath(QString reference)
-{
-    reference.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    while (reference.startsWith(QLatin1String("./"))) {
-        reference.remove(0, 2);
-    }
-    return reference;
-}
-
 QString suffixOfMediaType(const QString &type)
 {
     struct Row

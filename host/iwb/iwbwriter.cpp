@@ -6,7 +6,9 @@
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
 #include "izqtransformation.h"
+#include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
+#include "lesson/pagesize.h"
 #include "lesson/textruns.h"
 
 #include <QDir>
@@ -25,43 +27,17 @@ const QLatin1String exportFolder("/lesson.iwb");
 const QLatin1String libraryFolder("/lesson/filelibrary");
 const QLatin1String linkFolder("/links");
 const QLatin1String contentFile("content.xml");
-const QLatin1String backColorKey("BackColor");
 const QLatin1String svgTag("svg:svg");
 // How many elements stand around a page and around a record about an item.
 constexpr int pageDepth = 3;
 constexpr int recordDepth = 1;
 
-QString textOf(const QJsonValue &value)
-{
-    return value.isDouble() ? QString::number(value.toDouble(), 'g', 12) : value.toString();
-}
-
-// The page that the editor fits slides of a source rectangle into.
-QSizeF pageOfSourceRect(const QString &text)
-{
-    const QVector<double> numbers = itemNumbers(QJsonValue(text));
-    const double ratio = numbers.size() >= 4 && numbers.at(3) > 0 ? numbers.at(2) / numbers.at(3) : 4.0 / 3;
-    const double to43 = qAbs(ratio - 1.3333);
-    const double to169 = qAbs(ratio - 1.7777);
-    const double to1610 = qAbs(ratio - 1.6);
-    if (to169 > to43 && to1610 > to43) {
-        return QSizeF(1440, 1080);
-    }
-    return to169 <= to43 && to1610 > to169 ? QSizeF(1920, 1080) : QSizeF(1728, 1080);
-}
-
 // The name of a background's colour: a number 0xRRGGBB or any text of a colour.
 QString backgroundColor(const QJsonObject &properties)
 {
-    const QJsonValue backColor = properties.value(backColorKey);
-    std::optional<QColor> color;
-    if (backColor.isDouble()) {
-        color = QColor(QRgb(backColor.toInt()));
-    } else {
-        color = itemColor(backColor);
-    }
+    auto color = backColor(properties.value(SlideKeys::backColor));
     if (!color) {
-        color = itemColor(properties.value(QLatin1String("color")));
+        color = itemColor(properties.value(SlideKeys::color));
     }
     return color ? color->name(color->alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) : QStringLiteral("#ffffff");
 }
@@ -112,13 +88,12 @@ void IwbWriter::startDocument(const QJsonObject &firstSlide)
 {
     const QLatin1String width("Width");
     const QLatin1String height("Height");
-    m_pageSize =
-        QSizeF(textOf(m_presentation.value(width)).toDouble(), textOf(m_presentation.value(height)).toDouble());
+    m_pageSize = QSizeF(itemNumber(m_presentation.value(width)), itemNumber(m_presentation.value(height)));
     if (!(m_pageSize.width() > 0) || !(m_pageSize.height() > 0)) {
-        m_pageSize = pageOfSourceRect(firstSlide.value(QLatin1String("SlideSourceRect")).toString());
+        m_pageSize = pageOfSourceRect(valueText(firstSlide.value(SlideKeys::sourceRect)));
     }
     QJsonObject size{{width, exactText(m_pageSize.width())}, {height, exactText(m_pageSize.height())}};
-    const QString id = withoutControlCharacters(textOf(m_presentation.value(QLatin1String("ID"))));
+    const QString id = withoutControlCharacters(valueText(m_presentation.value(QLatin1String("ID"))));
     if (!id.isEmpty()) {
         size.insert(QLatin1String("ID"), id);
     }
@@ -200,7 +175,7 @@ void IwbWriter::failWithoutPages() const
 QJsonObject IwbWriter::pageProperties(const QJsonObject &properties)
 {
     // The identifier names a file.
-    QString id = withoutControlCharacters(textOf(properties.value(QLatin1String("ID"))));
+    QString id = withoutControlCharacters(valueText(properties.value(QLatin1String("ID"))));
     if (!problemWithFileName(id).isEmpty()) {
         id = QLatin1String("slide") + QString::number(m_slides);
     }
@@ -212,7 +187,7 @@ QJsonObject IwbWriter::pageProperties(const QJsonObject &properties)
         {QStringLiteral("y"), QStringLiteral("0")},
         {QStringLiteral("Width"), exactText(m_pageSize.width())},
         {QStringLiteral("Height"), exactText(m_pageSize.height())},
-        {backColorKey, backgroundColor(properties)},
+        {SlideKeys::backColor, backgroundColor(properties)},
         {QStringLiteral("AttachFile"), backgroundFile(properties, id)},
     };
 }
@@ -221,8 +196,8 @@ QJsonObject IwbWriter::pageProperties(const QJsonObject &properties)
 // nothing.
 QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &id)
 {
-    QStringList references = properties.value(QLatin1String("AttachFile")).toString().split(QLatin1Char(','));
-    references.append(properties.value(QLatin1String("document")).toString());
+    QStringList references = valueText(properties.value(SlideKeys::files)).split(QLatin1Char(','));
+    references.append(valueText(properties.value(SlideKeys::document)));
     references.removeAll(QString());
     QString chosen;
     for (const QString &reference : qAsConst(references)) {

@@ -1,10 +1,6 @@
 #include "iwb/shapeplacing.h"
 
-#include "lesson/itemplace.h"
-#include "lesson/itemvalues.h"
 #include "lesson/planegeometry.h"
-#include "lesson/shapeforms.h"
-#include "lesson/shapegeometry.h"
 
 #include <cmath>
 
@@ -12,11 +8,6 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String boxKey("BoundingBox");
-const QLatin1String matrixKey("Matrix");
-const QLatin1String controlKey("Control");
-const QLatin1String pointsKey("XYValue");
-const QLatin1String typeKey("Type");
 const QLatin1String identityText("1,0,0,1,0,0");
 
 // Scale along one axis; points that have no extent of their own stay together.
@@ -44,19 +35,19 @@ QPolygonF fitted(const QPolygonF &points, const ItemPlace &place)
 class ShapePlacer
 {
 public:
-    ShapePlacer(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
-        : m_item(withImplied(item, form))
+    ShapePlacer(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines)
+        : m_item(withImplied(item.json(), form))
         , m_form(form)
         , m_outlines(outlines)
     {
         m_result.form = &form;
-        copy(QLatin1String("ArtObj_Ln"));
-        copy(QLatin1String("ArtObj_ArrowType"));
+        copy(ItemKeys::corners);
+        copy(ItemKeys::arrows);
     }
 
     PlacedShape place()
     {
-        const auto matrix = matrixOf(m_item);
+        const auto matrix = m_item.matrix();
         switch (m_form.outline) {
         case ShapeForm::Circle:
         case ShapeForm::Ellipse:
@@ -69,36 +60,36 @@ public:
             matrix ? pointsUnder(*matrix) : pointsInBox();
             break;
         }
-        m_result.geometry.insert(typeKey, QLatin1String(m_result.form->type));
+        m_result.geometry.insert(ItemKeys::type, QLatin1String(m_result.form->type));
         return m_result;
     }
 
 private:
     void copy(QLatin1String key)
     {
-        if (m_item.contains(key)) {
-            m_result.geometry.insert(key, m_item.value(key));
+        if (m_item.has(key)) {
+            set(key, m_item.text(key));
         }
     }
 
     void set(QLatin1String key, const QString &text) { m_result.geometry.insert(key, text); }
 
-    ItemPlace target(const QRectF &own) const { return {boxOf(m_item).value_or(own), angleOf(m_item)}; }
+    ItemPlace target(const QRectF &own) const { return {m_item.box().value_or(own), m_item.angle()}; }
 
     void pointsUnder(const QTransform &matrix)
     {
-        if (m_form.outline == ShapeForm::Derived && m_item.contains(controlKey)) {
+        if (m_form.outline == ShapeForm::Derived && m_item.has(ItemKeys::control)) {
             // Under a matrix of its own a parallelogram would lie flat whichever way it is turned.
             m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
-            set(matrixKey, identityText);
-            set(controlKey, pointsText(matrix.map(m_outlines(m_item))));
+            set(ItemKeys::matrix, identityText);
+            set(ItemKeys::control, pointsText(matrix.map(m_outlines(m_item.json()))));
             return;
         }
-        copy(matrixKey);
+        set(ItemKeys::matrix, transformText(matrix));
         if (m_form.outline == ShapeForm::Polyline) {
-            set(pointsKey, pointsText(padded(shapePoints(m_item, m_form, m_outlines))) + QLatin1Char(','));
+            set(ItemKeys::polyline, pointsText(padded(shapePoints(m_item, m_form, m_outlines))) + QLatin1Char(','));
         } else {
-            set(controlKey, pointsText(pointsOf(itemNumbers(m_item.value(controlKey)))));
+            set(ItemKeys::control, pointsText(m_item.points(ItemKeys::control)));
         }
     }
 
@@ -108,17 +99,17 @@ private:
         if (points.isEmpty()) {
             return;
         }
-        const auto origin = m_form.outline == ShapeForm::Angle ? createdAt(m_item) : std::nullopt;
+        const auto origin = m_form.outline == ShapeForm::Angle ? m_item.createdAt() : std::nullopt;
         if (origin) {
             points.last() = *origin;
         } else {
             points = fitted(points, target(extentOf(points)));
         }
         m_result.box = extentOf(points);
-        set(matrixKey, identityText);
+        set(ItemKeys::matrix, identityText);
         switch (m_form.outline) {
         case ShapeForm::Polyline:
-            set(pointsKey, pointsText(padded(points)) + QLatin1Char(','));
+            set(ItemKeys::polyline, pointsText(padded(points)) + QLatin1Char(','));
             break;
         case ShapeForm::Angle:
             angle(points);
@@ -127,7 +118,7 @@ private:
             m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
             Q_FALLTHROUGH();
         default:
-            set(controlKey, pointsText(points));
+            set(ItemKeys::control, pointsText(points));
             break;
         }
     }
@@ -149,18 +140,18 @@ private:
         }
         const auto single = [](double value) { return qAbs(value) < 1e-9 ? 0 : double(float(value)); };
         const QPointF origin(single(points.at(2).x()), single(points.at(2).y()));
-        set(matrixKey,
+        set(ItemKeys::matrix,
             QLatin1String("1,0,0,1,") + QString::number(origin.x(), 'g', 17) + QLatin1Char(',')
                 + QString::number(origin.y(), 'g', 17));
-        set(controlKey, pointsText(QPolygonF() << points.at(0) - origin << points.at(1) - origin));
+        set(ItemKeys::control, pointsText(QPolygonF() << points.at(0) - origin << points.at(1) - origin));
     }
 
     void ellipseUnder(const QTransform &matrix)
     {
-        copy(matrixKey);
-        const QPolygonF rim = pointsOf(itemNumbers(m_item.value(controlKey)));
+        set(ItemKeys::matrix, transformText(matrix));
+        const QPolygonF rim = m_item.points(ItemKeys::control);
         if (!rim.isEmpty()) {
-            set(controlKey, pointsText(rim));
+            set(ItemKeys::control, pointsText(rim));
         }
         if (m_form.outline == ShapeForm::Ellipse) {
             m_result.angle = std::atan2(matrix.m12(), matrix.m11());
@@ -169,7 +160,7 @@ private:
 
     void ellipseInBox()
     {
-        const QPointF origin = createdAt(m_item).value_or(QPointF());
+        const QPointF origin = m_item.createdAt().value_or(QPointF());
         const QSizeF radii = ownRadii(m_item, m_form.outline, origin);
         const QPointF corner(radii.width(), radii.height());
         const ItemPlace place = target(QRectF(origin - corner, origin + corner));
@@ -177,13 +168,13 @@ private:
         const double ry = place.box.height() / 2;
         const bool isCircle = m_form.outline == ShapeForm::Circle && qAbs(rx - ry) <= 0.5;
         if (isCircle) {
-            set(controlKey, exactText((rx + ry) / 2) + QLatin1String(",0"));
+            set(ItemKeys::control, exactText((rx + ry) / 2) + QLatin1String(",0"));
         } else {
             m_result.form = shapeForm(QStringLiteral("ZQMath2DEllipse"));
-            set(controlKey, exactText(rx) + QLatin1String(",0,0,") + exactText(ry));
+            set(ItemKeys::control, exactText(rx) + QLatin1String(",0,0,") + exactText(ry));
             m_result.angle = place.angle;
         }
-        set(matrixKey,
+        set(ItemKeys::matrix,
             QLatin1String("1,0,0,1,") + exactText(place.box.center().x()) + QLatin1Char(',')
                 + exactText(place.box.center().y()));
         m_result.box = place.box;
@@ -193,12 +184,12 @@ private:
     {
         m_result.box = place.box;
         m_result.angle = place.angle;
-        set(matrixKey, identityText);
-        set(boxKey, boxText(place.box));
-        set(controlKey, pointsText(QPolygonF() << place.box.topRight() << place.box.bottomLeft()));
+        set(ItemKeys::matrix, identityText);
+        set(ItemKeys::box, boxText(place.box));
+        set(ItemKeys::control, pointsText(QPolygonF() << place.box.topRight() << place.box.bottomLeft()));
     }
 
-    void rectangleInBox() { rectangle(target(extentOf(pointsOf(itemNumbers(m_item.value(controlKey)))))); }
+    void rectangleInBox() { rectangle(target(extentOf(m_item.points(ItemKeys::control)))); }
 
     void rectangleUnder(const QTransform &matrix)
     {
@@ -209,11 +200,11 @@ private:
         }
         // A slanted rectangle is a quadrangle.
         m_result.form = shapeForm(QStringLiteral("ZQMath2DQuadrangle"));
-        set(matrixKey, identityText);
-        set(controlKey, pointsText(withoutRepeatedEnd(matrix.map(QPolygonF(own)))));
+        set(ItemKeys::matrix, identityText);
+        set(ItemKeys::control, pointsText(withoutRepeatedEnd(matrix.map(QPolygonF(own)))));
     }
 
-    const QJsonObject m_item;
+    const ItemView m_item;
     const ShapeForm &m_form;
     const OutlineSource &m_outlines;
     PlacedShape m_result;
@@ -221,7 +212,7 @@ private:
 
 } // namespace
 
-PlacedShape placeShape(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
+PlacedShape placeShape(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines)
 {
     return ShapePlacer(item, form, outlines).place();
 }

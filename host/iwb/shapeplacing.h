@@ -1,7 +1,6 @@
 #ifndef SHAPEPLACING_H
 #define SHAPEPLACING_H
 
-#include "lesson/shapeforms.h"
 #include "lesson/shapegeometry.h"
 
 #include <QJsonObject>
@@ -29,7 +28,7 @@ struct PlacedShape
  * Rotations are worked into the points where a shape has points; a rectangle or ellipse keeps its box and gets a turn,
  * since the plug-in's own rotation of rectangles moves them.
  */
-PlacedShape placeShape(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines);
+PlacedShape placeShape(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines);
 
 } // namespace lessonhost
 

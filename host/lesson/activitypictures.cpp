@@ -1,12 +1,11 @@
 #include "lesson/activitypictures.h"
 
 #include "files/packagenames.h"
+#include "lesson/isoneof.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-
-#include <algorithm>
 
 namespace lessonhost {
 
@@ -29,8 +28,7 @@ template <typename Change> QJsonObject changedPictures(QJsonObject templet, Chan
     const QStringList keys = templet.keys();
     for (const QString &key : keys) {
         const QJsonValue value = templet.value(key);
-        const bool isPlain = std::any_of(std::begin(plainKeys), std::end(plainKeys),
-                                         [&key](const char *plain) { return key == QLatin1String(plain); });
+        const bool isPlain = isOneOf(plainKeys, key);
         if (value.isObject()) {
             QJsonObject figure = value.toObject();
             for (const char *name : figurePictures) {

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 namespace lessonhost {
 
@@ -25,11 +26,46 @@ bool isColorObject(const QJsonObject &object)
                        [](const QJsonValue &value) { return value.isDouble(); });
 }
 
-QString colorObjectText(const QJsonObject &color)
+// 0 for what is no number.
+int channel(double value)
 {
-    const int solid = color.value(solidKey).toInt();
-    const int alpha = qRound(color.value(alphaKey).toDouble(1.0) * 255.0);
-    return QStringLiteral("%1,%2,%3,%4").arg(alpha).arg((solid >> 16) & 255).arg((solid >> 8) & 255).arg(solid & 255);
+    return value > 0 ? qRound(qMin(value, 255.0)) : 0;
+}
+
+// Numbers with the sign bit of an alpha are negative where 32 bits hold them.
+QRgb rgbOf(double number)
+{
+    const double largest = std::numeric_limits<quint32>::max();
+    return QRgb(qint64(qBound(-largest, number, largest)));
+}
+
+QRgb solidOf(const QJsonObject &object)
+{
+    return rgbOf(itemNumber(object.value(solidKey)));
+}
+
+double alphaOf(const QJsonObject &object)
+{
+    return itemNumber(object.value(alphaKey), 1) * 255;
+}
+
+QColor colorOfObject(const QJsonObject &object)
+{
+    QColor color(solidOf(object));
+    color.setAlpha(channel(alphaOf(object)));
+    return color;
+}
+
+// An alpha beyond 255 stays what it was, since a write and a read keep it.
+QString textOfObject(const QJsonObject &object)
+{
+    const QRgb solid = solidOf(object);
+    constexpr double furthest = 1e6;
+    return QStringLiteral("%1,%2,%3,%4")
+        .arg(qRound(qBound(-furthest, alphaOf(object), furthest)))
+        .arg(qRed(solid))
+        .arg(qGreen(solid))
+        .arg(qBlue(solid));
 }
 
 bool isNumberArray(const QJsonArray &array)
@@ -73,7 +109,7 @@ QString valueText(const QJsonValue &value)
         if (object.isEmpty()) {
             return QLatin1String("");
         }
-        return isColorObject(object) ? colorObjectText(object) : QString();
+        return isColorObject(object) ? textOfObject(object) : QString();
     }
     default:
         return QLatin1String("");
@@ -109,24 +145,48 @@ std::optional<QColor> itemColor(const QJsonValue &value)
 {
     if (value.isObject()) {
         const QJsonObject object = value.toObject();
-        if (!object.contains(QLatin1String("Solid"))) {
-            return std::nullopt;
-        }
-        QColor color(QRgb(object.value(QLatin1String("Solid")).toInt()));
-        color.setAlphaF(qBound(0.0, object.value(QLatin1String("Alpha")).toDouble(1), 1.0));
-        return color;
+        return object.contains(solidKey) ? std::optional<QColor>(colorOfObject(object)) : std::nullopt;
     }
-    const QString text = value.toString().trimmed();
+    const QString text = valueText(value).trimmed();
     const QStringList parts = text.split(QLatin1Char(','));
-    const auto channel = [&parts](int i) { return qBound(0, qRound(parts.at(i).toDouble()), 255); };
+    const auto part = [&parts](int i) { return channel(parts.at(i).toDouble()); };
     if (parts.size() == 4) {
-        return QColor(channel(1), channel(2), channel(3), channel(0));
+        return QColor(part(1), part(2), part(3), part(0));
     }
     if (parts.size() == 3) {
-        return QColor(channel(0), channel(1), channel(2));
+        return QColor(part(0), part(1), part(2));
     }
     const QColor named(text);
     return named.isValid() ? std::optional<QColor>(named) : std::nullopt;
+}
+
+std::optional<QColor> backColor(const QJsonValue &value)
+{
+    bool isNumber = false;
+    const double number = valueText(value).toDouble(&isNumber);
+    return isNumber && qIsFinite(number) ? QColor(rgbOf(number)) : itemColor(value);
+}
+
+bool isEmptyValue(const QJsonValue &value)
+{
+    const QString text = valueText(value);
+    return text.isEmpty() && !text.isNull();
+}
+
+bool itemFlag(const QJsonValue &value, bool missing)
+{
+    if (value.isBool()) {
+        return value.toBool();
+    }
+    return isEmptyValue(value) ? missing : valueText(value).toInt() != 0;
+}
+
+double itemNumber(const QJsonValue &value, double missing)
+{
+    const double number = value.isDouble() ? value.toDouble()
+        : isEmptyValue(value)              ? missing
+                                           : valueText(value).toDouble();
+    return qIsFinite(number) ? number : 0;
 }
 
 QVector<double> itemNumbers(const QJsonValue &value)
@@ -136,20 +196,23 @@ QVector<double> itemNumbers(const QJsonValue &value)
         const QJsonArray array = value.toArray();
         numbers.reserve(array.size());
         for (const QJsonValue &number : array) {
-            numbers.append(number.isDouble() ? number.toDouble() : number.toString().toDouble());
+            numbers.append(itemNumber(number));
         }
         return numbers;
     }
-    const QString text = value.toString();
+    const QString text = valueText(value);
     if (text.trimmed().isEmpty()) {
         return numbers;
     }
-    const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
-    numbers.reserve(parts.size());
-    for (const QStringRef &part : parts) {
-        const double number = part.trimmed().toDouble();
+    // One after the other: a list of the parts would take more memory than the numbers.
+    numbers.reserve(text.count(QLatin1Char(',')) + 1);
+    int end = -1;
+    do {
+        const int begin = end + 1;
+        end = text.indexOf(QLatin1Char(','), begin);
+        const double number = text.midRef(begin, end < 0 ? -1 : end - begin).trimmed().toDouble();
         numbers.append(qIsFinite(number) ? number : 0);
-    }
+    } while (end >= 0);
     return numbers;
 }
 
@@ -170,12 +233,12 @@ QString exactText(double value)
 
 QString pointsText(const QPolygonF &points)
 {
-    QStringList numbers;
-    numbers.reserve(points.size() * 2);
+    QString text;
     for (const QPointF &point : points) {
-        numbers << exactText(point.x()) << exactText(point.y());
+        text += (text.isEmpty() ? QLatin1String() : QLatin1String(",")) + exactText(point.x()) + QLatin1Char(',')
+            + exactText(point.y());
     }
-    return numbers.join(QLatin1Char(','));
+    return text;
 }
 
 QString boxText(const QRectF &box)
@@ -184,9 +247,9 @@ QString boxText(const QRectF &box)
         + QLatin1Char(',') + exactText(box.bottom());
 }
 
-std::optional<QTransform> transformOfText(const QString &text)
+std::optional<QTransform> itemTransform(const QJsonValue &value)
 {
-    const QVector<double> n = itemNumbers(text);
+    const QVector<double> n = itemNumbers(value);
     if (n.size() < 6) {
         return std::nullopt;
     }

@@ -14,7 +14,8 @@
 
 namespace lessonhost {
 
-// Values of the model as texts, and the texts as values.
+// Values of the model as texts, and the texts as values. Writers take numbers and flags for their texts, so every
+// reader here does, too.
 
 //! The first part of the presentation's Version as a number; 0 without one.
 int majorVersion(const QJsonObject &presentation);
@@ -22,6 +23,25 @@ int majorVersion(const QJsonObject &presentation);
 //! A value's text where it has one: numbers with all their digits, flags as 1 and 0, colour objects as a,r,g,b, arrays
 //! of numbers with commas between. Other arrays and objects give a null text.
 QString valueText(const QJsonValue &value);
+
+//! True for a value that says no more than a key that is missing.
+bool isEmptyValue(const QJsonValue &value);
+
+//! Texts of whole numbers other than 0 are true, "true" is none. missing stands for an empty value.
+bool itemFlag(const QJsonValue &value, bool missing = false);
+
+//! 0 for what is no number or none that ends; missing stands for an empty value.
+double itemNumber(const QJsonValue &value, double missing = 0);
+
+//! The numbers of a value: an array, or a text with commas between. A part that is no number counts as 0.
+QVector<double> itemNumbers(const QJsonValue &value);
+
+//! The colour of a value: an object with Solid (0xRRGGBB, whatever stands before it) and Alpha (0 to 1), or a text
+//! a,r,g,b or r,g,b or a name, such as #aarrggbb. Nothing for an empty or other value.
+std::optional<QColor> itemColor(const QJsonValue &value);
+
+//! The colour of a slide's BackColor: the number 0xRRGGBB or its text, or what itemColor() knows.
+std::optional<QColor> backColor(const QJsonValue &value);
 
 //! The parts of a text with commas between; a comma at the end stands before none.
 QStringList numberParts(const QString &text);
@@ -32,13 +52,6 @@ QVector<float> singleNumbers(const QString &text);
 
 //! a,r,g,b.
 QString colorText(const QColor &color);
-
-//! The colour of a value of an item: an object with Solid and Alpha, or a text a,r,g,b or r,g,b or a name. Nothing for
-//! an empty or other value.
-std::optional<QColor> itemColor(const QJsonValue &value);
-
-//! The numbers of a value: an array of numbers, or a text with commas between. A part that is no number counts as 0.
-QVector<double> itemNumbers(const QJsonValue &value);
 
 //! Points from x and y in turn; a last x without its y is left out.
 QPolygonF pointsOf(const QVector<double> &numbers);
@@ -51,7 +64,7 @@ QString pointsText(const QPolygonF &points);
 QString boxText(const QRectF &box);
 
 //! m11,m12,m21,m22,dx,dy as a transform and back. Nothing for fewer numbers.
-std::optional<QTransform> transformOfText(const QString &text);
+std::optional<QTransform> itemTransform(const QJsonValue &value);
 QString transformText(const QTransform &transform);
 
 } // namespace lessonhost

@@ -16,6 +16,9 @@ namespace lessonhost {
 
 class LossReport;
 
+//! Is told how many parts of a work are done, after each.
+using Progress = std::function<void(int done, int total)>;
+
 /*!
  * One slide of the lesson model: its own keys, and its items in order from back to front.
  */

@@ -1,7 +1,7 @@
 #include "lesson/pageplace.h"
 
-#include "lesson/itemplace.h"
-#include "lesson/itemvalues.h"
+#include "lesson/itemtypes.h"
+#include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
 #include "lesson/shapeforms.h"
 #include "lesson/shapegeometry.h"
@@ -15,15 +15,6 @@
 namespace lessonhost {
 
 namespace {
-
-const QLatin1String typeKey("Type");
-const QLatin1String boxKey("BoundingBox");
-const QLatin1String matrixKey("Matrix");
-const QLatin1String slideMatrixKey("SlideMatrix");
-const QLatin1String angleKey("Angle");
-const QLatin1String controlKey("Control");
-const QLatin1String strokeKey("XY");
-const QLatin1String childrenKey("Children");
 
 bool isPlain(const QTransform &matrix)
 {
@@ -43,11 +34,11 @@ QJsonArray numbersOf(const QPolygonF &points)
 
 void setPlace(QJsonObject &item, const ItemPlace &place)
 {
-    item.insert(boxKey, boxText(place.box));
+    item.insert(ItemKeys::box, boxText(place.box));
     if (qAbs(place.angle) > 1e-7) {
-        item.insert(angleKey, exactText(place.angle));
-    } else if (item.contains(angleKey)) {
-        item.insert(angleKey, QStringLiteral("0"));
+        item.insert(ItemKeys::angle, exactText(place.angle));
+    } else if (item.contains(ItemKeys::angle)) {
+        item.insert(ItemKeys::angle, QStringLiteral("0"));
     }
 }
 
@@ -55,11 +46,12 @@ void setPlace(QJsonObject &item, const ItemPlace &place)
 void setPoints(QJsonObject &item, const ShapeForm &form, const QPolygonF &points)
 {
     if (form.outline == ShapeForm::Polyline) {
-        item.insert(QLatin1String("XYValue"), QString(pointsText(points) + QLatin1Char(',')));
+        item.insert(ItemKeys::polyline, QString(pointsText(points) + QLatin1Char(',')));
     } else if (form.outline == ShapeForm::Angle && points.size() == 3) {
-        item.insert(controlKey, numbersOf(QPolygonF() << points.at(0) - points.at(2) << points.at(1) - points.at(2)));
+        item.insert(ItemKeys::control,
+                    numbersOf(QPolygonF() << points.at(0) - points.at(2) << points.at(1) - points.at(2)));
     } else {
-        item.insert(controlKey, numbersOf(points));
+        item.insert(ItemKeys::control, numbersOf(points));
     }
     setPlace(item, {extentOf(points), 0});
 }
@@ -67,11 +59,12 @@ void setPoints(QJsonObject &item, const ShapeForm &form, const QPolygonF &points
 // False where a turned box can't tell how the shape is drawn.
 bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &matrix, const OutlineSource &outlines)
 {
-    const QRectF own = shapeExtent(item, form, outlines);
-    ItemPlace place = placeUnder(matrix, own);
+    const ItemView view(item);
+    const QRectF own = shapeExtent(view, form, outlines);
+    const ItemPlace place = placeUnder(matrix, own);
     switch (form.outline) {
     case ShapeForm::Circle: {
-        const QPolygonF rim = pointsOf(itemNumbers(item.value(controlKey)));
+        const QPolygonF rim = view.points(ItemKeys::control);
         const QPointF arm = matrix.map(rim.isEmpty() ? QPointF(50, 0) : rim.first()) - matrix.map(QPointF());
         const double radius = std::hypot(arm.x(), arm.y());
         const QPointF corner(radius, radius);
@@ -93,7 +86,7 @@ bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &ma
     if (isPlain(matrix)) {
         setPlace(item, place);
     } else {
-        setPoints(item, form, matrix.map(shapePoints(item, form, outlines)));
+        setPoints(item, form, matrix.map(shapePoints(view, form, outlines)));
     }
     return true;
 }
@@ -101,34 +94,35 @@ bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &ma
 // The first pair of a stroke is a place, each further one a step.
 void placeInk(QJsonObject &item, const QTransform &matrix)
 {
+    const ItemView view(item);
     const QTransform steps(matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), 0, 0);
-    QPolygonF points = pointsOf(itemNumbers(item.value(strokeKey)));
+    QPolygonF points = view.points(ItemKeys::steps);
     for (int i = 0; i < points.size(); ++i) {
         points[i] = (i == 0 ? matrix : steps).map(points.at(i));
     }
-    item.insert(strokeKey, pointsText(points));
-    const QLatin1String widthKey("Width");
-    if (item.contains(widthKey)) {
-        item.insert(widthKey, exactText(itemNumbers(item.value(widthKey)).value(0, 5) * itemScale(item)));
+    item.insert(ItemKeys::steps, pointsText(points));
+    if (item.contains(ItemKeys::width)) {
+        item.insert(ItemKeys::width, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
     }
-    const QVector<double> box = itemNumbers(item.value(boxKey));
+    const QVector<double> box = view.numbers(ItemKeys::box);
     if (box.size() >= 4) {
         const QRectF own(QPointF(box.at(0), box.at(1)), QPointF(box.at(2), box.at(3)));
         setPlace(item, {matrix.mapRect(own), 0});
     }
-    item.remove(angleKey);
+    item.remove(ItemKeys::angle);
 }
 
 bool placeItem(QJsonObject &item, const QTransform &matrix, const OutlineSource &outlines)
 {
-    if (const ShapeForm *form = shapeForm(item.value(typeKey).toString())) {
+    const ItemView view(item);
+    if (const ShapeForm *form = shapeForm(view.type())) {
         return placeDrawing(item, *form, matrix, outlines);
     }
-    if (item.contains(strokeKey)) {
+    if (view.has(ItemKeys::steps)) {
         placeInk(item, matrix);
         return true;
     }
-    const auto place = itemPlace(item);
+    const auto place = view.place();
     if (!place) {
         return matrix.isIdentity();
     }
@@ -139,25 +133,24 @@ bool placeItem(QJsonObject &item, const QTransform &matrix, const OutlineSource 
 // The letters of raw text have a size of their own, which its matrix scales.
 void makeHtml(QJsonObject &item)
 {
-    const QLatin1String htmlKey("TextHtml");
-    const QString type = item.value(typeKey).toString();
-    const bool isText = type == QLatin1String("ZQTextBoard") || type == QLatin1String("text");
-    if (!isText || !item.value(htmlKey).toString().isEmpty()) {
+    const ItemView view(item);
+    if (!isTextBoard(view.type()) || view.has(ItemKeys::html)) {
         return;
     }
-    for (const char *key : {"Text", "TextContent"}) {
-        const QString text = item.value(QLatin1String(key)).toString();
+    const auto plainKeys = {ItemKeys::text, ItemKeys::textContent};
+    for (const QLatin1String key : plainKeys) {
+        const QString text = view.text(key);
         if (text.isEmpty()) {
             continue;
         }
         IwbTextInfoList runs = textRunsFromPlainText(text).runs;
         for (IwbTextInfo &run : runs) {
-            run.fontSize = QString::number(run.fontSize.toDouble() * itemScale(item));
+            run.fontSize = QString::number(run.fontSize.toDouble() * view.scale());
         }
-        item.insert(htmlKey, htmlFromTextRuns(runs));
-        for (const char *same : {"Text", "TextContent"}) {
-            if (item.value(QLatin1String(same)).toString() == text) {
-                item.remove(QLatin1String(same));
+        item.insert(ItemKeys::html, htmlFromTextRuns(runs));
+        for (const QLatin1String same : plainKeys) {
+            if (view.text(same) == text) {
+                item.remove(same);
             }
         }
         return;
@@ -170,28 +163,23 @@ QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outline
 void placeGroup(QJsonObject &group, const OutlineSource &outlines, int &placed)
 {
     const int before = placed;
-    const QJsonArray children = itemsInPageForm(group.value(childrenKey).toArray(), outlines, placed);
-    group.insert(childrenKey, children);
+    const QJsonArray children = itemsInPageForm(group.value(HostKeys::children).toArray(), outlines, placed);
+    group.insert(HostKeys::children, children);
     if (placed == before) {
         return;
     }
     QRectF all;
     for (const QJsonValue &child : children) {
-        const auto place = itemPlace(child.toObject());
-        if (place) {
-            const QPointF center = place->box.center();
-            QTransform turn = QTransform::fromTranslate(center.x(), center.y());
-            turn.rotateRadians(place->angle);
-            turn.translate(-center.x(), -center.y());
-            all |= turn.mapRect(place->box);
+        if (const auto place = ItemView(child.toObject()).place()) {
+            all |= place->extent();
         }
     }
     if (!all.isNull()) {
-        group.insert(boxKey, boxText(all));
+        group.insert(ItemKeys::box, boxText(all));
     }
-    const auto matrix = transformOfText(group.value(matrixKey).toString());
+    const auto matrix = itemTransform(group.value(ItemKeys::matrix));
     if (matrix && matrix->isIdentity()) {
-        group.remove(matrixKey);
+        group.remove(ItemKeys::matrix);
     }
 }
 
@@ -200,14 +188,14 @@ QJsonObject itemInPageForm(QJsonObject item, const OutlineSource &outlines, int 
     nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
-    if (!item.value(childrenKey).toArray().isEmpty()) {
+    if (!item.value(HostKeys::children).toArray().isEmpty()) {
         placeGroup(item, outlines, placed);
         return item;
     }
-    const auto matrix = transformOfText(item.value(matrixKey).toString());
-    item.remove(slideMatrixKey); // its part in the matrix
+    const auto matrix = itemTransform(item.value(ItemKeys::matrix));
+    item.remove(ItemKeys::slideMatrix); // its part in the matrix
     if (matrix && placeItem(item, *matrix, outlines)) {
-        item.remove(matrixKey);
+        item.remove(ItemKeys::matrix);
         ++placed;
     }
     return item;
@@ -224,23 +212,19 @@ QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outline
 
 void makeBackground(QJsonObject &properties)
 {
-    const QLatin1String numberKey("BackColor");
-    const QLatin1String colorKey("color");
-    const QJsonValue number = properties.value(numberKey);
-    if (number.isDouble() && properties.value(colorKey).toString().isEmpty()) {
-        properties.insert(colorKey, colorText(QColor(QRgb(number.toInt()))));
-        properties.remove(numberKey);
+    const QJsonValue number = properties.value(SlideKeys::backColor);
+    if (number.isDouble() && isEmptyValue(properties.value(SlideKeys::color))) {
+        properties.insert(SlideKeys::color, colorText(backColor(number).value_or(QColor(Qt::white))));
+        properties.remove(SlideKeys::backColor);
     }
-    const QLatin1String filesKey("AttachFile");
-    const QLatin1String documentKey("document");
-    const QString files = properties.value(filesKey).toString();
-    if (!files.isEmpty() && properties.value(documentKey).toString().isEmpty()) {
-        properties.insert(documentKey, files.section(QLatin1Char(','), 0, 0));
+    const QString files = valueText(properties.value(SlideKeys::files));
+    if (!files.isEmpty() && isEmptyValue(properties.value(SlideKeys::document))) {
+        properties.insert(SlideKeys::document, files.section(QLatin1Char(','), 0, 0));
         if (!files.contains(QLatin1Char(','))) {
-            properties.remove(filesKey);
+            properties.remove(SlideKeys::files);
         }
         if (files.startsWith(QLatin1String("ID_SLIDE_NOTEBOOK_"))) {
-            properties.remove(QLatin1String("TextureLineType"));
+            properties.remove(SlideKeys::texture);
         }
     }
 }
@@ -254,7 +238,7 @@ LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outli
     makeBackground(result.properties);
     result.items = itemsInPageForm(slide.items, outlines, count);
     // It tells what the matrices were fitted from.
-    result.properties.remove(QLatin1String("SlideSourceRect"));
+    result.properties.remove(SlideKeys::sourceRect);
     if (placed) {
         *placed += count;
     }
@@ -263,15 +247,13 @@ LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outli
 
 void nameMediaFile(QJsonObject &item)
 {
-    const QLatin1String filesKey("MultiMediaFile");
-    const QLatin1String resourceKey("resource");
-    const QString files = item.value(filesKey).toString();
-    if (files.isEmpty() || !item.value(resourceKey).toString().isEmpty()) {
+    const QString files = valueText(item.value(ItemKeys::mediaFiles));
+    if (files.isEmpty() || !isEmptyValue(item.value(ItemKeys::resource))) {
         return;
     }
-    item.insert(resourceKey, files.section(QLatin1Char(','), 0, 0));
+    item.insert(ItemKeys::resource, files.section(QLatin1Char(','), 0, 0));
     if (!files.contains(QLatin1Char(','))) {
-        item.remove(filesKey);
+        item.remove(ItemKeys::mediaFiles);
     }
 }
 

@@ -25,6 +25,11 @@ QTransform turnAbout(const QPointF &center, double angle)
         * QTransform::fromTranslate(center.x(), center.y());
 }
 
+double meanScale(const QTransform &transform)
+{
+    return std::sqrt(qAbs(transform.determinant()));
+}
+
 std::optional<ScaleAndTurn> scaleAndTurn(const QTransform &transform)
 {
     ScaleAndTurn result;

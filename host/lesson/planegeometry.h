@@ -18,6 +18,9 @@ QPolygonF withoutRepeatedEnd(QPolygonF points);
 //! A turn about a point, in radians, clockwise on the screen.
 QTransform turnAbout(const QPointF &center, double angle);
 
+//! How much larger a transform makes lengths, on the whole.
+double meanScale(const QTransform &transform);
+
 //! A scale along x and y and then a rotation, in radians, that take the unit vectors where the linear part of transform
 //! does. Nothing if it shears.
 struct ScaleAndTurn

@@ -1,5 +1,8 @@
 #include "lesson/shapeforms.h"
 
+#include "lesson/itemkeys.h"
+#include "lesson/itemvalues.h"
+
 #include <QHash>
 
 namespace lessonhost {
@@ -49,7 +52,7 @@ const ShapeForm *shapeForm(const QString &type)
 
 QJsonObject withImplied(QJsonObject item, const ShapeForm &form)
 {
-    if (form.impliedKey && !item.contains(QLatin1String(form.impliedKey))) {
+    if (form.impliedKey && isEmptyValue(item.value(QLatin1String(form.impliedKey)))) {
         item.insert(QLatin1String(form.impliedKey), QLatin1String(form.implied));
     }
     return item;
@@ -57,9 +60,9 @@ QJsonObject withImplied(QJsonObject item, const ShapeForm &form)
 
 QJsonObject withoutDoubledWidth(QJsonObject item)
 {
-    const QLatin1String doubled("Width");
-    if (item.contains(doubled) && item.value(doubled) == item.value(QLatin1String("ArtObj_Width"))) {
-        item.remove(doubled);
+    if (item.contains(ItemKeys::width)
+        && valueText(item.value(ItemKeys::width)) == valueText(item.value(ItemKeys::lineWidth))) {
+        item.remove(ItemKeys::width);
     }
     return item;
 }

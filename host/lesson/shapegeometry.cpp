@@ -1,73 +1,14 @@
 #include "lesson/shapegeometry.h"
 
-#include "lesson/itemplace.h"
-#include "lesson/itemvalues.h"
 #include "lesson/planegeometry.h"
-#include "lesson/shapeforms.h"
 
 #include <cmath>
 
 namespace lessonhost {
 
-namespace {
-
-const QLatin1String boxKey("BoundingBox");
-const QLatin1String controlKey("Control");
-const QLatin1String pointsKey("XYValue");
-
-// XYValue ends in one character that is no part of the numbers; a digit at the end is one.
-QPolygonF polylinePoints(const QJsonObject &item)
+QSizeF ownRadii(const ItemView &item, ShapeForm::Outline outline, const QPointF &origin)
 {
-    const QJsonValue value = item.value(pointsKey);
-    QString text = value.toString();
-    if (!text.isEmpty() && !text.at(text.size() - 1).isDigit()) {
-        text.chop(1);
-    }
-    return pointsOf(itemNumbers(value.isArray() ? value : QJsonValue(text)));
-}
-
-QPolygonF ownPoints(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
-{
-    QPolygonF points;
-    switch (form.outline) {
-    case ShapeForm::Polyline:
-        return polylinePoints(item);
-    case ShapeForm::Circle:
-    case ShapeForm::Ellipse:
-        return points;
-    case ShapeForm::Derived:
-        return outlines(item);
-    case ShapeForm::Segment:
-        points = pointsOf(itemNumbers(item.value(controlKey)).mid(0, 4));
-        break;
-    case ShapeForm::Angle:
-        points = pointsOf(itemNumbers(item.value(controlKey)).mid(0, 4));
-        if (points.size() == 2) {
-            points.append(QPointF());
-        }
-        break;
-    default:
-        points = pointsOf(itemNumbers(item.value(controlKey)));
-        break;
-    }
-    return points;
-}
-
-} // namespace
-
-std::optional<QPointF> createdAt(const QJsonObject &item)
-{
-    const QLatin1String x("Discipline_xCreate");
-    const QLatin1String y("Discipline_yCreate");
-    if (item.contains(boxKey) || !item.contains(x) || !item.contains(y)) {
-        return std::nullopt;
-    }
-    return QPointF(item.value(x).toString().toDouble(), item.value(y).toString().toDouble());
-}
-
-QSizeF ownRadii(const QJsonObject &item, ShapeForm::Outline outline, const QPointF &origin)
-{
-    const QPolygonF rim = pointsOf(itemNumbers(item.value(controlKey)));
+    const QPolygonF rim = item.points(ItemKeys::control);
     const auto radius = [&](int i, double usual) {
         return i < rim.size() ? std::hypot(rim.at(i).x() - origin.x(), rim.at(i).y() - origin.y()) : usual;
     };
@@ -78,12 +19,31 @@ QSizeF ownRadii(const QJsonObject &item, ShapeForm::Outline outline, const QPoin
     return QSizeF(radius(0, 100), radius(1, 100));
 }
 
-QPolygonF shapePoints(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
+QPolygonF shapePoints(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines)
 {
-    return ownPoints(withImplied(item, form), form, outlines);
+    QPolygonF points;
+    switch (form.outline) {
+    case ShapeForm::Polyline:
+        return item.polyline();
+    case ShapeForm::Circle:
+    case ShapeForm::Ellipse:
+        return points;
+    case ShapeForm::Derived:
+        return outlines(withImplied(item.json(), form));
+    case ShapeForm::Segment:
+        return item.points(ItemKeys::control).mid(0, 2);
+    case ShapeForm::Angle:
+        points = item.points(ItemKeys::control).mid(0, 2);
+        if (points.size() == 2) {
+            points.append(QPointF());
+        }
+        return points;
+    default:
+        return item.points(ItemKeys::control);
+    }
 }
 
-QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines)
+QRectF shapeExtent(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines)
 {
     if (form.outline == ShapeForm::Circle || form.outline == ShapeForm::Ellipse) {
         const QSizeF radii = ownRadii(item, form.outline, QPointF());
@@ -92,7 +52,7 @@ QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, const Outline
     }
     const QPolygonF points = shapePoints(item, form, outlines);
     if (form.outline == ShapeForm::Rectangle && points.size() < 2) {
-        return boxOf(item).value_or(QRectF());
+        return item.box().value_or(QRectF());
     }
     return extentOf(points);
 }

@@ -1,6 +1,7 @@
 #ifndef SHAPEGEOMETRY_H
 #define SHAPEGEOMETRY_H
 
+#include "lesson/itemview.h"
 #include "lesson/shapeforms.h"
 
 #include <QJsonObject>
@@ -8,7 +9,6 @@
 #include <QRectF>
 
 #include <functional>
-#include <optional>
 
 namespace lessonhost {
 
@@ -16,17 +16,13 @@ namespace lessonhost {
 using OutlineSource = std::function<QPolygonF(const QJsonObject &shape)>;
 
 //! The points that a shape draws before its Matrix, an angle's origin among them; none for round shapes.
-QPolygonF shapePoints(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines);
+QPolygonF shapePoints(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines);
 
 //! What a shape covers before its Matrix.
-QRectF shapeExtent(const QJsonObject &item, const ShapeForm &form, const OutlineSource &outlines);
-
-//! The place of the origin of an item as the plug-in's import leaves it: such an item has points of the page. Nothing
-//! for other items.
-std::optional<QPointF> createdAt(const QJsonObject &item);
+QRectF shapeExtent(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines);
 
 //! Radii of a circle or ellipse under the identity, from its points on the rim.
-QSizeF ownRadii(const QJsonObject &item, ShapeForm::Outline outline, const QPointF &origin);
+QSizeF ownRadii(const ItemView &item, ShapeForm::Outline outline, const QPointF &origin);
 
 } // namespace lessonhost
 

@@ -1,5 +1,8 @@
 #include "lesson/textruns.h"
 
+#include "files/xmltext.h"
+#include "lesson/fontvalues.h"
+
 #include <QFont>
 #include <QMap>
 #include <QSet>
@@ -24,93 +27,19 @@ protected:
     QVariant loadResource(int, const QUrl &) override { return {}; }
 };
 
-// Weights as svg numbers them and as fonts here do.
-struct Weight
-{
-    int svg;
-    int font;
-};
-constexpr Weight weights[] = {{100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
-                              {600, 63}, {700, 75}, {800, 81}, {900, 87}};
-
-QString svgWeight(int fontWeight)
-{
-    int best = 400;
-    int bestDistance = 1000;
-    for (const Weight &weight : weights) {
-        const int distance = qAbs(weight.font - fontWeight);
-        if (distance < bestDistance) {
-            bestDistance = distance;
-            best = weight.svg;
-        }
-    }
-    switch (best) {
-    case 400:
-        return QStringLiteral("normal");
-    case 700:
-        return QStringLiteral("bold");
-    default:
-        return QString::number(best);
-    }
-}
-
 // The weight as style sheets of text documents write it: eight times the font's.
 QString htmlWeight(const QString &svg)
 {
     bool isNumber = false;
-    const int number = svg.toInt(&isNumber);
-    if (!isNumber) {
-        return svg.startsWith(QLatin1String("bold")) ? QStringLiteral("bold") : QStringLiteral("normal");
-    }
-    int font = 50;
-    for (const Weight &weight : weights) {
-        if (weight.svg <= number) {
-            font = weight.font;
-        }
-    }
-    return QString::number(font * 8);
+    svg.toInt(&isNumber);
+    return isNumber ? QString::number(fontWeight(svg) * 8) : fontWeightText(fontWeight(svg));
 }
 
-struct AlignmentName
-{
-    Qt::AlignmentFlag flag;
-    const char *svg;
-    const char *html;
-};
-constexpr AlignmentName alignments[] = {
-    {Qt::AlignLeft, "start", "left"},
-    {Qt::AlignRight, "end", "right"},
-    {Qt::AlignHCenter, "center", "center"},
-    {Qt::AlignJustify, "justify", "justify"},
-};
-
-QString svgAlignment(Qt::Alignment alignment)
-{
-    for (const AlignmentName &name : alignments) {
-        if (alignment & name.flag) {
-            return QLatin1String(name.svg);
-        }
-    }
-    return QStringLiteral("start");
-}
-
-QLatin1String htmlAlignment(const QString &svg)
-{
-    for (const AlignmentName &name : alignments) {
-        if (svg == QLatin1String(name.svg) || svg == QLatin1String(name.html)) {
-            return QLatin1String(name.html);
-        }
-    }
-    return QLatin1String("left");
-}
-
-// Pixels of a text whose size isn't given.
-constexpr double defaultPixels = 28;
 constexpr double pixelsOfPoint = 96.0 / 72.0;
 
 double pixelSize(const QTextCharFormat &format)
 {
-    double pixels = defaultPixels;
+    double pixels = defaultFontPixels;
     if (format.hasProperty(QTextFormat::FontPixelSize)) {
         pixels = format.intProperty(QTextFormat::FontPixelSize);
     } else if (format.hasProperty(QTextFormat::FontPointSize)) {
@@ -149,7 +78,7 @@ IwbTextInfo runOf(const QTextCharFormat &format, Qt::Alignment alignment)
     const QBrush brush = format.foreground();
     run.fill = brush.style() == Qt::NoBrush ? QStringLiteral("#000000") : brush.color().name();
     run.fontWeight =
-        format.hasProperty(QTextFormat::FontWeight) ? svgWeight(format.fontWeight()) : QStringLiteral("normal");
+        format.hasProperty(QTextFormat::FontWeight) ? fontWeightText(format.fontWeight()) : QStringLiteral("normal");
     run.fontStyle = format.fontItalic() ? QStringLiteral("italic") : QStringLiteral("normal");
     run.fontFamily = withoutControlCharacters(familyNames(format));
     run.fontSize = QString::number(pixelSize(format));
@@ -334,7 +263,7 @@ QString styleOf(const IwbTextInfo &run, const QString &shift)
         }
     }
     const double pixels = run.fontSize.toDouble();
-    const double points = (pixels > 0 ? pixels : defaultPixels) / pixelsOfPoint;
+    const double points = (pixels > 0 ? pixels : defaultFontPixels) / pixelsOfPoint;
     return QLatin1String("font-family:") + families.join(QLatin1Char(',')) + QLatin1String("; font-size:")
         + QString::number(points, 'g', 10) + QLatin1String("pt; font-weight:") + htmlWeight(run.fontWeight)
         + QLatin1String("; font-style:")
@@ -370,7 +299,7 @@ void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &shi
 // A paragraph without text needs a line break within, the mark that text documents know it by, and its font.
 QString paragraphHtml(const Paragraph &paragraph)
 {
-    const QString start = QLatin1String("<p align=\"") + htmlAlignment(paragraph.align)
+    const QString start = QLatin1String("<p align=\"") + htmlAlignment(textAlignment(paragraph.align))
         + QLatin1String("\" style=\"margin:0px; white-space:pre-wrap;");
     if (paragraph.spans.isEmpty()) {
         return start + QLatin1String(" -qt-paragraph-type:empty; ") + paragraph.firstStyle
@@ -444,21 +373,10 @@ QString withoutControlCharacters(const QString &text, int *dropped)
     QString clean;
     clean.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
-        if (isPair) {
-            clean += c;
-            clean += text.at(++i);
-            continue;
-        }
-        const ushort code = c.unicode();
-        const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
-        if (isControl || c.isSurrogate() || code >= 0xfffe) {
-            if (dropped) {
-                ++*dropped;
-            }
-        } else {
-            clean += c;
+        if (isXmlCharacter(text, i)) {
+            clean += text.at(i);
+        } else if (dropped) {
+            ++*dropped;
         }
     }
     return clean;

@@ -15,8 +15,6 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String typeKey("Type");
-
 // JSON in ASCII, since the text is read back as Latin-1.
 QString asciiJson(const QJsonArray &array)
 {
@@ -32,32 +30,22 @@ QString asciiJson(const QJsonArray &array)
     return ascii;
 }
 
-bool asFlag(const QJsonValue &value)
-{
-    return value.isBool() ? value.toBool() : valueText(value).toInt() != 0;
-}
-
-double asNumber(const QJsonValue &value)
-{
-    return value.isDouble() ? value.toDouble() : valueText(value).toDouble();
-}
-
 using Change = QJsonValue (*)(const QJsonValue &value);
 
 QJsonValue toFlag(const QJsonValue &value)
 {
-    return asFlag(value);
+    return itemFlag(value);
 }
 
 QJsonValue toNumber(const QJsonValue &value)
 {
-    return asNumber(value);
+    return itemNumber(value);
 }
 
 // Kept in whole numbers only.
 QJsonValue toWhole(const QJsonValue &value)
 {
-    return std::round(asNumber(value));
+    return std::round(itemNumber(value));
 }
 
 QJsonValue toEscaped(const QJsonValue &value)
@@ -251,7 +239,7 @@ QJsonObject writableProperties(const QJsonObject &properties)
 {
     QJsonObject written = withoutNulls(properties);
     for (auto it = written.begin(); it != written.end(); ++it) {
-        const bool isTree = it.key() == QLatin1String("activity") || it.key() == QLatin1String("animations");
+        const bool isTree = it.key() == QLatin1String("activity") || it.key() == ItemKeys::animations;
         it.value() = isTree ? treeOfTexts(it.value()) : plainValue(it.value());
     }
     return written;
@@ -259,11 +247,11 @@ QJsonObject writableProperties(const QJsonObject &properties)
 
 QJsonObject writableItem(const QJsonObject &item, int majorVersion)
 {
-    const QString type = item.value(typeKey).toString();
+    const QString type = item.value(ItemKeys::type).toString();
     QJsonObject written = withoutNulls(item);
     written.remove(HostKeys::children);
-    putBack(written, HostKeys::ignoredBox, QLatin1String("BoundingBox"));
-    putBack(written, HostKeys::ignoredControl, QLatin1String("Control"));
+    putBack(written, HostKeys::ignoredBox, ItemKeys::box);
+    putBack(written, HostKeys::ignoredControl, ItemKeys::control);
     const bool isQuestion = type == QLatin1String("ZQQuestionItem");
     if (isQuestion) {
         applyChanges(written, question);
@@ -271,19 +259,19 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
     for (auto it = written.begin(); it != written.end(); ++it) {
         const QString key = it.key();
         const QJsonValue value = it.value();
-        if (key == QLatin1String("Visible")) {
-            it.value() = asFlag(value);
-        } else if (key == QLatin1String("mindMapData")) {
+        if (key == ItemKeys::visible) {
+            it.value() = itemFlag(value, true);
+        } else if (key == ItemKeys::mindMap) {
             it.value() = writableMindMap(value);
-        } else if (key == QLatin1String("animations")) {
+        } else if (key == ItemKeys::animations) {
             it.value() = writableAnimations(value);
-        } else if (key == QLatin1String("attachments")) {
+        } else if (key == ItemKeys::attachments) {
             it.value() = writableAttachments(value);
-        } else if (key == QLatin1String("document") && type == QLatin1String("ZQDyCoursewareItem")) {
+        } else if (key == ItemKeys::document && type == QLatin1String("ZQDyCoursewareItem")) {
             it.value() = writableCourseware(value);
-        } else if (key == QLatin1String("PixelDeleteInfos") && value.isArray()) {
+        } else if (key == ItemKeys::deletedPixels && value.isArray()) {
             it.value() = asciiJson(value.toArray());
-        } else if (key == QLatin1String("XY") && majorVersion < 3) {
+        } else if (key == ItemKeys::steps && majorVersion < 3) {
             it.value() = pointsAsOffsets(valueText(value));
         } else if (!isQuestion || !isQuestionNumber(key)) {
             it.value() = plainValue(value);

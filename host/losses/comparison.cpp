@@ -34,12 +34,6 @@ QString detailOf(const QJsonValue &value)
     return text.left(longestDetail);
 }
 
-bool isEmptyValue(const QJsonValue &value)
-{
-    const QString text = valueText(value);
-    return text.isEmpty() && !text.isNull();
-}
-
 // Two XML texts are the same if they are the same tree.
 bool isSameXml(const QString &one, const QString &other)
 {

@@ -1,7 +1,6 @@
 #include "render/namedboxes.h"
 
-#include "lesson/itemplace.h"
-#include "lesson/itemvalues.h"
+#include "lesson/itemview.h"
 #include "lesson/plainnames.h"
 #include "render/plainsvg.h"
 
@@ -19,10 +18,10 @@ constexpr const char *textKeys[] = {
     "EnglishWord",  "Text",     "Title",         "ArtObj_Text",  "GapFillingContent", "original_alphabet",
 };
 
-QString textOn(const QJsonObject &item)
+QString textOn(const ItemView &item)
 {
     for (const char *key : textKeys) {
-        const QString text = item.value(QLatin1String(key)).toString();
+        const QString text = item.text(QLatin1String(key));
         const QString plain = text.startsWith(QLatin1Char('<'))
             ? QTextDocumentFragment::fromHtml(text).toPlainText().simplified()
             : text.simplified();
@@ -52,7 +51,7 @@ double layOut(const QJsonObject &json, int parent, int depth, QVector<Node> &nod
     const int self = nodes.size();
     Node node;
     node.text =
-        QTextDocumentFragment::fromHtml(json.value(QLatin1String("nodeHtml")).toString()).toPlainText().simplified();
+        QTextDocumentFragment::fromHtml(valueText(json.value(QLatin1String("nodeHtml")))).toPlainText().simplified();
     node.fill = itemColor(json.value(QLatin1String("fillColor"))).value_or(QColor(0xea, 0xf2, 0xfb));
     node.line = itemColor(json.value(QLatin1String("lineColor"))).value_or(QColor(0x4a, 0x6f, 0xa5));
     node.depth = depth;
@@ -83,7 +82,7 @@ NamedBoxes::NamedBoxes(PlainSvg &svg)
 
 bool NamedBoxes::drawMindMap(const QJsonObject &item)
 {
-    const QJsonArray data = item.value(QLatin1String("mindMapData")).toArray();
+    const QJsonArray data = item.value(ItemKeys::mindMap).toArray();
     if (data.size() < 3) {
         return false;
     }
@@ -95,7 +94,7 @@ bool NamedBoxes::drawMindMap(const QJsonObject &item)
         depth = qMax(depth, node.depth);
     }
     const QRectF page = QRectF(QPointF(), m_svg.size());
-    const auto place = itemPlace(item);
+    const auto place = ItemView(item).place();
     const QRectF area = place && place->box.width() > 40 && place->box.height() > 20
         ? place->box
         : page.adjusted(page.width() * 0.05, page.height() * 0.1, -page.width() * 0.05, -page.height() * 0.1);
@@ -123,13 +122,14 @@ bool NamedBoxes::drawMindMap(const QJsonObject &item)
 
 void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
 {
-    const QString type = item.value(QLatin1String("Type")).toString();
+    const ItemView view(item);
+    const QString type = view.type();
     QString name = plainName(type);
     // A picture has a box with a name only where its file can't be shown.
     if (type == QLatin1String("ZQImagePic") && !hasPicture) {
         name += QLatin1String(" that is missing");
     }
-    const auto place = itemPlace(item);
+    const auto place = view.place();
     QRectF box;
     if (place && place->box.width() >= 1 && place->box.height() >= 1) {
         box = place->box;
@@ -151,7 +151,7 @@ void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
                                .arg(box.center().y()));
     }
     const QColor nameColor(0x55, 0x55, 0x55);
-    const QString text = textOn(item);
+    const QString text = textOn(view);
     if (text.isEmpty() && !hasPicture) {
         m_svg.addLabel(name, box, 28, nameColor);
         return;

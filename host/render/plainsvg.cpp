@@ -2,6 +2,8 @@
 
 #include "files/packagenames.h"
 #include "files/pictures.h"
+#include "lesson/fontvalues.h"
+#include "lesson/isoneof.h"
 #include "render/labellines.h"
 
 #include <QBuffer>
@@ -10,8 +12,6 @@
 #include <QFontMetricsF>
 #include <QImageReader>
 #include <QVector>
-
-#include <algorithm>
 
 namespace lessonhost {
 
@@ -83,14 +83,14 @@ double pixelSize(const QDomElement &span)
 {
     bool isNumber = false;
     const double size = span.attribute(QStringLiteral("font-size")).toDouble(&isNumber);
-    return isNumber ? qBound(1.0, size, 2000.0) : 28;
+    return isNumber ? qBound(1.0, size, 2000.0) : defaultFontPixels;
 }
 
 QFont fontOf(const QDomElement &span)
 {
     QFont font(span.attribute(QStringLiteral("font-family"), QStringLiteral("Arial")));
     font.setPixelSize(qMax(1, qRound(pixelSize(span))));
-    font.setBold(span.attribute(QStringLiteral("font-weight")) == QLatin1String("bold"));
+    font.setWeight(fontWeight(span.attribute(QStringLiteral("font-weight"))));
     font.setItalic(span.attribute(QStringLiteral("font-style")) == QLatin1String("italic"));
     return font;
 }
@@ -211,8 +211,7 @@ void PlainSvg::add(const QDomElement &element)
         addText(element);
     } else if (tag == QLatin1String("image")) {
         addPicture(element);
-    } else if (std::any_of(std::begin(keptTags), std::end(keptTags),
-                           [&tag](const char *kept) { return tag == QLatin1String(kept); })) {
+    } else if (isOneOf(keptTags, tag)) {
         QDomElement copy = append(tag);
         copyAttributes(element, copy);
         // The boxes that IWB gives such shapes mean nothing to svg.
@@ -252,7 +251,7 @@ void PlainSvg::addText(const QDomElement &area)
         group.removeAttribute(QLatin1String(name));
     }
     for (const Line &line : linesOf(area, width)) {
-        double ascent = line.isEmpty() ? 28 : 0;
+        double ascent = line.isEmpty() ? defaultFontPixels : 0;
         double descent = line.isEmpty() ? 6 : 0;
         double used = 0;
         for (const Piece &piece : line) {
@@ -263,11 +262,9 @@ void PlainSvg::addText(const QDomElement &area)
         }
         double x = left;
         if (!line.isEmpty()) {
-            const QString align = line.constFirst().span.attribute(QStringLiteral("text-align"));
-            const bool isEnd = align == QLatin1String("end") || align == QLatin1String("right");
-            x += isEnd                                                                        ? width - used
-                : align.startsWith(QLatin1String("cent")) || align == QLatin1String("middle") ? (width - used) / 2
-                                                                                              : 0;
+            const Qt::AlignmentFlag align =
+                textAlignment(line.constFirst().span.attribute(QStringLiteral("text-align")));
+            x += align == Qt::AlignRight ? width - used : align == Qt::AlignHCenter ? (width - used) / 2 : 0;
         }
         for (const Piece &piece : line) {
             QDomElement text = m_document.createElement(QStringLiteral("text"));

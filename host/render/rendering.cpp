@@ -2,6 +2,7 @@
 
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
+#include "lesson/itemkeys.h"
 #include "lesson/pageplace.h"
 #include "losses/lossreport.h"
 #include "render/slidedifference.h"
@@ -19,8 +20,6 @@
 namespace lessonhost {
 
 namespace {
-
-using Progress = std::function<void(int done, int total)>;
 
 constexpr int largestSide = 16384;
 constexpr double pointsPerPixel = 0.75;
@@ -329,8 +328,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         if (slide < first.slideCount()) {
             LessonSlide given = first.slide(slide);
             LessonSlide found = slide < second.slideCount() ? second.slide(slide) : LessonSlide();
-            const QLatin1String rawKey("SlideSourceRect");
-            if (given.properties.contains(rawKey) || found.properties.contains(rawKey)) {
+            if (given.properties.contains(SlideKeys::sourceRect) || found.properties.contains(SlideKeys::sourceRect)) {
                 given = slideInPageForm(given, pluginOutlines(context.plugin));
                 found = slideInPageForm(found, pluginOutlines(context.plugin));
             }

@@ -27,13 +27,13 @@ QVector<int> slidesFromText(const QString &text);
 //! slide's number. Returns {"slides", "files", "named": [{"slide", "type", "id"}]}, where named are the items that are
 //! shown by name only. Throws LessonError; then nothing is written.
 QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
-                         const RenderSettings &settings, const std::function<void(int done, int total)> &progress);
+                         const RenderSettings &settings, const Progress &progress);
 
 //! Writes a .html file with the slides of two lessons side by side and the values of the first that the second lacks.
 //! Returns {"slides", "files", "losses"}. Throws LessonError.
 QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
                              const QString &secondName, const LessonContext &context, const QString &output,
-                             const RenderSettings &settings, const std::function<void(int done, int total)> &progress);
+                             const RenderSettings &settings, const Progress &progress);
 
 } // namespace lessonhost
 

@@ -1,7 +1,7 @@
 #include "render/slidedifference.h"
 
-#include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
+#include "lesson/itemview.h"
 #include "lesson/plainnames.h"
 #include "losses/comparison.h"
 #include "losses/lossreport.h"
@@ -11,9 +11,6 @@
 namespace lessonhost {
 
 namespace {
-
-const QLatin1String idKey("ID");
-const QLatin1String typeKey("Type");
 
 // All items, those of groups behind their group, which stands without them.
 void collectItems(const QJsonArray &items, QVector<QJsonObject> &result)
@@ -29,11 +26,10 @@ void collectItems(const QJsonArray &items, QVector<QJsonObject> &result)
 // Without what says nothing about the item: an angle of zero, and a mark that the plug-in sets by the type.
 QJsonObject withoutDefaults(QJsonObject item)
 {
-    const QLatin1String angle("Angle");
-    if (item.value(angle).toString().toDouble() == 0) {
-        item.remove(angle);
+    if (ItemView(item).angle() == 0) {
+        item.remove(ItemKeys::angle);
     }
-    item.remove(QLatin1String("IgnoreEraser"));
+    item.remove(ItemKeys::ignoresEraser);
     return item;
 }
 
@@ -56,15 +52,15 @@ public:
         collectItems(found.items, foundItems);
         QHash<QString, QJsonObject> byId;
         for (const QJsonObject &item : qAsConst(foundItems)) {
-            byId.insert(item.value(idKey).toString(), item);
+            byId.insert(ItemView(item).id(), item);
         }
         for (int i = 0; i < givenItems.size(); ++i) {
             const QJsonObject &item = givenItems.at(i);
-            const QString id = item.value(idKey).toString();
+            const QString id = ItemView(item).id();
             const QJsonObject other = id.isEmpty() ? foundItems.value(i) : byId.value(id);
             if (!other.isEmpty()) {
                 m_comparison.compareItems({withoutDefaults(item)}, {other});
-            } else if (!isContainer(item.value(typeKey).toString())) {
+            } else if (!isContainer(ItemView(item).type())) {
                 addMissing(item);
             }
         }
@@ -76,8 +72,8 @@ private:
         Loss loss;
         loss.kind = Loss::Item;
         loss.slide = m_slide;
-        loss.itemType = item.value(typeKey).toString();
-        loss.itemId = item.value(idKey).toString();
+        loss.itemType = ItemView(item).type();
+        loss.itemId = ItemView(item).id();
         m_losses.add(loss);
     }
 

@@ -3,8 +3,7 @@
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
-#include "lesson/itemkeys.h"
-#include "lesson/itemvalues.h"
+#include "lesson/itemview.h"
 #include "losses/lossreport.h"
 #include "render/namedboxes.h"
 #include "render/plainsvg.h"
@@ -16,49 +15,40 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String idKey("ID");
-const QLatin1String typeKey("Type");
-
-bool isHidden(const QJsonObject &item)
-{
-    const QJsonValue visible = item.value(QLatin1String("Visible"));
-    return visible.isBool() ? !visible.toBool() : visible.isString() && visible.toString() == QLatin1String("0");
-}
-
 // The items that stand on the page by themselves, groups taken apart. Each gets an identifier by which it is found
 // again; links are left out, as a picture opens nothing.
-void takeApart(const QJsonArray &items, QVector<QJsonObject> &result)
+void takeApart(const QJsonObject &item, QVector<QJsonObject> &result)
 {
-    for (const QJsonValue &value : items) {
-        QJsonObject item = value.toObject();
-        if (isHidden(item)) {
-            continue;
-        }
-        const QJsonArray children = item.value(HostKeys::children).toArray();
-        if (!children.isEmpty()) {
-            takeApart(children, result);
-            continue;
-        }
-        item.remove(QLatin1String("InteractiveType"));
-        item.insert(QLatin1String("OwnID"), item.value(idKey));
-        item.insert(idKey, QString(QLatin1String("drawn") + QString::number(result.size())));
-        result.append(item);
+    const ItemView view(item);
+    const QVector<QJsonObject> children = view.looseChildren();
+    if (!view.isVisible()) {
+        return;
+    }
+    for (const QJsonObject &child : children) {
+        takeApart(child, result);
+    }
+    if (children.isEmpty()) {
+        QJsonObject single = item;
+        single.remove(ItemKeys::linkType);
+        single.insert(QLatin1String("OwnID"), view.id());
+        single.insert(ItemKeys::id, QString(QLatin1String("drawn") + QString::number(result.size())));
+        result.append(single);
     }
 }
 
 // The picture on an item that has no drawing: a picture item in its box, or an empty object.
 QJsonObject pictureOn(const QJsonObject &item, const QStringList &files)
 {
-    for (const QLatin1String key : {QLatin1String("document"), QLatin1String("picture")}) {
+    for (const QLatin1String key : {ItemKeys::document, QLatin1String("picture")}) {
         const QJsonValue value = item.value(key);
-        const QString file = value.isArray() ? value.toArray().at(0).toString() : value.toString();
+        const QString file = valueText(value.isArray() ? value.toArray().at(0) : value);
         if (files.contains(file)) {
-            return {{typeKey, QStringLiteral("ZQImagePic")},
-                    {idKey, QString(item.value(idKey).toString() + QLatin1String("picture"))},
-                    {QLatin1String("BoundingBox"), item.value(QLatin1String("BoundingBox"))},
-                    {QLatin1String("Angle"), item.value(QLatin1String("Angle"))},
-                    {QLatin1String("Matrix"), item.value(QLatin1String("Matrix"))},
-                    {QLatin1String("resource"), file}};
+            return {{ItemKeys::type, QStringLiteral("ZQImagePic")},
+                    {ItemKeys::id, QString(item.value(ItemKeys::id).toString() + QLatin1String("picture"))},
+                    {ItemKeys::box, item.value(ItemKeys::box)},
+                    {ItemKeys::angle, item.value(ItemKeys::angle)},
+                    {ItemKeys::matrix, item.value(ItemKeys::matrix)},
+                    {ItemKeys::resource, file}};
         }
     }
     return {};
@@ -90,7 +80,9 @@ SlidePicture SlidePictures::picture(int index)
 {
     const LessonSlide slide = m_reader.slide(index);
     QVector<QJsonObject> items;
-    takeApart(slide.items, items);
+    for (const QJsonValue &item : slide.items) {
+        takeApart(item.toObject(), items);
+    }
 
     LessonSlide exported;
     exported.properties = slide.properties;
@@ -135,16 +127,16 @@ SlidePicture SlidePictures::picture(int index)
     }
     NamedBoxes boxes(plain);
     for (const QJsonObject &item : qAsConst(items)) {
-        const QDomElement element = drawn.value(item.value(idKey).toString());
+        const QDomElement element = drawn.value(item.value(ItemKeys::id).toString());
         if (isDrawn(element)) {
             plain.add(element);
         } else if (!boxes.drawMindMap(item)) {
-            const QDomElement picture = drawn.value(item.value(idKey).toString() + QLatin1String("picture"));
+            const QDomElement picture = drawn.value(item.value(ItemKeys::id).toString() + QLatin1String("picture"));
             if (isDrawn(picture)) {
                 plain.add(picture);
             }
             boxes.drawBox(item, isDrawn(picture));
-            result.named.append({item.value(typeKey).toString(), item.value(QLatin1String("OwnID")).toString()});
+            result.named.append({ItemView(item).type(), item.value(QLatin1String("OwnID")).toString()});
         }
     }
     QDir(package).removeRecursively();

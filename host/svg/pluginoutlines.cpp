@@ -1,9 +1,7 @@
 #include "svg/pluginoutlines.h"
 
 #include "izqtransformation.h"
-#include "lesson/itemvalues.h"
 #include "lesson/planegeometry.h"
-#include "lesson/shapegeometry.h"
 #include "svg/svgvalues.h"
 
 #include <QDomDocument>
@@ -13,16 +11,11 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String controlKey("Control");
-const QLatin1String typeKey("Type");
-
-QPolygonF derivedOutline(const QJsonObject &item, IZQTransformation *plugin)
+QPolygonF derivedOutline(const ItemView &item, IZQTransformation *plugin)
 {
-    QJsonObject plain{{typeKey, item.value(typeKey)},
-                      {controlKey, pointsText(pointsOf(itemNumbers(item.value(controlKey))))}};
-    const QLatin1String corners("ArtObj_Ln");
-    if (item.contains(corners)) {
-        plain.insert(corners, item.value(corners));
+    QJsonObject plain{{ItemKeys::type, item.type()}, {ItemKeys::control, pointsText(item.points(ItemKeys::control))}};
+    if (item.has(ItemKeys::corners)) {
+        plain.insert(ItemKeys::corners, item.text(ItemKeys::corners));
     }
     QDomDocument document;
     const QDomElement element = plugin->tranItemJSON2IWB(document, plain);
@@ -33,7 +26,7 @@ QPolygonF derivedOutline(const QJsonObject &item, IZQTransformation *plugin)
 
 OutlineSource pluginOutlines(IZQTransformation *plugin)
 {
-    return [plugin](const QJsonObject &shape) { return derivedOutline(shape, plugin); };
+    return [plugin](const QJsonObject &shape) { return derivedOutline(ItemView(shape), plugin); };
 }
 
 } // namespace lessonhost

@@ -1,14 +1,14 @@
 #include "svg/svgpagebuilder.h"
 
+#include "lesson/isoneof.h"
+#include "lesson/itemvalues.h"
 #include "lesson/planegeometry.h"
+#include "svg/svggeometry.h"
 #include "svg/svgnames.h"
 #include "svg/svgtext.h"
 #include "svg/svgvalues.h"
 
 #include <QDomDocument>
-#include <QStringList>
-#include <algorithm>
-
 #include <cmath>
 
 namespace lessonhost {
@@ -24,48 +24,6 @@ constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
 
 // Elements whose own readers look at what is within.
 constexpr const char *holders[] = {"g", "svg", "a", "switch", "text", "textarea", "textArea"};
-
-template <size_t size> bool isOneOf(const char *const (&names)[size], const QString &name)
-{
-    return std::any_of(std::begin(names), std::end(names), [&name](const char *n) { return name == QLatin1String(n); });
-}
-
-QString coordinate(double value)
-{
-    // Noise of a transform isn't a coordinate.
-    return QString::number(qAbs(value) < 1e-9 ? 0 : value, 'g', 10);
-}
-
-void setBox(QDomElement &element, const QRectF &box)
-{
-    element.setAttribute(QStringLiteral("x"), coordinate(box.x()));
-    element.setAttribute(QStringLiteral("y"), coordinate(box.y()));
-    element.setAttribute(QStringLiteral("width"), coordinate(box.width()));
-    element.setAttribute(QStringLiteral("height"), coordinate(box.height()));
-}
-
-QPolygonF pairs(const QVector<double> &numbers)
-{
-    QPolygonF points;
-    for (int i = 0; i + 1 < numbers.size(); i += 2) {
-        points.append(QPointF(numbers.at(i), numbers.at(i + 1)));
-    }
-    return points;
-}
-
-QString pointList(const QPolygonF &points)
-{
-    QStringList numbers;
-    for (const QPointF &point : points) {
-        numbers << coordinate(point.x()) << coordinate(point.y());
-    }
-    return numbers.join(QLatin1Char(','));
-}
-
-double meanScale(const QTransform &matrix)
-{
-    return std::sqrt(qAbs(matrix.determinant()));
-}
 
 bool isArrow(const QString &text)
 {
@@ -265,13 +223,13 @@ void SvgPageBuilder::ellipse(const QDomElement &element, const Place &place)
     const bool staysCircle = isCircle && qAbs(axes.scaleX - axes.scaleY) <= 1e-6 * axes.scaleX;
     IwbElement &item =
         addItem(element, place, staysCircle ? QStringLiteral("svg:circle") : QStringLiteral("svg:ellipse"));
-    item.element.setAttribute(QStringLiteral("cx"), coordinate(center.x()));
-    item.element.setAttribute(QStringLiteral("cy"), coordinate(center.y()));
+    item.element.setAttribute(QStringLiteral("cx"), svgCoordinate(center.x()));
+    item.element.setAttribute(QStringLiteral("cy"), svgCoordinate(center.y()));
     if (staysCircle) {
-        item.element.setAttribute(QStringLiteral("r"), coordinate(axes.scaleX));
+        item.element.setAttribute(QStringLiteral("r"), svgCoordinate(axes.scaleX));
     } else {
-        item.element.setAttribute(QStringLiteral("rx"), coordinate(axes.scaleX));
-        item.element.setAttribute(QStringLiteral("ry"), coordinate(axes.scaleY));
+        item.element.setAttribute(QStringLiteral("rx"), svgCoordinate(axes.scaleX));
+        item.element.setAttribute(QStringLiteral("ry"), svgCoordinate(axes.scaleY));
         item.angle = axes.angle;
     }
     setPluginPaint(item.element, svgPaint(place.style, m_rules.isNative, remarkAbout(element)));
@@ -291,10 +249,10 @@ void SvgPageBuilder::line(const QDomElement &element, const Place &place)
         std::swap(startsWithArrow, endsWithArrow);
     }
     IwbElement &item = addItem(element, place, QStringLiteral("svg:line"));
-    item.element.setAttribute(QStringLiteral("x1"), coordinate(from.x()));
-    item.element.setAttribute(QStringLiteral("y1"), coordinate(from.y()));
-    item.element.setAttribute(QStringLiteral("x2"), coordinate(to.x()));
-    item.element.setAttribute(QStringLiteral("y2"), coordinate(to.y()));
+    item.element.setAttribute(QStringLiteral("x1"), svgCoordinate(from.x()));
+    item.element.setAttribute(QStringLiteral("y1"), svgCoordinate(from.y()));
+    item.element.setAttribute(QStringLiteral("x2"), svgCoordinate(to.x()));
+    item.element.setAttribute(QStringLiteral("y2"), svgCoordinate(to.y()));
     if (startsWithArrow) {
         item.element.setAttribute(QStringLiteral("stroke-lineshape-start"), QStringLiteral("arrow"));
     }
@@ -312,7 +270,7 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
     if (numbers.size() % 2 == 1) {
         remark(element, QStringLiteral("its last point has no y and is left out"));
     }
-    outline(element, place, pairs(numbers), false);
+    outline(element, place, pointsOf(numbers), false);
 }
 
 void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
@@ -321,7 +279,7 @@ void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
     if (numbers.size() % 2 == 1) {
         remark(element, QStringLiteral("its last point has no y and is left out"));
     }
-    outline(element, place, pairs(numbers), true);
+    outline(element, place, pointsOf(numbers), true);
 }
 
 void SvgPageBuilder::path(const QDomElement &element, const Place &place)
@@ -362,7 +320,7 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
         points.append(points.last());
     }
     IwbElement &item = addItem(source, place, QStringLiteral("svg:polyline"));
-    item.element.setAttribute(QStringLiteral("points"), pointList(place.style.matrix.map(points)));
+    item.element.setAttribute(QStringLiteral("points"), svgPoints(place.style.matrix.map(points)));
     setPluginPaint(item.element, paint);
 }
 
@@ -448,7 +406,7 @@ void SvgPageBuilder::finishBackground()
     QDomDocument &document = m_result.document;
     QDomElement rect = document.createElement(QStringLiteral("svg:rect"));
     rect.setAttribute(QStringLiteral("id"), backgroundRect);
-    setBox(rect, QRectF(QPointF(), m_rules.viewBox.size()));
+    setSvgBox(rect, QRectF(QPointF(), m_rules.viewBox.size()));
     const QColor color = m_background.alpha() > 0 ? m_background : QColor(Qt::white);
     rect.setAttribute(QStringLiteral("fill"),
                       QString(QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue())));
@@ -471,11 +429,11 @@ bool SvgPageBuilder::placeBox(IwbElement &item, const QRectF &box, const QTransf
     const double scaleY = std::hypot(matrix.m21(), matrix.m22());
     const bool isPlain = matrix.type() <= QTransform::TxTranslate;
     if (isPlain) {
-        setBox(item.element, matrix.mapRect(box));
+        setSvgBox(item.element, matrix.mapRect(box));
     } else {
         const QPointF center = matrix.map(box.center());
         const QSizeF size(box.width() * scaleX, box.height() * scaleY);
-        setBox(item.element, QRectF(center - QPointF(size.width(), size.height()) / 2, size));
+        setSvgBox(item.element, QRectF(center - QPointF(size.width(), size.height()) / 2, size));
         item.angle = std::atan2(matrix.m12(), matrix.m11());
         if (qAbs(item.angle) < 1e-9) {
             item.angle = 0;

@@ -1,11 +1,10 @@
 #include "svg/svgstyle.h"
 
+#include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
 
 #include <QSet>
 #include <QStringList>
-
-#include <cmath>
 
 namespace lessonhost {
 
@@ -196,7 +195,7 @@ SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void
     paint.line = withOpacity(paint.line, lineOpacity * style.opacity);
 
     const QString width = style.property(QStringLiteral("stroke-width"));
-    paint.lineWidth = svgLength(width).value_or(isNative ? 2 : 1) * std::sqrt(qAbs(style.matrix.determinant()));
+    paint.lineWidth = svgLength(width).value_or(isNative ? 2 : 1) * meanScale(style.matrix);
     if (paint.lineWidth <= 0) {
         paint.lineWidth = 1;
         paint.line.setAlpha(0);

@@ -1,5 +1,6 @@
 #include "svg/svgtext.h"
 
+#include "lesson/fontvalues.h"
 #include "lesson/textruns.h"
 #include "svg/svgnames.h"
 #include "svg/svgvalues.h"
@@ -33,13 +34,7 @@ QString alignment(const SvgStyle &style)
 {
     const QString align = style.property(QStringLiteral("text-align"));
     const QString value = align.isEmpty() ? style.property(QStringLiteral("text-anchor")) : align;
-    if (value == QLatin1String("middle") || value == QLatin1String("center")) {
-        return QStringLiteral("center");
-    }
-    if (value == QLatin1String("end") || value == QLatin1String("right")) {
-        return QStringLiteral("end");
-    }
-    return value == QLatin1String("justify") ? value : QStringLiteral("start");
+    return svgAlignment(textAlignment(value));
 }
 
 // Blanks and ends of lines in a file are one blank each, unless it says otherwise.
@@ -75,7 +70,7 @@ QFontMetricsF metrics(const SvgStyle &style)
 {
     QFont font(style.property(QStringLiteral("font-family")).split(QLatin1Char(',')).first().remove(QLatin1Char('\'')));
     font.setPixelSize(qBound(1, qRound(style.fontPixels()), 10000));
-    font.setBold(style.property(QStringLiteral("font-weight")).startsWith(QLatin1String("bold")));
+    font.setWeight(fontWeight(style.property(QStringLiteral("font-weight"))));
     return QFontMetricsF(font);
 }
 
@@ -173,7 +168,7 @@ void SvgText::setFont(QDomElement &element, const SvgStyle &style, double scale)
         element.setAttribute(QLatin1String(attribute.name), fontProperty(style, attribute, m_isNative));
     }
     const bool hasSize = style.has(QStringLiteral("font-size"));
-    double pixels = m_isNative && !hasSize ? 28 : style.fontPixels();
+    double pixels = m_isNative && !hasSize ? defaultFontPixels : style.fontPixels();
     const QString shift = style.property(QStringLiteral("baseline-shift"));
     if (shift == QLatin1String("sub") || shift == QLatin1String("super")) {
         element.setAttribute(QStringLiteral("baseline-shift"), shift);

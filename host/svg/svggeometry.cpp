@@ -1,8 +1,12 @@
-#include "svg/svgextent.h"
+#include "svg/svggeometry.h"
 
 #include "lesson/itemvalues.h"
 #include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
+
+#include <QStringList>
+
+#include <cmath>
 
 namespace lessonhost {
 
@@ -14,6 +18,44 @@ double number(const QDomElement &element, const char *attribute)
 }
 
 } // namespace
+
+QString svgCoordinate(double value, int digits)
+{
+    return QString::number(qAbs(value) < 1e-9 ? 0 : value, 'g', digits);
+}
+
+QString svgPoints(const QPolygonF &points)
+{
+    QStringList numbers;
+    for (const QPointF &point : points) {
+        numbers << svgCoordinate(point.x()) << svgCoordinate(point.y());
+    }
+    return numbers.join(QLatin1Char(','));
+}
+
+void setSvgBox(QDomElement &element, const QRectF &box, int digits)
+{
+    element.setAttribute(QStringLiteral("x"), svgCoordinate(box.x(), digits));
+    element.setAttribute(QStringLiteral("y"), svgCoordinate(box.y(), digits));
+    element.setAttribute(QStringLiteral("width"), svgCoordinate(box.width(), digits));
+    element.setAttribute(QStringLiteral("height"), svgCoordinate(box.height(), digits));
+}
+
+void setSvgTurn(QDomElement &element, double angle)
+{
+    double degrees = std::remainder(angle * 180 / M_PI, 360);
+    if (degrees < -180 + 1e-4) {
+        degrees += 360;
+    }
+    if (qAbs(degrees) < 1e-4) {
+        element.removeAttribute(QStringLiteral("transform"));
+        return;
+    }
+    const QPointF center = drawnExtent(element).value_or(QRectF()).center();
+    element.setAttribute(
+        QStringLiteral("transform"),
+        QStringLiteral("rotate(%1 %2 %3)").arg(degrees).arg(exactText(center.x()), exactText(center.y())));
+}
 
 std::optional<QRectF> drawnExtent(const QDomElement &element)
 {

@@ -1,0 +1,71 @@
+#ifndef COMMANDLINE_H
+#define COMMANDLINE_H
+
+#include <QCommandLineParser>
+#include <QHash>
+
+#include <vector>
+
+namespace lessonhost {
+
+/*!
+ * An option of the command.
+ */
+struct CommandOption
+{
+    enum Effect {
+        OnTheRun, //!< how it goes and what is said
+        OnResults, //!< the same lesson becomes something else: part of what a worker and --resume are told
+        OnAFormat //!< the same, and the option is for a format: it comes in LessonContext::options
+    };
+
+    const char *name;
+    const char *value; //!< what its value is called; null where it has none
+    Effect effect;
+    const char *words; //!< the words of the command that take it; empty for all
+    const char *description;
+    const char *standard = ""; //!< the value where none is given
+};
+
+//! The table of options, in the order of the help.
+const std::vector<CommandOption> &commandOptions();
+
+/*!
+ * What a call of the command says, with the values of its options checked. Functions throw LessonError where noted.
+ */
+class CommandLine
+{
+public:
+    //! arguments: the program's name and what follows it.
+    CommandLine(const QStringList &arguments, const QString &usage, const QString &wordList);
+
+    bool isUnderstood() const { return m_isUnderstood; }
+    QString problem() const { return m_parser.errorText(); }
+    QString help() const { return m_parser.helpText(); }
+    [[noreturn]] void showVersion() { m_parser.showVersion(); }
+
+    //! The command's word and its files; empty if the line isn't understood.
+    QStringList words() const { return m_isUnderstood ? m_parser.positionalArguments() : QStringList(); }
+    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
+    QString value(const char *name) const { return m_parser.value(QLatin1String(name)); }
+
+    //! How many lessons at the same time. Throws.
+    int jobs() const;
+    //! How long each of many lessons may take; 0 for as long as it does. Throws.
+    int lessonSeconds() const;
+
+    //! The options that change results, as arguments again. Throws.
+    QStringList resultArguments() const;
+    //! Those for single formats, by name. Throws.
+    QHash<QString, QString> formatOptions() const;
+
+private:
+    void checkInk() const;
+
+    QCommandLineParser m_parser;
+    bool m_isUnderstood = false;
+};
+
+} // namespace lessonhost
+
+#endif // COMMANDLINE_H

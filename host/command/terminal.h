@@ -1,0 +1,23 @@
+#ifndef TERMINAL_H
+#define TERMINAL_H
+
+#include <QString>
+
+class QJsonObject;
+
+namespace lessonhost {
+
+// What the command says. What would move a terminal's cursor is replaced.
+
+//! On standard output.
+void print(const QString &text);
+
+//! On standard output.
+void printJson(const QJsonObject &object);
+
+//! On standard error, as a sentence of the command.
+void complain(const QString &text);
+
+} // namespace lessonhost
+
+#endif // TERMINAL_H

@@ -1,0 +1,103 @@
+#include "lesson/fontvalues.h"
+
+namespace lessonhost {
+
+namespace {
+
+// Weights as svg numbers them and as fonts here do.
+struct Weight
+{
+    int svg;
+    int font;
+};
+constexpr Weight weights[] = {{100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
+                              {600, 63}, {700, 75}, {800, 81}, {900, 87}};
+constexpr int normalWeight = 50;
+constexpr int boldWeight = 75;
+
+struct AlignmentName
+{
+    Qt::AlignmentFlag flag;
+    const char *svg;
+    const char *html;
+    const char *anchor; //!< as svg names what stands at a point
+};
+constexpr AlignmentName alignments[] = {
+    {Qt::AlignLeft, "start", "left", "start"},
+    {Qt::AlignRight, "end", "right", "end"},
+    {Qt::AlignHCenter, "center", "center", "middle"},
+    {Qt::AlignJustify, "justify", "justify", "justify"},
+};
+
+const AlignmentName &alignmentName(Qt::Alignment alignment)
+{
+    for (const AlignmentName &name : alignments) {
+        if (alignment & name.flag) {
+            return name;
+        }
+    }
+    return alignments[0];
+}
+
+} // namespace
+
+int fontWeight(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber) {
+        return text.startsWith(QLatin1String("bold")) ? boldWeight : normalWeight;
+    }
+    int font = normalWeight;
+    for (const Weight &weight : weights) {
+        if (weight.svg <= number) {
+            font = weight.font;
+        }
+    }
+    return font;
+}
+
+QString fontWeightText(int fontWeight)
+{
+    int best = 400;
+    int bestDistance = 1000;
+    for (const Weight &weight : weights) {
+        const int distance = qAbs(weight.font - fontWeight);
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = weight.svg;
+        }
+    }
+    switch (best) {
+    case 400:
+        return QStringLiteral("normal");
+    case 700:
+        return QStringLiteral("bold");
+    default:
+        return QString::number(best);
+    }
+}
+
+Qt::AlignmentFlag textAlignment(const QString &text)
+{
+    for (const AlignmentName &name : alignments) {
+        for (const char *known : {name.svg, name.html, name.anchor}) {
+            if (text == QLatin1String(known)) {
+                return name.flag;
+            }
+        }
+    }
+    return Qt::AlignLeft;
+}
+
+QLatin1String svgAlignment(Qt::Alignment alignment)
+{
+    return QLatin1String(alignmentName(alignment).svg);
+}
+
+QLatin1String htmlAlignment(Qt::Alignment alignment)
+{
+    return QLatin1String(alignmentName(alignment).html);
+}
+
+} // namespace lessonhost

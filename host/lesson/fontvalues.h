@@ -1,0 +1,29 @@
+#ifndef FONTVALUES_H
+#define FONTVALUES_H
+
+#include <QString>
+#include <Qt>
+
+namespace lessonhost {
+
+// Fonts and alignment as svg and runs of text name them.
+
+//! Pixels of a text whose size isn't given.
+constexpr double defaultFontPixels = 28;
+
+//! The weight of a QFont for a number from 100 to 900 or "bold" and the like; the usual one for other texts.
+int fontWeight(const QString &text);
+
+//! The number for a QFont's weight, with "normal" for 400 and "bold" for 700.
+QString fontWeightText(int fontWeight);
+
+//! Left, right, centre or justify, by the names that svg and HTML have for them; left for other texts.
+Qt::AlignmentFlag textAlignment(const QString &text);
+
+//! Its names in svg ("start", "end", "center" or "justify") and in HTML ("left", ...).
+QLatin1String svgAlignment(Qt::Alignment alignment);
+QLatin1String htmlAlignment(Qt::Alignment alignment);
+
+} // namespace lessonhost
+
+#endif // FONTVALUES_H

@@ -1,0 +1,82 @@
+#include "lesson/itemview.h"
+
+#include "lesson/planegeometry.h"
+
+namespace lessonhost {
+
+QVector<QJsonObject> ItemView::looseChildren() const
+{
+    QVector<QJsonObject> loose;
+    const QJsonArray own = children();
+    for (const QJsonValue &value : own) {
+        QJsonObject child = value.toObject();
+        if (!isVisible()) {
+            child.insert(ItemKeys::visible, false);
+        }
+        if (isLocked()) {
+            child.insert(ItemKeys::locked, QStringLiteral("1"));
+        }
+        if (has(ItemKeys::linkType) && !ItemView(child).has(ItemKeys::linkType)) {
+            child.insert(ItemKeys::linkType, m_item.value(ItemKeys::linkType));
+            child.insert(ItemKeys::linkValue, m_item.value(ItemKeys::linkValue));
+        }
+        loose.append(child);
+    }
+    return loose;
+}
+
+std::optional<QRectF> ItemView::box() const
+{
+    const QVector<double> n = numbers(ItemKeys::box);
+    if (n.size() < 4) {
+        return std::nullopt;
+    }
+    return QRectF(QPointF(n.at(0), n.at(1)), QPointF(n.at(2), n.at(3))).normalized();
+}
+
+std::optional<ItemPlace> ItemView::place() const
+{
+    const auto own = box();
+    if (!own) {
+        return std::nullopt;
+    }
+    const auto under = matrix();
+    return under ? placeUnder(*under, *own) : ItemPlace{*own, angle()};
+}
+
+double ItemView::scale() const
+{
+    const auto under = matrix();
+    const double scale = under ? meanScale(*under) : 1;
+    return scale > 0 ? scale : 1;
+}
+
+// The one character more is no part of the numbers; a digit at the end is one.
+QPolygonF ItemView::polyline() const
+{
+    const QJsonValue value = m_item.value(ItemKeys::polyline);
+    QString list = valueText(value);
+    if (!list.isEmpty() && !list.at(list.size() - 1).isDigit()) {
+        list.chop(1);
+    }
+    return pointsOf(itemNumbers(value.isArray() ? value : QJsonValue(list)));
+}
+
+QPolygonF ItemView::strokePoints() const
+{
+    QPolygonF result = points(ItemKeys::steps);
+    for (int i = 1; i < result.size(); ++i) {
+        result[i] += result.at(i - 1);
+    }
+    return result;
+}
+
+std::optional<QPointF> ItemView::createdAt() const
+{
+    if (has(ItemKeys::box) || !has(ItemKeys::createdX) || !has(ItemKeys::createdY)) {
+        return std::nullopt;
+    }
+    return QPointF(number(ItemKeys::createdX), number(ItemKeys::createdY));
+}
+
+} // namespace lessonhost

@@ -1,0 +1,35 @@
+#ifndef SVGGEOMETRY_H
+#define SVGGEOMETRY_H
+
+#include <QDomElement>
+#include <QPolygonF>
+#include <QRectF>
+
+#include <optional>
+
+namespace lessonhost {
+
+// Places in svg elements: what the plug-in's cover, and how boxes and turns are written.
+
+//! A coordinate; what a transform makes of 0 by its errors is 0.
+QString svgCoordinate(double value, int digits = 10);
+
+//! x and y in turn with commas between.
+QString svgPoints(const QPolygonF &points);
+
+//! The plug-in writes numbers with so many digits.
+constexpr int pluginDigits = 6;
+
+void setSvgBox(QDomElement &element, const QRectF &box, int digits = 10);
+
+//! A turn in radians as svg tells it, in degrees, about the very centre of what is written: another would move the
+//! element when it is read. The numbers have blanks between them: with commas they would be in radians. A whole turn or
+//! none is no attribute.
+void setSvgTurn(QDomElement &element, double angle);
+
+//! What a svg element of the plug-in covers before its transform, or nothing for one without geometry.
+std::optional<QRectF> drawnExtent(const QDomElement &element);
+
+} // namespace lessonhost
+
+#endif // SVGGEOMETRY_H

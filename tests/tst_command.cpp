@@ -1,0 +1,105 @@
+#include "command/command.h"
+#include "pluginfixture.h"
+#include "testtable.h"
+
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+
+const QString man = EXAMPLES_DIR "/../docs/lessonconv.1"_s;
+const QString completion = EXAMPLES_DIR "/../packaging/lessonconv.bash"_s;
+
+QStringList sorted(QStringList list)
+{
+    list.removeDuplicates();
+    list.sort();
+    return list;
+}
+
+// Words that are for people.
+QStringList wordsOfTable()
+{
+    QStringList words;
+    for (const lessonhost::Command::Word &word : lessonhost::Command::words()) {
+        if (word.purpose) {
+            words.append(word.word);
+        }
+    }
+    return sorted(words);
+}
+
+// Options that a word takes, or all of them.
+QStringList optionsOfTable(const QString &word = {})
+{
+    QStringList options{"--help", "--version"};
+    for (const lessonhost::CommandOption &option : lessonhost::commandOptions()) {
+        const QStringList takers = QString(option.words).split(' ', Qt::SkipEmptyParts);
+        if (word.isEmpty() || takers.isEmpty() || takers.contains(word)) {
+            options.append("--"_s + option.name);
+        }
+    }
+    return sorted(options);
+}
+
+QStringList found(const char *pattern, const QString &text)
+{
+    QStringList parts;
+    auto it = QRegularExpression(pattern).globalMatch(text);
+    while (it.hasNext()) {
+        parts.append(it.next().captured(1));
+    }
+    return sorted(parts);
+}
+
+// What bash offers behind "lessonconv" and that word.
+QStringList offered(const QString &word, const QString &begun)
+{
+    QStringList arguments{"-c",
+                          "source \"$0\"; COMP_WORDS=(lessonconv \"$@\"); COMP_CWORD=$#; _lessonconv; "
+                          "printf '%s\\n' \"${COMPREPLY[@]}\"",
+                          completion};
+    if (!word.isEmpty()) {
+        arguments.append(word);
+    }
+    QProcess bash;
+    bash.start("bash", arguments << begun);
+    bash.waitForFinished();
+    return sorted(QString::fromUtf8(bash.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts));
+}
+
+} // namespace
+
+/*!
+ * What is written down about the command beside its tables is what they say.
+ */
+class TestCommand : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void manualHasAllWordsAndOptions()
+    {
+        const QString text = QString(fileContent(man)).remove('\\');
+        const QString synopsis = text.section(".SH SYNOPSIS", 1).section(".SH ", 0, 0);
+        const QString options = text.section(".SH OPTIONS", 1).section(".SH ", 0, 0);
+        QCOMPARE(found("lessonconv ([a-z]+)", synopsis), wordsOfTable());
+        // The line behind each mark names an option or two.
+        QCOMPARE(found("(--[a-z-]+)", found("\\.TP\n(.*)", options).join(' ')), optionsOfTable());
+        // No page tells of what isn't there.
+        for (const QString &option : found("(--[a-z-]+)", text)) {
+            QVERIFY2(optionsOfTable().contains(option), qPrintable(option));
+        }
+    }
+
+    void completionOffersAllWordsAndOptions()
+    {
+        QCOMPARE(offered({}, {}), sorted(wordsOfTable() + QStringList{"--help", "--version"}));
+        for (const QString &word : wordsOfTable()) {
+            QCOMPARE(offered(word, "--"), optionsOfTable(word));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCommand)
+#include "tst_command.moc"
