@@ -34,6 +34,9 @@ install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTER
     PATTERN generator EXCLUDE)
 install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
+# What is packed is what ./run builds, not the tests.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY TRUE)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zqtransformation)
 set(CPACK_PACKAGE_CONTACT "The maintainers of lessonconv <lessonconv@localhost>")
