@@ -5,6 +5,7 @@
 #include "files/packagetarget.h"
 #include "files/workfolder.h"
 #include "formats/jsonindex.h"
+#include "lesson/slidelimits.h"
 
 #include <QDir>
 #include <QFile>
@@ -63,6 +64,7 @@ public:
                 m_index.fail(QStringLiteral("An item of slide %1 is no object").arg(index + 1), range.begin);
             }
         }
+        checkSlideItems(slide.items, index + 1, m_path);
         return slide;
     }
 
