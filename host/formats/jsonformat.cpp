@@ -27,9 +27,11 @@ public:
         : m_path(path)
         , m_index(path)
     {
+        QVector<QPair<QString, QJsonValue>> members;
         for (const auto &member : qAsConst(m_index.members)) {
-            m_presentation.insert(member.first, m_index.value(member.second));
+            members.append({member.first, m_index.value(member.second)});
         }
+        m_presentation = jsonObject(members);
         for (const auto &resource : qAsConst(m_index.resources)) {
             const QString problem = problemWithPackagePath(resource.first);
             if (!problem.isEmpty()) {
