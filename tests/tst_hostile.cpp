@@ -261,6 +261,21 @@ private slots:
         row("JSON slide of 33 MiB", "in.json",
             QByteArray("{\"Slides\": [{\"a\": \"") + QByteArray(33 * 1024 * 1024, ' ') + "\"}]}",
             "no slide may take more");
+        row("100,001 items in a slide", "in/slides/1.xml",
+            QByteArray("<slide><items>" + QByteArray("<a/>").repeated(100001) + "</items></slide>"),
+            "no slide may have more");
+        row("100,001 items in a group", "in.json",
+            QByteArray("{\"Slides\": [{\"Items\": [{\"Children\": [" + QByteArray("{},").repeated(99999) + "{}]}]}]}"),
+            "no slide may have more");
+        row("100,001 JSON slides", "in.json",
+            QByteArray("{\"Slides\": [" + QByteArray("{},").repeated(100000) + "{}]}"), "more than 100000 slides");
+        QByteArray keys;
+        for (int i = 0; i < 300000; ++i) {
+            keys += "\"a" + QByteArray::number(i) + "\": 1, ";
+        }
+        row("300,000 keys of a presentation", "in.json", QByteArray("{" + keys + "\"Slides\": []}"), "");
+        row("300,000 keys around something deep", "in.json",
+            QByteArray("{\"Slides\": [{\"a\": {" + keys + "\"d\": " + nested("[", "]", 1200) + "}}]}"), "");
         row("a million elements with values", "in/slides/1.xml",
             QByteArray("<slide>" + QByteArray("<a b=\"\"/>").repeated(1000000) + "</slide>"), "memory");
         row("a million values in a raw lesson", "in.xml",

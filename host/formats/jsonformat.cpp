@@ -5,6 +5,7 @@
 #include "files/packagetarget.h"
 #include "files/workfolder.h"
 #include "formats/jsonindex.h"
+#include "lesson/slidelimits.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,9 +27,11 @@ public:
         : m_path(path)
         , m_index(path)
     {
+        QVector<QPair<QString, QJsonValue>> members;
         for (const auto &member : qAsConst(m_index.members)) {
-            m_presentation.insert(member.first, m_index.value(member.second));
+            members.append({member.first, m_index.value(member.second)});
         }
+        m_presentation = jsonObject(members);
         for (const auto &resource : qAsConst(m_index.resources)) {
             const QString problem = problemWithPackagePath(resource.first);
             if (!problem.isEmpty()) {
@@ -63,6 +66,7 @@ public:
                 m_index.fail(QStringLiteral("An item of slide %1 is no object").arg(index + 1), range.begin);
             }
         }
+        checkSlideItems(slide.items, index + 1, m_path);
         return slide;
     }
 

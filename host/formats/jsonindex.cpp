@@ -4,9 +4,9 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QSet>
 
+#include <algorithm>
 #include <cstring>
 
 namespace lessonhost {
@@ -19,6 +19,8 @@ constexpr int maximumDepth = 2000;
 constexpr int maximumParsedDepth = 1000;
 // Positions in a text that Qt parses are ints.
 constexpr qint64 maximumSize = qint64(1024) * 1024 * 1024;
+// As many as there can be in an archive.
+constexpr int maximumCount = 100000;
 constexpr qint64 pieceSize = qint64(64) * 1024;
 constexpr int fileEnd = -1;
 
@@ -28,6 +30,17 @@ bool isBlank(int c)
 }
 
 } // namespace
+
+QJsonObject jsonObject(QVector<QPair<QString, QJsonValue>> members)
+{
+    std::stable_sort(members.begin(), members.end(),
+                     [](const auto &one, const auto &other) { return one.first < other.first; });
+    QJsonObject object;
+    for (const auto &member : qAsConst(members)) {
+        object.insert(member.first, member.second);
+    }
+    return object;
+}
 
 JsonIndex::JsonIndex(const QString &path)
     : m_path(path)
@@ -121,9 +134,9 @@ QJsonValue JsonIndex::nextValue(int levels)
         return array;
     }
     if (levels > 0 && comesNext('{')) {
-        QJsonObject object;
-        eachMember([this, levels, &object](const QString &name) { object.insert(name, nextValue(levels - 1)); });
-        return object;
+        QVector<QPair<QString, QJsonValue>> members;
+        eachMember([this, levels, &members](const QString &name) { members.append({name, nextValue(levels - 1)}); });
+        return jsonObject(members);
     }
     return parsedValue(skipValue());
 }
@@ -163,9 +176,15 @@ void JsonIndex::scan()
         names.insert(name);
         if (name == QLatin1String("Slides")) {
             hasSlides = true;
-            eachElement([this] { slides.append(skipValue()); });
+            eachElement([this] {
+                checkCount(slides.size(), "slides");
+                slides.append(skipValue());
+            });
         } else if (name == QLatin1String("Resources")) {
-            eachMember([this](const QString &path) { resources.append({path, skipValue()}); });
+            eachMember([this](const QString &path) {
+                checkCount(resources.size(), "files");
+                resources.append({path, skipValue()});
+            });
         } else {
             members.append({name, skipValue()});
         }
@@ -176,6 +195,13 @@ void JsonIndex::scan()
     }
     if (!hasSlides) {
         fail(QStringLiteral("This is no lesson: it has no \"Slides\""), 0);
+    }
+}
+
+void JsonIndex::checkCount(int count, const char *what)
+{
+    if (count >= maximumCount) {
+        fail(QStringLiteral("The lesson has more than %1 %2").arg(maximumCount).arg(QLatin1String(what)), m_at);
     }
 }
 

@@ -3,11 +3,16 @@
 
 #include <QFile>
 #include <QHash>
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
 #include <QVector>
 
 namespace lessonhost {
+
+//! An object of members in any order, of which the last of a name counts. To insert each by itself takes time for each
+//! pair of them.
+QJsonObject jsonObject(QVector<QPair<QString, QJsonValue>> members);
 
 /*!
  * Where the parts of a lesson in one JSON file stand: found in one pass over the file, read and parsed one at a time
@@ -43,6 +48,7 @@ private:
     QJsonValue parsedValue(const Range &range);
     QJsonValue nextValue(int levels);
     void scan();
+    void checkCount(int count, const char *what);
     int next();
     void skipBlanks();
     void skipString();

@@ -97,17 +97,4 @@ const LessonFormat &lessonFormatOfOutput(const QString &path)
     failWithoutFormat(path, QStringLiteral("--to"), namesOfFormats(&LessonFormat::canWrite));
 }
 
-void checkSlideSize(qint64 size, int number, const QString &file)
-{
-    constexpr int mebibyte = 1024 * 1024;
-    if (size > maximumSlideSize) {
-        throw LessonError(QStringLiteral("Slide %1 takes %2 MiB, and no slide may take more than %3")
-                              .arg(number)
-                              .arg((size + mebibyte - 1) / mebibyte)
-                              .arg(maximumSlideSize / mebibyte),
-                          QStringLiteral("Spread its items over several slides"))
-            .in(file);
-    }
-}
-
 } // namespace lessonhost

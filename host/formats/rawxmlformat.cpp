@@ -12,6 +12,7 @@
 #include "lesson/itemvalues.h"
 #include "lesson/pageplace.h"
 #include "lesson/pagesize.h"
+#include "lesson/slidelimits.h"
 #include "losses/carriedcheck.h"
 
 #include <QDir>
@@ -148,6 +149,7 @@ public:
         for (const QDomElement &item : items) {
             slide.items.append(readItem(item, itemContext, check));
         }
+        checkSlideItems(slide.items, index + 1, m_path);
         return slide;
     }
 

@@ -13,6 +13,7 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/pageplace.h"
+#include "lesson/slidelimits.h"
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
 #include "losses/comparison.h"
@@ -32,6 +33,8 @@ const QLatin1String slideTag("slide");
 const QLatin1String itemsTag("items");
 const QLatin1String slidesTag("slides");
 const QLatin1String idKey("ID");
+// How many elements stand around an item.
+constexpr int itemDepth = 2;
 
 QString slideFile(const QString &id)
 {
@@ -84,17 +87,43 @@ public:
         return slide;
     }
 
-    QDomDocument write(const LessonSlide &slide) const
+    // Item by item, so that no more than one of them is there as a DOM. number, name: for messages.
+    QByteArray write(const LessonSlide &slide, int number, const QString &name) const
     {
-        QDomDocument document = writeProperties(slide.properties);
-        QDomElement items = document.documentElement().firstChildElement(itemsTag);
-        for (const QJsonValue &item : slide.items) {
-            items.appendChild(m_items.write(item.toObject()));
+        const QDomDocument document = writeProperties(slide.properties);
+        const QDomElement root = document.documentElement();
+        checkDepth(root, 0, number, name);
+        QDomElement items = root.firstChildElement(itemsTag);
+        if (slide.items.isEmpty() || items.isNull()) {
+            return xmlDocumentText(root);
         }
-        return document;
+        const QDomElement mark = items.appendChild(looseElement(itemsTag)).toElement();
+        QByteArray text = xmlDocumentText(root);
+        const QByteArray marked = xmlLines(mark, itemDepth);
+        const int place = text.lastIndexOf(marked);
+        const QByteArray end = text.mid(place + marked.size());
+        text.truncate(place);
+        for (const QJsonValue &item : slide.items) {
+            const QDomElement element = m_items.write(item.toObject());
+            checkDepth(element, itemDepth, number, name);
+            text += xmlLines(element, itemDepth);
+            checkSlideSize(text.size(), number, name);
+        }
+        return text + end;
     }
 
 private:
+    static void checkDepth(const QDomElement &element, int around, int number, const QString &name)
+    {
+        if (elementDepth(element) + around > maximumXmlDepth) {
+            throw LessonError(QStringLiteral("The items of slide %1 are nested deeper than %2 levels of XML")
+                                  .arg(number)
+                                  .arg(maximumXmlDepth),
+                              QStringLiteral("Take some groups or branches apart"))
+                .in(name);
+        }
+    }
+
     QJsonObject readProperties(const QDomElement &root, const QJsonObject &context) const
     {
         return withReferencesOf(root, m_plugin->tranSlideZQTX2JSON(root, context));
@@ -168,6 +197,7 @@ public:
         m_checked.insert(index);
         m_check.setSlide(index + 1);
         LessonSlide slide = m_slides->read(root, location(), isChecked ? &m_check : nullptr);
+        checkSlideItems(slide.items, index + 1, m_source.displayName(file));
         if (slide.properties.value(idKey).toString().isEmpty()) {
             slide.properties.insert(idKey, QFileInfo(file).completeBaseName());
         }
@@ -297,16 +327,8 @@ public:
         written.properties = withShortPictures(written.properties);
         const QString id = usableId(valueText(slide.properties.value(idKey)), number);
         written.properties.insert(idKey, id);
-        const QDomElement root = m_slides->write(written).documentElement();
         const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
-        if (elementDepth(root) > maximumXmlDepth) {
-            throw LessonError(QStringLiteral("The items of slide %1 are nested deeper than %2 levels of XML")
-                                  .arg(number)
-                                  .arg(maximumXmlDepth),
-                              QStringLiteral("Take some groups or branches apart"))
-                .in(name);
-        }
-        const QByteArray text = xmlDocumentText(root);
+        const QByteArray text = m_slides->write(written, number, name);
         checkSlideSize(text.size(), number, name);
         m_target.write(slideFile(id), text);
         m_ids.append(id);

@@ -3,6 +3,7 @@
 #include "files/lessonerror.h"
 #include "files/pictures.h"
 #include "izqtransformation.h"
+#include "lesson/slidelimits.h"
 
 #include <QDir>
 #include <QFile>
@@ -80,6 +81,7 @@ LessonSlide IwbReader::slide(int index)
             slide.items.append(item);
         }
     }
+    checkSlideItems(slide.items, m_slide, m_package.displayName());
     return slide;
 }
 

@@ -1,0 +1,49 @@
+#include "lesson/slidelimits.h"
+
+#include "files/lessonerror.h"
+#include "lesson/itemkeys.h"
+
+#include <numeric>
+
+namespace lessonhost {
+
+namespace {
+
+const char *const spread = "Spread its items over several slides";
+
+int itemCount(const QJsonArray &items)
+{
+    return std::accumulate(items.constBegin(), items.constEnd(), 0, [](int count, const QJsonValue &item) {
+        return count + 1 + itemCount(item.toObject().value(HostKeys::children).toArray());
+    });
+}
+
+} // namespace
+
+void checkSlideSize(qint64 size, int number, const QString &file)
+{
+    constexpr int mebibyte = 1024 * 1024;
+    if (size > maximumSlideSize) {
+        throw LessonError(QStringLiteral("Slide %1 takes %2 MiB, and no slide may take more than %3")
+                              .arg(number)
+                              .arg((size + mebibyte - 1) / mebibyte)
+                              .arg(maximumSlideSize / mebibyte),
+                          QLatin1String(spread))
+            .in(file);
+    }
+}
+
+void checkSlideItems(const QJsonArray &items, int number, const QString &file)
+{
+    const int count = itemCount(items);
+    if (count > maximumSlideItems) {
+        throw LessonError(QStringLiteral("Slide %1 has %2 items, and no slide may have more than %3")
+                              .arg(number)
+                              .arg(count)
+                              .arg(maximumSlideItems),
+                          QLatin1String(spread))
+            .in(file);
+    }
+}
+
+} // namespace lessonhost
