@@ -63,12 +63,15 @@ bool looksLike(const QDomElement &element, const QDomElement &other)
 class Comparing
 {
 public:
-    Comparing(LossReport *losses, const Loss &owner)
+    Comparing(LossReport *losses, const Loss &owner, const QDomElement &read, const QDomElement &written)
         : m_losses(losses)
         , m_owner(owner)
+        , m_written(written)
     {
+        compare(read, written);
     }
 
+private:
     void compare(const QDomElement &read, const QDomElement &written)
     {
         compareAttributes(read, written);
@@ -76,13 +79,12 @@ public:
         if (!text.isEmpty()) {
             compareValue(read, {}, text, textOf(written));
         }
-        if (!m_steps.isEmpty() && written.isNull() && isBare(read)) {
+        if (written.isNull() && isBare(read) && !standsOtherwise(read)) {
             lose({}, {});
         }
         compareChildren(read, written);
     }
 
-private:
     struct Step
     {
         QString tag;
@@ -96,6 +98,29 @@ private:
         QVector<QDomElement> read;
         QVector<int> counts;
         QVector<QDomElement> written;
+    };
+
+    /*!
+     * How many of a tag, or rows of a label, have come up.
+     */
+    class Counts
+    {
+    public:
+        int next(const QString &tag, const QString &label)
+        {
+            const QString name = label.isEmpty() ? tag : QString(tag + QLatin1Char(' ') + label);
+            if (name != m_last) {
+                m_counts[m_last] = m_count;
+                m_last = name;
+                m_count = m_counts.value(name);
+            }
+            return ++m_count;
+        }
+
+    private:
+        QHash<QString, int> m_counts; // of all but the last name
+        QString m_last;
+        int m_count = 0;
     };
 
     static QString labelOf(const QDomElement &child)
@@ -114,6 +139,12 @@ private:
             line += QLatin1Char('/');
         }
         return line;
+    }
+
+    // A child of the outermost element is also there if the written one has something in it.
+    bool standsOtherwise(const QDomElement &read) const
+    {
+        return m_steps.isEmpty() || (m_steps.size() == 1 && !m_written.firstChildElement(read.tagName()).isNull());
     }
 
     void compareAttributes(const QDomElement &read, const QDomElement &written)
@@ -143,49 +174,54 @@ private:
 
     void compareChildren(const QDomElement &read, const QDomElement &written)
     {
-        QDomElement child = read.firstChildElement();
-        if (child.isNull()) {
+        if (!hasSameChildren(read, written)) {
+            compareLines(read, written);
             return;
         }
-        // In most cases the same children stand in the same order.
+        Counts counts;
         QDomElement partner = written.firstChildElement();
-        QHash<QString, int> counts;
-        while (!child.isNull() && !partner.isNull() && child.tagName() == partner.tagName()) {
+        for (QDomElement child = read.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             const QString label = labelOf(child);
-            if (label != labelOf(partner) || child.hasChildNodes() != partner.hasChildNodes()) {
-                break;
-            }
-            compareChild(child, partner, {child.tagName(), label, ++counts[countedName(child, label)]});
-            child = child.nextSiblingElement();
+            compareChild(child, partner, {child.tagName(), label, counts.next(child.tagName(), label)});
             partner = partner.nextSiblingElement();
         }
-        compareLines(child, partner, counts);
     }
 
-    static QString countedName(const QDomElement &child, const QString &label)
+    // True if the written element has the same children in the same order, and perhaps some behind them, as it has in
+    // most cases.
+    static bool hasSameChildren(const QDomElement &read, const QDomElement &written)
     {
-        return child.tagName() + QLatin1Char(' ') + label;
+        QDomElement partner = written.firstChildElement();
+        for (QDomElement child = read.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            if (child.tagName() != partner.tagName() || child.hasChildNodes() != partner.hasChildNodes()
+                || labelOf(child) != labelOf(partner)) {
+                return false;
+            }
+            partner = partner.nextSiblingElement();
+        }
+        return true;
     }
 
-    void compareLines(QDomElement child, QDomElement partner, QHash<QString, int> &counts)
+    void compareLines(const QDomElement &read, const QDomElement &written)
     {
         QVector<Line> lines;
         QHash<QString, int> indexes;
-        for (; !child.isNull(); child = child.nextSiblingElement()) {
+        Counts counts;
+        for (QDomElement child = read.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             const QString label = labelOf(child);
-            const auto index = indexes.constFind(lineOf(child, label));
-            const int at = index == indexes.constEnd() ? lines.size() : *index;
-            if (at == lines.size()) {
-                indexes.insert(lineOf(child, label), at);
+            int &index = indexes[lineOf(child, label)]; // from 1 on
+            if (index == 0) {
                 lines.append(Line());
+                index = lines.size();
             }
-            lines[at].read.append(child);
-            lines[at].counts.append(++counts[countedName(child, label)]);
+            lines[index - 1].read.append(child);
+            lines[index - 1].counts.append(counts.next(child.tagName(), label));
         }
-        for (; !lines.isEmpty() && !partner.isNull(); partner = partner.nextSiblingElement()) {
-            const auto index = indexes.constFind(lineOf(partner, labelOf(partner)));
-            if (index != indexes.constEnd()) {
-                lines[*index].written.append(partner);
+        QDomElement partner = written.firstChildElement();
+        for (; !partner.isNull(); partner = partner.nextSiblingElement()) {
+            const int index = indexes.value(lineOf(partner, labelOf(partner)));
+            if (index > 0) {
+                lines[index - 1].written.append(partner);
             }
         }
         for (const Line &line : qAsConst(lines)) {
@@ -270,6 +306,7 @@ private:
 
     LossReport *m_losses;
     Loss m_owner;
+    QDomElement m_written; // outermost
     QVector<Step> m_steps;
 };
 
@@ -286,7 +323,7 @@ void CarriedCheck::compare(const QString &type, const QString &id, const QDomEle
     owner.slide = m_slide;
     owner.itemType = type;
     owner.itemId = id;
-    Comparing(m_losses, owner).compare(read, written);
+    Comparing(m_losses, owner, read, written);
 }
 
 } // namespace lessonhost
