@@ -8,6 +8,7 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemvalues.h"
+#include "lesson/strokeoffsets.h"
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
 
@@ -23,6 +24,7 @@ const QLatin1String typeKey("Type");
 const QString typeAttribute = QStringLiteral("type");
 const QLatin1String attachmentsTag("attachments");
 const QLatin1String errorKey("error");
+const QLatin1String strokeKey("XY");
 const QLatin1String heldItemTag("item");
 const QLatin1String heldItemAttribute("json");
 
@@ -73,6 +75,17 @@ void keepIgnored(const QDomElement &element, const char *attribute, QLatin1Strin
     const QString text = rect.attribute(QLatin1String(attribute));
     if (!text.isEmpty() && !item.contains(key)) {
         item.insert(keptKey, text);
+    }
+}
+
+// The plug-in works out the steps of an old stroke in single precision.
+void readOldStroke(const QDomElement &element, QJsonObject &item)
+{
+    const QDomElement data = childWithContent(element, QStringLiteral("data"), true);
+    const QString offsets = data.firstChildElement(QStringLiteral("vertex")).attribute(QStringLiteral("points"));
+    const QString points = offsetsAsPoints(offsets);
+    if (!points.isEmpty()) {
+        item.insert(strokeKey, points);
     }
 }
 
@@ -293,6 +306,9 @@ QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &contex
         keepIgnored(element, "points", QLatin1String("BoundingBox"), HostKeys::ignoredBox, item);
     } else if (isFigure(type)) {
         keepIgnored(element, "controlpoints", QLatin1String("Control"), HostKeys::ignoredControl, item);
+    }
+    if (m_majorVersion < 3 && item.contains(strokeKey)) {
+        readOldStroke(element, item);
     }
     if (type == QLatin1String("ZQQuestionItem")) {
         readQuestionMarkup(element, item);
