@@ -249,6 +249,7 @@ private:
         QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
         if (!item.isEmpty()) {
             m_attributes.addTo(item, element);
+            makeNumbersFinite(item);
         }
         return item;
     }

@@ -314,6 +314,7 @@ QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &contex
         readQuestionMarkup(element, item);
     }
     readAttachmentError(element, item);
+    makeNumbersFinite(item);
     return item;
 }
 

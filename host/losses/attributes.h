@@ -8,7 +8,7 @@
 
 namespace lessonhost {
 
-//! Name and value of each attribute, in time that grows with their number alone.
+//! Name and value of each attribute.
 QVector<QPair<QString, QString>> attributesOf(const QDomElement &element);
 
 } // namespace lessonhost
