@@ -72,19 +72,6 @@ public:
     }
 
 private:
-    void compare(const QDomElement &read, const QDomElement &written)
-    {
-        compareAttributes(read, written);
-        const QString text = textOf(read);
-        if (!text.isEmpty()) {
-            compareValue(read, {}, text, textOf(written));
-        }
-        if (written.isNull() && isBare(read) && !standsOtherwise(read)) {
-            lose({}, {});
-        }
-        compareChildren(read, written);
-    }
-
     struct Step
     {
         QString tag;
@@ -92,11 +79,16 @@ private:
         int count; // how many of the tag, or rows of the label, there are up to this one
     };
 
+    struct Child
+    {
+        QDomElement element;
+        Step step;
+    };
+
     // Children of one parent that stand for each other by their order: those of a tag, rows those of a label.
     struct Line
     {
-        QVector<QDomElement> read;
-        QVector<int> counts;
+        QVector<Child> read;
         QVector<QDomElement> written;
     };
 
@@ -123,16 +115,43 @@ private:
         int m_count = 0;
     };
 
-    static QString labelOf(const QDomElement &child)
+    void compare(const QDomElement &read, const QDomElement &written)
     {
-        return child.tagName() == rowTag ? child.attribute(labelName) : QString();
+        compareAttributes(read, written);
+        QString text;
+        QVector<Child> children;
+        Counts counts;
+        for (QDomNode node = read.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (node.isElement()) {
+                const QDomElement child = node.toElement();
+                const QString tag = child.tagName();
+                const QString label = labelOf(child, tag);
+                children.append({child, {tag, label, counts.next(tag, label)}});
+            } else if (node.isText()) {
+                text += node.nodeValue();
+            }
+        }
+        if (!text.isEmpty()) {
+            compareValue(read, {}, text, textOf(written));
+        }
+        if (written.isNull() && isBare(read) && !standsOtherwise(read)) {
+            lose({}, {});
+        }
+        if (!children.isEmpty() && !compareInOrder(children, written)) {
+            compareLines(children, written);
+        }
+    }
+
+    static QString labelOf(const QDomElement &child, const QString &tag)
+    {
+        return tag == rowTag ? child.attribute(labelName) : QString();
     }
 
     // In the outermost element, where several children have a tag, a reader takes the first that has children of its
     // own for some values and the first that has none for others, and a writer may put them the other way round.
-    QString lineOf(const QDomElement &child, const QString &label) const
+    QString lineOf(const QDomElement &child, const QString &tag, const QString &label) const
     {
-        QString line = child.tagName();
+        QString line = tag;
         if (!label.isEmpty()) {
             line += QLatin1Char(' ') + label;
         } else if (m_steps.isEmpty() && !child.hasChildNodes()) {
@@ -172,54 +191,44 @@ private:
         }
     }
 
-    void compareChildren(const QDomElement &read, const QDomElement &written)
+    // The written element has the same children in the same order, and perhaps some behind them, in most cases. False
+    // where it hasn't; then nothing is compared.
+    bool compareInOrder(const QVector<Child> &children, const QDomElement &written)
     {
-        if (!hasSameChildren(read, written)) {
-            compareLines(read, written);
-            return;
-        }
-        Counts counts;
+        QVector<QDomElement> partners;
+        partners.reserve(children.size());
         QDomElement partner = written.firstChildElement();
-        for (QDomElement child = read.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-            const QString label = labelOf(child);
-            compareChild(child, partner, {child.tagName(), label, counts.next(child.tagName(), label)});
-            partner = partner.nextSiblingElement();
-        }
-    }
-
-    // True if the written element has the same children in the same order, and perhaps some behind them, as it has in
-    // most cases.
-    static bool hasSameChildren(const QDomElement &read, const QDomElement &written)
-    {
-        QDomElement partner = written.firstChildElement();
-        for (QDomElement child = read.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-            if (child.tagName() != partner.tagName() || child.hasChildNodes() != partner.hasChildNodes()
-                || labelOf(child) != labelOf(partner)) {
+        for (const Child &child : children) {
+            const QString tag = partner.tagName();
+            if (child.step.tag != tag || child.step.label != labelOf(partner, tag)
+                || child.element.hasChildNodes() != partner.hasChildNodes()) {
                 return false;
             }
+            partners.append(partner);
             partner = partner.nextSiblingElement();
+        }
+        for (int i = 0; i < children.size(); ++i) {
+            compareChild(children.at(i), partners.at(i));
         }
         return true;
     }
 
-    void compareLines(const QDomElement &read, const QDomElement &written)
+    void compareLines(const QVector<Child> &children, const QDomElement &written)
     {
         QVector<Line> lines;
         QHash<QString, int> indexes;
-        Counts counts;
-        for (QDomElement child = read.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-            const QString label = labelOf(child);
-            int &index = indexes[lineOf(child, label)]; // from 1 on
+        for (const Child &child : children) {
+            int &index = indexes[lineOf(child.element, child.step.tag, child.step.label)]; // from 1 on
             if (index == 0) {
                 lines.append(Line());
                 index = lines.size();
             }
             lines[index - 1].read.append(child);
-            lines[index - 1].counts.append(counts.next(child.tagName(), label));
         }
         QDomElement partner = written.firstChildElement();
         for (; !partner.isNull(); partner = partner.nextSiblingElement()) {
-            const int index = indexes.value(lineOf(partner, labelOf(partner)));
+            const QString tag = partner.tagName();
+            const int index = indexes.value(lineOf(partner, tag, labelOf(partner, tag)));
             if (index > 0) {
                 lines[index - 1].written.append(partner);
             }
@@ -235,14 +244,12 @@ private:
         int missing = qMax(0, line.read.size() - line.written.size());
         int next = 0;
         for (int i = 0; i < line.read.size(); ++i) {
-            const QDomElement &read = line.read.at(i);
-            const Step step{read.tagName(), labelOf(read), line.counts.at(i)};
             const QDomElement partner = line.written.value(next);
             if (missing > 0 && isRatherALaterOne(line, i, partner, missing)) {
-                compareChild(read, {}, step);
+                compareChild(line.read.at(i), {});
                 --missing;
             } else {
-                compareChild(read, partner, step);
+                compareChild(line.read.at(i), partner);
                 ++next;
             }
         }
@@ -250,21 +257,21 @@ private:
 
     static bool isRatherALaterOne(const Line &line, int place, const QDomElement &partner, int missing)
     {
-        if (partner.isNull() || looksLike(line.read.at(place), partner)) {
+        if (partner.isNull() || looksLike(line.read.at(place).element, partner)) {
             return false;
         }
         for (int i = 1; i <= qMin(missing, furthestPartner); ++i) {
-            if (looksLike(line.read.at(place + i), partner)) {
+            if (looksLike(line.read.at(place + i).element, partner)) {
                 return true;
             }
         }
         return false;
     }
 
-    void compareChild(const QDomElement &read, const QDomElement &written, const Step &step)
+    void compareChild(const Child &child, const QDomElement &written)
     {
-        m_steps.append(step);
-        compare(read, written);
+        m_steps.append(child.step);
+        compare(child.element, written);
         m_steps.removeLast();
     }
 
