@@ -51,7 +51,8 @@ private:
         const std::clock_t start = std::clock();
         QString message;
         try {
-            const auto reader = openLesson(lesson);
+            LossReport losses;
+            const auto reader = openLesson(lesson, &losses);
             const QJsonObject keys = reader->presentation();
             if (presentation) {
                 *presentation = keys;
@@ -304,6 +305,31 @@ private slots:
             "document type");
         row("a million elements", "in/slides/1.xml",
             QByteArray("<slide>" + QByteArray("<a/>").repeated(1000000) + "</slide>"), "");
+        // What is carried is looked for name by name, place by place and level by level.
+        const auto many = [](const char *before, const char *behind, int count) {
+            QByteArray text;
+            for (int i = 0; i < count; ++i) {
+                text += before + QByteArray::number(i) + behind;
+            }
+            return text;
+        };
+        const auto stroke = [](const QByteArray &attributes, const QByteArray &children) -> QByteArray {
+            return "<slide id=\"1\"><items><stroke type=\"Curve\" id=\"1\"" + attributes + ">" + children
+                + "</stroke></items></slide>";
+        };
+        row("a stroke of 900 attributes", "in/slides/1.xml", stroke(many(" a", "=\"1\"", 900), {}), "");
+        row("a stroke of 30,000 tags", "in/slides/1.xml", stroke({}, many("<a", " b=\"1\"/>", 30000)), "");
+        row("a stroke of 30,000 rows", "in/slides/1.xml",
+            stroke({}, "<properties>" + many("<property name=\"", "\" value=\"1\"/>", 30000) + "</properties>"), "");
+        row("20,000 values 1,000 levels down", "in/slides/1.xml",
+            stroke({},
+                   QByteArray("<a>").repeated(1000) + many("<b c=\"", "\"/>", 20000)
+                       + QByteArray("</a>").repeated(1000)),
+            "");
+        row("a raw picture of 900 attributes", "in.xml",
+            "<presentation><slide><ZQImagePic" + many(" a", "=\"1\"", 900) + "/></slide></presentation>", "");
+        row("an object of 60,000 names and as many again", "in.json",
+            "{\"Slides\": [{" + many("\"", "\":1,", 60000) + many("\"", "\":2,", 60000) + "\"z\": 0}]}", "");
         row("a million groups that end nowhere", "in/slides/1.xml",
             QByteArray("<slide>" + QByteArray("<a>").repeated(1000000)), "deeper");
     }

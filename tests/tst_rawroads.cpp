@@ -49,6 +49,8 @@ private slots:
         // 2 cos 30 * 1.40625 = 2.43570, 2 sin 30 * 1.40625 = 1.40625.
         row("a picture keeps its turn", "<ZQImagePic TransformMatrix='1.73205,1,-1,1.73205,0,0' Bound='2,1,0,0,0,0'/>",
             "{'BoundingBox':'0,0,2,1','Matrix':'2.4356953125,1.40625,-1.40625,2.4356953125,0,0'}");
+        row("and which way round it is", "<ZQImagePic TransformMatrix='2,0,0,-2,0,0' Bound='2,1,0,0,0,0'/>",
+            "{'BoundingBox':'0,0,2,1','Matrix':'2.8125,0,0,-2.8125,0,0'}");
     }
 
     // Sanitizers see what goes wrong where such numbers become whole ones.
@@ -70,6 +72,55 @@ private slots:
         const auto reader = openLesson(putLesson(item));
         const QJsonObject found = reader->slide(0).items.first().toObject();
         QCOMPARE(differences(found, expected), QString());
+    }
+
+    void whatDoesNotReachTheModelIsTold_data()
+    {
+        const Table<QByteArray, QString> row("item", "lost");
+        row("flags", "<ZQImagePic Visible='true' LockIn='2' InfiniteClone='+1'/>", "@LockIn: 2, @Visible: true");
+        row("an enlarged picture that is mirrored",
+            "<ZQImagePic Bound='80,40,0,0,10,10' TransformMatrix='2,0,0,-2,300,50'/>", "");
+        row("an enlarged picture, in its box", "<ZQImagePic Bound='80,40,0,0,10,10' TransformMatrix='2,0,0,2,300,50'/>",
+            "");
+        row("numbers of a place that are none",
+            "<ZQImagePic Bound='80,40,5,6,10,10' TransformMatrix='1,0,0,abc,300,50'/>",
+            "@Bound: 80,40,5,6,10,10, @TransformMatrix: 1,0,0,abc,300,50");
+        row("colours that are none", "<ZQSmoothStroke Color='9,1,2,300' Opacity='300' Width='3[ ,]'/>",
+            "@Color: 9,1,2,300, @Opacity: 300");
+        row("a second list, and what is in a row of the first",
+            "<ZQSmoothStroke><PixelDeleteInfos><P a='1'><Q b='2'/></P><P a='3'/></PixelDeleteInfos><PixelDeleteInfos>"
+            "<P a='4'/></PixelDeleteInfos></ZQSmoothStroke>",
+            "PixelDeleteInfos/P/Q@b: 2, PixelDeleteInfos[2]/P@a: 4");
+        row("keys of other names", "<ZQMath2DNewArc StartAngle='30.5' SweepAngle='x' CenterPtX='5' LineWidth='3'/>",
+            "@SweepAngle: x");
+        row("control points",
+            "<ZQMath2DCircle Discipline_xControl0='1.1' Discipline_yControl0='b' "
+            "Discipline_xControl2='1'><ArtObj_Color r='300' g='2' FileType='4'/></ZQMath2DCircle>",
+            "@Discipline_xControl2: 1, @Discipline_yControl0: b, ArtObj_Color@r: 300");
+        row("an inner matrix",
+            "<ZQVectorXinxing ArtInner_Zoom='2' ArtInner_Rotate='30' ArtInner_HorzFlip='1' "
+            "ArtInner_VertFlip='2'><ArtVectObj_Manager "
+            "a='1'><ArtVectObj_Path0/></ArtVectObj_Manager></ZQVectorXinxing>",
+            "@ArtInner_VertFlip: 2");
+        row("what a key sets", "<ZQLiteratureYinbiao ArtObj_WriteDanci='0'/>", "@ArtObj_WriteDanci: 0");
+        row("a second list of sons",
+            "<ZQGroupItem><GroupSonItems q='1'><ZQTextBoard/></GroupSonItems><GroupSonItems>"
+            "<ZQTextBoard NetID='7'/></GroupSonItems></ZQGroupItem>",
+            "GroupSonItems@q: 1, GroupSonItems[2]/ZQTextBoard@NetID: 7");
+    }
+
+    void whatDoesNotReachTheModelIsTold()
+    {
+        QFETCH(QByteArray, item);
+        QFETCH(QString, lost);
+        LossReport losses;
+        openLesson(putLesson(item), &losses)->slide(0);
+        QStringList found;
+        for (const Loss &loss : losses.entries()) {
+            found.append(loss.key + ": " + loss.detail);
+        }
+        found.sort();
+        QCOMPARE(found.join(", "), lost);
     }
 
     // What an item draws is the same whether its matrix goes to the page directly or into the box of a package first.

@@ -5,31 +5,43 @@
 #include "files/packagetarget.h"
 #include "files/workfolder.h"
 #include "formats/jsonindex.h"
+#include "lesson/itemkeys.h"
 #include "lesson/slidelimits.h"
+#include "losses/jsontext.h"
+#include "losses/lossreport.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QSet>
 
 namespace lessonhost {
 
 namespace {
 
 const QLatin1String itemsKey("Items");
+constexpr int longestDetail = 60;
 // A multiple of three, so that the base64 texts of chunks follow on each other.
 constexpr qint64 chunkSize = qint64(3) * 64 * 1024;
 
 class JsonReader : public LessonReader
 {
 public:
-    explicit JsonReader(const QString &path)
-        : m_path(path)
+    JsonReader(const QString &path, const LessonContext &context)
+        : m_context(context)
+        , m_path(path)
         , m_index(path)
     {
         QVector<QPair<QString, QJsonValue>> members;
         for (const auto &member : qAsConst(m_index.members)) {
             members.append({member.first, m_index.value(member.second)});
+            if (isChecking()) {
+                const JsonPath place{{member.first.toUtf8(), 0}};
+                eachUnheldValue(m_index.source(member.second), [&](const JsonPath &path, const QByteArray &value) {
+                    tell(0, QStringLiteral("presentation"), {}, jsonPathText(place + path), value);
+                });
+            }
         }
         m_presentation = jsonObject(members);
         for (const auto &resource : qAsConst(m_index.resources)) {
@@ -67,6 +79,12 @@ public:
             }
         }
         checkSlideItems(slide.items, index + 1, m_path);
+        if (isChecking() && !m_checked.contains(index)) {
+            m_checked.insert(index);
+            eachUnheldValue(m_index.source(range), [&](const JsonPath &path, const QByteArray &value) {
+                tellOfSlide(index + 1, slide, path, value);
+            });
+        }
         return slide;
     }
 
@@ -108,8 +126,35 @@ public:
     }
 
 private:
+    bool isChecking() const { return m_context.verify && m_context.losses; }
+
+    void tell(int slide, const QString &type, const QString &id, const QString &key, const QByteArray &value)
+    {
+        m_context.losses->add({Loss::Value, slide, type, id, key, QString::fromUtf8(value.left(longestDetail))});
+    }
+
+    // A value within an item is that item's own.
+    void tellOfSlide(int number, const LessonSlide &slide, const JsonPath &path, const QByteArray &value)
+    {
+        QJsonObject item;
+        int step = 0;
+        QJsonArray items = slide.items;
+        QByteArray list = QByteArrayLiteral("Items");
+        while (step + 2 < path.size() && path.at(step).name == list) {
+            item = items.at(path.at(step + 1).index).toObject();
+            items = item.value(HostKeys::children).toArray();
+            list = QByteArrayLiteral("Children");
+            step += 2;
+        }
+        const QJsonObject owner = step > 0 ? item : slide.properties;
+        const QString type = step > 0 ? item.value(QLatin1String("Type")).toString() : QStringLiteral("slide");
+        tell(number, type, owner.value(QLatin1String("ID")).toString(), jsonPathText(path, step), value);
+    }
+
+    LessonContext m_context;
     QString m_path;
     JsonIndex m_index;
+    QSet<int> m_checked;
     QJsonObject m_presentation;
     QHash<QString, JsonIndex::Range> m_resources;
     std::unique_ptr<WorkFolder> m_folder;
@@ -228,8 +273,8 @@ LessonFormat jsonFormat()
     format.name = QStringLiteral("json");
     format.extensions = QStringList{QStringLiteral("json")};
     format.description = QStringLiteral("the lesson model in one file, with the files that belong to it inside");
-    format.open = [](const QString &path, const LessonContext &) -> std::unique_ptr<LessonReader> {
-        return std::make_unique<JsonReader>(path);
+    format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
+        return std::make_unique<JsonReader>(path, context);
     };
     format.create = [](const QString &path, const LessonContext &) -> std::unique_ptr<LessonWriter> {
         return std::make_unique<JsonWriter>(path);

@@ -38,6 +38,8 @@ public:
     QVector<QPair<QString, Range>> resources;
 
     QJsonValue value(const Range &range);
+    //! A value as it stands in the file.
+    QByteArray source(const Range &range) { return bytes(range.begin, range.end - range.begin); }
     //! The bytes of a text.
     QByteArray text(const Range &range);
 

@@ -4,6 +4,7 @@
 #include "lesson/isoneof.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
+#include "losses/attributes.h"
 
 #include <QColor>
 #include <QStringList>
@@ -34,7 +35,12 @@ QColor inkColor(const QString &text)
     return color;
 }
 
-// The plug-in works the matrix of an enlarged picture into its box and loses the turn of one that is turned, so that
+bool isTurned(const QTransform &matrix)
+{
+    return matrix.isRotating() || matrix.m11() < 0 || matrix.m22() < 0;
+}
+
+// The plug-in works the matrix of an enlarged picture into its box and loses how one is turned or mirrored, so that
 // goes back to the box and matrix that it came with.
 void keepTurn(QJsonObject &item, const QDomElement &element)
 {
@@ -42,7 +48,7 @@ void keepTurn(QJsonObject &item, const QDomElement &element)
     const auto fit = itemTransform(item.value(ItemKeys::slideMatrix));
     const auto left = itemTransform(item.value(ItemKeys::matrix));
     const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
-    if (own && fit && left && left->isIdentity() && own->isRotating() && !box.isEmpty()) {
+    if (own && fit && left && left->isIdentity() && isTurned(*own) && !box.isEmpty()) {
         item.insert(ItemKeys::matrix, transformText(*own * *fit));
         item.insert(ItemKeys::box, box);
     }
@@ -90,14 +96,11 @@ void RawAttributes::addInk(QJsonObject &item, const QDomElement &element) const
 void RawAttributes::addNamesakes(QJsonObject &item, const QDomElement &element)
 {
     const QString type = item.value(ItemKeys::type).toString();
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QDomAttr attribute = attributes.item(i).toAttr();
-        const QString key = attribute.name();
+    const auto attributes = attributesOf(element);
+    for (const auto &[key, value] : attributes) {
         const bool isInkOpacity = key == ItemKeys::opacity && item.contains(ItemKeys::color);
-        if (!item.contains(key) && !isInkOpacity && !attribute.value().isEmpty() && isKeyOfType(type, key)) {
-            const bool isReference = isOneOf(referenceKeys, key);
-            item.insert(key, isReference ? reference(attribute.value()) : attribute.value());
+        if (!item.contains(key) && !isInkOpacity && !value.isEmpty() && isKeyOfType(type, key)) {
+            item.insert(key, isOneOf(referenceKeys, key) ? reference(value) : value);
         }
     }
 }

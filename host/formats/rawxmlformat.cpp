@@ -6,6 +6,7 @@
 #include "files/xmlloader.h"
 #include "formats/keptitem.h"
 #include "formats/rawattributes.h"
+#include "formats/rawecho.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
@@ -18,7 +19,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>
 
@@ -38,20 +38,6 @@ const QLatin1String netId("NetID");
 // What a raw presentation says in attributes of its own; the plug-in reads none of them.
 constexpr const char *presentationAttributes[] = {"Width",  "Height", "Version",       "Version_app",
                                                   "Author", "Date",   "Date_modified", "Title"};
-
-// Identifiers that the plug-in makes up are new each time.
-QJsonObject withoutMadeUpId(const QDomElement &element, QJsonObject object)
-{
-    if (!element.hasAttribute(netId)) {
-        object.remove(idKey);
-    }
-    const QLatin1String script("objAnimationData");
-    if (object.contains(script)) {
-        static const QRegularExpression actionIndex(QStringLiteral("\"actionIndex\": \"[0-9]*\""));
-        object.insert(script, object.value(script).toString().remove(actionIndex));
-    }
-    return object;
-}
 
 // The plug-in finds the files of a list in the lesson's folder; a single file comes as the element names it.
 void findSingleFile(const QDomElement &element, QJsonObject &item)
@@ -87,6 +73,7 @@ public:
         , m_path(path)
         , m_document(loadXmlFile(path))
         , m_check(context.losses)
+        , m_echo(context.plugin)
         , m_attributes(context.plugin, resourceFolder + QLatin1Char('/'))
     {
         QDomElement root = m_document.documentElement();
@@ -108,12 +95,7 @@ public:
         m_presentation = readPresentation(root.cloneNode(true).toElement());
         setStableId(m_presentation, root);
         if (isChecking()) {
-            m_check.examine(rootTag, {}, root,
-                            [this](const QDomElement &changed) {
-                                const QDomElement copy = changed.cloneNode(true).toElement();
-                                return withoutMadeUpId(copy, readPresentation(copy));
-                            },
-                            {});
+            m_check.compare(rootTag, {}, root, m_echo.ofPresentation(root, m_presentation));
         }
         addPageSize();
     }
@@ -132,18 +114,14 @@ public:
         const QDomElement element = m_slides.at(index).cloneNode(true).toElement();
         const QVector<QDomElement> items = takeElements(element, element.firstChildElement());
         LessonSlide slide;
-        if (check) {
-            check->examine(slideTag, element.attribute(netId), element,
-                           [this](const QDomElement &changed) {
-                               const QDomElement copy = changed.cloneNode(true).toElement();
-                               return withoutMadeUpId(copy, m_context.plugin->tranSlideXML2JSON(copy, context()));
-                           },
-                           {});
-        }
         m_nextId = (index + 1) * idsOfSlide;
-        const QDomElement untouched = element.cloneNode(false).toElement();
+        const QDomElement untouched = element.cloneNode(true).toElement();
         slide.properties = m_context.plugin->tranSlideXML2JSON(element, context());
         setStableId(slide.properties, untouched);
+        if (check) {
+            check->compare(slideTag, untouched.attribute(netId), untouched,
+                           m_echo.ofSlide(untouched, slide.properties));
+        }
         QJsonObject itemContext = context();
         itemContext.insert(QStringLiteral("slide"), slide.properties);
         for (const QDomElement &item : items) {
@@ -232,8 +210,8 @@ private:
             sons = element.firstChildElement(groupSons);
             nested = takeElements(sons, sons.firstChildElement());
         }
-        QDomElement untouched = element.cloneNode(true).toElement();
-        untouched.removeChild(untouched.firstChildElement(groupSons));
+        // Reading takes the drawing out of a vector shape.
+        const QDomElement untouched = check ? element.cloneNode(true).toElement() : element;
         QJsonObject item = readSingle(element, context);
         if (item.isEmpty()) {
             for (const QDomElement &son : qAsConst(nested)) {
@@ -241,16 +219,12 @@ private:
             }
             return keptItem(element, element.tagName(), netId);
         }
-        if (check) {
-            check->examine(element.tagName(), item.value(idKey).toString(), untouched,
-                           [this, &context](const QDomElement &changed) {
-                               const QDomElement copy = changed.cloneNode(true).toElement();
-                               return withoutMadeUpId(copy, readSingle(copy, context));
-                           },
-                           {});
-        }
         setStableId(item, untouched);
         findSingleFile(untouched, item);
+        if (check) {
+            takeEmptied(untouched, groupSons);
+            check->compare(element.tagName(), item.value(idKey).toString(), untouched, m_echo.ofItem(untouched, item));
+        }
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
         QJsonArray children;
@@ -263,11 +237,21 @@ private:
         return item;
     }
 
+    // What held the items of a group and says nothing of its own.
+    static void takeEmptied(QDomElement group, const QString &tag)
+    {
+        const QDomElement child = group.firstChildElement(tag);
+        if (!child.hasAttributes() && !child.hasChildNodes()) {
+            group.removeChild(child);
+        }
+    }
+
     QJsonObject readSingle(const QDomElement &element, const QJsonObject &context)
     {
         QJsonObject item = m_context.plugin->tranItemXML2JSON(element, context);
         if (!item.isEmpty()) {
             m_attributes.addTo(item, element);
+            makeNumbersFinite(item);
         }
         return item;
     }
@@ -276,6 +260,7 @@ private:
     QString m_path;
     QDomDocument m_document;
     CarriedCheck m_check;
+    RawEcho m_echo;
     RawAttributes m_attributes;
     QSet<int> m_checked;
     QSet<QString> m_ids; // that the lesson has

@@ -74,10 +74,8 @@ public:
         LessonSlide slide;
         slide.properties = readProperties(root, context);
         if (check) {
-            check->examine(
-                slideTag, slide.properties.value(idKey).toString(), root,
-                [this, &context](const QDomElement &changed) { return readProperties(changed, context); },
-                [this, &slide] { return writeProperties(slide.properties).documentElement(); });
+            check->compare(slideTag, slide.properties.value(idKey).toString(), root,
+                           writeProperties(slide.properties).documentElement());
         }
         QJsonObject itemContext = context;
         itemContext.insert(QStringLiteral("slide"), slide.properties);
@@ -176,10 +174,8 @@ public:
         readSlideList(root);
         m_presentation = readIndex(context.plugin, root, location());
         if (isChecking()) {
-            m_check.examine(
-                QStringLiteral("presentation"), {}, root,
-                [this](const QDomElement &changed) { return readIndex(m_context.plugin, changed, location()); },
-                [this] { return writeIndex(m_context.plugin, m_presentation, {}).documentElement(); });
+            m_check.compare(QStringLiteral("presentation"), {}, root,
+                            writeIndex(m_context.plugin, m_presentation, {}).documentElement());
         }
         m_slides = std::make_unique<ZqtxSlides>(context.plugin, m_presentation);
     }

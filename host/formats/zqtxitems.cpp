@@ -8,9 +8,11 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemvalues.h"
+#include "lesson/strokeoffsets.h"
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
 
+#include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -19,8 +21,10 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String typeKey("Type");
+const QString typeAttribute = QStringLiteral("type");
 const QLatin1String attachmentsTag("attachments");
 const QLatin1String errorKey("error");
+const QLatin1String strokeKey("XY");
 const QLatin1String heldItemTag("item");
 const QLatin1String heldItemAttribute("json");
 
@@ -74,6 +78,17 @@ void keepIgnored(const QDomElement &element, const char *attribute, QLatin1Strin
     }
 }
 
+// The plug-in works out the steps of an old stroke in single precision.
+void readOldStroke(const QDomElement &element, QJsonObject &item)
+{
+    const QDomElement data = childWithContent(element, QStringLiteral("data"), true);
+    const QString offsets = data.firstChildElement(QStringLiteral("vertex")).attribute(QStringLiteral("points"));
+    const QString points = offsetsAsPoints(offsets);
+    if (!points.isEmpty()) {
+        item.insert(strokeKey, points);
+    }
+}
+
 // The picture for a wrong answer is written by the plug-in and not read.
 void readAttachmentError(const QDomElement &element, QJsonObject &item)
 {
@@ -86,21 +101,33 @@ void readAttachmentError(const QDomElement &element, QJsonObject &item)
     }
 }
 
-// Texts of a question that hold markup as elements: the markup becomes text, of which a read would leave only the
-// words.
-void readQuestionMarkup(const QDomElement &element, QJsonObject &item)
+// The markup of a question's text as text, where it stands as elements.
+QString questionMarkup(const QDomElement &part)
+{
+    QString markup;
+    for (QDomNode node = part.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        markup += node.isElement() ? xmlNodeText(node.toElement()) : escapedForXml(node.nodeValue());
+    }
+    return markup;
+}
+
+// Calls visit(part, tag) for each text of a question that holds markup as elements.
+template <typename Visit> void eachMarkupOfQuestion(const QDomElement &element, const Visit &visit)
 {
     QDomElement part = element.firstChildElement(QStringLiteral("data")).firstChildElement();
     for (const char *tag : {"R_Content_svg", "R_Answer_svg"}) {
         if (part.tagName() == QLatin1String(tag) && !part.firstChildElement().isNull()) {
-            QString markup;
-            for (QDomNode node = part.firstChild(); !node.isNull(); node = node.nextSibling()) {
-                markup += node.isElement() ? xmlNodeText(node.toElement()) : escapedForXml(node.nodeValue());
-            }
-            item.insert(QLatin1String(tag), markup);
+            visit(part, QLatin1String(tag));
         }
         part = part.nextSiblingElement();
     }
+}
+
+// A read would leave only the words.
+void readQuestionMarkup(const QDomElement &element, QJsonObject &item)
+{
+    eachMarkupOfQuestion(
+        element, [&item](const QDomElement &part, QLatin1String tag) { item.insert(tag, questionMarkup(part)); });
 }
 
 // The sizes of a question with all their digits; the plug-in writes six.
@@ -113,6 +140,41 @@ void writeQuestionNumbers(const QDomElement &element, const QJsonObject &written
             part.firstChild().setNodeValue(valueText(value));
         }
     }
+}
+
+// What a read changes is copied: it takes the drawing out of a vector shape, and the markup of a question out of its
+// elements.
+QDomElement untouchedByReading(const QDomElement &element)
+{
+    const QString type = element.attribute(typeAttribute);
+    if (type.startsWith(QLatin1String("Vector:")) || type.startsWith(QLatin1String("ZQVector"))) {
+        return element.cloneNode(true).toElement();
+    }
+    QDomElement result = element;
+    eachMarkupOfQuestion(
+        element, [&result](const QDomElement &, QLatin1String) { result = result.cloneNode(true).toElement(); });
+    eachMarkupOfQuestion(result, [](QDomElement part, QLatin1String) {
+        const QString markup = questionMarkup(part);
+        while (part.hasChildNodes()) {
+            part.removeChild(part.firstChild());
+        }
+        part.appendChild(part.ownerDocument().createTextNode(markup));
+    });
+    return result;
+}
+
+// Where ink has an opacity, it is read into its colour.
+void takeOpacityOutOfColor(const QDomElement &read, QDomElement &written)
+{
+    const QString opacity = QStringLiteral("opacity");
+    const QString color = QStringLiteral("color");
+    QColor found(written.attribute(color));
+    if (!read.hasAttribute(opacity) || written.hasAttribute(opacity) || !found.isValid()) {
+        return;
+    }
+    written.setAttribute(opacity, QString::number(found.alpha()));
+    found.setAlpha(QColor(read.attribute(color)).alpha());
+    written.setAttribute(color, found.name(QColor::HexArgb));
 }
 
 // Animations of other names than the three that the plug-in writes.
@@ -181,14 +243,18 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
 {
     const QJsonObject held = heldItem(element);
     if (!held.isEmpty()) {
+        if (check) {
+            compare(held, element, heldItemElement(held), *check);
+        }
         return held;
     }
     QDomElement data;
     QVector<QDomElement> nested;
-    if (isContainer(element.attribute(QStringLiteral("type")))) {
+    if (isContainer(element.attribute(typeAttribute))) {
         data = element.firstChildElement(QStringLiteral("data"));
         nested = takeNestedItems(element);
     }
+    const QDomElement untouched = check ? untouchedByReading(element) : QDomElement();
     QJsonObject item = readSingle(element, context);
     if (item.isEmpty()) {
         for (const QDomElement &child : qAsConst(nested)) {
@@ -198,10 +264,7 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
         return keptItem(element, type.isEmpty() ? element.tagName() : type, QStringLiteral("id"));
     }
     if (check) {
-        check->examine(
-            item.value(typeKey).toString(), item.value(QLatin1String("ID")).toString(), element,
-            [this, &context](const QDomElement &changed) { return readSingle(changed, context); },
-            [this, &item] { return writeSingle(item); });
+        compare(item, untouched, writeSingle(item), *check);
     }
     QJsonArray children;
     for (const QDomElement &child : qAsConst(nested)) {
@@ -213,9 +276,21 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
     return item;
 }
 
+void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomElement written,
+                        CarriedCheck &check) const
+{
+    const QString type = item.value(typeKey).toString();
+    if (read.attribute(typeAttribute) != written.attribute(typeAttribute)
+        && m_plugin->tranItemZQTX2JSON(written, {}).value(typeKey) == type) {
+        // Two names of one type.
+        written.setAttribute(typeAttribute, read.attribute(typeAttribute));
+    }
+    takeOpacityOutOfColor(read, written);
+    check.compare(type, item.value(QLatin1String("ID")).toString(), read, written);
+}
+
 QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &context) const
 {
-    const QString typeAttribute = QStringLiteral("type");
     const QString writtenType = QStringLiteral("Chemistry:expressions");
     const bool isUnknownAgain = element.attribute(typeAttribute) == writtenType;
     if (isUnknownAgain) {
@@ -232,10 +307,14 @@ QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &contex
     } else if (isFigure(type)) {
         keepIgnored(element, "controlpoints", QLatin1String("Control"), HostKeys::ignoredControl, item);
     }
+    if (m_majorVersion < 3 && item.contains(strokeKey)) {
+        readOldStroke(element, item);
+    }
     if (type == QLatin1String("ZQQuestionItem")) {
         readQuestionMarkup(element, item);
     }
     readAttachmentError(element, item);
+    makeNumbersFinite(item);
     return item;
 }
 

@@ -30,6 +30,7 @@ public:
 private:
     QJsonObject readSingle(QDomElement element, const QJsonObject &context) const;
     QDomElement writeSingle(const QJsonObject &item) const;
+    void compare(const QJsonObject &item, const QDomElement &read, QDomElement written, CarriedCheck &check) const;
     void addMissingPlaces(QDomElement &element, const QJsonObject &written) const;
 
     IZQTransformation *m_plugin;

@@ -22,4 +22,15 @@ ItemPlace placeUnder(const QTransform &matrix, const QRectF &box)
     return {QRectF(corner, size), std::atan2(matrix.m12(), matrix.m11())};
 }
 
+ItemPlace uprightUnder(const QTransform &matrix, const QRectF &box)
+{
+    if (matrix.determinant() >= 0) {
+        return placeUnder(matrix, box);
+    }
+    const QPointF center = box.center();
+    const QTransform mirror =
+        matrix.m11() < 0 ? QTransform(-1, 0, 0, 1, 2 * center.x(), 0) : QTransform(1, 0, 0, -1, 0, 2 * center.y());
+    return placeUnder(mirror * matrix, box);
+}
+
 } // namespace lessonhost

@@ -22,6 +22,10 @@ struct ItemPlace
 //! is lost, and which way round it is.
 ItemPlace placeUnder(const QTransform &matrix, const QRectF &box);
 
+//! The same for what has an upper side: under a matrix that mirrors, it stands the way round that turns it least, so that
+//! a picture with left and right exchanged isn't upside down as well.
+ItemPlace uprightUnder(const QTransform &matrix, const QRectF &box);
+
 } // namespace lessonhost
 
 #endif // ITEMPLACE_H

@@ -116,6 +116,29 @@ QString valueText(const QJsonValue &value)
     }
 }
 
+void makeNumbersFinite(QJsonObject &item)
+{
+    const auto isInfinite = [](const QJsonValue &value) { return value.isDouble() && !qIsFinite(value.toDouble()); };
+    for (auto it = item.begin(); it != item.end(); ++it) {
+        const QJsonValue value = it.value();
+        if (isInfinite(value)) {
+            it.value() = 0;
+        } else if (value.isArray()) {
+            QJsonArray array = value.toArray();
+            if (std::any_of(array.constBegin(), array.constEnd(), isInfinite)) {
+                std::replace_if(array.begin(), array.end(), isInfinite, QJsonValue(0));
+                it.value() = array;
+            }
+        } else if (value.isObject()) {
+            QJsonObject object = value.toObject();
+            if (std::any_of(object.constBegin(), object.constEnd(), isInfinite)) {
+                std::replace_if(object.begin(), object.end(), isInfinite, QJsonValue(0));
+                it.value() = object;
+            }
+        }
+    }
+}
+
 QStringList numberParts(const QString &text)
 {
     QStringList parts = text.split(QLatin1Char(','));

@@ -43,6 +43,9 @@ std::optional<QColor> itemColor(const QJsonValue &value);
 //! The colour of a slide's BackColor: the number 0xRRGGBB or its text, or what itemColor() knows.
 std::optional<QColor> backColor(const QJsonValue &value);
 
+//! Puts 0 in the place of numbers that JSON can't hold, among values of their own and in lists and colours.
+void makeNumbersFinite(QJsonObject &item);
+
 //! The parts of a text with commas between; a comma at the end stands before none.
 QStringList numberParts(const QString &text);
 

@@ -41,7 +41,7 @@ std::optional<ItemPlace> ItemView::place() const
         return std::nullopt;
     }
     const auto under = matrix();
-    return under ? placeUnder(*under, *own) : ItemPlace{*own, angle()};
+    return under ? uprightUnder(*under, *own) : ItemPlace{*own, angle()};
 }
 
 double ItemView::scale() const

@@ -3,52 +3,57 @@
 #include "lesson/itemvalues.h"
 
 #include <QStringList>
-#include <QVector>
 
 #include <cmath>
-#include <limits>
 
 namespace lessonhost {
 
 namespace {
 
-QString sixDigits(float number)
-{
-    return QString::number(double(number), 'g', 6);
-}
+constexpr int digitsOfOffset = 15;
+// Steps as short as the plug-in's where they are exact.
+constexpr int fewestDigits = 6;
+constexpr int mostDigits = 17;
+// Of the numbers that a sum is made of.
+constexpr double roundingError = 2e-15;
 
 /*!
- * One coordinate of a stroke on its way from steps to offsets. It follows what a reader does in single precision, so
- * that errors don't add up along the stroke.
+ * One coordinate along a stroke, as the sum of the steps so far.
  */
-class OffsetTrack
+class Track
 {
 public:
-    explicit OffsetTrack(float origin)
-        : m_origin(origin)
-        , m_previous(origin)
+    QString offsetAfter(double step)
     {
+        m_offset = sum(step);
+        return QString::number(m_offset, 'g', digitsOfOffset);
     }
 
-    QString offset(float step)
+    QString stepTo(double offset)
     {
-        const float wanted = m_previous + step;
-        const float near = wanted - m_origin;
-        const float limit = std::numeric_limits<float>::infinity();
-        float offset = near;
-        for (const float candidate : {near, std::nextafter(near, limit), std::nextafter(near, -limit)}) {
-            if (sixDigits(candidate + m_origin - m_previous) == sixDigits(step)) {
-                offset = candidate;
+        QString text;
+        double reached = m_offset;
+        const double error = roundingError * (std::abs(m_offset) + std::abs(offset));
+        for (int digits = fewestDigits; digits <= mostDigits; ++digits) {
+            text = QString::number(offset - m_offset, 'g', digits);
+            reached = sum(text.toDouble());
+            if (std::abs(reached - offset) <= error) {
                 break;
             }
         }
-        m_previous = offset + m_origin;
-        return QString::number(double(offset), 'g', 9);
+        m_offset = reached;
+        return text;
     }
 
 private:
-    float m_origin;
-    float m_previous;
+    // What is left of two numbers that cancel each other out is their rounding.
+    double sum(double step) const
+    {
+        const double result = m_offset + step;
+        return std::abs(result) <= 2 * roundingError * (std::abs(m_offset) + std::abs(step)) ? 0 : result;
+    }
+
+    double m_offset = 0;
 };
 
 } // namespace
@@ -59,15 +64,33 @@ QString pointsAsOffsets(const QString &steps)
     if (parts.size() < 4) {
         return steps;
     }
-    const QVector<float> numbers = singleNumbers(steps);
-    OffsetTrack x(numbers.at(0));
-    OffsetTrack y(numbers.at(1));
+    Track x;
+    Track y;
     QStringList offsets{parts.at(0), parts.at(1)};
-    for (int i = 2; i + 1 < numbers.size(); i += 2) {
-        offsets.append(x.offset(numbers.at(i)));
-        offsets.append(y.offset(numbers.at(i + 1)));
+    for (int i = 2; i + 1 < parts.size(); i += 2) {
+        offsets.append(x.offsetAfter(parts.at(i).toDouble()));
+        offsets.append(y.offsetAfter(parts.at(i + 1).toDouble()));
     }
     return offsets.join(QLatin1Char(','));
+}
+
+QString offsetsAsPoints(const QString &offsets)
+{
+    const QStringList parts = numberParts(offsets);
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        if (!std::isfinite(part.toDouble(&isNumber)) || !isNumber) {
+            return {};
+        }
+    }
+    Track x;
+    Track y;
+    QStringList points = parts.mid(0, 2);
+    for (int i = 2; i + 1 < parts.size(); i += 2) {
+        points.append(x.stepTo(parts.at(i).toDouble()));
+        points.append(y.stepTo(parts.at(i + 1).toDouble()));
+    }
+    return points.join(QLatin1Char(','));
 }
 
 } // namespace lessonhost

@@ -5,9 +5,15 @@
 
 namespace lessonhost {
 
-//! The steps between a stroke's points, as the model has them, as offsets from the first point, as lessons older than
-//! version 3 store them. The offsets are chosen such that reading gives the same steps again.
+// The model has the first point of a stroke and the steps from each point to the next; lessons older than version 3
+// store each point by its offset from the first. Both are numbers with commas between, x and y in turn, and go into
+// each other without errors that add up along the stroke: fifteen digits of each offset are the same again.
+
+//! A part that is no number counts as 0.
 QString pointsAsOffsets(const QString &steps);
+
+//! Nothing for a text with a part that is no number. A single number at the end is left out.
+QString offsetsAsPoints(const QString &offsets);
 
 } // namespace lessonhost
 

@@ -273,7 +273,8 @@ QJsonObject writableItem(const QJsonObject &item, int majorVersion)
             it.value() = asciiJson(value.toArray());
         } else if (key == ItemKeys::steps && majorVersion < 3) {
             it.value() = pointsAsOffsets(valueText(value));
-        } else if (!isQuestion || !isQuestionNumber(key)) {
+        } else if (!value.isString() && !(isQuestion && isQuestionNumber(key))) {
+            // To store a text again is dear.
             it.value() = plainValue(value);
         }
     }

@@ -1,8 +1,11 @@
 #include "losses/carriedcheck.h"
 
+#include "losses/attributes.h"
+#include "losses/equivalence.h"
 #include "losses/lossreport.h"
 
-#include <QSet>
+#include <QHash>
+#include <QVector>
 
 #include <algorithm>
 
@@ -10,26 +13,18 @@ namespace lessonhost {
 
 namespace {
 
-// Deeper than this, elements are told apart by their tags alone: lists of points, nodes and texts repeat there.
-constexpr int numberedDepth = 2;
-constexpr int distinctDepth = 8;
-constexpr int distinctSiblings = 3;
-constexpr int distinctData = 10;
 constexpr int longestDetail = 60;
+// Longer ways to a value are told by their two ends, longer names as well: places are told for each value of a deep
+// tree.
+constexpr int toldSteps = 64;
+constexpr int longestName = 200;
+// How far a list is looked through for the next element that came through.
+constexpr int furthestPartner = 8;
+// An element of more attributes is known from another by its text alone.
+constexpr int comparedAttributes = 100;
 
-// Kinds that have no number: an attribute, a row of a list of properties, and what is deeper than distinctDepth.
-constexpr int attributeMark = -1;
-constexpr int rowMark = -2;
-constexpr int deepMark = -3;
-
-QString withoutDigits(const QString &tag)
-{
-    int end = tag.size();
-    while (end > 1 && tag.at(end - 1).isDigit()) {
-        --end;
-    }
-    return tag.left(end);
-}
+const QLatin1String rowTag("property");
+const QLatin1String labelName("name");
 
 QString textOf(const QDomElement &element)
 {
@@ -42,166 +37,284 @@ QString textOf(const QDomElement &element)
     return text;
 }
 
-// What decides beside the type how the values of an element are read: the kind of a slide's game, and the order of what
-// an item's data holds.
-QString formOf(const QDomElement &element)
+bool isBare(const QDomElement &element)
 {
-    const QDomElement activity = element.firstChildElement(QStringLiteral("activity"));
-    QString form = QLatin1Char(' ') + activity.attribute(QStringLiteral("type")) + QLatin1Char(' ');
-    QDomElement child = element.firstChildElement(QStringLiteral("data")).firstChildElement();
-    for (int i = 0; i < distinctData && !child.isNull(); ++i, child = child.nextSiblingElement()) {
-        form += child.tagName() + QLatin1Char(' ');
-    }
-    return form;
+    return !element.hasAttributes() && !element.hasChildNodes();
 }
 
-// Calls visit(child, step) for each child element.
-template <typename Visit> void eachChild(const QDomElement &element, const Visit &visit)
+// True if an element has nothing of its own that another lacks; its children are not looked at.
+bool looksLike(const QDomElement &element, const QDomElement &other)
 {
-    QHash<QString, int> counts;
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QString tag = child.tagName();
-        const bool isRow = tag == QLatin1String("property");
-        visit(child,
-              CarriedCheck::Step{tag, isRow ? child.attribute(QStringLiteral("name")) : QString(), ++counts[tag], -1});
+    if (textOf(element) != textOf(other)) {
+        return false;
     }
-}
-
-QString textOf(const CarriedCheck::Step &step, bool isFirst)
-{
-    const QString end = !step.row.isEmpty() ? QString(QLatin1Char('[') + step.row + QLatin1Char(']'))
-        : step.count > 1                    ? QStringLiteral("[%1]").arg(step.count)
-                                            : QString();
-    return (isFirst ? QString() : QStringLiteral("/")) + step.tag + end;
-}
-
-// Calls visit(attribute, text) for each value of the element's own: its attributes, and its text, an empty one where it
-// stands alone.
-template <typename Visit> void eachValue(const QDomElement &element, bool isOutermost, const Visit &visit)
-{
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QDomNode attribute = attributes.item(i);
-        if (!attribute.nodeValue().isEmpty()) {
-            visit(attribute.nodeName(), attribute.nodeValue());
-        }
+    if (element.attributes().count() > comparedAttributes) {
+        return true;
     }
-    const QString text = textOf(element);
-    if (!text.isEmpty() || (!isOutermost && attributes.isEmpty() && !element.hasChildNodes())) {
-        visit(QString(), text);
-    }
+    const auto attributes = attributesOf(element);
+    return std::all_of(attributes.cbegin(), attributes.cend(), [&other](const QPair<QString, QString> &attribute) {
+        return other.attribute(attribute.first) == attribute.second;
+    });
 }
 
 /*!
- * Another value in the place of one, until the object goes.
+ * One element and what was written of it, with the way from the outermost element to where the two are compared.
  */
-class Replacement
+class Comparing
 {
 public:
-    // other: null takes the value away.
-    Replacement(const QDomElement &element, const QString &attribute, const QString &text, const QString &other)
-        : m_element(element)
-        , m_attribute(attribute)
-        , m_text(text)
+    Comparing(LossReport *losses, const Loss &owner, const QDomElement &read, const QDomElement &written)
+        : m_losses(losses)
+        , m_owner(owner)
+        , m_written(written)
     {
-        if (!attribute.isEmpty()) {
-            if (other.isNull()) {
-                m_element.removeAttribute(attribute);
-            } else {
-                m_element.setAttribute(attribute, other);
-            }
-        } else if (text.isEmpty() && other.isNull()) {
-            m_parent = m_element.parentNode();
-            m_next = m_element.nextSibling();
-            m_parent.removeChild(m_element);
-        } else {
-            replaceText(other);
-        }
+        compare(read, written);
     }
-    ~Replacement()
-    {
-        if (!m_attribute.isEmpty()) {
-            m_element.setAttribute(m_attribute, m_text);
-        } else if (!m_parent.isNull()) {
-            m_next.isNull() ? m_parent.appendChild(m_element) : m_parent.insertBefore(m_element, m_next);
-        } else {
-            m_element.removeChild(m_newText);
-            for (const QDomNode &child : qAsConst(m_children)) {
-                m_element.appendChild(child);
-            }
-        }
-    }
-    Replacement(const Replacement &) = delete;
-    Replacement &operator=(const Replacement &) = delete;
 
 private:
-    void replaceText(const QString &text)
+    struct Step
     {
-        for (QDomNode child = m_element.firstChild(); !child.isNull(); child = child.nextSibling()) {
-            m_children.append(child);
+        QString tag;
+        QString label; // of a row in a list of properties
+        int count; // how many of the tag, or rows of the label, there are up to this one
+    };
+
+    struct Child
+    {
+        QDomElement element;
+        Step step;
+    };
+
+    // Children of one parent that stand for each other by their order: those of a tag, rows those of a label.
+    struct Line
+    {
+        QVector<Child> read;
+        QVector<QDomElement> written;
+    };
+
+    /*!
+     * How many of a tag, or rows of a label, have come up.
+     */
+    class Counts
+    {
+    public:
+        int next(const QString &tag, const QString &label)
+        {
+            const QString name = label.isEmpty() ? tag : QString(tag + QLatin1Char(' ') + label);
+            if (name != m_last) {
+                m_counts[m_last] = m_count;
+                m_last = name;
+                m_count = m_counts.value(name);
+            }
+            return ++m_count;
         }
-        for (const QDomNode &child : qAsConst(m_children)) {
-            if (child.isText()) {
-                m_element.removeChild(child);
+
+    private:
+        QHash<QString, int> m_counts; // of all but the last name
+        QString m_last;
+        int m_count = 0;
+    };
+
+    void compare(const QDomElement &read, const QDomElement &written)
+    {
+        compareAttributes(read, written);
+        QString text;
+        QVector<Child> children;
+        Counts counts;
+        for (QDomNode node = read.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (node.isElement()) {
+                const QDomElement child = node.toElement();
+                const QString tag = child.tagName();
+                const QString label = labelOf(child, tag);
+                children.append({child, {tag, label, counts.next(tag, label)}});
+            } else if (node.isText()) {
+                text += node.nodeValue();
             }
         }
         if (!text.isEmpty()) {
-            m_newText = m_element.appendChild(m_element.ownerDocument().createTextNode(text));
+            compareValue(read, {}, text, textOf(written));
+        }
+        if (written.isNull() && isBare(read) && !standsOtherwise(read)) {
+            lose({}, {});
+        }
+        if (!children.isEmpty() && !compareInOrder(children, written)) {
+            compareLines(children, written);
         }
     }
 
-    QDomElement m_element;
-    QString m_attribute;
-    QString m_text;
-    QDomNode m_parent; // of an element that is taken away
-    QDomNode m_next;
-    QVector<QDomNode> m_children; // as they were, where the text is replaced
-    QDomNode m_newText;
-};
-
-/*!
- * The values of an element in some places. Only the ways to these are gone.
- */
-class ValuesInPlaces
-{
-public:
-    void addPlace(const QStringList &path)
+    static QString labelOf(const QDomElement &child, const QString &tag)
     {
-        int place = 0;
-        for (const QString &step : path) {
-            int &next = m_places[{place, step}];
-            next = next ? next : m_places.size();
-            place = next;
-        }
+        return tag == rowTag ? child.attribute(labelName) : QString();
     }
 
-    void find(const QDomElement &element, int place = 0)
+    // In the outermost element, where several children have a tag, a reader takes the first that has children of its
+    // own for some values and the first that has none for others, and a writer may put them the other way round.
+    QString lineOf(const QDomElement &child, const QString &tag, const QString &label) const
     {
-        eachValue(element, place == 0, [this, place](const QString &attribute, const QString &text) {
-            const int at = attribute.isEmpty() ? place : m_places.value({place, QLatin1Char('@') + attribute}, -1);
-            m_texts.insert({at, text});
-        });
-        eachChild(element, [this, place](const QDomElement &child, const CarriedCheck::Step &step) {
-            const auto next = m_places.constFind({place, textOf(step, place == 0)});
-            if (next != m_places.constEnd()) {
-                find(child, *next);
+        QString line = tag;
+        if (!label.isEmpty()) {
+            line += QLatin1Char(' ') + label;
+        } else if (m_steps.isEmpty() && !child.hasChildNodes()) {
+            line += QLatin1Char('/');
+        }
+        return line;
+    }
+
+    // A child of the outermost element is also there if the written one has something in it.
+    bool standsOtherwise(const QDomElement &read) const
+    {
+        return m_steps.isEmpty() || (m_steps.size() == 1 && !m_written.firstChildElement(read.tagName()).isNull());
+    }
+
+    void compareAttributes(const QDomElement &read, const QDomElement &written)
+    {
+        const bool isRow = !m_steps.isEmpty() && !m_steps.last().label.isEmpty();
+        const bool isEmptyRow = isRow && read.attribute(QStringLiteral("value")).isEmpty();
+        const auto attributes = attributesOf(read);
+        for (const auto &[name, value] : attributes) {
+            // A label says nothing without a value.
+            if (!value.isEmpty() && !(isEmptyRow && name == labelName)) {
+                compareValue(read, name, value, written.attribute(name));
             }
-        });
-    }
-
-    //! For a path that was added.
-    bool contains(const QStringList &path, const QString &text) const
-    {
-        int place = 0;
-        for (const QString &step : path) {
-            place = m_places.value({place, step});
         }
-        return m_texts.contains({place, text});
     }
 
-private:
-    QHash<QPair<int, QString>, int> m_places; // by the place before the last step and that step; 0 is the element
-    QSet<QPair<int, QString>> m_texts; // by the place
+    void compareValue(const QDomElement &element, const QString &attribute, const QString &given, const QString &found)
+    {
+        if (given == found) {
+            return;
+        }
+        const QString tag = m_steps.isEmpty() ? QString() : element.tagName();
+        const QString parent = m_steps.size() < 2 ? QString() : m_steps.at(m_steps.size() - 2).tag;
+        if (!isSameText(formOfPlace({parent, tag, attribute}), given, found)) {
+            lose(attribute, given);
+        }
+    }
+
+    // The written element has the same children in the same order, and perhaps some behind them, in most cases. False
+    // where it hasn't; then nothing is compared.
+    bool compareInOrder(const QVector<Child> &children, const QDomElement &written)
+    {
+        QVector<QDomElement> partners;
+        partners.reserve(children.size());
+        QDomElement partner = written.firstChildElement();
+        for (const Child &child : children) {
+            const QString tag = partner.tagName();
+            if (child.step.tag != tag || child.step.label != labelOf(partner, tag)
+                || child.element.hasChildNodes() != partner.hasChildNodes()) {
+                return false;
+            }
+            partners.append(partner);
+            partner = partner.nextSiblingElement();
+        }
+        for (int i = 0; i < children.size(); ++i) {
+            compareChild(children.at(i), partners.at(i));
+        }
+        return true;
+    }
+
+    void compareLines(const QVector<Child> &children, const QDomElement &written)
+    {
+        QVector<Line> lines;
+        QHash<QString, int> indexes;
+        for (const Child &child : children) {
+            int &index = indexes[lineOf(child.element, child.step.tag, child.step.label)]; // from 1 on
+            if (index == 0) {
+                lines.append(Line());
+                index = lines.size();
+            }
+            lines[index - 1].read.append(child);
+        }
+        QDomElement partner = written.firstChildElement();
+        for (; !partner.isNull(); partner = partner.nextSiblingElement()) {
+            const QString tag = partner.tagName();
+            const int index = indexes.value(lineOf(partner, tag, labelOf(partner, tag)));
+            if (index > 0) {
+                lines[index - 1].written.append(partner);
+            }
+        }
+        for (const Line &line : qAsConst(lines)) {
+            compareLine(line);
+        }
+    }
+
+    // Where some are missing, the others are told by what they hold, so that a missing one doesn't shift them.
+    void compareLine(const Line &line)
+    {
+        int missing = qMax(0, line.read.size() - line.written.size());
+        int next = 0;
+        for (int i = 0; i < line.read.size(); ++i) {
+            const QDomElement partner = line.written.value(next);
+            if (missing > 0 && isRatherALaterOne(line, i, partner, missing)) {
+                compareChild(line.read.at(i), {});
+                --missing;
+            } else {
+                compareChild(line.read.at(i), partner);
+                ++next;
+            }
+        }
+    }
+
+    static bool isRatherALaterOne(const Line &line, int place, const QDomElement &partner, int missing)
+    {
+        if (partner.isNull() || looksLike(line.read.at(place).element, partner)) {
+            return false;
+        }
+        for (int i = 1; i <= qMin(missing, furthestPartner); ++i) {
+            if (looksLike(line.read.at(place + i).element, partner)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void compareChild(const Child &child, const QDomElement &written)
+    {
+        m_steps.append(child.step);
+        compare(child.element, written);
+        m_steps.removeLast();
+    }
+
+    static QString shortened(const QString &name)
+    {
+        return name.size() <= longestName
+            ? name
+            : name.left(longestName / 2) + QLatin1String("...") + name.right(longestName / 2);
+    }
+
+    // "data/rect@points", "properties/property[Color][2]@value".
+    QString placeOf(const QString &attribute) const
+    {
+        QString place;
+        for (int i = 0; i < m_steps.size(); ++i) {
+            if (i == toldSteps / 2 && m_steps.size() > toldSteps) {
+                place += QLatin1String("/...");
+                i = m_steps.size() - toldSteps / 2;
+            }
+            const Step &step = m_steps.at(i);
+            place += (place.isEmpty() ? QString() : QStringLiteral("/")) + shortened(step.tag);
+            if (!step.label.isEmpty()) {
+                place += QLatin1Char('[') + shortened(step.label) + QLatin1Char(']');
+            }
+            if (step.count > 1) {
+                place += QStringLiteral("[%1]").arg(step.count);
+            }
+        }
+        return attribute.isEmpty() ? place : place + QLatin1Char('@') + shortened(attribute);
+    }
+
+    void lose(const QString &attribute, const QString &value)
+    {
+        Loss loss = m_owner;
+        loss.key = placeOf(attribute);
+        loss.detail = value.left(longestDetail);
+        m_losses->add(loss);
+    }
+
+    LossReport *m_losses;
+    Loss m_owner;
+    QDomElement m_written; // outermost
+    QVector<Step> m_steps;
 };
 
 } // namespace
@@ -211,119 +324,13 @@ CarriedCheck::CarriedCheck(LossReport *losses)
 {
 }
 
-void CarriedCheck::examine(const QString &type, const QString &id, const QDomElement &element, const Read &read,
-                           const Write &write)
+void CarriedCheck::compare(const QString &type, const QString &id, const QDomElement &read, const QDomElement &written)
 {
-    QVector<Value> values;
-    Place outermost;
-    outermost.kind = kindOf(-1, type + formOf(element), 0);
-    outermost.deepKind = outermost.kind;
-    m_steps.clear();
-    collect(element, outermost, values);
-    m_unchanged = {};
-    QVector<Value> lost;
-    for (const Value &value : qAsConst(values)) {
-        if (!isCarried(value, element, read)) {
-            lost.append(value);
-        }
-    }
-    if (!lost.isEmpty() && write) {
-        ValuesInPlaces written;
-        for (const Value &value : qAsConst(lost)) {
-            written.addPlace(pathOf(value));
-        }
-        written.find(write());
-        const auto end = std::remove_if(lost.begin(), lost.end(), [this, &written](const Value &value) {
-            return written.contains(pathOf(value), value.text);
-        });
-        lost.erase(end, lost.end());
-    }
-    for (const Value &value : qAsConst(lost)) {
-        Loss loss;
-        loss.slide = m_slide;
-        loss.itemType = type;
-        loss.itemId = id;
-        loss.key = pathOf(value).join(QString());
-        loss.detail = value.text.left(longestDetail);
-        m_losses->add(loss);
-    }
-}
-
-int CarriedCheck::kindOf(int parent, const QString &name, int number)
-{
-    const Kind kind{parent, name, number};
-    const auto known = m_kinds.constFind(kind);
-    if (known != m_kinds.constEnd()) {
-        return *known;
-    }
-    m_kinds.insert(kind, m_answers.size());
-    m_answers.append(Unknown);
-    return m_answers.size() - 1;
-}
-
-int CarriedCheck::kindOfChild(int parent, int depth, const Step &step)
-{
-    if (depth > distinctDepth) {
-        return kindOf(parent, step.tag, deepMark);
-    }
-    if (depth > numberedDepth) {
-        return kindOf(parent, withoutDigits(step.tag), 0);
-    }
-    return step.row.isEmpty() ? kindOf(parent, step.tag, qMin(step.count, distinctSiblings))
-                              : kindOf(parent, step.row, rowMark);
-}
-
-// The values that aren't known to be carried.
-void CarriedCheck::collect(const QDomElement &element, const Place &place, QVector<Value> &values)
-{
-    eachValue(element, place.depth == 0, [&](const QString &attribute, const QString &text) {
-        const int kind = attribute.isEmpty() ? place.kind : kindOf(place.kind, attribute, attributeMark);
-        if (m_answers.at(kind) != Carried) {
-            values.append({element, attribute, text, kind, place.step});
-        }
-    });
-    const bool isDeep = place.depth >= distinctDepth;
-    eachChild(element, [&](const QDomElement &child, Step step) {
-        Place next;
-        next.depth = place.depth + 1;
-        next.kind = kindOfChild(isDeep ? place.deepKind : place.kind, next.depth, step);
-        next.deepKind = isDeep ? place.deepKind : next.kind;
-        next.step = m_steps.size();
-        step.previous = place.step;
-        m_steps.append(step);
-        collect(child, next, values);
-    });
-}
-
-// The steps to a value, such as "data", "/rect", "@points".
-QStringList CarriedCheck::pathOf(const Value &value) const
-{
-    QStringList path;
-    if (!value.attribute.isEmpty()) {
-        path.append(QLatin1Char('@') + value.attribute);
-    }
-    for (int step = value.step; step >= 0; step = m_steps.at(step).previous) {
-        path.append(textOf(m_steps.at(step), m_steps.at(step).previous < 0));
-    }
-    std::reverse(path.begin(), path.end());
-    return path;
-}
-
-bool CarriedCheck::isCarried(const Value &value, const QDomElement &element, const Read &read)
-{
-    if (m_answers.at(value.kind) == Unknown) {
-        if (m_unchanged.isEmpty()) {
-            m_unchanged = read(element);
-        }
-        // A value that is the default makes no difference when it goes, so others are tried as well.
-        const QString others[] = {QString(), QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2,3,4,5,6,7")};
-        const bool isCarried = std::any_of(std::begin(others), std::end(others), [&](const QString &other) {
-            const Replacement replacement(value.element, value.attribute, value.text, other);
-            return read(element) != m_unchanged;
-        });
-        m_answers[value.kind] = isCarried ? Carried : NotCarried;
-    }
-    return m_answers.at(value.kind) == Carried;
+    Loss owner;
+    owner.slide = m_slide;
+    owner.itemType = type;
+    owner.itemId = id;
+    Comparing(m_losses, owner, read, written);
 }
 
 } // namespace lessonhost

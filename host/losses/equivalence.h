@@ -8,6 +8,37 @@ namespace lessonhost {
 
 // What is the same in another dress. Both checks, that of a read and that of a write, ask here and nowhere else.
 
+/*!
+ * The form of a value, which says which texts of it are the same.
+ */
+enum class ValueForm {
+    Text, //!< the same characters
+    Flag, //!< 0 or 1
+    Number,
+    Numbers, //!< with commas between; a comma at the end stands before none
+    Points, //!< the same, in single precision
+    InkColor, //!< #aarrggbb or another name of the colour that is the same in eight bits a channel
+    InkWidth, //!< which may bear the mark "[ ,]"
+    SubjectColor, //!< a,r,g,b; r,g,b is opaque
+    Json, //!< the same values
+};
+
+/*!
+ * Where a text stands in XML.
+ */
+struct XmlPlace
+{
+    QString parent; //!< tag of the element around the element; empty for a child of the outermost one
+    QString tag; //!< of the element; empty for the outermost one
+    QString attribute; //!< empty for the text of the element
+};
+
+//! The form of values in ZQTX, and of values in raw XML that keep their text.
+ValueForm formOfPlace(const XmlPlace &place);
+
+//! True if two texts say the same in that form. A text that is not of the form is the same as itself alone.
+bool isSameText(ValueForm form, const QString &given, const QString &found);
+
 //! True if a write and a read of the one could give the other: the same value under valueText, or colours of strokes
 //! that name the same colour, or points with the same numbers. Missing and empty values are the same.
 bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &found);

@@ -1,0 +1,42 @@
+#ifndef RAWECHO_H
+#define RAWECHO_H
+
+#include <QDomElement>
+#include <QHash>
+#include <QJsonObject>
+#include <QString>
+
+class IZQTransformation;
+
+namespace lessonhost {
+
+/*!
+ * Raw elements as the model would say them: nobody writes raw XML, so for each value that an element has, the echo has
+ * what the model made of it says in its place. A value that the model says in another way, such as a matrix that was
+ * worked into a box, is put back to what it was where both mean the same.
+ */
+class RawEcho
+{
+public:
+    explicit RawEcho(IZQTransformation *plugin);
+
+    QDomElement ofItem(const QDomElement &element, const QJsonObject &item);
+    QDomElement ofSlide(const QDomElement &element, const QJsonObject &properties);
+    QDomElement ofPresentation(const QDomElement &element, const QJsonObject &presentation);
+
+private:
+    QString attributeOfItem(const QDomElement &element, const QString &name, const QString &given,
+                            const QJsonObject &item);
+    QDomElement childrenOfItem(const QDomElement &element, const QJsonObject &item);
+    QString attributeOfChild(const QString &type, const QDomElement &child, const QString &name, const QString &given,
+                             const QJsonObject &item);
+    QString keyOf(const QString &type, const QString &tag, const QString &attribute);
+
+    IZQTransformation *m_plugin;
+    QHash<QString, QString> m_keys; // that a plain text goes to, by type, tag and attribute
+    QHash<QString, QJsonObject> m_silent; // what is made of an item that says nothing, by type
+};
+
+} // namespace lessonhost
+
+#endif // RAWECHO_H
