@@ -1,7 +1,5 @@
 #include "batch/interruptions.h"
 
-#include <initializer_list>
-
 #include <pthread.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
