@@ -66,8 +66,8 @@ Contents contentOf(const QString &target)
 QVector<int> chosenCalls(int count)
 {
     const bool isAll = qEnvironmentVariableIsSet("FAULTS_ALL");
-    const int last = 5;
-    const int others = isAll ? count : 5;
+    const int last = 4;
+    const int others = isAll ? count : 3;
     QVector<int> chosen;
     for (int call = 1; call <= count; ++call) {
         if (isAll || call > count - last || (call - 1) * others / count != (call - 2) * others / count || call == 1) {
@@ -99,7 +99,7 @@ private:
 
     enum Kind { Once, Staying, Reading };
 
-    Command::Outcome run(const QStringList &arguments, Kind kind = Once, int failing = 0) const
+    CommandProcess::Outcome run(const QStringList &arguments, Kind kind = Once, int failing = 0) const
     {
         putFile(m_counter, QByteArray(sizeof(long), '\0'));
         return runCommand(arguments, m_folder.path(), [this, kind, failing] {
@@ -139,7 +139,7 @@ private:
     }
 
     // What is wrong with what a run left, or nothing.
-    static QString problem(const Command::Outcome &outcome, const QStringList &targets, const QVector<Contents> &before,
+    static QString problem(const CommandProcess::Outcome &outcome, const QStringList &targets, const QVector<Contents> &before,
                            const QVector<Contents> &after, const QVector<Contents> &found, Kind kind)
     {
         bool isAllNew = true;
@@ -163,7 +163,7 @@ private:
     {
         restore();
         const QVector<Contents> before = contents(run.targets);
-        const Command::Outcome clean = this->run(run.arguments, kind);
+        const CommandProcess::Outcome clean = this->run(run.arguments, kind);
         QVERIFY2(clean.exitCode == 0 && clean.errors.isEmpty(), qPrintable(clean.errors));
         const QVector<int> calls = chosenCalls(callsOfLastRun());
         QVERIFY(!calls.isEmpty());
@@ -174,7 +174,7 @@ private:
         int failures = 0;
         for (const int call : calls) {
             restore();
-            const Command::Outcome outcome = this->run(run.arguments, kind, call);
+            const CommandProcess::Outcome outcome = this->run(run.arguments, kind, call);
             const QVector<Contents> found = contents(run.targets);
             const QString wrong = problem(outcome, run.targets, before, after, found, kind);
             QVERIFY2(wrong.isEmpty(),
@@ -204,7 +204,7 @@ private:
 
     void convertHere(const QString &from, const QString &to, const QStringList &more = {}) const
     {
-        const Command::Outcome outcome =
+        const CommandProcess::Outcome outcome =
             runCommand(QStringList{"convert", path(from), path(to), "--quiet"} + more, m_folder.path());
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
     }
