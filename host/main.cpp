@@ -8,6 +8,9 @@
 
 #include <memory>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using namespace lessonhost;
 
 namespace {
@@ -24,10 +27,27 @@ void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
 
 void tell(const LessonError &error, bool asJson)
 {
-    if (asJson) {
-        printJson({{QStringLiteral("error"), error.toJson()}});
-    }
     complain(error.message());
+    if (asJson) {
+        try {
+            printJson({{QStringLiteral("error"), error.toJson()}});
+        } catch (const LessonError &unprinted) {
+            if (unprinted.message() != error.message()) {
+                complain(unprinted.message());
+            }
+        }
+    }
+}
+
+// A file must not get the number of a standard stream that is closed: what is printed would go into it. To write to
+// what takes the number fails.
+void occupyStandardStreams()
+{
+    for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(number, F_GETFD) < 0) {
+            ::open("/dev/null", O_RDONLY);
+        }
+    }
 }
 
 // Screens and fonts take half as much memory again as all the rest, so they come only where text is measured or drawn.
@@ -46,6 +66,7 @@ std::unique_ptr<QCoreApplication> applicationFor(const Command &command, int &ar
 
 int main(int argc, char **argv)
 {
+    occupyStandardStreams();
     qInstallMessageHandler(keepQuiet);
     // What nobody prints needn't be put into words.
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);

@@ -1,3 +1,4 @@
+#include "files/folder.h"
 #include "hostfixture.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <cstdio>
 
 #include <sys/stat.h>
 
@@ -38,6 +40,30 @@ private:
     {
         putFile(path(name),
                 R"({"Title":")" + title + R"(","Width":"400","Height":"300","Slides":[{"ID":"1","Items":[]}]})");
+    }
+
+    // Takes long enough to be stopped in the middle.
+    void putSlowLesson(const QString &name) const
+    {
+        QByteArray slides = R"({"ID":"0"})";
+        for (int i = 1; i < 20000; ++i) {
+            slides += ",{\"ID\":\"" + QByteArray::number(i) + "\"}";
+        }
+        putFile(path(name), "{\"Slides\":[" + slides + "]}");
+    }
+
+    // Its only worker process gets a signal as soon as it is there.
+    static void signalWorker(const CommandProcess &process, int signal)
+    {
+        const QString children = "/proc/%1/task/%1/children"_s.arg(process.processId());
+        QByteArray worker;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            [&] {
+                worker = fileContent(children).trimmed();
+                return !worker.isEmpty();
+            }(),
+            20000);
+        kill(worker.toInt(), signal);
     }
 
     QStringList results() const { return filesBelow(path("out")).keys(); }
@@ -109,6 +135,26 @@ private slots:
         QCOMPARE(report().value("passedOver").toArray().size(), 1);
     }
 
+    // What can't be opened by its name is told, and everything else converted.
+    void tellsWhatItCannotReach()
+    {
+        putLesson("in/a.json");
+        putLesson("in/b.json");
+        QVERIFY(QFile::link("nowhere", path("in/c.json")));
+        const auto place = [this](const char *name) { return QByteArray(QFile::encodeName(path("in/")) + name); };
+        QVERIFY(std::rename(place("b.json"), place("\xff.json")) == 0);
+        QVERIFY(::mkdir(place("\xfe"), 0700) == 0 && ::mkfifo(place("d.json"), 0600) == 0);
+        const CommandProcess::Outcome result = convert({"in", "--to", "zqtx", "--report", "report.json"});
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.errors.count("no UTF-8"), 2);
+        QCOMPARE(result.errors.count("link to nothing"), 1);
+        QCOMPARE(result.output,
+                 "4 lessons: 1 converted, 3 not converted.\n1 file is called like a lesson and is none: in/d.json.\n");
+        QCOMPARE(report().value("counts").toObject().value("failed").toInt(), 3);
+        QCOMPARE(results(), (QStringList{".lessonconv-done", "a.zqtx"}));
+        lessonhost::removeFolder(path("in"));
+    }
+
     void keepsNamesApart()
     {
         putLesson("one/a.json");
@@ -145,23 +191,14 @@ private slots:
         QVERIFY(convert(arguments + QStringList{"--no-check"}).output.startsWith("3 lessons: 3 converted"));
     }
 
-    // Reading a pipe that nobody writes into lasts until somebody ends it.
     void crashFailsOneLesson()
     {
-        mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
+        putSlowLesson("0.json");
         putLesson("a.json");
         putLesson("b.json");
         CommandProcess process;
         begin(process, {"0.json", "a.json", "b.json", "--to", "zqtx", "--jobs", "1"});
-        const QString children = "/proc/%1/task/%1/children"_s.arg(process.processId());
-        QByteArray worker;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            [&] {
-                worker = fileContent(children).trimmed();
-                return !worker.isEmpty();
-            }(),
-            20000);
-        kill(worker.toInt(), SIGKILL);
+        signalWorker(process, SIGKILL);
         const CommandProcess::Outcome result = process.outcome();
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.errors.contains("0.json: The converter broke down over this lesson"),
@@ -172,10 +209,12 @@ private slots:
 
     void lateLessonFailsAlone()
     {
-        mkfifo(QFile::encodeName(path("0.json")).constData(), 0600);
+        putSlowLesson("0.json");
         putLesson("a.json");
-        const CommandProcess::Outcome result =
-            convert({"a.json", "0.json", "--to", "zqtx", "--jobs", "1", "--lesson-timeout", "5"});
+        CommandProcess process;
+        begin(process, {"a.json", "0.json", "--to", "zqtx", "--jobs", "1", "--lesson-timeout", "5"});
+        signalWorker(process, SIGSTOP);
+        const CommandProcess::Outcome result = process.outcome();
         QCOMPARE(result.exitCode, 2);
         QVERIFY2(result.errors.contains("0.json: The conversion took longer than 5 s"), qPrintable(result.errors));
         QCOMPARE(result.output, "2 lessons: 1 converted, 1 not converted.\n");
@@ -185,12 +224,13 @@ private slots:
     void interruptionLeavesNothingHalf()
     {
         putLesson("a.json");
-        mkfifo(QFile::encodeName(path("b.json")).constData(), 0600);
+        putSlowLesson("b.json");
         putLesson("c.json");
         const QStringList arguments{"a.json", "b.json", "c.json", "--to", "zqtx", "--jobs", "1", "--resume"};
         CommandProcess process;
         begin(process, arguments);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("out/a.zqtx")), 20000);
+        signalWorker(process, SIGSTOP);
         QTest::qWait(200);
         kill(pid_t(process.processId()), SIGINT);
         const CommandProcess::Outcome result = process.outcome();
@@ -214,7 +254,7 @@ private slots:
         row("same name", {"in/a.json", "other/a.json", "--to", "iwb"}, "both be written as a.json.iwb");
         row("jobs", {"in", "--to", "iwb", "--jobs", "none"}, "number of jobs");
         row("time", {"in", "--to", "iwb", "--lesson-timeout", "0"}, "number of seconds");
-        row("no folder can be made", {"in", "--to", "iwb", "--out-dir", "in/a.json/x"}, "can't be made");
+        row("no folder can be made", {"in", "--to", "iwb", "--out-dir", "other/a.json/x"}, "can't be made");
     }
 
     void refuses()

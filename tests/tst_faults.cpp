@@ -276,6 +276,43 @@ private slots:
         QCOMPARE(workFolders(), QStringList());
     }
 
+    // Whoever may write beside the output can lay links there that look like what dead runs leave.
+    void followsNoPlantedLinks()
+    {
+        putFile(path("victim/file"), "precious");
+        QVERIFY(QDir().mkpath(path("out/.lessonconv-b/package/deep")) && QDir().mkpath(path("out/.lessonconv-c")));
+        QVERIFY(QFile::link(path("victim"), path("out/.lessonconv-a")));
+        QVERIFY(QFile::link(path("victim"), path("out/.lessonconv-b/package/deep/link")));
+        QVERIFY(QFile::link(path("victim"), path("out/.lessonconv-c/replaced")));
+        QVERIFY(QFile::link(path("victim/file"), path("out/.lessonconv-d.lock")));
+        QVERIFY(QFile::link(path("victim"), path("tmp/lessonconv-work-abcdef")));
+        for (const char *name : {"a", "b", "c"}) {
+            putFile(path("out/.lessonconv-"_s + name + ".lock"), {});
+        }
+        QCOMPARE(convert("old.json", "out/a.zqtx").exitCode, 0);
+        QCOMPARE(convert("out/a.zqtx", "out/a.json").exitCode, 0);
+        QCOMPARE(filesBelow(path("victim")).value("file"), QByteArray("precious"));
+        // The links themselves aren't this program's.
+        QCOMPARE(hiddenEntries(path("out")), (QStringList{".lessonconv-a", ".lessonconv-d.lock"}));
+        QCOMPARE(QDir(path("out")).entryList(QDir::Files), (QStringList{"a.json", "a.zqtx"}));
+    }
+
+    // What is written can be read again, or is refused before the work is done.
+    void writesNothingThatIsNotRead()
+    {
+        QVERIFY(QDir().mkpath(path("large/images")));
+        putFile(path("large/index.xml"), "<main/>");
+        QFile file(path("large/images/a.bin"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64(900) * 1024 * 1024));
+        file.close();
+        const CommandProcess::Outcome json = convert("large", "out.json");
+        QVERIFY2(json.exitCode == 2 && json.errors.contains("1 GiB"), qPrintable(json.errors));
+        putFile(path("many.json"), "{\"Slides\": [{}" + QByteArray(",{}").repeated(0x10000) + "]}");
+        const CommandProcess::Outcome archive = convert("many.json", "out.zqtx");
+        QVERIFY2(archive.exitCode == 2 && archive.errors.contains("65535 files"), qPrintable(archive.errors));
+        QCOMPARE(QDir(m_folder->path()).entryList({"out*"}), QStringList());
+    }
+
     // What a dead run unpacked goes with the next run, and what a living one works in stays.
     void sweepsWhatDeadRunsUnpacked()
     {

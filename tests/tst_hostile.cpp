@@ -109,6 +109,7 @@ private slots:
         row("device of another system", {{"images/nul.png", "x"}}, "device");
         row("name that reads backwards", {{"images/\xe2\x80\xaegnp.exe", "x"}}, "control characters");
         row("two names in one", {{QByteArray("a.png\0.exe", 10), "x"}}, "control characters");
+        row("name in another encoding", {{"images/\xff.png", "x"}}, "UTF-8");
         row("name of 300 letters", {{QByteArray(300, 'a'), "x"}}, "too long");
         row("path of 5000 letters", {{QByteArray("ab/").repeated(1600) + "c", "x"}}, "too long");
         row("folder twice", {{"images/", ""}, {"images/", ""}}, "twice");
@@ -117,7 +118,10 @@ private slots:
         row("link to a folder", {{"slides", "/etc", false, 0120777U << 16}}, "link or a device");
         row("another name before the content", {{"a.png", "x", true, 0, "../a.png"}}, "");
         row("more than it says", {{"a.png", QByteArray(32 * 1024 * 1024, ' '), true, 0, {}, 1000}}, "damaged");
-        row("ten million to one", {{"a.png", QByteArray(64, 'x'), true, 0, {}, 640000000}}, "packed more tightly");
+        row("ten million to one", {{"a.png", QByteArray(64, 'x'), true, 0, {}, 640000000}},
+            "packed more tightly than can be");
+        row("600 MiB in one", {{"a.png", QByteArray(1024 * 1024, 'x'), false, 0, {}, 600 * 1024 * 1024}},
+            "packed more tightly than any");
         row("1 GiB, or so it says", {{"a.png", QByteArray(64, 'x'), true, 0, {}, 1 << 30, 1 << 30}}, "");
         row("twice 2 GiB, or so it says",
             {{"a.png", "x", false, 0, {}, 0x7fffffff, 0x7fffffff},
@@ -141,6 +145,34 @@ private slots:
         QVERIFY(!message.isEmpty());
         QVERIFY2(message.contains(words), qPrintable(message));
         QVERIFY2(strangers().isEmpty(), qPrintable(strangers().join(' ')));
+    }
+
+    void readsUnusualArchives_data()
+    {
+        const Table<QByteArray, int> row("archive", "files");
+        QVector<ZipEntry> entries{{"index.xml", goodIndex}, {"slides/1.xml", goodSlide}};
+        const QByteArray program = "#!/bin/sh\nexit\n";
+        row("behind a program", program + zipText(entries), 0);
+        row("64 bits", zipText(entries, true), 0);
+        row("64 bits behind a program", program + zipText(entries, true), 0);
+        // Pictures that are white, and silence.
+        entries.append({"images/white.bmp", QByteArray(6 * 1024 * 1024, '\xff')});
+        row("white picture", zipText(entries), 1);
+        for (int i = 0; i < 0x10000; ++i) {
+            entries.append({"x/" + QByteArray::number(i), {}, false});
+        }
+        row("more than 65,535 entries", zipText(entries, true), 0x10001);
+    }
+
+    void readsUnusualArchives()
+    {
+        QFETCH(QByteArray, archive);
+        QFETCH(int, files);
+        putFile(path("in.zqtx"), archive);
+        const auto reader = openLesson(path("in.zqtx"));
+        QCOMPARE(reader->presentation().value("Title").toString(), "Good");
+        QCOMPARE(reader->slideCount(), 1);
+        QCOMPARE(reader->resources().size(), files);
     }
 
     // Wherever a copy broke off.

@@ -1,3 +1,4 @@
+#include "files/folder.h"
 #include "hostfixture.h"
 #include "ziptext.h"
 
@@ -5,6 +6,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QtTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -63,7 +68,6 @@ private slots:
         row("slide out of the package", "in", {"in/index.xml", "../secret.xml", "leads out"},
             {indexOf("../secret.xml")});
         row("absolute slide", "in", {"/etc/passwd", "absolute"}, {indexOf("/etc/passwd")});
-        row("slide that is a link", "in", {"slides/link.xml", "missing"}, {indexOf("slides/link.xml")});
         row("wrong root of a slide", "in", {"in/slides/1.xml", "<main>", "<slide>"},
             {indexOf("slides/1.xml"), {"in/slides/1.xml", "<main/>"}});
 
@@ -106,12 +110,10 @@ private slots:
         QFETCH(QString, input);
         QFETCH(QStringList, words);
         QFETCH(Files, files);
-        putFile(path("secret.xml"), "<slide/>");
         putFile(path("out.zqtx"), "the lesson of yesterday");
         for (const auto &file : qAsConst(files)) {
             putFile(path(file.first), file.second);
         }
-        QFile::link(path("secret.xml"), path("in/slides/link.xml"));
 
         const CommandProcess::Outcome outcome = convert(input, "out.zqtx");
         QCOMPARE(outcome.exitCode, 2);
@@ -121,6 +123,145 @@ private slots:
         QCOMPARE(outcome.errors.count('\n'), 1);
         QCOMPARE(fileContent(path("out.zqtx")), QByteArray("the lesson of yesterday"));
         QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+    }
+
+    // What can't be taken along is not left out in silence.
+    void refusesStrangersInAFolder_data()
+    {
+        const Table<QString, QByteArray, QString> row("document", "stranger", "words");
+        for (const char *document : {"index.xml", "content.xml"}) {
+            row("link", document, "images/link.png", "images/link.png: This is a link");
+            row("link to a folder", document, "folder", "in/folder: This is a link");
+            row("pipe", document, "images/pipe.png", "images/pipe.png: This is a pipe");
+            row("name in another encoding", document, "images/\xff.png", "no UTF-8");
+        }
+    }
+
+    void refusesStrangersInAFolder()
+    {
+        QFETCH(QString, document);
+        QFETCH(QByteArray, stranger);
+        QFETCH(QString, words);
+        putFile(path("secret.png"), "secret");
+        putFile(path("in/index.xml"), "<main/>");
+        putFile(path("in/content.xml"),
+                "<iwb xmlns:s=\"http://www.w3.org/2000/svg\"><s:svg><s:page id=\"p\"/></s:svg></iwb>");
+        QFile::remove(path("in/"_s + (document == "index.xml" ? "content.xml" : "index.xml")));
+        QVERIFY(QDir().mkpath(path("in/images")));
+        QCOMPARE(convert("in", "good.json").exitCode, 0);
+
+        const QByteArray file = QFile::encodeName(path("in")) + '/' + stranger;
+        if (words.contains("link")) {
+            QVERIFY(::symlink("../secret.png", file.constData()) == 0);
+        } else {
+            QVERIFY(::mknod(file.constData(), words.contains("pipe") ? S_IFIFO | 0600 : S_IFREG | 0600, 0) == 0);
+        }
+        const CommandProcess::Outcome outcome = convert("in", "out.json");
+        QCOMPARE(outcome.exitCode, 2);
+        QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
+        QVERIFY(!QFileInfo::exists(path("out.json")));
+        lessonhost::removeFolder(path("in"));
+    }
+
+    // Neither waits for a writer, nor reads what never ends.
+    void refusesPipesAndDevices_data()
+    {
+        const Table<QString> row("format");
+        for (const char *format : {"json", "zqtx", "rawxml", "iwb"}) {
+            row(format, format);
+        }
+    }
+
+    void refusesPipesAndDevices()
+    {
+        QFETCH(QString, format);
+        QVERIFY(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600) == 0);
+        for (const char *input : {"pipe", "/dev/zero"}) {
+            const CommandProcess::Outcome outcome = runCommand({"info", input, "--from", format}, m_folder->path());
+            QCOMPARE(outcome.exitCode, 2);
+            QVERIFY2(outcome.errors.contains(", not a file"), qPrintable(outcome.errors));
+        }
+    }
+
+    // Nothing that is read is written over, whatever it is called, and nothing is written before that is found.
+    void keepsWhatItReads_data()
+    {
+        const Table<QStringList> row("arguments");
+        row("into the folder", {"convert", "in", "in/index.xml", "--to", "json"});
+        row("folder into itself", {"convert", "in", "in/out"});
+        row("itself", {"convert", "a.json", "a.json"});
+        row("another spelling", {"convert", "a.json", "in/../a.json"});
+        row("through a link", {"convert", "a.json", "link.json"});
+        row("a second name", {"convert", "link.json", "twin.json"});
+        row("through a linked folder", {"convert", "in", "linked/out.json"});
+        row("around it", {"convert", "in/inner.json", "in", "--to", "zqtx"});
+        row("report in its place", {"convert", "a.json", "out.zqtx", "--report", "link.json"});
+        row("report in the folder", {"convert", "in", "out.zqtx", "--report", "in/r.json"});
+        row("report over the result", {"convert", "a.json", "out.zqtx", "--report", "./out.zqtx"});
+        row("report in the result", {"convert", "a.json", "old", "--report", "old/r.json"});
+        row("report that can't be", {"convert", "a.json", "out.zqtx", "--report", "none/r.json"});
+        row("picture over it", {"render", "a.json", "p%d.svg"});
+        row("picture into it", {"render", "in", "linked/p%d.svg"});
+        row("two side by side", {"render", "--diff", "a.json", "in", "in/p.html"});
+        row("many", {"convert", "in", "--to", "json", "--out-dir", "in/out"});
+        row("report of many", {"convert", "a.json", "--to", "iwb", "--out-dir", "out", "--report", "out/a.iwb"});
+        row("report over one of many", {"convert", "a.json", "--to", "iwb", "--out-dir", "out", "--report", "a.json"});
+        row("journal through a link", {"convert", "a.json", "--to", "zqtx", "--out-dir", "planted"});
+        row("device", {"convert", "a.json", "null.json"});
+    }
+
+    void keepsWhatItReads()
+    {
+        QFETCH(QStringList, arguments);
+        const QByteArray lesson = R"({"Slides": [{"ID": "1"}]})";
+        for (const char *name : {"a.json", "in/inner.json"}) {
+            putFile(path(name), lesson);
+        }
+        for (const char *folder : {"in", "old"}) {
+            putFile(path(folder) + "/index.xml", "<main/>");
+        }
+        QVERIFY(QFile::link("a.json", path("link.json")) && QFile::link("in", path("linked")));
+        QVERIFY(QDir().mkdir(path("planted")) && QFile::link("../a.json", path("planted/.lessonconv-done")));
+        QVERIFY(QFile::link("/dev/null", path("null.json")));
+        const QByteArray own = QFile::encodeName(path("a.json"));
+        for (const char *name : {"twin.json", "p1.svg"}) {
+            QVERIFY(::link(own.constData(), QFile::encodeName(path(name)).constData()) == 0);
+        }
+        const auto before = filesBelow(m_folder->path());
+        const CommandProcess::Outcome outcome = runCommand(arguments, m_folder->path());
+        QCOMPARE(outcome.exitCode, 2);
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QCOMPARE(filesBelow(m_folder->path()), before);
+        QVERIFY(QFileInfo(path("link.json")).isSymLink());
+    }
+
+    // A full or a closed standard output.
+    void saysThatItCannotPrint_data()
+    {
+        const Table<QStringList> row("arguments");
+        row("info", {"info", "a.json"});
+        row("information for scripts", {"info", "a.json", "--json"});
+        row("conversion", {"convert", "a.json", "out.zqtx", "--json"});
+        row("failure", {"convert", "none.json", "out.zqtx", "--json"});
+        row("many", {"convert", "a.json", "--to", "zqtx", "--out-dir", "out"});
+        row("version", {"--version"});
+        row("help", {"--help"});
+    }
+
+    void saysThatItCannotPrint()
+    {
+        QFETCH(QStringList, arguments);
+        putFile(path("a.json"), R"({"Slides": [{"ID": "1"}]})");
+        for (const bool isClosed : {true, false}) {
+            const CommandProcess::Outcome outcome = runCommand(arguments, m_folder->path(), [isClosed] {
+                ::close(STDOUT_FILENO);
+                if (!isClosed) {
+                    ::open("/dev/full", O_WRONLY);
+                }
+            });
+            QCOMPARE(outcome.exitCode, 2);
+            QVERIFY2(outcome.errors.contains("Standard output: It can't be written"), qPrintable(outcome.errors));
+        }
     }
 
     void refusesTargets_data()

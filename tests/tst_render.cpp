@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 /*!
@@ -57,6 +58,26 @@ private slots:
         QCOMPARE(html.count("<line "), 2);
         QVERIFY(!html.contains("unseen"));
         QVERIFY(!html.contains("<script"));
+    }
+
+    // Few files are open at a time, however many pictures there are.
+    void writesManyPictures()
+    {
+        const QByteArray slides = "{}" + QByteArray(",{}").repeated(89);
+        putFile(path("many.json"), "{\"Width\": \"40\", \"Height\": \"30\", \"Slides\": [" + slides + "]}");
+        const auto render = [this] {
+            return runCommand({"render", path("many.json"), path("many%d.svg")}, {}, [] {
+                const rlimit limit{64, 64};
+                ::setrlimit(RLIMIT_NOFILE, &limit);
+            });
+        };
+        // One that can't be put in its place keeps all others away.
+        QVERIFY(QDir().mkdir(path("many90.svg")));
+        QCOMPARE(render().exitCode, 2);
+        QVERIFY(!QFile::exists(path("many1.svg")) && QDir().rmdir(path("many90.svg")));
+        const CommandProcess::Outcome outcome = render();
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+        QVERIFY(QFile::exists(path("many1.svg")) && QFile::exists(path("many90.svg")));
     }
 
     void writesPictures()

@@ -2,6 +2,8 @@
 
 namespace {
 
+constexpr qint64 elsewhere = 0xffffffff; // the number stands in another place, with 64 bits
+
 QByteArray number(qint64 value, int size)
 {
     QByteArray bytes;
@@ -25,7 +27,7 @@ quint32 checksum(const QByteArray &bytes)
 
 } // namespace
 
-QByteArray zipText(const QVector<ZipEntry> &entries)
+QByteArray zipText(const QVector<ZipEntry> &entries, bool isLarge)
 {
     QByteArray body;
     QByteArray list;
@@ -40,13 +42,31 @@ QByteArray zipText(const QVector<ZipEntry> &entries)
         const qint64 size = entry.declaredSize < 0 ? entry.content.size() : entry.declaredSize;
         // Version, flags, method, time and date, checksum, sizes.
         const QByteArray common = number(20, 2) + number(0, 2) + number(isPacked ? 8 : 0, 2) + number(0, 4)
-            + number(checksum(entry.content), 4) + number(packedSize, 4) + number(size, 4);
-        const auto lengths = [](const QByteArray &name) -> QByteArray { return number(name.size(), 2) + number(0, 2); };
-        list += "PK\1\2" + number(0x0314, 2) + common + lengths(entry.name) + number(0, 6) + number(entry.attributes, 4)
-            + number(body.size(), 4) + entry.name;
+            + number(checksum(entry.content), 4) + number(isLarge ? elsewhere : packedSize, 4)
+            + number(isLarge ? elsewhere : size, 4);
+        QByteArray sizes;
+        QByteArray sizesAndPlace;
+        if (isLarge) {
+            sizes = number(1, 2) + number(16, 2) + number(size, 8) + number(packedSize, 8);
+            // Behind something that isn't known.
+            sizesAndPlace = number(0x5455, 2) + number(1, 2) + "x" + number(1, 2) + number(24, 2) + number(size, 8)
+                + number(packedSize, 8) + number(body.size(), 8);
+        }
+        const auto lengths = [](const QByteArray &name, const QByteArray &extra) -> QByteArray {
+            return number(name.size(), 2) + number(extra.size(), 2);
+        };
+        list += "PK\1\2" + number(0x0314, 2) + common + lengths(entry.name, sizesAndPlace) + number(0, 6)
+            + number(entry.attributes, 4) + number(isLarge ? elsewhere : body.size(), 4) + entry.name + sizesAndPlace;
         const QByteArray localName = entry.localName.isNull() ? entry.name : entry.localName;
-        body += "PK\3\4" + common + lengths(localName) + localName + packed;
+        body += "PK\3\4" + common + lengths(localName, sizes) + localName + sizes + packed;
     }
-    return body + list + "PK\5\6" + number(0, 4) + number(entries.size(), 2) + number(entries.size(), 2)
-        + number(list.size(), 4) + number(body.size(), 4) + number(0, 2);
+    QByteArray large;
+    if (isLarge) {
+        large = "PK\6\6" + number(44, 8) + number(45, 2) + number(45, 2) + number(0, 8) + number(entries.size(), 8)
+            + number(entries.size(), 8) + number(list.size(), 8) + number(body.size(), 8);
+        large += "PK\6\7" + number(0, 4) + number(body.size() + list.size(), 8) + number(1, 4);
+    }
+    const auto shortNumber = [isLarge](qint64 value, int size) { return number(isLarge ? elsewhere : value, size); };
+    return body + list + large + "PK\5\6" + number(0, 4) + shortNumber(entries.size(), 2)
+        + shortNumber(entries.size(), 2) + shortNumber(list.size(), 4) + shortNumber(body.size(), 4) + number(0, 2);
 }

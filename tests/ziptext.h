@@ -18,7 +18,8 @@ struct ZipEntry
     qint64 declaredPackedSize = -1;
 };
 
-//! The archive. Checksums are those of the content.
-QByteArray zipText(const QVector<ZipEntry> &entries);
+//! The archive, in its plain form or with all its sizes and places as numbers of 64 bits. Checksums are those of the
+//! content.
+QByteArray zipText(const QVector<ZipEntry> &entries, bool isLarge = false);
 
 #endif // ZIPTEXT_H

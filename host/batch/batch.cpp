@@ -120,7 +120,7 @@ private:
     void giveNext(Worker &worker)
     {
         worker.lesson = -1;
-        while (m_next < m_plan.lessons.size() && m_settings.resume && isDoneBefore(m_next)) {
+        while (m_next < m_plan.lessons.size() && (isImpossible(m_next) || isDoneBefore(m_next))) {
             ++m_next;
         }
         if (m_next < m_plan.lessons.size()) {
@@ -134,8 +134,20 @@ private:
         }
     }
 
+    bool isImpossible(int index)
+    {
+        const QString problem = m_plan.lessons.at(index).problem;
+        if (!problem.isEmpty()) {
+            fail(index, problem);
+        }
+        return !problem.isEmpty();
+    }
+
     bool isDoneBefore(int index)
     {
+        if (!m_settings.resume) {
+            return false;
+        }
         const QJsonObject losses = m_journal.doneBefore(m_plan.lessons.at(index));
         if (losses.isEmpty()) {
             return false;
@@ -235,7 +247,14 @@ private:
         lesson.losses = losses;
         QJsonObject remembered = losses;
         remembered.remove(QLatin1String("entries"));
-        m_journal.note(m_plan.lessons.at(index), m_states.at(index), remembered);
+        try {
+            m_journal.note(m_plan.lessons.at(index), m_states.at(index), remembered);
+        } catch (const LessonError &error) {
+            if (!m_result.hasJournalFailed) {
+                m_watcher.failure(error.message());
+            }
+            m_result.hasJournalFailed = true;
+        }
         ++m_done;
     }
 

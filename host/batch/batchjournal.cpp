@@ -1,13 +1,20 @@
 #include "batch/batchjournal.h"
 
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
+#include "files/packagetarget.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace lessonhost {
 
@@ -47,35 +54,71 @@ QString shortened(const QByteArray &text)
 
 } // namespace
 
+QString BatchJournal::fileIn(const QString &outputFolder)
+{
+    return outputFolder + QLatin1String("/.lessonconv-done");
+}
+
 BatchJournal::BatchJournal(const QString &outputFolder, const QByteArray &settings)
     : m_folder(outputFolder)
     , m_settings(settings)
-    , m_file(outputFolder + QLatin1String("/.lessonconv-done"))
 {
-    read();
-    dropOldLines();
-    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) {
-        throw LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(m_file.errorString()),
+    const QString file = fileIn(outputFolder);
+    const QFileInfo info(file);
+    // Whoever may write in the folder could lead these lines into any file of this user.
+    if (info.isSymLink() || (info.exists() && !info.isFile())) {
+        throw LessonError(QStringLiteral("This is no file that lessonconv has made"), QStringLiteral("Remove it"))
+            .in(file);
+    }
+    if (info.exists()) {
+        read();
+        dropOldLines();
+    }
+    m_descriptor = ::open(QFile::encodeName(file).constData(),
+                          O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (m_descriptor < 0) {
+        throw LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(systemReason(errno)),
                           QStringLiteral("Check that you may write there and that there is room"))
             .in(outputFolder);
     }
     // The next line must not be taken for the end of one that was cut off.
-    if (m_file.size() > 0) {
-        m_file.write("\n");
+    if (info.size() > 0) {
+        write("\n");
+    }
+}
+
+BatchJournal::~BatchJournal()
+{
+    if (m_descriptor >= 0) {
+        ::close(m_descriptor);
+    }
+}
+
+void BatchJournal::write(const QByteArray &text) const
+{
+    qint64 done = 0;
+    while (done < text.size()) {
+        const ssize_t count = ::write(m_descriptor, text.constData() + done, std::size_t(text.size() - done));
+        if (count < 0 && errno != EINTR) {
+            throw LessonError(QStringLiteral("What is done can't be noted for --resume: %1").arg(systemReason(errno)),
+                              QStringLiteral("Check that there is room"))
+                .in(fileIn(m_folder));
+        }
+        done += qMax<ssize_t>(count, 0);
     }
 }
 
 void BatchJournal::read()
 {
-    if (!m_file.open(QIODevice::ReadOnly)) {
-        return;
-    }
-    while (!m_file.atEnd()) {
-        const QJsonObject line = QJsonDocument::fromJson(m_file.readLine()).object();
+    const QByteArrayList lines = InputFile(fileIn(m_folder)).all().split('\n');
+    for (const QByteArray &text : lines) {
+        if (text.isEmpty()) {
+            continue;
+        }
+        const QJsonObject line = QJsonDocument::fromJson(text).object();
         m_lines.insert(line.value(outputKey).toString(), line);
         ++m_lineCount;
     }
-    m_file.close();
 }
 
 // Without this, a nightly run would make the file longer each night.
@@ -84,13 +127,11 @@ void BatchJournal::dropOldLines()
     if (m_lineCount < 2 * m_lines.size() + 100) {
         return;
     }
-    QSaveFile file(m_file.fileName());
-    if (file.open(QIODevice::WriteOnly)) {
-        for (const QJsonObject &line : qAsConst(m_lines)) {
-            file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
-        }
-        file.commit();
+    PackageTarget target(fileIn(m_folder));
+    for (const QJsonObject &line : qAsConst(m_lines)) {
+        target.file().put(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
     }
+    target.commit();
 }
 
 QString BatchJournal::pathOf(const BatchPlan::Lesson &lesson) const
@@ -127,7 +168,7 @@ void BatchJournal::note(const BatchPlan::Lesson &lesson, const QString &state, c
                            {lessonKey, state},
                            {madeKey, shortened(stateOfPath(pathOf(lesson)))},
                            {resultKey, result}};
-    m_file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+    write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
 }
 
 } // namespace lessonhost

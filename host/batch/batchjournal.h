@@ -3,7 +3,6 @@
 
 #include "batch/batchplan.h"
 
-#include <QFile>
 #include <QHash>
 #include <QJsonObject>
 
@@ -17,27 +16,35 @@ namespace lessonhost {
 class BatchJournal
 {
 public:
+    //! Where the journal of a folder is.
+    static QString fileIn(const QString &outputFolder);
+
     //! settings: whatever makes the same lesson give another result, such as the version. Throws LessonError.
     BatchJournal(const QString &outputFolder, const QByteArray &settings);
+    ~BatchJournal();
+    BatchJournal(const BatchJournal &) = delete;
+    BatchJournal &operator=(const BatchJournal &) = delete;
 
     //! What note() was given when the result was made, if neither the lesson, nor the settings, nor the result have
     //! changed since; otherwise an empty object.
     QJsonObject doneBefore(const BatchPlan::Lesson &lesson);
 
-    //! Remembers the lesson as it was when doneBefore() or stateOf() was asked before the conversion.
+    //! Remembers the lesson as it was when doneBefore() or stateOf() was asked before the conversion. Throws
+    //! LessonError.
     void note(const BatchPlan::Lesson &lesson, const QString &state, const QJsonObject &result);
 
     //! Sizes and times of all files of a lesson, as a short text.
     QString stateOf(const BatchPlan::Lesson &lesson);
 
 private:
+    void write(const QByteArray &text) const;
     QString pathOf(const BatchPlan::Lesson &lesson) const;
     void read();
     void dropOldLines();
 
     QString m_folder;
     QByteArray m_settings;
-    QFile m_file;
+    int m_descriptor = -1; // of the file, to write at its end
     QHash<QString, QJsonObject> m_lines; // by output
     int m_lineCount = 0; // in the file
     QHash<QString, QByteArray> m_folderStates; // folders that many files share

@@ -1,5 +1,6 @@
 #include "batch/batchplan.h"
 
+#include "files/folder.h"
 #include "files/lessonerror.h"
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <tuple>
 
 namespace lessonhost {
 
@@ -64,7 +66,8 @@ public:
             }
             m_seen.insert(canonical);
         }
-        m_plan.lessons.append({input, place, format});
+        m_plan.lessons.append({input, place, format, {}});
+        m_plan.inputs.addLesson(input, format ? format->folderBeside : QString());
     }
 
     void searchFolder(const QString &folder, const QString &place)
@@ -79,11 +82,23 @@ public:
         QVector<QPair<QString, QString>> waiting{{folder, place}};
         while (!waiting.isEmpty()) {
             const auto [path, placeOfPath] = waiting.takeLast();
-            const QFileInfoList entries = QDir(path).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
-            for (const QFileInfo &entry : entries) {
-                const QString entryPlace = placeOfPath + entry.fileName();
-                if (!addIfLesson(entry, entryPlace) && entry.isDir() && !entry.isSymLink()
-                    && entry.canonicalFilePath() != m_output) {
+            int error = 0;
+            const QVector<Folder::Entry> entries = Folder(path).entries(&error);
+            if (error) {
+                addProblem(path, QStringLiteral("The folder can't be searched: %1").arg(systemReason(error)),
+                           QStringLiteral("Check that you may read it"));
+            }
+            for (const Folder::Entry &found : entries) {
+                if (found.name.startsWith('.')) {
+                    continue;
+                }
+                if (found.text().isEmpty()) {
+                    addUnnamed(path, found);
+                    continue;
+                }
+                const QFileInfo entry(path + QLatin1Char('/') + found.text());
+                const QString entryPlace = placeOfPath + found.text();
+                if (!isTakenCareOf(entry, entryPlace) && found.isFolder() && entry.canonicalFilePath() != m_output) {
                     waiting.append({entry.filePath(), entryPlace + QLatin1Char('/')});
                 }
             }
@@ -95,16 +110,47 @@ public:
         nameResults();
         auto &lessons = m_plan.lessons;
         std::sort(lessons.begin(), lessons.end(), [](const BatchPlan::Lesson &one, const BatchPlan::Lesson &other) {
-            return one.output < other.output;
+            return std::tie(one.output, one.input) < std::tie(other.output, other.input);
         });
         m_plan.passedOver.sort();
         return m_plan;
     }
 
 private:
+    void addProblem(const QString &input, const QString &problem, const QString &remedy)
+    {
+        m_plan.lessons.append({input, {}, nullptr, LessonError(problem, remedy).in(input).message()});
+    }
+
+    // Its letters are in another encoding, but its ending tells whether it may be a lesson.
+    void addUnnamed(const QString &folder, const Folder::Entry &entry)
+    {
+        const QFileInfo shown(folder + QLatin1Char('/') + entry.shown());
+        if (entry.isFolder() || stemOf(shown.fileName()) != shown.fileName()) {
+            addProblem(shown.filePath(), QStringLiteral("This name is no UTF-8, so that it can't be looked into"),
+                       QStringLiteral("Give it another name"));
+        }
+    }
+
+    bool isTakenCareOf(const QFileInfo &entry, const QString &place)
+    {
+        try {
+            return addIfLesson(entry, place);
+        } catch (const LessonError &error) {
+            m_plan.lessons.append({entry.filePath(), {}, nullptr, error.message()});
+            return true;
+        }
+    }
+
     bool addIfLesson(const QFileInfo &entry, const QString &place)
     {
         const LessonFormat *format = formatOf(entry);
+        if (!format && !entry.isDir() && !entry.isFile() && stemOf(entry.fileName()) != entry.fileName()) {
+            entry.exists() ? m_plan.passedOver.append(entry.filePath())
+                           : addProblem(entry.filePath(), QStringLiteral("This is a link to nothing"),
+                                        QStringLiteral("Remove it, or put the lesson in its place"));
+            return true;
+        }
         if (!format || (m_from && format != m_from) || (entry.isDir() && entry.isSymLink())) {
             return false;
         }
@@ -123,10 +169,16 @@ private:
         // Some file systems don't tell small letters from capitals.
         QHash<QString, int> counts;
         for (const BatchPlan::Lesson &lesson : qAsConst(m_plan.lessons)) {
+            if (!lesson.problem.isEmpty()) {
+                continue;
+            }
             ++counts[resultOf(lesson.output).toCaseFolded()];
         }
         QHash<QString, QString> inputs;
         for (BatchPlan::Lesson &lesson : m_plan.lessons) {
+            if (!lesson.problem.isEmpty()) {
+                continue;
+            }
             const QString result = resultOf(lesson.output);
             lesson.output = counts.value(result.toCaseFolded()) == 1 ? result : QString(lesson.output + m_extension);
             const QString folded = lesson.output.toCaseFolded();
@@ -142,6 +194,7 @@ private:
                                   QStringLiteral("Give another folder with --out-dir"))
                     .in(lesson.input);
             }
+            m_plan.inputs.check(m_shownOutput + QLatin1Char('/') + lesson.output);
         }
     }
 

@@ -1,6 +1,7 @@
 #ifndef BATCHPLAN_H
 #define BATCHPLAN_H
 
+#include "files/inputguard.h"
 #include "lesson/lesson.h"
 
 #include <QVector>
@@ -17,9 +18,11 @@ struct BatchPlan
         QString input; //!< as the user called it, or the folder as the user called it and the way from there
         QString output; //!< relative to the folder for the results, with "/" between the parts
         const LessonFormat *format = nullptr; //!< null where none can be told: reading it will say so
+        QString problem; //!< why it can't be converted at all, as a sentence; then it has no output
     };
 
     QVector<Lesson> lessons; //!< ascending by output
+    InputGuard inputs; //!< all of them
     QStringList passedOver; //!< files in folders that have the name of a lesson and are something else
 };
 
@@ -30,6 +33,8 @@ struct BatchPlan
  * that is a folder is one lesson and not searched. What is found in a folder keeps its way from there; with several
  * folders, each result lies in a folder of that name. A lesson that is met twice is converted once. Where two lessons
  * would have one name, such as a.zqtx and a.json, both keep the ending that they have: a.zqtx.iwb and a.json.iwb.
+ *
+ * What can't be called or looked into is a lesson with a problem.
  *
  * from: the format of all inputs, or null to tell it from each. Throws LessonError where results can't be kept apart,
  * the results would lie among the lessons, or there is no lesson.

@@ -26,6 +26,7 @@ struct BatchResult
 
     QVector<Lesson> lessons; //!< in the order of the plan
     bool isInterrupted = false;
+    bool hasJournalFailed = false; //!< --resume will not know all that is done
 
     int count(State state) const;
     int lossCount() const;

@@ -1,10 +1,13 @@
 #include "command/command.h"
 
 #include "batch/batch.h"
+#include "batch/batchjournal.h"
 #include "command/lessoninfo.h"
 #include "command/pluginhost.h"
 #include "command/progressbar.h"
 #include "command/terminal.h"
+#include "files/inputfile.h"
+#include "files/inputguard.h"
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
@@ -14,11 +17,11 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLoggingCategory>
 
+#include <cerrno>
 #include <limits>
 
 namespace lessonhost {
@@ -78,15 +81,50 @@ QString wordList()
     return words.join(QLatin1String(", ")) + QLatin1String(" or ") + last;
 }
 
-void writeReport(const QString &path, const QJsonObject &report)
+/*!
+ * The file for what was lost, if one is asked for. That it can't be written is found before anything else is.
+ */
+class ReportFile
 {
-    PackageTarget target(path);
-    QFile file(target.file());
-    const QByteArray text = QJsonDocument(report).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush()) {
-        throw LessonError(QStringLiteral("The report can't be written: %1").arg(file.errorString())).in(path);
+public:
+    explicit ReportFile(const QString &path)
+        : m_target(path.isNull() ? nullptr : std::make_unique<PackageTarget>(path))
+    {
     }
-    target.commitFile();
+
+    void write(const QJsonObject &report)
+    {
+        if (m_target) {
+            m_target->file().put(QJsonDocument(report).toJson());
+            m_target->commit();
+        }
+    }
+
+private:
+    std::unique_ptr<PackageTarget> m_target;
+};
+
+void checkReport(const QString &report, const InputGuard &inputs, const QStringList &outputs)
+{
+    inputs.check(report);
+    for (const QString &output : outputs) {
+        if (isSamePlace(report, output) || liesIn(report, output)) {
+            throw LessonError(QStringLiteral("The report would stand where %1 does").arg(output),
+                              QStringLiteral("Give it another name"))
+                .in(report);
+        }
+    }
+}
+
+QStringList outputsOf(const BatchPlan &plan, const QString &folder)
+{
+    QStringList outputs{BatchJournal::fileIn(folder)};
+    for (const BatchPlan::Lesson &lesson : plan.lessons) {
+        if (lesson.problem.isEmpty()) {
+            outputs.append(folder + QLatin1Char('/') + lesson.output);
+        }
+    }
+    return outputs;
 }
 
 } // namespace
@@ -162,7 +200,8 @@ int Command::run()
         throw LessonError(m_line.problem(), QStringLiteral("See lessonconv --help"));
     }
     if (m_line.isSet("version")) {
-        m_line.showVersion();
+        print(QLatin1String("lessonconv ") + QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+        return Done;
     }
     if (m_line.isSet("verbose")) {
         qInstallMessageHandler(nullptr);
@@ -252,15 +291,20 @@ int Command::convertOne(const QStringList &files) const
     const QString &output = files.last();
     const LessonFormat &from = inputFormat(input);
     const LessonFormat &to = outputFormat(output);
+    InputGuard inputs;
+    inputs.addLesson(input, from.folderBeside);
+    inputs.check(output);
+    if (isSet("report")) {
+        checkReport(value("report"), inputs, {output});
+    }
+    ReportFile report(isSet("report") ? value("report") : QString());
     const PluginHost host(value("plugin"));
     LossReport losses;
     ProgressBar bar(!isSet("quiet"));
     convertLesson(from, input, to, output, conversionContext(host, &losses),
                   [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
-    if (isSet("report")) {
-        writeReport(value("report"), losses.toJson());
-    }
+    report.write(losses.toJson());
     if (isSet("json")) {
         QJsonObject result = losses.toJson();
         result.insert(QStringLiteral("input"), input);
@@ -285,10 +329,9 @@ BatchSettings Command::batchSettings(const PluginHost &host) const
     settings.workerArguments =
         QStringList{QStringLiteral("serve"), QStringLiteral("--plugin"), host.fileName()} + arguments;
     QCryptographicHash plugin(QCryptographicHash::Sha1);
-    QFile file(host.fileName());
-    if (file.open(QIODevice::ReadOnly)) {
-        plugin.addData(&file);
-    }
+    InputFile file(host.fileName());
+    plugin.addData(&file);
+    file.check();
     settings.fingerprint = arguments.join(QLatin1Char(' ')).toUtf8() + ' '
         + QCoreApplication::applicationVersion().toUtf8() + ' ' + plugin.result().toHex();
     return settings;
@@ -306,11 +349,16 @@ int Command::convertMany(const QStringList &inputs) const
     const PluginHost host(value("plugin"));
     const BatchSettings settings = batchSettings(host);
     const BatchPlan plan = planBatch(inputs, from, to, settings.outputFolder);
+    if (isSet("report")) {
+        checkReport(value("report"), plan.inputs, outputsOf(plan, settings.outputFolder));
+    }
+    errno = 0;
     if (!QDir().mkpath(settings.outputFolder)) {
-        throw LessonError(QStringLiteral("The folder for the results can't be made"),
+        throw LessonError(QStringLiteral("The folder for the results can't be made: %1").arg(systemReason(errno)),
                           QStringLiteral("Check the path and that you may write there"))
             .in(settings.outputFolder);
     }
+    ReportFile report(isSet("report") ? value("report") : QString());
     ProgressBar bar(!isSet("quiet"));
     BatchWatcher watcher;
     watcher.progress = [&bar](int done, int total, const QString &name) { bar.show(done, total, "lessons", name); };
@@ -320,15 +368,13 @@ int Command::convertMany(const QStringList &inputs) const
     };
     const BatchResult result = runBatch(plan, settings, watcher);
     bar.clear();
-    if (isSet("report")) {
-        writeReport(value("report"), result.toJson(plan));
-    }
+    report.write(result.toJson(plan));
     if (isSet("json")) {
         printJson(result.toJson(plan));
     } else if (!isSet("quiet")) {
         print(result.summary(plan, isSet("report")));
     }
-    if (result.isInterrupted || result.count(BatchResult::Failed) > 0) {
+    if (result.isInterrupted || result.hasJournalFailed || result.count(BatchResult::Failed) > 0) {
         return NotDone;
     }
     return isSet("strict") && result.lossCount() > 0 ? DoneWithLosses : Done;
@@ -348,7 +394,7 @@ int Command::serve(const QStringList &) const
 
 int Command::render(const QStringList &files) const
 {
-    const RenderSettings settings = renderSettings();
+    const RenderSettings settings = renderSettings(files.mid(0, files.size() - 1));
     const PluginHost host(value("plugin"));
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
@@ -362,7 +408,7 @@ int Command::render(const QStringList &files) const
 
 int Command::renderDifference(const QStringList &files) const
 {
-    const RenderSettings settings = renderSettings();
+    const RenderSettings settings = renderSettings(files.mid(0, files.size() - 1));
     const PluginHost host(value("plugin"));
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
@@ -376,11 +422,15 @@ int Command::renderDifference(const QStringList &files) const
     return Done;
 }
 
-RenderSettings Command::renderSettings() const
+RenderSettings Command::renderSettings(const QStringList &inputs) const
 {
     RenderSettings settings;
     settings.size = sizeFromText(value("size"));
     settings.slides = slidesFromText(value("slides"));
+    for (const QString &input : inputs) {
+        const LessonFormat &format = input == inputs.first() ? inputFormat(input) : lessonFormatOfInput(input);
+        settings.inputs.addLesson(input, format.folderBeside);
+    }
     return settings;
 }
 

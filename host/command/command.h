@@ -71,7 +71,7 @@ private:
     LessonContext readingContext(const PluginHost &host) const;
     LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
     BatchSettings batchSettings(const PluginHost &host) const;
-    RenderSettings renderSettings() const;
+    RenderSettings renderSettings(const QStringList &inputs) const;
     void tellRendered(const QJsonObject &result) const;
 
     CommandLine m_line;

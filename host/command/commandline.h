@@ -42,7 +42,6 @@ public:
     bool isUnderstood() const { return m_isUnderstood; }
     QString problem() const { return m_parser.errorText(); }
     QString help() const { return m_parser.helpText(); }
-    [[noreturn]] void showVersion() { m_parser.showVersion(); }
 
     //! The command's word and its files; empty if the line isn't understood.
     QStringList words() const { return m_isUnderstood ? m_parser.positionalArguments() : QStringList(); }

@@ -1,8 +1,14 @@
 #include "command/terminal.h"
 
+#include "files/lessonerror.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
+
+#include <cerrno>
+
+#include <unistd.h>
 
 namespace lessonhost {
 
@@ -23,7 +29,14 @@ QString printable(QString text)
 
 void print(const QString &text)
 {
-    QTextStream(stdout) << printable(text);
+    const QByteArray bytes = printable(text).toLocal8Bit();
+    for (int done = 0; done < bytes.size();) {
+        const ssize_t count = ::write(STDOUT_FILENO, bytes.constData() + done, std::size_t(bytes.size() - done));
+        if (count < 0 && errno != EINTR) {
+            throw writeError(QStringLiteral("Standard output"), errno);
+        }
+        done += int(qMax<ssize_t>(count, 0));
+    }
 }
 
 void printJson(const QJsonObject &object)

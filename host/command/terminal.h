@@ -9,10 +9,10 @@ namespace lessonhost {
 
 // What the command says. What would move a terminal's cursor is replaced.
 
-//! On standard output.
+//! On standard output. Throws LessonError if it is full or closed.
 void print(const QString &text);
 
-//! On standard output.
+//! The same.
 void printJson(const QJsonObject &object);
 
 //! On standard error, as a sentence of the command.

@@ -1,5 +1,7 @@
 #include "files/lessonerror.h"
 
+#include <cstring>
+
 namespace lessonhost {
 
 LessonError::LessonError(const QString &problem, const QString &remedy)
@@ -56,6 +58,21 @@ QJsonObject LessonError::toJson() const
 const char *LessonError::what() const noexcept
 {
     return m_what.constData();
+}
+
+QString systemReason(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+LessonError writeError(const QString &shownName, int error, bool isTemporary)
+{
+    return LessonError((isTemporary ? QStringLiteral("Its files can't be unpacked: %1")
+                                    : QStringLiteral("It can't be written: %1"))
+                           .arg(systemReason(error)),
+                       isTemporary ? QStringLiteral("Make room in the folder for temporary files")
+                                   : QStringLiteral("Check that there is room and that you may write there"))
+        .in(shownName);
 }
 
 } // namespace lessonhost

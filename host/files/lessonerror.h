@@ -39,6 +39,12 @@ private:
     int m_line = 0;
 };
 
+//! Why the system refused, in its own words, for an errno.
+QString systemReason(int error);
+
+//! That a file can't be written: an output, or one among the temporary files that a lesson needs.
+LessonError writeError(const QString &shownName, int error, bool isTemporary = false);
+
 } // namespace lessonhost
 
 #endif // LESSONERROR_H

@@ -1,11 +1,11 @@
 #include "files/packagesource.h"
 
+#include "files/folder.h"
 #include "files/lessonerror.h"
 #include "files/packagenames.h"
 #include "files/ziparchive.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 
 namespace lessonhost {
@@ -26,6 +26,31 @@ bool leadsThroughLink(const QString &directory, const QString &relativePath)
     return false;
 }
 
+LessonError linkError(const QString &shownName)
+{
+    return LessonError(QStringLiteral("This is a link, which a package must not hold"),
+                       QStringLiteral("Put the file itself in its place"))
+        .in(shownName);
+}
+
+// What is left out here would be missing in the output without a word.
+void checkEntry(const Folder::Entry &entry, const QString &shownName)
+{
+    if (entry.isLink()) {
+        throw linkError(shownName);
+    }
+    if (entry.text().isEmpty()) {
+        throw LessonError(QStringLiteral("The name of this file is no UTF-8, so that no lesson can call it"),
+                          QStringLiteral("Give it another name"))
+            .in(shownName);
+    }
+    if (!entry.isFolder() && !entry.isFile()) {
+        throw LessonError(QStringLiteral("This is a pipe or a device, which a package must not hold"),
+                          QStringLiteral("Remove it from the folder"))
+            .in(shownName);
+    }
+}
+
 } // namespace
 
 PackageSource::PackageSource(const QString &path)
@@ -43,10 +68,6 @@ PackageSource::PackageSource(const QString &path)
         return;
     }
     m_unpacked = std::make_unique<WorkFolder>();
-    if (!m_unpacked->isValid()) {
-        throw LessonError(QStringLiteral("No temporary folder can be made: %1").arg(m_unpacked->errorString()),
-                          QStringLiteral("Make room in the folder for temporary files"));
-    }
     m_directory = m_unpacked->path();
     unpackZip(path, m_directory);
 }
@@ -66,9 +87,7 @@ QString PackageSource::file(const QString &relativePath) const
             .in(m_path);
     }
     if (leadsThroughLink(m_directory, relativePath)) {
-        throw LessonError(QStringLiteral("This is a link, which a package must not hold"),
-                          QStringLiteral("Put the file itself in its place"))
-            .in(displayName(relativePath));
+        throw linkError(displayName(relativePath));
     }
     const QString file = m_directory + QLatin1Char('/') + relativePath;
     if (!QFileInfo(file).isFile()) {
@@ -86,10 +105,26 @@ QString PackageSource::displayName(const QString &relativePath) const
 QStringList PackageSource::files() const
 {
     QStringList files;
-    const QDir root(m_directory);
-    QDirIterator it(m_directory, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        files.append(root.relativeFilePath(it.next()));
+    // A stack of its own: folders may lie in each other deeper than calls may.
+    QStringList waiting{QString()};
+    while (!waiting.isEmpty()) {
+        const QString place = waiting.takeLast();
+        int error = 0;
+        const QVector<Folder::Entry> entries = Folder(m_directory + QLatin1Char('/') + place).entries(&error);
+        if (error) {
+            throw LessonError(QStringLiteral("The folder can't be read: %1").arg(systemReason(error)),
+                              QStringLiteral("Check that you may read it"))
+                .in(place.isEmpty() ? m_path : displayName(place));
+        }
+        for (const Folder::Entry &entry : entries) {
+            const QString path = place + entry.text();
+            checkEntry(entry, displayName(place + entry.shown()));
+            if (entry.isFolder()) {
+                waiting.append(path + QLatin1Char('/'));
+            } else {
+                files.append(path);
+            }
+        }
     }
     files.sort();
     return files;

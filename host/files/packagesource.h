@@ -32,7 +32,8 @@ public:
     QString file(const QString &relativePath) const;
     //! Name for messages: the package and the path inside.
     QString displayName(const QString &relativePath) const;
-    //! All files, ascending, relative to the package. Links are left out.
+    //! All files, ascending, relative to the package. Throws LessonError for links, devices, and names that can't be
+    //! told.
     QStringList files() const;
 
 private:

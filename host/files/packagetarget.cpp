@@ -11,7 +11,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -28,22 +27,26 @@ class StagingLock
 public:
     enum Kind { Own, Left }; //!< a new one, or one that is there and whose run may be no more
 
-    StagingLock(const QString &file, Kind kind)
-        : m_file(QFile::encodeName(file))
-        , m_descriptor(::open(m_file.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | (kind == Own ? O_CREAT : 0), 0666))
+    StagingLock(const Folder &folder, const QByteArray &name, Kind kind)
+        : m_folder(folder)
+        , m_name(name)
+        , m_descriptor(::openat(folder.descriptor(), name.constData(),
+                                O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | (kind == Own ? O_CREAT | O_EXCL : 0),
+                                0666))
     {
+        m_error = m_descriptor < 0 ? errno : 0;
         if (m_descriptor < 0) {
             return;
         }
         // Where the file system knows no locks, a run may go on, and nothing is swept.
         const bool isLocked = ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || (kind == Own && errno != EWOULDBLOCK);
-        m_isHeld = isLocked && isStillThere();
+        m_isHeld = isLocked && isOwnAndThere();
     }
 
     ~StagingLock()
     {
         if (m_isHeld) {
-            ::unlink(m_file.constData());
+            ::unlinkat(m_folder.descriptor(), m_name.constData(), 0);
         }
         if (m_descriptor >= 0) {
             ::close(m_descriptor);
@@ -53,41 +56,43 @@ public:
     StagingLock &operator=(const StagingLock &) = delete;
 
     bool isHeld() const { return m_isHeld; }
+    //! Lets the file be, for the next sweep.
+    void leave() { m_isHeld = false; }
+    //! An errno, where it can't be made.
+    int error() const { return m_error; }
 
 private:
     // A sweep may have removed it between the two steps.
-    bool isStillThere() const
+    bool isOwnAndThere() const
     {
         struct stat opened = {};
         struct stat there = {};
-        return ::fstat(m_descriptor, &opened) == 0 && ::stat(m_file.constData(), &there) == 0
-            && opened.st_ino == there.st_ino && opened.st_dev == there.st_dev;
+        return ::fstat(m_descriptor, &opened) == 0
+            && ::fstatat(m_folder.descriptor(), m_name.constData(), &there, AT_SYMLINK_NOFOLLOW) == 0
+            && opened.st_ino == there.st_ino && opened.st_dev == there.st_dev && opened.st_uid == ::geteuid()
+            && S_ISREG(opened.st_mode);
     }
 
-    QByteArray m_file;
+    const Folder &m_folder;
+    QByteArray m_name;
     int m_descriptor;
+    int m_error = 0;
     bool m_isHeld = false;
 };
 
 namespace {
 
-const QLatin1String stagingPrefix(".lessonconv-");
-const QLatin1String lockSuffix(".lock");
+const char *const stagingPrefix = ".lessonconv-";
+const char *const lockSuffix = ".lock";
 constexpr int mostLockTries = 100;
 const QLatin1String packagePart("/package");
+const QLatin1String workPart("/work");
 const QLatin1String filePart("/file");
-const QLatin1String replacedPart("/replaced");
-
-LessonError writeError(const QString &file, const QString &reason)
-{
-    return LessonError(QStringLiteral("It can't be written: %1").arg(reason),
-                       QStringLiteral("Check that there is room and that you may write there"))
-        .in(file);
-}
+const char *const replacedName = "replaced";
 
 LessonError systemError(const QString &file)
 {
-    return writeError(file, QString::fromLocal8Bit(std::strerror(errno)));
+    return writeError(file, errno);
 }
 
 bool renameOver(const QString &from, const QString &to)
@@ -97,36 +102,68 @@ bool renameOver(const QString &from, const QString &to)
 
 bool exchange(const QString &one, const QString &other)
 {
-#ifdef RENAME_EXCHANGE
-    return renameat2(AT_FDCWD, QFile::encodeName(one).constData(), AT_FDCWD, QFile::encodeName(other).constData(),
-                     RENAME_EXCHANGE)
+    return ::renameat2(AT_FDCWD, QFile::encodeName(one).constData(), AT_FDCWD, QFile::encodeName(other).constData(),
+                       RENAME_EXCHANGE)
         == 0;
-#else
-    Q_UNUSED(one)
-    Q_UNUSED(other)
-    return false;
-#endif
 }
 
-void flushToDisk(const QString &file)
+/*!
+ * Files that are put in their places one after the other, and all of them back if one can't be.
+ */
+class Placing
 {
-    const int descriptor = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        ::fsync(descriptor);
-        ::close(descriptor);
+public:
+    Placing(const Folder &from, const Folder &to, const Folder &aside)
+        : m_from(from)
+        , m_to(to)
+        , m_aside(aside)
+    {
     }
-}
+
+    ~Placing()
+    {
+        for (auto name = m_begun.crbegin(); name != m_begun.crend(); ++name) {
+            if (!move(m_aside, m_to, *name) && errno == ENOENT) {
+                move(m_to, m_from, *name);
+            }
+        }
+    }
+    Placing(const Placing &) = delete;
+    Placing &operator=(const Placing &) = delete;
+
+    // What is there already stays beside the new file, under a second name where the file system knows such.
+    bool place(const QByteArray &name)
+    {
+        const bool isAside =
+            ::linkat(m_to.descriptor(), name.constData(), m_aside.descriptor(), name.constData(), 0) == 0
+            || errno == ENOENT || move(m_to, m_aside, name);
+        if (isAside) {
+            m_begun.append(name);
+        }
+        return isAside && move(m_from, m_to, name);
+    }
+
+    void keep() { m_begun.clear(); }
+
+private:
+    static bool move(const Folder &from, const Folder &to, const QByteArray &name)
+    {
+        return ::renameat(from.descriptor(), name.constData(), to.descriptor(), name.constData()) == 0;
+    }
+
+    const Folder &m_from;
+    const Folder &m_to;
+    const Folder &m_aside;
+    QVector<QByteArray> m_begun;
+};
 
 // What a killed run had moved aside to make place goes back, if nothing took its place since.
-void restoreReplaced(const QString &staging, const QString &parent)
+void restoreReplaced(const Folder &staging, const Folder &parent)
 {
-    const QDir replaced(staging + replacedPart);
-    const QStringList names = replaced.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    for (const QString &name : names) {
-        const QString place = parent + QLatin1Char('/') + name;
-        if (!QFileInfo::exists(place)) {
-            renameOver(replaced.filePath(name), place);
-        }
+    const Folder replaced(staging, replacedName);
+    const QVector<Folder::Entry> left = replaced.entries();
+    for (const Folder::Entry &entry : left) {
+        replaced.moveTo(parent, entry.name);
     }
 }
 
@@ -134,21 +171,28 @@ void restoreReplaced(const QString &staging, const QString &parent)
 
 void PackageTarget::sweep(const QString &folder)
 {
-    const QStringList locks = QDir(folder).entryList({stagingPrefix + QLatin1Char('*') + lockSuffix},
-                                                     QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QString &name : locks) {
-        const QString lockPath = folder + QLatin1Char('/') + name;
-        const StagingLock lock(lockPath, StagingLock::Left);
-        if (lock.isHeld()) {
-            const QString staging = lockPath.chopped(lockSuffix.size());
-            restoreReplaced(staging, folder);
-            QDir(staging).removeRecursively();
+    const Folder parent(folder);
+    const QVector<Folder::Entry> entries = parent.entries();
+    for (const Folder::Entry &entry : entries) {
+        if (!entry.isFile() || !entry.name.startsWith(stagingPrefix) || !entry.name.endsWith(lockSuffix)) {
+            continue;
+        }
+        StagingLock lock(parent, entry.name, StagingLock::Left);
+        const QByteArray name = entry.name.chopped(int(qstrlen(lockSuffix)));
+        const Folder staging(parent, name);
+        if (lock.isHeld() && staging.isOpen() && staging.isOwn()) {
+            restoreReplaced(staging, parent);
+            if (!parent.remove(name)) {
+                lock.leave();
+            }
         }
     }
 }
 
-PackageTarget::PackageTarget(const QString &target)
+PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isReplaceable)
     : m_shownTarget(target)
+    , m_kind(kind)
+    , m_isReplaceable(std::move(isReplaceable))
 {
     const QFileInfo info(QDir::cleanPath(target));
     m_target = info.exists() && info.isSymLink() ? info.canonicalFilePath() : info.absoluteFilePath();
@@ -158,23 +202,53 @@ PackageTarget::PackageTarget(const QString &target)
                           QStringLiteral("Make the folder first, or check the path"))
             .in(target);
     }
-    sweep(parent.filePath());
-    // The sweep of another run may take a lock file in the moment between its making and its locking.
-    for (int tries = 0; tries < mostLockTries && !(m_lock && m_lock->isHeld()); ++tries) {
-        m_staging = parent.filePath() + QLatin1Char('/') + stagingPrefix
-            + QString::number(QRandomGenerator::system()->generate64(), 36);
-        m_lock = std::make_unique<StagingLock>(m_staging + lockSuffix, StagingLock::Own);
+    if (m_kind == Directory) {
+        checkDirectory();
+    } else if (m_kind != Files) {
+        checkPlace(m_target, m_shownTarget);
     }
-    if (!m_lock->isHeld() || !QDir().mkpath(directory())) {
-        throw LessonError(QStringLiteral("Nothing can be written in this folder"),
-                          QStringLiteral("Check that you may write there and that there is room"))
-            .in(parent.filePath());
+    sweep(parent.filePath());
+    makeStaging(parent.filePath());
+}
+
+void PackageTarget::makeStaging(const QString &parent)
+{
+    m_parent = std::make_unique<Folder>(parent);
+    QByteArray name;
+    // The sweep of another run may take a lock file in the moment between its making and its locking.
+    for (int tries = 0; tries < mostLockTries && !(m_lock && (m_lock->isHeld() || m_lock->error())); ++tries) {
+        name = stagingPrefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
+        m_lock = std::make_unique<StagingLock>(*m_parent, name + lockSuffix, StagingLock::Own);
+    }
+    m_staging = parent + QLatin1Char('/') + QString::fromLatin1(name);
+    int error = m_lock->error();
+    if (!error) {
+        // Nobody else has anything to do in it.
+        const bool isMade = m_lock->isHeld() && ::mkdirat(m_parent->descriptor(), name.constData(), 0700) == 0
+            && ::mkdir(QFile::encodeName(directory()).constData(), 0777) == 0
+            && ::mkdir(QFile::encodeName(workFolder()).constData(), 0700) == 0;
+        error = isMade ? 0 : errno;
+    }
+    if (error) {
+        const LessonError problem =
+            LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(systemReason(error)),
+                        QStringLiteral("Check that you may write there and that there is room"))
+                .in(parent);
+        removeStaging();
+        throw problem;
     }
 }
 
 PackageTarget::~PackageTarget()
 {
-    QDir(m_staging).removeRecursively();
+    removeStaging();
+}
+
+void PackageTarget::removeStaging()
+{
+    if (!m_parent->remove(QFile::encodeName(QFileInfo(m_staging).fileName()))) {
+        m_lock->leave();
+    }
 }
 
 QString PackageTarget::directory() const
@@ -182,12 +256,40 @@ QString PackageTarget::directory() const
     return m_staging + packagePart;
 }
 
-QString PackageTarget::file() const
+QString PackageTarget::workFolder() const
 {
-    return m_staging + filePart;
+    return m_staging + workPart;
 }
 
-QString PackageTarget::makeFile(const QString &relativePath)
+OutputFile &PackageTarget::file()
+{
+    if (!m_file) {
+        m_file = std::make_unique<OutputFile>(m_staging + filePart, m_shownTarget);
+    }
+    return *m_file;
+}
+
+void PackageTarget::expectFiles(qint64 count) const
+{
+    if (m_kind == Archive && count > mostFilesInArchive) {
+        throw LessonError(
+            QStringLiteral("The lesson has more than the %1 files that an archive can hold").arg(mostFilesInArchive),
+            QStringLiteral("Write it as a folder, or divide it"))
+            .in(m_shownTarget);
+    }
+}
+
+void PackageTarget::count(qint64 bytes)
+{
+    m_bytes += bytes;
+    if (m_kind == Archive && m_bytes > mostBytesInArchive) {
+        throw LessonError(QStringLiteral("The lesson has more than the 2 GiB that are read from an archive"),
+                          QStringLiteral("Write it as a folder, or divide it"))
+            .in(m_shownTarget);
+    }
+}
+
+QString PackageTarget::makePlace(const QString &relativePath)
 {
     const QString problem = problemWithPackagePath(relativePath);
     if (!problem.isEmpty()) {
@@ -201,69 +303,69 @@ QString PackageTarget::makeFile(const QString &relativePath)
             .in(m_shownTarget);
     }
     m_paths.insert(relativePath);
-    const QString file = directory() + QLatin1Char('/') + relativePath;
-    if (!QDir().mkpath(QFileInfo(file).path())) {
-        throw systemError(m_shownTarget);
+    expectFiles(m_paths.size());
+    if (m_kind == Files) {
+        checkPlace(QFileInfo(m_target).path() + QLatin1Char('/') + relativePath, shownPlace(relativePath));
     }
-    return file;
+    const QString place = directory() + QLatin1Char('/') + relativePath;
+    makeFolders(QFileInfo(place).path(), m_shownTarget);
+    return place;
+}
+
+std::unique_ptr<OutputFile> PackageTarget::newFile(const QString &relativePath)
+{
+    return std::make_unique<OutputFile>(makePlace(relativePath), m_shownTarget);
 }
 
 void PackageTarget::write(const QString &relativePath, const QByteArray &content)
 {
-    put(makeFile(relativePath), content, QIODevice::WriteOnly);
+    count(content.size());
+    writeFile(makePlace(relativePath), content, m_shownTarget);
 }
 
 void PackageTarget::append(const QString &relativePath, const QByteArray &content)
 {
-    put(directory() + QLatin1Char('/') + relativePath, content, QIODevice::Append);
+    count(content.size());
+    OutputFile file(directory() + QLatin1Char('/') + relativePath, m_shownTarget, OutputFile::Result,
+                    OutputFile::Behind);
+    file.put(content);
+    file.finish();
 }
 
-void PackageTarget::put(const QString &path, const QByteArray &content, QIODevice::OpenMode mode) const
+void PackageTarget::copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName)
 {
-    QFile file(path);
-    if (!file.open(mode) || file.write(content) != content.size() || !file.flush()) {
-        throw writeError(m_shownTarget, file.errorString());
-    }
+    count(QFileInfo(sourceFile).size());
+    copyFile(sourceFile, sourceName, makePlace(relativePath), m_shownTarget);
 }
 
-void PackageTarget::copy(const QString &relativePath, const QString &sourceFile)
+void PackageTarget::take(const QString &relativePath, const QString &file)
 {
-    QFile source(sourceFile);
-    const QString file = makeFile(relativePath);
-    if (!source.copy(file)) {
-        throw writeError(m_shownTarget, source.errorString());
-    }
-    QFile::setPermissions(file, QFile::permissions(file) | QFileDevice::WriteOwner);
-}
-
-void PackageTarget::checkTargetIsNoFolder() const
-{
-    const QFileInfo info(m_target);
-    if (info.isDir()) {
-        throw LessonError(QStringLiteral("There is a folder of this name already"),
-                          QStringLiteral("Give another name, or remove the folder"))
-            .in(m_shownTarget);
-    }
-    if (info.exists() && !info.isWritable()) {
-        throw LessonError(QStringLiteral("The file is protected against writing"),
-                          QStringLiteral("Give another name, or allow writing"))
-            .in(m_shownTarget);
-    }
-}
-
-void PackageTarget::commitFile()
-{
-    checkTargetIsNoFolder();
-    if (QFileInfo::exists(m_target)) {
-        QFile::setPermissions(file(), QFile::permissions(m_target));
-    }
-    flushToDisk(file());
-    if (!renameOver(file(), m_target)) {
+    count(QFileInfo(file).size());
+    if (!renameOver(file, makePlace(relativePath))) {
         throw systemError(m_shownTarget);
     }
 }
 
-void PackageTarget::commitDirectory(const std::function<bool(const QString &)> &isReplaceable)
+// One of several files, as the user would call it.
+QString PackageTarget::shownPlace(const QString &relativePath) const
+{
+    return m_shownTarget.left(m_shownTarget.lastIndexOf(QLatin1Char('/')) + 1) + relativePath;
+}
+
+// Where a file is to stand, there may be another file.
+void PackageTarget::checkPlace(const QString &path, const QString &shownName) const
+{
+    struct stat there = {};
+    if (::stat(QFile::encodeName(path).constData(), &there) != 0 || S_ISREG(there.st_mode)) {
+        return;
+    }
+    throw LessonError(S_ISDIR(there.st_mode) ? QStringLiteral("There is a folder of this name already")
+                                             : QStringLiteral("There is a device or a pipe of this name"),
+                      QStringLiteral("Give another name, or remove it"))
+        .in(shownName);
+}
+
+void PackageTarget::checkDirectory() const
 {
     const QFileInfo info(m_target);
     if (info.exists() && !info.isDir()) {
@@ -271,13 +373,84 @@ void PackageTarget::commitDirectory(const std::function<bool(const QString &)> &
                           QStringLiteral("Give another name, or remove the file"))
             .in(m_shownTarget);
     }
-    if (info.exists() && !QDir(m_target).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
-        && !isReplaceable(m_target)) {
+    if (info.exists() && !QDir(m_target).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)
+        && !(m_isReplaceable && m_isReplaceable(m_target))) {
         throw LessonError(QStringLiteral("There is a folder of this name already, and it is no lesson"),
                           QStringLiteral("Give another name, or remove the folder"))
             .in(m_shownTarget);
     }
-    if (!info.exists()) {
+}
+
+void PackageTarget::keepPermissions(const QString &file, const QString &place) const
+{
+    struct stat there = {};
+    if (::stat(QFile::encodeName(place).constData(), &there) == 0
+        && ::chmod(QFile::encodeName(file).constData(), there.st_mode & 0777) != 0) {
+        throw systemError(m_shownTarget);
+    }
+}
+
+// One wait for all files is shorter than one for each.
+void PackageTarget::waitForDisk() const
+{
+    if (m_isKept && ::syncfs(m_parent->descriptor()) != 0 && errno != ENOSYS) {
+        throw systemError(m_shownTarget);
+    }
+}
+
+void PackageTarget::commit()
+{
+    switch (m_kind) {
+    case OneFile:
+        return commitFile();
+    case Files:
+        return commitFiles();
+    case Directory:
+        return commitDirectory();
+    case Archive:
+        return commitArchive();
+    }
+}
+
+void PackageTarget::commitFile()
+{
+    checkPlace(m_target, m_shownTarget);
+    OutputFile &written = file();
+    keepPermissions(m_staging + filePart, m_target);
+    written.finish(m_isKept);
+    if (!renameOver(m_staging + filePart, m_target)) {
+        throw systemError(m_shownTarget);
+    }
+}
+
+void PackageTarget::commitFiles()
+{
+    const Folder staging(*m_parent, QFile::encodeName(QFileInfo(m_staging).fileName()));
+    const Folder package(staging, "package");
+    if (::mkdirat(staging.descriptor(), replacedName, 0700) != 0) {
+        throw systemError(m_shownTarget);
+    }
+    const Folder replaced(staging, replacedName);
+    for (const QString &path : qAsConst(m_paths)) {
+        const QString place = QFileInfo(m_target).path() + QLatin1Char('/') + path;
+        checkPlace(place, shownPlace(path));
+        keepPermissions(directory() + QLatin1Char('/') + path, place);
+    }
+    waitForDisk();
+    Placing placing(package, *m_parent, replaced);
+    for (const QString &path : qAsConst(m_paths)) {
+        if (!placing.place(QFile::encodeName(path))) {
+            throw systemError(m_shownTarget);
+        }
+    }
+    placing.keep();
+}
+
+void PackageTarget::commitDirectory()
+{
+    checkDirectory();
+    waitForDisk();
+    if (!QFileInfo::exists(m_target)) {
         if (!renameOver(directory(), m_target)) {
             throw systemError(m_shownTarget);
         }
@@ -287,8 +460,9 @@ void PackageTarget::commitDirectory(const std::function<bool(const QString &)> &
         return;
     }
     // Where the file system can't exchange two folders: the old one moves aside, and back if the new one can't come.
-    const QString aside = m_staging + replacedPart + QLatin1Char('/') + info.fileName();
-    if (!QDir().mkpath(m_staging + replacedPart) || !renameOver(m_target, aside)) {
+    const QString replaced = m_staging + QLatin1Char('/') + QLatin1String(replacedName);
+    const QString aside = replaced + QLatin1Char('/') + QFileInfo(m_target).fileName();
+    if (::mkdir(QFile::encodeName(replaced).constData(), 0700) != 0 || !renameOver(m_target, aside)) {
         throw systemError(m_shownTarget);
     }
     if (!renameOver(directory(), m_target)) {
@@ -300,11 +474,11 @@ void PackageTarget::commitDirectory(const std::function<bool(const QString &)> &
 
 void PackageTarget::commitArchive()
 {
-    checkTargetIsNoFolder();
-    try {
-        packZip(directory(), file());
-    } catch (LessonError &error) {
-        throw error.in(m_shownTarget);
+    packZip(directory(), file(), m_shownTarget);
+    if (isPackedTooTightly(m_bytes, file().size())) {
+        throw LessonError(QStringLiteral("The lesson's files pack so tightly that nobody would take it for a lesson"),
+                          QStringLiteral("Write it as a folder"))
+            .in(m_shownTarget);
     }
     commitFile();
 }

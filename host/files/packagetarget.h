@@ -1,7 +1,9 @@
 #ifndef PACKAGETARGET_H
 #define PACKAGETARGET_H
 
-#include <QIODevice>
+#include "files/folder.h"
+#include "files/outputfile.h"
+
 #include <QSet>
 #include <QString>
 
@@ -13,54 +15,89 @@ namespace lessonhost {
 class StagingLock;
 
 /*!
- * A file or package being written: a staging folder beside the target, put in the target's place at the end.
+ * What is being written: a staging folder beside the target, put in the target's place at the end.
  *
- * An object that goes without commit...() takes its staging folder with it. A run that was killed leaves one behind;
- * the next run that writes beside it removes it. Every function throws LessonError.
+ * An object that goes without commit() takes its staging folder with it. A run that was killed leaves one behind; the
+ * next run that writes beside it removes it. Every function throws LessonError.
  */
 class PackageTarget
 {
 public:
-    explicit PackageTarget(const QString &target);
+    enum Kind {
+        OneFile,
+        Files, //!< several in the target's folder; the target is what all of them are called together
+        Directory,
+        Archive
+    };
+    //! Whether a folder that is there already and isn't empty may be replaced.
+    using IsReplaceable = std::function<bool(const QString &directory)>;
+
+    //! Refuses at once what could not be put in place at the end.
+    explicit PackageTarget(const QString &target, Kind kind = OneFile, IsReplaceable isReplaceable = {});
     ~PackageTarget();
     PackageTarget(const PackageTarget &) = delete;
     PackageTarget &operator=(const PackageTarget &) = delete;
 
-    //! Removes what runs that are no more left behind in a folder.
+    //! Removes what runs that are no more left behind in a folder: folders of this user, no links and nothing that a
+    //! link leads to.
     static void sweep(const QString &folder);
 
     //! What the user called it, for messages.
     QString target() const { return m_shownTarget; }
     //! The folder in which a package is put together, without a separator at its end.
     QString directory() const;
-    //! The file to write, for a target that is a single file.
-    QString file() const;
+    //! A folder beside it for what is only needed meanwhile, without a separator at its end.
+    QString workFolder() const;
 
-    //! Makes the folders on the way to a path in the package and gives the file on disk. Refuses unsafe paths and one
+    //! The file to write, for a target that is a single file.
+    OutputFile &file();
+
+    //! What is not for the user needn't wait for the disk.
+    void setKept(bool isKept) { m_isKept = isKept; }
+
+    //! How many files are to come. Refuses what no reader would take, before the work is done.
+    void expectFiles(qint64 count) const;
+
+    //! A new file of a package or of several files, by its path relative to the target. Refuses unsafe paths and one
     //! that was given out before.
-    QString makeFile(const QString &relativePath);
+    std::unique_ptr<OutputFile> newFile(const QString &relativePath);
     void write(const QString &relativePath, const QByteArray &content);
     //! Writes behind what write() has written.
     void append(const QString &relativePath, const QByteArray &content);
-    void copy(const QString &relativePath, const QString &sourceFile);
+    //! sourceName stands for the source in messages.
+    void copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName);
+    //! Moves a file from the work folder into the package.
+    void take(const QString &relativePath, const QString &file);
 
-    //! Puts the single file in the place of the target.
-    void commitFile();
-    //! Puts the folder in the place of the target. A folder that is there already is only replaced if it is empty or
-    //! isReplaceable says so.
-    void commitDirectory(const std::function<bool(const QString &directory)> &isReplaceable);
-    //! Puts an archive of the folder in the place of the target.
-    void commitArchive();
+    //! Puts what was written in the place of the target, all of it or nothing.
+    void commit();
 
 private:
-    void put(const QString &path, const QByteArray &content, QIODevice::OpenMode mode) const;
-    void checkTargetIsNoFolder() const;
+    QString makePlace(const QString &relativePath);
+    void count(qint64 bytes);
+    void makeStaging(const QString &parent);
+    void removeStaging();
+    QString shownPlace(const QString &relativePath) const;
+    void checkPlace(const QString &path, const QString &shownName) const;
+    void checkDirectory() const;
+    void keepPermissions(const QString &file, const QString &place) const;
+    void waitForDisk() const;
+    void commitFile();
+    void commitFiles();
+    void commitDirectory();
+    void commitArchive();
 
     QString m_shownTarget;
     QString m_target; // absolute, links resolved
+    Kind m_kind;
+    IsReplaceable m_isReplaceable;
+    std::unique_ptr<Folder> m_parent;
     QString m_staging;
     std::unique_ptr<StagingLock> m_lock; // held while the staging folder is in use
+    std::unique_ptr<OutputFile> m_file;
     QSet<QString> m_paths;
+    qint64 m_bytes = 0; // of all files
+    bool m_isKept = true;
 };
 
 } // namespace lessonhost

@@ -1,13 +1,13 @@
 #include "files/pictures.h"
 
 #include "files/checksum.h"
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagenames.h"
 
 #include <KCompressionDevice>
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
@@ -17,10 +17,6 @@
 
 #include <algorithm>
 #include <cmath>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace lessonhost {
 
@@ -48,18 +44,22 @@ constexpr const char *const knownFormats[] = {"png", "jpeg", "gif", "bmp",  "ico
 // Nothing but a plain file is waited for or read.
 std::unique_ptr<QIODevice> openedFile(const QString &path)
 {
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC);
-    struct stat there = {};
-    auto file = std::make_unique<QFile>();
-    if (descriptor >= 0 && ::fstat(descriptor, &there) == 0 && S_ISREG(there.st_mode)
-        && file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        return file;
+    if (QFileInfo(path).isSymLink()) {
+        return nullptr;
     }
-    if (descriptor >= 0) {
-        ::close(descriptor);
+    try {
+        return std::make_unique<InputFile>(path);
+    } catch (const LessonError &) {
+        return nullptr;
     }
-    return nullptr;
+}
+
+// A disk that fails says nothing about the picture.
+void checkDevice(const QIODevice *device)
+{
+    if (const auto *file = dynamic_cast<const InputFile *>(device)) {
+        file->check();
+    }
 }
 
 // The text of a drawing that is packed, up to a size.
@@ -203,6 +203,12 @@ void Picture::look()
         m_problem = QStringLiteral("it can't be read");
         return;
     }
+    findProblem();
+    checkDevice(m_device.get());
+}
+
+void Picture::findProblem()
+{
     // By its content, whatever it is called.
     const QByteArray format = QImageReader(m_device.get()).format();
     if (format.startsWith("svg") || isDrawing(*m_device)) {
@@ -256,6 +262,7 @@ QImage Picture::image(qint64 most, PixelBudget &budget) const
         try {
             return drawn(drawing(budget).text, most);
         } catch (const LessonError &) {
+            checkDevice(m_device.get());
             return {};
         }
     }
@@ -271,6 +278,7 @@ QImage Picture::image(qint64 most, PixelBudget &budget) const
         return {};
     }
     const QImage image = reader.read();
+    checkDevice(m_device.get());
     return pixelsOf(image.size()) > most
         ? image.scaled(sizeOf(image.size(), most), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
         : image;
@@ -279,7 +287,9 @@ QImage Picture::image(qint64 most, PixelBudget &budget) const
 QByteArray Picture::content() const
 {
     m_device->seek(0);
-    return m_device->readAll();
+    const QByteArray bytes = m_device->readAll();
+    checkDevice(m_device.get());
+    return bytes;
 }
 
 QString Picture::address(PixelBudget &budget) const

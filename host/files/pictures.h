@@ -39,7 +39,7 @@ private:
 class Picture
 {
 public:
-    //! Of a plain file; for a link, a pipe or a device it is none.
+    //! Of a plain file; for a link, a pipe or a device it is none. Throws LessonError where the disk fails.
     explicit Picture(const QString &file);
 
     //! Why it can't be shown, as a clause such as "it is a damaged picture", or nothing. Pictures of pixels are looked
@@ -61,6 +61,7 @@ private:
     //! Of a file's content. folder is where it lies; without one no other file is taken into it.
     Picture(const QByteArray &content, const QString &folder, int depth);
     void look();
+    void findProblem();
     QByteArray content() const;
     QByteArray drawingText() const;
     ClosedSvg drawing(PixelBudget &budget) const;

@@ -1,9 +1,14 @@
 #include "files/workfolder.h"
 
+#include "files/folder.h"
+#include "files/lessonerror.h"
+
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
+#include <cstdlib>
 #include <mutex>
 
 #include <fcntl.h>
@@ -15,13 +20,8 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String namePrefix("lessonconv-work-");
+const char *const namePrefix = "lessonconv-work-";
 constexpr int mostTries = 100;
-
-int openFolder(const QString &path)
-{
-    return ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-}
 
 // The system gives a lock up when its process ends, at whatever moment that is.
 bool lock(int folder, int kind)
@@ -36,18 +36,15 @@ bool lock(int folder, int kind)
 // Removes the folders of this user that no process holds. Where the file system knows no locks, it removes none.
 void sweep()
 {
-    const QDir parent = QDir::temp();
-    const QStringList names = parent.entryList({namePrefix + QLatin1Char('*')}, QDir::Dirs | QDir::NoSymLinks);
-    for (const QString &name : names) {
-        const QString path = parent.filePath(name);
-        const int folder = openFolder(path);
-        struct stat there = {};
-        if (folder >= 0 && ::fstat(folder, &there) == 0 && there.st_uid == ::geteuid()
-            && lock(folder, LOCK_EX | LOCK_NB)) {
-            QDir(path).removeRecursively();
+    const Folder parent(QDir::tempPath());
+    const QVector<Folder::Entry> entries = parent.entries();
+    for (const Folder::Entry &entry : entries) {
+        if (!entry.isFolder() || !entry.name.startsWith(namePrefix)) {
+            continue;
         }
-        if (folder >= 0) {
-            ::close(folder);
+        const Folder left(parent, entry.name);
+        if (left.isOpen() && left.isOwn() && lock(left.descriptor(), LOCK_EX | LOCK_NB)) {
+            parent.remove(entry.name);
         }
     }
 }
@@ -59,13 +56,19 @@ WorkFolder::WorkFolder()
     static std::once_flag swept;
     std::call_once(swept, sweep);
     // The sweep of another run may take a folder in the moment between its making and its locking.
-    for (int tries = 0; tries < mostTries; ++tries) {
-        m_folder = std::make_unique<QTemporaryDir>(QDir::temp().filePath(namePrefix + QLatin1String("XXXXXX")));
-        m_lock = m_folder->isValid() ? openFolder(m_folder->path()) : -1;
+    for (int tries = 0; tries < mostTries && m_path.isEmpty(); ++tries) {
+        QByteArray name = QFile::encodeName(QDir::tempPath()) + '/' + namePrefix + "XXXXXX";
+        if (!::mkdtemp(name.data())) {
+            throw LessonError(QStringLiteral("No temporary folder can be made: %1").arg(systemReason(errno)),
+                              QStringLiteral("Make room in the folder for temporary files"))
+                .in(QDir::tempPath());
+        }
+        m_lock = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
         if (m_lock >= 0) {
             lock(m_lock, LOCK_EX);
         }
-        if (!m_folder->isValid() || QDir(m_folder->path()).exists()) {
+        if (QFileInfo(QFile::decodeName(name)).isDir()) {
+            m_path = QFile::decodeName(name);
             return;
         }
         ::close(m_lock);
@@ -75,7 +78,7 @@ WorkFolder::WorkFolder()
 
 WorkFolder::~WorkFolder()
 {
-    m_folder.reset();
+    removeFolder(m_path);
     if (m_lock >= 0) {
         ::close(m_lock);
     }

@@ -2,9 +2,6 @@
 #define WORKFOLDER_H
 
 #include <QString>
-#include <QTemporaryDir>
-
-#include <memory>
 
 namespace lessonhost {
 
@@ -16,21 +13,18 @@ namespace lessonhost {
 class WorkFolder
 {
 public:
+    //! Throws LessonError.
     WorkFolder();
     ~WorkFolder();
     WorkFolder(const WorkFolder &) = delete;
     WorkFolder &operator=(const WorkFolder &) = delete;
 
-    //! Whether the folder could be made. If not, errorString() says why.
-    bool isValid() const { return m_folder->isValid(); }
-    QString errorString() const { return m_folder->errorString(); }
-
     //! Without a separator at its end.
-    QString path() const { return m_folder->path(); }
-    QString filePath(const QString &name) const { return m_folder->filePath(name); }
+    QString path() const { return m_path; }
+    QString filePath(const QString &name) const { return m_path + QLatin1Char('/') + name; }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
     int m_lock = -1; // descriptor of the folder, locked as long as this run lives
 };
 

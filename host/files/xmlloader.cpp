@@ -1,11 +1,11 @@
 #include "files/xmlloader.h"
 
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/xmlsource.h"
 
 #include <QBuffer>
 #include <QDomElement>
-#include <QFile>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -184,6 +184,16 @@ private:
 
 } // namespace
 
+void checkXmlSize(qint64 size, const QString &displayName)
+{
+    if (size > maximumXmlSize) {
+        throw LessonError(QStringLiteral("It would be larger than the %1 MiB that are read from one file of XML")
+                              .arg(maximumXmlSize / 1024 / 1024),
+                          QStringLiteral("Divide the slide or the lesson"))
+            .in(displayName);
+    }
+}
+
 QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlanks blanks)
 {
     QBuffer buffer;
@@ -195,18 +205,21 @@ QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlan
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
 {
     const QString name = displayName.isEmpty() ? fileName : displayName;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw LessonError(QStringLiteral("The file can't be read: %1").arg(file.errorString()),
-                          QStringLiteral("Check that it exists and that you may read it"))
-            .in(name);
-    }
+    InputFile file(fileName, name);
     if (file.size() > maximumXmlSize) {
         throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024),
                           QStringLiteral("Check that this is a lesson"))
             .in(name);
     }
-    return DocumentBuilder(&file, name, XmlBlanks::Dropped).build();
+    try {
+        const QDomDocument document = DocumentBuilder(&file, name, XmlBlanks::Dropped).build();
+        file.check();
+        return document;
+    } catch (const LessonError &) {
+        // A disk that fails is no lesson that is cut short.
+        file.check();
+        throw;
+    }
 }
 
 } // namespace lessonhost

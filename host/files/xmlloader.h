@@ -13,6 +13,9 @@ constexpr int maximumXmlDepth = 1100;
 //! Larger XML files are refused, in bytes.
 constexpr qint64 maximumXmlSize = qint64(256) * 1024 * 1024;
 
+//! Throws LessonError for a text that is larger, before it is written.
+void checkXmlSize(qint64 size, const QString &displayName);
+
 //! So are elements with more attributes: telling whether two have the same name takes time for each pair of them.
 constexpr int maximumXmlAttributes = 1000;
 

@@ -1,30 +1,36 @@
 #include "files/ziparchive.h"
 
 #include "files/checksum.h"
+#include "files/folder.h"
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/packagenames.h"
 
+#include <KCompressionDevice>
 #include <KZip>
-#include <KZipFileEntry>
 
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <QtEndian>
 
 #include <memory>
+#include <optional>
 
 namespace lessonhost {
 
 namespace {
 
 constexpr int maximumEntries = 100000;
-constexpr qint64 maximumUnpackedSize = qint64(2) * 1024 * 1024 * 1024;
-// Text of strokes packs to about a tenth, empty pictures to about a hundredth. Small entries are let pass.
-constexpr qint64 maximumRatio = 1000;
-constexpr qint64 smallEntry = qint64(1024) * 1024;
+// What all in an archive may unpack to, however tightly it is packed.
+constexpr qint64 harmlessSize = qint64(512) * 1024 * 1024;
+constexpr qint64 maximumRatio = 200;
+// The packing of zip archives reaches 1032.
+constexpr qint64 possibleRatio = 1100;
+constexpr qint64 smallEntry = qint64(64) * 1024;
 constexpr qint64 chunkSize = qint64(256) * 1024;
 
 [[noreturn]] void refuse(const QString &archive, const QString &problem)
@@ -40,55 +46,69 @@ constexpr qint64 chunkSize = qint64(256) * 1024;
         .in(archive);
 }
 
+struct ZipEntry
+{
+    enum Method { Stored = 0, Deflated = 8 };
+
+    QByteArray rawName;
+    QString name;
+    qint64 packedSize = 0;
+    qint64 size = 0;
+    qint64 header = 0; // where in the file its own header is
+    quint32 crc = 0;
+    int method = Stored;
+    bool isDirectory = false;
+    bool isSpecial = false; // link, device or the like
+    bool isEncrypted = false;
+};
+
 /*!
- * The list of entries at an archive's end. It is read here as well as by the archive library, which keeps only one of
- * two entries with the same name and says nothing about it.
+ * The list of entries at an archive's end. There may be a program or anything else before the archive's beginning, so
+ * places are counted from where the list really is.
  */
 class CentralDirectory
 {
 public:
-    struct Entry
+    CentralDirectory(InputFile &file, const QString &archive)
+        : m_file(file)
+        , m_archive(archive)
     {
-        QString name;
-        qint64 packedSize = 0;
-        qint64 size = 0;
-        quint32 crc = 0;
-        bool isDirectory = false;
-        bool isSpecial = false; // link, device or the like
-        bool isEncrypted = false;
-    };
-
-    explicit CentralDirectory(const QString &archive)
-    {
-        QFile file(archive);
-        if (!file.open(QIODevice::ReadOnly)) {
-            throw LessonError(QStringLiteral("The file can't be read: %1").arg(file.errorString()),
-                              QStringLiteral("Check that you may read it"))
-                .in(archive);
-        }
         const qint64 tailSize = qMin<qint64>(file.size(), endSize + 0xffff);
-        file.seek(file.size() - tailSize);
-        const QByteArray tail = file.read(tailSize);
+        const qint64 tailBegin = file.size() - tailSize;
+        const QByteArray tail = file.bytes(tailBegin, tailSize);
         const int end = tail.lastIndexOf(QByteArray("PK\5\6", 4));
         if (end < 0 || tail.size() - end < endSize) {
             incomplete(archive);
         }
-        const int count = number16(tail, end + 10);
-        const qint64 size = number32(tail, end + 12);
-        const qint64 offset = number32(tail, end + 16);
-        if (offset + size > file.size() || !file.seek(offset)) {
-            incomplete(archive);
+        List list{number16(tail, end + 10), number32(tail, end + 12), number32(tail, end + 16), tailBegin + end};
+        const bool isPart = number16(tail, end + 4) != 0 && number16(tail, end + 4) != 0xffff;
+        if (isPart) {
+            throw LessonError(QStringLiteral("This is one of several parts of an archive"),
+                              QStringLiteral("Put the parts together, or unpack them and give the folder"))
+                .in(archive);
         }
-        if (!readEntries(file.read(size), count)) {
-            incomplete(archive);
+        if (const auto large = largeList(list.end)) {
+            list = *large;
         }
+        readList(list);
     }
 
-    const QVector<Entry> &entries() const { return m_entries; }
+    const QVector<ZipEntry> &entries() const { return m_entries; }
 
 private:
     static constexpr int endSize = 22;
     static constexpr int headerSize = 46;
+    static constexpr int largeEndSize = 56;
+    static constexpr int locatorSize = 20;
+    static constexpr qint64 largestList = qint64(maximumEntries) * 1400; // with the longest names
+
+    struct List
+    {
+        qint64 count; // of entries; less a multiple of 65536 where there are so many
+        qint64 size;
+        qint64 offset; // from the archive's beginning
+        qint64 end; // where what follows it begins in the file
+    };
 
     static quint16 number16(const QByteArray &bytes, int offset)
     {
@@ -98,9 +118,52 @@ private:
     {
         return qFromLittleEndian<quint32>(bytes.constData() + offset);
     }
+    static qint64 number64(const QByteArray &bytes, int offset)
+    {
+        return qFromLittleEndian<qint64>(bytes.constData() + offset);
+    }
 
-    // The count says how many entries there are beyond the last multiple of 65536.
-    bool readEntries(const QByteArray &list, int count)
+    // What archives with 64-bit sizes have before their end.
+    std::optional<List> largeList(qint64 end)
+    {
+        const qint64 locatorBegin = end - locatorSize;
+        if (locatorBegin < largeEndSize) {
+            return {};
+        }
+        const QByteArray locator = m_file.bytes(locatorBegin, locatorSize);
+        if (!locator.startsWith("PK\6\7")) {
+            return {};
+        }
+        // Where it says, or right before if something stands in front of the archive.
+        for (const qint64 begin : {number64(locator, 8), locatorBegin - largeEndSize}) {
+            if (begin >= 0 && begin <= locatorBegin - largeEndSize) {
+                const QByteArray record = m_file.bytes(begin, largeEndSize);
+                if (record.startsWith("PK\6\6")) {
+                    return List{number64(record, 32), number64(record, 40), number64(record, 48), begin};
+                }
+            }
+        }
+        incomplete(m_archive);
+    }
+
+    void readList(const List &list)
+    {
+        if (list.size > largestList) {
+            refuse(m_archive, QStringLiteral("The archive has more than %1 entries").arg(maximumEntries));
+        }
+        for (const qint64 begin : {list.end - list.size, list.offset}) {
+            const bool isInFile = list.size >= 0 && begin >= 0 && begin <= list.end - list.size;
+            if (isInFile && (list.size == 0 || m_file.bytes(begin, qMin<qint64>(4, list.size)) == "PK\1\2")) {
+                if (!readEntries(m_file.bytes(begin, list.size), list.count, begin - list.offset)) {
+                    incomplete(m_archive);
+                }
+                return;
+            }
+        }
+        incomplete(m_archive);
+    }
+
+    bool readEntries(const QByteArray &list, qint64 count, qint64 archiveBegin)
     {
         int at = 0;
         while (at < list.size() && m_entries.size() <= maximumEntries) {
@@ -108,91 +171,192 @@ private:
                 return false;
             }
             const int nameSize = number16(list, at + 28);
-            const int following = nameSize + number16(list, at + 30) + number16(list, at + 32);
+            const int extraSize = number16(list, at + 30);
+            const int following = nameSize + extraSize + number16(list, at + 32);
             if (list.size() - at - headerSize < following) {
                 return false;
             }
-            Entry entry;
-            entry.isEncrypted = (number16(list, at + 8) & 1) != 0;
-            entry.crc = number32(list, at + 16);
-            entry.packedSize = number32(list, at + 20);
-            entry.size = number32(list, at + 24);
-            entry.name = QString::fromUtf8(list.constData() + at + headerSize, nameSize);
+            ZipEntry entry = entryAt(list, at);
+            entry.rawName = list.mid(at + headerSize, nameSize);
+            entry.name = QString::fromUtf8(entry.rawName.constData(), entry.rawName.size());
             entry.isDirectory = entry.name.endsWith(QLatin1Char('/'));
-            const quint32 fileKind = (number32(list, at + 38) >> 16) & 0170000;
-            entry.isSpecial = fileKind != 0 && fileKind != 0100000 && fileKind != 0040000;
+            if (!readLargeNumbers(list.mid(at + headerSize + nameSize, extraSize), entry)) {
+                return false;
+            }
+            entry.header += archiveBegin;
             m_entries.append(entry);
             at += headerSize + following;
         }
-        return m_entries.size() > maximumEntries || (m_entries.size() & 0xffff) == count;
+        return m_entries.size() > maximumEntries || (m_entries.size() & 0xffff) == (count & 0xffff);
     }
 
-    QVector<Entry> m_entries;
+    static ZipEntry entryAt(const QByteArray &list, int at)
+    {
+        ZipEntry entry;
+        entry.isEncrypted = (number16(list, at + 8) & 1) != 0;
+        entry.method = number16(list, at + 10);
+        entry.crc = number32(list, at + 16);
+        entry.packedSize = number32(list, at + 20);
+        entry.size = number32(list, at + 24);
+        entry.header = number32(list, at + 42);
+        const quint32 fileKind = (number32(list, at + 38) >> 16) & 0170000;
+        entry.isSpecial = fileKind != 0 && fileKind != 0100000 && fileKind != 0040000;
+        return entry;
+    }
+
+    // Numbers that don't fit stand behind the name, those that do are left out there.
+    static bool readLargeNumbers(const QByteArray &extra, ZipEntry &entry)
+    {
+        constexpr qint64 isElsewhere = 0xffffffff;
+        for (int at = 0; at + 4 <= extra.size();) {
+            const int size = number16(extra, at + 2);
+            int next = at + 4;
+            at = next + size;
+            if (number16(extra, next - 4) != 1) {
+                continue;
+            }
+            for (qint64 *number : {&entry.size, &entry.packedSize, &entry.header}) {
+                if (*number == isElsewhere) {
+                    if (next + 8 > qMin(at, extra.size())) {
+                        return false;
+                    }
+                    *number = number64(extra, next);
+                    next += 8;
+                }
+            }
+        }
+        return entry.size >= 0 && entry.packedSize >= 0 && entry.header >= 0;
+    }
+
+    InputFile &m_file;
+    QString m_archive;
+    QVector<ZipEntry> m_entries;
 };
 
-void checkEntries(const QString &archive, const QVector<CentralDirectory::Entry> &entries)
+void checkEntry(const QString &archive, const ZipEntry &entry, const QString &name)
+{
+    const QString problem = problemWithPackagePath(name);
+    if (!problem.isEmpty()) {
+        refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked: %2").arg(entry.name, problem));
+    }
+    if (entry.name.toUtf8() != entry.rawName) {
+        refuse(archive, QStringLiteral("The name of the entry \"%1\" is no UTF-8").arg(entry.name));
+    }
+    if (entry.isSpecial) {
+        refuse(archive, QStringLiteral("The entry \"%1\" is a link or a device").arg(entry.name));
+    }
+    if (entry.isEncrypted) {
+        throw LessonError(QStringLiteral("The archive is protected by a password"),
+                          QStringLiteral("Unpack it first and give the folder"))
+            .in(archive);
+    }
+    if (entry.method != ZipEntry::Stored && entry.method != ZipEntry::Deflated) {
+        throw LessonError(QStringLiteral("The entry \"%1\" is packed in a way that lessons aren't").arg(entry.name),
+                          QStringLiteral("Unpack it first and give the folder"))
+            .in(archive);
+    }
+    if (entry.size > smallEntry && entry.size / possibleRatio > entry.packedSize) {
+        refuse(archive, QStringLiteral("The entry \"%1\" is packed more tightly than can be").arg(entry.name));
+    }
+}
+
+void checkEntries(const QString &archive, qint64 archiveSize, const QVector<ZipEntry> &entries)
 {
     if (entries.size() > maximumEntries) {
         refuse(archive, QStringLiteral("The archive has more than %1 entries").arg(maximumEntries));
     }
     QSet<QString> names;
     qint64 total = 0;
-    for (const auto &entry : entries) {
+    for (const ZipEntry &entry : entries) {
         const QString name = entry.isDirectory ? entry.name.chopped(1) : entry.name;
-        const QString problem = problemWithPackagePath(name);
-        if (!problem.isEmpty()) {
-            refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked: %2").arg(entry.name, problem));
-        }
-        if (entry.isSpecial) {
-            refuse(archive, QStringLiteral("The entry \"%1\" is a link or a device").arg(entry.name));
-        }
-        if (entry.isEncrypted) {
-            throw LessonError(QStringLiteral("The archive is protected by a password"),
-                              QStringLiteral("Unpack it first and give the folder"))
-                .in(archive);
-        }
+        checkEntry(archive, entry, name);
         if (names.contains(name)) {
             refuse(archive, QStringLiteral("The archive names \"%1\" twice").arg(entry.name));
         }
         names.insert(name);
-        total += entry.size;
-        if (total > maximumUnpackedSize) {
+        if (entry.size > mostBytesInArchive || (total += entry.size) > mostBytesInArchive) {
             refuse(archive, QStringLiteral("The archive unpacks to more than 2 GiB"));
         }
-        if (entry.size > smallEntry && entry.size / maximumRatio > entry.packedSize) {
-            refuse(archive, QStringLiteral("The entry \"%1\" is packed more tightly than any lesson").arg(entry.name));
-        }
+    }
+    if (isPackedTooTightly(total, archiveSize)) {
+        refuse(archive, QStringLiteral("The archive is packed more tightly than any lesson"));
     }
 }
 
-// No more than the size that was announced and checked is ever written.
-void unpackEntry(const QString &archive, const KArchiveFile &packed, const CentralDirectory::Entry &entry,
-                 const QString &target)
+/*!
+ * The part of a file in which an entry lies.
+ */
+class PackedEntry : public QIODevice
 {
-    QDir().mkpath(QFileInfo(target).path());
-    QFile file(target);
-    // New only: two names may be one where capitals don't count.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        throw LessonError(QStringLiteral("The archive can't be unpacked: %1").arg(file.errorString()),
-                          QStringLiteral("Make room in the folder for temporary files"))
-            .in(archive);
+public:
+    PackedEntry(InputFile &file, qint64 begin, qint64 size)
+        : m_file(file)
+        , m_left(size)
+    {
+        m_file.seek(begin);
+        open(ReadOnly | Unbuffered);
     }
-    const std::unique_ptr<QIODevice> device(packed.createDevice());
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const qint64 count = m_file.read(data, qMin(size, m_left));
+        m_left -= qMax<qint64>(count, 0);
+        return count;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    InputFile &m_file;
+    qint64 m_left;
+};
+
+qint64 contentOf(InputFile &file, const QString &archive, const ZipEntry &entry)
+{
+    constexpr int localSize = 30;
+    const auto wrong = [&] { refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked").arg(entry.name)); };
+    if (entry.header > file.size() - localSize) {
+        wrong();
+    }
+    const QByteArray header = file.bytes(entry.header, localSize);
+    const qint64 nameBegin = entry.header + localSize;
+    const auto nameSize = qFromLittleEndian<quint16>(header.constData() + 26);
+    const qint64 begin = nameBegin + nameSize + qFromLittleEndian<quint16>(header.constData() + 28);
+    if (!header.startsWith("PK\3\4") || begin > file.size() - entry.packedSize
+        || file.bytes(nameBegin, nameSize) != entry.rawName) {
+        wrong();
+    }
+    return begin;
+}
+
+// No more than the size that was announced and checked is ever written.
+void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry, const QString &target)
+{
+    PackedEntry packed(file, contentOf(file, archive, entry), entry.packedSize);
+    KCompressionDevice unpacked(&packed, false, KCompressionDevice::GZip);
+    unpacked.setSkipHeaders();
+    QIODevice *source = &packed;
+    if (entry.method == ZipEntry::Deflated) {
+        unpacked.open(QIODevice::ReadOnly);
+        source = &unpacked;
+    }
+    makeFolders(QFileInfo(target).path(), archive, OutputFile::Temporary);
+    // Two names may be one where capitals don't count.
+    OutputFile output(target, archive, OutputFile::Temporary);
     qint64 size = 0;
     quint32 crc = 0;
-    while (device && size < entry.size) {
-        const QByteArray chunk = device->read(qMin(chunkSize, entry.size - size));
+    while (size < entry.size) {
+        const QByteArray chunk = source->read(qMin(chunkSize, entry.size - size));
         if (chunk.isEmpty()) {
             break;
         }
         size += chunk.size();
         crc = updatedCrc(crc, chunk);
-        if (file.write(chunk) != chunk.size()) {
-            throw LessonError(QStringLiteral("The archive can't be unpacked: %1").arg(file.errorString()),
-                              QStringLiteral("Make room in the folder for temporary files"))
-                .in(archive);
-        }
+        output.put(chunk);
     }
+    output.finish();
+    file.check();
     if (size != entry.size || crc != entry.crc) {
         throw LessonError(QStringLiteral("The entry \"%1\" is damaged").arg(entry.name),
                           QStringLiteral("Copy or download the file again"))
@@ -202,31 +366,25 @@ void unpackEntry(const QString &archive, const KArchiveFile &packed, const Centr
 
 } // namespace
 
+bool isPackedTooTightly(qint64 size, qint64 packedSize)
+{
+    return size > harmlessSize && size / maximumRatio > packedSize;
+}
+
 void unpackZip(const QString &archive, const QString &directory)
 {
-    const CentralDirectory list(archive);
-    checkEntries(archive, list.entries());
-    KZip zip(archive);
-    if (!zip.open(QIODevice::ReadOnly)) {
-        incomplete(archive);
-    }
-    for (const auto &entry : list.entries()) {
-        if (entry.isDirectory) {
-            continue;
+    InputFile file(archive);
+    const CentralDirectory list(file, archive);
+    checkEntries(archive, file.size(), list.entries());
+    for (const ZipEntry &entry : list.entries()) {
+        if (!entry.isDirectory) {
+            unpackEntry(file, archive, entry, directory + QLatin1Char('/') + entry.name);
         }
-        const KArchiveEntry *found = zip.directory()->entry(entry.name);
-        const auto *packed = found && found->isFile() ? static_cast<const KArchiveFile *>(found) : nullptr;
-        if (!packed || !packed->symLinkTarget().isEmpty()) {
-            refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked").arg(entry.name));
-        }
-        unpackEntry(archive, *packed, entry, directory + QLatin1Char('/') + entry.name);
     }
 }
 
-void packZip(const QString &directory, const QString &archive)
+void packZip(const QString &directory, OutputFile &archive, const QString &shownName)
 {
-    KZip zip(archive);
-    bool isGood = zip.open(QIODevice::WriteOnly);
     QStringList files;
     const QDir root(directory);
     QDirIterator it(directory, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
@@ -234,14 +392,34 @@ void packZip(const QString &directory, const QString &archive)
         files.append(root.relativeFilePath(it.next()));
     }
     files.sort();
-    for (const QString &file : qAsConst(files)) {
-        isGood = isGood && zip.addLocalFile(directory + QLatin1Char('/') + file, file);
+    KZip zip(&archive);
+    bool isGood = zip.open(QIODevice::WriteOnly);
+    for (const QString &name : qAsConst(files)) {
+        InputFile file(directory + QLatin1Char('/') + name, shownName);
+        const QFileInfo info(directory + QLatin1Char('/') + name);
+        const QDateTime time = info.lastModified();
+        isGood = isGood && zip.prepareWriting(name, info.owner(), info.group(), file.size(), 0100644, time, time, time);
+        for (qint64 at = 0; isGood && at < file.size(); at += chunkSize) {
+            const QByteArray chunk = file.bytes(at, qMin(chunkSize, file.size() - at));
+            isGood = zip.writeData(chunk.constData(), chunk.size());
+        }
+        isGood = isGood && zip.finishWriting(file.size());
     }
-    if (!zip.close() || !isGood) {
+    isGood = zip.close() && isGood;
+    // The archive's file knows more exactly why.
+    archive.check();
+    if (!isGood) {
         throw LessonError(QStringLiteral("The archive can't be written: %1").arg(zip.errorString()),
                           QStringLiteral("Check that there is room"))
-            .in(archive);
+            .in(shownName);
     }
+}
+
+void packZip(const QString &directory, const QString &archive)
+{
+    OutputFile file(archive, archive);
+    packZip(directory, file, archive);
+    file.finish();
 }
 
 } // namespace lessonhost

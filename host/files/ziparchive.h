@@ -5,12 +5,25 @@
 
 namespace lessonhost {
 
+class OutputFile;
+
+//! As many as every program reads.
+constexpr int mostFilesInArchive = 65535;
+//! More is neither read nor written.
+constexpr qint64 mostBytesInArchive = qint64(2) * 1024 * 1024 * 1024;
+
+//! Whether so much in so little can only be meant to fill a disk. Empty pictures and silence pack to a thousandth, but
+//! there isn't so much of them in a lesson.
+bool isPackedTooTightly(qint64 size, qint64 packedSize);
+
 //! Unpacks a zip archive into an empty directory, after checking every entry: relative path inside, no link, no device,
-//! no name twice, no encryption, at most 100,000 entries, 2 GiB, and a
-//! ratio of compression that lessons reach. Throws LessonError.
+//! no name twice, no encryption, at most 100,000 entries, at most mostBytesInArchive, not packed too tightly. Archives
+//! with something before their beginning and those with 64-bit sizes are read as well. Throws LessonError.
 void unpackZip(const QString &archive, const QString &directory);
 
-//! Packs all files below a directory, in ascending order. Throws LessonError.
+//! Packs all files below a directory, in ascending order. shownName stands for the archive in messages. Throws
+//! LessonError.
+void packZip(const QString &directory, OutputFile &archive, const QString &shownName);
 void packZip(const QString &directory, const QString &archive);
 
 } // namespace lessonhost

@@ -1,5 +1,6 @@
 #include "formats/conversion.h"
 
+#include "files/inputguard.h"
 #include "files/lessonerror.h"
 #include "lesson/activitypictures.h"
 #include "lesson/itemkeys.h"
@@ -48,10 +49,14 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
             .in(input);
     }
     checkCanWrite(to, output);
+    InputGuard inputs;
+    inputs.addLesson(input, from.folderBeside);
+    inputs.check(output);
     const auto reader = from.open(input, context);
     const auto writer = to.create(output, context);
-    writer->begin(reader->presentation());
     const QStringList resources = reader->resources();
+    writer->expect(reader->slideCount(), resources.size());
+    writer->begin(reader->presentation());
     QSet<QString> added;
     for (const QString &resource : resources) {
         writer->addResource(resource, reader->resourceFile(resource));

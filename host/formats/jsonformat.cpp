@@ -1,6 +1,8 @@
 #include "formats/lessonformats.h"
 
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/packagenames.h"
 #include "files/packagetarget.h"
 #include "files/workfolder.h"
@@ -10,8 +12,6 @@
 #include "losses/jsontext.h"
 #include "losses/lossreport.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QSet>
@@ -115,13 +115,8 @@ public:
         if (!decoded) {
             m_index.fail(QStringLiteral("The resource \"%1\" is no base64 text").arg(relativePath), range.begin);
         }
-        QFile file(path);
-        if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)
-            || file.write(*decoded) != (*decoded).size()) {
-            throw LessonError(QStringLiteral("A file of the lesson can't be unpacked: %1").arg(file.errorString()),
-                              QStringLiteral("Make room in the folder for temporary files"))
-                .in(m_path);
-        }
+        makeFolders(QFileInfo(path).path(), m_path, OutputFile::Temporary);
+        writeFile(path, *decoded, m_path, OutputFile::Temporary);
         return path;
     }
 
@@ -176,9 +171,6 @@ public:
         : m_target(path)
         , m_file(m_target.file())
     {
-        if (!m_file.open(QIODevice::WriteOnly)) {
-            failToWrite();
-        }
     }
 
     void begin(const QJsonObject &presentation) override
@@ -192,7 +184,15 @@ public:
 
     void addResource(const QString &relativePath, const QString &sourceFile) override
     {
+        const QString problem = problemWithPackagePath(relativePath);
+        if (!problem.isEmpty()) {
+            throw LessonError(QStringLiteral("The lesson can't hold a file \"%1\": %2").arg(relativePath, problem),
+                              QStringLiteral("Give it another name"))
+                .in(m_target.target());
+        }
         m_resources.append({relativePath, sourceFile});
+        m_resourceBytes += (QFileInfo(sourceFile).size() + 2) / 3 * 4;
+        checkSize(m_resourceBytes);
     }
 
     void writeSlide(const LessonSlide &slide) override
@@ -218,50 +218,43 @@ public:
             put(",\n  \"Resources\": {");
             for (int i = 0; i < m_resources.size(); ++i) {
                 put((i > 0 ? ",\n    " : "\n    ") + compact(m_resources.at(i).first) + ": \"");
-                putBase64(m_resources.at(i).second);
+                putBase64(m_resources.at(i).first, m_resources.at(i).second);
                 put("\"");
             }
             put("\n  }");
         }
         put("\n}\n");
-        if (!m_file.flush()) {
-            failToWrite();
-        }
-        m_file.close();
-        m_target.commitFile();
+        m_target.commit();
     }
 
 private:
     void put(const QByteArray &text)
     {
-        if (m_file.write(text) != text.size()) {
-            failToWrite();
+        checkSize(m_file.size() + text.size());
+        m_file.put(text);
+    }
+
+    void putBase64(const QString &relativePath, const QString &sourceFile)
+    {
+        InputFile source(sourceFile, relativePath);
+        for (qint64 at = 0; at < source.size(); at += chunkSize) {
+            put(source.bytes(at, qMin(chunkSize, source.size() - at)).toBase64());
         }
     }
 
-    void putBase64(const QString &sourceFile)
+    void checkSize(qint64 bytes) const
     {
-        QFile source(sourceFile);
-        if (!source.open(QIODevice::ReadOnly)) {
-            throw LessonError(QStringLiteral("The file can't be read: %1").arg(source.errorString()),
-                              QStringLiteral("Check that you may read it"))
-                .in(sourceFile);
+        if (bytes > maximumJsonSize) {
+            throw LessonError(QStringLiteral("The lesson has more than the 1 GiB that is read from one file of JSON"),
+                              QStringLiteral("Write it as zqtx, or divide it"))
+                .in(m_target.target());
         }
-        while (!source.atEnd()) {
-            put(source.read(chunkSize).toBase64());
-        }
-    }
-
-    [[noreturn]] void failToWrite() const
-    {
-        throw LessonError(QStringLiteral("It can't be written: %1").arg(m_file.errorString()),
-                          QStringLiteral("Check that there is room and that you may write there"))
-            .in(m_target.target());
     }
 
     PackageTarget m_target;
-    QFile m_file;
+    OutputFile &m_file;
     QVector<QPair<QString, QString>> m_resources;
+    qint64 m_resourceBytes = 0; // as they will be written
     int m_slides = 0;
 };
 

@@ -17,8 +17,6 @@ namespace {
 constexpr int maximumDepth = 2000;
 // As deep as Qt's own parser goes, less the brackets that are put around a value.
 constexpr int maximumParsedDepth = 1000;
-// Positions in a text that Qt parses are ints.
-constexpr qint64 maximumSize = qint64(1024) * 1024 * 1024;
 // As many as there can be in an archive.
 constexpr int maximumCount = 100000;
 constexpr qint64 pieceSize = qint64(64) * 1024;
@@ -46,13 +44,8 @@ JsonIndex::JsonIndex(const QString &path)
     : m_path(path)
     , m_file(path)
 {
-    if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
-                          QStringLiteral("Check that it exists and that you may read it"))
-            .in(path);
-    }
     m_size = m_file.size();
-    if (m_size > maximumSize) {
+    if (m_size > maximumJsonSize) {
         throw LessonError(QStringLiteral("The file is larger than 1 GiB"),
                           QStringLiteral("Check that this is a lesson"))
             .in(path);
@@ -64,40 +57,14 @@ void JsonIndex::fail(const QString &problem, qint64 position)
 {
     qint64 line = 1;
     qint64 at = 0;
-    while (at < qMin(position, m_size) && m_file.seek(at)) {
-        const QByteArray piece = m_file.read(qMin(pieceSize, position - at));
-        if (piece.isEmpty()) {
-            break;
-        }
+    const qint64 end = qMin(position, m_size);
+    while (at < end) {
+        const QByteArray piece = bytes(at, qMin(pieceSize, end - at));
         line += piece.count('\n');
         at += piece.size();
     }
     throw LessonError(problem, QStringLiteral("Check that the file is complete and is a lesson in JSON"))
         .in(m_path, int(line));
-}
-
-// Another program may write to the file meanwhile.
-QByteArray JsonIndex::bytes(qint64 begin, qint64 size)
-{
-    QByteArray bytes(int(size), Qt::Uninitialized);
-    qint64 done = 0;
-    bool isGood = m_file.seek(begin);
-    while (isGood && done < size) {
-        const qint64 count = m_file.read(bytes.data() + done, size - done);
-        if (count == 0) {
-            throw LessonError(QStringLiteral("The file was cut short while it was read"),
-                              QStringLiteral("Convert it again when no other program writes to it"))
-                .in(m_path);
-        }
-        isGood = count > 0;
-        done += count;
-    }
-    if (!isGood) {
-        throw LessonError(QStringLiteral("The file can't be read: %1").arg(m_file.errorString()),
-                          QStringLiteral("Check that it is a file on a disk"))
-            .in(m_path);
-    }
-    return bytes;
 }
 
 // The byte that comes next, or fileEnd.

@@ -1,7 +1,8 @@
 #ifndef JSONINDEX_H
 #define JSONINDEX_H
 
-#include <QFile>
+#include "files/inputfile.h"
+
 #include <QHash>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -9,6 +10,9 @@
 #include <QVector>
 
 namespace lessonhost {
+
+//! Larger files are refused, and none is written: positions in a text that Qt parses are ints.
+constexpr qint64 maximumJsonSize = qint64(1024) * 1024 * 1024;
 
 //! An object of members in any order, of which the last of a name counts. To insert each by itself takes time for each
 //! pair of them.
@@ -46,7 +50,7 @@ public:
     [[noreturn]] void fail(const QString &problem, qint64 position);
 
 private:
-    QByteArray bytes(qint64 begin, qint64 size);
+    QByteArray bytes(qint64 begin, qint64 size) { return m_file.bytes(begin, size); }
     QJsonValue parsedValue(const Range &range);
     QJsonValue nextValue(int levels);
     void scan();
@@ -63,7 +67,7 @@ private:
     template <typename Take> void eachMember(const Take &take);
 
     QString m_path;
-    QFile m_file;
+    InputFile m_file;
     qint64 m_size = 0;
     qint64 m_at = 0;
     QByteArray m_piece; // of the file, with what stands at m_at in most cases

@@ -1,6 +1,7 @@
 #include "formats/lessonformats.h"
 
 #include "files/domtools.h"
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagesource.h"
 #include "files/xmlloader.h"
@@ -17,7 +18,6 @@
 #include "losses/carriedcheck.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <QXmlStreamReader>
@@ -272,9 +272,13 @@ private:
 // What can't be read so far may be a damaged lesson.
 bool mayBeLesson(const QString &path)
 {
-    QFile file(path);
-    QXmlStreamReader xml(&file);
-    return !file.open(QIODevice::ReadOnly) || !xml.readNextStartElement() || xml.name() == rootTag;
+    try {
+        InputFile file(path);
+        QXmlStreamReader xml(&file);
+        return !xml.readNextStartElement() || xml.name() == rootTag;
+    } catch (const LessonError &) {
+        return true;
+    }
 }
 
 } // namespace

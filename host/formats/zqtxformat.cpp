@@ -1,6 +1,7 @@
 #include "formats/lessonformats.h"
 
 #include "files/domtools.h"
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagenames.h"
 #include "files/packagesource.h"
@@ -288,9 +289,13 @@ bool isArchiveName(const QString &path)
 
 bool isZqtxFolder(const QString &path)
 {
+    const QString file = path + QLatin1Char('/') + indexFile;
+    if (!QFileInfo(file).isFile()) {
+        return false;
+    }
+    const QByteArray text = InputFile(file).all();
     try {
-        const QString file = path + QLatin1Char('/') + indexFile;
-        return QFileInfo(file).isFile() && loadXmlFile(file).documentElement().tagName() == indexTag;
+        return loadXml(text, file).documentElement().tagName() == indexTag;
     } catch (const LessonError &) {
         return false;
     }
@@ -301,9 +306,11 @@ class ZqtxWriter : public LessonWriter
 public:
     ZqtxWriter(const QString &path, const LessonContext &context)
         : m_context(context)
-        , m_target(path)
+        , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isZqtxFolder)
     {
     }
+
+    void expect(int slides, int resources) override { m_target.expectFiles(qint64(slides) + resources + 1); }
 
     void begin(const QJsonObject &presentation) override
     {
@@ -313,7 +320,7 @@ public:
 
     void addResource(const QString &relativePath, const QString &sourceFile) override
     {
-        m_target.copy(relativePath, sourceFile);
+        m_target.copy(relativePath, sourceFile, relativePath);
     }
 
     void writeSlide(const LessonSlide &slide) override
@@ -348,11 +355,7 @@ public:
                                    readIndex(m_context.plugin, loadXml(text, name).documentElement(), name));
         }
         notePlacedItems();
-        if (isArchiveName(m_target.target())) {
-            m_target.commitArchive();
-        } else {
-            m_target.commitDirectory(isZqtxFolder);
-        }
+        m_target.commit();
     }
 
 private:

@@ -1,6 +1,6 @@
 #include "iwb/iwbitemwriter.h"
 
-#include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/pictures.h"
 #include "iwb/shapeplacing.h"
 #include "izqtransformation.h"
@@ -14,6 +14,7 @@
 #include "svg/svgstyle.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSet>
 
 #include <cmath>
@@ -288,8 +289,9 @@ void IwbItemWriter::writeMedia(const QJsonObject &item)
     QJsonObject prepared = commonKeys(item);
     prepared.insert(QLatin1String("tmpFilePath"), m_setting.exportFolder);
     if (!source.isEmpty()) {
-        prepared.insert(QLatin1String("AbsMediaFile"), source);
-        prepared.insert(ItemKeys::mediaFiles, m_setting.files->nameIn(QLatin1String(mediaFolder(type)), source));
+        const QString file = placed(source, reference, QLatin1String(mediaFolder(type)));
+        prepared.insert(QLatin1String("AbsMediaFile"), file);
+        prepared.insert(ItemKeys::mediaFiles, QFileInfo(file).fileName());
     }
     const auto place = view.place();
     if (place) {
@@ -370,11 +372,18 @@ QString IwbItemWriter::linkedFile(const QJsonObject &item, const QString &refere
         report(item, Loss::File, reference, QStringLiteral("the lesson has no such file to open"));
         return {};
     }
-    const QString path =
-        m_setting.linkFolder + QLatin1Char('/') + m_setting.files->nameIn(QStringLiteral("additional"), source);
-    if (!QFile::exists(path) && !QFile::link(source, path) && !QFile::copy(source, path)) {
-        throw LessonError(QStringLiteral("The file %1 can't be put into the package").arg(reference),
-                          QStringLiteral("Make room in the folder for temporary files"));
+    return placed(source, reference, QStringLiteral("additional"));
+}
+
+// The file in the package. The plug-in copies to the same place, where it finds it and lets it be; it would say nothing
+// of a copy that failed.
+QString IwbItemWriter::placed(const QString &source, const QString &reference, const QString &folder)
+{
+    const QString parent = m_setting.exportFolder + QLatin1Char('/') + folder;
+    const QString path = parent + QLatin1Char('/') + m_setting.files->nameIn(folder, source);
+    if (!QFile::exists(path)) {
+        makeFolders(parent, m_setting.target);
+        copyFile(source, reference, path, m_setting.target);
     }
     return path;
 }

@@ -27,7 +27,7 @@ public:
         LossReport *losses = nullptr;
         LessonFiles *files = nullptr;
         QString exportFolder; //!< where the plug-in puts media, without a separator at its end
-        QString linkFolder; //!< for files that links open, under the names that they get in the package
+        QString target; //!< what the user called the package, for messages
         bool keepsInk = true; //!< writes strokes as polylines
     };
 
@@ -51,6 +51,7 @@ private:
     QJsonObject commonKeys(const QJsonObject &item);
     void addLink(const QJsonObject &item, QJsonObject &prepared);
     QString linkedFile(const QJsonObject &item, const QString &reference);
+    QString placed(const QString &source, const QString &reference, const QString &folder);
     QDomElement convert(const QJsonObject &item, const QJsonObject &prepared);
     void append(const QJsonObject &item, QDomElement element);
     void report(const QJsonObject &item, int kind, const QString &key, const QString &detail);

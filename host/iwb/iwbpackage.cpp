@@ -1,12 +1,13 @@
 #include "iwb/iwbpackage.h"
 
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/packagenames.h"
 #include "files/xmlloader.h"
 #include "svg/svgnames.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -47,10 +48,6 @@ QString suffixOfMediaType(const QString &type)
 IwbPackage::IwbPackage(const QString &path)
     : m_source(path)
 {
-    if (!m_work.isValid()) {
-        throw LessonError(QStringLiteral("No temporary folder can be made: %1").arg(m_work.errorString()),
-                          QStringLiteral("Make room in the folder for temporary files"));
-    }
     m_document = loadXmlFile(m_source.file(contentFile), displayName());
     if (iwbName(root()) != QLatin1String("iwb") && svgName(root()) != QLatin1String("svg")) {
         throw LessonError(
@@ -126,24 +123,30 @@ QString IwbPackage::saveEmbedded(const QString &uri)
     const QByteArray data = QByteArray::fromPercentEncoding(uri.mid(comma + 1).toUtf8());
     const QString name =
         QStringLiteral("embedded-%1.%2").arg(m_embedded.size() + 1).arg(suffixOfMediaType(head.first()));
-    QFile file(m_work.filePath(name));
     const QByteArray content = head.contains(QLatin1String("base64")) ? QByteArray::fromBase64(data) : data;
-    if (comma < 0 || !file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+    if (comma < 0) {
         return {};
     }
+    const QString file = m_work.filePath(name);
+    writeFile(file, content, m_source.path(), OutputFile::Temporary);
     QString path = QLatin1String("images/") + name;
     while (m_source.contains(path)) {
         path.insert(path.lastIndexOf(QLatin1Char('.')), QLatin1Char('_'));
     }
-    m_embedded.insert(path, file.fileName());
+    m_embedded.insert(path, file);
     return path;
 }
 
 bool isIwbFolder(const QString &path)
 {
+    const QString file = path + QLatin1Char('/') + contentFile;
+    if (!QFileInfo(file).isFile()) {
+        return false;
+    }
+    // A disk that fails says nothing about the folder.
+    const QByteArray text = InputFile(file).all();
     try {
-        const QString file = path + QLatin1Char('/') + contentFile;
-        return QFileInfo(file).isFile() && iwbName(loadXmlFile(file).documentElement()) == QLatin1String("iwb");
+        return iwbName(loadXml(text, file).documentElement()) == QLatin1String("iwb");
     } catch (const LessonError &) {
         return false;
     }

@@ -45,7 +45,7 @@ private:
     QHash<QString, QString> m_embedded; // file on disk by path in the package
 };
 
-//! True for a folder that holds the content of an IWB package.
+//! True for a folder that holds the content of an IWB package. Throws LessonError if its content can't be read.
 bool isIwbFolder(const QString &path);
 
 } // namespace lessonhost

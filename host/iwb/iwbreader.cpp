@@ -1,6 +1,7 @@
 #include "iwb/iwbreader.h"
 
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/pictures.h"
 #include "izqtransformation.h"
 #include "lesson/slidelimits.h"
@@ -44,8 +45,8 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
             .in(m_package.displayName());
     }
     // The plug-in copies to and from these; it makes neither.
-    QDir().mkpath(m_package.workFolder() + packageFolder);
-    QDir().mkpath(m_package.workFolder() + libraryFolder);
+    makeFolders(m_package.workFolder() + packageFolder, path, OutputFile::Temporary);
+    makeFolders(m_package.workFolder() + libraryFolder, path, OutputFile::Temporary);
     for (int i = 0; i < m_content.pageCount(); ++i) {
         const QString id = m_content.pageId(i);
         if (!id.isEmpty() && !m_pageNumbers.contains(id)) {
@@ -93,7 +94,10 @@ QJsonObject IwbReader::readProperties(IwbPage &page)
     if (!picture.isEmpty()) {
         const QString name = QLatin1String("background.") + QFileInfo(picture).suffix();
         QFile::remove(path + name);
-        QFile::link(m_package.file(picture), path + name);
+        const QString source = m_package.file(picture);
+        if (!QFile::link(source, path + name)) {
+            copyFile(source, m_package.displayName(), path + name, m_package.displayName(), OutputFile::Temporary);
+        }
         page.page.firstChildElement(QStringLiteral("svg:image")).setAttribute(QStringLiteral("xlink:href"), name);
     }
     QJsonObject properties =

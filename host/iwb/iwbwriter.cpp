@@ -1,8 +1,11 @@
 #include "iwb/iwbwriter.h"
 
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/packagenames.h"
 #include "files/pictures.h"
+#include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
 #include "izqtransformation.h"
@@ -17,6 +20,9 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include <cerrno>
+#include <cstdio>
+
 namespace lessonhost {
 
 namespace {
@@ -24,7 +30,6 @@ namespace {
 // The plug-in cuts four characters off the export folder's name to find the file library beside it.
 const QLatin1String exportFolder("/lesson.iwb");
 const QLatin1String libraryFolder("/lesson/filelibrary");
-const QLatin1String linkFolder("/links");
 const QLatin1String contentFile("content.xml");
 const QLatin1String svgTag("svg:svg");
 // How many elements stand around a page and around a record about an item.
@@ -41,30 +46,31 @@ QString backgroundColor(const QJsonObject &properties)
     return color ? color->name(color->alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) : QStringLiteral("#ffffff");
 }
 
+bool isArchiveName(const QString &path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("iwb"), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     : m_context(context)
-    , m_target(path)
-    , m_work(QFileInfo(m_target.directory()).path() + QLatin1String("/work"))
+    , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isIwbFolder)
 {
     if (!m_context.losses) {
         m_context.losses = &m_unwanted;
     }
     m_context.losses->setFormat(QStringLiteral("IWB"));
-    const QString work = m_work.path();
-    if (!m_work.isValid() || !QDir().mkpath(work + exportFolder) || !QDir().mkpath(work + libraryFolder)
-        || !QDir().mkpath(work + linkFolder)) {
-        throw LessonError(QStringLiteral("No folder to work in can be made"),
-                          QStringLiteral("Check that there is room and that you may write there"))
-            .in(path);
-    }
+    m_target.setKept(context.isKept);
+    const QString work = m_target.workFolder();
+    makeFolders(work + exportFolder, path);
+    makeFolders(work + libraryFolder, path);
     IwbItemWriter::Setting setting;
     setting.plugin = context.plugin;
     setting.losses = m_context.losses;
     setting.files = &m_files;
     setting.exportFolder = work + exportFolder;
-    setting.linkFolder = work + linkFolder;
+    setting.target = path;
     setting.keepsInk =
         context.options.value(QStringLiteral("ink"), QStringLiteral("polyline")) != QLatin1String("drop");
     m_items = std::make_unique<IwbItemWriter>(setting);
@@ -114,6 +120,7 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
         failWithoutPages();
     }
     pageSet().appendChild(page);
+    placeBackground(page);
     fillPage(page);
     m_items->write(m_document, page, slide.items, m_slides);
     checkMedia(page);
@@ -141,6 +148,7 @@ void IwbWriter::startPages()
     const QByteArray marked = xmlLines(mark.toElement(), pageDepth);
     pages.removeChild(mark);
     const int place = text.indexOf(marked);
+    m_contentSize = text.size();
     m_target.write(contentFile, text.left(place));
     m_afterPages = text.mid(place + marked.size());
 }
@@ -148,7 +156,7 @@ void IwbWriter::startPages()
 // The page goes into the file and out of the document, and so do the records about its items.
 void IwbWriter::writePage(const QDomElement &page)
 {
-    m_target.append(contentFile, xmlLines(page, pageDepth));
+    append(xmlLines(page, pageDepth));
     pageSet().removeChild(page);
     QDomElement root = m_document.documentElement();
     const QDomElement svg = root.firstChildElement(svgTag);
@@ -161,7 +169,14 @@ void IwbWriter::writePage(const QDomElement &page)
 void IwbWriter::finishPages()
 {
     const int end = m_afterPages.lastIndexOf("\n</");
-    m_target.append(contentFile, m_afterPages.left(end) + m_records + m_afterPages.mid(end));
+    append(m_afterPages.left(end) + m_records + m_afterPages.mid(end));
+}
+
+void IwbWriter::append(const QByteArray &text)
+{
+    m_contentSize += text.size();
+    checkXmlSize(m_contentSize, m_target.target());
+    m_target.append(contentFile, text);
 }
 
 void IwbWriter::failWithoutPages() const
@@ -181,7 +196,7 @@ QJsonObject IwbWriter::pageProperties(const QJsonObject &properties)
     return {
         {QStringLiteral("index"), m_slides},
         {QStringLiteral("ID"), id},
-        {QStringLiteral("filePath"), QString(m_work.path() + exportFolder)},
+        {QStringLiteral("filePath"), QString(m_target.workFolder() + exportFolder)},
         {QStringLiteral("x"), QStringLiteral("0")},
         {QStringLiteral("y"), QStringLiteral("0")},
         {QStringLiteral("Width"), exactText(m_pageSize.width())},
@@ -218,11 +233,9 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
             continue;
         }
         const QString name = id + QLatin1String(".png");
-        const QString file = m_work.path() + libraryFolder + QLatin1Char('/') + name;
+        const QString file = m_target.workFolder() + libraryFolder + QLatin1Char('/') + name;
         QFile::remove(file);
-        const bool isPng = picture.format() == "png";
-        const QImage image = isPng ? QImage() : picture.image();
-        if (!isPng && image.isNull()) {
+        if (!placeAsPng(picture, source, reference, file)) {
             report(Loss::File, QStringLiteral("slide"), reference, QStringLiteral("it can't be made a PNG picture"));
             continue;
         }
@@ -233,13 +246,26 @@ QString IwbWriter::backgroundFile(const QJsonObject &properties, const QString &
                        QStringLiteral("it shows \"%1\", which isn't beside it in the lesson").arg(name));
             }
         }
-        if (isPng ? QFile::copy(source, file) : image.save(file, "png")) {
-            chosen = name;
-        } else {
-            failToPlace(reference);
-        }
+        chosen = name;
     }
     return chosen;
+}
+
+bool IwbWriter::placeAsPng(const Picture &picture, const QString &source, const QString &reference,
+                           const QString &file) const
+{
+    if (picture.format() == "png") {
+        copyFile(source, reference, file, m_target.target());
+        return true;
+    }
+    const QImage image = picture.image();
+    if (image.isNull()) {
+        return false;
+    }
+    OutputFile output(file, m_target.target());
+    image.save(&output, "png");
+    output.finish();
+    return true;
 }
 
 // The picture is said to be stretched to the page; readers of svg need its size for that.
@@ -254,6 +280,23 @@ void IwbWriter::fillPage(QDomElement &page) const
     image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
 }
 
+// The plug-in has copied the picture from the library and says nothing if it couldn't. The library's own file is whole.
+void IwbWriter::placeBackground(const QDomElement &page) const
+{
+    const QString reference =
+        page.firstChildElement(QStringLiteral("svg:image")).attribute(QStringLiteral("xlink:href"));
+    const QDir library(m_target.workFolder() + libraryFolder);
+    const QStringList files = library.entryList(QDir::Files);
+    for (const QString &file : files) {
+        const QString place = m_target.workFolder() + exportFolder + QLatin1Char('/') + reference;
+        makeFolders(QFileInfo(place).path(), m_target.target());
+        if (std::rename(QFile::encodeName(library.filePath(file)).constData(), QFile::encodeName(place).constData())
+            != 0) {
+            throw writeError(m_target.target(), errno);
+        }
+    }
+}
+
 void IwbWriter::finish()
 {
     moveMedia();
@@ -264,11 +307,7 @@ void IwbWriter::finish()
         finishPages();
     }
     reportTotals();
-    if (QFileInfo(m_target.target()).suffix().compare(QLatin1String("iwb"), Qt::CaseInsensitive) == 0) {
-        m_target.commitArchive();
-    } else {
-        m_target.commitDirectory(isIwbFolder);
-    }
+    m_target.commit();
 }
 
 void IwbWriter::failToPlace(const QString &file) const
@@ -281,7 +320,7 @@ void IwbWriter::failToPlace(const QString &file) const
 // The plug-in says nothing of a file that it couldn't copy.
 void IwbWriter::checkMedia(const QDomElement &element) const
 {
-    const QDir folder(m_work.path() + exportFolder);
+    const QDir folder(m_target.workFolder() + exportFolder);
     const QString reference = element.attribute(QStringLiteral("xlink:href"));
     const bool isInPackage = reference.contains(QLatin1Char('/')) && !reference.contains(QLatin1Char(':'))
         && !reference.startsWith(QLatin1Char('#'));
@@ -295,15 +334,11 @@ void IwbWriter::checkMedia(const QDomElement &element) const
 
 void IwbWriter::moveMedia()
 {
-    const QDir folder(m_work.path() + exportFolder);
+    const QDir folder(m_target.workFolder() + exportFolder);
     QDirIterator it(folder.path(), QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString file = it.next();
-        const QString place = m_target.makeFile(folder.relativeFilePath(file));
-        if (!QFile::rename(file, place)) {
-            failToPlace(it.fileName());
-        }
-        QFile::setPermissions(place, QFile::permissions(place) | QFileDevice::WriteOwner);
+        m_target.take(folder.relativeFilePath(file), file);
     }
 }
 

@@ -8,9 +8,10 @@
 
 #include <QDir>
 #include <QSizeF>
-#include <QTemporaryDir>
 
 namespace lessonhost {
+
+class Picture;
 
 /*!
  * Writes a lesson as an IWB package: one document with a page for each slide, and the media that the pages show. Each
@@ -34,6 +35,9 @@ private:
     QDomElement pageSet() const;
     QJsonObject pageProperties(const QJsonObject &properties);
     QString backgroundFile(const QJsonObject &properties, const QString &id);
+    bool placeAsPng(const Picture &picture, const QString &source, const QString &reference, const QString &file) const;
+    void placeBackground(const QDomElement &page) const;
+    void append(const QByteArray &text);
     void fillPage(QDomElement &page) const;
     void reportUncarried(const QJsonObject &properties, const QString &type, const QStringList &carried);
     void report(Loss::Kind kind, const QString &type, const QString &key, const QString &detail);
@@ -46,7 +50,6 @@ private:
     LessonContext m_context;
     LossReport m_unwanted; // where nobody asks for a report
     PackageTarget m_target;
-    QTemporaryDir m_work;
     LessonFiles m_files;
     QJsonObject m_presentation;
     QDomDocument m_document; // without the pages that are written
@@ -55,6 +58,7 @@ private:
     QSizeF m_pageSize;
     std::unique_ptr<IwbItemWriter> m_items;
     int m_slides = 0;
+    qint64 m_contentSize = 0; // of the document
 };
 
 } // namespace lessonhost

@@ -57,6 +57,12 @@ class LessonWriter
 public:
     virtual ~LessonWriter() = default;
 
+    //! Before anything else: how much is to come. Refuses what no reader would take.
+    virtual void expect(int slides, int resources)
+    {
+        Q_UNUSED(slides)
+        Q_UNUSED(resources)
+    }
     //! First: the presentation's keys, without Slides.
     virtual void begin(const QJsonObject &presentation) = 0;
     //! Where resources are needed while slides are written, they are added before the slides.
@@ -74,6 +80,7 @@ struct LessonContext
     IZQTransformation *plugin = nullptr;
     LossReport *losses = nullptr;
     bool verify = true; //!< read back what was written and report what did not survive
+    bool isKept = true; //!< the output is for the user, and not only for what is made of it
     QHash<QString, QString> options; //!< of single formats, by the name of the command's option
 };
 
@@ -85,7 +92,8 @@ struct LessonFormat
     QString name;
     QStringList extensions; //!< lower case, without the point
     QString description; //!< a line for "lessonconv formats"
-    //! True for a directory or file that is this format whatever its name says; may be empty.
+    //! True for a directory or file that is this format whatever its name says; may be empty. Throws LessonError for
+    //! what can't be read.
     std::function<bool(const QString &path)> recognizes;
     //! False for a file that has the extension and plainly is something else; may be empty.
     std::function<bool(const QString &path)> mayBe;

@@ -9,7 +9,6 @@
 #include "render/slidepictures.h"
 #include "svg/pluginoutlines.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPageSize>
@@ -36,16 +35,6 @@ svg { width: 100%; height: auto; background: #fff; box-shadow: 0 1px 6px #0004 }
 </style></head><body>
 <h1>%1</h1>
 )";
-
-void writeWhole(const PackageTarget &target, const QByteArray &content)
-{
-    QFile file(target.file());
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
-        throw LessonError(QStringLiteral("The picture can't be written: %1").arg(file.errorString()),
-                          QStringLiteral("Check that there is room and that you may write there"))
-            .in(target.target());
-    }
-}
 
 QVector<int> chosenSlides(const RenderSettings &settings, int count)
 {
@@ -118,25 +107,24 @@ class HtmlOutput : public Output
 public:
     HtmlOutput(const QString &path, const QString &title)
         : m_target(path)
-        , m_html(QString(QLatin1String(pageHead)).replace(QLatin1String("%1"), title.toHtmlEscaped()).toUtf8())
     {
+        addHtml(QString(QLatin1String(pageHead)).replace(QLatin1String("%1"), title.toHtmlEscaped()).toUtf8());
     }
     void add(const SlidePicture &picture) override
     {
-        m_html += "<figure id=\"slide" + QByteArray::number(picture.slide) + "\">\n" + picture.svg + "\n<figcaption>"
-            + caption(picture).toHtmlEscaped().toUtf8() + "</figcaption></figure>\n";
+        addHtml("<figure id=\"slide" + QByteArray::number(picture.slide) + "\">\n" + picture.svg + "\n<figcaption>"
+                + caption(picture).toHtmlEscaped().toUtf8() + "</figcaption></figure>\n");
     }
-    void addHtml(const QByteArray &html) { m_html += html; }
+    void addHtml(const QByteArray &html) { m_target.file().put(html); }
     QStringList finish() override
     {
-        writeWhole(m_target, m_html + "</body></html>\n");
-        m_target.commitFile();
+        addHtml("</body></html>\n");
+        m_target.commit();
         return {m_target.target()};
     }
 
 private:
     PackageTarget m_target;
-    QByteArray m_html;
 };
 
 class PdfOutput : public Output
@@ -145,7 +133,7 @@ public:
     PdfOutput(const QString &path, const QString &title, const QSize &size)
         : m_target(path)
         , m_size(size)
-        , m_writer(m_target.file())
+        , m_writer(&m_target.file())
     {
         m_writer.setTitle(title);
         m_writer.setCreator(QStringLiteral("lessonconv"));
@@ -157,6 +145,7 @@ public:
         m_writer.setPageSize(QPageSize(QSizeF(size) * pointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
         m_writer.setPageMargins(QMarginsF());
         const bool isReady = m_painter.isActive() ? m_writer.newPage() : m_painter.begin(&m_writer);
+        m_target.file().check();
         if (!isReady) {
             throw LessonError(QStringLiteral("The pages can't be written"),
                               QStringLiteral("Check that there is room and that you may write there"))
@@ -167,7 +156,7 @@ public:
     QStringList finish() override
     {
         m_painter.end();
-        m_target.commitFile();
+        m_target.commit();
         return {m_target.target()};
     }
 
@@ -182,19 +171,37 @@ class FilesOutput : public Output
 {
 public:
     FilesOutput(const QString &pattern, const QSize &size)
-        : m_pattern(pattern)
+        : m_target(pattern, PackageTarget::Files)
+        , m_folder(pattern.left(pattern.lastIndexOf(QLatin1Char('/')) + 1))
+        , m_name(pattern.mid(m_folder.size()))
         , m_size(size)
         , m_isPng(pattern.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
     {
     }
     void add(const SlidePicture &picture) override
     {
-        const QString path = QString(m_pattern).replace(QLatin1String("%d"), QString::number(picture.slide));
-        m_targets.push_back(std::make_unique<PackageTarget>(path));
-        if (!m_isPng) {
-            writeWhole(*m_targets.back(), picture.svg);
+        const QString name = QString(m_name).replace(QLatin1String("%d"), QString::number(picture.slide));
+        if (m_files.contains(m_folder + name)) {
             return;
         }
+        m_files.append(m_folder + name);
+        const auto file = m_target.newFile(name);
+        if (m_isPng) {
+            drawPng(picture, *file);
+        } else {
+            file->put(picture.svg);
+        }
+        file->finish();
+    }
+    QStringList finish() override
+    {
+        m_target.commit();
+        return m_files;
+    }
+
+private:
+    void drawPng(const SlidePicture &picture, OutputFile &file) const
+    {
         const QSize size = sizeFor(picture, m_size);
         QImage image(size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::white);
@@ -202,49 +209,53 @@ public:
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         paint(painter, picture, size);
         painter.end();
-        if (image.isNull() || !image.save(m_targets.back()->file(), "png")) {
-            throw LessonError(QStringLiteral("The picture can't be written"),
-                              QStringLiteral("Check that there is room, or ask for a smaller --size"))
-                .in(path);
+        const bool isDrawn = !image.isNull() && image.save(&file, "png");
+        file.check();
+        if (!isDrawn) {
+            throw LessonError(QStringLiteral("The picture of slide %1 can't be drawn").arg(picture.slide),
+                              QStringLiteral("Ask for a smaller --size"))
+                .in(m_target.target());
         }
-    }
-    QStringList finish() override
-    {
-        QStringList files;
-        for (const auto &target : m_targets) {
-            target->commitFile();
-            files.append(target->target());
-        }
-        return files;
     }
 
-private:
-    QString m_pattern;
+    PackageTarget m_target;
+    QString m_folder; // with the separator at its end
+    QString m_name;
     QSize m_size;
     bool m_isPng;
-    std::vector<std::unique_ptr<PackageTarget>> m_targets;
+    QStringList m_files;
 };
 
-std::unique_ptr<Output> outputFor(const QString &path, const QString &title, const QSize &size, int slides)
+std::unique_ptr<Output> outputFor(const QString &path, const QString &title, const RenderSettings &settings,
+                                  const QVector<int> &slides)
 {
+    for (const int slide : slides) {
+        settings.inputs.check(QString(path).replace(QLatin1String("%d"), QString::number(slide + 1)));
+    }
     const QString extension = QFileInfo(path).suffix().toLower();
     if (extension == QLatin1String("html")) {
         return std::make_unique<HtmlOutput>(path, title);
     }
     if (extension == QLatin1String("pdf")) {
-        return std::make_unique<PdfOutput>(path, title, size);
+        return std::make_unique<PdfOutput>(path, title, settings.size);
     }
     if (extension != QLatin1String("svg") && extension != QLatin1String("png")) {
         throw LessonError(QStringLiteral("Pictures can't be written in this form"),
                           QStringLiteral("Give the output a name in .html, .pdf, .svg or .png"))
             .in(path);
     }
-    if (slides > 1 && !path.contains(QLatin1String("%d"))) {
-        throw LessonError(QStringLiteral("%1 slides don't go into one picture").arg(slides),
+    const int number = path.indexOf(QLatin1String("%d"));
+    if (number >= 0 && path.lastIndexOf(QLatin1Char('/')) > number) {
+        throw LessonError(QStringLiteral("The pictures of a lesson are written into one folder"),
+                          QStringLiteral("Put %d behind the last / in the name"))
+            .in(path);
+    }
+    if (slides.size() > 1 && number < 0) {
+        throw LessonError(QStringLiteral("%1 slides don't go into one picture").arg(slides.size()),
                           QStringLiteral("Put %d in the name for the number of the slide, or choose one with --slides"))
             .in(path);
     }
-    return std::make_unique<FilesOutput>(path, size);
+    return std::make_unique<FilesOutput>(path, settings.size);
 }
 
 QString titleOf(const QJsonObject &presentation)
@@ -293,7 +304,7 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
                          const RenderSettings &settings, const Progress &progress)
 {
     const QVector<int> slides = chosenSlides(settings, reader.slideCount());
-    const auto target = outputFor(output, titleOf(reader.presentation()), settings.size, slides.size());
+    const auto target = outputFor(output, titleOf(reader.presentation()), settings, slides);
     SlidePictures pictures(reader, context);
     QJsonArray named;
     for (int i = 0; i < slides.size(); ++i) {
@@ -328,6 +339,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
     }
     const int count = qMax(first.slideCount(), second.slideCount());
     const QVector<int> slides = chosenSlides(settings, count);
+    settings.inputs.check(output);
     HtmlOutput html(output, firstName + QLatin1String(" and ") + secondName);
     SlidePictures firstPictures(first, context);
     SlidePictures secondPictures(second, context);

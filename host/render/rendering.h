@@ -1,6 +1,7 @@
 #ifndef RENDERING_H
 #define RENDERING_H
 
+#include "files/inputguard.h"
 #include "lesson/lesson.h"
 
 #include <QJsonObject>
@@ -15,6 +16,7 @@ struct RenderSettings
 {
     QSize size; //!< pixels; empty for that of the lesson's pages
     QVector<int> slides; //!< counted from 0; empty for all
+    InputGuard inputs; //!< what is read, which no output may touch
 };
 
 //! "1280x720" as a size; an empty text gives an empty one. Throws LessonError.

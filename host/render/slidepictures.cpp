@@ -72,10 +72,7 @@ SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context)
 {
     m_context.verify = false;
     m_context.options.clear();
-    if (!m_folder.isValid()) {
-        throw LessonError(QStringLiteral("No folder to work in can be made"),
-                          QStringLiteral("Check that there is room in the folder for temporary files"));
-    }
+    m_context.isKept = false;
 }
 
 // The drawn page lies in a folder of its own, away from what lay beside a drawing, so that goes into the drawing.

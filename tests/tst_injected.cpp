@@ -1,0 +1,298 @@
+#include "files/ziparchive.h"
+#include "hostfixture.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QImage>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <cerrno>
+#include <cstring>
+
+using namespace lessonhost;
+
+namespace {
+
+// What a run reads and writes, in the folders "in" and "out".
+struct Run
+{
+    QStringList arguments; // of the command
+    QStringList targets; // all that it makes, below "out"
+};
+
+using Contents = QMap<QString, QByteArray>;
+
+void copyTree(const QString &from, const QString &to)
+{
+    const QDir root(from);
+    QDir().mkpath(to);
+    QDirIterator it(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString target = to + '/' + root.relativeFilePath(it.next());
+        QDir().mkpath(QFileInfo(target).path());
+        QVERIFY(QFile::copy(it.filePath(), target));
+    }
+}
+
+// All that is at a target, without the times and the numbers made of them that some formats hold.
+Contents contentOf(const QString &target)
+{
+    const auto timeless = [](const Contents &files) {
+        static const QRegularExpression time("[0-9]{10,}");
+        Contents result;
+        for (auto it = files.cbegin(); it != files.cend(); ++it) {
+            const QString content = QString::fromLatin1(it.value().constData(), it.value().size());
+            result.insert(QString(it.key()).remove(time), QString(content).remove(time).toLatin1());
+        }
+        return result;
+    };
+    if (QFileInfo(target).isDir()) {
+        return timeless(filesBelow(target));
+    }
+    if (target.endsWith(".zqtx") || target.endsWith(".iwb")) {
+        const QTemporaryDir unpacked;
+        try {
+            unpackZip(target, unpacked.path());
+        } catch (const LessonError &error) {
+            return {{error.message(), {}}};
+        }
+        return timeless(filesBelow(unpacked.path()));
+    }
+    return timeless({{QString(), fileContent(target)}});
+}
+
+// The calls to fail: the last ones, which put things in their place, and some of the others.
+QVector<int> chosenCalls(int count)
+{
+    const bool isAll = qEnvironmentVariableIsSet("FAULTS_ALL");
+    const int last = 4;
+    const int others = isAll ? count : 3;
+    QVector<int> chosen;
+    for (int call = 1; call <= count; ++call) {
+        if (isAll || call > count - last || (call - 1) * others / count != (call - 2) * others / count || call == 1) {
+            chosen.append(call);
+        }
+    }
+    return chosen;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Run)
+
+/*!
+ * Each call of the system that a run makes on its files fails once, and from there on: the old output or the new one is
+ * there, whole, what the command says is true, and nothing is left behind the next run. All of them take some minutes
+ * and are tried where FAULTS_ALL is set.
+ */
+class TestInjected : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QTemporaryDir m_beside; // where nothing fails
+    QString m_counter;
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    enum Kind { Once, Staying, Reading };
+
+    CommandProcess::Outcome run(const QStringList &arguments, Kind kind = Once, int failing = 0) const
+    {
+        putFile(m_counter, QByteArray(sizeof(long), '\0'));
+        return runCommand(arguments, m_folder.path(), [this, kind, failing] {
+            const QByteArray folder = QFile::encodeName(kind == Reading ? path("in") : m_folder.path());
+            ::setenv("TMPDIR", QFile::encodeName(path("tmp")), 1);
+            ::setenv("XDG_RUNTIME_DIR", QFile::encodeName(m_beside.path()), 1);
+            ::setenv("FAULT_FOLDER", folder, 1);
+            ::setenv("FAULT_COUNTER", QFile::encodeName(m_counter), 1);
+            ::setenv("FAULT_AT", QByteArray::number(failing), 1);
+            ::setenv("FAULT_ERROR", QByteArray::number(kind == Staying ? ENOSPC : EIO), 1);
+            kind == Staying ? ::setenv("FAULT_STAYS", "1", 1) : ::unsetenv("FAULT_STAYS");
+            kind == Reading ? ::setenv("FAULT_READS", "1", 1) : ::unsetenv("FAULT_READS");
+            ::setenv("LD_PRELOAD", FAILING_CALLS, 1);
+        });
+    }
+
+    int callsOfLastRun() const
+    {
+        long count = 0;
+        std::memcpy(&count, fileContent(m_counter).constData(), sizeof count);
+        return int(count);
+    }
+
+    QVector<Contents> contents(const QStringList &targets) const
+    {
+        QVector<Contents> all;
+        for (const QString &target : targets) {
+            all.append(contentOf(path("out/" + target)));
+        }
+        return all;
+    }
+
+    void restore() const
+    {
+        QDir(path("out")).removeRecursively();
+        copyTree(path("before"), path("out"));
+    }
+
+    // What is wrong with what a run left, or nothing.
+    static QString problem(const CommandProcess::Outcome &outcome, const QStringList &targets, const QVector<Contents> &before,
+                           const QVector<Contents> &after, const QVector<Contents> &found, Kind kind)
+    {
+        bool isAllNew = true;
+        for (int i = 0; i < targets.size(); ++i) {
+            if (found.at(i) != before.at(i) && found.at(i) != after.at(i)) {
+                return targets.at(i) + " is broken: " + found.at(i).firstKey();
+            }
+            isAllNew = isAllNew && found.at(i) == after.at(i);
+            if (outcome.errors.contains(targets.at(i) + ':') && found.at(i) == after.at(i)) {
+                return targets.at(i) + " is there and said not to be";
+            }
+        }
+        if (outcome.exitCode == 0) {
+            return isAllNew && outcome.errors.isEmpty() ? QString() : "not done, and says it is"_s;
+        }
+        const QString reason = std::strerror(kind == Staying ? ENOSPC : EIO);
+        return outcome.exitCode == 2 && outcome.errors.contains(reason) ? QString() : "the reason isn't told"_s;
+    }
+
+    void failEach(const Run &run, Kind kind)
+    {
+        restore();
+        const QVector<Contents> before = contents(run.targets);
+        const CommandProcess::Outcome clean = this->run(run.arguments, kind);
+        QVERIFY2(clean.exitCode == 0 && clean.errors.isEmpty(), qPrintable(clean.errors));
+        const QVector<int> calls = chosenCalls(callsOfLastRun());
+        QVERIFY(!calls.isEmpty());
+        const QVector<Contents> after = contents(run.targets);
+        for (int i = 0; i < run.targets.size(); ++i) {
+            QVERIFY2(before.at(i) != after.at(i), qPrintable(run.targets.at(i)));
+        }
+        int failures = 0;
+        for (const int call : calls) {
+            restore();
+            const CommandProcess::Outcome outcome = this->run(run.arguments, kind, call);
+            const QVector<Contents> found = contents(run.targets);
+            const QString wrong = problem(outcome, run.targets, before, after, found, kind);
+            QVERIFY2(wrong.isEmpty(),
+                     qPrintable("call %1 of %2, kind %3: %4\n%5 %6"_s.arg(call)
+                                    .arg(calls.last())
+                                    .arg(kind)
+                                    .arg(wrong)
+                                    .arg(outcome.exitCode)
+                                    .arg(outcome.errors)));
+            failures += outcome.exitCode == 0 ? 0 : 1;
+            if (!leftovers().isEmpty()) {
+                QCOMPARE(this->run(run.arguments).exitCode, 0);
+                QCOMPARE(contents(run.targets), after);
+                QCOMPARE(leftovers(), QStringList());
+            }
+        }
+        // Some calls may fail without harm, such as the ones that tidy up.
+        QVERIFY(failures > 0);
+    }
+
+    QStringList leftovers() const
+    {
+        QStringList names = hiddenEntries(path("out")) + QDir(path("tmp")).entryList({"lessonconv*"});
+        names.removeOne(".lessonconv-done");
+        return names;
+    }
+
+    void convertHere(const QString &from, const QString &to, const QStringList &more = {}) const
+    {
+        const CommandProcess::Outcome outcome =
+            runCommand(QStringList{"convert", path(from), path(to), "--quiet"} + more, m_folder.path());
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+    }
+
+private slots:
+    void initTestCase()
+    {
+        m_counter = m_beside.filePath("counter");
+        for (const char *folder : {"in", "before", "tmp"}) {
+            QDir().mkpath(path(folder));
+        }
+        QImage picture(20, 20, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(QDir().mkpath(path("in/new/images")) && QDir().mkpath(path("in/new/slides")));
+        QVERIFY(picture.save(path("in/new/images/a.png")));
+        putFile(path("in/new/index.xml"),
+                "<main version=\"3.0\" width=\"800\" height=\"600\"><slides><file href=\"slides/1.xml\"/>"
+                "<file href=\"slides/2.xml\"/></slides></main>");
+        for (const char *id : {"1", "2"}) {
+            putFile(path("in/new/slides/"_s + id + ".xml"),
+                    QByteArray("<slide id=\"") + id
+                        + "\"><background><picture document=\"images/a.png\"/></background><items><media id=\"7\" "
+                          "type=\"image\"><data><rect points=\"10,10,50,50\" controlpoints=\"10,10,50,50\"/>"
+                          "</data><property><item name=\"resource\" value=\"images/a.png\"/></property></media>"
+                          "</items></slide>");
+        }
+        putFile(path("in/old.json"),
+                R"({"Width": "400", "Height": "300", "Slides": [{"ID": "old", "color": "255,9,9,9"}, {"ID": "b"}]})");
+        convertHere("in/new", "in/new.zqtx");
+        convertHere("in/new", "in/new.json");
+        convertHere("in/new", "in/new.iwb");
+        for (const char *name : {"t.json", "new.json", "t.zqtx", "t", "t.iwb"}) {
+            convertHere("in/old.json", "before/"_s + name);
+        }
+        convertHere("in/old.json", "before/page", {"--to", "iwb"});
+        for (const char *name : {"p%d.svg", "p%d.png", "p.html", "p.pdf"}) {
+            QCOMPARE(runCommand({"render", path("in/old.json"), path("before/"_s + name)}).exitCode, 0);
+        }
+        putFile(path("before/r.json"), "{}");
+    }
+
+    void failsWhileWriting_data()
+    {
+        const Table<Run> row("run");
+        row("folder to JSON", Run{{"convert", "in/new", "out/t.json"}, {"t.json"}});
+        row("archive to JSON", Run{{"convert", "in/new.zqtx", "out/t.json"}, {"t.json"}});
+        row("JSON to archive", Run{{"convert", "in/new.json", "out/t.zqtx"}, {"t.zqtx"}});
+        row("archive to folder", Run{{"convert", "in/new.zqtx", "out/t"}, {"t"}});
+        row("folder to IWB", Run{{"convert", "in/new", "out/t.iwb"}, {"t.iwb"}});
+        row("JSON to a folder of IWB", Run{{"convert", "in/new.json", "out/page", "--to", "iwb"}, {"page"}});
+        row("IWB to archive", Run{{"convert", "in/new.iwb", "out/t.zqtx"}, {"t.zqtx"}});
+        row("report", Run{{"convert", "in/new", "out/t.json", "--report", "out/r.json"}, {"t.json", "r.json"}});
+        row("many",
+            Run{{"convert", "in/new", "in/old.json", "--to", "json", "--out-dir", "out", "--jobs", "1", "--report",
+                 "out/r.json"},
+                {"new.json"}});
+        row("page", Run{{"render", "in/new", "out/p.html"}, {"p.html"}});
+        row("paper", Run{{"render", "in/new.zqtx", "out/p.pdf"}, {"p.pdf"}});
+        row("drawings", Run{{"render", "in/new", "out/p%d.svg"}, {"p1.svg", "p2.svg"}});
+        row("pictures", Run{{"render", "in/new", "out/p%d.png"}, {"p1.png", "p2.png"}});
+    }
+
+    void failsWhileWriting()
+    {
+        QFETCH(Run, run);
+        run.arguments.append("--quiet");
+        for (const Kind kind : {Once, Staying}) {
+            failEach(run, kind);
+            if (QTest::currentTestFailed()) {
+                return;
+            }
+        }
+    }
+
+    void failsWhileReading_data()
+    {
+        const Table<QString> row("input");
+        for (const char *input : {"new", "new.zqtx", "new.json", "new.iwb"}) {
+            row(input, "in/"_s + input);
+        }
+    }
+
+    void failsWhileReading()
+    {
+        QFETCH(QString, input);
+        failEach({{"convert", input, "out/t.zqtx", "--quiet"}, {"t.zqtx"}}, Reading);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestInjected)
+#include "tst_injected.moc"
