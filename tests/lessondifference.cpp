@@ -753,7 +753,8 @@ private:
             !saysNothing(given.value("Matrix")) && !saysNothing(given.value("Angle")) && !isTurnOfMatrix;
         const QStringList keys = given.keys() + found.keys();
         for (const QString &key : keys) {
-            if (isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
+            const bool isOwn = m_road == Road::Drawn || key != "Control" || hasOwnPoints(place.type);
+            if (isOwn && isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
                 given.remove(key);
                 found.remove(key);
                 // Steps of ink may be rounded on the way.

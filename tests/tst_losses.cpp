@@ -395,23 +395,29 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
                                        "Discipline_xCreate", "Angle",      "MultiMediaFile", "Discipline_yCreate",
                                        "StartAngle",         "SweepAngle", "WordHide"};
     const QString id = element.attribute("NetID");
-    const QJsonObject item = items.value(id);
+    QVector<QJsonObject> found;
+    for (const QJsonObject &other : items.values(id)) {
+        if (other.value("Type") == element.tagName()) {
+            found.append(other);
+        }
+    }
+    const QJsonObject item = found.value(0);
     QVector<QPair<QJsonArray, QString>> places;
     collectPlaces(element, {}, places);
-    const bool isKept = item.isEmpty() || item.contains("KeptXml") || item.value("Type") != element.tagName();
-    QVector<QJsonArray> known;
+    const bool isKept = item.isEmpty() || item.contains("KeptXml");
+    QVector<QJsonArray> seen;
     const QJsonObject keyPlaces = isKept ? QJsonObject() : rawPlacesOf(element.tagName());
     for (const auto &place : qAsConst(places)) {
-        const QString found = keyOfPlace(keyPlaces, place.first);
-        const QString key = found.isEmpty() ? place.first.last().toString() : found;
+        const QString known = keyOfPlace(keyPlaces, place.first);
+        const QString key = known.isEmpty() ? place.first.last().toString() : known;
         const QString list = place.first.first().toString();
         const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key) : item.value(key);
         // A name that is no place is one in the model or nothing; what is there twice may be told once.
         const bool isSame =
-            isSameInModel(element.tagName(), key, place.second, value, found.isEmpty() ? Road::Kept : Road::Packed);
-        const bool isMinor = isSame || place.second.isEmpty() || workedOut.contains(key) || items.count(id) > 1;
-        const bool isRepeated = known.contains(place.first);
-        known.append(place.first);
+            isSameInModel(element.tagName(), key, place.second, value, known.isEmpty() ? Road::Kept : Road::Packed);
+        const bool isMinor = isSame || place.second.isEmpty() || workedOut.contains(key) || found.size() > 1;
+        const bool isRepeated = seen.contains(place.first);
+        seen.append(place.first);
         if (!isKept && (!isSame || isRepeated || place.second.isEmpty())) {
             differences.append({slide, element.tagName(), id, wayTo(element, place.first), place.second,
                                 toText(QJsonObject{{key, value}}), isMinor});
