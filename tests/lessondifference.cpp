@@ -1,0 +1,905 @@
+#include "lessondifference.h"
+
+#include "pluginfixture.h"
+
+#include <QColor>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QPolygonF>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFragment>
+#include <QTransform>
+
+#include <cmath>
+#include <optional>
+
+namespace {
+
+// ---- What is the same in another dress -----------------------------------------------------------------------------
+
+// What a key says that isn't there.
+const QHash<QString, QString> &defaults()
+{
+    static const QHash<QString, QString> values{{"Visible", "1"},     {"LockIn", "0"},           {"InfiniteClone", "0"},
+                                                {"Angle", "0"},       {"HorizonFlip", "0"},      {"VerticalFlip", "0"},
+                                                {"Opacity", "255"},   {"Matrix", "1,0,0,1,0,0"}, {"visible", "1"},
+                                                {"locked", "0"},      {"uclone", "0"},           {"angle", "0"},
+                                                {"horizonflip", "0"}, {"verticalflip", "0"}};
+    return values;
+}
+
+// Where a value is found that its format has another key for.
+QString otherName(const QString &key)
+{
+    static const QHash<QString, QString> names{
+        {"BoundingBox", "IgnoredBoundingBox"},
+        {"Control", "IgnoredControl"},
+        {"MultiMediaFile", "resource"},
+        {"Text", "TextHtml"},
+        {"TextContent", "TextHtml"},
+        {"BackColor", "color"},
+        {"AttachFile", "document"},
+        {"Width", "ArtObj_Width"},
+    };
+    return names.value(key);
+}
+
+// The same for ink that became a line.
+QString otherNameOfInk(const QString &key)
+{
+    static const QHash<QString, QString> names{{"Color", "ArtObj_Color"}, {"Width", "ArtObj_Width"}};
+    return names.value(key);
+}
+
+// Keys whose texts are numbers, so that 1.50 is 1.5.
+bool isNumeric(const QString &key)
+{
+    static const QStringList keys{
+        "Angle",       "BoundingBox",  "Matrix",        "SlideMatrix",   "Control",       "XY",    "XYValue",
+        "Width",       "Height",       "Opacity",       "ArtObj_Width",  "points",        "angle", "controlpoints",
+        "width",       "height",       "opacity",       "page_scale",    "position",      "stamp", "style",
+        "spreadStyle", "answer_width", "answer_height", "content_width", "content_height"};
+    return keys.contains(key);
+}
+
+// Keys of yes and no, which a number says as well.
+bool isFlag(const QString &key)
+{
+    static const QStringList keys{"Visible", "LockIn",   "InfiniteClone",    "visible", "locked",
+                                  "uclone",  "visiable", "childrenVisiable", "shade"};
+    return keys.contains(key);
+}
+
+bool isColor(const QString &key)
+{
+    return key.contains("olor");
+}
+
+QString numberText(double number)
+{
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+// A text, number or flag as text; nothing for others.
+std::optional<QString> plainText(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::String:
+        return value.toString().startsWith('\v') ? value.toString().mid(1) : value.toString();
+    case QJsonValue::Double: {
+        const QVariant number = value.toVariant();
+        return number.type() == QVariant::LongLong ? number.toString() : numberText(value.toDouble());
+    }
+    case QJsonValue::Bool:
+        return value.toBool() ? "1" : "0";
+    default:
+        return std::nullopt;
+    }
+}
+
+bool saysNothing(const QJsonValue &value)
+{
+    return value.isUndefined() || value.isNull() || (value.isString() && value.toString().isEmpty())
+        || (value.isArray() && value.toArray().isEmpty()) || (value.isObject() && value.toObject().isEmpty());
+}
+
+// Numbers with commas between, or a list of them. Nothing where one of them is none.
+std::optional<QVector<double>> numbersOf(const QJsonValue &value)
+{
+    QVector<double> numbers;
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        for (const QJsonValue &number : array) {
+            if (!number.isDouble()) {
+                return std::nullopt;
+            }
+            numbers.append(number.toDouble());
+        }
+        return numbers;
+    }
+    const auto text = plainText(value);
+    if (!text) {
+        return std::nullopt;
+    }
+    QStringList parts = text->split(',');
+    if (parts.size() > 1 && parts.last().isEmpty()) {
+        parts.removeLast();
+    }
+    for (const QString &part : qAsConst(parts)) {
+        bool isNumber = false;
+        numbers.append(part.toDouble(&isNumber));
+        if (!isNumber || !std::isfinite(numbers.last())) {
+            return std::nullopt;
+        }
+    }
+    return numbers;
+}
+
+bool haveSameNumbers(const QJsonValue &given, const QJsonValue &found, double tolerance)
+{
+    const auto one = numbersOf(given);
+    const auto other = numbersOf(found);
+    return one && other
+        && std::equal(one->begin(), one->end(), other->begin(), other->end(), [tolerance](double a, double b) {
+               return a == b || std::fabs(a - b) <= tolerance * std::max(1.0, std::fabs(a));
+           });
+}
+
+// {"Solid": 0xRRGGBB, "Alpha": 0 to 1} and nothing else; a,r,g,b; r,g,b; #rgb and the like; a name.
+std::optional<QRgb> colorOf(const QJsonValue &value)
+{
+    if (value.isObject()) {
+        const QJsonObject object = value.toObject();
+        const double solid = object.value("Solid").toDouble(-1);
+        const double alpha = object.value("Alpha").toDouble(object.contains("Alpha") ? -1 : 1);
+        const bool isWhole = solid >= 0 && solid <= 0xffffff && solid == std::floor(solid);
+        const int known = 1 + (object.contains("Alpha") ? 1 : 0);
+        if (!isWhole || alpha < 0 || alpha > 1 || object.size() != known) {
+            return std::nullopt;
+        }
+        return (QRgb(solid) & 0xffffff) | QRgb(qRound(alpha * 255)) << 24;
+    }
+    if (value.isDouble()) {
+        const double number = value.toDouble();
+        return number >= 0 && number <= 0xffffff && number == std::floor(number)
+            ? std::optional<QRgb>(QRgb(number) | 0xff000000)
+            : std::nullopt;
+    }
+    if (!value.isString()) {
+        return std::nullopt;
+    }
+    const QStringList parts = value.toString().split(',');
+    if (parts.size() == 3 || parts.size() == 4) {
+        QVector<int> channels;
+        for (const QString &part : parts) {
+            bool isNumber = false;
+            channels.append(part.toInt(&isNumber));
+            if (!isNumber || channels.last() < 0 || channels.last() > 255) {
+                return std::nullopt;
+            }
+        }
+        const int alpha = parts.size() == 4 ? channels.takeFirst() : 255;
+        return qRgba(channels.at(0), channels.at(1), channels.at(2), alpha);
+    }
+    const QColor named(value.toString());
+    return named.isValid() ? std::optional<QRgb>(named.rgba()) : std::nullopt;
+}
+
+// The runs of a text, each with what its letters say of themselves; of those a found text may say more.
+struct Run
+{
+    QString text;
+    QTextCharFormat letters;
+    QTextBlockFormat paragraph;
+    bool isInList;
+};
+
+QVector<Run> runsOf(const QString &html)
+{
+    QTextDocument document;
+    document.setHtml(html);
+    QVector<Run> runs;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        runs.append({"\n", block.charFormat(), block.blockFormat(), block.textList() != nullptr});
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const QString text = fragment.text();
+            for (const QChar letter : text) {
+                runs.append({letter, fragment.charFormat(), block.blockFormat(), block.textList() != nullptr});
+            }
+        }
+    }
+    return runs;
+}
+
+bool isSameRun(const Run &given, const Run &found)
+{
+    if (given.text != found.text || given.isInList != found.isInList) {
+        return false;
+    }
+    if (given.text == "\n") {
+        const Qt::Alignment sides = Qt::AlignHorizontal_Mask;
+        return ((given.paragraph.alignment() ^ found.paragraph.alignment()) & sides) == 0
+            || !given.paragraph.hasProperty(QTextFormat::BlockAlignment);
+    }
+    for (const int property :
+         {int(QTextFormat::FontFamily), int(QTextFormat::FontPixelSize), int(QTextFormat::FontWeight),
+          int(QTextFormat::FontItalic), int(QTextFormat::TextUnderlineStyle), int(QTextFormat::ForegroundBrush),
+          int(QTextFormat::BackgroundBrush), int(QTextFormat::TextVerticalAlignment), int(QTextFormat::AnchorHref)}) {
+        if (given.letters.hasProperty(property)
+            && given.letters.property(property) != found.letters.property(property)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool isSameHtml(const QString &given, const QString &found)
+{
+    if (given.contains("<table")) {
+        return found.contains("<table");
+    }
+    const QVector<Run> one = runsOf(given);
+    const QVector<Run> other = runsOf(found);
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(), isSameRun);
+}
+
+bool isSamePlainText(const QString &text, const QString &html)
+{
+    QTextDocument document;
+    document.setHtml(html);
+    return document.toPlainText() == text;
+}
+
+QString canonicalXml(const QString &text)
+{
+    QDomDocument document;
+    return document.setContent(text) ? toText(document.documentElement()) : text;
+}
+
+// ---- Trees ---------------------------------------------------------------------------------------------------------
+
+QString shown(const QJsonValue &value)
+{
+    if (value.isUndefined()) {
+        return "nothing";
+    }
+    const QByteArray text = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(text.mid(1, text.size() - 2)).left(300);
+}
+
+struct Place
+{
+    int slide;
+    QString type;
+    QString id;
+    Road road;
+};
+
+using Differences = QVector<Difference>;
+
+bool isSameLeaf(const QString &key, const QJsonValue &given, const QJsonValue &found, Road road)
+{
+    const auto one = plainText(given);
+    const auto other = plainText(found);
+    if (one && other && *one == *other) {
+        return true;
+    }
+    if (given.toString().startsWith('\v')) {
+        return false; // of so many digits each counts
+    }
+    // A number in JSON is one in any text form; a text is so only where texts are numbers.
+    const double tolerance = road == Road::Drawn ? 1e-4 : 0;
+    const bool isNumber = given.isDouble() || found.isDouble() || isNumeric(key) || isFlag(key);
+    const bool areLists = given.isArray() || found.isArray();
+    if (isNumber && (!areLists || isNumeric(key)) && haveSameNumbers(given, found, isNumeric(key) ? tolerance : 0)) {
+        return true;
+    }
+    if (isColor(key)) {
+        const auto color = colorOf(given);
+        const auto other = colorOf(found);
+        const bool areInvisible = road == Road::Drawn && color && other && qAlpha(*color) == 0 && qAlpha(*other) == 0;
+        return areInvisible || (color && color == other);
+    }
+    if (key == "manager" && one && other) {
+        return canonicalXml(*one) == canonicalXml(*other);
+    }
+    if (key == "TextHtml" && road == Road::Drawn && one && other) {
+        return isSameHtml(*one, *other);
+    }
+    return false;
+}
+
+void compare(const Place &place, const QString &way, const QString &key, const QJsonValue &given,
+             const QJsonValue &found, Differences &differences);
+
+bool isSame(const QString &key, const QJsonValue &given, const QJsonValue &found, Road road)
+{
+    Differences differences;
+    compare({0, {}, {}, road}, key, key, given, found, differences);
+    return differences.isEmpty();
+}
+
+// Calls visit(key, given, found) for each key that the given object has. Of a key that is there twice, one value can
+// come back; the other is a difference.
+template <typename Visit>
+void eachKey(const Place &place, const QString &way, const QJsonObject &given, const QJsonObject &found,
+             Differences &differences, const Visit &visit)
+{
+    for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
+        const bool isSecond = it.key().endsWith('\a');
+        const QString key = isSecond ? it.key().chopped(1) : it.key();
+        const QJsonValue back = found.value(key);
+        const QJsonValue other = given.value(isSecond ? key : key + '\a');
+        if (other.isUndefined()) {
+            visit(key, it.value(), back);
+        } else if (!isSecond) {
+            const bool isOtherBack = isSame(key, other, back, place.road);
+            visit(key, isOtherBack ? other : it.value(), back);
+            if (!isSame(key, it.value(), other, place.road)) {
+                differences.append({place.slide, place.type, place.id, way + key,
+                                    "one of two: " + shown(isOtherBack ? it.value() : other), shown(back)});
+            }
+        }
+    }
+}
+
+void compare(const Place &place, const QString &way, const QString &key, const QJsonValue &given,
+             const QJsonValue &found, Differences &differences)
+{
+    if (saysNothing(given) && saysNothing(found)) {
+        return;
+    }
+    const QString implied = place.road == Road::Kept ? QString() : defaults().value(key);
+    if (saysNothing(given)) {
+        const bool isOtherwise = !implied.isEmpty() && !isSameLeaf(key, implied, found, place.road);
+        if (isOtherwise) {
+            differences.append({place.slide, place.type, place.id, way, shown(given), shown(found)});
+        }
+        return;
+    }
+    const QJsonValue actual = saysNothing(found) && !implied.isEmpty() ? QJsonValue(implied) : found;
+    if (isSameLeaf(key, given, actual, place.road)) {
+        return;
+    }
+    if (given.isString() && actual.isArray()) {
+        const QJsonDocument list = QJsonDocument::fromJson(given.toString().toUtf8());
+        if (list.isArray() && list.array() == actual.toArray()) {
+            return;
+        }
+    }
+    if (given.isObject() && actual.isObject()) {
+        const QString inner = way.isEmpty() ? way : way + '.';
+        eachKey(place, inner, given.toObject(), actual.toObject(), differences,
+                [&](const QString &name, const QJsonValue &one, const QJsonValue &other) {
+                    compare(place, inner + name, name, one, other, differences);
+                });
+        return;
+    }
+    if (given.isArray() && actual.isArray()) {
+        const QJsonArray one = given.toArray();
+        const QJsonArray other = actual.toArray();
+        for (int i = 0; i < std::max(one.size(), other.size()); ++i) {
+            compare(place, way + '[' + QString::number(i) + ']', key, i < one.size() ? one.at(i) : QJsonValue(),
+                    i < other.size() ? other.at(i) : QJsonValue(), differences);
+        }
+        return;
+    }
+    differences.append({place.slide, place.type, place.id, way, shown(given), shown(actual)});
+}
+
+// ---- Items ---------------------------------------------------------------------------------------------------------
+
+struct Item
+{
+    QJsonObject keys; // without its items
+    int around = -1; // the group that it is in
+    QStringList childIds;
+    bool isVisible = true; // with what is around it
+    bool isLocked = false;
+    bool isAroundPlaced = false; // around items with a matrix, which its own box follows
+
+    QString id() const { return plainText(keys.value("ID")).value_or(QString()); }
+    QString type() const { return keys.value("Type").toString(); }
+};
+
+bool isSet(const QJsonValue &value, bool missing)
+{
+    const auto text = plainText(value);
+    return text && !text->isEmpty() ? text->toDouble() != 0 : missing;
+}
+
+bool isContainer(const QString &type)
+{
+    static const QStringList types{"ZQGroupItem", "group", "ZQStrokesMathFormula", "ZQStrokesChemFormula"};
+    return types.contains(type);
+}
+
+bool hasMatrix(const QJsonArray &items)
+{
+    return std::any_of(items.begin(), items.end(), [](const QJsonValue &value) {
+        const QJsonObject item = value.toObject();
+        return !saysNothing(item.value("Matrix")) || hasMatrix(item.value("Children").toArray());
+    });
+}
+
+void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
+{
+    for (const QJsonValue &value : items) {
+        Item item;
+        item.keys = value.toObject();
+        item.around = around;
+        item.isVisible = isSet(item.keys.value("Visible"), true) && (around < 0 || all.at(around).isVisible);
+        item.isLocked = isSet(item.keys.value("LockIn"), false) || (around >= 0 && all.at(around).isLocked);
+        QJsonArray children;
+        // Elsewhere it is a key as any other.
+        if (isContainer(item.type()) || road == Road::Drawn) {
+            const QJsonValue held = item.keys.value("Children");
+            const QJsonArray list = held.toArray();
+            if (held.isArray()
+                && std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isObject(); })) {
+                children = list;
+                item.keys.remove("Children");
+            }
+        }
+        for (const QJsonValue &child : qAsConst(children)) {
+            item.childIds.append(plainText(child.toObject().value("ID")).value_or(QString()));
+        }
+        item.isAroundPlaced = hasMatrix(children);
+        all.append(item);
+        collect(children, all.size() - 1, road, all);
+    }
+}
+
+// Nothing unless they are numbers in pairs.
+std::optional<QPolygonF> pointsOf(const QJsonValue &value)
+{
+    const auto numbers = numbersOf(value);
+    if (!numbers || numbers->isEmpty() || numbers->size() % 2 != 0) {
+        return std::nullopt;
+    }
+    QPolygonF points;
+    for (int i = 0; i < numbers->size(); i += 2) {
+        points.append(QPointF(numbers->at(i), numbers->at(i + 1)));
+    }
+    return points;
+}
+
+QPolygonF stretched(QPolygonF points, const QRectF &frame)
+{
+    const QRectF own = points.boundingRect();
+    for (QPointF &point : points) {
+        const double x = own.width() > 0 ? (point.x() - own.left()) / own.width() : 0;
+        const double y = own.height() > 0 ? (point.y() - own.top()) / own.height() : 0;
+        point = QPointF(frame.left() + x * frame.width(), frame.top() + y * frame.height());
+    }
+    return points;
+}
+
+// Shapes of the plane whose points are told; those of others follow from their box.
+bool hasOwnPoints(const QString &type)
+{
+    static const QStringList inBoxes{"ZQMath2DCircle", "ZQMath2DEllipse", "ZQMath2DRectangle", "ZQMath2DAngle"};
+    return type.startsWith("ZQMath2D") && !inBoxes.contains(type) && !type.contains("Normal")
+        && !type.contains("Parallel");
+}
+
+std::optional<QTransform> matrixOf(const QJsonValue &value)
+{
+    const auto n = numbersOf(saysNothing(value) ? QJsonValue("1,0,0,1,0,0") : value);
+    return n && n->size() == 6 ? std::optional<QTransform>({n->at(0), n->at(1), n->at(2), n->at(3), n->at(4), n->at(5)})
+                               : std::nullopt;
+}
+
+// Where an item stands on the page: its points, stretched into its box and turned, or its corners. Nothing where one of
+// its values isn't what it should be.
+std::optional<QPolygonF> drawing(const QJsonObject &item)
+{
+    const QString type = item.value("Type").toString();
+    const auto matrix = matrixOf(item.value("Matrix"));
+    const auto line = pointsOf(item.value("XY"));
+    if (matrix && line && type.contains("Stroke")) {
+        QPolygonF points = *line;
+        for (int i = 1; i < points.size(); ++i) {
+            points[i] += points.at(i - 1);
+        }
+        return matrix->map(points);
+    }
+    const auto box = numbersOf(item.value("BoundingBox"));
+    if (!box || box->size() != 4 || !matrix) {
+        return std::nullopt;
+    }
+    const QRectF frame(QPointF(box->at(0), box->at(1)), QPointF(box->at(2), box->at(3)));
+    QPolygonF points;
+    points << frame.topLeft() << frame.topRight() << frame.bottomRight() << frame.bottomLeft();
+    if (hasOwnPoints(type)) {
+        const auto own = pointsOf(item.value(type == "ZQMath2DPolyline" ? "XYValue" : "Control"));
+        if (!own) {
+            return std::nullopt;
+        }
+        points = stretched(*own, frame);
+    }
+    if (!saysNothing(item.value("Matrix"))) {
+        return matrix->map(points); // a turn is in the matrix
+    }
+    const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
+    if (!angle || angle->size() != 1) {
+        return std::nullopt;
+    }
+    QTransform turn = QTransform::fromTranslate(frame.center().x(), frame.center().y());
+    turn.rotateRadians(angle->first());
+    turn.translate(-frame.center().x(), -frame.center().y());
+    return turn.map(points);
+}
+
+// Points that are there twice in a row draw nothing.
+QPolygonF withoutRepeated(QPolygonF points)
+{
+    points.erase(
+        std::unique(points.begin(), points.end(),
+                    [](const QPointF &one, const QPointF &other) { return QLineF(one, other).length() < 1e-4; }),
+        points.end());
+    return points;
+}
+
+// A closed outline may name its first point again.
+bool isSameDrawing(const std::optional<QPolygonF> &given, const std::optional<QPolygonF> &found)
+{
+    if (!given || !found) {
+        return false;
+    }
+    QPolygonF one = withoutRepeated(*given);
+    const QPolygonF other = withoutRepeated(*found);
+    if (other.size() == one.size() + 1 && other.size() > 3) {
+        one.append(one.first());
+    }
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](const QPointF &one, const QPointF &other) { return QLineF(one, other).length() < 0.01; });
+}
+
+// What told how items were fitted into the page; it has done its part where they stand.
+bool isWorkedIn(const QString &key)
+{
+    return key == "SlideMatrix" || key == "SlideSourceRect";
+}
+
+bool isOfPlace(const QString &key)
+{
+    static const QStringList keys{"BoundingBox", "Control", "XYValue", "XY", "Angle", "Matrix"};
+    return keys.contains(key);
+}
+
+/*!
+ * Two lessons, slide by slide.
+ */
+class Comparing
+{
+public:
+    Comparing(const QJsonObject &given, const QJsonObject &found, Road road)
+        : m_road(road)
+        , m_givenFiles(given.value("Resources").toObject())
+        , m_foundFiles(found.value("Resources").toObject())
+    {
+        properties({0, "presentation", {}, road}, without(given, {"Slides", "Resources"}), found);
+        if (road != Road::Drawn) {
+            compare({0, "presentation", {}, road}, "Resources", "Resources", m_givenFiles, m_foundFiles, m_differences);
+        }
+        const QJsonArray givenSlides = given.value("Slides").toArray();
+        const QJsonArray foundSlides = found.value("Slides").toArray();
+        for (int i = 0; i < givenSlides.size(); ++i) {
+            slide(i + 1, givenSlides.at(i).toObject(), foundSlides.at(i).toObject());
+        }
+    }
+
+    Differences differences() const { return m_differences; }
+
+private:
+    static QJsonObject without(QJsonObject object, const QStringList &keys)
+    {
+        for (const QString &key : keys) {
+            object.remove(key);
+        }
+        return object;
+    }
+
+    void slide(int number, const QJsonObject &given, const QJsonObject &found)
+    {
+        properties({number, "slide", plainText(given.value("ID")).value_or(QString()), m_road},
+                   without(given, {"Items"}), found);
+        QVector<Item> givenItems;
+        QVector<Item> foundItems;
+        collect(given.value("Items").toArray(), -1, m_road, givenItems);
+        collect(found.value("Items").toArray(), -1, m_road, foundItems);
+        const QVector<int> places = matched(givenItems, foundItems);
+        int last = -1;
+        for (int i = 0; i < givenItems.size(); ++i) {
+            const Item &item = givenItems.at(i);
+            const Place place{number, item.type(), item.id(), m_road};
+            if (places.at(i) < 0) {
+                m_differences.append({number, item.type(), item.id(), {}, "the item", "nothing"});
+                continue;
+            }
+            if (places.at(i) < last) {
+                m_differences.append(
+                    {number, "slide", {}, "Items", "item " + item.id() + " in its place", "elsewhere"});
+            }
+            last = places.at(i);
+            const Item &back = foundItems.at(places.at(i));
+            if (item.childIds != back.childIds && isContainer(item.type())) {
+                m_differences.append(
+                    {number, item.type(), item.id(), "Children", item.childIds.join(' '), back.childIds.join(' ')});
+            }
+            itemKeys(place, item, back);
+        }
+        for (int i = 0; i < foundItems.size(); ++i) {
+            if (!places.contains(i)) {
+                const Item &item = foundItems.at(i);
+                m_differences.append({number, item.type(), item.id(), {}, "nothing", "an item"});
+            }
+        }
+    }
+
+    // By identifier, as often as it is there, or one that was made of it; what is left over in its order.
+    static QVector<int> matched(const QVector<Item> &given, const QVector<Item> &found)
+    {
+        QVector<int> places(given.size(), -1);
+        QSet<int> taken;
+        using IsSame = bool (*)(const Item &one, const Item &other);
+        const IsSame ways[] = {
+            [](const Item &one, const Item &other) { return !one.id().isEmpty() && one.id() == other.id(); },
+            [](const Item &one, const Item &other) { return other.id().startsWith(one.id() + '_'); },
+            [](const Item &one, const Item &other) { return one.type() == other.type(); },
+        };
+        for (const IsSame isSame : ways) {
+            for (int i = 0; i < given.size(); ++i) {
+                for (int j = 0; places.at(i) < 0 && j < found.size(); ++j) {
+                    if (!taken.contains(j) && isSame(given.at(i), found.at(j))) {
+                        places[i] = j;
+                        taken.insert(j);
+                    }
+                }
+            }
+        }
+        return places;
+    }
+
+    void properties(const Place &place, const QJsonObject &given, const QJsonObject &found)
+    {
+        eachKey(place, {}, given, found, m_differences,
+                [&](const QString &key, const QJsonValue &one, const QJsonValue &) { value(place, key, one, found); });
+        for (auto it = found.constBegin(); it != found.constEnd(); ++it) {
+            if (!given.contains(it.key()) && !given.contains(it.key() + '\a')) {
+                compare(place, it.key(), it.key(), {}, it.value(), m_differences);
+            }
+        }
+    }
+
+    void value(const Place &place, const QString &key, const QJsonValue &given, const QJsonObject &found)
+    {
+        QJsonValue back = found.value(key);
+        const bool isInkLine = place.type.contains("Stroke") && found.value("Type") == QJsonValue("ZQMath2DPolyline");
+        const QString other = m_road == Road::Kept ? QString() : isInkLine ? otherNameOfInk(key) : otherName(key);
+        if (saysNothing(back) && !other.isEmpty() && !saysNothing(found.value(other))) {
+            back = found.value(other);
+            const auto text = plainText(given);
+            if (other == "TextHtml" && text && isSamePlainText(*text, back.toString())) {
+                return;
+            }
+            if (other == "color" && colorOf(given) && colorOf(given) == colorOf(back)) {
+                return;
+            }
+        }
+        if (m_road == Road::Drawn && isSameFile(given, back)) {
+            return;
+        }
+        const bool isPaper =
+            key == "TextureLineType" && found.value("document").toString().startsWith("ID_SLIDE_NOTEBOOK_");
+        if (m_road != Road::Kept && (isWorkedIn(key) || isPaper)) {
+            return;
+        }
+        compare(place, key, key, given, back, m_differences);
+    }
+
+    // A format names files as it needs.
+    bool isSameFile(const QJsonValue &given, const QJsonValue &found) const
+    {
+        const QJsonValue file = m_givenFiles.value(given.toString());
+        return given.isString() && file.isString() && file == m_foundFiles.value(found.toString());
+    }
+
+    void itemKeys(const Place &place, const Item &given, const Item &found)
+    {
+        QJsonObject keys = given.keys;
+        QJsonObject back = found.keys;
+        const auto matrix = matrixOf(keys.value("Matrix"));
+        const bool hasMatrix = !saysNothing(keys.value("Matrix")) && matrix && !matrix->isIdentity();
+        const bool isPlaced = m_road == Road::Drawn || (m_road == Road::Packed && hasMatrix);
+        if (isPlaced && isSameDrawing(drawing(keys), drawing(back))) {
+            removePlace(place, {}, keys, back);
+        } else if (m_road != Road::Kept && hasMatrix) {
+            // A shape under a matrix is drawn around an origin of its own. For others the lost matrix tells it all.
+            removePlace(place, place.type.startsWith("ZQMath2D") ? QString("Type") : QString("Matrix"), keys, back);
+        }
+        if (m_road == Road::Drawn) {
+            if (given.isVisible == found.isVisible && isFlagValue(keys.value("Visible"))) {
+                keys.remove("Visible");
+            }
+            if (given.isLocked == found.isLocked && isFlagValue(keys.value("LockIn"))) {
+                keys.remove("LockIn");
+            }
+        }
+        for (const char *key : {"Visible", "LockIn"}) {
+            if (m_road == Road::Drawn && !keys.contains(key)) {
+                back.remove(key);
+            }
+        }
+        if (m_road != Road::Kept && given.isAroundPlaced) {
+            keys.remove("BoundingBox");
+        }
+        inkOpacity(keys, back);
+        properties(place, keys, back);
+    }
+
+    // What the same drawing tells in other numbers. A turn beside a matrix counts only if it is the turn of the matrix.
+    void removePlace(const Place &place, const QString &judged, QJsonObject &given, QJsonObject &found)
+    {
+        const QTransform matrix = matrixOf(given.value("Matrix")).value_or(QTransform());
+        const auto angle = numbersOf(given.value("Angle"));
+        const bool isTurnOfMatrix = angle && angle->size() == 1
+            && std::fabs(std::remainder(angle->first() - std::atan2(matrix.m12(), matrix.m11()), 2 * M_PI)) < 1e-4;
+        const bool hasOwnTurn =
+            !saysNothing(given.value("Matrix")) && !saysNothing(given.value("Angle")) && !isTurnOfMatrix;
+        const QStringList keys = given.keys() + found.keys();
+        for (const QString &key : keys) {
+            const bool isOwn = m_road == Road::Drawn || key != "Control" || hasOwnPoints(place.type);
+            if (isOwn && isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
+                given.remove(key);
+                found.remove(key);
+                // Steps of ink may be rounded on the way.
+                if (!judged.isEmpty() || key == "XY") {
+                    m_differences.append({place.slide, place.type, place.id, key, {}, {}, true});
+                }
+            }
+        }
+    }
+
+    static bool isFlagValue(const QJsonValue &value)
+    {
+        const auto text = plainText(value);
+        return text && (*text == "0" || *text == "1" || text->isEmpty());
+    }
+
+    // Ink's opacity is read into its colour.
+    static void inkOpacity(QJsonObject &given, const QJsonObject &found)
+    {
+        const auto opacity = numbersOf(given.value("Opacity"));
+        auto color = colorOf(given.value("Color"));
+        if (!color || !opacity || opacity->size() != 1 || opacity->first() < 0 || opacity->first() > 255
+            || !saysNothing(found.value("Opacity"))) {
+            return;
+        }
+        *color = (*color & 0xffffff) | QRgb(opacity->first()) << 24;
+        if (color == colorOf(found.value("Color"))) {
+            given.remove("Opacity");
+            given.insert("Color", found.value("Color"));
+        }
+    }
+
+    Road m_road;
+    QJsonObject m_givenFiles;
+    QJsonObject m_foundFiles;
+    Differences m_differences;
+};
+
+// ---- XML -----------------------------------------------------------------------------------------------------------
+
+bool isItem(const QDomElement &element)
+{
+    const QDomElement parent = element.parentNode().toElement();
+    return parent.tagName() == "items"
+        || (parent.tagName() == "data" && element.hasAttribute("type") && element.hasAttribute("id"));
+}
+
+QString ownText(const QDomElement &element)
+{
+    QString text;
+    bool hasSection = false;
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        text += child.isText() ? child.nodeValue() : QString();
+        hasSection = hasSection || child.isCDATASection();
+    }
+    return hasSection || !text.trimmed().isEmpty() ? text : QString();
+}
+
+void compareElements(const Place &place, const QString &way, const QDomElement &given, const QDomElement &found,
+                     Differences &differences);
+
+void compareText(const Place &place, const QString &way, const QString &key, const QString &given, const QString &found,
+                 Differences &differences)
+{
+    compare(place, way, key, given.isEmpty() ? QJsonValue() : QJsonValue(given),
+            found.isEmpty() ? QJsonValue() : QJsonValue(found), differences);
+}
+
+// The child of found that is the next of the same tag, row and identifier.
+QDomElement counterpart(const QDomElement &child, const QDomElement &found, QHash<QString, int> &counts)
+{
+    const QString row = child.tagName() == "property" ? child.attribute("name") : QString();
+    const QString id = isItem(child) ? child.attribute("id") : QString();
+    int left = counts[child.tagName() + '\n' + row + '\n' + id]++;
+    for (QDomElement other = found.firstChildElement(child.tagName()); !other.isNull();
+         other = other.nextSiblingElement(child.tagName())) {
+        const bool isSame =
+            (row.isEmpty() || other.attribute("name") == row) && (id.isEmpty() || other.attribute("id") == id);
+        if (isSame && left-- == 0) {
+            return other;
+        }
+    }
+    return {};
+}
+
+void compareElements(const Place &place, const QString &way, const QDomElement &given, const QDomElement &found,
+                     Differences &differences)
+{
+    const QDomNamedNodeMap attributes = given.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString name = attributes.item(i).nodeName();
+        if (given.tagName() == "property" && name == "name") {
+            // Its row is known by it.
+            if (found.isNull()) {
+                differences.append({place.slide, place.type, place.id, way + "@name", {}, {}, true});
+            }
+            continue;
+        }
+        const bool isRow = given.tagName() == "property" && name == "value" && isColor(given.attribute("name"));
+        compareText(place, way + '@' + name, isRow ? "Color" : name, attributes.item(i).nodeValue(),
+                    found.attribute(name), differences);
+    }
+    const QDomNamedNodeMap others = found.attributes();
+    for (int i = 0; i < others.count(); ++i) {
+        const QString name = others.item(i).nodeName();
+        if (!given.hasAttribute(name)) {
+            compareText(place, way + '@' + name, name, {}, others.item(i).nodeValue(), differences);
+        }
+    }
+    compareText(place, way, {}, ownText(given), ownText(found), differences);
+    if (attributes.isEmpty() && !given.hasChildNodes()) {
+        differences.append({place.slide, place.type, place.id, way, "an element", "nothing", true});
+    }
+    QHash<QString, int> counts;
+    for (QDomElement child = given.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QDomElement other = counterpart(child, found, counts);
+        if (isItem(child)) {
+            compareElements({place.slide, child.attribute("type"), child.attribute("id"), place.road}, {}, child, other,
+                            differences);
+        } else {
+            compareElements(place, way.isEmpty() ? child.tagName() : way + '/' + child.tagName(), child, other,
+                            differences);
+        }
+    }
+}
+
+} // namespace
+
+bool isSameInModel(const QString &type, const QString &key, const QJsonValue &given, const QJsonValue &found, Road road)
+{
+    Differences differences;
+    compare({0, type, {}, road}, key, key, given, found, differences);
+    return differences.isEmpty();
+}
+
+QVector<Difference> lessonDifferences(const QJsonObject &given, const QJsonObject &found, Road road)
+{
+    return Comparing(given, found, road).differences();
+}
+
+QVector<Difference> documentDifferences(int slide, const QDomElement &given, const QDomElement &found)
+{
+    Differences differences;
+    const bool isSlide = given.tagName() == "slide";
+    compareElements({slide, isSlide ? "slide" : "presentation", given.attribute("id"), Road::Packed}, {}, given, found,
+                    differences);
+    return differences;
+}
