@@ -4,9 +4,9 @@
 #include "lesson/itemkeys.h"
 #include "lesson/strokeoffsets.h"
 #include "losses/carriedcheck.h"
-#include "losses/equivalence.h"
 #include "losses/jsontext.h"
 #include "losses/lossreport.h"
+#include "losses/modelvalues.h"
 #include "pluginfixture.h"
 
 #include <QtTest>
@@ -115,7 +115,7 @@ private slots:
         QVERIFY(!isSameValue("Control"_s, "1,abc", "1,0"));
         QVERIFY(isSameValue("XY"_s, "1e1,3", "10,3"));
         QVERIFY(!isSameValue("XY"_s, "10,3", "10,3,4"));
-        QVERIFY(!isSameValue("ArtObj_Width"_s, "1.50", "1.5"));
+        QVERIFY(!isSameValue("Title"_s, "1.50", "1.5"));
         QVERIFY(isSameValue("Color"_s, "red", "#ffff0000"));
         QVERIFY(isSameValue("ArtObj_Color"_s, "1,2,3", "255,1,2,3"));
         QVERIFY(!isSameValue("ArtObj_Color"_s, "1,2,3", "254,1,2,3"));

@@ -36,11 +36,15 @@ const QJsonObject &formedValues()
         "InteractiveType": "ACTION_OPENWEB",
         "InteractiveValue": "https://www.example.org/",
         "LockIn": "1",
-        "Matrix": "1,0,0,1,10,20",
+        "Matrix": "0.877583,0.479426,-0.479426,0.877583,10,20",
         "SlideMatrix": "1,0,0,1,10,20",
+        "ArtObj_Fill": "1",
+        "ArtObj_Mode": "1",
+        "ArtObj_Style": "1",
         "TextHtml": "<p>Text</p>",
         "Visible": false,
         "XY": "100,100,20,10,20,10",
+        "XYValue": "100,100,300,100,300,220,100,220,",
         "AudioPath": "images/picture.png",
         "DrawTexture": "images/picture.png",
         "MultiMediaFile": "images/picture.png",
@@ -61,6 +65,14 @@ const QHash<QString, QJsonObject> &valuesOfTypes()
         {QStringLiteral("ZQGroupItem"),
          fromText(R"({"Children": [{"Type": "ZQSmoothStroke", "ID": "9001", "XY": "100,100,20,10", "Color": "#ff000000",
              "Width": "3", "BoundingBox": "100,100,120,110", "Visible": true}]})")},
+        {QStringLiteral("ZQMath2DSegment"), fromText(R"({"Control": [100, 100, 300, 220], "ArtObj_ArrowType": "0"})")},
+        {QStringLiteral("ZQMath2DSegmentWith1Arrow"),
+         fromText(R"({"Control": [100, 100, 300, 220], "ArtObj_ArrowType": "1"})")},
+        {QStringLiteral("ZQMath2DSegmentWith2Arrow"),
+         fromText(R"({"Control": [100, 100, 300, 220], "ArtObj_ArrowType": "2"})")},
+        {QStringLiteral("ZQMath2DGeoSegment"), fromText(R"({"Control": [100, 100, 300, 220]})")},
+        {QStringLiteral("ZQMath2DAngle"), fromText(R"({"Control": [100, 100, 300, 220]})")},
+        {QStringLiteral("ZQMath2DTriangle"), fromText(R"({"Control": [100, 100, 300, 100, 300, 220]})")},
         {QStringLiteral("ZQActivityFlipItem"),
          fromText(R"({"attachments": {"back": "images/picture.png", "error": "images/picture.png",
              "front": "images/picture.png"}})")},
@@ -135,9 +147,7 @@ QString pictureText()
 QString rawText(const QString &key, int number)
 {
     static const QHash<QString, QString> texts{
-        {QStringLiteral("Angle"), QStringLiteral("0.5")},
         {QStringLiteral("BoundingBox"), QStringLiteral("300,220,0,0,100,100")},
-        {QStringLiteral("Matrix"), QStringLiteral("1,0,0,1,10,20")},
         {QStringLiteral("Visible"), QStringLiteral("0")},
     };
     return texts.value(key, formedValues().value(key).toString(QString::number(number)));

@@ -44,13 +44,13 @@ QString LessonFiles::find(const QString &reference)
     return m_sources.value(path);
 }
 
-QString LessonFiles::nameIn(const QString &folder, const QString &sourceFile)
+QString LessonFiles::nameIn(const QString &folder, const QString &sourceFile, const QString &wantedName)
 {
-    const QString key = folder + QLatin1Char('/') + sourceFile;
+    const QString key = folder + QLatin1Char('/') + wantedName + QLatin1Char('/') + sourceFile;
     if (m_names.contains(key)) {
         return m_names.value(key);
     }
-    QString wanted = bareName(sourceFile);
+    QString wanted = wantedName.isEmpty() ? bareName(sourceFile) : wantedName;
     for (const char c : {'#', '%', '?', '&', '"', '<', '>'}) {
         // They mean something else in a reference.
         wanted.replace(QLatin1Char(c), QLatin1Char('_'));

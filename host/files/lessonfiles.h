@@ -20,9 +20,12 @@ public:
     //! The file on disk that a reference means: its path in the lesson or, where only one file has it, its bare name.
     //! Empty if the lesson has no such file.
     QString find(const QString &reference);
+    //! The file on disk that has just this path in the lesson, or nothing.
+    QString source(const QString &relativePath) const { return m_sources.value(relativePath); }
 
-    //! A name in a folder of the package that no other file there has; the same file gets the same name again.
-    QString nameIn(const QString &folder, const QString &sourceFile);
+    //! A name in a folder of the package that no other file there has: the file's own, the one that is wanted, or one
+    //! like it. The same file gets the same name again.
+    QString nameIn(const QString &folder, const QString &sourceFile, const QString &wantedName = {});
 
     //! Paths of the files that nobody asked for.
     QStringList unused() const;

@@ -4,7 +4,7 @@
 #include "files/lessonerror.h"
 #include "lesson/activitypictures.h"
 #include "lesson/itemkeys.h"
-#include "losses/lossreport.h"
+#include "losses/slidelosses.h"
 
 #include <QMap>
 #include <QSet>
@@ -13,19 +13,14 @@ namespace lessonhost {
 
 namespace {
 
-void reportKeptItems(const QJsonArray &items, int slide, LossReport *losses)
+void reportKeptItems(const QJsonArray &items, const SlideLosses &losses)
 {
     for (const QJsonValue &value : items) {
         const QJsonObject item = value.toObject();
         if (item.contains(HostKeys::keptXml)) {
-            Loss kept;
-            kept.kind = Loss::Kept;
-            kept.slide = slide;
-            kept.itemType = item.value(QLatin1String("Type")).toString();
-            kept.itemId = item.value(QLatin1String("ID")).toString();
-            losses->add(kept);
+            losses.kept(item);
         }
-        reportKeptItems(item.value(HostKeys::children).toArray(), slide, losses);
+        reportKeptItems(item.value(HostKeys::children).toArray(), losses);
     }
 }
 
@@ -65,9 +60,7 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
     const int count = reader->slideCount();
     for (int i = 0; i < count; ++i) {
         const LessonSlide slide = reader->slide(i);
-        if (context.losses) {
-            reportKeptItems(slide.items, i + 1, context.losses);
-        }
+        reportKeptItems(slide.items, SlideLosses(context.losses, i + 1));
         const QMap<QString, QString> pictures = picturesInData(slide.properties);
         for (auto it = pictures.constBegin(); it != pictures.constEnd(); ++it) {
             if (!added.contains(it.key())) {

@@ -123,7 +123,10 @@ QJsonValue JsonIndex::parsedValue(const Range &range)
 QByteArray JsonIndex::text(const Range &range)
 {
     const QByteArray text = bytes(range.begin, range.end - range.begin);
-    if (!text.startsWith('"') || text.contains('\\')) {
+    if (!text.startsWith('"')) {
+        fail(QStringLiteral("A file of the lesson is no base64 text"), range.begin);
+    }
+    if (text.contains('\\')) {
         return value(range).toString().toUtf8();
     }
     return text.mid(1, text.size() - 2);

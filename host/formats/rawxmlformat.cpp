@@ -51,6 +51,26 @@ void findSingleFile(const QDomElement &element, QJsonObject &item)
     }
 }
 
+// The same in the script of a slide, by the order of its actions.
+QJsonObject withStableActions(QJsonObject slide)
+{
+    static const QRegularExpression actionIndex(QStringLiteral("(?<=\"actionIndex\": \")[0-9]*(?=\")"));
+    const QLatin1String key("objAnimationData");
+    const QString script = slide.value(key).toString();
+    QString stable;
+    int number = 0;
+    int end = 0;
+    for (auto matches = actionIndex.globalMatch(script); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        stable += script.midRef(end, match.capturedStart() - end) + QString::number(++number);
+        end = match.capturedEnd();
+    }
+    if (number > 0) {
+        slide.insert(key, QString(stable + script.midRef(end)));
+    }
+    return slide;
+}
+
 void collectIds(const QDomElement &element, QSet<QString> &ids)
 {
     if (element.hasAttribute(netId)) {
@@ -116,7 +136,7 @@ public:
         LessonSlide slide;
         m_nextId = (index + 1) * idsOfSlide;
         const QDomElement untouched = element.cloneNode(true).toElement();
-        slide.properties = m_context.plugin->tranSlideXML2JSON(element, context());
+        slide.properties = withStableActions(m_context.plugin->tranSlideXML2JSON(element, context()));
         setStableId(slide.properties, untouched);
         if (check) {
             check->compare(slideTag, untouched.attribute(netId), untouched,

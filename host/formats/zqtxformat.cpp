@@ -18,7 +18,7 @@
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
 #include "losses/comparison.h"
-#include "losses/lossreport.h"
+#include "losses/slidelosses.h"
 #include "svg/pluginoutlines.h"
 
 #include <QFileInfo>
@@ -169,6 +169,7 @@ public:
         : m_context(context)
         , m_source(path)
         , m_check(context.losses)
+        , m_losses(context.losses)
     {
         const QDomDocument document = loadXmlFile(m_source.file(indexFile), m_source.displayName(indexFile));
         const QDomElement root = rootOf(document, indexTag, m_source.displayName(indexFile));
@@ -190,17 +191,15 @@ public:
         checkSlideSize(QFileInfo(m_source.file(file)).size(), index + 1, m_source.displayName(file));
         const QDomDocument document = loadXmlFile(m_source.file(file), m_source.displayName(file));
         const QDomElement root = rootOf(document, slideTag, m_source.displayName(file));
-        const bool isChecked = isChecking() && !m_checked.contains(index);
-        m_checked.insert(index);
+        const SlideLosses losses = m_losses.slide(index + 1);
+        const bool isChecked = m_context.verify && losses.isHeard();
         m_check.setSlide(index + 1);
         LessonSlide slide = m_slides->read(root, location(), isChecked ? &m_check : nullptr);
         checkSlideItems(slide.items, index + 1, m_source.displayName(file));
         if (slide.properties.value(idKey).toString().isEmpty()) {
             slide.properties.insert(idKey, QFileInfo(file).completeBaseName());
         }
-        if (isChecked) {
-            noteRenamedFile(index, slide.properties.value(idKey).toString());
-        }
+        noteRenamedFile(index, slide.properties.value(idKey).toString(), losses);
         return slide;
     }
 
@@ -257,25 +256,21 @@ private:
         }
     }
 
-    void noteRenamedFile(int index, const QString &id) const
+    void noteRenamedFile(int index, const QString &id, const SlideLosses &losses) const
     {
         if (slideFile(id) == m_files.at(index)) {
             return;
         }
-        Loss note;
-        note.kind = Loss::Note;
-        note.slide = index + 1;
-        note.itemType = QStringLiteral("slide");
-        note.key = idKey;
-        note.detail =
-            QStringLiteral("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id));
-        m_context.losses->add(note);
+        losses.note(
+            QString(slideTag),
+            QStringLiteral("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id)),
+            idKey);
     }
 
     LessonContext m_context;
     PackageSource m_source;
     CarriedCheck m_check;
-    QSet<int> m_checked;
+    LessonLosses m_losses;
     QStringList m_files;
     QJsonObject m_presentation;
     std::unique_ptr<ZqtxSlides> m_slides;
@@ -306,6 +301,7 @@ class ZqtxWriter : public LessonWriter
 public:
     ZqtxWriter(const QString &path, const LessonContext &context)
         : m_context(context)
+        , m_losses(context.losses)
         , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isZqtxFolder)
     {
     }
@@ -336,11 +332,16 @@ public:
         m_target.write(slideFile(id), text);
         m_ids.append(id);
         m_usedIds.insert(id);
-        if (m_context.verify && m_context.losses) {
+        if (m_context.verify && m_losses.presentation().isHeard()) {
             const LessonSlide found = m_slides->read(loadXml(text, name).documentElement(), m_target.target(), nullptr);
-            const Comparison comparison(m_context.losses, number);
-            comparison.compareProperties(QStringLiteral("slide"), written.properties, found.properties);
-            comparison.compareItems(written.items, found.items);
+            QJsonObject given = keptInPageForm(slide.properties, written.properties);
+            const QLatin1String activity("activity");
+            if (given.value(activity).toObject().value(QLatin1String("templet")).isObject()) {
+                given.insert(activity, written.properties.value(activity)); // pictures by their short names
+            }
+            const Comparison comparison(m_losses.slide(number));
+            comparison.compareProperties({slideTag, id}, given, found.properties);
+            comparison.compareItems(slide.items, written.items, found.items);
         }
     }
 
@@ -348,9 +349,9 @@ public:
     {
         const QByteArray text = xmlDocumentText(writeIndex(m_context.plugin, m_presentation, m_ids).documentElement());
         m_target.write(indexFile, text);
-        if (m_context.verify && m_context.losses) {
+        if (m_context.verify && m_losses.presentation().isHeard()) {
             const QString name = m_target.target() + QLatin1Char('/') + indexFile;
-            Comparison(m_context.losses, 0)
+            Comparison(m_losses.presentation())
                 .compareProperties(QStringLiteral("presentation"), m_presentation,
                                    readIndex(m_context.plugin, loadXml(text, name).documentElement(), name));
         }
@@ -361,14 +362,11 @@ public:
 private:
     void notePlacedItems() const
     {
-        if (m_placedItems == 0 || !m_context.losses) {
-            return;
+        if (m_placedItems > 0) {
+            m_losses.presentation().note(
+                QStringLiteral("items"),
+                QStringLiteral("%1 had a matrix, which is worked into where they stand").arg(m_placedItems));
         }
-        Loss note;
-        note.kind = Loss::Note;
-        note.itemType = QStringLiteral("items");
-        note.detail = QStringLiteral("%1 had a matrix, which is worked into where they stand").arg(m_placedItems);
-        m_context.losses->add(note);
     }
 
     // The identifier names the slide's file.
@@ -400,6 +398,7 @@ private:
     }
 
     LessonContext m_context;
+    LessonLosses m_losses;
     PackageTarget m_target;
     QJsonObject m_presentation;
     QStringList m_ids;

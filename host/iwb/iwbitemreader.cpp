@@ -150,11 +150,10 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
     return json;
 }
 
-QJsonObject IwbItemReader::readLink(const QString &target, const QHash<QString, int> &pageNumbers) const
+QJsonObject IwbItemReader::readLink(const QString &target, int page) const
 {
     QString known = target;
     if (target.startsWith(QLatin1Char('#'))) {
-        const int page = pageNumbers.value(target.mid(1));
         if (page == 0) {
             return {};
         }

@@ -22,9 +22,9 @@ public:
     //! The item, without ID, link and file. Empty for an element that the plug-in makes nothing of.
     QJsonObject read(const IwbElement &item) const;
 
-    //! The link keys that a target stands for; pageNumbers: by the identifiers of pages. Empty for targets that stand
-    //! for no link, and for files, which the caller has to find first.
-    QJsonObject readLink(const QString &target, const QHash<QString, int> &pageNumbers) const;
+    //! The link keys that a target stands for; page: the number of the page that it names, or 0. Empty for targets that
+    //! stand for no link, and for files, which the caller has to find first.
+    QJsonObject readLink(const QString &target, int page) const;
 
 private:
     IZQTransformation *m_plugin;

@@ -1,21 +1,16 @@
 #include "iwb/iwbitemwriter.h"
 
-#include "files/outputfile.h"
 #include "files/pictures.h"
+#include "iwb/iwbmedia.h"
 #include "iwb/shapeplacing.h"
 #include "izqtransformation.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
-#include "losses/lossreport.h"
 #include "svg/pluginoutlines.h"
 #include "svg/svggeometry.h"
 #include "svg/svgstyle.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QSet>
 
 #include <cmath>
 
@@ -24,46 +19,6 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String openFile("ACTION_OPENFILE");
-
-// Keys of an item that go over, one way or another, or that say nothing about the item itself.
-constexpr const char *carriedByAll[] = {"ID",
-                                        "Type",
-                                        "BoundingBox",
-                                        "Matrix",
-                                        "SlideMatrix",
-                                        "Angle",
-                                        "Visible",
-                                        "LockIn",
-                                        "InfiniteClone",
-                                        "InteractiveType",
-                                        "InteractiveValue",
-                                        "IgnoreEraser",
-                                        "IWB_TEXTINFO-VECTOR",
-                                        "IWB_TEXTINFO-DELVECTOR"};
-constexpr const char *carriedByShapes[] = {"Control",   "XYValue",          "ArtObj_Width",       "ArtObj_Fill",
-                                           "ArtObj_Ln", "ArtObj_ArrowType", "Discipline_xCreate", "Discipline_yCreate"};
-constexpr const char *carriedByStrokes[] = {"XY", "Color", "Width"};
-constexpr const char *carriedByText[] = {"TextHtml", "Text", "TextContent"};
-constexpr const char *carriedByMedia[] = {"resource",    "MultiMediaFile", "AbsMediaFile",
-                                          "tmpFilePath", "path",           "saveType"};
-
-bool saysNothing(const QJsonValue &value)
-{
-    switch (value.type()) {
-    case QJsonValue::String:
-        return value.toString().isEmpty() || value.toString() == QLatin1String("0");
-    case QJsonValue::Bool:
-        return !value.toBool();
-    case QJsonValue::Array:
-        return value.toArray().isEmpty();
-    case QJsonValue::Object:
-        return value.toObject().isEmpty();
-    case QJsonValue::Double:
-        return value.toDouble() == 0;
-    default:
-        return true;
-    }
-}
 
 SvgPaint paintOf(const ItemView &item, const ShapeForm &form)
 {
@@ -122,40 +77,36 @@ IwbItemWriter::IwbItemWriter(const Setting &setting)
 {
 }
 
-void IwbItemWriter::write(QDomDocument &document, QDomElement &page, const QJsonArray &items, int slide)
+QDomElement IwbItemWriter::write(QDomDocument &document, const QJsonObject &item, const QString &id,
+                                 const SlideLosses &losses)
 {
     m_document = document;
-    m_page = page;
-    m_slide = slide;
-    for (const QJsonValue &item : items) {
-        writeItem(item.toObject());
-    }
-}
-
-void IwbItemWriter::writeItem(const QJsonObject &item)
-{
+    m_given = item;
+    m_id = id;
+    m_losses = losses;
+    m_linkedFile.clear();
+    m_missingFile.clear();
     const ItemView view(item);
     const QString type = view.type();
-    const QVector<QJsonObject> children = view.looseChildren();
-    if (!children.isEmpty()) {
-        report(item, Loss::Note, {}, QStringLiteral("taken apart, its items stand on the page by themselves"));
-        for (const QJsonObject &child : children) {
-            writeItem(child);
-        }
-    } else if (const ShapeForm *form = shapeForm(type)) {
-        writeShape(item, *form);
+    QDomElement element;
+    if (const ShapeForm *form = shapeForm(type)) {
+        element = writeShape(item, *form);
     } else if (isInk(type) && view.has(ItemKeys::steps)) {
-        writeStroke(item);
+        element = writeStroke(item);
     } else if (isTextBoard(type)) {
-        writeText(item);
+        element = writeText(item);
     } else if (mediaFolder(type)) {
-        writeMedia(item);
+        element = writeMedia(item);
     } else {
-        writeOther(item);
+        element = convert(commonKeys(item));
     }
+    if (!element.isNull()) {
+        complete(item, element);
+    }
+    return element;
 }
 
-void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
+QDomElement IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
 {
     const ItemView view(item);
     const PlacedShape placed = placeShape(view, form, pluginOutlines(m_setting.plugin));
@@ -165,9 +116,9 @@ void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
         prepared.insert(it.key(), it.value());
     }
     setPaintKeys(prepared, *placed.form, paint, view.text(QLatin1String(form.dashKey)));
-    QDomElement element = convert(item, prepared);
+    QDomElement element = convert(prepared);
     if (element.isNull()) {
-        return;
+        return {};
     }
     QDomElement shape = innermost(element);
     setSvgPaint(shape, paint);
@@ -181,40 +132,40 @@ void IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &form)
     const QRectF box = placed.form->outline == ShapeForm::Rectangle ? placed.box.value_or(extent) : extent;
     setSvgBox(shape, box, pluginDigits);
     setSvgTurn(shape, placed.angle);
-    reportUncarried(withoutDoubledWidth(item), carriedByShapes, &form);
-    append(item, element);
+    return element;
 }
 
-void IwbItemWriter::writeStroke(const QJsonObject &item)
+QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
 {
     const ItemView view(item);
     const auto matrix = view.matrix();
     const QPolygonF points = matrix ? matrix->map(view.strokePoints()) : view.strokePoints();
     if (!m_setting.keepsInk || points.isEmpty()) {
         ++m_strokesLeftOut;
-        report(item, Loss::Item, {},
-               m_setting.keepsInk ? QStringLiteral("it has no points") : QStringLiteral("--ink drop"));
-        return;
+        m_losses.item(item, m_setting.keepsInk ? QStringLiteral("it has no points") : QStringLiteral("--ink drop"));
+        return {};
     }
     const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DPolyline"));
     QJsonObject polyline;
-    for (const char *key :
-         {"ID", "Angle", "Visible", "LockIn", "InfiniteClone", "InteractiveType", "InteractiveValue"}) {
-        if (item.contains(QLatin1String(key))) {
-            polyline.insert(QLatin1String(key), item.value(QLatin1String(key)));
+    for (const QLatin1String key :
+         {ItemKeys::visible, ItemKeys::locked, ItemKeys::endless, ItemKeys::linkType, ItemKeys::linkValue}) {
+        if (item.contains(key)) {
+            polyline.insert(key, item.value(key));
         }
+    }
+    if (!matrix && item.contains(ItemKeys::angle)) {
+        polyline.insert(ItemKeys::angle, item.value(ItemKeys::angle));
     }
     const QColor color = view.color(ItemKeys::color).value_or(QColor(Qt::red));
     polyline.insert(ItemKeys::type, QLatin1String(form.type));
     polyline.insert(ItemKeys::polyline, QString(pointsText(points) + QLatin1Char(',')));
     polyline.insert(QLatin1String(form.lineKey), colorText(color));
     polyline.insert(ItemKeys::lineWidth, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
-    reportUncarried(item, carriedByStrokes);
-    writeShape(polyline, form);
     ++m_strokes;
+    return writeShape(polyline, form);
 }
 
-void IwbItemWriter::writeText(const QJsonObject &item)
+QDomElement IwbItemWriter::writeText(const QJsonObject &item)
 {
     const ItemView view(item);
     const QString html = view.text(ItemKeys::html);
@@ -225,12 +176,6 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         const QString plain = view.text(ItemKeys::text);
         const QString content = view.text(ItemKeys::textContent);
         text = textRunsFromPlainText(plain.isEmpty() ? content : plain);
-        if (!plain.isEmpty() && !content.isEmpty() && plain != content) {
-            report(item, Loss::Value, ItemKeys::textContent, {});
-        }
-    }
-    for (const QString &loss : qAsConst(text.losses)) {
-        report(item, Loss::Value, ItemKeys::html, loss);
     }
     QJsonObject prepared = commonKeys(item);
     const auto place = view.place();
@@ -244,9 +189,9 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         size = text.shifts.at(i).isEmpty() ? QString::number(pixels) : exactText(pixels * shiftedLetters);
     }
     const TextRunLoan loan(prepared, text.runs);
-    QDomElement element = convert(item, prepared);
+    QDomElement element = convert(prepared);
     if (element.isNull()) {
-        return;
+        return {};
     }
     QDomElement area = innermost(element);
     int run = 0;
@@ -264,43 +209,40 @@ void IwbItemWriter::writeText(const QJsonObject &item)
         setSvgBox(area, place->box, pluginDigits);
         setSvgTurn(area, place->angle);
     }
-    reportUncarried(item, carriedByText);
-    append(item, element);
+    return element;
 }
 
-void IwbItemWriter::writeMedia(const QJsonObject &item)
+QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
 {
     const ItemView view(item);
     const QString type = view.type();
-    QString reference = view.text(ItemKeys::resource);
+    QString reference = item.value(ItemKeys::resource).toString();
     if (reference.isEmpty()) {
-        reference = view.firstText(ItemKeys::mediaFiles);
+        reference = item.value(ItemKeys::mediaFiles).toString().section(QLatin1Char(','), 0, 0);
     }
-    QString source = m_setting.files->find(reference);
-    if (source.isEmpty()) {
-        report(item, Loss::File, reference, QStringLiteral("the lesson has no such file"));
-    } else if (type == QLatin1String("ZQImagePic")) {
+    QString source = m_setting.media->find(reference);
+    if (source.isEmpty() && !reference.isEmpty()) {
+        m_losses.file(item, reference, QStringLiteral("the lesson has no such file"));
+    } else if (!source.isEmpty() && type == QLatin1String("ZQImagePic")) {
         const QString problem = pictureProblem(source);
         if (!problem.isEmpty()) {
-            report(item, Loss::File, reference, problem);
+            m_losses.file(item, reference, problem);
             source.clear();
         }
     }
     QJsonObject prepared = commonKeys(item);
-    prepared.insert(QLatin1String("tmpFilePath"), m_setting.exportFolder);
     if (!source.isEmpty()) {
-        const QString file = placed(source, reference, QLatin1String(mediaFolder(type)));
-        prepared.insert(QLatin1String("AbsMediaFile"), file);
-        prepared.insert(ItemKeys::mediaFiles, QFileInfo(file).fileName());
+        prepared.insert(ItemKeys::mediaFiles,
+                        m_setting.media->place(QLatin1String(mediaFolder(type)), {source, false, {}}));
     }
     const auto place = view.place();
     if (place) {
         prepared.insert(ItemKeys::box, boxText(place->box));
         prepared.insert(ItemKeys::matrix, QStringLiteral("1,0,0,1,0,0"));
     }
-    QDomElement element = convert(item, prepared);
+    QDomElement element = convert(prepared);
     if (element.isNull()) {
-        return;
+        return {};
     }
     QDomElement media = innermost(element);
     if (source.isEmpty()) {
@@ -313,16 +255,7 @@ void IwbItemWriter::writeMedia(const QJsonObject &item)
     if (media.tagName() == QLatin1String("svg:image")) {
         media.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
     }
-    reportUncarried(item, carriedByMedia);
-    append(item, element);
-}
-
-void IwbItemWriter::writeOther(const QJsonObject &item)
-{
-    const QDomElement element = convert(item, commonKeys(item));
-    if (!element.isNull()) {
-        append(item, element);
-    }
+    return element;
 }
 
 // What every item hands over. Nothing else of an item reaches the plug-in by itself: what a file says under keys that
@@ -331,11 +264,7 @@ QJsonObject IwbItemWriter::commonKeys(const QJsonObject &item)
 {
     const ItemView view(item);
     QJsonObject prepared;
-    QString id = withoutControlCharacters(view.id());
-    if (id.isEmpty()) {
-        id = QStringLiteral("item%1_%2").arg(m_slide).arg(++m_generatedIds);
-    }
-    prepared.insert(ItemKeys::id, id);
+    prepared.insert(ItemKeys::id, m_id);
     prepared.insert(ItemKeys::type, view.type());
     prepared.insert(ItemKeys::visible, view.isVisible());
     for (const QLatin1String key : {ItemKeys::locked, ItemKeys::endless}) {
@@ -349,106 +278,67 @@ void IwbItemWriter::addLink(const QJsonObject &item, QJsonObject &prepared)
 {
     const ItemView view(item);
     const QString kind = view.text(ItemKeys::linkType);
-    if (kind.isEmpty()) {
+    if (kind.isEmpty() || !m_setting.keepsLinks) {
         return;
     }
     QString value = withoutControlCharacters(view.text(ItemKeys::linkValue));
     if (kind == openFile) {
-        value = linkedFile(item, value);
+        value = linkedFile(value);
         if (value.isEmpty()) {
             return;
         }
-        prepared.insert(QLatin1String("tmpFilePath"), m_setting.exportFolder);
     }
     prepared.insert(ItemKeys::linkType, kind);
     prepared.insert(ItemKeys::linkValue, value);
 }
 
-// The file under the name that it gets in the package, which is that of the path that the plug-in copies from.
-QString IwbItemWriter::linkedFile(const QJsonObject &item, const QString &reference)
+// The file on disk, which the plug-in wants to see; what it calls it in the document is put right afterwards.
+QString IwbItemWriter::linkedFile(const QString &reference)
 {
-    const QString source = m_setting.files->find(reference);
+    const QString source = m_setting.media->find(reference);
     if (source.isEmpty()) {
-        report(item, Loss::File, reference, QStringLiteral("the lesson has no such file to open"));
+        m_missingFile = reference;
         return {};
     }
-    return placed(source, reference, QStringLiteral("additional"));
-}
-
-// The file in the package. The plug-in copies to the same place, where it finds it and lets it be; it would say nothing
-// of a copy that failed.
-QString IwbItemWriter::placed(const QString &source, const QString &reference, const QString &folder)
-{
-    const QString parent = m_setting.exportFolder + QLatin1Char('/') + folder;
-    const QString path = parent + QLatin1Char('/') + m_setting.files->nameIn(folder, source);
-    if (!QFile::exists(path)) {
-        makeFolders(parent, m_setting.target);
-        copyFile(source, reference, path, m_setting.target);
-    }
-    return path;
+    m_linkedFile = m_setting.media->place(QStringLiteral("additional"), {source, false, {}});
+    return source;
 }
 
 // Null, and named in the report, for an item that the plug-in gives no element of its own for, or one without geometry.
-QDomElement IwbItemWriter::convert(const QJsonObject &item, const QJsonObject &prepared)
+QDomElement IwbItemWriter::convert(const QJsonObject &prepared)
 {
     QDomElement root = m_document.documentElement();
     const QDomNode lastRecord = root.lastChild();
-    const QDomElement element = m_setting.plugin->tranItemJSON2IWB(m_document, prepared);
+    QDomElement element = m_setting.plugin->tranItemJSON2IWB(m_document, prepared);
     const bool isEmptyLink = prepared.contains(ItemKeys::linkType) && element.firstChildElement().isNull();
     const bool hasForm = !element.isNull() && !isEmptyLink;
     if (hasForm && isDrawn(innermost(element))) {
+        if (!m_linkedFile.isEmpty()) {
+            element.setAttribute(QStringLiteral("xlink:href"), m_linkedFile);
+        }
         return element;
     }
     // A link around nothing would come back as a sound.
     if (root.lastChild() != lastRecord) {
         root.removeChild(root.lastChild());
     }
-    report(item, Loss::Item, {}, hasForm ? QStringLiteral("it has too few points to be drawn") : QString());
+    m_losses.item(m_given, hasForm ? QStringLiteral("it has too few points to be drawn") : QString());
     return {};
 }
 
-void IwbItemWriter::append(const QJsonObject &item, QDomElement element)
+// What the element says about the item beside its place and looks.
+void IwbItemWriter::complete(const QJsonObject &item, QDomElement element)
 {
     QDomElement inner = innermost(element);
     const ItemView view(item);
     if (!view.isVisible()) {
         inner.setAttribute(QStringLiteral("visibility"), QStringLiteral("hidden"));
     }
-    m_page.appendChild(element);
     if (view.isLocked()) {
         QDomElement record = m_document.createElement(QStringLiteral("iwb:element"));
         record.setAttribute(QStringLiteral("ref"), inner.attribute(QStringLiteral("id")));
         record.setAttribute(QStringLiteral("locked"), QStringLiteral("true"));
         m_document.documentElement().appendChild(record);
-    }
-}
-
-void IwbItemWriter::report(const QJsonObject &item, int kind, const QString &key, const QString &detail)
-{
-    Loss loss;
-    loss.kind = Loss::Kind(kind);
-    loss.slide = m_slide;
-    const ItemView view(item);
-    loss.itemType = view.type();
-    loss.itemId = view.id();
-    loss.key = key;
-    loss.detail = detail;
-    m_setting.losses->add(loss);
-}
-
-template <std::size_t size>
-void IwbItemWriter::reportUncarried(const QJsonObject &item, const char *const (&carried)[size], const ShapeForm *form)
-{
-    const auto isCarried = [&](const QString &key) {
-        const auto isKey = [&key](const char *name) { return name && key == QLatin1String(name); };
-        return std::any_of(std::begin(carriedByAll), std::end(carriedByAll), isKey)
-            || std::any_of(std::begin(carried), std::end(carried), isKey)
-            || (form && (isKey(form->lineKey) || isKey(form->fillKey) || isKey(form->dashKey)));
-    };
-    for (auto it = item.constBegin(); it != item.constEnd(); ++it) {
-        if (!isCarried(it.key()) && !saysNothing(it.value())) {
-            report(item, Loss::Value, it.key(), {});
-        }
     }
 }
 

@@ -1,22 +1,20 @@
 #ifndef IWBITEMWRITER_H
 #define IWBITEMWRITER_H
 
-#include "files/lessonfiles.h"
 #include "lesson/shapeforms.h"
+#include "losses/slidelosses.h"
 
 #include <QDomDocument>
-#include <QJsonArray>
-#include <QVector>
 
 class IZQTransformation;
 
 namespace lessonhost {
 
-class LossReport;
+class IwbMedia;
 
 /*!
- * Writes the items of slides as svg: prepares each for the plug-in's export, so that what comes out stands in the right
- * place and keeps it on further trips, and completes the element for readers that know svg but not the plug-in.
+ * Writes items as svg: prepares each for the plug-in's export, so that what comes out stands in the right place and
+ * keeps it on further trips, and completes the element for readers that know svg but not the plug-in.
  */
 class IwbItemWriter
 {
@@ -24,45 +22,43 @@ public:
     struct Setting
     {
         IZQTransformation *plugin = nullptr;
-        LossReport *losses = nullptr;
-        LessonFiles *files = nullptr;
-        QString exportFolder; //!< where the plug-in puts media, without a separator at its end
-        QString target; //!< what the user called the package, for messages
+        IwbMedia *media = nullptr;
         bool keepsInk = true; //!< writes strokes as polylines
+        bool keepsLinks = true; //!< writes what items open
     };
 
     explicit IwbItemWriter(const Setting &setting);
 
-    //! Appends the elements of a slide's items to its page. slide is counted from 1.
-    void write(QDomDocument &document, QDomElement &page, const QJsonArray &items, int slide);
+    //! The element of an item that stands on a page by itself, within its link, in no place yet; null, and told to
+    //! losses, for one that has no form. id: what the element is called. Records about it are added to the document.
+    QDomElement write(QDomDocument &document, const QJsonObject &item, const QString &id, const SlideLosses &losses);
+
+    //! The file that the item written last would open, where the lesson has none.
+    QString missingFile() const { return m_missingFile; }
 
     //! Strokes that became polylines so far.
     int strokesAsPolylines() const { return m_strokes; }
     int strokesLeftOut() const { return m_strokesLeftOut; }
 
 private:
-    void writeItem(const QJsonObject &item);
-    void writeShape(const QJsonObject &item, const ShapeForm &form);
-    void writeStroke(const QJsonObject &item);
-    void writeText(const QJsonObject &item);
-    void writeMedia(const QJsonObject &item);
-    void writeOther(const QJsonObject &item);
+    QDomElement writeShape(const QJsonObject &item, const ShapeForm &form);
+    QDomElement writeStroke(const QJsonObject &item);
+    QDomElement writeText(const QJsonObject &item);
+    QDomElement writeMedia(const QJsonObject &item);
 
     QJsonObject commonKeys(const QJsonObject &item);
     void addLink(const QJsonObject &item, QJsonObject &prepared);
-    QString linkedFile(const QJsonObject &item, const QString &reference);
-    QString placed(const QString &source, const QString &reference, const QString &folder);
-    QDomElement convert(const QJsonObject &item, const QJsonObject &prepared);
-    void append(const QJsonObject &item, QDomElement element);
-    void report(const QJsonObject &item, int kind, const QString &key, const QString &detail);
-    template <std::size_t size>
-    void reportUncarried(const QJsonObject &item, const char *const (&carried)[size], const ShapeForm *form = nullptr);
+    QString linkedFile(const QString &reference);
+    QDomElement convert(const QJsonObject &prepared);
+    void complete(const QJsonObject &item, QDomElement element);
 
     Setting m_setting;
     QDomDocument m_document;
-    QDomElement m_page;
-    int m_slide = 0;
-    int m_generatedIds = 0;
+    QJsonObject m_given; // the item that is being written
+    QString m_id; // of its element
+    SlideLosses m_losses; // of its slide
+    QString m_linkedFile; // the reference of the file that the item being written opens
+    QString m_missingFile; // that it would open
     int m_strokes = 0;
     int m_strokesLeftOut = 0;
 };

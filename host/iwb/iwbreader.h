@@ -1,20 +1,16 @@
 #ifndef IWBREADER_H
 #define IWBREADER_H
 
-#include "iwb/iwbitemreader.h"
 #include "iwb/iwbpackage.h"
-#include "lesson/lesson.h"
-#include "losses/lossreport.h"
+#include "iwb/iwbslidereader.h"
 #include "svg/svgnormalizer.h"
-
-#include <QSet>
 
 namespace lessonhost {
 
 /*!
  * Reads an IWB package into the lesson model.
  */
-class IwbReader : public LessonReader
+class IwbReader : public LessonReader, private IwbReferences
 {
 public:
     IwbReader(const QString &path, const LessonContext &context);
@@ -26,22 +22,20 @@ public:
     QString resourceFile(const QString &relativePath) override { return m_package.file(relativePath); }
 
 private:
-    QJsonObject readProperties(IwbPage &page);
-    QString backgroundPicture(const IwbPage &page);
-    QJsonObject readItem(IwbElement item, QHash<QString, int> &usedIds);
-    QString mediaFile(const IwbElement &item);
-    void readLink(const IwbElement &item, QJsonObject &json);
-    void report(Loss::Kind kind, const QString &type, const QString &id, const QString &key, const QString &detail);
-    void reportRemark(const SvgRemark &remark);
+    QString resolve(const QString &reference, QString *problem) override
+    {
+        return m_package.resolve(reference, problem);
+    }
+    QString file(const QString &path) override { return m_package.file(path); }
+    int pageNumber(const QString &id) override { return m_pageNumbers.value(id); }
 
-    LessonContext m_context;
+    IZQTransformation *m_plugin;
+    LessonLosses m_losses;
     IwbPackage m_package;
     SvgNormalizer m_content;
-    IwbItemReader m_items;
+    IwbSlideReader m_slides;
     QHash<QString, int> m_pageNumbers;
-    QSet<int> m_reportedSlides;
-    int m_slide = 0; // counted from 1, 0 where nothing is to be reported again
-    bool m_isReporting = true;
+    QStringList m_slideIds;
 };
 
 } // namespace lessonhost

@@ -2,16 +2,13 @@
 #define IWBWRITER_H
 
 #include "files/packagetarget.h"
-#include "iwb/iwbitemwriter.h"
+#include "iwb/iwbmedia.h"
+#include "iwb/iwbpagecheck.h"
+#include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
-#include "losses/lossreport.h"
-
-#include <QDir>
-#include <QSizeF>
+#include "losses/slidelosses.h"
 
 namespace lessonhost {
-
-class Picture;
 
 /*!
  * Writes a lesson as an IWB package: one document with a page for each slide, and the media that the pages show. Each
@@ -28,35 +25,23 @@ public:
     void finish() override;
 
 private:
-    void startDocument(const QJsonObject &firstSlide);
+    void start(const QJsonObject &firstSlide);
     void startPages();
     void writePage(const QDomElement &page);
     void finishPages();
-    QDomElement pageSet() const;
-    QJsonObject pageProperties(const QJsonObject &properties);
-    QString backgroundFile(const QJsonObject &properties, const QString &id);
-    bool placeAsPng(const Picture &picture, const QString &source, const QString &reference, const QString &file) const;
-    void placeBackground(const QDomElement &page) const;
     void append(const QByteArray &text);
-    void fillPage(QDomElement &page) const;
-    void reportUncarried(const QJsonObject &properties, const QString &type, const QStringList &carried);
-    void report(Loss::Kind kind, const QString &type, const QString &key, const QString &detail);
-    void reportTotals();
+    void storeMedia();
     [[noreturn]] void failWithoutPages() const;
-    [[noreturn]] void failToPlace(const QString &file) const;
-    void checkMedia(const QDomElement &element) const;
-    void moveMedia();
 
     LessonContext m_context;
-    LossReport m_unwanted; // where nobody asks for a report
+    LessonLosses m_losses;
     PackageTarget m_target;
-    LessonFiles m_files;
+    IwbMedia m_media;
+    IwbPageWriter m_pages;
+    std::unique_ptr<IwbPageCheck> m_check; // null where nobody asks for one
     QJsonObject m_presentation;
-    QDomDocument m_document; // without the pages that are written
-    QByteArray m_records; // about the items of those pages; they stand behind all pages
+    QByteArray m_records; // about the items of the pages that are written; they stand behind all pages
     QByteArray m_afterPages; // the document from the end of its pages to its end
-    QSizeF m_pageSize;
-    std::unique_ptr<IwbItemWriter> m_items;
     int m_slides = 0;
     qint64 m_contentSize = 0; // of the document
 };

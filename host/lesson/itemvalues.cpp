@@ -21,9 +21,7 @@ QString shortestText(double number)
 
 bool isColorObject(const QJsonObject &object)
 {
-    return object.contains(solidKey)
-        && std::all_of(object.constBegin(), object.constEnd(),
-                       [](const QJsonValue &value) { return value.isDouble(); });
+    return object.value(solidKey).isDouble() && (!object.contains(alphaKey) || object.value(alphaKey).isDouble());
 }
 
 // 0 for what is no number.

@@ -4,12 +4,22 @@
 
 namespace lessonhost {
 
+QVector<QJsonObject> ItemView::childObjects() const
+{
+    QVector<QJsonObject> objects;
+    const QJsonArray all = children();
+    for (const QJsonValue &value : all) {
+        if (value.isObject()) {
+            objects.append(value.toObject());
+        }
+    }
+    return objects;
+}
+
 QVector<QJsonObject> ItemView::looseChildren() const
 {
-    QVector<QJsonObject> loose;
-    const QJsonArray own = children();
-    for (const QJsonValue &value : own) {
-        QJsonObject child = value.toObject();
+    QVector<QJsonObject> loose = childObjects();
+    for (QJsonObject &child : loose) {
         if (!isVisible()) {
             child.insert(ItemKeys::visible, false);
         }
@@ -20,7 +30,6 @@ QVector<QJsonObject> ItemView::looseChildren() const
             child.insert(ItemKeys::linkType, m_item.value(ItemKeys::linkType));
             child.insert(ItemKeys::linkValue, m_item.value(ItemKeys::linkValue));
         }
-        loose.append(child);
     }
     return loose;
 }

@@ -26,6 +26,8 @@ public:
     QString type() const { return text(ItemKeys::type); }
     QString id() const { return text(ItemKeys::id); }
     QJsonArray children() const { return m_item.value(HostKeys::children).toArray(); }
+    //! Those of the children that are items.
+    QVector<QJsonObject> childObjects() const;
     //! The children as they stand without the group around them: hidden, locked and linked where the group is. Of two
     //! links the child's own counts.
     QVector<QJsonObject> looseChildren() const;

@@ -42,6 +42,17 @@ void setPlace(QJsonObject &item, const ItemPlace &place)
     }
 }
 
+// What has nothing but its box. False where a turned box can't tell how it is drawn.
+bool placeBox(QJsonObject &item, const QTransform &matrix)
+{
+    const auto place = ItemView(item).place();
+    if (!place) {
+        return matrix.isIdentity();
+    }
+    setPlace(item, *place);
+    return isPlain(matrix);
+}
+
 // The points of the page in the place of the item's own.
 void setPoints(QJsonObject &item, const ShapeForm &form, const QPolygonF &points)
 {
@@ -83,10 +94,14 @@ bool placeDrawing(QJsonObject &item, const ShapeForm &form, const QTransform &ma
     default:
         break;
     }
+    const QPolygonF points = shapePoints(view, form, outlines);
+    if (points.isEmpty()) {
+        return placeBox(item, matrix);
+    }
     if (isPlain(matrix)) {
         setPlace(item, place);
     } else {
-        setPoints(item, form, matrix.map(shapePoints(view, form, outlines)));
+        setPoints(item, form, matrix.map(points));
     }
     return true;
 }
@@ -119,15 +134,13 @@ bool placeItem(QJsonObject &item, const QTransform &matrix, const OutlineSource 
         return placeDrawing(item, *form, matrix, outlines);
     }
     if (view.has(ItemKeys::steps)) {
+        if (view.points(ItemKeys::steps).isEmpty()) {
+            return matrix.isIdentity();
+        }
         placeInk(item, matrix);
         return true;
     }
-    const auto place = view.place();
-    if (!place) {
-        return matrix.isIdentity();
-    }
-    setPlace(item, *place);
-    return isPlain(matrix);
+    return placeBox(item, matrix);
 }
 
 // The letters of raw text have a size of their own, which its matrix scales.
@@ -149,7 +162,7 @@ void makeHtml(QJsonObject &item)
         }
         item.insert(ItemKeys::html, htmlFromTextRuns(runs));
         for (const QLatin1String same : plainKeys) {
-            if (view.text(same) == text) {
+            if (view.text(same) == text && withoutControlCharacters(text) == text) {
                 item.remove(same);
             }
         }
@@ -205,16 +218,18 @@ QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outline
 {
     QJsonArray result;
     for (const QJsonValue &item : items) {
-        result.append(itemInPageForm(item.toObject(), outlines, placed));
+        if (item.isObject()) {
+            result.append(itemInPageForm(item.toObject(), outlines, placed));
+        }
     }
     return result;
 }
 
 void makeBackground(QJsonObject &properties)
 {
-    const QJsonValue number = properties.value(SlideKeys::backColor);
-    if (number.isDouble() && isEmptyValue(properties.value(SlideKeys::color))) {
-        properties.insert(SlideKeys::color, colorText(backColor(number).value_or(QColor(Qt::white))));
+    const auto color = backColor(properties.value(SlideKeys::backColor));
+    if (color && isEmptyValue(properties.value(SlideKeys::color))) {
+        properties.insert(SlideKeys::color, colorText(*color));
         properties.remove(SlideKeys::backColor);
     }
     const QString files = valueText(properties.value(SlideKeys::files));
@@ -243,6 +258,49 @@ LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outli
         *placed += count;
     }
     return result;
+}
+
+QJsonObject keptInPageForm(const QJsonObject &own, const QJsonObject &inPageForm)
+{
+    QJsonObject kept = own;
+    const bool isPlaced = own.contains(ItemKeys::matrix) && !inPageForm.contains(ItemKeys::matrix);
+    const bool isGroup = own.contains(HostKeys::children);
+    const auto placeKeys = {ItemKeys::box,   ItemKeys::angle, ItemKeys::control, ItemKeys::polyline,
+                            ItemKeys::steps, ItemKeys::width, ItemKeys::matrix};
+    for (const QLatin1String key : placeKeys) {
+        const bool isOwnTurn = key == ItemKeys::angle && !isTurnOfMatrix(own);
+        if (!inPageForm.contains(key) && !isOwnTurn) {
+            kept.remove(key);
+        } else if ((isPlaced || isGroup) && !isOwnTurn) {
+            kept.insert(key, inPageForm.value(key));
+        }
+    }
+    for (const QLatin1String key : {ItemKeys::slideMatrix, SlideKeys::sourceRect, SlideKeys::texture}) {
+        if (!inPageForm.contains(key)) {
+            kept.remove(key);
+        }
+    }
+    for (const QLatin1String key : {ItemKeys::text, ItemKeys::textContent}) {
+        if (own.contains(key) && !inPageForm.contains(key)) {
+            kept.remove(key);
+            kept.insert(ItemKeys::html, inPageForm.value(ItemKeys::html));
+        }
+    }
+    return kept;
+}
+
+bool isTurnOfMatrix(const QJsonObject &item)
+{
+    constexpr double smallestTurn = 1e-4;
+    const ItemView view(item);
+    const auto matrix = view.matrix();
+    if (!view.has(ItemKeys::angle) || !matrix) {
+        return true;
+    }
+    bool isNumber = false;
+    const double angle = view.text(ItemKeys::angle).toDouble(&isNumber);
+    const double turn = std::remainder(angle - std::atan2(matrix->m12(), matrix->m11()), 2 * M_PI);
+    return isNumber && qAbs(turn) < smallestTurn;
 }
 
 void nameMediaFile(QJsonObject &item)

@@ -17,6 +17,13 @@ namespace lessonhost {
  */
 LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outlines, int *placed = nullptr);
 
+//! What a package is asked to keep of the keys of an item or slide: its own, with the place that page form has worked
+//! out, and without what has done its part in that.
+QJsonObject keptInPageForm(const QJsonObject &own, const QJsonObject &inPageForm);
+
+//! True for an item whose Angle tells no more than its Matrix does.
+bool isTurnOfMatrix(const QJsonObject &item);
+
 //! A package names a media item's file as its resource; a raw lesson lists files in MultiMediaFile. The first becomes
 //! the resource of an item that has none, and a list of one goes.
 void nameMediaFile(QJsonObject &item);

@@ -60,8 +60,8 @@ QJsonObject withImplied(QJsonObject item, const ShapeForm &form)
 
 QJsonObject withoutDoubledWidth(QJsonObject item)
 {
-    if (item.contains(ItemKeys::width)
-        && valueText(item.value(ItemKeys::width)) == valueText(item.value(ItemKeys::lineWidth))) {
+    const QString width = valueText(item.value(ItemKeys::width));
+    if (!width.isEmpty() && width == valueText(item.value(ItemKeys::lineWidth))) {
         item.remove(ItemKeys::width);
     }
     return item;

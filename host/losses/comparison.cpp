@@ -1,16 +1,15 @@
 #include "losses/comparison.h"
 
-#include "files/lessonerror.h"
-#include "files/xmlloader.h"
-#include "files/xmltext.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemvalues.h"
-#include "losses/equivalence.h"
-#include "losses/lossreport.h"
+#include "lesson/pageplace.h"
+#include "losses/modelvalues.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
+#include <QVector>
+
+#include <algorithm>
 
 namespace lessonhost {
 
@@ -34,177 +33,190 @@ QString detailOf(const QJsonValue &value)
     return text.left(longestDetail);
 }
 
-// Two XML texts are the same if they are the same tree.
-bool isSameXml(const QString &one, const QString &other)
+class Differences
 {
-    try {
-        return xmlNodeText(loadXml(one.toUtf8(), {}).documentElement())
-            == xmlNodeText(loadXml(other.toUtf8(), {}).documentElement());
-    } catch (const LessonError &) {
+public:
+    explicit Differences(double tolerance)
+        : m_tolerance(tolerance)
+    {
+    }
+
+    QVector<Difference> all() const { return m_all; }
+
+    // way: from the item to the value; key: the last key on it.
+    void compare(const QString &way, const QString &key, const QJsonValue &given, const QJsonValue &found)
+    {
+        const QJsonValue implied = impliedValue(key);
+        if (isNothing(given)) {
+            if (!isNothing(found) && !implied.isUndefined() && !isSameValue(key, implied, found, m_tolerance)) {
+                m_all.append({way, {}});
+            }
+            return;
+        }
+        const QJsonValue actual = isNothing(found) && !implied.isUndefined() ? implied : found;
+        if (isSameValue(key, given, actual, m_tolerance)) {
+            return;
+        }
+        if (wholeColor(given) && wholeColor(actual)) {
+            m_all.append({way, detailOf(given)});
+        } else if (given.isArray() && actual.isArray()) {
+            compareArrays(way, key, given.toArray(), actual.toArray());
+        } else if (given.isObject() && actual.isObject()) {
+            const QJsonObject object = given.toObject();
+            for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+                compare(way + QLatin1Char('.') + it.key(), it.key(), it.value(), actual.toObject().value(it.key()));
+            }
+        } else if (given.isString() && actual.isArray() && isListText(given.toString())) {
+            compareArrays(way, key, QJsonDocument::fromJson(given.toString().toUtf8()).array(), actual.toArray());
+        } else {
+            m_all.append({way, detailOf(given)});
+        }
+    }
+
+private:
+    static bool isListText(const QString &text) { return QJsonDocument::fromJson(text.toUtf8()).isArray(); }
+
+    // How many values of the one are not in the same place of the other.
+    int count(const QString &key, const QJsonValue &given, const QJsonValue &found) const
+    {
+        int count = 0;
+        if (given.isArray() && found.isArray()) {
+            const QJsonArray array = given.toArray();
+            for (int i = 0; i < array.size(); ++i) {
+                count += this->count(key, array.at(i), found.toArray().at(i));
+            }
+        } else if (given.isObject() && found.isObject()) {
+            const QJsonObject object = given.toObject();
+            for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+                count += this->count(it.key(), it.value(), found.toObject().value(it.key()));
+            }
+        } else if (!isNothing(given)) {
+            count = isSameValue(key, given, found, m_tolerance) ? 0 : 1;
+        }
+        return count;
+    }
+
+    // True if what was found at a place is rather one of the next values than the one of this place. missing: how many
+    // fewer were found than given.
+    bool isMissing(const QString &key, const QJsonArray &given, int place, const QJsonValue &found, int missing) const
+    {
+        constexpr int furthest = 8;
+        if (isNothing(given.at(place))) {
+            return !isNothing(found);
+        }
+        const int own = count(key, given.at(place), found);
+        for (int i = 1; i <= qMin(missing, furthest) && own > 0; ++i) {
+            if (count(key, given.at(place + i), found) < own) {
+                return true;
+            }
+        }
         return false;
     }
-}
 
-void compareValues(const QString &key, const QJsonValue &given, const QJsonValue &found,
-                   QVector<Difference> &differences);
-
-// How many values of the one are not in the same place of the other.
-int differenceCount(const QJsonValue &given, const QJsonValue &found)
-{
-    int count = 0;
-    if (given.isArray() && found.isArray()) {
-        const QJsonArray array = given.toArray();
-        for (int i = 0; i < array.size(); ++i) {
-            count += differenceCount(array.at(i), found.toArray().at(i));
+    // Where values are missing from a list, those that came through are told by what they hold, so that a missing one
+    // is one difference and doesn't shift the others.
+    void compareArrays(const QString &way, const QString &key, const QJsonArray &given, const QJsonArray &found)
+    {
+        int missing = qMax(0, given.size() - found.size());
+        int next = 0;
+        for (int i = 0; i < given.size(); ++i) {
+            const QString place = QStringLiteral("%1[%2]").arg(way).arg(i);
+            if (missing > 0 && isMissing(key, given, i, found.at(next), missing)) {
+                compare(place, key, given.at(i), {});
+                --missing;
+            } else {
+                compare(place, key, given.at(i), found.at(next));
+                ++next;
+            }
         }
-    } else if (given.isObject() && found.isObject()) {
-        const QJsonObject object = given.toObject();
-        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
-            count += differenceCount(it.value(), found.toObject().value(it.key()));
-        }
-    } else if (!isEmptyValue(given)) {
-        count = (valueText(given).isNull() ? given == found : isSameValue({}, given, found)) ? 0 : 1;
-    }
-    return count;
-}
-
-// True if what was found at a place is rather one of the next values than the one of this place. missing: how many
-// fewer were found than given.
-bool isMissing(const QJsonArray &given, int place, const QJsonValue &found, int missing)
-{
-    constexpr int furthest = 8;
-    if (isEmptyValue(given.at(place))) {
-        return !isEmptyValue(found);
-    }
-    const int own = differenceCount(given.at(place), found);
-    for (int i = 1; i <= qMin(missing, furthest) && own > 0; ++i) {
-        if (differenceCount(given.at(place + i), found) < own) {
-            return true;
+        if (found.size() > given.size()) {
+            m_all.append({way, QStringLiteral("%1 became %2").arg(given.size()).arg(found.size())});
         }
     }
-    return false;
-}
 
-// Where values are missing from a list, those that came through are told by what they hold, so that a missing one is
-// one difference and doesn't shift the others.
-void compareArrays(const QString &key, const QJsonArray &given, const QJsonArray &found,
-                   QVector<Difference> &differences)
-{
-    int missing = qMax(0, given.size() - found.size());
-    int next = 0;
-    for (int i = 0; i < given.size(); ++i) {
-        const QString place = QStringLiteral("%1[%2]").arg(key).arg(i);
-        if (missing > 0 && isMissing(given, i, found.at(next), missing)) {
-            compareValues(place, given.at(i), {}, differences);
-            --missing;
-        } else {
-            compareValues(place, given.at(i), found.at(next), differences);
-            ++next;
-        }
-    }
-}
-
-void compareValues(const QString &key, const QJsonValue &given, const QJsonValue &found,
-                   QVector<Difference> &differences)
-{
-    if (isEmptyValue(given)) {
-        return;
-    }
-    if (given.isArray() && found.isArray() && (valueText(given).isNull() || valueText(found).isNull())) {
-        compareArrays(key, given.toArray(), found.toArray(), differences);
-        return;
-    }
-    if (given.isObject() && found.isObject() && valueText(given).isNull()) {
-        const QJsonObject givenObject = given.toObject();
-        const QJsonObject foundObject = found.toObject();
-        for (auto it = givenObject.constBegin(); it != givenObject.constEnd(); ++it) {
-            compareValues(key + QLatin1Char('.') + it.key(), it.value(), foundObject.value(it.key()), differences);
-        }
-        return;
-    }
-    if (given.isString() && found.isArray() && valueText(found).isNull()) {
-        compareValues(key, QJsonDocument::fromJson(given.toString().toUtf8()).array(), found, differences);
-        return;
-    }
-    const bool isXml = key == QLatin1String("manager");
-    const bool isSame = valueText(given).isNull() ? given == found
-        : isXml                                   ? isSameXml(given.toString(), found.toString())
-                                                  : isSameValue(key, given, found);
-    if (!isSame) {
-        differences.append({key, detailOf(given)});
-    }
-}
+    double m_tolerance;
+    QVector<Difference> m_all;
+};
 
 // Opacity of ink is read into its colour.
-QJsonObject withOpacityInColor(QJsonObject item)
+QJsonObject withOpacityInColor(QJsonObject item, const QJsonObject &found)
 {
-    const QLatin1String opacity("Opacity");
-    const QLatin1String color("Color");
-    const QString text = item.value(color).toString();
-    if (item.contains(opacity) && text.startsWith(QLatin1Char('#'))) {
-        const int alpha = valueText(item.value(opacity)).toInt();
-        item.insert(
-            color,
-            QString(QLatin1Char('#') + QStringLiteral("%1").arg(alpha & 255, 2, 16, QLatin1Char('0')) + text.right(6)));
-        item.remove(opacity);
+    const QLatin1String opacityKey("Opacity");
+    const QLatin1String colorKey("Color");
+    const auto opacity = wholeNumbers(item.value(opacityKey));
+    const auto color = wholeColor(item.value(colorKey));
+    const bool isAlpha = opacity && opacity->size() == 1 && opacity->first() >= 0 && opacity->first() <= 255
+        && !found.contains(opacityKey);
+    if (color && isAlpha && wholeColor(found.value(colorKey)) == ((*color & 0xffffff) | QRgb(opacity->first()) << 24)) {
+        item.remove(opacityKey);
+        item.remove(colorKey);
     }
     return item;
 }
 
-// Some values are found under a name of the host's own.
-void removeIfKept(QJsonObject &item, QLatin1String key, const QJsonValue &kept)
+bool isListOfObjects(const QJsonValue &value)
 {
-    if (!kept.isUndefined() && isSameValue(key, item.value(key), kept)) {
-        item.remove(key);
-    }
+    const QJsonArray array = value.toArray();
+    return value.isArray()
+        && std::all_of(array.constBegin(), array.constEnd(), [](const QJsonValue &item) { return item.isObject(); });
 }
 
 } // namespace
 
-Comparison::Comparison(LossReport *losses, int slide)
+Comparison::Comparison(const SlideLosses &losses)
+    : Comparison(losses, Rules())
+{
+}
+
+Comparison::Comparison(const SlideLosses &losses, const Rules &rules)
     : m_losses(losses)
-    , m_slide(slide)
+    , m_rules(rules)
 {
 }
 
-void Comparison::compareProperties(const QString &type, const QJsonObject &given, const QJsonObject &found) const
+void Comparison::compareProperties(const LossOwner &owner, const QJsonObject &given, const QJsonObject &found) const
 {
-    QVector<Difference> differences;
+    Differences differences(m_rules.tolerance);
     for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
-        compareValues(it.key(), it.value(), found.value(it.key()), differences);
+        const QString key = it.key();
+        const QString other = otherKey(key);
+        QJsonValue value = found.value(key);
+        if (isNothing(value) && !other.isEmpty()) {
+            value = found.value(other);
+        }
+        if (!m_rules.isSame || !m_rules.isSame(key, it.value(), value)) {
+            differences.compare(key, key, it.value(), value);
+        }
     }
-    for (const Difference &difference : qAsConst(differences)) {
-        Loss loss;
-        loss.slide = m_slide;
-        loss.itemType = type;
-        loss.itemId = given.value(QLatin1String("ID")).toString();
-        loss.key = difference.key;
-        loss.detail = difference.detail;
-        m_losses->add(loss);
+    const QStringList implied = keysWithImpliedValue();
+    for (const QString &key : implied) {
+        if (!given.contains(key) && found.contains(key)) {
+            differences.compare(key, key, {}, found.value(key));
+        }
+    }
+    const auto all = differences.all();
+    for (const Difference &difference : all) {
+        m_losses.value(owner, difference.key, difference.detail);
     }
 }
 
-void Comparison::compareItems(const QJsonArray &given, const QJsonArray &found) const
+void Comparison::compareItems(const QJsonArray &given, const QJsonArray &written, const QJsonArray &found) const
 {
     for (int i = 0; i < given.size(); ++i) {
-        compareItem(given.at(i).toObject(), found.at(i).toObject());
+        compareItem(given.at(i).toObject(), written.at(i).toObject(), found.at(i).toObject());
     }
 }
 
-void Comparison::compareItem(const QJsonObject &given, const QJsonObject &found) const
+void Comparison::compareItem(const QJsonObject &given, const QJsonObject &written, const QJsonObject &found) const
 {
-    const QString type = given.value(QLatin1String("Type")).toString();
-    QJsonObject own = given;
-    if (isContainer(type)) {
+    QJsonObject own = keptInPageForm(given, written);
+    const QJsonValue children = given.value(HostKeys::children);
+    if (isContainer(given.value(ItemKeys::type).toString()) && isListOfObjects(children)) {
         own.remove(HostKeys::children);
-        compareItems(given.value(HostKeys::children).toArray(), found.value(HostKeys::children).toArray());
+        compareItems(children.toArray(), written.value(HostKeys::children).toArray(),
+                     found.value(HostKeys::children).toArray());
     }
-    removeIfKept(own, QLatin1String("BoundingBox"), found.value(HostKeys::ignoredBox));
-    removeIfKept(own, QLatin1String("Control"), found.value(HostKeys::ignoredControl));
-    if (found.contains(QLatin1String("Color"))) {
-        own = withOpacityInColor(own);
-    }
-    compareProperties(type, own, found);
+    compareProperties(given, withOpacityInColor(own, found), found);
 }
 
 } // namespace lessonhost

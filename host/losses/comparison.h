@@ -1,30 +1,43 @@
 #ifndef COMPARISON_H
 #define COMPARISON_H
 
-#include "lesson/lesson.h"
+#include "losses/slidelosses.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <functional>
 
 namespace lessonhost {
 
-class LossReport;
-
 /*!
- * Compares what was given to a writer with what a reader finds in the result, and reports what did not survive. Values
- * that are new in the result, such as defaults, are no loss.
+ * Compares what was given to a writer with what a reader finds in the result, and tells what did not survive. Values
+ * that are new in the result, such as defaults, are no loss, but where they say otherwise than a missing value.
  */
 class Comparison
 {
 public:
-    //! slide is counted from 1; 0 for the presentation.
-    Comparison(LossReport *losses, int slide);
+    //! What the format does to all values of a kind.
+    struct Rules
+    {
+        double tolerance = 0; //!< how much numbers may differ, in parts of them
+        //! True for values of an item's own keys that are the same for the format alone; may be empty.
+        std::function<bool(const QString &key, const QJsonValue &given, const QJsonValue &found)> isSame;
+    };
 
-    void compareProperties(const QString &type, const QJsonObject &given, const QJsonObject &found) const;
-    void compareItems(const QJsonArray &given, const QJsonArray &found) const;
+    explicit Comparison(const SlideLosses &losses);
+    Comparison(const SlideLosses &losses, const Rules &rules);
+
+    void compareProperties(const LossOwner &owner, const QJsonObject &given, const QJsonObject &found) const;
+
+    //! Items in the same order, each with those that it holds. written: the given ones as they were written.
+    void compareItems(const QJsonArray &given, const QJsonArray &written, const QJsonArray &found) const;
 
 private:
-    void compareItem(const QJsonObject &given, const QJsonObject &found) const;
+    void compareItem(const QJsonObject &given, const QJsonObject &written, const QJsonObject &found) const;
 
-    LossReport *m_losses;
-    int m_slide;
+    SlideLosses m_losses;
+    Rules m_rules;
 };
 
 } // namespace lessonhost

@@ -159,15 +159,4 @@ bool isSameText(ValueForm form, const QString &given, const QString &found)
     return false;
 }
 
-bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &found)
-{
-    const QString one = valueText(given);
-    const QString other = valueText(found);
-    const ValueForm form = key == QLatin1String("Color") ? ValueForm::InkColor
-        : key == QLatin1String("XY")                     ? ValueForm::Points
-        : key == QLatin1String("Control")                ? ValueForm::Numbers
-                                                         : ValueForm::SubjectColor;
-    return isSameText(form, one, other);
-}
-
 } // namespace lessonhost

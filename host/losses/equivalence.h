@@ -6,7 +6,7 @@
 
 namespace lessonhost {
 
-// What is the same in another dress. Both checks, that of a read and that of a write, ask here and nowhere else.
+// What is the same in another dress. What keys of the model say is compared by modelvalues.
 
 /*!
  * The form of a value, which says which texts of it are the same.
@@ -38,10 +38,6 @@ ValueForm formOfPlace(const XmlPlace &place);
 
 //! True if two texts say the same in that form. A text that is not of the form is the same as itself alone.
 bool isSameText(ValueForm form, const QString &given, const QString &found);
-
-//! True if a write and a read of the one could give the other: the same value under valueText, or colours of strokes
-//! that name the same colour, or points with the same numbers. Missing and empty values are the same.
-bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &found);
 
 } // namespace lessonhost
 

@@ -5,6 +5,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace lessonhost {
@@ -73,12 +75,8 @@ QString named(const QStringList &names)
 }
 
 // "9 ZQPhysicsDianZu, 3 ZQMindMapItem", the most frequent first.
-QString countedByType(const QVector<Loss> &losses)
+QString counted(const QMap<QString, int> &counts)
 {
-    QMap<QString, int> counts;
-    for (const Loss &loss : losses) {
-        ++counts[loss.itemType];
-    }
     QVector<QPair<int, QString>> rows;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         rows.append({-it.value(), it.key()});
@@ -91,10 +89,48 @@ QString countedByType(const QVector<Loss> &losses)
     return named(texts);
 }
 
+QString countedByType(const QVector<Loss> &losses)
+{
+    QMap<QString, int> counts;
+    for (const Loss &loss : losses) {
+        ++counts[loss.itemType];
+    }
+    return counted(counts);
+}
+
 enum class Details { Hidden, Shown };
 
+bool isOfItem(const Loss &loss)
+{
+    return loss.itemType != QLatin1String("presentation") && loss.itemType != QLatin1String("slide");
+}
+
+// "16 Type, 12 ArtObj_Fill", the most frequent first: for keys that items of many types lose.
+QString countedByKey(const QVector<Loss> &losses)
+{
+    QMap<QString, int> counts;
+    for (const Loss &loss : losses) {
+        const QString key = loss.key.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('['), 0, 0);
+        ++counts[key.isEmpty() ? loss.itemType : key];
+    }
+    return counted(counts);
+}
+
+QString listed(const QVector<Loss> &losses, Details details = Details::Hidden);
+
+// Where there is much to name: what slides and the presentation lose as always, and the keys of items by their number.
+QString listedByKey(const QVector<Loss> &losses)
+{
+    QVector<Loss> others;
+    QVector<Loss> items;
+    std::partition_copy(losses.cbegin(), losses.cend(), std::back_inserter(items), std::back_inserter(others),
+                        isOfItem);
+    const QString first = others.isEmpty() ? QString() : listed(others) + QLatin1String(", ");
+    return first + QLatin1String("of items ") + countedByKey(items);
+}
+
 // What is the same but for its slide is named once, in the order in which it came up.
-QString listed(const QVector<Loss> &losses, Details details = Details::Hidden)
+QString listed(const QVector<Loss> &losses, Details details)
 {
     struct Group
     {
@@ -116,6 +152,10 @@ QString listed(const QVector<Loss> &losses, Details details = Details::Hidden)
         Group &group = groups[*index];
         group.slides.insert(loss.slide);
         ++group.count;
+    }
+    const bool isMuch = groups.size() > maximumNamed && details == Details::Hidden;
+    if (isMuch && std::any_of(losses.cbegin(), losses.cend(), isOfItem)) {
+        return listedByKey(losses);
     }
     QStringList texts;
     for (const Group &group : qAsConst(groups)) {

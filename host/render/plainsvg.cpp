@@ -1,13 +1,12 @@
 #include "render/plainsvg.h"
 
 #include "files/drawingbounds.h"
-#include "files/packagenames.h"
 #include "files/xmltext.h"
+#include "iwb/iwbmedia.h"
 #include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
 #include "render/labellines.h"
 
-#include <QDir>
 #include <QFontMetricsF>
 #include <QVector>
 
@@ -150,9 +149,9 @@ QVector<Line> linesOf(const QDomElement &area, double width)
 
 } // namespace
 
-PlainSvg::PlainSvg(const QSizeF &size, const QString &folder)
+PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media)
     : m_size(size)
-    , m_folder(folder)
+    , m_media(media)
 {
     m_svg = m_document.createElement(QStringLiteral("svg"));
     m_document.appendChild(m_svg);
@@ -203,11 +202,8 @@ bool PlainSvg::add(const QDomElement &element)
 
 bool PlainSvg::addPicture(const QDomElement &image)
 {
-    const QString reference = image.attribute(QStringLiteral("xlink:href"));
-    if (!problemWithPackagePath(reference).isEmpty()) {
-        return false;
-    }
-    const QString address = Picture(QDir(m_folder).filePath(reference)).address(m_pixels);
+    const IwbMedia::File file = m_media.file(image.attribute(QStringLiteral("xlink:href")));
+    const QString address = file.source.isEmpty() ? QString() : Picture(file.source).address(m_pixels);
     if (address.isEmpty()) {
         return false;
     }

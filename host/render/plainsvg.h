@@ -11,6 +11,8 @@
 
 namespace lessonhost {
 
+class IwbMedia;
+
 /*!
  * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that
  * runs or leads out of it.
@@ -18,8 +20,8 @@ namespace lessonhost {
 class PlainSvg
 {
 public:
-    //! folder: where the pictures of the elements lie that will be added.
-    PlainSvg(const QSizeF &size, const QString &folder);
+    //! media: what the references of the elements mean that will be added; it has to live as long.
+    PlainSvg(const QSizeF &size, const IwbMedia &media);
 
     QSizeF size() const { return m_size; }
     //! What was added, within the bounds of drawings.
@@ -40,7 +42,7 @@ private:
     bool addPicture(const QDomElement &image);
 
     QSizeF m_size;
-    QString m_folder;
+    const IwbMedia &m_media;
     PixelBudget m_pixels;
     QDomDocument m_document;
     QDomElement m_svg;

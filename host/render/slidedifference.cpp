@@ -36,16 +36,16 @@ QJsonObject withoutDefaults(QJsonObject item)
 class SlideDifference
 {
 public:
-    SlideDifference(int slide, LossReport &losses)
+    explicit SlideDifference(const SlideLosses &losses)
         : m_losses(losses)
-        , m_slide(slide)
-        , m_comparison(&losses, slide)
+        , m_comparison(losses)
     {
     }
 
     void compare(const LessonSlide &given, const LessonSlide &found)
     {
-        m_comparison.compareProperties(QStringLiteral("slide"), given.properties, found.properties);
+        m_comparison.compareProperties({QStringLiteral("slide"), given.properties.value(SlideKeys::id).toString()},
+                                       given.properties, found.properties);
         QVector<QJsonObject> givenItems;
         collectItems(given.items, givenItems);
         QVector<QJsonObject> foundItems;
@@ -59,26 +59,16 @@ public:
             const QString id = ItemView(item).id();
             const QJsonObject other = id.isEmpty() ? foundItems.value(i) : byId.value(id);
             if (!other.isEmpty()) {
-                m_comparison.compareItems({withoutDefaults(item)}, {other});
+                const QJsonArray itself{withoutDefaults(item)};
+                m_comparison.compareItems(itself, itself, {other});
             } else if (!isContainer(ItemView(item).type())) {
-                addMissing(item);
+                m_losses.item(item);
             }
         }
     }
 
 private:
-    void addMissing(const QJsonObject &item)
-    {
-        Loss loss;
-        loss.kind = Loss::Item;
-        loss.slide = m_slide;
-        loss.itemType = ItemView(item).type();
-        loss.itemId = ItemView(item).id();
-        m_losses.add(loss);
-    }
-
-    LossReport &m_losses;
-    int m_slide;
+    SlideLosses m_losses;
     Comparison m_comparison;
 };
 
@@ -143,7 +133,7 @@ QByteArray asHtml(const QVector<Loss> &losses)
 QByteArray slideDifference(const LessonSlide &given, const LessonSlide &found, int slide, LossReport &losses)
 {
     const int before = losses.entries().size();
-    SlideDifference(slide, losses).compare(given, found);
+    SlideDifference(SlideLosses(&losses, slide)).compare(given, found);
     return asHtml(losses.entries().mid(before));
 }
 

@@ -1,7 +1,8 @@
 #ifndef SLIDEPICTURES_H
 #define SLIDEPICTURES_H
 
-#include "files/workfolder.h"
+#include "iwb/iwbmedia.h"
+#include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
 
 #include <QSizeF>
@@ -40,12 +41,10 @@ public:
     SlidePicture picture(int index);
 
 private:
-    void collectFiles();
-
     LessonReader &m_reader;
-    LessonContext m_context;
-    WorkFolder m_folder;
-    QVector<QPair<QString, QString>> m_files; // paths in the lesson, and on disk
+    QStringList m_files;
+    IwbMedia m_media;
+    IwbPageWriter m_pages;
 };
 
 } // namespace lessonhost

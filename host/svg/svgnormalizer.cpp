@@ -128,6 +128,19 @@ QDomElement SvgNormalizer::sizeElement(QDomDocument &document) const
     return element;
 }
 
+QString SvgNormalizer::backgroundName(int index) const
+{
+    const QLatin1String ending("_rect");
+    const QDomElement page = m_pages.at(index);
+    for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString id = child.attribute(QStringLiteral("id"));
+        if (svgName(child) == QLatin1String("rect") && m_rules.records.value(id).isBackground) {
+            return id.endsWith(ending) ? id.chopped(ending.size()) : QString();
+        }
+    }
+    return {};
+}
+
 IwbPage SvgNormalizer::page(int index) const
 {
     return SvgPageBuilder(m_rules).build(m_pages.at(index));

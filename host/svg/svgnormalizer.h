@@ -28,6 +28,8 @@ public:
     int pageCount() const { return m_pages.size(); }
     //! The identifier of a page in the file.
     QString pageId(int index) const { return m_pages.at(index).attribute(QStringLiteral("id")); }
+    //! What a page was made of by the plug-in, which names the rectangle of its background so; empty for others.
+    QString backgroundName(int index) const;
     IwbPage page(int index) const;
 
     //! About the document as a whole.

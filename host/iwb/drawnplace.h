@@ -1,0 +1,14 @@
+#ifndef DRAWNPLACE_H
+#define DRAWNPLACE_H
+
+#include "lesson/shapegeometry.h"
+
+namespace lessonhost {
+
+//! True for two items that draw in the same place, whatever values tell it: points that fill a box and are turned, or
+//! points of the page. False where a value that tells a place of the given item isn't all used.
+bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const OutlineSource &outlines);
+
+} // namespace lessonhost
+
+#endif // DRAWNPLACE_H

@@ -1,0 +1,26 @@
+#include "iwb/iwbmedia.h"
+
+namespace lessonhost {
+
+QString IwbMedia::place(const QString &folder, const File &file, const QString &wantedName)
+{
+    const QString reference = folder + QLatin1Char('/') + m_files.nameIn(folder, file.source, wantedName);
+    if (!m_placed.contains(reference)) {
+        m_placed.insert(reference, file);
+        m_new.append(reference);
+    }
+    return reference;
+}
+
+void IwbMedia::storeNew(const std::function<void(const QString &, const File &)> &store)
+{
+    QStringList references;
+    references.swap(m_new);
+    for (const QString &reference : qAsConst(references)) {
+        File &file = m_placed[reference];
+        store(reference, file);
+        file.picture = {};
+    }
+}
+
+} // namespace lessonhost

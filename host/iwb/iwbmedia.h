@@ -1,0 +1,55 @@
+#ifndef IWBMEDIA_H
+#define IWBMEDIA_H
+
+#include "files/lessonfiles.h"
+
+#include <QImage>
+
+#include <functional>
+
+namespace lessonhost {
+
+/*!
+ * The files that pages refer to: those of the lesson, and the references under which pages name them. Pages are made
+ * without a package; who stores one takes the files from here.
+ */
+class IwbMedia
+{
+public:
+    struct File
+    {
+        QString source; //!< on disk
+        bool isConverted = false; //!< goes into the package as a png picture
+        QImage picture; //!< the picture until it is stored
+    };
+
+    void add(const QString &relativePath, const QString &sourceFile) { m_files.add(relativePath, sourceFile); }
+
+    //! The file on disk that an item's reference means, or nothing.
+    QString find(const QString &reference) { return m_files.find(reference); }
+
+    //! The file that has just this path in the lesson, or nothing.
+    QString source(const QString &relativePath) const { return m_files.source(relativePath); }
+
+    //! The reference of a file in a folder of the package, under its own name or the one that is wanted, or one that is
+    //! like it where another file has that. The same file gets the same reference again.
+    QString place(const QString &folder, const File &file, const QString &wantedName = {});
+
+    //! The file that a reference of a page stands for; without a source where there is none.
+    File file(const QString &reference) const { return m_placed.value(reference); }
+
+    //! Calls store for each reference that came up since the last call, and lets go of its picture.
+    void storeNew(const std::function<void(const QString &reference, const File &file)> &store);
+
+    //! Paths of the files that nobody asked for.
+    QStringList unused() const { return m_files.unused(); }
+
+private:
+    LessonFiles m_files;
+    QHash<QString, File> m_placed; // by reference
+    QStringList m_new;
+};
+
+} // namespace lessonhost
+
+#endif // IWBMEDIA_H

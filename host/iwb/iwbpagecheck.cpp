@@ -1,0 +1,244 @@
+#include "iwb/iwbpagecheck.h"
+
+#include "iwb/drawnplace.h"
+#include "izqtransformation.h"
+#include "lesson/itemview.h"
+#include "lesson/pageplace.h"
+#include "lesson/textruns.h"
+#include "losses/comparison.h"
+#include "losses/modelvalues.h"
+#include "svg/pluginoutlines.h"
+#include "svg/svgnormalizer.h"
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String pagePrefix("page");
+
+// What is written has six digits.
+constexpr double writtenDigits = 1e-4;
+
+// Where an item is drawn follows from all of these.
+const QLatin1String placeKeys[] = {ItemKeys::box,     ItemKeys::matrix,   ItemKeys::angle,
+                                   ItemKeys::control, ItemKeys::polyline, ItemKeys::steps};
+
+// Where a polyline has what ink says.
+struct InkKey
+{
+    const char *ink;
+    const char *polyline;
+};
+constexpr InkKey inkKeys[] = {{"Color", "ArtObj_Color"}, {"Width", "ArtObj_Width"}};
+
+// What matrices were made with; it has done its part.
+constexpr const char *fittingKeys[] = {"SlideMatrix", "SlideSourceRect"};
+
+constexpr const char *fileKeys[] = {"resource", "MultiMediaFile", "document", "AttachFile", "InteractiveValue"};
+
+bool isFileKey(const QString &key)
+{
+    return std::any_of(std::begin(fileKeys), std::end(fileKeys),
+                       [&key](const char *name) { return key == QLatin1String(name); });
+}
+
+void removeFitting(QJsonObject &given)
+{
+    for (const char *key : fittingKeys) {
+        given.remove(QLatin1String(key));
+    }
+}
+
+// Of a colour that paints nothing, svg has none.
+bool isInvisible(const QJsonValue &color)
+{
+    const auto whole = wholeColor(color);
+    return whole && qAlpha(*whole) == 0;
+}
+
+bool haveSameRuns(const TextRuns &one, const TextRuns &other)
+{
+    const auto isSameRun = [](const IwbTextInfo &a, const IwbTextInfo &b) {
+        return a.text == b.text && a.fill == b.fill && a.fontWeight == b.fontWeight && a.fontStyle == b.fontStyle
+            && a.fontFamily == b.fontFamily && a.textDecoration == b.textDecoration && a.textAlign == b.textAlign
+            && isSameValue(QStringLiteral("width"), a.fontSize, b.fontSize, writtenDigits);
+    };
+    return one.shifts == other.shifts
+        && std::equal(one.runs.cbegin(), one.runs.cend(), other.runs.cbegin(), other.runs.cend(), isSameRun);
+}
+
+QString plainTextOf(const TextRuns &text)
+{
+    QString plain;
+    for (const IwbTextInfo &run : text.runs) {
+        plain += run.text;
+    }
+    return plain;
+}
+
+// Takes out of given what the found text says as well, and tells what letters can't have.
+void compareText(QJsonObject &given, const QJsonObject &found, const SlideLosses &losses)
+{
+    const TextRuns back = textRunsFromHtml(found.value(ItemKeys::html).toString());
+    for (const QLatin1String key : {ItemKeys::text, ItemKeys::textContent}) {
+        const QString text = valueText(given.value(key));
+        if (!text.isEmpty() && withoutControlCharacters(text) == text
+            && plainTextOf(textRunsFromPlainText(text)) == plainTextOf(back)) {
+            given.remove(key);
+        }
+    }
+    if (!given.value(ItemKeys::html).isString()) {
+        return;
+    }
+    const TextRuns text = textRunsFromHtml(given.value(ItemKeys::html).toString());
+    for (const QString &loss : text.losses) {
+        losses.value(given, ItemKeys::html, loss);
+    }
+    if (!text.losses.isEmpty() || haveSameRuns(text, back)) {
+        given.remove(ItemKeys::html);
+    }
+}
+
+} // namespace
+
+IwbPageCheck::IwbPageCheck(IZQTransformation *plugin, const IwbMedia &media)
+    : m_plugin(plugin)
+    , m_media(media)
+    , m_reader(plugin, this)
+    , m_outlines(pluginOutlines(plugin))
+{
+}
+
+QString IwbPageCheck::resolve(const QString &reference, QString *problem)
+{
+    if (!m_media.file(reference).source.isEmpty()) {
+        return reference;
+    }
+    *problem = QStringLiteral("the package has no such file");
+    return {};
+}
+
+// Pages that are still to be written count as well.
+int IwbPageCheck::pageNumber(const QString &id)
+{
+    const int number = id.startsWith(pagePrefix) ? id.mid(pagePrefix.size()).toInt() : 0;
+    return number > 0 && id == pagePrefix + QString::number(number) ? number : 0;
+}
+
+void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slide,
+                           const QVector<IwbPageWriter::WrittenItem> &items, int number, const SlideLosses &losses)
+{
+    const SvgNormalizer content(document.documentElement());
+    IwbSlideReader::Slide found = m_reader.read(content.page(0), number, {});
+    found.slide.properties.insert(ItemKeys::id, m_names.next(content.backgroundName(0), content.pageId(0)));
+    compareSlide(slide.properties, found.slide.properties, losses);
+    int next = 0;
+    for (const IwbPageWriter::WrittenItem &written : items) {
+        const int at = written.id.isEmpty() ? -1 : found.elementIds.indexOf(written.id, next);
+        if (at >= 0) {
+            compareItem(written, found.slide.items.at(at).toObject(), losses);
+            next = at + 1;
+        } else if (!written.id.isEmpty()) {
+            losses.item(written.given);
+        }
+    }
+}
+
+void IwbPageCheck::compareSlide(const QJsonObject &given, const QJsonObject &found, const SlideLosses &losses) const
+{
+    QJsonObject own = given;
+    removeFitting(own);
+    const LossOwner owner(QStringLiteral("slide"), valueText(given.value(ItemKeys::id)));
+    Comparison::Rules rules;
+    rules.tolerance = writtenDigits;
+    rules.isSame = [&](const QString &key, const QJsonValue &value, const QJsonValue &back) {
+        return isFileKey(key) && isSameFile(owner, value, back, losses);
+    };
+    Comparison(losses, rules).compareProperties(owner, own, found);
+}
+
+void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const QJsonObject &found,
+                               const SlideLosses &losses)
+{
+    const QJsonObject &given = written.given;
+    QJsonObject own = given;
+    for (const QLatin1String key : {ItemKeys::visible, ItemKeys::locked}) {
+        if (written.item.contains(key)) {
+            own.insert(key, written.item.value(key));
+        }
+    }
+    QJsonObject back = found;
+    removeFitting(own);
+    const bool isUnderMatrix = !isNothing(given.value(ItemKeys::matrix));
+    const QJsonObject placed =
+        isUnderMatrix ? slideInPageForm({{}, {given}}, m_outlines).items.first().toObject() : given;
+    if (isDrawnAlike(placed, found, m_outlines)) {
+        const auto control = wholeNumbers(given.value(ItemKeys::control));
+        const bool hasPoints = control && control->size() % 2 == 0;
+        for (const QLatin1String key : placeKeys) {
+            const bool isOwn = (key == ItemKeys::angle && isUnderMatrix && !isTurnOfMatrix(given))
+                || (key == ItemKeys::control && !hasPoints);
+            if (!isOwn) {
+                own.remove(key);
+                back.remove(key);
+            }
+        }
+    }
+    if (given.contains(ItemKeys::steps) && found.contains(ItemKeys::polyline)) {
+        for (const InkKey &row : inkKeys) {
+            back.insert(QLatin1String(row.ink), back.value(QLatin1String(row.polyline)));
+        }
+    }
+    if (found.contains(ItemKeys::html)) {
+        compareText(own, found, losses);
+    }
+    Comparison::Rules rules;
+    rules.tolerance = writtenDigits;
+    rules.isSame = [&](const QString &key, const QJsonValue &value, const QJsonValue &back) {
+        return isFileKey(key) ? isSameFile(given, value, back, losses) : isInvisible(value) && isInvisible(back);
+    };
+    Comparison(losses, rules).compareProperties(given, own, back);
+    if (own.contains(ItemKeys::linkType) && found.value(ItemKeys::linkType) == QLatin1String("ACTION_GOTOSLIDE")) {
+        m_pageLinks.append({given, losses, valueText(found.value(ItemKeys::linkValue)).toInt()});
+    }
+}
+
+// Names of files change on the way, and a picture of another kind becomes a png. A file that isn't there was told.
+bool IwbPageCheck::isSameFile(const LossOwner &owner, const QJsonValue &given, const QJsonValue &found,
+                              const SlideLosses &losses) const
+{
+    const QString reference = valueText(given);
+    if (isNothing(found)) {
+        return given.isString() && losses.hasFile(owner, reference);
+    }
+    const IwbMedia::File file = m_media.file(found.toString());
+    return !file.isConverted && !file.source.isEmpty() && file.source == m_media.source(reference);
+}
+
+void IwbPageCheck::finish(int pageCount) const
+{
+    for (const PageLink &link : m_pageLinks) {
+        if (link.page > pageCount) {
+            link.losses.value(link.owner, ItemKeys::linkType, QStringLiteral("ACTION_GOTOSLIDE"));
+            link.losses.value(link.owner, ItemKeys::linkValue, QString::number(link.page));
+        }
+    }
+}
+
+void IwbPageCheck::comparePresentation(const QDomDocument &document, const QJsonObject &presentation,
+                                       const SlideLosses &losses) const
+{
+    QDomDocument size;
+    const QJsonObject found =
+        m_plugin->tranPresIWB2JSON(SvgNormalizer(document.documentElement()).sizeElement(size), {});
+    const QString range = found.value(QLatin1String("Width")).toString() + QLatin1Char(',')
+        + found.value(QLatin1String("Height")).toString();
+    Comparison::Rules rules;
+    rules.tolerance = writtenDigits;
+    rules.isSame = [&range](const QString &key, const QJsonValue &value, const QJsonValue &) {
+        return key == QLatin1String("Range") && valueText(value) == range;
+    };
+    Comparison(losses, rules).compareProperties(QStringLiteral("presentation"), presentation, found);
+}
+
+} // namespace lessonhost

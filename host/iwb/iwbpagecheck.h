@@ -1,0 +1,61 @@
+#ifndef IWBPAGECHECK_H
+#define IWBPAGECHECK_H
+
+#include "iwb/iwbmedia.h"
+#include "iwb/iwbpagewriter.h"
+#include "iwb/iwbslidereader.h"
+#include "iwb/slidenames.h"
+#include "lesson/shapegeometry.h"
+
+#include <QVector>
+
+namespace lessonhost {
+
+/*!
+ * Reads pages back, with the code that reads packages, before they are stored, and tells what isn't in them.
+ */
+class IwbPageCheck : private IwbReferences
+{
+public:
+    IwbPageCheck(IZQTransformation *plugin, const IwbMedia &media);
+
+    //! Compares the one page of a document with the slide that it was made from; number counts from 1.
+    void compare(const QDomDocument &document, const LessonSlide &slide,
+                 const QVector<IwbPageWriter::WrittenItem> &items, int number, const SlideLosses &losses);
+
+    //! Compares what a document says of itself with the presentation.
+    void comparePresentation(const QDomDocument &document, const QJsonObject &presentation,
+                             const SlideLosses &losses) const;
+
+    //! Tells of links to pages that never came.
+    void finish(int pageCount) const;
+
+private:
+    // A link to a page behind those that are written so far.
+    struct PageLink
+    {
+        LossOwner owner;
+        SlideLosses losses;
+        int page;
+    };
+
+    QString resolve(const QString &reference, QString *problem) override;
+    QString file(const QString &path) override { return m_media.file(path).source; }
+    int pageNumber(const QString &id) override;
+
+    void compareSlide(const QJsonObject &given, const QJsonObject &found, const SlideLosses &losses) const;
+    void compareItem(const IwbPageWriter::WrittenItem &written, const QJsonObject &found, const SlideLosses &losses);
+    bool isSameFile(const LossOwner &owner, const QJsonValue &given, const QJsonValue &found,
+                    const SlideLosses &losses) const;
+
+    IZQTransformation *m_plugin;
+    const IwbMedia &m_media;
+    IwbSlideReader m_reader;
+    OutlineSource m_outlines;
+    SlideNames m_names;
+    QVector<PageLink> m_pageLinks;
+};
+
+} // namespace lessonhost
+
+#endif // IWBPAGECHECK_H

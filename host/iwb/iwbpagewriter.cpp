@@ -1,0 +1,196 @@
+#include "iwb/iwbpagewriter.h"
+
+#include "files/packagenames.h"
+#include "files/pictures.h"
+#include "iwb/iwbmedia.h"
+#include "izqtransformation.h"
+#include "lesson/itemview.h"
+#include "lesson/pagesize.h"
+#include "lesson/textruns.h"
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String svgTag("svg:svg");
+
+// The name of a background's colour.
+QString backgroundColor(const QJsonObject &properties)
+{
+    auto color = backColor(properties.value(SlideKeys::backColor));
+    if (!color) {
+        color = itemColor(properties.value(SlideKeys::color));
+    }
+    return color ? color->name(color->alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) : QStringLiteral("#ffffff");
+}
+
+} // namespace
+
+IwbPageWriter::IwbPageWriter(const IwbItemWriter::Setting &setting)
+    : m_plugin(setting.plugin)
+    , m_media(setting.media)
+    , m_items(setting)
+{
+}
+
+void IwbPageWriter::start(const QJsonObject &presentation, const QJsonObject &firstSlide)
+{
+    const QLatin1String width("Width");
+    const QLatin1String height("Height");
+    m_pageSize = QSizeF(itemNumber(presentation.value(width)), itemNumber(presentation.value(height)));
+    if (!(m_pageSize.width() > 0) || !(m_pageSize.height() > 0)) {
+        m_pageSize = pageOfSourceRect(valueText(firstSlide.value(SlideKeys::sourceRect)));
+    }
+    QJsonObject size{{width, exactText(m_pageSize.width())}, {height, exactText(m_pageSize.height())}};
+    const QString id = withoutControlCharacters(valueText(presentation.value(SlideKeys::id)));
+    if (!id.isEmpty()) {
+        size.insert(SlideKeys::id, id);
+    }
+    m_document = m_plugin->tranPresJSON2IWB({}, size);
+    QDomElement svg = m_document.documentElement().firstChildElement(svgTag);
+    svg.setAttribute(QStringLiteral("viewBox"),
+                     QStringLiteral("0 0 %1 %2").arg(exactText(m_pageSize.width()), exactText(m_pageSize.height())));
+}
+
+QDomElement IwbPageWriter::pageSet() const
+{
+    return m_document.documentElement().firstChildElement(svgTag).firstChildElement(QStringLiteral("svg:pageset"));
+}
+
+QDomElement IwbPageWriter::addPage(const QJsonObject &slide, int number, const SlideLosses &losses)
+{
+    m_number = number;
+    m_ids = {};
+    // The identifier names a file.
+    QString id = withoutControlCharacters(valueText(slide.value(SlideKeys::id)));
+    if (!problemWithFileName(id).isEmpty()) {
+        id = QLatin1String("slide") + QString::number(number);
+    }
+    m_ids.take(id + QLatin1String("_rect"));
+    m_ids.take(id + QLatin1String("_bgd"));
+    const QString picture = background(slide, id, losses);
+    QDomElement page = m_plugin->tranSlideJSON2IWB(m_document,
+                                                   {
+                                                       {QStringLiteral("index"), number},
+                                                       {SlideKeys::id, id},
+                                                       {QStringLiteral("x"), QStringLiteral("0")},
+                                                       {QStringLiteral("y"), QStringLiteral("0")},
+                                                       {QStringLiteral("Width"), exactText(m_pageSize.width())},
+                                                       {QStringLiteral("Height"), exactText(m_pageSize.height())},
+                                                       {SlideKeys::backColor, backgroundColor(slide)},
+                                                       {QStringLiteral("AttachFile"), picture},
+                                                   });
+    if (!page.isNull()) {
+        pageSet().appendChild(page);
+        fillPage(page, picture);
+    }
+    return page;
+}
+
+// The reference of the background picture, which the plug-in will say is a png, or nothing.
+QString IwbPageWriter::background(const QJsonObject &slide, const QString &id, const SlideLosses &losses)
+{
+    const QString owner = QStringLiteral("slide");
+    QStringList references = slide.value(SlideKeys::files).toString().split(QLatin1Char(','));
+    references.append(slide.value(SlideKeys::document).toString());
+    references.removeAll(QString());
+    QString chosen;
+    for (const QString &reference : qAsConst(references)) {
+        IwbMedia::File file;
+        file.source = m_media->find(reference);
+        if (file.source.isEmpty()) {
+            const bool isPaper = reference.startsWith(QLatin1String("ID_SLIDE_NOTEBOOK_"));
+            losses.file(owner, reference,
+                        isPaper ? QStringLiteral("it is a paper of the editor, not a file of the lesson")
+                                : QStringLiteral("the lesson has no such file"));
+            continue;
+        }
+        if (m_media->file(chosen).source == file.source) {
+            continue;
+        }
+        if (!chosen.isEmpty()) {
+            losses.file(owner, reference, QStringLiteral("a page has one background picture"));
+            continue;
+        }
+        const Picture picture(file.source);
+        if (!picture.problem().isEmpty()) {
+            losses.file(owner, reference, picture.problem());
+            continue;
+        }
+        file.isConverted = picture.format() != "png";
+        if (file.isConverted) {
+            file.picture = picture.image();
+            if (file.picture.isNull()) {
+                losses.file(owner, reference, QStringLiteral("it can't be made a PNG picture"));
+                continue;
+            }
+        }
+        if (picture.format() == "svg") {
+            const QStringList leftOut = picture.drawing().leftOut;
+            for (const QString &name : leftOut) {
+                losses.file(owner, reference,
+                            QStringLiteral("it shows \"%1\", which isn't beside it in the lesson").arg(name));
+            }
+        }
+        chosen = m_media->place(QStringLiteral("images"), file, id + QLatin1String("_bgd.png"));
+    }
+    return chosen;
+}
+
+// The picture is said to be stretched to the page; readers of svg need its size for that.
+void IwbPageWriter::fillPage(QDomElement &page, const QString &picture) const
+{
+    QDomElement image = page.firstChildElement(QStringLiteral("svg:image"));
+    if (image.isNull()) {
+        return;
+    }
+    image.setAttribute(QStringLiteral("xlink:href"), picture);
+    image.setAttribute(QStringLiteral("width"), exactText(m_pageSize.width()));
+    image.setAttribute(QStringLiteral("height"), exactText(m_pageSize.height()));
+    image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+}
+
+QVector<IwbPageWriter::WrittenItem> IwbPageWriter::addItems(QDomElement &page, const QJsonArray &items,
+                                                            const SlideLosses &losses)
+{
+    QVector<WrittenItem> written;
+    for (const QJsonValue &item : items) {
+        addItem(page, item.toObject(), item.toObject(), losses, written);
+    }
+    return written;
+}
+
+void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item,
+                            const SlideLosses &losses, QVector<WrittenItem> &written)
+{
+    const QVector<QJsonObject> children = ItemView(item).looseChildren();
+    if (!children.isEmpty()) {
+        losses.item(given, QStringLiteral("taken apart, its items stand on the page by themselves"));
+        const QVector<QJsonObject> own = ItemView(given).childObjects();
+        for (int i = 0; i < children.size(); ++i) {
+            addItem(page, own.at(i), children.at(i), losses, written);
+        }
+        return;
+    }
+    WrittenItem row{given, item, idOf(given)};
+    const QDomElement element = m_items.write(m_document, item, row.id, losses);
+    if (element.isNull()) {
+        row.id.clear();
+    } else {
+        page.appendChild(element);
+    }
+    // What the group would open is lost with the group.
+    if (!element.isNull() && !m_items.missingFile().isEmpty() && ItemView(given).has(ItemKeys::linkType)) {
+        losses.file(given, m_items.missingFile(), QStringLiteral("the lesson has no such file to open"));
+    }
+    written.append(row);
+}
+
+// Of an identifier that two items have, the second gets one of its own: records know elements by it.
+QString IwbPageWriter::idOf(const QJsonObject &item)
+{
+    const QString id = withoutControlCharacters(ItemView(item).id());
+    return m_ids.take(id.isEmpty() ? QStringLiteral("item%1_%2").arg(m_number).arg(++m_generatedIds) : id);
+}
+
+} // namespace lessonhost

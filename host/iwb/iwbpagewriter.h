@@ -1,0 +1,67 @@
+#ifndef IWBPAGEWRITER_H
+#define IWBPAGEWRITER_H
+
+#include "iwb/iwbitemwriter.h"
+#include "iwb/uniqueids.h"
+#include "lesson/lesson.h"
+
+#include <QSizeF>
+
+namespace lessonhost {
+
+class IwbMedia;
+
+/*!
+ * Makes the pages of an IWB document, with their media by reference. Nothing is stored: who wants a package writes the
+ * document, who wants a picture draws from it.
+ */
+class IwbPageWriter
+{
+public:
+    //! An item that stands on a page by itself.
+    struct WrittenItem
+    {
+        QJsonObject given;
+        QJsonObject item; //!< the same, hidden, locked and linked by the groups that were around it
+        QString id; //!< of its element; empty for an item that has no form
+    };
+
+    explicit IwbPageWriter(const IwbItemWriter::Setting &setting);
+
+    //! Makes a document without pages. The page size of a raw lesson stands in its slides, the first of which is told.
+    void start(const QJsonObject &presentation, const QJsonObject &firstSlide);
+
+    //! Null before start(), or where the plug-in makes none.
+    QDomDocument document() const { return m_document; }
+    QDomElement pageSet() const;
+    QSizeF pageSize() const { return m_pageSize; }
+
+    //! Puts a page into the document that shows the slide's colour and picture. number counts from 1. Null where the
+    //! plug-in makes none.
+    QDomElement addPage(const QJsonObject &slide, int number, const SlideLosses &losses);
+
+    //! Adds the items of the slide to a page, those of groups by themselves.
+    QVector<WrittenItem> addItems(QDomElement &page, const QJsonArray &items, const SlideLosses &losses);
+
+    IwbItemWriter &items() { return m_items; }
+
+private:
+    void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
+                 QVector<WrittenItem> &written);
+    QString idOf(const QJsonObject &item);
+    QString background(const QJsonObject &slide, const QString &id, const SlideLosses &losses);
+    void fillPage(QDomElement &page, const QString &picture) const;
+
+    IZQTransformation *m_plugin;
+    IwbMedia *m_media;
+    IwbItemWriter m_items;
+    QDomDocument m_document;
+    QSizeF m_pageSize;
+    int m_number = 0; // of the page that gets items
+    UniqueIds m_ids; // of its elements
+    int m_generatedIds = 0;
+};
+
+} // namespace lessonhost
+
+#endif // IWBPAGEWRITER_H

@@ -1,0 +1,57 @@
+#ifndef IWBSLIDEREADER_H
+#define IWBSLIDEREADER_H
+
+#include "iwb/iwbitemreader.h"
+#include "lesson/lesson.h"
+#include "losses/slidelosses.h"
+
+namespace lessonhost {
+
+/*!
+ * What the references of a page mean: files, and other pages.
+ */
+class IwbReferences
+{
+public:
+    virtual ~IwbReferences() = default;
+
+    //! The path in the lesson of the file that a reference means, or nothing and the reason as a clause.
+    virtual QString resolve(const QString &reference, QString *problem) = 0;
+    //! Where a path in the lesson lies on disk.
+    virtual QString file(const QString &path) = 0;
+    //! The number of the page with that identifier, from 1; 0 for none.
+    virtual int pageNumber(const QString &id) = 0;
+};
+
+/*!
+ * Makes a slide of an IWB page, whether it came out of a package or is about to go into one.
+ */
+class IwbSlideReader
+{
+public:
+    //! references: they have to live as long.
+    IwbSlideReader(IZQTransformation *plugin, IwbReferences *references);
+
+    struct Slide
+    {
+        LessonSlide slide; //!< without ID
+        QStringList elementIds; //!< for each item, the identifier that its element has in the page
+    };
+
+    //! number counts from 1 and names items that have no identifier. page is changed on the way.
+    Slide read(IwbPage page, int number, const SlideLosses &losses);
+
+private:
+    QJsonObject readProperties(IwbPage &page, const SlideLosses &losses);
+    QJsonObject readItem(IwbElement item, const SlideLosses &losses);
+    QString mediaFile(const IwbElement &item, const SlideLosses &losses);
+    void readLink(const IwbElement &item, const SlideLosses &losses, QJsonObject &json);
+
+    IZQTransformation *m_plugin;
+    IwbReferences *m_references;
+    IwbItemReader m_items;
+};
+
+} // namespace lessonhost
+
+#endif // IWBSLIDEREADER_H

@@ -1,0 +1,80 @@
+#include "losses/slidelosses.h"
+
+#include "lesson/itemvalues.h"
+#include "losses/lossreport.h"
+
+#include <algorithm>
+
+namespace lessonhost {
+
+LossOwner::LossOwner(const QJsonObject &item)
+    : type(item.value(QLatin1String("Type")).toString())
+    , id(valueText(item.value(QLatin1String("ID"))))
+{
+}
+
+SlideLosses::SlideLosses(LossReport *report, int slide)
+    : m_report(report)
+    , m_slide(slide)
+    , m_first(report ? report->entries().size() : 0)
+{
+}
+
+void SlideLosses::value(const LossOwner &owner, const QString &key, const QString &detail) const
+{
+    add(Loss::Value, owner, key, detail);
+}
+
+void SlideLosses::item(const LossOwner &owner, const QString &why) const
+{
+    add(Loss::Item, owner, {}, why);
+}
+
+void SlideLosses::kept(const LossOwner &owner) const
+{
+    add(Loss::Kept, owner, {}, {});
+}
+
+void SlideLosses::file(const LossOwner &owner, const QString &reference, const QString &why) const
+{
+    add(Loss::File, owner, reference, why);
+}
+
+void SlideLosses::note(const LossOwner &owner, const QString &detail, const QString &key) const
+{
+    add(Loss::Note, owner, key, detail);
+}
+
+bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) const
+{
+    return m_report
+        && std::any_of(m_report->entries().cbegin() + m_first, m_report->entries().cend(), [&](const Loss &loss) {
+               return loss.kind == Loss::File && loss.slide == m_slide && loss.itemType == owner.type
+                   && loss.key == reference && (owner.id.isEmpty() || loss.itemId.isEmpty() || loss.itemId == owner.id);
+           });
+}
+
+void SlideLosses::add(int kind, const LossOwner &owner, const QString &key, const QString &detail) const
+{
+    if (m_report) {
+        m_report->add({Loss::Kind(kind), m_slide, owner.type, owner.id, key, detail});
+    }
+}
+
+SlideLosses LessonLosses::slide(int number)
+{
+    if (m_told.contains(number)) {
+        return {};
+    }
+    m_told.insert(number);
+    return {m_report, number};
+}
+
+void LessonLosses::setFormat(const QString &name) const
+{
+    if (m_report) {
+        m_report->setFormat(name);
+    }
+}
+
+} // namespace lessonhost

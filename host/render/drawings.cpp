@@ -1,0 +1,75 @@
+#include "render/drawings.h"
+
+#include "lesson/itemview.h"
+#include "render/plainsvg.h"
+
+#include <QHash>
+#include <QJsonArray>
+
+namespace lessonhost {
+
+namespace {
+
+// What IWB leaves with anything to see.
+bool isSeen(const QDomElement &element)
+{
+    const QString tag = element.tagName();
+    return !tag.isEmpty() && tag != QLatin1String("svg:video") && tag != QLatin1String("svg:a")
+        && (tag != QLatin1String("svg:image") || !element.attribute(QStringLiteral("xlink:href")).isEmpty());
+}
+
+} // namespace
+
+Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files)
+    : m_svg(svg)
+    , m_pages(pages)
+    , m_files(files)
+    , m_boxes(svg)
+{
+}
+
+Drawings::Draw Drawings::drawingOf(const QString &type)
+{
+    static const QHash<QString, Draw> table{
+        {QStringLiteral("ZQMindMapItem"), &Drawings::drawMindMap},
+    };
+    return table.value(type, &Drawings::drawIwb);
+}
+
+bool Drawings::draw(const QJsonObject &item)
+{
+    const Draw drawing = drawingOf(item.value(ItemKeys::type).toString());
+    if ((this->*drawing)(item)) {
+        return true;
+    }
+    const QJsonObject picture = pictureOn(item);
+    const bool hasPicture = !picture.isEmpty() && drawIwb(picture);
+    m_boxes.drawBox(item, hasPicture);
+    return false;
+}
+
+bool Drawings::drawIwb(const QJsonObject &item)
+{
+    QDomDocument document = m_pages.document();
+    const QDomElement element = m_pages.items().write(document, item, {}, {});
+    return isSeen(element) && m_svg.add(element);
+}
+
+// The picture on an item that has no drawing: a picture item in its box, or an empty object.
+QJsonObject Drawings::pictureOn(const QJsonObject &item) const
+{
+    for (const QLatin1String key : {ItemKeys::document, QLatin1String("picture")}) {
+        const QJsonValue value = item.value(key);
+        const QString file = valueText(value.isArray() ? value.toArray().at(0) : value);
+        if (m_files.contains(file)) {
+            return {{ItemKeys::type, QStringLiteral("ZQImagePic")},
+                    {ItemKeys::box, item.value(ItemKeys::box)},
+                    {ItemKeys::angle, item.value(ItemKeys::angle)},
+                    {ItemKeys::matrix, item.value(ItemKeys::matrix)},
+                    {ItemKeys::resource, file}};
+        }
+    }
+    return {};
+}
+
+} // namespace lessonhost
