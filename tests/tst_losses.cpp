@@ -303,23 +303,44 @@ Given randomRaw(quint32 seed)
 }
 
 // A place of raw XML and what it says.
-void collectPlaces(const QDomElement &element, const QJsonArray &way, QVector<QPair<QJsonArray, QString>> &places)
+struct RawPlace
+{
+    QJsonArray path;
+    QString text;
+    bool isText; // of the element, else of its attribute
+
+    // "data/rect@points" of an attribute, "data/note" of a text.
+    QString way() const
+    {
+        QStringList steps;
+        for (const QJsonValue &step : path) {
+            steps.append(step.toString());
+        }
+        const QString last = (isText ? "" : "@") + (isText ? QString() : steps.takeLast());
+        return steps.join('/') + last;
+    }
+};
+
+QJsonArray stepTo(QJsonArray path, const QString &name)
+{
+    path.append(name);
+    return path;
+}
+
+void collectPlaces(const QDomElement &element, const QJsonArray &path, QVector<RawPlace> &places)
 {
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
-        QJsonArray place = way;
-        place.append(attributes.item(i).nodeName());
-        places.append({place, attributes.item(i).nodeValue()});
+        places.append({stepTo(path, attributes.item(i).nodeName()), attributes.item(i).nodeValue(), false});
     }
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        QJsonArray inner = way;
-        inner.append(child.tagName());
-        // The first is looked at item by item.
-        if (child.tagName() != "GroupSonItems" || !child.previousSiblingElement("GroupSonItems").isNull()) {
-            collectPlaces(child, inner, places);
-            if (child.firstChildElement().isNull() && (child.hasChildNodes() || child.attributes().isEmpty())) {
-                places.append({inner, child.text()});
-            }
+        const QJsonArray inner = stepTo(path, child.tagName());
+        // What is in a group's first is looked at item by item.
+        const bool holdsItems = path.isEmpty() && child == element.firstChildElement("GroupSonItems");
+        collectPlaces(holdsItems ? child.cloneNode(false).toElement() : child, inner, places);
+        if (!holdsItems && child.firstChildElement().isNull()
+            && (child.hasChildNodes() || child.attributes().isEmpty())) {
+            places.append({inner, child.text(), true});
         }
     }
 }
@@ -334,19 +355,6 @@ QString keyOfPlace(const QJsonObject &keyPlaces, const QJsonArray &place)
     return {};
 }
 
-// "data/rect@points" of an attribute, "data/note" of a text.
-QString wayTo(const QDomElement &element, const QJsonArray &place)
-{
-    QStringList steps;
-    QDomElement around = element;
-    for (const QJsonValue &step : place) {
-        const QDomElement inner = around.firstChildElement(step.toString());
-        steps.append(inner.isNull() ? '@' + step.toString() : step.toString());
-        around = inner;
-    }
-    return steps.join('/').replace("/@", "@");
-}
-
 // What the model says otherwise than the attributes of a raw slide or presentation of the same names, and elements of
 // the presentation that are no slides.
 void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonObject &found,
@@ -357,22 +365,22 @@ void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonOb
         const QString name = attributes.item(i).nodeName();
         const QString key = name == "NetID" ? "ID" : name;
         const QString text = attributes.item(i).nodeValue();
-        if (name != "AttachFile" && !isSameInModel(element.tagName(), key, text, found.value(key), Road::Kept)) {
+        if (!isSameInModel(element.tagName(), key, text, found.value(key), Road::Kept)) {
+            // References get the lesson's own folder.
             differences.append({slide, element.tagName(), element.attribute("NetID"), '@' + name, text,
-                                toText(QJsonObject{{key, found.value(key)}})});
+                                toText(QJsonObject{{key, found.value(key)}}), name == "AttachFile"});
         }
     }
-    QVector<QPair<QJsonArray, QString>> places;
+    QVector<RawPlace> places;
     for (QDomElement child = element.firstChildElement(); slide == 0 && !child.isNull();
          child = child.nextSiblingElement()) {
         if (child.tagName() != "slide") {
             collectPlaces(child, {child.tagName()}, places);
-            places.append({{child.tagName()}, child.text()});
+            places.append({{child.tagName()}, child.text(), true});
         }
     }
-    for (const auto &place : qAsConst(places)) {
-        const QString way = wayTo(element, place.first);
-        differences.append({slide, element.tagName(), {}, way, place.second, {}, place.second.isEmpty()});
+    for (const RawPlace &place : qAsConst(places)) {
+        differences.append({slide, element.tagName(), {}, place.way(), place.text, {}, place.text.isEmpty()});
     }
 }
 
@@ -402,25 +410,29 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
         }
     }
     const QJsonObject item = found.value(0);
-    QVector<QPair<QJsonArray, QString>> places;
+    QVector<RawPlace> places;
     collectPlaces(element, {}, places);
     const bool isKept = item.isEmpty() || item.contains("KeptXml");
     QVector<QJsonArray> seen;
     const QJsonObject keyPlaces = isKept ? QJsonObject() : rawPlacesOf(element.tagName());
-    for (const auto &place : qAsConst(places)) {
-        const QString known = keyOfPlace(keyPlaces, place.first);
-        const QString key = known.isEmpty() ? place.first.last().toString() : known;
-        const QString list = place.first.first().toString();
-        const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key) : item.value(key);
-        // A name that is no place is one in the model or nothing; what is there twice may be told once.
+    for (const RawPlace &place : qAsConst(places)) {
+        const QString known = keyOfPlace(keyPlaces, place.path);
+        const QString last = place.path.last().toString();
+        const QString list = place.path.first().toString();
+        // An attribute of the item that is no place bears the name of a key or none.
+        const QString key = known.isEmpty() ? last : known;
+        const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key)
+            : known.isEmpty() && place.path.size() > 1      ? QJsonValue(QJsonValue::Undefined)
+                                                            : item.value(key);
         const bool isSame =
-            isSameInModel(element.tagName(), key, place.second, value, known.isEmpty() ? Road::Kept : Road::Packed);
-        const bool isMinor = isSame || place.second.isEmpty() || workedOut.contains(key) || found.size() > 1;
-        const bool isRepeated = seen.contains(place.first);
-        seen.append(place.first);
-        if (!isKept && (!isSame || isRepeated || place.second.isEmpty())) {
-            differences.append({slide, element.tagName(), id, wayTo(element, place.first), place.second,
-                                toText(QJsonObject{{key, value}}), isMinor});
+            isSameInModel(element.tagName(), key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed);
+        // What is there twice may be told once.
+        const bool isRepeated = seen.contains(place.path);
+        const bool isMinor = isSame || place.text.isEmpty() || workedOut.contains(key) || found.size() > 1;
+        seen.append(place.path);
+        if (!isKept && (!isSame || isRepeated || place.text.isEmpty())) {
+            differences.append(
+                {slide, element.tagName(), id, place.way(), place.text, toText(QJsonObject{{key, value}}), isMinor});
         }
     }
     const QDomElement sons = element.firstChildElement("GroupSonItems");
