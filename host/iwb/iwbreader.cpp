@@ -10,6 +10,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+
+#include <unistd.h>
+
 namespace lessonhost {
 
 namespace {
@@ -93,7 +97,9 @@ QJsonObject IwbReader::readProperties(IwbPage &page)
     const QString path = m_package.workFolder() + packageFolder + QLatin1Char('/');
     if (!picture.isEmpty()) {
         const QString name = QLatin1String("background.") + QFileInfo(picture).suffix();
-        QFile::remove(path + name);
+        if (::unlink(QFile::encodeName(path + name).constData()) != 0 && errno != ENOENT) {
+            throw writeError(m_package.displayName(), errno, true);
+        }
         const QString source = m_package.file(picture);
         if (!QFile::link(source, path + name)) {
             copyFile(source, m_package.displayName(), path + name, m_package.displayName(), OutputFile::Temporary);

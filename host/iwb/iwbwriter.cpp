@@ -285,6 +285,9 @@ void IwbWriter::placeBackground(const QDomElement &page) const
 {
     const QString reference =
         page.firstChildElement(QStringLiteral("svg:image")).attribute(QStringLiteral("xlink:href"));
+    if (reference.isEmpty()) {
+        return;
+    }
     const QDir library(m_target.workFolder() + libraryFolder);
     const QStringList files = library.entryList(QDir::Files);
     for (const QString &file : files) {
