@@ -173,6 +173,16 @@ public:
     {
     }
 
+    void expect(int slides, int resources) override
+    {
+        if (qMax(slides, resources) > maximumJsonParts) {
+            throw LessonError(QStringLiteral("The lesson has more than the %1 slides or files that are read from JSON")
+                                  .arg(maximumJsonParts),
+                              QStringLiteral("Write it as a folder, or divide it"))
+                .in(m_target.target());
+        }
+    }
+
     void begin(const QJsonObject &presentation) override
     {
         put("{\n");

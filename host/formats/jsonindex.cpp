@@ -17,8 +17,6 @@ namespace {
 constexpr int maximumDepth = 2000;
 // As deep as Qt's own parser goes, less the brackets that are put around a value.
 constexpr int maximumParsedDepth = 1000;
-// As many as there can be in an archive.
-constexpr int maximumCount = 100000;
 constexpr qint64 pieceSize = qint64(64) * 1024;
 constexpr int fileEnd = -1;
 
@@ -170,8 +168,8 @@ void JsonIndex::scan()
 
 void JsonIndex::checkCount(int count, const char *what)
 {
-    if (count >= maximumCount) {
-        fail(QStringLiteral("The lesson has more than %1 %2").arg(maximumCount).arg(QLatin1String(what)), m_at);
+    if (count >= maximumJsonParts) {
+        fail(QStringLiteral("The lesson has more than %1 %2").arg(maximumJsonParts).arg(QLatin1String(what)), m_at);
     }
 }
 

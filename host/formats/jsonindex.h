@@ -13,6 +13,8 @@ namespace lessonhost {
 
 //! Larger files are refused, and none is written: positions in a text that Qt parses are ints.
 constexpr qint64 maximumJsonSize = qint64(1024) * 1024 * 1024;
+//! Slides, or files: as many as there can be in an archive.
+constexpr int maximumJsonParts = 100000;
 
 //! An object of members in any order, of which the last of a name counts. To insert each by itself takes time for each
 //! pair of them.
