@@ -471,8 +471,8 @@ QPolygonF stretched(QPolygonF points, const QRectF &frame)
 {
     const QRectF own = points.boundingRect();
     for (QPointF &point : points) {
-        const double x = own.width() > 0 ? (point.x() - own.left()) / own.width() : 0;
-        const double y = own.height() > 0 ? (point.y() - own.top()) / own.height() : 0;
+        const double x = own.width() > 0 ? (point.x() - own.left()) / own.width() : 0.5;
+        const double y = own.height() > 0 ? (point.y() - own.top()) / own.height() : 0.5;
         point = QPointF(frame.left() + x * frame.width(), frame.top() + y * frame.height());
     }
     return points;
@@ -505,7 +505,18 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
         for (int i = 1; i < points.size(); ++i) {
             points[i] += points.at(i - 1);
         }
-        return matrix->map(points);
+        if (!saysNothing(item.value("Matrix"))) {
+            return matrix->map(points);
+        }
+        const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
+        if (!angle || angle->size() != 1) {
+            return std::nullopt;
+        }
+        const QPointF center = points.boundingRect().center();
+        QTransform turn = QTransform::fromTranslate(center.x(), center.y());
+        turn.rotateRadians(angle->first());
+        turn.translate(-center.x(), -center.y());
+        return turn.map(points);
     }
     const auto box = numbersOf(item.value("BoundingBox"));
     if (!box || box->size() != 4 || !matrix) {
@@ -718,6 +729,11 @@ private:
         const bool isPlaced = m_road == Road::Drawn || (m_road == Road::Packed && hasMatrix);
         if (isPlaced && isSameDrawing(drawing(keys), drawing(back))) {
             removePlace(place, {}, keys, back);
+        } else if (m_road == Road::Drawn
+                   && (place.type.contains("Normal") || place.type.contains("Parallel")
+                       || place.type == "ZQMath2DAngle")) {
+            // Only the plug-in knows the corners that follow from the box.
+            removePlace(place, "Type", keys, back);
         } else if (m_road != Road::Kept && hasMatrix) {
             // A shape under a matrix is drawn around an origin of its own. For others the lost matrix tells it all.
             removePlace(place, place.type.startsWith("ZQMath2D") ? QString("Type") : QString("Matrix"), keys, back);

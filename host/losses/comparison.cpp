@@ -179,8 +179,11 @@ void Comparison::compareProperties(const LossOwner &owner, const QJsonObject &gi
     Differences differences(m_rules.tolerance);
     for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
         const QString key = it.key();
-        const QString other = otherKey(key);
         QJsonValue value = found.value(key);
+        if (value == it.value()) {
+            continue;
+        }
+        const QString other = otherKey(key);
         if (isNothing(value) && !other.isEmpty()) {
             value = found.value(other);
         }
@@ -188,8 +191,7 @@ void Comparison::compareProperties(const LossOwner &owner, const QJsonObject &gi
             differences.compare(key, key, it.value(), value);
         }
     }
-    const QStringList implied = keysWithImpliedValue();
-    for (const QString &key : implied) {
+    for (const QString &key : keysWithImpliedValue()) {
         if (!given.contains(key) && found.contains(key)) {
             differences.compare(key, key, {}, found.value(key));
         }

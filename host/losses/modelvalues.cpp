@@ -98,15 +98,7 @@ std::optional<QRgb> colorOfObject(const QJsonObject &object)
     return QRgb(solid) | QRgb(qRound(alpha * 255)) << 24;
 }
 
-} // namespace
-
-bool isNothing(const QJsonValue &value)
-{
-    return value.isUndefined() || value.isNull() || (value.isString() && value.toString().isEmpty())
-        || (value.isArray() && value.toArray().isEmpty()) || (value.isObject() && value.toObject().isEmpty());
-}
-
-static const QHash<QString, QString> &impliedValues()
+const QHash<QString, QString> &impliedValues()
 {
     static const QHash<QString, QString> table{
         {QStringLiteral("Visible"), QStringLiteral("1")},          {QStringLiteral("LockIn"), QStringLiteral("0")},
@@ -117,15 +109,24 @@ static const QHash<QString, QString> &impliedValues()
     return table;
 }
 
+} // namespace
+
+bool isNothing(const QJsonValue &value)
+{
+    return value.isUndefined() || value.isNull() || (value.isString() && value.toString().isEmpty())
+        || (value.isArray() && value.toArray().isEmpty()) || (value.isObject() && value.toObject().isEmpty());
+}
+
 QJsonValue impliedValue(const QString &key)
 {
     const auto found = impliedValues().constFind(key);
     return found == impliedValues().constEnd() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(*found);
 }
 
-QStringList keysWithImpliedValue()
+const QStringList &keysWithImpliedValue()
 {
-    return impliedValues().keys();
+    static const QStringList keys = impliedValues().keys();
+    return keys;
 }
 
 QString otherKey(const QString &key)

@@ -18,7 +18,7 @@ bool isNothing(const QJsonValue &value);
 //! What a missing key says; undefined for a key without which nothing is said.
 QJsonValue impliedValue(const QString &key);
 //! The keys without which something is said.
-QStringList keysWithImpliedValue();
+const QStringList &keysWithImpliedValue();
 
 //! The key under which a format has the value that the model may give under this one, such as "resource" for
 //! "MultiMediaFile"; empty for most.
