@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QHash>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPolygonF>
@@ -319,7 +320,8 @@ bool isSame(const QString &key, const QJsonValue &given, const QJsonValue &found
 {
     Differences differences;
     compare({0, {}, {}, road}, key, key, given, found, differences);
-    return differences.isEmpty();
+    return std::all_of(differences.begin(), differences.end(),
+                       [](const Difference &difference) { return difference.isMinor; });
 }
 
 // Calls visit(key, given, found) for each key that the given object has. Of a key that is there twice, one value can
@@ -338,10 +340,9 @@ void eachKey(const Place &place, const QString &way, const QJsonObject &given, c
         } else if (!isSecond) {
             const bool isOtherBack = isSame(key, other, back, place.road);
             visit(key, isOtherBack ? other : it.value(), back);
-            if (!isSame(key, it.value(), other, place.road)) {
-                differences.append({place.slide, place.type, place.id, way + key,
-                                    "one of two: " + shown(isOtherBack ? it.value() : other), shown(back)});
-            }
+            const bool areSame = isSame(key, it.value(), other, place.road);
+            differences.append({place.slide, place.type, place.id, way + key,
+                                "one of two: " + shown(isOtherBack ? it.value() : other), shown(back), areSame});
         }
     }
 }
@@ -362,6 +363,9 @@ void compare(const Place &place, const QString &way, const QString &key, const Q
     }
     const QJsonValue actual = saysNothing(found) && !implied.isEmpty() ? QJsonValue(implied) : found;
     if (isSameLeaf(key, given, actual, place.road)) {
+        if (saysNothing(found)) {
+            differences.append({place.slide, place.type, place.id, way, shown(given), shown(found), true});
+        }
         return;
     }
     if (given.isString() && actual.isArray()) {
@@ -434,15 +438,12 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
         item.isVisible = isSet(item.keys.value("Visible"), true) && (around < 0 || all.at(around).isVisible);
         item.isLocked = isSet(item.keys.value("LockIn"), false) || (around >= 0 && all.at(around).isLocked);
         QJsonArray children;
-        // Elsewhere it is a key as any other.
-        if (isContainer(item.type()) || road == Road::Drawn) {
-            const QJsonValue held = item.keys.value("Children");
-            const QJsonArray list = held.toArray();
-            if (held.isArray()
-                && std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isObject(); })) {
-                children = list;
-                item.keys.remove("Children");
-            }
+        const QJsonValue held = item.keys.value("Children");
+        const QJsonArray list = held.toArray();
+        const auto isItem = [](const QJsonValue &value) { return value.isObject(); };
+        if (held.isArray() && std::all_of(list.begin(), list.end(), isItem)) {
+            children = list;
+            item.keys.remove("Children");
         }
         for (const QJsonValue &child : qAsConst(children)) {
             item.childIds.append(plainText(child.toObject().value("ID")).value_or(QString()));
@@ -629,7 +630,9 @@ private:
             const Item &item = givenItems.at(i);
             const Place place{number, item.type(), item.id(), m_road};
             if (places.at(i) < 0) {
-                m_differences.append({number, item.type(), item.id(), {}, "the item", "nothing"});
+                // An item that no others may be in is told by its key.
+                const bool isOfKey = item.around >= 0 && !isContainer(givenItems.at(item.around).type());
+                m_differences.append({number, item.type(), item.id(), {}, "the item", "nothing", isOfKey});
                 continue;
             }
             if (places.at(i) < last) {
@@ -638,7 +641,7 @@ private:
             }
             last = places.at(i);
             const Item &back = foundItems.at(places.at(i));
-            if (item.childIds != back.childIds && isContainer(item.type())) {
+            if (item.childIds != back.childIds) {
                 m_differences.append(
                     {number, item.type(), item.id(), "Children", item.childIds.join(' '), back.childIds.join(' ')});
             }
@@ -659,6 +662,9 @@ private:
         QSet<int> taken;
         using IsSame = bool (*)(const Item &one, const Item &other);
         const IsSame ways[] = {
+            [](const Item &one, const Item &other) {
+                return !one.id().isEmpty() && one.id() == other.id() && one.type() == other.type();
+            },
             [](const Item &one, const Item &other) { return !one.id().isEmpty() && one.id() == other.id(); },
             [](const Item &one, const Item &other) { return other.id().startsWith(one.id() + '_'); },
             [](const Item &one, const Item &other) { return one.type() == other.type(); },
@@ -708,16 +714,28 @@ private:
         const bool isPaper =
             key == "TextureLineType" && found.value("document").toString().startsWith("ID_SLIDE_NOTEBOOK_");
         if (m_road != Road::Kept && (isWorkedIn(key) || isPaper)) {
+            m_differences.append({place.slide, place.type, place.id, key, shown(given), shown(back), true});
             return;
         }
         compare(place, key, key, given, back, m_differences);
     }
 
-    // A format names files as it needs.
+    // A format names files as it needs, and has its own kinds of pictures.
     bool isSameFile(const QJsonValue &given, const QJsonValue &found) const
     {
-        const QJsonValue file = m_givenFiles.value(given.toString());
-        return given.isString() && file.isString() && file == m_foundFiles.value(found.toString());
+        const QByteArray file = contentOf(m_givenFiles, given);
+        const QByteArray other = contentOf(m_foundFiles, found);
+        if (file.isEmpty() || other.isEmpty() || file == other) {
+            return !file.isEmpty() && file == other;
+        }
+        const QImage picture = QImage::fromData(file).convertToFormat(QImage::Format_ARGB32);
+        return !picture.isNull() && picture == QImage::fromData(other).convertToFormat(QImage::Format_ARGB32);
+    }
+
+    static QByteArray contentOf(const QJsonObject &files, const QJsonValue &reference)
+    {
+        return reference.isString() ? QByteArray::fromBase64(files.value(reference.toString()).toString().toLatin1())
+                                    : QByteArray();
     }
 
     void itemKeys(const Place &place, const Item &given, const Item &found)
@@ -870,8 +888,10 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
             continue;
         }
         const bool isRow = given.tagName() == "property" && name == "value" && isColor(given.attribute("name"));
-        compareText(place, way + '@' + name, isRow ? "Color" : name, attributes.item(i).nodeValue(),
-                    found.attribute(name), differences);
+        // An attribute says what its name says in its place only.
+        const bool isInPlace = found.hasAttribute(name) || way == (name == "angle" ? "transform/rotate" : "");
+        const QString key = isRow ? "Color" : isInPlace ? name : QString();
+        compareText(place, way + '@' + name, key, attributes.item(i).nodeValue(), found.attribute(name), differences);
     }
     const QDomNamedNodeMap others = found.attributes();
     for (int i = 0; i < others.count(); ++i) {
@@ -881,15 +901,17 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
         }
     }
     compareText(place, way, {}, ownText(given), ownText(found), differences);
-    if (attributes.isEmpty() && !given.hasChildNodes()) {
+    if (attributes.isEmpty() && given.firstChildElement().isNull() && ownText(given).isEmpty()) {
         differences.append({place.slide, place.type, place.id, way, "an element", "nothing", true});
     }
     QHash<QString, int> counts;
     for (QDomElement child = given.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const QDomElement other = counterpart(child, found, counts);
         if (isItem(child)) {
-            compareElements({place.slide, child.attribute("type"), child.attribute("id"), place.road}, {}, child, other,
-                            differences);
+            // Types have other names in the model.
+            const QString id = child.attribute("id");
+            compareElements({place.slide, id.isEmpty() ? QString() : child.attribute("type"), id, place.road}, {},
+                            child, other, differences);
         } else {
             compareElements(place, way.isEmpty() ? child.tagName() : way + '/' + child.tagName(), child, other,
                             differences);
@@ -899,11 +921,9 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
 
 } // namespace
 
-bool isSameInModel(const QString &type, const QString &key, const QJsonValue &given, const QJsonValue &found, Road road)
+bool isSameInModel(const QString &key, const QJsonValue &given, const QJsonValue &found, Road road)
 {
-    Differences differences;
-    compare({0, type, {}, road}, key, key, given, found, differences);
-    return differences.isEmpty();
+    return isSame(key, given, found, road);
 }
 
 QVector<Difference> lessonDifferences(const QJsonObject &given, const QJsonObject &found, Road road)

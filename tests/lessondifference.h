@@ -31,9 +31,8 @@ enum class Road {
 //! Two lessons in the model. What is new in the found one is no difference, unless it says otherwise than its absence.
 QVector<Difference> lessonDifferences(const QJsonObject &given, const QJsonObject &found, Road road);
 
-//! Two values of a key in the model, in any form that says the same. type may be empty.
-bool isSameInModel(const QString &type, const QString &key, const QJsonValue &given, const QJsonValue &found,
-                   Road road);
+//! Two values of a key in the model, in any form that says the same.
+bool isSameInModel(const QString &key, const QJsonValue &given, const QJsonValue &found, Road road);
 
 //! Two documents of a slide or a presentation.
 QVector<Difference> documentDifferences(int slide, const QDomElement &given, const QDomElement &found);

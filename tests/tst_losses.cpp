@@ -134,7 +134,7 @@ bool isLoss(const Loss &loss)
 // The key of the item that holds a value, or the place of a value in XML but for the numbers of its steps.
 QString keyOf(const QString &way)
 {
-    static const QRegularExpression numbers("\\[[^\\]]*\\]");
+    static const QRegularExpression numbers("\\[.*?\\](?=[/@]|$)");
     const bool isPlace = way.contains('@') || way.contains('/');
     return isPlace ? QString(way).remove(numbers) : way.section('.', 0, 0).section('[', 0, 0);
 }
@@ -187,8 +187,10 @@ QVector<Failure> disagreements(const QString &step, const QVector<Difference> &d
         }
     }
     for (const Loss &loss : report.entries()) {
-        const bool isTrue = std::any_of(differences.begin(), differences.end(),
-                                        [&loss](const Difference &difference) { return tells(loss, difference); });
+        const bool isTrue = std::any_of(differences.begin(), differences.end(), [&loss](const Difference &difference) {
+            // Of an item that isn't there, everything is lost.
+            return tells(loss, difference) || (difference.key.isEmpty() && isOfSameItem(loss, difference));
+        });
         if (isLoss(loss) && !isTrue) {
             failures.append({step + "false alarm", asDifference(loss), report});
         }
@@ -365,7 +367,7 @@ void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonOb
         const QString name = attributes.item(i).nodeName();
         const QString key = name == "NetID" ? "ID" : name;
         const QString text = attributes.item(i).nodeValue();
-        if (!isSameInModel(element.tagName(), key, text, found.value(key), Road::Kept)) {
+        if (!isSameInModel(key, text, found.value(key), Road::Kept)) {
             // References get the lesson's own folder.
             differences.append({slide, element.tagName(), element.attribute("NetID"), '@' + name, text,
                                 toText(QJsonObject{{key, found.value(key)}}), name == "AttachFile"});
@@ -424,8 +426,7 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
         const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key)
             : known.isEmpty() && place.path.size() > 1      ? QJsonValue(QJsonValue::Undefined)
                                                             : item.value(key);
-        const bool isSame =
-            isSameInModel(element.tagName(), key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed);
+        const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed);
         // What is there twice may be told once.
         const bool isRepeated = seen.contains(place.path);
         const bool isMinor = isSame || place.text.isEmpty() || workedOut.contains(key) || found.size() > 1;
