@@ -1,3 +1,4 @@
+#include "iwb/textrunloan.h"
 #include "lesson/textruns.h"
 #include "pluginfixture.h"
 

@@ -2,7 +2,7 @@
 #define BATCHPLAN_H
 
 #include "files/inputguard.h"
-#include "lesson/lesson.h"
+#include "formats/lessonformats.h"
 
 #include <QVector>
 

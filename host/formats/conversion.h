@@ -1,7 +1,7 @@
 #ifndef CONVERSION_H
 #define CONVERSION_H
 
-#include "lesson/lesson.h"
+#include "formats/lessonformats.h"
 
 namespace lessonhost {
 

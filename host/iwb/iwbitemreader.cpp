@@ -1,5 +1,6 @@
 #include "iwb/iwbitemreader.h"
 
+#include "iwb/textrunloan.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"

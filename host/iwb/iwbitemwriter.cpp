@@ -3,6 +3,7 @@
 #include "files/pictures.h"
 #include "iwb/iwbmedia.h"
 #include "iwb/shapeplacing.h"
+#include "iwb/textrunloan.h"
 #include "izqtransformation.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"

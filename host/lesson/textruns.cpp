@@ -6,7 +6,6 @@
 
 #include <QFont>
 #include <QMap>
-#include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -16,9 +15,6 @@
 namespace lessonhost {
 
 namespace {
-
-const QLatin1String listKey("IWB_TEXTINFO-VECTOR");
-const QLatin1String destroyerKey("IWB_TEXTINFO-DELVECTOR");
 
 // The weight as style sheets of text documents write it: eight times the font's.
 QString htmlWeight(const QString &svg)
@@ -301,24 +297,6 @@ QString paragraphHtml(const Paragraph &paragraph)
     return start + QLatin1String("\">") + paragraph.spans + QLatin1String("</p>");
 }
 
-QSet<void *> &lentLists()
-{
-    static QSet<void *> lists;
-    return lists;
-}
-
-void destroyLentList(void *list)
-{
-    if (lentLists().remove(list)) {
-        delete static_cast<IwbTextInfoList *>(list);
-    }
-}
-
-quintptr addressIn(const QJsonObject &item, QLatin1String key)
-{
-    return quintptr(item.value(key).toString().toULongLong());
-}
-
 } // namespace
 
 TextRuns textRunsFromHtml(const QString &html)
@@ -375,45 +353,6 @@ QString withoutControlCharacters(const QString &text, int *dropped)
         }
     }
     return clean;
-}
-
-TextRunLoan::TextRunLoan(QJsonObject &item, const IwbTextInfoList &runs)
-    : m_list(new IwbTextInfoList(runs))
-{
-    lentLists().insert(m_list);
-    IwbTextInfoListDeleter destroyer = destroyLentList;
-    item.insert(listKey, QString::number(quintptr(m_list)));
-    item.insert(destroyerKey, QString::number(quintptr(destroyer)));
-}
-
-TextRunLoan::~TextRunLoan()
-{
-    destroyLentList(m_list);
-}
-
-int TextRunLoan::liveLists()
-{
-    return lentLists().size();
-}
-
-std::optional<IwbTextInfoList> takeTextRuns(QJsonObject &item)
-{
-    const quintptr listAddress = addressIn(item, listKey);
-    const quintptr destroyerAddress = addressIn(item, destroyerKey);
-    item.remove(listKey);
-    item.remove(destroyerKey);
-    if (!listAddress) {
-        return std::nullopt;
-    }
-    // The plug-in hands over the list and what frees it as addresses. NOLINTBEGIN(performance-no-int-to-ptr)
-    auto *list = reinterpret_cast<IwbTextInfoList *>(listAddress);
-    const auto destroy = reinterpret_cast<IwbTextInfoListDeleter>(destroyerAddress);
-    // NOLINTEND(performance-no-int-to-ptr)
-    const IwbTextInfoList runs = *list;
-    if (destroy) {
-        destroy(list);
-    }
-    return runs;
 }
 
 } // namespace lessonhost

@@ -3,17 +3,14 @@
 
 #include "iwbtextinfo.h"
 
-#include <QJsonObject>
 #include <QString>
 #include <QStringList>
-
-#include <optional>
 
 namespace lessonhost {
 
 /*!
- * Text boards hold HTML, IWB text areas hold runs of equally formatted text. These functions turn one into the other
- * and carry lists of runs across the plug-in's interface.
+ * Text boards hold HTML, IWB text areas hold runs of equally formatted text. These functions turn one into the
+ * other.
  *
  * A run keeps family, size (pixels), weight, slant, underline and strike-out, colour, and the alignment of its
  * paragraph; beside it stands whether its letters are sub- or superscript. "\n" in the text of a run ends a paragraph,
@@ -41,28 +38,6 @@ QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts 
 
 //! text without the characters that XML can't hold (most control characters, halves of surrogate pairs).
 QString withoutControlCharacters(const QString &text, int *dropped = nullptr);
-
-/*!
- * Lends a list of runs to the plug-in: puts the address of a copy and of its destroyer into a text item. The plug-in
- * destroys what it has written; what it left is destroyed with the loan.
- */
-class TextRunLoan
-{
-public:
-    TextRunLoan(QJsonObject &item, const IwbTextInfoList &runs);
-    ~TextRunLoan();
-    TextRunLoan(const TextRunLoan &) = delete;
-    TextRunLoan &operator=(const TextRunLoan &) = delete;
-
-    //! Lists that are lent out and alive at this moment.
-    static int liveLists();
-
-private:
-    IwbTextInfoList *m_list;
-};
-
-//! Copies the list that the plug-in put into an item, destroys the plug-in's, and removes both keys from the item.
-std::optional<IwbTextInfoList> takeTextRuns(QJsonObject &item);
 
 } // namespace lessonhost
 
