@@ -216,7 +216,7 @@ std::optional<QColor> opaqueColor(const QString &text)
 }
 
 // Whatever was in front of the names, and whichever sign stood between them.
-QStringList fileNames(QString text)
+QStringList fileNames(const QString &text)
 {
     const QLatin1Char separator(text.contains(QLatin1Char('|')) ? '|' : text.contains(QLatin1Char(';')) ? ';' : ',');
     QStringList files = text.split(separator);

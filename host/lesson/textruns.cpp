@@ -20,7 +20,7 @@ namespace {
 QString htmlWeight(const QString &svg)
 {
     bool isNumber = false;
-    svg.toInt(&isNumber);
+    Q_UNUSED(svg.toInt(&isNumber))
     return isNumber ? QString::number(fontWeight(svg) * 8) : fontWeightText(fontWeight(svg));
 }
 
