@@ -8,7 +8,10 @@
 #include "files/workfolder.h"
 #include "formats/jsonindex.h"
 #include "lesson/itemkeys.h"
+#include "lesson/itemtypes.h"
+#include "lesson/itemvalues.h"
 #include "lesson/slidelimits.h"
+#include "losses/comparison.h"
 #include "losses/jsontext.h"
 #include "losses/lossreport.h"
 
@@ -128,22 +131,27 @@ private:
         m_context.losses->add({Loss::Value, slide, type, id, key, QString::fromUtf8(value.left(longestDetail))});
     }
 
-    // A value within an item is that item's own.
+    // A value within an item is that item's own. What other items than containers have in the place of children is a
+    // value as any other.
     void tellOfSlide(int number, const LessonSlide &slide, const JsonPath &path, const QByteArray &value)
     {
         QJsonObject item;
         int step = 0;
         QJsonArray items = slide.items;
-        QByteArray list = QByteArrayLiteral("Items");
-        while (step + 2 < path.size() && path.at(step).name == list) {
+        QLatin1String list = itemsKey;
+        while (step + 2 < path.size() && path.at(step).name == list.data()) {
             item = items.at(path.at(step + 1).index).toObject();
-            items = item.value(HostKeys::children).toArray();
-            list = QByteArrayLiteral("Children");
             step += 2;
+            const QJsonValue children = item.value(HostKeys::children);
+            if (!isContainer(item.value(ItemKeys::type).toString()) || !isListOfObjects(children)) {
+                break;
+            }
+            items = children.toArray();
+            list = HostKeys::children;
         }
         const QJsonObject owner = step > 0 ? item : slide.properties;
-        const QString type = step > 0 ? item.value(QLatin1String("Type")).toString() : QStringLiteral("slide");
-        tell(number, type, owner.value(QLatin1String("ID")).toString(), jsonPathText(path, step), value);
+        const QString type = step > 0 ? item.value(ItemKeys::type).toString() : QStringLiteral("slide");
+        tell(number, type, valueText(owner.value(ItemKeys::id)), jsonPathText(path, step), value);
     }
 
     LessonContext m_context;

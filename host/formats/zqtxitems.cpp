@@ -22,6 +22,8 @@ namespace {
 
 const QLatin1String typeKey("Type");
 const QString typeAttribute = QStringLiteral("type");
+const QString idAttribute = QStringLiteral("id");
+const QString rawIdAttribute = QStringLiteral("NetID");
 const QLatin1String attachmentsTag("attachments");
 const QLatin1String errorKey("error");
 const QLatin1String strokeKey("XY");
@@ -261,7 +263,8 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
             data.appendChild(child);
         }
         const QString type = element.attribute(QStringLiteral("type"));
-        return keptItem(element, type.isEmpty() ? element.tagName() : type, QStringLiteral("id"));
+        const bool isRaw = element.hasAttribute(rawIdAttribute) && !element.hasAttribute(idAttribute);
+        return keptItem(element, type.isEmpty() ? element.tagName() : type, isRaw ? rawIdAttribute : idAttribute);
     }
     if (check) {
         compare(item, untouched, writeSingle(item), *check);

@@ -154,14 +154,21 @@ QJsonObject withOpacityInColor(QJsonObject item, const QJsonObject &found)
     return item;
 }
 
+} // namespace
+
+bool saysAllOf(const QString &key, const QJsonValue &given, const QJsonValue &found)
+{
+    Differences differences(0);
+    differences.compare(key, key, given, found);
+    return differences.all().isEmpty();
+}
+
 bool isListOfObjects(const QJsonValue &value)
 {
     const QJsonArray array = value.toArray();
     return value.isArray()
         && std::all_of(array.constBegin(), array.constEnd(), [](const QJsonValue &item) { return item.isObject(); });
 }
-
-} // namespace
 
 Comparison::Comparison(const SlideLosses &losses)
     : Comparison(losses, Rules())

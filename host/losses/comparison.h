@@ -40,6 +40,12 @@ private:
     Rules m_rules;
 };
 
+//! True if the found value of a key says all that the given one does.
+bool saysAllOf(const QString &key, const QJsonValue &given, const QJsonValue &found);
+
+//! True for a list of objects and nothing else, such as items.
+bool isListOfObjects(const QJsonValue &value);
+
 } // namespace lessonhost
 
 #endif // COMPARISON_H

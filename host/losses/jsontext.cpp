@@ -1,5 +1,7 @@
 #include "losses/jsontext.h"
 
+#include "losses/comparison.h"
+
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -82,6 +84,11 @@ QByteArray plainName(const QByteArray &text)
         return text;
     }
     return QJsonDocument::fromJson("[\"" + text + "\"]").array().at(0).toString().toUtf8();
+}
+
+QJsonValue parsed(const QByteArray &text)
+{
+    return QJsonDocument::fromJson('[' + text + ']').array().at(0);
 }
 
 class JsonScan
@@ -194,8 +201,12 @@ private:
         Member &member = level.members.last();
         member.end = m_at;
         const int before = memberBefore(level);
-        if (before >= 0 && textOf(level.members.at(before)) != textOf(member)) {
-            m_visit(m_path, textOf(level.members.at(before)));
+        if (before >= 0) {
+            const QByteArray dropped = textOf(level.members.at(before));
+            const QByteArray stays = textOf(member);
+            if (dropped != stays && !saysAllOf(QString::fromUtf8(member.name), parsed(dropped), parsed(stays))) {
+                m_visit(m_path, dropped);
+            }
         }
         m_path.last().name = QByteArray();
     }

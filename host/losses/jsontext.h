@@ -21,7 +21,8 @@ struct JsonStep
 using JsonPath = QVector<JsonStep>;
 
 //! Calls visit for each value that stands in a JSON text and not in what is parsed of it: all but the last of those
-//! that have one name in one object, and numbers of more digits than a double has. value: its text. What is no JSON is
+//! that have one name in one object, unless the next one says the same, and numbers of more digits than a double has.
+//! value: its text. What is no JSON is
 //! looked through as far as it goes.
 void eachUnheldValue(const QByteArray &json,
                      const std::function<void(const JsonPath &path, const QByteArray &value)> &visit);
