@@ -237,6 +237,39 @@ QVector<double> itemNumbers(const QJsonValue &value)
     return numbers;
 }
 
+std::optional<QVector<double>> wholeNumbers(const QJsonValue &value)
+{
+    QVector<double> numbers;
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        numbers.reserve(array.size());
+        for (const QJsonValue &number : array) {
+            if (!number.isDouble()) {
+                return std::nullopt;
+            }
+            numbers.append(number.toDouble());
+        }
+        return numbers;
+    }
+    if (value.isObject() || value.isNull() || value.isUndefined()) {
+        return std::nullopt;
+    }
+    const QString text = valueText(value);
+    QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
+    if (parts.size() > 1 && parts.last().isEmpty()) {
+        parts.removeLast();
+    }
+    numbers.reserve(parts.size());
+    for (const QStringRef &part : qAsConst(parts)) {
+        bool isNumber = false;
+        numbers.append(part.toDouble(&isNumber));
+        if (!isNumber || !qIsFinite(numbers.last())) {
+            return std::nullopt;
+        }
+    }
+    return numbers;
+}
+
 QPolygonF pointsOf(const QVector<double> &numbers)
 {
     QPolygonF points;

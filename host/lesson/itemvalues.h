@@ -36,6 +36,9 @@ double itemNumber(const QJsonValue &value, double missing = 0);
 //! The numbers of a value: an array, or a text with commas between. A part that is no number counts as 0.
 QVector<double> itemNumbers(const QJsonValue &value);
 
+//! The same. Nothing where a part is no number or none that ends; a comma at the end of a text stands before none.
+std::optional<QVector<double>> wholeNumbers(const QJsonValue &value);
+
 //! The colour of a value: an object with Solid (0xRRGGBB, whatever stands before it) and Alpha (0 to 1), or a text
 //! a,r,g,b or r,g,b or a name, such as #aarrggbb. Nothing for an empty or other value.
 std::optional<QColor> itemColor(const QJsonValue &value);

@@ -16,6 +16,26 @@ namespace lessonhost {
 
 namespace {
 
+// A missing value is as good as a whole one.
+bool isWhole(const QJsonObject &item, QLatin1String key, bool (*isCount)(int count))
+{
+    const QJsonValue value = item.value(key);
+    const auto numbers = wholeNumbers(value);
+    return isEmptyValue(value) || (numbers && isCount(numbers->size()));
+}
+
+// Wrong values would become good ones in silence.
+bool hasWholePlace(const QJsonObject &item)
+{
+    const auto isOne = [](int count) { return count == 1; };
+    const auto arePairs = [](int count) { return count % 2 == 0; };
+    const bool isShape = shapeForm(item.value(ItemKeys::type).toString()) != nullptr;
+    return isWhole(item, ItemKeys::matrix, [](int count) { return count == 6; })
+        && isWhole(item, ItemKeys::box, [](int count) { return count == 4; }) && isWhole(item, ItemKeys::width, isOne)
+        && isWhole(item, ItemKeys::steps, arePairs)
+        && (!isShape || (isWhole(item, ItemKeys::control, arePairs) && isWhole(item, ItemKeys::polyline, arePairs)));
+}
+
 bool isPlain(const QTransform &matrix)
 {
     const auto parts = scaleAndTurn(matrix);
@@ -133,7 +153,7 @@ bool placeItem(QJsonObject &item, const QTransform &matrix, const OutlineSource 
     if (const ShapeForm *form = shapeForm(view.type())) {
         return placeDrawing(item, *form, matrix, outlines);
     }
-    if (view.has(ItemKeys::steps)) {
+    if (view.has(ItemKeys::steps) && !isContainer(view.type())) {
         if (view.points(ItemKeys::steps).isEmpty()) {
             return matrix.isIdentity();
         }
@@ -153,7 +173,8 @@ void makeHtml(QJsonObject &item)
     const auto plainKeys = {ItemKeys::text, ItemKeys::textContent};
     for (const QLatin1String key : plainKeys) {
         const QString text = view.text(key);
-        if (text.isEmpty()) {
+        const QJsonValue value = item.value(key);
+        if (text.isEmpty() || value.isObject() || value.isArray()) {
             continue;
         }
         IwbTextInfoList runs = textRunsFromPlainText(text).runs;
@@ -191,7 +212,7 @@ void placeGroup(QJsonObject &group, const OutlineSource &outlines, int &placed)
         group.insert(ItemKeys::box, boxText(all));
     }
     const auto matrix = itemTransform(group.value(ItemKeys::matrix));
-    if (matrix && matrix->isIdentity()) {
+    if (matrix && matrix->isIdentity() && hasWholePlace(group)) {
         group.remove(ItemKeys::matrix);
     }
 }
@@ -207,7 +228,7 @@ QJsonObject itemInPageForm(QJsonObject item, const OutlineSource &outlines, int 
     }
     const auto matrix = itemTransform(item.value(ItemKeys::matrix));
     item.remove(ItemKeys::slideMatrix); // its part in the matrix
-    if (matrix && placeItem(item, *matrix, outlines)) {
+    if (matrix && hasWholePlace(item) && placeItem(item, *matrix, outlines)) {
         item.remove(ItemKeys::matrix);
         ++placed;
     }

@@ -11,7 +11,7 @@ namespace lessonhost {
  *
  * Packages know no matrix: an item stands in its box, turned about its centre by Angle. Their media have a resource,
  * their texts are HTML, the background of a page is a color and a document. What has no such form, a slanted picture
- * for instance, keeps its own keys.
+ * for instance, or has a wrong value in its place, keeps its own keys.
  *
  * placed is increased by the items whose Matrix was worked into their box, turn or points.
  */

@@ -170,39 +170,6 @@ bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &
     return color && color == wholeColor(found);
 }
 
-std::optional<QVector<double>> wholeNumbers(const QJsonValue &value)
-{
-    QVector<double> numbers;
-    if (value.isArray()) {
-        const QJsonArray array = value.toArray();
-        numbers.reserve(array.size());
-        for (const QJsonValue &number : array) {
-            if (!number.isDouble()) {
-                return std::nullopt;
-            }
-            numbers.append(number.toDouble());
-        }
-        return numbers;
-    }
-    const auto text = plainText(value);
-    if (!text) {
-        return std::nullopt;
-    }
-    QVector<QStringRef> parts = text->splitRef(QLatin1Char(','));
-    if (parts.size() > 1 && parts.last().isEmpty()) {
-        parts.removeLast();
-    }
-    numbers.reserve(parts.size());
-    for (const QStringRef &part : qAsConst(parts)) {
-        bool isNumber = false;
-        numbers.append(part.toDouble(&isNumber));
-        if (!isNumber || !qIsFinite(numbers.last())) {
-            return std::nullopt;
-        }
-    }
-    return numbers;
-}
-
 std::optional<QRgb> wholeColor(const QJsonValue &value)
 {
     if (value.isObject()) {

@@ -1,6 +1,8 @@
 #ifndef MODELVALUES_H
 #define MODELVALUES_H
 
+#include "lesson/itemvalues.h"
+
 #include <QColor>
 #include <QJsonValue>
 #include <QString>
@@ -27,9 +29,6 @@ QString otherKey(const QString &key);
 //! True for two values that say the same: texts, numbers and flags with the same text, numbers where the key's texts
 //! are numbers, colours where it holds one. tolerance: how much numbers may differ, in parts of them.
 bool isSameValue(const QString &key, const QJsonValue &given, const QJsonValue &found, double tolerance = 0);
-
-//! The numbers of a list or of a text with commas between. Nothing where one of them is none.
-std::optional<QVector<double>> wholeNumbers(const QJsonValue &value);
 
 //! A colour of which nothing is more or other than a colour says.
 std::optional<QRgb> wholeColor(const QJsonValue &value);
