@@ -1,6 +1,7 @@
 #include "lessondifference.h"
 
 #include "pluginfixture.h"
+#include "randomlesson.h"
 
 #include <QColor>
 #include <QHash>
@@ -88,7 +89,7 @@ std::optional<QString> plainText(const QJsonValue &value)
 {
     switch (value.type()) {
     case QJsonValue::String:
-        return value.toString().startsWith('\v') ? value.toString().mid(1) : value.toString();
+        return value.toString();
     case QJsonValue::Double: {
         const QVariant number = value.toVariant();
         return number.type() == QVariant::LongLong ? number.toString() : numberText(value.toDouble());
@@ -288,9 +289,6 @@ bool isSameLeaf(const QString &key, const QJsonValue &given, const QJsonValue &f
     if (one && other && *one == *other) {
         return true;
     }
-    if (given.toString().startsWith('\v')) {
-        return false; // of so many digits each counts
-    }
     // A number in JSON is one in any text form; a text is so only where texts are numbers.
     const double tolerance = road == Road::Drawn ? 1e-4 : 0;
     const bool isNumber = given.isDouble() || found.isDouble() || isNumeric(key) || isFlag(key);
@@ -324,26 +322,26 @@ bool isSame(const QString &key, const QJsonValue &given, const QJsonValue &found
                        [](const Difference &difference) { return difference.isMinor; });
 }
 
-// Calls visit(key, given, found) for each key that the given object has. Of a key that is there twice, one value can
-// come back; the other is a difference.
-template <typename Visit>
-void eachKey(const Place &place, const QString &way, const QJsonObject &given, const QJsonObject &found,
-             Differences &differences, const Visit &visit)
+// What a parser drops: the first of two values of a key, and digits that a double doesn't have.
+void unheldDifferences(const Place &place, const QString &way, const QJsonValue &value, Differences &differences)
 {
-    for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
-        const bool isSecond = it.key().endsWith('\a');
+    if (value.toString().startsWith(numberMark)) {
+        differences.append({place.slide, place.type, place.id, way, shown(value), "less"});
+    }
+    const QJsonArray array = value.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        unheldDifferences(place, way + '[' + QString::number(i) + ']', array.at(i), differences);
+    }
+    const QJsonObject object = value.toObject();
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        const bool isSecond = it.key().endsWith(sameKeyMark);
         const QString key = isSecond ? it.key().chopped(1) : it.key();
-        const QJsonValue back = found.value(key);
-        const QJsonValue other = given.value(isSecond ? key : key + '\a');
-        if (other.isUndefined()) {
-            visit(key, it.value(), back);
-        } else if (!isSecond) {
-            const bool isOtherBack = isSame(key, other, back, place.road);
-            visit(key, isOtherBack ? other : it.value(), back);
-            const bool areSame = isSame(key, it.value(), other, place.road);
-            differences.append({place.slide, place.type, place.id, way + key,
-                                "one of two: " + shown(isOtherBack ? it.value() : other), shown(back), areSame});
+        const QString inner = way.isEmpty() ? key : way + '.' + key;
+        if (isSecond && object.contains(key) && !isSame(key, object.value(key), it.value(), Road::Packed)) {
+            differences.append({place.slide, place.type, place.id, inner, "one of two: " + shown(object.value(key)),
+                                shown(it.value())});
         }
+        unheldDifferences(place, inner, it.value(), differences);
     }
 }
 
@@ -376,10 +374,10 @@ void compare(const Place &place, const QString &way, const QString &key, const Q
     }
     if (given.isObject() && actual.isObject()) {
         const QString inner = way.isEmpty() ? way : way + '.';
-        eachKey(place, inner, given.toObject(), actual.toObject(), differences,
-                [&](const QString &name, const QJsonValue &one, const QJsonValue &other) {
-                    compare(place, inner + name, name, one, other, differences);
-                });
+        const QJsonObject one = given.toObject();
+        for (auto it = one.constBegin(); it != one.constEnd(); ++it) {
+            compare(place, inner + it.key(), it.key(), it.value(), actual.toObject().value(it.key()), differences);
+        }
         return;
     }
     if (given.isArray() && actual.isArray()) {
@@ -396,6 +394,20 @@ void compare(const Place &place, const QString &way, const QString &key, const Q
 
 // ---- Items ---------------------------------------------------------------------------------------------------------
 
+// As a parser reads it, and as it is written. A list of numbers is their text.
+QString idText(const QJsonValue &id)
+{
+    if (id.toString().startsWith(numberMark)) {
+        return *plainText(id.toString().mid(1).toDouble());
+    }
+    QStringList numbers;
+    const QVector<double> list = id.isArray() ? numbersOf(id).value_or(QVector<double>()) : QVector<double>();
+    for (const double number : list) {
+        numbers.append(numberText(number));
+    }
+    return plainText(id).value_or(numbers.join(','));
+}
+
 struct Item
 {
     QJsonObject keys; // without its items
@@ -405,7 +417,7 @@ struct Item
     bool isLocked = false;
     bool isAroundPlaced = false; // around items with a matrix, which its own box follows
 
-    QString id() const { return plainText(keys.value("ID")).value_or(QString()); }
+    QString id() const { return idText(keys.value("ID")); }
     QString type() const { return keys.value("Type").toString(); }
 };
 
@@ -446,12 +458,49 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
             item.keys.remove("Children");
         }
         for (const QJsonValue &child : qAsConst(children)) {
-            item.childIds.append(plainText(child.toObject().value("ID")).value_or(QString()));
+            item.childIds.append(idText(child.toObject().value("ID")));
         }
         item.isAroundPlaced = hasMatrix(children);
         all.append(item);
         collect(children, all.size() - 1, road, all);
     }
+}
+
+QJsonArray childItems(const QJsonObject &item)
+{
+    const QJsonValue held = item.value("Children");
+    const QJsonArray list = held.toArray();
+    const bool areItems = std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isObject(); });
+    return areItems ? list : QJsonArray();
+}
+
+// Of items, and of those that containers hold. Elsewhere children are a value as any other.
+void unheldDifferencesOfItems(int slide, const QJsonArray &items, Differences &differences)
+{
+    for (const QJsonValue &value : items) {
+        QJsonObject item = value.toObject();
+        const Place place{slide, item.value("Type").toString(), idText(item.value("ID")), Road::Kept};
+        const QJsonArray children = isContainer(place.type) ? childItems(item) : QJsonArray();
+        if (!children.isEmpty()) {
+            item.remove("Children");
+        }
+        unheldDifferences(place, {}, item, differences);
+        unheldDifferencesOfItems(slide, children, differences);
+    }
+}
+
+Differences unheldDifferencesOfLesson(QJsonObject lesson)
+{
+    Differences differences;
+    const QJsonArray slides = lesson.take("Slides").toArray();
+    unheldDifferences({0, "presentation", {}, Road::Kept}, {}, lesson, differences);
+    for (int i = 0; i < slides.size(); ++i) {
+        QJsonObject slide = slides.at(i).toObject();
+        const QJsonArray items = slide.take("Items").toArray();
+        unheldDifferences({i + 1, "slide", idText(slide.value("ID")), Road::Kept}, {}, slide, differences);
+        unheldDifferencesOfItems(i + 1, items, differences);
+    }
+    return differences;
 }
 
 // Nothing unless they are numbers in pairs.
@@ -501,7 +550,7 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
     const QString type = item.value("Type").toString();
     const auto matrix = matrixOf(item.value("Matrix"));
     const auto line = pointsOf(item.value("XY"));
-    if (matrix && line && type.contains("Stroke")) {
+    if (matrix && line && type.contains("Stroke") && !isContainer(type)) {
         QPolygonF points = *line;
         for (int i = 1; i < points.size(); ++i) {
             points[i] += points.at(i - 1);
@@ -519,11 +568,12 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
         turn.translate(-center.x(), -center.y());
         return turn.map(points);
     }
-    const auto box = numbersOf(item.value("BoundingBox"));
+    const auto box =
+        numbersOf(item.value(saysNothing(item.value("BoundingBox")) ? otherName("BoundingBox") : "BoundingBox"));
     if (!box || box->size() != 4 || !matrix) {
         return std::nullopt;
     }
-    const QRectF frame(QPointF(box->at(0), box->at(1)), QPointF(box->at(2), box->at(3)));
+    const QRectF frame = QRectF(QPointF(box->at(0), box->at(1)), QPointF(box->at(2), box->at(3))).normalized();
     QPolygonF points;
     points << frame.topLeft() << frame.topRight() << frame.bottomRight() << frame.bottomLeft();
     if (hasOwnPoints(type)) {
@@ -618,8 +668,7 @@ private:
 
     void slide(int number, const QJsonObject &given, const QJsonObject &found)
     {
-        properties({number, "slide", plainText(given.value("ID")).value_or(QString()), m_road},
-                   without(given, {"Items"}), found);
+        properties({number, "slide", idText(given.value("ID")), m_road}, without(given, {"Items"}), found);
         QVector<Item> givenItems;
         QVector<Item> foundItems;
         collect(given.value("Items").toArray(), -1, m_road, givenItems);
@@ -684,10 +733,11 @@ private:
 
     void properties(const Place &place, const QJsonObject &given, const QJsonObject &found)
     {
-        eachKey(place, {}, given, found, m_differences,
-                [&](const QString &key, const QJsonValue &one, const QJsonValue &) { value(place, key, one, found); });
+        for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
+            value(place, it.key(), it.value(), found);
+        }
         for (auto it = found.constBegin(); it != found.constEnd(); ++it) {
-            if (!given.contains(it.key()) && !given.contains(it.key() + '\a')) {
+            if (!given.contains(it.key())) {
                 compare(place, it.key(), it.key(), {}, it.value(), m_differences);
             }
         }
@@ -744,7 +794,7 @@ private:
         QJsonObject back = found.keys;
         const auto matrix = matrixOf(keys.value("Matrix"));
         const bool hasMatrix = !saysNothing(keys.value("Matrix")) && matrix && !matrix->isIdentity();
-        const bool isPlaced = m_road == Road::Drawn || (m_road == Road::Packed && hasMatrix);
+        const bool isPlaced = m_road == Road::Drawn || (m_road == Road::Packed && !saysNothing(keys.value("Matrix")));
         if (isPlaced && isSameDrawing(drawing(keys), drawing(back))) {
             removePlace(place, {}, keys, back);
         } else if (m_road == Road::Drawn
@@ -752,9 +802,20 @@ private:
                        || place.type == "ZQMath2DAngle")) {
             // Only the plug-in knows the corners that follow from the box.
             removePlace(place, "Type", keys, back);
-        } else if (m_road != Road::Kept && hasMatrix) {
+        } else if (m_road != Road::Kept
+                   && (hasMatrix || (place.type.startsWith("ZQMath2D") && !saysNothing(keys.value("Matrix"))))) {
             // A shape under a matrix is drawn around an origin of its own. For others the lost matrix tells it all.
             removePlace(place, place.type.startsWith("ZQMath2D") ? QString("Type") : QString("Matrix"), keys, back);
+        }
+        // Ink under a matrix is as much wider as its points are farther apart.
+        const auto width = numbersOf(keys.value("Width"));
+        const auto widthBack = numbersOf(back.value("Width"));
+        if (m_road == Road::Packed && hasMatrix && width && width->size() == 1 && pointsOf(keys.value("XY"))
+            && widthBack) {
+            const double wide = width->first() * std::sqrt(std::fabs(matrix->determinant()));
+            if (std::fabs(widthBack->first() - wide) <= 1e-9 * wide) {
+                keys.remove("Width");
+            }
         }
         if (m_road == Road::Drawn) {
             if (given.isVisible == found.isVisible && isFlagValue(keys.value("Visible"))) {
@@ -770,6 +831,8 @@ private:
             }
         }
         if (m_road != Road::Kept && given.isAroundPlaced) {
+            // It is worked out anew only where the matrices are of use.
+            m_differences.append({place.slide, place.type, place.id, "BoundingBox", {}, {}, true});
             keys.remove("BoundingBox");
         }
         inkOpacity(keys, back);
@@ -789,10 +852,10 @@ private:
         for (const QString &key : keys) {
             const bool isOwn = m_road == Road::Drawn || key != "Control" || hasOwnPoints(place.type);
             if (isOwn && isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
-                given.remove(key);
+                const QJsonValue wrong = given.take(key);
                 found.remove(key);
-                // Steps of ink may be rounded on the way.
-                if (!judged.isEmpty() || key == "XY") {
+                // Steps of ink may be rounded on the way, and what is no place can't be kept.
+                if (!judged.isEmpty() || key == "XY" || (!saysNothing(wrong) && !numbersOf(wrong))) {
                     m_differences.append({place.slide, place.type, place.id, key, {}, {}, true});
                 }
             }
@@ -928,7 +991,8 @@ bool isSameInModel(const QString &key, const QJsonValue &given, const QJsonValue
 
 QVector<Difference> lessonDifferences(const QJsonObject &given, const QJsonObject &found, Road road)
 {
-    return Comparing(given, found, road).differences();
+    const QJsonObject parsed = QJsonDocument::fromJson(jsonText(given)).object();
+    return unheldDifferencesOfLesson(given) + Comparing(parsed, found, road).differences();
 }
 
 QVector<Difference> documentDifferences(int slide, const QDomElement &given, const QDomElement &found)
