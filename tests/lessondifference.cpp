@@ -811,7 +811,7 @@ private:
         const auto width = numbersOf(keys.value("Width"));
         const auto widthBack = numbersOf(back.value("Width"));
         if (m_road == Road::Packed && hasMatrix && width && width->size() == 1 && pointsOf(keys.value("XY"))
-            && widthBack) {
+            && widthBack && widthBack->size() == 1) {
             const double wide = width->first() * std::sqrt(std::fabs(matrix->determinant()));
             if (std::fabs(widthBack->first() - wide) <= 1e-9 * wide) {
                 keys.remove("Width");
