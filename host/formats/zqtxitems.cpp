@@ -239,7 +239,7 @@ ZqtxItems::ZqtxItems(IZQTransformation *plugin, const QJsonObject &presentation)
 {
 }
 
-QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, CarriedCheck *check) const
+QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, const CarriedCheck *check) const
 {
     const QJsonObject held = heldItem(element);
     if (!held.isEmpty()) {
@@ -277,7 +277,7 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
 }
 
 void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomElement written,
-                        CarriedCheck &check) const
+                        const CarriedCheck &check) const
 {
     const QString type = item.value(typeKey).toString();
     if (read.attribute(typeAttribute) != written.attribute(typeAttribute)
@@ -286,7 +286,7 @@ void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomEl
         written.setAttribute(typeAttribute, read.attribute(typeAttribute));
     }
     takeOpacityOutOfColor(read, written);
-    check.compare(type, item.value(QLatin1String("ID")).toString(), read, written);
+    check.compare(item, read, written);
 }
 
 QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &context) const

@@ -2,7 +2,6 @@
 
 #include "losses/attributes.h"
 #include "losses/equivalence.h"
-#include "losses/lossreport.h"
 
 #include <QHash>
 #include <QVector>
@@ -63,7 +62,7 @@ bool looksLike(const QDomElement &element, const QDomElement &other)
 class Comparing
 {
 public:
-    Comparing(LossReport *losses, const Loss &owner, const QDomElement &read, const QDomElement &written)
+    Comparing(const SlideLosses &losses, const LossOwner &owner, const QDomElement &read, const QDomElement &written)
         : m_losses(losses)
         , m_owner(owner)
         , m_written(written)
@@ -305,31 +304,24 @@ private:
 
     void lose(const QString &attribute, const QString &value)
     {
-        Loss loss = m_owner;
-        loss.key = placeOf(attribute);
-        loss.detail = value.left(longestDetail);
-        m_losses->add(loss);
+        m_losses.value(m_owner, placeOf(attribute), value.left(longestDetail));
     }
 
-    LossReport *m_losses;
-    Loss m_owner;
+    SlideLosses m_losses;
+    LossOwner m_owner;
     QDomElement m_written; // outermost
     QVector<Step> m_steps;
 };
 
 } // namespace
 
-CarriedCheck::CarriedCheck(LossReport *losses)
+CarriedCheck::CarriedCheck(const SlideLosses &losses)
     : m_losses(losses)
 {
 }
 
-void CarriedCheck::compare(const QString &type, const QString &id, const QDomElement &read, const QDomElement &written)
+void CarriedCheck::compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const
 {
-    Loss owner;
-    owner.slide = m_slide;
-    owner.itemType = type;
-    owner.itemId = id;
     Comparing(m_losses, owner, read, written);
 }
 
