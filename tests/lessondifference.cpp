@@ -23,11 +23,18 @@ namespace {
 // What a key says that isn't there.
 const QHash<QString, QString> &defaults()
 {
-    static const QHash<QString, QString> values{{"Visible", "1"},     {"LockIn", "0"},           {"InfiniteClone", "0"},
-                                                {"Angle", "0"},       {"HorizonFlip", "0"},      {"VerticalFlip", "0"},
-                                                {"Opacity", "255"},   {"Matrix", "1,0,0,1,0,0"}, {"visible", "1"},
-                                                {"locked", "0"},      {"uclone", "0"},           {"angle", "0"},
-                                                {"horizonflip", "0"}, {"verticalflip", "0"}};
+    static const QHash<QString, QString> values{{"Visible", "1"},   {"LockIn", "0"},          {"InfiniteClone", "0"},
+                                                {"Angle", "0"},     {"HorizonFlip", "0"},     {"VerticalFlip", "0"},
+                                                {"Opacity", "255"}, {"Matrix", "1,0,0,1,0,0"}};
+    return values;
+}
+
+// What an attribute of an item in XML says that isn't there.
+const QHash<QString, QString> &defaultsOfPlaces()
+{
+    static const QHash<QString, QString> values{{"@visible", "1"},     {"@locked", "0"},
+                                                {"@uclone", "0"},      {"transform/rotate@angle", "0"},
+                                                {"@horizonflip", "0"}, {"@verticalflip", "0"}};
     return values;
 }
 
@@ -853,8 +860,11 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
 void compareText(const Place &place, const QString &way, const QString &key, const QString &given, const QString &found,
                  Differences &differences)
 {
-    compare(place, way, key, given.isEmpty() ? QJsonValue() : QJsonValue(given),
-            found.isEmpty() ? QJsonValue() : QJsonValue(found), differences);
+    const QString implied = defaultsOfPlaces().value(way);
+    const QString one = given.isEmpty() ? implied : given;
+    const QString other = found.isEmpty() ? implied : found;
+    compare(place, way, key, one.isEmpty() ? QJsonValue() : QJsonValue(one),
+            other.isEmpty() ? QJsonValue() : QJsonValue(other), differences);
 }
 
 // The child of found that is the next of the same tag, row and identifier.
@@ -874,9 +884,37 @@ QDomElement counterpart(const QDomElement &child, const QDomElement &found, QHas
     return {};
 }
 
+// Ink's opacity is read into its colour.
+QDomElement withOpacityInColor(const QDomElement &given, const QDomElement &found)
+{
+    bool isNumber = false;
+    const double opacity = given.attribute("opacity").toDouble(&isNumber);
+    const QColor color(found.attribute("color"));
+    if (given.tagName() != "stroke" || !isNumber || found.hasAttribute("opacity") || color.alpha() != opacity
+        || (given.hasAttribute("color") && QColor(given.attribute("color")).rgb() != color.rgb())) {
+        return given;
+    }
+    QDomElement same = given.cloneNode(true).toElement();
+    same.removeAttribute("opacity");
+    same.setAttribute("color", found.attribute("color"));
+    return same;
+}
+
+// The texts of a question are the source of their markup, which may stand there as elements.
+bool isSameMarkup(const QDomElement &given, const QDomElement &found)
+{
+    const bool isMarkup = given.tagName() == "R_Content_svg" || given.tagName() == "R_Answer_svg";
+    const QString tag = given.tagName();
+    return isMarkup && !given.firstChildElement().isNull()
+        && canonicalXml('<' + tag + '>' + found.text() + "</" + tag + '>') == toText(given);
+}
+
 void compareElements(const Place &place, const QString &way, const QDomElement &given, const QDomElement &found,
                      Differences &differences)
 {
+    if (isSameMarkup(given, found)) {
+        return;
+    }
     const QDomNamedNodeMap attributes = given.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
         const QString name = attributes.item(i).nodeName();
@@ -888,10 +926,8 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
             continue;
         }
         const bool isRow = given.tagName() == "property" && name == "value" && isColor(given.attribute("name"));
-        // An attribute says what its name says in its place only.
-        const bool isInPlace = found.hasAttribute(name) || way == (name == "angle" ? "transform/rotate" : "");
-        const QString key = isRow ? "Color" : isInPlace ? name : QString();
-        compareText(place, way + '@' + name, key, attributes.item(i).nodeValue(), found.attribute(name), differences);
+        compareText(place, way + '@' + name, isRow ? "Color" : name, attributes.item(i).nodeValue(),
+                    found.attribute(name), differences);
     }
     const QDomNamedNodeMap others = found.attributes();
     for (int i = 0; i < others.count(); ++i) {
@@ -911,7 +947,7 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
             // Types have other names in the model.
             const QString id = child.attribute("id");
             compareElements({place.slide, id.isEmpty() ? QString() : child.attribute("type"), id, place.road}, {},
-                            child, other, differences);
+                            withOpacityInColor(child, other), other, differences);
         } else {
             compareElements(place, way.isEmpty() ? child.tagName() : way + '/' + child.tagName(), child, other,
                             differences);

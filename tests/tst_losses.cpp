@@ -134,7 +134,7 @@ bool isLoss(const Loss &loss)
 // The key of the item that holds a value, or the place of a value in XML but for the numbers of its steps.
 QString keyOf(const QString &way)
 {
-    static const QRegularExpression numbers("\\[.*?\\](?=[/@]|$)");
+    static const QRegularExpression numbers("\\[.*?\\](?=[/@[]|$)"); // a label may hold a bracket
     const bool isPlace = way.contains('@') || way.contains('/');
     return isPlace ? QString(way).remove(numbers) : way.section('.', 0, 0).section('[', 0, 0);
 }
@@ -357,6 +357,13 @@ QString keyOfPlace(const QJsonObject &keyPlaces, const QJsonArray &place)
     return {};
 }
 
+// The alpha of a raw page's colour doesn't count.
+QString withoutAlpha(const QString &color)
+{
+    static const QRegularExpression alpha("^[0-9]+,(?=[^,]*,[^,]*,[^,]*$)");
+    return QString(color).remove(alpha);
+}
+
 // What the model says otherwise than the attributes of a raw slide or presentation of the same names, and elements of
 // the presentation that are no slides.
 void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonObject &found,
@@ -367,7 +374,8 @@ void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonOb
         const QString name = attributes.item(i).nodeName();
         const QString key = name == "NetID" ? "ID" : name;
         const QString text = attributes.item(i).nodeValue();
-        if (!isSameInModel(key, text, found.value(key), Road::Kept)) {
+        const QString meant = key == "BackColor" ? withoutAlpha(text) : text;
+        if (!isSameInModel(key, meant, found.value(key), Road::Kept)) {
             // References get the lesson's own folder.
             differences.append({slide, element.tagName(), element.attribute("NetID"), '@' + name, text,
                                 toText(QJsonObject{{key, found.value(key)}}), name == "AttachFile"});

@@ -11,6 +11,7 @@
 #include "lesson/strokeoffsets.h"
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
+#include "losses/equivalence.h"
 
 #include <QColor>
 #include <QJsonArray>
@@ -169,10 +170,12 @@ void takeOpacityOutOfColor(const QDomElement &read, QDomElement &written)
     const QString opacity = QStringLiteral("opacity");
     const QString color = QStringLiteral("color");
     QColor found(written.attribute(color));
-    if (!read.hasAttribute(opacity) || written.hasAttribute(opacity) || !found.isValid()) {
+    const QString given = read.attribute(opacity);
+    if (written.hasAttribute(opacity) || !found.isValid()
+        || !isSameText(ValueForm::Number, given, QString::number(found.alpha()))) {
         return;
     }
-    written.setAttribute(opacity, QString::number(found.alpha()));
+    written.setAttribute(opacity, given);
     found.setAlpha(QColor(read.attribute(color)).alpha());
     written.setAttribute(color, found.name(QColor::HexArgb));
 }

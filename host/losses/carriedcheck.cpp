@@ -4,6 +4,7 @@
 #include "losses/equivalence.h"
 
 #include <QHash>
+#include <QSet>
 #include <QVector>
 
 #include <algorithm>
@@ -146,14 +147,29 @@ private:
         return tag == rowTag ? child.attribute(labelName) : QString();
     }
 
-    // In the outermost element, where several children have a tag, a reader takes the first that has children of its
+    // The tags of several children of the outermost element. Of those a reader takes the first that has children of its
     // own for some values and the first that has none for others, and a writer may put them the other way round.
-    QString lineOf(const QDomElement &child, const QString &tag, const QString &label) const
+    QSet<QString> mixedTags(const QVector<Child> &children, const QDomElement &written) const
+    {
+        QSet<QString> mixed;
+        if (m_steps.isEmpty()) {
+            for (const Child &child : children) {
+                const QString tag = child.step.tag;
+                if (child.step.count > 1 || !written.firstChildElement(tag).nextSiblingElement(tag).isNull()) {
+                    mixed.insert(tag);
+                }
+            }
+        }
+        return mixed;
+    }
+
+    static QString lineOf(const QDomElement &child, const QString &tag, const QString &label,
+                          const QSet<QString> &mixedTags)
     {
         QString line = tag;
         if (!label.isEmpty()) {
             line += QLatin1Char(' ') + label;
-        } else if (m_steps.isEmpty() && !child.hasChildNodes()) {
+        } else if (!child.hasChildNodes() && mixedTags.contains(tag)) {
             line += QLatin1Char('/');
         }
         return line;
@@ -172,8 +188,14 @@ private:
         const auto attributes = attributesOf(read);
         for (const auto &[name, value] : attributes) {
             // A label says nothing without a value.
-            if (!value.isEmpty() && !(isEmptyRow && name == labelName)) {
+            if (!(isEmptyRow && name == labelName)) {
                 compareValue(read, name, value, written.attribute(name));
+            }
+        }
+        const auto others = attributesOf(written);
+        for (const auto &[name, value] : others) {
+            if (!read.hasAttribute(name)) {
+                compareValue(read, name, {}, value);
             }
         }
     }
@@ -185,7 +207,10 @@ private:
         }
         const QString tag = m_steps.isEmpty() ? QString() : element.tagName();
         const QString parent = m_steps.size() < 2 ? QString() : m_steps.at(m_steps.size() - 2).tag;
-        if (!isSameText(formOfPlace({parent, tag, attribute}), given, found)) {
+        const XmlPlace place{parent, tag, attribute};
+        const QString implied = impliedText(place);
+        const QString meant = given.isEmpty() ? implied : given;
+        if (!meant.isEmpty() && !isSameText(formOfPlace(place), meant, found.isEmpty() ? implied : found)) {
             lose(attribute, given);
         }
     }
@@ -214,10 +239,11 @@ private:
 
     void compareLines(const QVector<Child> &children, const QDomElement &written)
     {
+        const QSet<QString> mixed = mixedTags(children, written);
         QVector<Line> lines;
         QHash<QString, int> indexes;
         for (const Child &child : children) {
-            int &index = indexes[lineOf(child.element, child.step.tag, child.step.label)]; // from 1 on
+            int &index = indexes[lineOf(child.element, child.step.tag, child.step.label, mixed)]; // from 1 on
             if (index == 0) {
                 lines.append(Line());
                 index = lines.size();
@@ -227,7 +253,7 @@ private:
         QDomElement partner = written.firstChildElement();
         for (; !partner.isNull(); partner = partner.nextSiblingElement()) {
             const QString tag = partner.tagName();
-            const int index = indexes.value(lineOf(partner, tag, labelOf(partner, tag)));
+            const int index = indexes.value(lineOf(partner, tag, labelOf(partner, tag), mixed));
             if (index > 0) {
                 lines[index - 1].written.append(partner);
             }
