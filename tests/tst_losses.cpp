@@ -11,6 +11,7 @@
 #include <QLoggingCategory>
 #include <QtTest>
 
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -134,7 +135,8 @@ bool isLoss(const Loss &loss)
 // The key of the item that holds a value, or the place of a value in XML but for the numbers of its steps.
 QString keyOf(const QString &way)
 {
-    static const QRegularExpression numbers("\\[.*?\\](?=[/@[]|$)"); // a label may hold a bracket
+    static const QRegularExpression numbers(
+        "\\[.*?\\](?=[/@[]|$)", QRegularExpression::DotMatchesEverythingOption); // a label may hold a bracket
     const bool isPlace = way.contains('@') || way.contains('/');
     return isPlace ? QString(way).remove(numbers) : way.section('.', 0, 0).section('[', 0, 0);
 }
@@ -142,7 +144,7 @@ QString keyOf(const QString &way)
 bool isOfSameItem(const Loss &loss, const Difference &difference)
 {
     const bool isSameItem = loss.itemId.isEmpty() || difference.id.isEmpty()
-        ? loss.itemType == difference.type || difference.type.isEmpty()
+        ? loss.itemType == difference.type || (difference.type.isEmpty() && loss.itemId.isEmpty())
         : loss.itemId == difference.id;
     return loss.slide == difference.slide && isSameItem;
 }
@@ -360,8 +362,9 @@ QString keyOfPlace(const QJsonObject &keyPlaces, const QJsonArray &place)
 // The alpha of a raw page's colour doesn't count.
 QString withoutAlpha(const QString &color)
 {
-    static const QRegularExpression alpha("^[0-9]+,(?=[^,]*,[^,]*,[^,]*$)");
-    return QString(color).remove(alpha);
+    bool isNumber = false;
+    const double alpha = color.section(',', 0, 0).toDouble(&isNumber);
+    return color.count(',') == 3 && isNumber && std::isfinite(alpha) ? color.section(',', 1) : color;
 }
 
 // What the model says otherwise than the attributes of a raw slide or presentation of the same names, and elements of

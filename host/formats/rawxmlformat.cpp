@@ -116,7 +116,7 @@ public:
         m_presentation = readPresentation(root.cloneNode(true).toElement());
         setStableId(m_presentation, root);
         if (context.verify && context.losses) {
-            CarriedCheck(m_losses.presentation())
+            CarriedCheck(m_losses.presentation(), CarriedCheck::InOwnWords)
                 .compare(QString(rootTag), root, m_echo.ofPresentation(root, m_presentation));
         }
         addPageSize();
@@ -128,7 +128,7 @@ public:
     LessonSlide slide(int index) override
     {
         const SlideLosses losses = m_losses.slide(index + 1);
-        const CarriedCheck slideCheck(losses);
+        const CarriedCheck slideCheck(losses, CarriedCheck::InOwnWords);
         const CarriedCheck *check = m_context.verify && losses.isHeard() ? &slideCheck : nullptr;
 
         // Reading changes elements.

@@ -63,8 +63,10 @@ bool looksLike(const QDomElement &element, const QDomElement &other)
 class Comparing
 {
 public:
-    Comparing(const SlideLosses &losses, const LossOwner &owner, const QDomElement &read, const QDomElement &written)
+    Comparing(const SlideLosses &losses, CarriedCheck::Texts texts, const LossOwner &owner, const QDomElement &read,
+              const QDomElement &written)
         : m_losses(losses)
+        , m_texts(texts)
         , m_owner(owner)
         , m_written(written)
     {
@@ -205,6 +207,12 @@ private:
         if (given == found) {
             return;
         }
+        if (m_texts == CarriedCheck::InOwnWords) {
+            if (!given.isEmpty()) {
+                lose(attribute, given);
+            }
+            return;
+        }
         const QString tag = m_steps.isEmpty() ? QString() : element.tagName();
         const QString parent = m_steps.size() < 2 ? QString() : m_steps.at(m_steps.size() - 2).tag;
         const XmlPlace place{parent, tag, attribute};
@@ -334,6 +342,7 @@ private:
     }
 
     SlideLosses m_losses;
+    CarriedCheck::Texts m_texts;
     LossOwner m_owner;
     QDomElement m_written; // outermost
     QVector<Step> m_steps;
@@ -341,14 +350,15 @@ private:
 
 } // namespace
 
-CarriedCheck::CarriedCheck(const SlideLosses &losses)
+CarriedCheck::CarriedCheck(const SlideLosses &losses, Texts texts)
     : m_losses(losses)
+    , m_texts(texts)
 {
 }
 
 void CarriedCheck::compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const
 {
-    Comparing(m_losses, owner, read, written);
+    Comparing(m_losses, m_texts, owner, read, written);
 }
 
 } // namespace lessonhost

@@ -17,13 +17,18 @@ namespace lessonhost {
 class CarriedCheck
 {
 public:
-    explicit CarriedCheck(const SlideLosses &losses);
+    //! Which texts are the same: those of ZQTX by their places, or where the written one says what the read one says in
+    //! its own words, none but the same text.
+    enum Texts { OfZqtx, InOwnWords };
+
+    explicit CarriedCheck(const SlideLosses &losses, Texts texts = OfZqtx);
 
     //! owner: whose values these are. The names of the two elements are not compared.
     void compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const;
 
 private:
     SlideLosses m_losses;
+    Texts m_texts;
 };
 
 } // namespace lessonhost

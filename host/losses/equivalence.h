@@ -33,7 +33,7 @@ struct XmlPlace
     QString attribute; //!< empty for the text of the element
 };
 
-//! The form of values in ZQTX, and of values in raw XML that keep their text.
+//! The form of values in ZQTX.
 ValueForm formOfPlace(const XmlPlace &place);
 
 //! What an attribute says there that is empty or missing; an empty text where that says nothing.
