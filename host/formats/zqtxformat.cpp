@@ -86,6 +86,8 @@ public:
         return slide;
     }
 
+    bool isHeld(const QString &type) const { return m_items.isHeld(type); }
+
     // Item by item, so that no more than one of them is there as a DOM. number, name: for messages.
     QByteArray write(const LessonSlide &slide, int number, const QString &name) const
     {
@@ -320,7 +322,8 @@ public:
     void writeSlide(const LessonSlide &slide) override
     {
         const int number = m_ids.size() + 1;
-        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems);
+        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems,
+                                              [this](const QString &type) { return isHeld(type); });
         written.properties = withShortPictures(written.properties);
         const QString id = usableId(valueText(slide.properties.value(idKey)), number);
         written.properties.insert(idKey, id);
@@ -395,9 +398,16 @@ private:
         return id;
     }
 
+    bool isHeld(const QString &type)
+    {
+        const auto known = m_heldTypes.constFind(type);
+        return known == m_heldTypes.constEnd() ? *m_heldTypes.insert(type, m_slides->isHeld(type)) : *known;
+    }
+
     LessonContext m_context;
     LessonLosses m_losses;
     PackageTarget m_target;
+    QHash<QString, bool> m_heldTypes;
     QJsonObject m_presentation;
     QStringList m_ids;
     QSet<QString> m_usedIds;

@@ -340,6 +340,11 @@ QDomElement ZqtxItems::write(const QJsonObject &item) const
     return element;
 }
 
+bool ZqtxItems::isHeld(const QString &type) const
+{
+    return m_plugin->tranItemJSON2ZQTX({}, {{typeKey, type}}).isNull();
+}
+
 QDomElement ZqtxItems::writeSingle(const QJsonObject &item) const
 {
     QJsonObject written = writableItem(item, m_majorVersion);

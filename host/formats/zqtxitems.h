@@ -27,6 +27,9 @@ public:
     //! <item type="" id="" json=""/>. Throws LessonError for a kept text that is no XML.
     QDomElement write(const QJsonObject &item) const;
 
+    //! True for the type of an item that no translator knows.
+    bool isHeld(const QString &type) const;
+
 private:
     QJsonObject readSingle(QDomElement element, const QJsonObject &context) const;
     QDomElement writeSingle(const QJsonObject &item) const;
