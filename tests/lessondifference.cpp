@@ -24,11 +24,18 @@ namespace {
 // What a key says that isn't there.
 const QHash<QString, QString> &defaults()
 {
-    static const QHash<QString, QString> values{{"Visible", "1"},     {"LockIn", "0"},           {"InfiniteClone", "0"},
-                                                {"Angle", "0"},       {"HorizonFlip", "0"},      {"VerticalFlip", "0"},
-                                                {"Opacity", "255"},   {"Matrix", "1,0,0,1,0,0"}, {"visible", "1"},
-                                                {"locked", "0"},      {"uclone", "0"},           {"angle", "0"},
-                                                {"horizonflip", "0"}, {"verticalflip", "0"}};
+    static const QHash<QString, QString> values{{"Visible", "1"},   {"LockIn", "0"},          {"InfiniteClone", "0"},
+                                                {"Angle", "0"},     {"HorizonFlip", "0"},     {"VerticalFlip", "0"},
+                                                {"Opacity", "255"}, {"Matrix", "1,0,0,1,0,0"}};
+    return values;
+}
+
+// What an attribute of an item in XML says that isn't there.
+const QHash<QString, QString> &defaultsOfPlaces()
+{
+    static const QHash<QString, QString> values{{"@visible", "1"},     {"@locked", "0"},
+                                                {"@uclone", "0"},      {"transform/rotate@angle", "0"},
+                                                {"@horizonflip", "0"}, {"@verticalflip", "0"}};
     return values;
 }
 
@@ -913,28 +920,115 @@ QString ownText(const QDomElement &element)
 void compareElements(const Place &place, const QString &way, const QDomElement &given, const QDomElement &found,
                      Differences &differences);
 
+bool isOfOneKind(const QDomElement &one, const QDomElement &other)
+{
+    return one.tagName() == other.tagName()
+        && (one.tagName() != "property" || one.attribute("name") == other.attribute("name"))
+        && (!isItem(one) || one.attribute("id") == other.attribute("id"));
+}
+
+QVector<QDomElement> childrenOfKind(const QDomElement &parent, const QDomElement &kind)
+{
+    QVector<QDomElement> children;
+    for (QDomElement child = parent.firstChildElement(kind.tagName()); !child.isNull();
+         child = child.nextSiblingElement(kind.tagName())) {
+        if (isOfOneKind(kind, child)) {
+            children.append(child);
+        }
+    }
+    return children;
+}
+
+bool saysAllOf(const QDomElement &found, const QDomElement &given)
+{
+    const QDomNamedNodeMap attributes = given.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        if (found.attribute(attributes.item(i).nodeName()) != attributes.item(i).nodeValue()) {
+            return false;
+        }
+    }
+    return ownText(found) == ownText(given);
+}
+
+// The child of found that is the next of the same tag, row and identifier. Where some are missing, the one that says
+// the same.
+QDomElement counterpart(const QDomElement &child, const QDomElement &found)
+{
+    const QVector<QDomElement> others = childrenOfKind(found, child);
+    const QVector<QDomElement> given = childrenOfKind(child.parentNode().toElement(), child);
+    int missing = given.size() - others.size();
+    int next = 0;
+    for (int i = 0; i < given.size(); ++i) {
+        const QDomElement other = others.value(next);
+        const bool isOwn = saysAllOf(other, given.at(i));
+        const int said = given.at(i).attributes().count();
+        const bool isOfLater =
+            missing > 0 && std::any_of(given.begin() + i + 1, given.end(), [&](const QDomElement &later) {
+                return saysAllOf(other, later) && (!isOwn || later.attributes().count() > said);
+            });
+        if (given.at(i) == child) {
+            return isOfLater ? QDomElement() : other;
+        }
+        isOfLater ? --missing : ++next;
+    }
+    return {};
+}
+
+// Ink's opacity is read into its colour.
+QDomElement withOpacityInColor(const QDomElement &given, const QDomElement &found)
+{
+    bool isNumber = false;
+    const double opacity = given.attribute("opacity").toDouble(&isNumber);
+    const QColor back(found.attribute("color"));
+    if (given.tagName() != "stroke" || !isNumber || found.hasAttribute("opacity") || back.alpha() != opacity) {
+        return given;
+    }
+    QDomElement same = given.cloneNode(true).toElement();
+    same.removeAttribute("opacity");
+    QColor color(given.attribute("color"));
+    if (color.isValid()) {
+        color.setAlpha(back.alpha());
+        same.setAttribute("color", color.name(QColor::HexArgb));
+    }
+    return same;
+}
+
+// The texts of a question are the source of their markup, which may stand there as elements.
+bool isSameMarkup(const QDomElement &given, const QDomElement &found)
+{
+    if ((given.tagName() != "R_Content_svg" && given.tagName() != "R_Answer_svg")
+        || given.firstChildElement().isNull()) {
+        return false;
+    }
+    QDomElement markup = given.cloneNode(true).toElement();
+    while (markup.attributes().count() > 0) {
+        markup.removeAttribute(markup.attributes().item(0).nodeName());
+    }
+    const QString tag = given.tagName();
+    return canonicalXml('<' + tag + '>' + found.text() + "</" + tag + '>') == toText(markup);
+}
+
+// Points of ink are worked out from steps in single precision.
+bool areSamePoints(const QString &given, const QString &found)
+{
+    const auto one = numbersOf(given);
+    const auto other = numbersOf(found);
+    return one && other && std::equal(one->begin(), one->end(), other->begin(), other->end(), [](double a, double b) {
+               return std::fabs(a - b) <= 1.2e-7 * std::max(std::fabs(a), std::fabs(b));
+           });
+}
+
 void compareText(const Place &place, const QString &way, const QString &key, const QString &given, const QString &found,
                  Differences &differences)
 {
-    compare(place, way, key, given.isEmpty() ? QJsonValue() : QJsonValue(given),
-            found.isEmpty() ? QJsonValue() : QJsonValue(found), differences);
-}
-
-// The child of found that is the next of the same tag, row and identifier.
-QDomElement counterpart(const QDomElement &child, const QDomElement &found, QHash<QString, int> &counts)
-{
-    const QString row = child.tagName() == "property" ? child.attribute("name") : QString();
-    const QString id = isItem(child) ? child.attribute("id") : QString();
-    int left = counts[child.tagName() + '\n' + row + '\n' + id]++;
-    for (QDomElement other = found.firstChildElement(child.tagName()); !other.isNull();
-         other = other.nextSiblingElement(child.tagName())) {
-        const bool isSame =
-            (row.isEmpty() || other.attribute("name") == row) && (id.isEmpty() || other.attribute("id") == id);
-        if (isSame && left-- == 0) {
-            return other;
-        }
+    if (way == "data/vertex@points" && areSamePoints(given, found)) {
+        return;
     }
-    return {};
+    const QString implied = defaultsOfPlaces().value(way);
+    const QString one = given.isEmpty() ? implied : given;
+    const QString other = found.isEmpty() ? implied : found;
+    compare(place, way, key, one.isEmpty() ? QJsonValue() : QJsonValue(one),
+            other.isEmpty() ? QJsonValue() : QJsonValue(other), differences);
 }
 
 void compareElements(const Place &place, const QString &way, const QDomElement &given, const QDomElement &found,
@@ -951,10 +1045,8 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
             continue;
         }
         const bool isRow = given.tagName() == "property" && name == "value" && isColor(given.attribute("name"));
-        // An attribute says what its name says in its place only.
-        const bool isInPlace = found.hasAttribute(name) || way == (name == "angle" ? "transform/rotate" : "");
-        const QString key = isRow ? "Color" : isInPlace ? name : QString();
-        compareText(place, way + '@' + name, key, attributes.item(i).nodeValue(), found.attribute(name), differences);
+        compareText(place, way + '@' + name, isRow ? "Color" : name, attributes.item(i).nodeValue(),
+                    found.attribute(name), differences);
     }
     const QDomNamedNodeMap others = found.attributes();
     for (int i = 0; i < others.count(); ++i) {
@@ -963,18 +1055,20 @@ void compareElements(const Place &place, const QString &way, const QDomElement &
             compareText(place, way + '@' + name, name, {}, others.item(i).nodeValue(), differences);
         }
     }
+    if (isSameMarkup(given, found)) {
+        return;
+    }
     compareText(place, way, {}, ownText(given), ownText(found), differences);
     if (attributes.isEmpty() && given.firstChildElement().isNull() && ownText(given).isEmpty()) {
         differences.append({place.slide, place.type, place.id, way, "an element", "nothing", true});
     }
-    QHash<QString, int> counts;
     for (QDomElement child = given.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QDomElement other = counterpart(child, found, counts);
+        const QDomElement other = counterpart(child, found);
         if (isItem(child)) {
             // Types have other names in the model.
             const QString id = child.attribute("id");
             compareElements({place.slide, id.isEmpty() ? QString() : child.attribute("type"), id, place.road}, {},
-                            child, other, differences);
+                            withOpacityInColor(child, other), other, differences);
         } else {
             compareElements(place, way.isEmpty() ? child.tagName() : way + '/' + child.tagName(), child, other,
                             differences);

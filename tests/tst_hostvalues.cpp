@@ -194,7 +194,7 @@ private slots:
         QFETCH(QString, items);
         QFETCH(QString, lost);
         LossReport losses;
-        CarriedCheck check(&losses);
+        const CarriedCheck check(SlideLosses(&losses, 1));
         const ZqtxItems reader(plugin(), {{"Version", "3.0"}});
         const QDomElement slide = xml("<items>" + items.replace('\'', '"') + "</items>");
         for (QDomElement item = slide.firstChildElement(); !item.isNull(); item = item.nextSiblingElement()) {

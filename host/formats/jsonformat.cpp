@@ -13,7 +13,7 @@
 #include "lesson/slidelimits.h"
 #include "losses/comparison.h"
 #include "losses/jsontext.h"
-#include "losses/lossreport.h"
+#include "losses/slidelosses.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -35,14 +35,16 @@ public:
         : m_context(context)
         , m_path(path)
         , m_index(path)
+        , m_losses(context.losses)
     {
         QVector<QPair<QString, QJsonValue>> members;
         for (const auto &member : qAsConst(m_index.members)) {
             members.append({member.first, m_index.value(member.second)});
-            if (isChecking()) {
+            if (context.verify && context.losses) {
                 const JsonPath place{{member.first.toUtf8(), 0}};
                 eachUnheldValue(m_index.source(member.second), [&](const JsonPath &path, const QByteArray &value) {
-                    tell(0, QStringLiteral("presentation"), {}, jsonPathText(place + path), value);
+                    m_losses.presentation().value(QStringLiteral("presentation"), jsonPathText(place + path),
+                                                  detailOf(value));
                 });
             }
         }
@@ -82,11 +84,10 @@ public:
             }
         }
         checkSlideItems(slide.items, index + 1, m_path);
-        if (isChecking() && !m_checked.contains(index)) {
-            m_checked.insert(index);
-            eachUnheldValue(m_index.source(range), [&](const JsonPath &path, const QByteArray &value) {
-                tellOfSlide(index + 1, slide, path, value);
-            });
+        const SlideLosses losses = m_losses.slide(index + 1);
+        if (m_context.verify && losses.isHeard()) {
+            eachUnheldValue(m_index.source(range),
+                            [&](const JsonPath &path, const QByteArray &value) { tell(losses, slide, path, value); });
         }
         return slide;
     }
@@ -124,16 +125,11 @@ public:
     }
 
 private:
-    bool isChecking() const { return m_context.verify && m_context.losses; }
-
-    void tell(int slide, const QString &type, const QString &id, const QString &key, const QByteArray &value)
-    {
-        m_context.losses->add({Loss::Value, slide, type, id, key, QString::fromUtf8(value.left(longestDetail))});
-    }
+    static QString detailOf(const QByteArray &value) { return QString::fromUtf8(value.left(longestDetail)); }
 
     // A value within an item is that item's own. What other items than containers have in the place of children is a
     // value as any other.
-    void tellOfSlide(int number, const LessonSlide &slide, const JsonPath &path, const QByteArray &value)
+    static void tell(const SlideLosses &losses, const LessonSlide &slide, const JsonPath &path, const QByteArray &value)
     {
         QJsonObject item;
         int step = 0;
@@ -149,15 +145,16 @@ private:
             items = children.toArray();
             list = HostKeys::children;
         }
-        const QJsonObject owner = step > 0 ? item : slide.properties;
-        const QString type = step > 0 ? item.value(ItemKeys::type).toString() : QStringLiteral("slide");
-        tell(number, type, valueText(owner.value(ItemKeys::id)), jsonPathText(path, step), value);
+        const LossOwner owner = step > 0
+            ? LossOwner(item)
+            : LossOwner(QStringLiteral("slide"), valueText(slide.properties.value(SlideKeys::id)));
+        losses.value(owner, jsonPathText(path, step), detailOf(value));
     }
 
     LessonContext m_context;
     QString m_path;
     JsonIndex m_index;
-    QSet<int> m_checked;
+    LessonLosses m_losses;
     QJsonObject m_presentation;
     QHash<QString, JsonIndex::Range> m_resources;
     std::unique_ptr<WorkFolder> m_folder;

@@ -341,7 +341,7 @@ QString RawEcho::attributeOfItem(const QDomElement &element, const QString &name
     if (isInk(item) && isInkValue(name)) {
         return echoedInk(name, given, item);
     }
-    const int control = controlIndex(name);
+    const int control = item.contains(name) ? -1 : controlIndex(name);
     if (control >= 0) {
         return echoedPoint(given, item.value(QLatin1String("Control")).toArray().at(control));
     }

@@ -16,6 +16,7 @@
 #include "lesson/pagesize.h"
 #include "lesson/slidelimits.h"
 #include "losses/carriedcheck.h"
+#include "losses/slidelosses.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -92,7 +93,7 @@ public:
         : m_context(context)
         , m_path(path)
         , m_document(loadXmlFile(path))
-        , m_check(context.losses)
+        , m_losses(context.losses)
         , m_echo(context.plugin)
         , m_attributes(context.plugin, resourceFolder + QLatin1Char('/'))
     {
@@ -114,8 +115,9 @@ public:
         // Reading gives an element without an identifier one.
         m_presentation = readPresentation(root.cloneNode(true).toElement());
         setStableId(m_presentation, root);
-        if (isChecking()) {
-            m_check.compare(rootTag, {}, root, m_echo.ofPresentation(root, m_presentation));
+        if (context.verify && context.losses) {
+            CarriedCheck(m_losses.presentation(), CarriedCheck::InOwnWords)
+                .compare(QString(rootTag), root, m_echo.ofPresentation(root, m_presentation));
         }
         addPageSize();
     }
@@ -125,10 +127,9 @@ public:
 
     LessonSlide slide(int index) override
     {
-        const bool isChecked = isChecking() && !m_checked.contains(index);
-        m_checked.insert(index);
-        m_check.setSlide(index + 1);
-        CarriedCheck *check = isChecked ? &m_check : nullptr;
+        const SlideLosses losses = m_losses.slide(index + 1);
+        const CarriedCheck slideCheck(losses, CarriedCheck::InOwnWords);
+        const CarriedCheck *check = m_context.verify && losses.isHeard() ? &slideCheck : nullptr;
 
         // Reading changes elements.
         const QDomElement element = m_slides.at(index).cloneNode(true).toElement();
@@ -139,7 +140,7 @@ public:
         slide.properties = withStableActions(m_context.plugin->tranSlideXML2JSON(element, context()));
         setStableId(slide.properties, untouched);
         if (check) {
-            check->compare(slideTag, untouched.attribute(netId), untouched,
+            check->compare({slideTag, untouched.attribute(netId)}, untouched,
                            m_echo.ofSlide(untouched, slide.properties));
         }
         QJsonObject itemContext = context();
@@ -185,8 +186,6 @@ private:
         object.insert(idKey, id);
     }
 
-    bool isChecking() const { return m_context.verify && m_context.losses; }
-
     // References to files get the folder as their only directory, wherever they pointed to on the machine they are
     // from.
     QJsonObject context() const
@@ -222,7 +221,7 @@ private:
         m_presentation.insert(height, QString::number(size.height()));
     }
 
-    QJsonObject readItem(QDomElement element, const QJsonObject &context, CarriedCheck *check)
+    QJsonObject readItem(QDomElement element, const QJsonObject &context, const CarriedCheck *check)
     {
         QVector<QDomElement> nested;
         QDomElement sons;
@@ -243,7 +242,8 @@ private:
         findSingleFile(untouched, item);
         if (check) {
             takeEmptied(untouched, groupSons);
-            check->compare(element.tagName(), item.value(idKey).toString(), untouched, m_echo.ofItem(untouched, item));
+            check->compare({element.tagName(), item.value(idKey).toString()}, untouched,
+                           m_echo.ofItem(untouched, item));
         }
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.
@@ -279,10 +279,9 @@ private:
     LessonContext m_context;
     QString m_path;
     QDomDocument m_document;
-    CarriedCheck m_check;
+    LessonLosses m_losses;
     RawEcho m_echo;
     RawAttributes m_attributes;
-    QSet<int> m_checked;
     QSet<QString> m_ids; // that the lesson has
     qint64 m_nextId = 1;
     QVector<QDomElement> m_slides;

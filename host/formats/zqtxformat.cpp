@@ -67,7 +67,7 @@ public:
     {
     }
 
-    LessonSlide read(const QDomElement &root, const QString &path, CarriedCheck *check) const
+    LessonSlide read(const QDomElement &root, const QString &path, const CarriedCheck *check) const
     {
         const QJsonObject context{{QStringLiteral("pres"), m_presentation}, {QStringLiteral("path"), path}};
         const QDomElement items = root.firstChildElement(itemsTag);
@@ -75,7 +75,7 @@ public:
         LessonSlide slide;
         slide.properties = readProperties(root, context);
         if (check) {
-            check->compare(slideTag, slide.properties.value(idKey).toString(), root,
+            check->compare({slideTag, slide.properties.value(idKey).toString()}, root,
                            writeProperties(slide.properties).documentElement());
         }
         QJsonObject itemContext = context;
@@ -85,6 +85,8 @@ public:
         }
         return slide;
     }
+
+    bool isHeld(const QString &type) const { return m_items.isHeld(type); }
 
     // Item by item, so that no more than one of them is there as a DOM. number, name: for messages.
     QByteArray write(const LessonSlide &slide, int number, const QString &name) const
@@ -168,16 +170,16 @@ public:
     ZqtxReader(const QString &path, const LessonContext &context)
         : m_context(context)
         , m_source(path)
-        , m_check(context.losses)
         , m_losses(context.losses)
     {
         const QDomDocument document = loadXmlFile(m_source.file(indexFile), m_source.displayName(indexFile));
         const QDomElement root = rootOf(document, indexTag, m_source.displayName(indexFile));
         readSlideList(root);
         m_presentation = readIndex(context.plugin, root, location());
-        if (isChecking()) {
-            m_check.compare(QStringLiteral("presentation"), {}, root,
-                            writeIndex(m_context.plugin, m_presentation, {}).documentElement());
+        if (context.verify && context.losses) {
+            CarriedCheck(m_losses.presentation())
+                .compare(QStringLiteral("presentation"), root,
+                         writeIndex(m_context.plugin, m_presentation, {}).documentElement());
         }
         m_slides = std::make_unique<ZqtxSlides>(context.plugin, m_presentation);
     }
@@ -192,9 +194,9 @@ public:
         const QDomDocument document = loadXmlFile(m_source.file(file), m_source.displayName(file));
         const QDomElement root = rootOf(document, slideTag, m_source.displayName(file));
         const SlideLosses losses = m_losses.slide(index + 1);
+        const CarriedCheck check(losses);
         const bool isChecked = m_context.verify && losses.isHeard();
-        m_check.setSlide(index + 1);
-        LessonSlide slide = m_slides->read(root, location(), isChecked ? &m_check : nullptr);
+        LessonSlide slide = m_slides->read(root, location(), isChecked ? &check : nullptr);
         checkSlideItems(slide.items, index + 1, m_source.displayName(file));
         if (slide.properties.value(idKey).toString().isEmpty()) {
             slide.properties.insert(idKey, QFileInfo(file).completeBaseName());
@@ -217,7 +219,6 @@ public:
     QString resourceFile(const QString &relativePath) override { return m_source.file(relativePath); }
 
 private:
-    bool isChecking() const { return m_context.verify && m_context.losses; }
     QString location() const { return m_source.directory() + QLatin1Char('/') + indexFile; }
 
     // Takes the files out of the index, so that what is left there is the presentation's own.
@@ -269,7 +270,6 @@ private:
 
     LessonContext m_context;
     PackageSource m_source;
-    CarriedCheck m_check;
     LessonLosses m_losses;
     QStringList m_files;
     QJsonObject m_presentation;
@@ -322,7 +322,8 @@ public:
     void writeSlide(const LessonSlide &slide) override
     {
         const int number = m_ids.size() + 1;
-        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems);
+        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems,
+                                              [this](const QString &type) { return isHeld(type); });
         written.properties = withShortPictures(written.properties);
         const QString id = usableId(valueText(slide.properties.value(idKey)), number);
         written.properties.insert(idKey, id);
@@ -397,9 +398,16 @@ private:
         return id;
     }
 
+    bool isHeld(const QString &type)
+    {
+        const auto known = m_heldTypes.constFind(type);
+        return known == m_heldTypes.constEnd() ? *m_heldTypes.insert(type, m_slides->isHeld(type)) : *known;
+    }
+
     LessonContext m_context;
     LessonLosses m_losses;
     PackageTarget m_target;
+    QHash<QString, bool> m_heldTypes;
     QJsonObject m_presentation;
     QStringList m_ids;
     QSet<QString> m_usedIds;

@@ -11,6 +11,7 @@
 #include "lesson/strokeoffsets.h"
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
+#include "losses/equivalence.h"
 
 #include <QColor>
 #include <QJsonArray>
@@ -171,10 +172,12 @@ void takeOpacityOutOfColor(const QDomElement &read, QDomElement &written)
     const QString opacity = QStringLiteral("opacity");
     const QString color = QStringLiteral("color");
     QColor found(written.attribute(color));
-    if (!read.hasAttribute(opacity) || written.hasAttribute(opacity) || !found.isValid()) {
+    const QString given = read.attribute(opacity);
+    if (written.hasAttribute(opacity) || !found.isValid()
+        || !isSameText(ValueForm::Number, given, QString::number(found.alpha()))) {
         return;
     }
-    written.setAttribute(opacity, QString::number(found.alpha()));
+    written.setAttribute(opacity, given);
     found.setAlpha(QColor(read.attribute(color)).alpha());
     written.setAttribute(color, found.name(QColor::HexArgb));
 }
@@ -241,7 +244,7 @@ ZqtxItems::ZqtxItems(IZQTransformation *plugin, const QJsonObject &presentation)
 {
 }
 
-QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, CarriedCheck *check) const
+QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, const CarriedCheck *check) const
 {
     const QJsonObject held = heldItem(element);
     if (!held.isEmpty()) {
@@ -280,7 +283,7 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, Car
 }
 
 void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomElement written,
-                        CarriedCheck &check) const
+                        const CarriedCheck &check) const
 {
     const QString type = item.value(typeKey).toString();
     if (read.attribute(typeAttribute) != written.attribute(typeAttribute)
@@ -289,7 +292,7 @@ void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomEl
         written.setAttribute(typeAttribute, read.attribute(typeAttribute));
     }
     takeOpacityOutOfColor(read, written);
-    check.compare(type, item.value(QLatin1String("ID")).toString(), read, written);
+    check.compare(item, read, written);
 }
 
 QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &context) const
@@ -338,6 +341,11 @@ QDomElement ZqtxItems::write(const QJsonObject &item) const
         }
     }
     return element;
+}
+
+bool ZqtxItems::isHeld(const QString &type) const
+{
+    return m_plugin->tranItemJSON2ZQTX({}, {{typeKey, type}}).isNull();
 }
 
 QDomElement ZqtxItems::writeSingle(const QJsonObject &item) const

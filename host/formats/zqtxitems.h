@@ -21,16 +21,20 @@ public:
 
     //! The item of an element below <items>. context: what the plug-in is told ("slide", "pres", "path"). check: finds
     //! what the item's object does not carry; may be null.
-    QJsonObject read(QDomElement element, const QJsonObject &context, CarriedCheck *check) const;
+    QJsonObject read(QDomElement element, const QJsonObject &context, const CarriedCheck *check) const;
 
     //! The element of an item, to be appended to <items>. An item that no translator knows is held as
     //! <item type="" id="" json=""/>. Throws LessonError for a kept text that is no XML.
     QDomElement write(const QJsonObject &item) const;
 
+    //! True for the type of an item that no translator knows.
+    bool isHeld(const QString &type) const;
+
 private:
     QJsonObject readSingle(QDomElement element, const QJsonObject &context) const;
     QDomElement writeSingle(const QJsonObject &item) const;
-    void compare(const QJsonObject &item, const QDomElement &read, QDomElement written, CarriedCheck &check) const;
+    void compare(const QJsonObject &item, const QDomElement &read, QDomElement written,
+                 const CarriedCheck &check) const;
     void addMissingPlaces(QDomElement &element, const QJsonObject &written) const;
 
     IZQTransformation *m_plugin;

@@ -191,15 +191,22 @@ void makeHtml(QJsonObject &item)
     }
 }
 
-QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outlines, int &placed);
+struct Placing
+{
+    const OutlineSource &outlines;
+    const TypeTest &isHeld;
+    int placed; // how many items
+};
+
+QJsonArray itemsInPageForm(const QJsonArray &items, Placing &placing);
 
 // A raw group stands around its items, which are placed by themselves; its own box isn't one of the page.
-void placeGroup(QJsonObject &group, const OutlineSource &outlines, int &placed)
+void placeGroup(QJsonObject &group, Placing &placing)
 {
-    const int before = placed;
-    const QJsonArray children = itemsInPageForm(group.value(HostKeys::children).toArray(), outlines, placed);
+    const int before = placing.placed;
+    const QJsonArray children = itemsInPageForm(group.value(HostKeys::children).toArray(), placing);
     group.insert(HostKeys::children, children);
-    if (placed == before) {
+    if (placing.placed == before) {
         return;
     }
     QRectF all;
@@ -217,30 +224,33 @@ void placeGroup(QJsonObject &group, const OutlineSource &outlines, int &placed)
     }
 }
 
-QJsonObject itemInPageForm(QJsonObject item, const OutlineSource &outlines, int &placed)
+QJsonObject itemInPageForm(QJsonObject item, Placing &placing)
 {
+    if (placing.isHeld && placing.isHeld(item.value(ItemKeys::type).toString())) {
+        return item;
+    }
     nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
     if (!item.value(HostKeys::children).toArray().isEmpty()) {
-        placeGroup(item, outlines, placed);
+        placeGroup(item, placing);
         return item;
     }
     const auto matrix = itemTransform(item.value(ItemKeys::matrix));
     item.remove(ItemKeys::slideMatrix); // its part in the matrix
-    if (matrix && hasWholePlace(item) && placeItem(item, *matrix, outlines)) {
+    if (matrix && hasWholePlace(item) && placeItem(item, *matrix, placing.outlines)) {
         item.remove(ItemKeys::matrix);
-        ++placed;
+        ++placing.placed;
     }
     return item;
 }
 
-QJsonArray itemsInPageForm(const QJsonArray &items, const OutlineSource &outlines, int &placed)
+QJsonArray itemsInPageForm(const QJsonArray &items, Placing &placing)
 {
     QJsonArray result;
     for (const QJsonValue &item : items) {
         if (item.isObject()) {
-            result.append(itemInPageForm(item.toObject(), outlines, placed));
+            result.append(itemInPageForm(item.toObject(), placing));
         }
     }
     return result;
@@ -267,16 +277,17 @@ void makeBackground(QJsonObject &properties)
 
 } // namespace
 
-LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outlines, int *placed)
+LessonSlide slideInPageForm(const LessonSlide &slide, const OutlineSource &outlines, int *placed,
+                            const TypeTest &isHeld)
 {
     LessonSlide result = slide;
-    int count = 0;
+    Placing placing{outlines, isHeld, 0};
     makeBackground(result.properties);
-    result.items = itemsInPageForm(slide.items, outlines, count);
+    result.items = itemsInPageForm(slide.items, placing);
     // It tells what the matrices were fitted from.
     result.properties.remove(SlideKeys::sourceRect);
     if (placed) {
-        *placed += count;
+        *placed += placing.placed;
     }
     return result;
 }

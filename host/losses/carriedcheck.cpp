@@ -2,9 +2,9 @@
 
 #include "losses/attributes.h"
 #include "losses/equivalence.h"
-#include "losses/lossreport.h"
 
 #include <QHash>
+#include <QSet>
 #include <QVector>
 
 #include <algorithm>
@@ -63,8 +63,10 @@ bool looksLike(const QDomElement &element, const QDomElement &other)
 class Comparing
 {
 public:
-    Comparing(LossReport *losses, const Loss &owner, const QDomElement &read, const QDomElement &written)
+    Comparing(const SlideLosses &losses, CarriedCheck::Texts texts, const LossOwner &owner, const QDomElement &read,
+              const QDomElement &written)
         : m_losses(losses)
+        , m_texts(texts)
         , m_owner(owner)
         , m_written(written)
     {
@@ -147,14 +149,29 @@ private:
         return tag == rowTag ? child.attribute(labelName) : QString();
     }
 
-    // In the outermost element, where several children have a tag, a reader takes the first that has children of its
+    // The tags of several children of the outermost element. Of those a reader takes the first that has children of its
     // own for some values and the first that has none for others, and a writer may put them the other way round.
-    QString lineOf(const QDomElement &child, const QString &tag, const QString &label) const
+    QSet<QString> mixedTags(const QVector<Child> &children, const QDomElement &written) const
+    {
+        QSet<QString> mixed;
+        if (m_steps.isEmpty()) {
+            for (const Child &child : children) {
+                const QString tag = child.step.tag;
+                if (child.step.count > 1 || !written.firstChildElement(tag).nextSiblingElement(tag).isNull()) {
+                    mixed.insert(tag);
+                }
+            }
+        }
+        return mixed;
+    }
+
+    static QString lineOf(const QDomElement &child, const QString &tag, const QString &label,
+                          const QSet<QString> &mixedTags)
     {
         QString line = tag;
         if (!label.isEmpty()) {
             line += QLatin1Char(' ') + label;
-        } else if (m_steps.isEmpty() && !child.hasChildNodes()) {
+        } else if (!child.hasChildNodes() && mixedTags.contains(tag)) {
             line += QLatin1Char('/');
         }
         return line;
@@ -173,8 +190,14 @@ private:
         const auto attributes = attributesOf(read);
         for (const auto &[name, value] : attributes) {
             // A label says nothing without a value.
-            if (!value.isEmpty() && !(isEmptyRow && name == labelName)) {
+            if (!(isEmptyRow && name == labelName)) {
                 compareValue(read, name, value, written.attribute(name));
+            }
+        }
+        const auto others = attributesOf(written);
+        for (const auto &[name, value] : others) {
+            if (!read.hasAttribute(name)) {
+                compareValue(read, name, {}, value);
             }
         }
     }
@@ -184,9 +207,18 @@ private:
         if (given == found) {
             return;
         }
+        if (m_texts == CarriedCheck::InOwnWords) {
+            if (!given.isEmpty()) {
+                lose(attribute, given);
+            }
+            return;
+        }
         const QString tag = m_steps.isEmpty() ? QString() : element.tagName();
         const QString parent = m_steps.size() < 2 ? QString() : m_steps.at(m_steps.size() - 2).tag;
-        if (!isSameText(formOfPlace({parent, tag, attribute}), given, found)) {
+        const XmlPlace place{parent, tag, attribute};
+        const QString implied = impliedText(place);
+        const QString meant = given.isEmpty() ? implied : given;
+        if (!meant.isEmpty() && !isSameText(formOfPlace(place), meant, found.isEmpty() ? implied : found)) {
             lose(attribute, given);
         }
     }
@@ -215,10 +247,11 @@ private:
 
     void compareLines(const QVector<Child> &children, const QDomElement &written)
     {
+        const QSet<QString> mixed = mixedTags(children, written);
         QVector<Line> lines;
         QHash<QString, int> indexes;
         for (const Child &child : children) {
-            int &index = indexes[lineOf(child.element, child.step.tag, child.step.label)]; // from 1 on
+            int &index = indexes[lineOf(child.element, child.step.tag, child.step.label, mixed)]; // from 1 on
             if (index == 0) {
                 lines.append(Line());
                 index = lines.size();
@@ -228,7 +261,7 @@ private:
         QDomElement partner = written.firstChildElement();
         for (; !partner.isNull(); partner = partner.nextSiblingElement()) {
             const QString tag = partner.tagName();
-            const int index = indexes.value(lineOf(partner, tag, labelOf(partner, tag)));
+            const int index = indexes.value(lineOf(partner, tag, labelOf(partner, tag), mixed));
             if (index > 0) {
                 lines[index - 1].written.append(partner);
             }
@@ -305,32 +338,27 @@ private:
 
     void lose(const QString &attribute, const QString &value)
     {
-        Loss loss = m_owner;
-        loss.key = placeOf(attribute);
-        loss.detail = value.left(longestDetail);
-        m_losses->add(loss);
+        m_losses.value(m_owner, placeOf(attribute), value.left(longestDetail));
     }
 
-    LossReport *m_losses;
-    Loss m_owner;
+    SlideLosses m_losses;
+    CarriedCheck::Texts m_texts;
+    LossOwner m_owner;
     QDomElement m_written; // outermost
     QVector<Step> m_steps;
 };
 
 } // namespace
 
-CarriedCheck::CarriedCheck(LossReport *losses)
+CarriedCheck::CarriedCheck(const SlideLosses &losses, Texts texts)
     : m_losses(losses)
+    , m_texts(texts)
 {
 }
 
-void CarriedCheck::compare(const QString &type, const QString &id, const QDomElement &read, const QDomElement &written)
+void CarriedCheck::compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const
 {
-    Loss owner;
-    owner.slide = m_slide;
-    owner.itemType = type;
-    owner.itemId = id;
-    Comparing(m_losses, owner, read, written);
+    Comparing(m_losses, m_texts, owner, read, written);
 }
 
 } // namespace lessonhost

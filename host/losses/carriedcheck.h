@@ -1,15 +1,14 @@
 #ifndef CARRIEDCHECK_H
 #define CARRIEDCHECK_H
 
+#include "losses/slidelosses.h"
+
 #include <QDomElement>
-#include <QString>
 
 namespace lessonhost {
 
-class LossReport;
-
 /*!
- * Finds what an element says and the model made of it doesn't, and adds it to a report.
+ * Finds what an element says and the model made of it doesn't, and tells it.
  *
  * The model's side is an element, too: what is written of it again. Each attribute, text, row of properties and child
  * of the one that was read is looked for in its place in the other. What is the same there in another dress is said in
@@ -18,17 +17,18 @@ class LossReport;
 class CarriedCheck
 {
 public:
-    explicit CarriedCheck(LossReport *losses);
+    //! Which texts are the same: those of ZQTX by their places, or where the written one says what the read one says in
+    //! its own words, none but the same text.
+    enum Texts { OfZqtx, InOwnWords };
 
-    //! The slide of what is compared next, counted from 1; 0 for the presentation.
-    void setSlide(int slide) { m_slide = slide; }
+    explicit CarriedCheck(const SlideLosses &losses, Texts texts = OfZqtx);
 
-    //! type and id say whose values these are. The names of the two elements are not compared.
-    void compare(const QString &type, const QString &id, const QDomElement &read, const QDomElement &written);
+    //! owner: whose values these are. The names of the two elements are not compared.
+    void compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const;
 
 private:
-    LossReport *m_losses;
-    int m_slide = 0;
+    SlideLosses m_losses;
+    Texts m_texts;
 };
 
 } // namespace lessonhost

@@ -20,12 +20,16 @@ struct FormOfPlace
     const char *tag;
     const char *attribute;
     ValueForm form;
+    const char *implied = ""; // what a missing one says
 };
 
 constexpr FormOfPlace formsOfPlaces[] = {
-    {"", "", "visible", ValueForm::Flag},
-    {"", "", "locked", ValueForm::Flag},
-    {"", "", "uclone", ValueForm::Flag},
+    {"", "", "visible", ValueForm::Flag, "1"},
+    {"", "", "locked", ValueForm::Flag, "0"},
+    {"", "", "uclone", ValueForm::Flag, "0"},
+    {"", "", "horizonflip", ValueForm::Text, "0"},
+    {"", "", "verticalflip", ValueForm::Text, "0"},
+    {"transform", "rotate", "angle", ValueForm::Number, "0"},
     // Ink.
     {"", "", "color", ValueForm::InkColor},
     {"", "", "opacity", ValueForm::Number},
@@ -121,15 +125,27 @@ bool isSameJson(const QString &one, const QString &other)
     return !document.isNull() && document == QJsonDocument::fromJson(other.toUtf8()) && isJsonHeld(text);
 }
 
-} // namespace
-
-ValueForm formOfPlace(const XmlPlace &place)
+const FormOfPlace *rowOf(const XmlPlace &place)
 {
     const auto found = std::find_if(std::begin(formsOfPlaces), std::end(formsOfPlaces), [&](const FormOfPlace &row) {
         return place.tag == QLatin1String(row.tag) && place.attribute == QLatin1String(row.attribute)
             && (!row.parent || place.parent == QLatin1String(row.parent));
     });
-    return found == std::end(formsOfPlaces) ? ValueForm::Text : found->form;
+    return found == std::end(formsOfPlaces) ? nullptr : found;
+}
+
+} // namespace
+
+ValueForm formOfPlace(const XmlPlace &place)
+{
+    const FormOfPlace *row = rowOf(place);
+    return row ? row->form : ValueForm::Text;
+}
+
+QString impliedText(const XmlPlace &place)
+{
+    const FormOfPlace *row = rowOf(place);
+    return row ? QString(QLatin1String(row->implied)) : QString();
 }
 
 bool isSameText(ValueForm form, const QString &given, const QString &found)

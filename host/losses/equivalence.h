@@ -33,8 +33,11 @@ struct XmlPlace
     QString attribute; //!< empty for the text of the element
 };
 
-//! The form of values in ZQTX, and of values in raw XML that keep their text.
+//! The form of values in ZQTX.
 ValueForm formOfPlace(const XmlPlace &place);
+
+//! What an attribute says there that is empty or missing; an empty text where that says nothing.
+QString impliedText(const XmlPlace &place);
 
 //! True if two texts say the same in that form. A text that is not of the form is the same as itself alone.
 bool isSameText(ValueForm form, const QString &given, const QString &found);
