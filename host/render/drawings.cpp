@@ -1,7 +1,9 @@
 #include "render/drawings.h"
 
 #include "lesson/itemview.h"
+#include "render/mathdrawing.h"
 #include "render/plainsvg.h"
+#include "render/vectordrawing.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -38,6 +40,9 @@ Drawings::Draw Drawings::drawingOf(const QString &type)
 
 bool Drawings::draw(const QJsonObject &item)
 {
+    if (drawFromTables(item)) {
+        return true;
+    }
     const Draw drawing = drawingOf(item.value(ItemKeys::type).toString());
     if ((this->*drawing)(item)) {
         return true;
@@ -45,6 +50,18 @@ bool Drawings::draw(const QJsonObject &item)
     const QJsonObject picture = pictureOn(item);
     const bool hasPicture = !picture.isEmpty() && drawIwb(picture);
     m_boxes.drawBox(item, hasPicture);
+    return false;
+}
+
+// Families that have tables of their own.
+bool Drawings::drawFromTables(const QJsonObject &item)
+{
+    const QString type = item.value(ItemKeys::type).toString();
+    for (const auto find : {&vectorDrawing, &mathDrawing}) {
+        if (const SvgDrawing drawing = find(type)) {
+            return drawing(m_svg, item);
+        }
+    }
     return false;
 }
 

@@ -25,6 +25,7 @@ private:
     using Draw = bool (Drawings::*)(const QJsonObject &item);
     static Draw drawingOf(const QString &type);
 
+    bool drawFromTables(const QJsonObject &item);
     bool drawIwb(const QJsonObject &item);
     bool drawMindMap(const QJsonObject &item) { return m_boxes.drawMindMap(item); }
     QJsonObject pictureOn(const QJsonObject &item) const;

@@ -6,6 +6,7 @@
 #include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
 #include "render/labellines.h"
+#include "svg/svgstyle.h"
 
 #include <QFontMetricsF>
 #include <QVector>
@@ -278,6 +279,41 @@ void PlainSvg::addText(const QDomElement &area)
             x += piece.width;
         }
         y += ascent + descent;
+    }
+}
+
+void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
+{
+    QString data;
+    QPointF start;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        start = element.isMoveTo() ? QPointF(element) : start;
+        const char *letter = element.isMoveTo() ? "M" : element.isLineTo() ? "L" : element.isCurveTo() ? "C" : " ";
+        data += QLatin1String(letter) + number(element.x) + QLatin1Char(' ') + number(element.y);
+        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
+        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
+            data += QLatin1Char('Z');
+        }
+    }
+    QDomElement shape = append(QStringLiteral("path"));
+    shape.setAttribute(QStringLiteral("d"), data);
+    for (const auto &row : {std::make_pair("fill", paint.fill), std::make_pair("stroke", paint.line)}) {
+        const QString name = QLatin1String(row.first);
+        shape.setAttribute(name, row.second.alpha() > 0 ? row.second.name() : QStringLiteral("none"));
+        if (row.second.alpha() > 0 && row.second.alpha() < 255) {
+            shape.setAttribute(name + QLatin1String("-opacity"), number(row.second.alphaF()));
+        }
+    }
+    shape.setAttribute(QStringLiteral("stroke-width"), number(paint.lineWidth));
+    shape.setAttribute(QStringLiteral("stroke-linejoin"), QStringLiteral("round"));
+    const QVector<double> dashes[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
+    QStringList lengths;
+    for (const double length : dashes[qBound(0, paint.dashParts, 4)]) {
+        lengths.append(number(length * paint.lineWidth));
+    }
+    if (!lengths.isEmpty()) {
+        shape.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
     }
 }
 

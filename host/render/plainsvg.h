@@ -5,13 +5,20 @@
 
 #include <QColor>
 #include <QDomDocument>
+#include <QJsonObject>
 #include <QLineF>
+#include <QPainterPath>
 #include <QRectF>
 #include <QString>
 
 namespace lessonhost {
 
 class IwbMedia;
+class PlainSvg;
+struct SvgPaint;
+
+//! A drawing of one type. False for an item that doesn't tell enough for it.
+using SvgDrawing = bool (*)(PlainSvg &svg, const QJsonObject &item);
 
 /*!
  * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that
@@ -29,6 +36,9 @@ public:
 
     //! Adds an element of an IWB page. False for a picture that can't be drawn.
     bool add(const QDomElement &element);
+
+    //! With round corners and no caps, so that no tip of a line reaches further than its width does.
+    void addPath(const QPainterPath &path, const SvgPaint &paint);
 
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);

@@ -29,8 +29,9 @@ struct SlidePicture
 };
 
 /*!
- * Draws slides: what the IWB export draws of an item, mind maps as boxes and lines, and a named box for every other
- * item, so that nobody takes a gap for an empty page. Hidden items are left out.
+ * Draws slides: what the IWB export draws of an item, mind maps as boxes and lines, vector shapes and mathematics from
+ * what they hold, and a named box for every other item, so that nobody takes a gap for an empty page. Hidden items are
+ * left out.
  */
 class SlidePictures
 {

@@ -1,0 +1,57 @@
+#include "render/itemoutline.h"
+
+#include "lesson/planegeometry.h"
+
+namespace lessonhost {
+
+QTransform placeOnPage(const ItemView &item)
+{
+    if (const auto matrix = item.matrix()) {
+        return *matrix;
+    }
+    const auto box = item.box();
+    if (!box) {
+        return {};
+    }
+    const QPointF center = box->center();
+    const QTransform flips = QTransform::fromTranslate(-center.x(), -center.y())
+        * QTransform::fromScale(item.flag(QLatin1String("HorizonFlip")) ? -1 : 1,
+                                item.flag(QLatin1String("VerticalFlip")) ? -1 : 1)
+        * QTransform::fromTranslate(center.x(), center.y());
+    return flips * turnAbout(center, item.angle());
+}
+
+QTransform fitInto(const QRectF &from, const QRectF &to)
+{
+    constexpr double noLength = 1e-6;
+    const double scaleX = from.width() > noLength ? to.width() / from.width() : 1;
+    const double scaleY = from.height() > noLength ? to.height() / from.height() : 1;
+    return QTransform::fromTranslate(-from.center().x(), -from.center().y()) * QTransform::fromScale(scaleX, scaleY)
+        * QTransform::fromTranslate(to.center().x(), to.center().y());
+}
+
+QPainterPath onPage(const QPainterPath &outline, const QRectF &covered, const ItemView &item)
+{
+    const auto box = item.box();
+    const QTransform place = placeOnPage(item);
+    return (box && !box->isEmpty() ? fitInto(covered, *box) * place : place).map(outline);
+}
+
+QColor firstColor(const ItemView &item, std::initializer_list<const char *> keys, const QColor &missing)
+{
+    for (const char *key : keys) {
+        if (const auto color = item.color(QLatin1String(key))) {
+            return *color;
+        }
+    }
+    return missing;
+}
+
+double outlineWidth(const ItemView &item, QLatin1String key)
+{
+    constexpr double usual = 2;
+    constexpr double widest = 500;
+    return qBound(0.0, item.number(key, usual), widest);
+}
+
+} // namespace lessonhost

@@ -1,0 +1,14 @@
+#ifndef VECTORDRAWING_H
+#define VECTORDRAWING_H
+
+#include "render/plainsvg.h"
+
+namespace lessonhost {
+
+//! The drawing of a type of vector shapes, null for other types: each path of the item with its fill and its edge, the
+//! later over the earlier.
+SvgDrawing vectorDrawing(const QString &type);
+
+} // namespace lessonhost
+
+#endif // VECTORDRAWING_H
