@@ -6,12 +6,14 @@
 #include <QColor>
 #include <QDomDocument>
 #include <QLineF>
+#include <QPainterPath>
 #include <QRectF>
 #include <QString>
 
 namespace lessonhost {
 
 class IwbMedia;
+struct SvgPaint;
 
 /*!
  * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that
@@ -30,6 +32,11 @@ public:
     //! Adds an element of an IWB page. False for a picture that can't be drawn.
     bool add(const QDomElement &element);
 
+    //! Adds a text area of an IWB page with its lines in the middle of its height.
+    void addTextInMiddle(const QDomElement &area) { addText(area, true); }
+    //! With round corners and no caps, so that no tip of a line reaches further than its width does.
+    void addPath(const QPainterPath &path, const SvgPaint &paint);
+
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);
     //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
@@ -38,7 +45,7 @@ public:
 
 private:
     QDomElement append(const QString &tag);
-    void addText(const QDomElement &area);
+    void addText(const QDomElement &area, bool isInMiddle);
     bool addPicture(const QDomElement &image);
 
     QSizeF m_size;
