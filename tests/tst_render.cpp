@@ -64,16 +64,23 @@ private slots:
     void drawsGraphsInTheirBoxes()
     {
         const QStringList shapes =
-            QString("Rectangle Ellipse Rhombus Triangle Trapezoid Parallelogram Pentacle HeartShape Plus Minus "
-                    "Multiplication Division Equal Unequal Right Wrong SingleArrow DoubleArrow Flag Dialog1 Dialog2")
+            QString("ZQBasicRectangleItem ZQBasicEllipseItem ZQBasicRhombusItem ZQBasicTriangleItem "
+                    "ZQBasicTrapezoidItem ZQBasicParallelogramItem ZQBasicPentacleItem ZQBasicHeartShapeItem "
+                    "ZQBasicPlusItem ZQBasicMinusItem ZQBasicMultiplicationItem ZQBasicDivisionItem ZQBasicEqualItem "
+                    "ZQBasicUnequalItem ZQBasicRightItem ZQBasicWrongItem ZQBasicSingleArrowItem "
+                    "ZQBasicDoubleArrowItem ZQBasicFlagItem ZQBasicDialog1Item ZQBasicDialog2Item ZQShapeYuntu "
+                    "ZQShapeFeiji ZQShapeShizixing")
                 .split(' ');
-        const QStringList lines{"Brace", "Bracket", "Segment", "FreeDraw"};
+        const QStringList lines = QString("ZQBasicBraceItem ZQBasicBracketItem ZQBasicSegmentItem ZQBasicFreeDraw "
+                                          "ZQShapeJiankuohao ZQShapeFangkuohao ZQShapeYuankuohao ZQShapeHuakuohao")
+                                      .split(' ');
         QJsonArray slides;
-        for (const QString &name : shapes + lines) {
+        for (const QString &type : shapes + lines) {
             QJsonObject item = json("{'ID':'1','BoundingBox':'100,100,300,160','LineColor':'255,255,0,0',"
-                                    "'ArtObj_Color':'255,0,0,255','ArtObj_Width':'4','ArtObj_Point1':'100,100',"
+                                    "'ArtObj_Color0':'255,255,0,0','ArtObj_Color1':'255,0,0,255','ArtObj_Color':'255,0,"
+                                    "0,255','ArtObj_Width':'4','ArtObj_Point1':'100,100',"
                                     "'ArtObj_Point2':'300,160','FreeItem_PtnPosVec':'0,0;200,60;50,60'}");
-            item["Type"] = QString("ZQBasic" + name + (name == "FreeDraw" ? "" : "Item"));
+            item["Type"] = type;
             QJsonObject turned = item;
             turned["Angle"] = 1.5707963;
             slides.append(QJsonObject{{"Items", QJsonArray{item}}});
@@ -83,7 +90,7 @@ private slots:
                 QJsonDocument(QJsonObject{{"Width", "400"}, {"Height", "300"}, {"Slides", slides}}).toJson());
         QCOMPARE(runCommand({"render", path("graphs.json"), path("graph%d.png")}).exitCode, 0);
         for (int slide = 1; slide <= slides.size(); ++slide) {
-            const QString name = (shapes + lines).at((slide - 1) / 2);
+            const QString type = (shapes + lines).at((slide - 1) / 2);
             const QImage page(m_folder.filePath("graph%1.png"_s.arg(slide)));
             QSet<QRgb> colors;
             QRect seen;
@@ -97,11 +104,11 @@ private slots:
             }
             const bool isTurned = slide % 2 == 0;
             const QRect box = isTurned ? QRect(170, 30, 60, 200) : QRect(100, 100, 200, 60);
-            const QByteArray where = name.toUtf8() + (isTurned ? " turned" : "");
+            const QByteArray where = type.toUtf8() + (isTurned ? " turned" : "");
             QVERIFY2(box.adjusted(-3, -3, 3, 3).contains(seen), where);
             QVERIFY2(qMax(seen.width(), seen.height()) >= 199, where);
             QVERIFY2(colors.contains(QColor(Qt::red).rgb()), where);
-            QCOMPARE(colors.contains(QColor(Qt::blue).rgb()), !lines.contains(name));
+            QCOMPARE(colors.contains(QColor(Qt::blue).rgb()), !lines.contains(type));
         }
     }
 
@@ -128,7 +135,23 @@ private slots:
         row("line that isn't stretched",
             "{'Type':'ZQBasicMinusItem','BoundingBox':'0,0,9,9','Matrix':'9,0,0,1,0,0','ArtObj_Width':'3'}",
             "stroke-width=\"3.00\"");
-        row("text", "{'Type':'ZQBasicFlagItem','BoundingBox':'0,0,90,90','TextHtml':'<p>1 &lt; 2</p>'}", ">1 &lt; 2<");
+        row("text", "{'Type':'ZQBasicFlagItem','BoundingBox':'0,0,300,90','TextHtml':'<p>1 &lt; 2</p>'}", ">1 &lt; 2<");
+        row("edge of a cloud", "{'Type':'ZQShapeYuntu','BoundingBox':'0,0,9,9','ArtObj_Color1':'255,255,0,0'}",
+            "stroke=\"#ff0000\"");
+        row("bracket that opens to the left",
+            "{'Type':'ZQShapeJiankuohao','BoundingBox':'0,0,10,10','ArtObj_Direct':'1'}",
+            "\"M0.00 0.00L10.00 5.00L0.00 10.00\"");
+        row("bracket that opens nobody knows where",
+            "{'Type':'ZQShapeHuakuohao','BoundingBox':'0,0,90,90','ArtObj_Direct':'7'}", ">Brace<");
+        row("curve",
+            "{'Type':'ZQShapeQuxianjiantou','ArtObj_Arrow':'0','ArtObj_Point0x':0,'ArtObj_Point0y':0,"
+            "'ArtObj_Point1x':0,'ArtObj_Point1y':50,'ArtObj_Point2x':50,'ArtObj_Point2y':50,'ArtObj_Point3x':50,"
+            "'ArtObj_Point3y':0}",
+            "\"M0.00 0.00C0.00 50.00 50.00 50.00 50.00 0.00\"");
+        row("head at the end",
+            "{'Type':'ZQShapeZhixianjiantou','ArtObj_Point1x':0,'ArtObj_Point1y':50,'ArtObj_Point2x':90,"
+            "'ArtObj_Point2y':50}",
+            "\"M90.00 50.00L80.00 54.00L80.00 46.00L90.00 50.00Z\"");
         row("nowhere", "{'Type':'ZQBasicFlagItem'}", ">Flag<");
     }
 

@@ -18,7 +18,14 @@ struct Shape
     const char *outline;
     int corners = 0; //!< as many points in Control are the shape's corners
     bool isOpen = false; //!< a line that encloses nothing to be filled
+    const char *lineKey = "LineColor";
+    const char *fillKey = "ArtObj_Color";
 };
+
+constexpr char leftBrace[] =
+    "M 1 0 C .75 .02s .5 .08s .5 .2s L .5 .5-.2s C .5 .5-.08s .25 .5-.02s 0 .5 C .25 .5+.02s .5 .5+.08s .5 .5+.2s "
+    "L .5 1-.2s C .5 1-.08s .75 1-.02s 1 1";
+constexpr char leftBracket[] = "M 1 0 L 0 0 L 0 1 L 1 1";
 
 const Shape shapes[] = {
     {"ZQBasicRectangleItem", 0, 0, 1, 1, "M 0 0 L 1 0 L 1 1 L 0 1 Z"},
@@ -53,11 +60,8 @@ const Shape shapes[] = {
     {"ZQBasicSingleArrowItem", 0, .25, .8, .75, "M 0 .25 L 1-.5s .25 L 1-.5s 0 L 1 .5 L 1-.5s 1 L 1-.5s .75 L 0 .75 Z"},
     {"ZQBasicDoubleArrowItem", .2, .25, .8, .75,
      "M 0 .5 L .35s 0 L .35s .25 L 1-.35s .25 L 1-.35s 0 L 1 .5 L 1-.35s 1 L 1-.35s .75 L .35s .75 L .35s 1 Z"},
-    {"ZQBasicBraceItem", .5, 0, 1, 1,
-     "M 1 0 C .75 .02s .5 .08s .5 .2s L .5 .5-.2s C .5 .5-.08s .25 .5-.02s 0 .5 C .25 .5+.02s .5 .5+.08s .5 .5+.2s "
-     "L .5 1-.2s C .5 1-.08s .75 1-.02s 1 1",
-     0, true},
-    {"ZQBasicBracketItem", 0, 0, 1, 1, "M 1 0 L 0 0 L 0 1 L 1 1", 0, true},
+    {"ZQBasicBraceItem", .5, 0, 1, 1, leftBrace, 0, true},
+    {"ZQBasicBracketItem", 0, 0, 1, 1, leftBracket, 0, true},
     {"ZQBasicFlagItem", .05, .12, .95, .55,
      "M 0 1 L 0 .06 C .33 -.02 .66 .18 1 .06 L 1 .62 C .66 .74 .33 .54 .04 .62 L .04 1 Z"},
     {"ZQBasicDialog1Item", 0, 0, 1, .75,
@@ -66,6 +70,24 @@ const Shape shapes[] = {
     {"ZQBasicDialog2Item", .15, .12, .85, .68,
      "M .179 .706 C -.017 .575 -.057 .347 .084 .178 C .226 .008 .505 -.049 .731 .045 "
      "C .957 .139 1.058 .355 .966 .545 C .874 .735 .617 .839 .371 .786 L .1 1 Z"},
+    {"ZQShapeYuntu", .1, .1, .9, .9,
+     "M .584 .130 C .649 -.064 .952 .120 .807 .265 C .982 .158 1.095 .492 .890 .511 C 1.094 .540 .964 .868 "
+     ".795 .752 C .932 .905 .620 1.073 .565 .876 C .572 1.080 .224 1.010 .310 .825 C .182 .985 -.039 .709 "
+     ".147 .622 C -.055 .663 -.045 .311 .154 .363 C -.028 .266 .207 .002 .326 .169 C .250 -.021 .601 -.073 "
+     ".584 .130 Z",
+     0, false, "ArtObj_Color1", "ArtObj_Color0"},
+    {"ZQShapeFeiji", .4, .3, .6, .7,
+     "M .5 0 C .54 0 .57 .08 .57 .16 L .57 .36 L 1 .62 L 1 .73 L .57 .61 L .55 .83 L .7 .93 L .7 1 L .5 "
+     ".95 L .3 1 L .3 .93 L .45 .83 L .43 .61 L 0 .73 L 0 .62 L .43 .36 L .43 .16 C .43 .08 .46 0 .5 0 Z",
+     0, false, "ArtObj_Color0", "ArtObj_Color1"},
+    {"ZQShapeShizixing", 0, .25, 1, .75,
+     "M .5-.25s 0 L .5+.25s 0 L .5+.25s .5-.25s L 1 .5-.25s L 1 .5+.25s L .5+.25s .5+.25s L .5+.25s 1 L .5-.25s 1 "
+     "L .5-.25s .5+.25s L 0 .5+.25s L 0 .5-.25s L .5-.25s .5-.25s Z",
+     0, false, "ArtObj_Color1", "ArtObj_Color0"},
+    {"ZQShapeJiankuohao", 0, 0, 1, 1, "M 1 0 L 0 .5 L 1 1", 0, true, "ArtObj_Color0"},
+    {"ZQShapeFangkuohao", 0, 0, 1, 1, leftBracket, 0, true, "ArtObj_Color0"},
+    {"ZQShapeYuankuohao", 0, 0, 1, 1, "M 1 0 C .45 0 0 .22 0 .5 C 0 .78 .45 1 1 1", 0, true, "ArtObj_Color0"},
+    {"ZQShapeHuakuohao", 0, 0, 1, 1, leftBrace, 0, true, "ArtObj_Color0"},
 };
 
 const Shape *shapeOf(const QString &type)
@@ -77,6 +99,9 @@ const Shape *shapeOf(const QString &type)
     }
     return nullptr;
 }
+
+const QLatin1String straightArrow("ZQShapeZhixianjiantou");
+const QLatin1String curvedArrow("ZQShapeQuxianjiantou");
 
 bool isSegment(const QString &type)
 {
@@ -111,10 +136,11 @@ QPolygonF fitted(const QPolygonF &points, const std::optional<QRectF> &box)
 }
 
 // Left for right and up for down, as the item says.
-QTransform flips(const ItemView &item, const QPointF &center)
+QTransform flips(const ItemView &item, const QPointF &center, bool isMirrored = false)
 {
     QTransform flips = QTransform::fromTranslate(center.x(), center.y());
-    flips.scale(item.flag(QLatin1String("HorizonFlip")) ? -1 : 1, item.flag(QLatin1String("VerticalFlip")) ? -1 : 1);
+    flips.scale(item.flag(QLatin1String("HorizonFlip")) != isMirrored ? -1 : 1,
+                item.flag(QLatin1String("VerticalFlip")) ? -1 : 1);
     return flips.translate(-center.x(), -center.y());
 }
 
@@ -131,23 +157,29 @@ QTransform lineTransform(const ItemView &item, const std::optional<QRectF> &box)
     return flips(item, center) * placing(item, center);
 }
 
-SvgPaint paintOf(const ItemView &item, QLatin1String widthKey, QLatin1String fillKey)
+SvgPaint paintOf(const ItemView &item, QLatin1String widthKey, const char *lineKey, const char *fillKey)
 {
     SvgPaint paint;
-    paint.line = item.color(QLatin1String("LineColor")).value_or(QColor(Qt::black));
+    paint.line = item.color(QLatin1String(lineKey)).value_or(QColor(Qt::black));
     paint.fill = Qt::transparent;
     if (item.flag(ItemKeys::isFilled, true)) {
-        paint.fill = item.color(fillKey).value_or(paint.fill);
+        paint.fill = item.color(QLatin1String(fillKey)).value_or(paint.fill);
     }
     const double width = item.number(widthKey);
     paint.lineWidth = width > 0 ? width : 2;
     return paint;
 }
 
-GraphDrawing drawnShape(const ItemView &item, const Shape &shape, const QRectF &box)
+// A bracket opens to the right or, with the direction 1, to the left.
+std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape, const QRectF &box)
 {
+    const QString direction = shape.isOpen ? item.text(QLatin1String("ArtObj_Direct")) : QString();
+    const bool opensLeft = direction == QLatin1String("1");
+    if (!direction.isEmpty() && direction != QLatin1String("0") && !opensLeft) {
+        return std::nullopt;
+    }
     GraphDrawing drawing;
-    const QTransform flipped = flips(item, box.center());
+    const QTransform flipped = flips(item, box.center(), opensLeft);
     drawing.placed = placing(item, box.center());
     drawing.textArea =
         flipped.mapRect(QRectF(box.left() + shape.left * box.width(), box.top() + shape.top * box.height(),
@@ -160,7 +192,9 @@ GraphDrawing drawnShape(const ItemView &item, const Shape &shape, const QRectF &
     } else {
         path = outlineIn(box, shape.outline);
     }
-    SvgPaint paint = paintOf(item, ItemKeys::lineWidth, QLatin1String("ArtObj_Color"));
+    const double gap = qMin(6.0, drawing.textArea.width() / 12);
+    drawing.textArea.adjust(gap, 0, -gap, 0);
+    SvgPaint paint = paintOf(item, ItemKeys::lineWidth, shape.lineKey, shape.fillKey);
     if (shape.isOpen) {
         paint.fill = Qt::transparent;
     }
@@ -182,6 +216,14 @@ QPainterPath arrowHead(QLineF &line, double width)
     head.closeSubpath();
     line.setP2(base + along * 0.1);
     return head;
+}
+
+SvgPaint headPaint(const SvgPaint &line)
+{
+    SvgPaint paint;
+    paint.fill = line.line;
+    paint.line = Qt::transparent;
+    return paint;
 }
 
 // How many parts the dashes of a line style have.
@@ -208,21 +250,61 @@ std::optional<GraphDrawing> drawnSegment(const ItemView &item)
     if (!(line.length() > 0)) {
         return std::nullopt;
     }
-    SvgPaint paint = paintOf(item, item.has(ItemKeys::lineWidth) ? ItemKeys::lineWidth : ItemKeys::width, {});
-    SvgPaint headPaint;
-    headPaint.fill = paint.line;
-    headPaint.line = Qt::transparent;
+    SvgPaint paint =
+        paintOf(item, item.has(ItemKeys::lineWidth) ? ItemKeys::lineWidth : ItemKeys::width, "LineColor", "");
     const QString arrows = item.text(ItemKeys::arrows);
     if (arrows == QLatin1String("2")) {
-        drawing.parts.append({arrowHead(line, paint.lineWidth), headPaint});
+        drawing.parts.append({arrowHead(line, paint.lineWidth), headPaint(paint)});
     }
     if (arrows == QLatin1String("1") || arrows == QLatin1String("2")) {
         line = QLineF(line.p2(), line.p1());
-        drawing.parts.append({arrowHead(line, paint.lineWidth), headPaint});
+        drawing.parts.append({arrowHead(line, paint.lineWidth), headPaint(paint)});
     }
     QPainterPath path(line.p1());
     path.lineTo(line.p2());
     paint.dashParts = dashParts(item.text(QLatin1String("ArtObj_Style")));
+    drawing.parts.append({path, paint});
+    return drawing;
+}
+
+// An arrow goes from its first point to its last, with a head there unless the item says another number of them.
+std::optional<GraphDrawing> drawnArrow(const ItemView &item, int firstPoint, int lastPoint)
+{
+    QPolygonF points;
+    for (int i = firstPoint; i <= lastPoint; ++i) {
+        const QByteArray name = "ArtObj_Point" + QByteArray::number(i);
+        const QByteArray x = name + 'x';
+        const QByteArray y = name + 'y';
+        if (!item.has(QLatin1String(x)) || !item.has(QLatin1String(y))) {
+            return std::nullopt;
+        }
+        points.append(QPointF(item.number(QLatin1String(x)), item.number(QLatin1String(y))));
+    }
+    const auto box = item.box();
+    points = lineTransform(item, box).map(fitted(points, box));
+    const SvgPaint paint = paintOf(item, ItemKeys::lineWidth, "ArtObj_Color", "");
+    GraphDrawing drawing;
+    const auto addHead = [&](const QPointF &from, QPointF &tip) {
+        QLineF line(from, tip);
+        if (line.length() > 0) {
+            drawing.parts.append({arrowHead(line, paint.lineWidth), headPaint(paint)});
+            tip = line.p2();
+        }
+    };
+    const QString heads = item.text(QLatin1String("ArtObj_Arrow"));
+    const int last = points.size() - 1;
+    if (heads != QLatin1String("0")) {
+        addHead(points.at(last - 1), points[last]);
+    }
+    if (heads == QLatin1String("2")) {
+        addHead(points.at(1), points[0]);
+    }
+    QPainterPath path(points.at(0));
+    if (last == 3) {
+        path.cubicTo(points.at(1), points.at(2), points.at(3));
+    } else {
+        path.lineTo(points.at(last));
+    }
     drawing.parts.append({path, paint});
     return drawing;
 }
@@ -261,7 +343,7 @@ std::optional<GraphDrawing> drawnFreely(const ItemView &item)
     }
     const auto box = item.box();
     GraphDrawing drawing;
-    SvgPaint paint = paintOf(item, ItemKeys::lineWidth, QLatin1String("FreeItem_FillControlColor"));
+    SvgPaint paint = paintOf(item, ItemKeys::lineWidth, "LineColor", "FreeItem_FillControlColor");
     const double opacity = qBound(0.0, item.number(ItemKeys::opacity, 255) / 255, 1.0);
     for (QColor *color : {&paint.line, &paint.fill}) {
         color->setAlphaF(color->alphaF() * opacity);
@@ -274,7 +356,7 @@ std::optional<GraphDrawing> drawnFreely(const ItemView &item)
 
 bool isGraph(const QString &type)
 {
-    return shapeOf(type) || isSegment(type) || isFreeDrawing(type);
+    return shapeOf(type) || isSegment(type) || isFreeDrawing(type) || type == straightArrow || type == curvedArrow;
 }
 
 std::optional<GraphDrawing> graphDrawing(const ItemView &item)
@@ -285,6 +367,12 @@ std::optional<GraphDrawing> graphDrawing(const ItemView &item)
     }
     if (isFreeDrawing(type)) {
         return drawnFreely(item);
+    }
+    if (type == straightArrow) {
+        return drawnArrow(item, 1, 2);
+    }
+    if (type == curvedArrow) {
+        return drawnArrow(item, 0, 3);
     }
     const Shape *shape = shapeOf(type);
     const auto box = item.box();

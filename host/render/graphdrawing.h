@@ -15,7 +15,7 @@ namespace lessonhost {
 class ItemView;
 
 /*!
- * What is to be seen of a basic graph: a shape in its box, a segment or a free drawing.
+ * What is to be seen of a basic graph or a figure: a shape in its box, a segment, an arrow or a free drawing.
  */
 struct GraphDrawing
 {
