@@ -60,6 +60,112 @@ private slots:
         QVERIFY(!html.contains("<script"));
     }
 
+    // Each type in a box of 200 x 60, then in the same box turned by a right angle, in one lesson.
+    void drawsGraphsInTheirBoxes()
+    {
+        const QStringList shapes =
+            QString("ZQBasicRectangleItem ZQBasicEllipseItem ZQBasicRhombusItem ZQBasicTriangleItem "
+                    "ZQBasicTrapezoidItem ZQBasicParallelogramItem ZQBasicPentacleItem ZQBasicHeartShapeItem "
+                    "ZQBasicPlusItem ZQBasicMinusItem ZQBasicMultiplicationItem ZQBasicDivisionItem ZQBasicEqualItem "
+                    "ZQBasicUnequalItem ZQBasicRightItem ZQBasicWrongItem ZQBasicSingleArrowItem "
+                    "ZQBasicDoubleArrowItem ZQBasicFlagItem ZQBasicDialog1Item ZQBasicDialog2Item ZQShapeYuntu "
+                    "ZQShapeFeiji ZQShapeShizixing")
+                .split(' ');
+        const QStringList lines = QString("ZQBasicBraceItem ZQBasicBracketItem ZQBasicSegmentItem ZQBasicFreeDraw "
+                                          "ZQShapeJiankuohao ZQShapeFangkuohao ZQShapeYuankuohao ZQShapeHuakuohao")
+                                      .split(' ');
+        QJsonArray slides;
+        for (const QString &type : shapes + lines) {
+            QJsonObject item = json("{'ID':'1','BoundingBox':'100,100,300,160','LineColor':'255,255,0,0',"
+                                    "'ArtObj_Color0':'255,255,0,0','ArtObj_Color1':'255,0,0,255','ArtObj_Color':'255,0,"
+                                    "0,255','ArtObj_Width':'4','ArtObj_Point1':'100,100',"
+                                    "'ArtObj_Point2':'300,160','FreeItem_PtnPosVec':'0,0;200,60;50,60'}");
+            item["Type"] = type;
+            QJsonObject turned = item;
+            turned["Angle"] = 1.5707963;
+            slides.append(QJsonObject{{"Items", QJsonArray{item}}});
+            slides.append(QJsonObject{{"Items", QJsonArray{turned}}});
+        }
+        putFile(path("graphs.json"),
+                QJsonDocument(QJsonObject{{"Width", "400"}, {"Height", "300"}, {"Slides", slides}}).toJson());
+        QCOMPARE(runCommand({"render", path("graphs.json"), path("graph%d.png")}).exitCode, 0);
+        for (int slide = 1; slide <= slides.size(); ++slide) {
+            const QString type = (shapes + lines).at((slide - 1) / 2);
+            const QImage page(m_folder.filePath("graph%1.png"_s.arg(slide)));
+            QSet<QRgb> colors;
+            QRect seen;
+            for (int y = 0; y < page.height(); ++y) {
+                for (int x = 0; x < page.width(); ++x) {
+                    if (page.pixelColor(x, y) != QColor(Qt::white)) {
+                        colors.insert(page.pixel(x, y));
+                        seen |= QRect(x, y, 1, 1);
+                    }
+                }
+            }
+            const bool isTurned = slide % 2 == 0;
+            const QRect box = isTurned ? QRect(170, 30, 60, 200) : QRect(100, 100, 200, 60);
+            const QByteArray where = type.toUtf8() + (isTurned ? " turned" : "");
+            QVERIFY2(box.adjusted(-3, -3, 3, 3).contains(seen), where);
+            QVERIFY2(qMax(seen.width(), seen.height()) >= 199, where);
+            QVERIFY2(colors.contains(QColor(Qt::red).rgb()), where);
+            QCOMPARE(colors.contains(QColor(Qt::blue).rgb()), !lines.contains(type));
+        }
+    }
+
+    void drawsWhatGraphsSay_data()
+    {
+        const Table<QJsonObject, QByteArray> row("item", "drawn");
+        row("dashes", "{'Type':'ZQBasicSegmentItem2','Control':'0,0,9,9','ArtObj_Style':'2','ArtObj_Width':'4'}",
+            "stroke-dasharray=\"20.00,20.00\"");
+        row("arrow at the start",
+            "{'Type':'ZQBasicSegmentItem','ArtObj_Point1':'0,50','ArtObj_Point2':'90,50','ArtObj_ArrowType':'1'}",
+            "\"M0.00 50.00L10.00 46.00L10.00 54.00L0.00 50.00Z\"");
+        row("lines of a free drawing",
+            "{'Type':'ZQBasicFreeDraw','FreeItem_PtnPosVec':'1,1,2,2,3,3,4,4,5,5','FreeItem_PtnElemLenVec':'2,1,2',"
+            "'FreeItem_PtnConinueVec':'0,1,0'}",
+            "\"M1.00 1.00L2.00 2.00L3.00 3.00M4.00 4.00L5.00 5.00\"");
+        row("opacity", "{'Type':'ZQBasicFreeDraw','FreeItem_PtnPosVec':'1,1,2,2','Opacity':'51'}",
+            "stroke-opacity=\"0.20\"");
+        row("no fill",
+            "{'Type':'ZQBasicEllipseItem','BoundingBox':'0,0,9,9','ArtObj_Color':'255,0,0,0','ArtObj_Fill':'0'}",
+            "fill=\"none\"");
+        row("corners of its own, flipped",
+            "{'Type':'ZQBasicTriangleItem','BoundingBox':'10,10,60,60','Control':[0,0,50,0,0,50],'HorizonFlip':'1'}",
+            "\"M60.00 10.00L10.00 10.00L60.00 60.00L60.00 10.00Z\"");
+        row("line that isn't stretched",
+            "{'Type':'ZQBasicMinusItem','BoundingBox':'0,0,9,9','Matrix':'9,0,0,1,0,0','ArtObj_Width':'3'}",
+            "stroke-width=\"3.00\"");
+        row("text", "{'Type':'ZQBasicFlagItem','BoundingBox':'0,0,300,90','TextHtml':'<p>1 &lt; 2</p>'}", ">1 &lt; 2<");
+        row("edge of a cloud", "{'Type':'ZQShapeYuntu','BoundingBox':'0,0,9,9','ArtObj_Color1':'255,255,0,0'}",
+            "stroke=\"#ff0000\"");
+        row("bracket that opens to the left",
+            "{'Type':'ZQShapeJiankuohao','BoundingBox':'0,0,10,10','ArtObj_Direct':'1'}",
+            "\"M0.00 0.00L10.00 5.00L0.00 10.00\"");
+        row("bracket that opens nobody knows where",
+            "{'Type':'ZQShapeHuakuohao','BoundingBox':'0,0,90,90','ArtObj_Direct':'7'}", ">Brace<");
+        row("curve",
+            "{'Type':'ZQShapeQuxianjiantou','ArtObj_Arrow':'0','ArtObj_Point0x':0,'ArtObj_Point0y':0,"
+            "'ArtObj_Point1x':0,'ArtObj_Point1y':50,'ArtObj_Point2x':50,'ArtObj_Point2y':50,'ArtObj_Point3x':50,"
+            "'ArtObj_Point3y':0}",
+            "\"M0.00 0.00C0.00 50.00 50.00 50.00 50.00 0.00\"");
+        row("head at the end",
+            "{'Type':'ZQShapeZhixianjiantou','ArtObj_Point1x':0,'ArtObj_Point1y':50,'ArtObj_Point2x':90,"
+            "'ArtObj_Point2y':50}",
+            "\"M90.00 50.00L80.00 54.00L80.00 46.00L90.00 50.00Z\"");
+        row("nowhere", "{'Type':'ZQBasicFlagItem'}", ">Flag<");
+    }
+
+    void drawsWhatGraphsSay()
+    {
+        QFETCH(QJsonObject, item);
+        QFETCH(QByteArray, drawn);
+        const QJsonObject slide{{"Items", QJsonArray{item}}};
+        putFile(path("graph.json"), QJsonDocument(QJsonObject{{"Slides", QJsonArray{slide}}}).toJson());
+        QCOMPARE(runCommand({"render", path("graph.json"), path("graph.svg")}).exitCode, 0);
+        const QByteArray svg = fileContent(path("graph.svg"));
+        QVERIFY2(svg.contains(drawn), svg);
+    }
+
     // Few files are open at a time, however many pictures there are.
     void writesManyPictures()
     {

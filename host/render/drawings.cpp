@@ -1,6 +1,8 @@
 #include "render/drawings.h"
 
+#include "lesson/closedtext.h"
 #include "lesson/itemview.h"
+#include "render/graphdrawing.h"
 #include "render/mathdrawing.h"
 #include "render/plainsvg.h"
 #include "render/vectordrawing.h"
@@ -35,7 +37,7 @@ Drawings::Draw Drawings::drawingOf(const QString &type)
     static const QHash<QString, Draw> table{
         {QStringLiteral("ZQMindMapItem"), &Drawings::drawMindMap},
     };
-    return table.value(type, &Drawings::drawIwb);
+    return table.value(type, isGraph(type) ? &Drawings::drawGraph : &Drawings::drawIwb);
 }
 
 bool Drawings::draw(const QJsonObject &item)
@@ -70,6 +72,36 @@ bool Drawings::drawIwb(const QJsonObject &item)
     QDomDocument document = m_pages.document();
     const QDomElement element = m_pages.items().write(document, item, {}, {});
     return isSeen(element) && m_svg.add(element);
+}
+
+bool Drawings::drawGraph(const QJsonObject &item)
+{
+    const ItemView view(item);
+    const auto graph = graphDrawing(view);
+    if (!graph) {
+        return false;
+    }
+    for (const GraphDrawing::Part &part : graph->parts) {
+        m_svg.addPath(part.path, part.paint);
+    }
+    if (!graph->textArea.isEmpty()) {
+        drawText(view.text(ItemKeys::html), graph->textArea, graph->placed);
+    }
+    return true;
+}
+
+// A text board without a frame, in the middle of the area's height.
+void Drawings::drawText(const QString &html, const QRectF &area, const QTransform &placed)
+{
+    if (plainWords(html).isEmpty()) {
+        return;
+    }
+    QDomDocument document = m_pages.document();
+    const QJsonObject board{{ItemKeys::type, QStringLiteral("ZQTextBoard")},
+                            {ItemKeys::box, boxText(area)},
+                            {ItemKeys::matrix, transformText(placed)},
+                            {ItemKeys::html, html}};
+    m_svg.addTextInMiddle(m_pages.items().write(document, board, {}, {}));
 }
 
 // The picture on an item that has no drawing: a picture item in its box, or an empty object.

@@ -28,6 +28,8 @@ private:
     bool drawFromTables(const QJsonObject &item);
     bool drawIwb(const QJsonObject &item);
     bool drawMindMap(const QJsonObject &item) { return m_boxes.drawMindMap(item); }
+    bool drawGraph(const QJsonObject &item);
+    void drawText(const QString &html, const QRectF &area, const QTransform &placed);
     QJsonObject pictureOn(const QJsonObject &item) const;
 
     PlainSvg &m_svg;

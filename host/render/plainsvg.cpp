@@ -93,6 +93,30 @@ QFont fontOf(const QDomElement &span)
     return font;
 }
 
+struct LineSize
+{
+    double ascent = 0;
+    double descent = 0;
+    double width = 0;
+
+    double height() const { return ascent + descent; }
+};
+
+LineSize sizeOf(const Line &line)
+{
+    if (line.isEmpty()) {
+        return {defaultFontPixels, 6, 0};
+    }
+    LineSize size;
+    for (const Piece &piece : line) {
+        const QFontMetricsF metrics(piece.font);
+        size.ascent = qMax(size.ascent, metrics.ascent());
+        size.descent = qMax(size.descent, metrics.descent());
+        size.width += piece.width;
+    }
+    return size;
+}
+
 // Where the next word ends, the blanks behind it included. Wide scripts have no blanks: each of their letters is a
 // word.
 int wordEnd(const QString &text, int from)
@@ -185,7 +209,7 @@ bool PlainSvg::add(const QDomElement &element)
 {
     const QString tag = withoutPrefix(element.tagName());
     if (tag == QLatin1String("textarea")) {
-        addText(element);
+        addText(element, false);
     } else if (tag == QLatin1String("image")) {
         return addPicture(element);
     } else if (isOneOf(keptTags, tag)) {
@@ -214,7 +238,7 @@ bool PlainSvg::addPicture(const QDomElement &image)
     return true;
 }
 
-void PlainSvg::addText(const QDomElement &area)
+void PlainSvg::addText(const QDomElement &area, bool isInMiddle)
 {
     const double left = area.attribute(QStringLiteral("x")).toDouble();
     double y = area.attribute(QStringLiteral("y")).toDouble();
@@ -227,27 +251,29 @@ void PlainSvg::addText(const QDomElement &area)
     for (const char *name : {"x", "y", "width", "height", "fill"}) {
         group.removeAttribute(QLatin1String(name));
     }
-    for (const Line &line : linesOf(area, width)) {
-        double ascent = line.isEmpty() ? defaultFontPixels : 0;
-        double descent = line.isEmpty() ? 6 : 0;
-        double used = 0;
-        for (const Piece &piece : line) {
-            const QFontMetricsF metrics(piece.font);
-            ascent = qMax(ascent, metrics.ascent());
-            descent = qMax(descent, metrics.descent());
-            used += piece.width;
+    const QVector<Line> lines = linesOf(area, width);
+    if (isInMiddle) {
+        double space = area.attribute(QStringLiteral("height")).toDouble();
+        for (const Line &line : lines) {
+            space -= sizeOf(line).height();
         }
+        y += qMax(0.0, space / 2);
+    }
+    for (const Line &line : lines) {
+        const LineSize size = sizeOf(line);
         double x = left;
         if (!line.isEmpty()) {
             const Qt::AlignmentFlag align =
                 textAlignment(line.constFirst().span.attribute(QStringLiteral("text-align")));
-            x += align == Qt::AlignRight ? width - used : align == Qt::AlignHCenter ? (width - used) / 2 : 0;
+            x += align == Qt::AlignRight    ? width - size.width
+                : align == Qt::AlignHCenter ? (width - size.width) / 2
+                                            : 0;
         }
         for (const Piece &piece : line) {
             QDomElement text = m_document.createElement(QStringLiteral("text"));
             group.appendChild(text);
             text.setAttribute(QStringLiteral("x"), number(x));
-            text.setAttribute(QStringLiteral("y"), number(y + ascent));
+            text.setAttribute(QStringLiteral("y"), number(y + size.ascent));
             text.setAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
             text.setAttribute(QStringLiteral("font-family"), piece.font.family());
             text.setAttribute(QStringLiteral("font-size"), number(pixelSize(piece.span)));
@@ -264,21 +290,21 @@ void PlainSvg::addText(const QDomElement &area)
             text.appendChild(m_document.createTextNode(piece.text));
             // Drawn, since not every viewer knows the attribute.
             const QString decoration = piece.span.attribute(QStringLiteral("text-decoration"));
-            const double size = pixelSize(piece.span);
+            const double letters = pixelSize(piece.span);
             for (const auto &row : {std::make_pair("underline", 0.12), std::make_pair("line-through", -0.3)}) {
                 if (decoration.contains(QLatin1String(row.first))) {
                     QDomElement rule = m_document.createElement(QStringLiteral("rect"));
                     group.appendChild(rule);
                     rule.setAttribute(QStringLiteral("x"), number(x));
-                    rule.setAttribute(QStringLiteral("y"), number(y + ascent + row.second * size));
+                    rule.setAttribute(QStringLiteral("y"), number(y + size.ascent + row.second * letters));
                     rule.setAttribute(QStringLiteral("width"), number(piece.width));
-                    rule.setAttribute(QStringLiteral("height"), number(size * 0.06));
+                    rule.setAttribute(QStringLiteral("height"), number(letters * 0.06));
                     rule.setAttribute(QStringLiteral("fill"), text.attribute(QStringLiteral("fill")));
                 }
             }
             x += piece.width;
         }
-        y += ascent + descent;
+        y += size.height();
     }
 }
 

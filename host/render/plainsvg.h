@@ -37,6 +37,8 @@ public:
     //! Adds an element of an IWB page. False for a picture that can't be drawn.
     bool add(const QDomElement &element);
 
+    //! Adds a text area of an IWB page with its lines in the middle of its height.
+    void addTextInMiddle(const QDomElement &area) { addText(area, true); }
     //! With round corners and no caps, so that no tip of a line reaches further than its width does.
     void addPath(const QPainterPath &path, const SvgPaint &paint);
 
@@ -48,7 +50,7 @@ public:
 
 private:
     QDomElement append(const QString &tag);
-    void addText(const QDomElement &area);
+    void addText(const QDomElement &area, bool isInMiddle);
     bool addPicture(const QDomElement &image);
 
     QSizeF m_size;
