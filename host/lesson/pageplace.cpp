@@ -16,24 +16,54 @@ namespace lessonhost {
 
 namespace {
 
-// A missing value is as good as a whole one.
-bool isWhole(const QJsonObject &item, QLatin1String key, bool (*isCount)(int count))
+// The numbers of a key, none where it is missing; nothing where they are wrong.
+std::optional<QVector<double>> placeNumbers(const QJsonObject &item, QLatin1String key)
 {
     const QJsonValue value = item.value(key);
-    const auto numbers = wholeNumbers(value);
-    return isEmptyValue(value) || (numbers && isCount(numbers->size()));
+    if (isEmptyValue(value)) {
+        return QVector<double>();
+    }
+    QString text = valueText(value);
+    if (key != ItemKeys::polyline || value.isArray() || text.at(text.size() - 1).isDigit()) {
+        return wholeNumbers(value);
+    }
+    text.chop(1); // the one character more of a polyline
+    return wholeNumbers(text);
 }
 
-// Wrong values would become good ones in silence.
+double largest(const QVector<double> &numbers)
+{
+    double result = 0;
+    for (const double number : numbers) {
+        result = qMax(result, qAbs(number));
+    }
+    return result;
+}
+
+// What can be worked in: wrong values would become good ones in silence, and far places lose their last digits.
 bool hasWholePlace(const QJsonObject &item)
 {
-    const auto isOne = [](int count) { return count == 1; };
-    const auto arePairs = [](int count) { return count % 2 == 0; };
-    const bool isShape = shapeForm(item.value(ItemKeys::type).toString()) != nullptr;
-    return isWhole(item, ItemKeys::matrix, [](int count) { return count == 6; })
-        && isWhole(item, ItemKeys::box, [](int count) { return count == 4; }) && isWhole(item, ItemKeys::width, isOne)
-        && isWhole(item, ItemKeys::steps, arePairs)
-        && (!isShape || (isWhole(item, ItemKeys::control, arePairs) && isWhole(item, ItemKeys::polyline, arePairs)));
+    constexpr double farthest = 1e9;
+    const auto matrix = placeNumbers(item, ItemKeys::matrix);
+    const auto box = placeNumbers(item, ItemKeys::box);
+    const auto width = placeNumbers(item, ItemKeys::width);
+    const bool isSized = box && (box->isEmpty() || box->size() == 4) && width && width->size() <= 1;
+    if (!matrix || matrix->size() != 6 || !isSized) {
+        return false;
+    }
+    QVector<double> all = *box + *width;
+    QVector<QLatin1String> pointKeys{ItemKeys::steps};
+    if (shapeForm(item.value(ItemKeys::type).toString())) {
+        pointKeys += {ItemKeys::control, ItemKeys::polyline};
+    }
+    for (const QLatin1String key : qAsConst(pointKeys)) {
+        const auto numbers = placeNumbers(item, key);
+        if (!numbers || numbers->size() % 2 != 0) {
+            return false;
+        }
+        all += *numbers;
+    }
+    return largest(matrix->mid(0, 4)) * largest(all) + largest(matrix->mid(4)) <= farthest;
 }
 
 bool isPlain(const QTransform &matrix)
@@ -79,8 +109,13 @@ void setPoints(QJsonObject &item, const ShapeForm &form, const QPolygonF &points
     if (form.outline == ShapeForm::Polyline) {
         item.insert(ItemKeys::polyline, QString(pointsText(points) + QLatin1Char(',')));
     } else if (form.outline == ShapeForm::Angle && points.size() == 3) {
-        item.insert(ItemKeys::control,
-                    numbersOf(QPolygonF() << points.at(0) - points.at(2) << points.at(1) - points.at(2)));
+        QJsonArray numbers = numbersOf(QPolygonF() << points.at(0) - points.at(2) << points.at(1) - points.at(2));
+        // What stands behind the two arms isn't drawn, but is the lesson's.
+        const QVector<double> given = ItemView(item).numbers(ItemKeys::control);
+        for (int i = numbers.size(); i < given.size(); ++i) {
+            numbers.append(given.at(i));
+        }
+        item.insert(ItemKeys::control, numbers);
     } else {
         item.insert(ItemKeys::control, numbersOf(points));
     }
