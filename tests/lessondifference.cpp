@@ -687,7 +687,10 @@ private:
             const Place place{number, item.type(), item.id(), m_road};
             if (places.at(i) < 0) {
                 // An item that no others may be in is told by its key.
-                const bool isOfKey = item.around >= 0 && !isContainer(givenItems.at(item.around).type());
+                bool isOfKey = false;
+                for (int around = item.around; around >= 0 && !isOfKey; around = givenItems.at(around).around) {
+                    isOfKey = !isContainer(givenItems.at(around).type());
+                }
                 m_differences.append({number, item.type(), item.id(), {}, "the item", "nothing", isOfKey});
                 continue;
             }
@@ -803,7 +806,10 @@ private:
         const bool hasMatrix = !saysNothing(keys.value("Matrix")) && matrix && !matrix->isIdentity();
         const bool isPlaced = m_road == Road::Drawn || (m_road == Road::Packed && !saysNothing(keys.value("Matrix")));
         if (isPlaced && isSameDrawing(drawing(keys), drawing(back))) {
-            removePlace(place, {}, keys, back);
+            // A shape of one point draws nothing, wherever it is told to stand.
+            const auto points = pointsOf(keys.value("Control"));
+            const bool isPoint = m_road == Road::Packed && hasOwnPoints(place.type) && points && points->size() < 2;
+            removePlace(place, isPoint ? QString("Type") : QString(), keys, back);
         } else if (m_road == Road::Drawn
                    && (place.type.contains("Normal") || place.type.contains("Parallel")
                        || place.type == "ZQMath2DAngle")) {
@@ -857,7 +863,8 @@ private:
             !saysNothing(given.value("Matrix")) && !saysNothing(given.value("Angle")) && !isTurnOfMatrix;
         const QStringList keys = given.keys() + found.keys();
         for (const QString &key : keys) {
-            const bool isOwn = m_road == Road::Drawn || key != "Control" || hasOwnPoints(place.type);
+            const bool isOwn =
+                m_road == Road::Drawn || key != "Control" || hasOwnPoints(place.type) || place.type == "ZQMath2DAngle";
             if (isOwn && isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
                 const QJsonValue wrong = given.take(key);
                 found.remove(key);
