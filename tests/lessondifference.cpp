@@ -404,8 +404,8 @@ void compare(const Place &place, const QString &way, const QString &key, const Q
 // As a parser reads it, and as it is written. A list of numbers is their text.
 QString idText(const QJsonValue &id)
 {
-    if (id.toString().startsWith(numberMark)) {
-        return *plainText(id.toString().mid(1).toDouble());
+    if (id.isDouble() || id.toString().startsWith(numberMark)) {
+        return *plainText(id.isDouble() ? id.toDouble() : id.toString().mid(1).toDouble());
     }
     QStringList numbers;
     const QVector<double> list = id.isArray() ? numbersOf(id).value_or(QVector<double>()) : QVector<double>();
