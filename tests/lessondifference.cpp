@@ -727,6 +727,7 @@ private:
             [](const Item &one, const Item &other) { return !one.id().isEmpty() && one.id() == other.id(); },
             [](const Item &one, const Item &other) { return other.id().startsWith(one.id() + '_'); },
             [](const Item &one, const Item &other) { return one.type() == other.type(); },
+            [](const Item &one, const Item &other) { return one.id().isEmpty() && other.id().isEmpty(); },
         };
         for (const IsSame isSame : ways) {
             for (int i = 0; i < given.size(); ++i) {
@@ -823,7 +824,7 @@ private:
         // Ink under a matrix is as much wider as its points are farther apart.
         const auto width = numbersOf(keys.value("Width"));
         const auto widthBack = numbersOf(back.value("Width"));
-        if (m_road == Road::Packed && hasMatrix && width && width->size() == 1 && pointsOf(keys.value("XY"))
+        if (m_road == Road::Packed && hasMatrix && width && width->size() == 1 && pointsOf(given.keys.value("XY"))
             && widthBack && widthBack->size() == 1) {
             const double wide = width->first() * std::sqrt(std::fabs(matrix->determinant()));
             if (std::fabs(widthBack->first() - wide) <= 1e-9 * wide) {
