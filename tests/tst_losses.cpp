@@ -397,6 +397,18 @@ void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonOb
     }
 }
 
+// The number of a list that a control point goes into, in single precision, or what the item has under the same name.
+bool isSameControl(const QString &name, const QString &text, const QJsonObject &item)
+{
+    static const QRegularExpression control("^Discipline_([xy])Control(0|[1-9][0-9]*)$");
+    const QRegularExpressionMatch match = control.match(name);
+    bool isNumber = false;
+    const float number = text.toFloat(&isNumber);
+    const int place = 2 * match.captured(2).toInt() + (match.captured(1) == "y" ? 1 : 0);
+    const QJsonValue found = item.value("Control").toArray().at(place);
+    return match.hasMatch() && isNumber && found.isDouble() && float(found.toDouble()) == number;
+}
+
 // The last value of a key in a list of records.
 QJsonValue valueInList(const QJsonValue &list, const QString &key)
 {
@@ -437,7 +449,8 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
         const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key)
             : known.isEmpty() && place.path.size() > 1      ? QJsonValue(QJsonValue::Undefined)
                                                             : item.value(key);
-        const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed);
+        const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed)
+            || (place.path.size() == 1 && isSameControl(last, place.text, item));
         // What is there twice may be told once.
         const bool isRepeated = seen.contains(place.path);
         const bool isMinor = isSame || place.text.isEmpty() || workedOut.contains(key) || found.size() > 1;
