@@ -639,6 +639,12 @@ QDomElement RandomLesson::rawItem(QDomDocument &document, int depth)
         }
         putRaw(document, item, places.value(key).toArray(), m_isOdd && oneIn(4) ? oddText().remove('\x01') : text);
     }
+    for (int i = oneIn(3) ? m_random.bounded(4) : 0; i > 0; --i) {
+        for (const char *name : {"Discipline_xControl", "Discipline_yControl"}) {
+            item.setAttribute(name + QString::number(i - 1),
+                              m_isOdd && oneIn(12) ? oddText().remove('\x01') : number());
+        }
+    }
     if (isGroup) {
         QDomNode sons = item.appendChild(document.createElement("GroupSonItems"));
         for (int i = m_random.bounded(4); i > 0; --i) {

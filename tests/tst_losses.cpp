@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QLoggingCategory>
+#include <QTransform>
 #include <QtTest>
 
 #include <cmath>
@@ -359,12 +360,24 @@ QString keyOfPlace(const QJsonObject &keyPlaces, const QJsonArray &place)
     return {};
 }
 
+QVector<double> numbersIn(const QString &text)
+{
+    QVector<double> numbers;
+    const QStringList parts = text.split(',');
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        numbers.append(part.toDouble(&isNumber));
+        if (!isNumber || !std::isfinite(numbers.last())) {
+            return {};
+        }
+    }
+    return numbers;
+}
+
 // The alpha of a raw page's colour doesn't count.
 QString withoutAlpha(const QString &color)
 {
-    bool isNumber = false;
-    const double alpha = color.section(',', 0, 0).toDouble(&isNumber);
-    return color.count(',') == 3 && isNumber && std::isfinite(alpha) ? color.section(',', 1) : color;
+    return numbersIn(color).size() == 4 ? color.section(',', 1) : color;
 }
 
 // What the model says otherwise than the attributes of a raw slide or presentation of the same names, and elements of
@@ -395,6 +408,68 @@ void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonOb
     for (const RawPlace &place : qAsConst(places)) {
         differences.append({slide, element.tagName(), {}, place.way(), place.text, {}, place.text.isEmpty()});
     }
+}
+
+// The number of a list that a control point goes into, in single precision, or what the item has under the same name.
+bool isSameControl(const QString &name, const QString &text, const QJsonObject &item)
+{
+    static const QRegularExpression control("^Discipline_([xy])Control(0|[1-9][0-9]*)$");
+    const QRegularExpressionMatch match = control.match(name);
+    bool isNumber = false;
+    const float number = text.toFloat(&isNumber);
+    const int place = 2 * match.captured(2).toInt() + (match.captured(1) == "y" ? 1 : 0);
+    const QJsonValue found = item.value("Control").toArray().at(place);
+    return match.hasMatch() && isNumber && found.isDouble() && float(found.toDouble()) == number;
+}
+
+std::optional<QTransform> matrixIn(const QString &text)
+{
+    const QVector<double> n = numbersIn(text.isNull() ? "1,0,0,1,0,0" : text);
+    return n.size() == 6 ? std::optional<QTransform>({n[0], n[1], n[2], n[3], n[4], n[5]}) : std::nullopt;
+}
+
+bool isNear(const QTransform &one, const QTransform &other)
+{
+    const QVector<QPointF> corners{{0, 0}, {1000, 0}, {0, 1000}};
+    for (const QPointF &corner : corners) {
+        if (QLineF(one.map(corner), other.map(corner)).length() > 0.05) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The attribute by which an item stands elsewhere than the raw one did; empty where it stands where it stood, or where
+// its place is no box under a matrix.
+QString misplacedBy(const QDomElement &element, const QJsonObject &keyPlaces, const QJsonObject &item)
+{
+    const QVector<double> bound = numbersIn(element.attribute("Bound"));
+    const QVector<double> box = numbersIn(item.value("BoundingBox").toString());
+    const auto own = matrixIn(element.attribute("TransformMatrix", QString()));
+    const auto fit = matrixIn(item.value("SlideMatrix").toString(QString()));
+    const auto matrix = matrixIn(item.value("Matrix").toString(QString()));
+    // Vector shapes and figures have a matrix of their own in many attributes.
+    const bool hasInner = element.tagName().startsWith("ZQVector") || element.tagName().startsWith("ZQShape");
+    if (hasInner || keyPlaces.value("Matrix").toArray() != QJsonArray{"TransformMatrix"} || !own || !fit || !matrix
+        || bound.size() != 6 || bound[2] != 0 || bound[3] != 0) {
+        return {};
+    }
+    const QTransform onPage = *own * *fit;
+    if (!isNear(onPage, *matrix) && (!matrix->isIdentity() || box.size() != 4)) {
+        return "@TransformMatrix";
+    }
+    const QRectF given({bound[4], bound[5]}, QPointF(bound[0], bound[1]));
+    const QRectF found = box.size() == 4 ? QRectF({box[0], box[1]}, QPointF(box[2], box[3])) : QRectF();
+    const bool isFolded = !isNear(onPage, *matrix);
+    const QPolygonF before = isFolded ? onPage.map(QPolygonF(given)) : QPolygonF(given);
+    const QPolygonF after(found);
+    for (int i = 0; i < before.size(); ++i) {
+        const double size = 1 + qAbs(before[i].x()) + qAbs(before[i].y());
+        if (QLineF(before[i], after[i]).length() > 1e-4 * size) {
+            return isFolded ? "@TransformMatrix" : "@Bound";
+        }
+    }
+    return {};
 }
 
 // The last value of a key in a list of records.
@@ -437,7 +512,8 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
         const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key)
             : known.isEmpty() && place.path.size() > 1      ? QJsonValue(QJsonValue::Undefined)
                                                             : item.value(key);
-        const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed);
+        const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed)
+            || (place.path.size() == 1 && isSameControl(last, place.text, item));
         // What is there twice may be told once.
         const bool isRepeated = seen.contains(place.path);
         const bool isMinor = isSame || place.text.isEmpty() || workedOut.contains(key) || found.size() > 1;
@@ -446,6 +522,10 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
             differences.append(
                 {slide, element.tagName(), id, place.way(), place.text, toText(QJsonObject{{key, value}}), isMinor});
         }
+    }
+    const QString misplaced = isKept || found.size() > 1 ? QString() : misplacedBy(element, keyPlaces, item);
+    if (!misplaced.isEmpty()) {
+        differences.append({slide, element.tagName(), id, misplaced, "a place", "another"});
     }
     const QDomElement sons = element.firstChildElement("GroupSonItems");
     for (QDomElement son = sons.firstChildElement(); !son.isNull(); son = son.nextSiblingElement()) {
