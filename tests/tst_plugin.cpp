@@ -34,27 +34,14 @@ private slots:
     void newElementsShareNoDocument_data()
     {
         const Table<QJsonObject> row("item");
-        for (const char *type : {"ZQSmoothStroke",
-                                 "ZQStrokesMathFormula",
-                                 "ZQGroupItem",
-                                 "ZQTextBoard",
-                                 "ZQImagePic",
-                                 "ZQMath2DCircle",
-                                 "ZQVectorJuxing",
-                                 "ZQLiteratureYinbiao",
-                                 "General:everCard",
-                                 "ZQMindMapItem",
-                                 "ZQBasicTriangleItem",
-                                 "ZQActiveContainerItem",
-                                 "ZQActivityFlipItem",
-                                 "ZQChineseCharacterItem",
-                                 "ZQWordLatticeItem",
-                                 "ZQChinesePhoneticItem",
-                                 "ZQChineseAlphabetItem",
-                                 "ZQFormulaEditorItem",
-                                 "ZQDyCoursewareItem",
-                                 "ZQQuestionItem"}) {
-            row(type, QJsonObject{{"Type", type}});
+        const QString types = "ZQSmoothStroke ZQStrokesMathFormula ZQGroupItem ZQTextBoard ZQImagePic ZQMath2DCircle "
+                              "ZQVectorJuxing ZQLiteratureYinbiao General:everCard ZQMindMapItem ZQBasicTriangleItem "
+                              "ZQActiveContainerItem ZQActivityFlipItem ZQChineseCharacterItem ZQWordLatticeItem "
+                              "ZQChinesePhoneticItem ZQChineseAlphabetItem ZQFormulaEditorItem ZQDyCoursewareItem "
+                              "ZQQuestionItem"_s;
+        const QStringList all = types.split(' ');
+        for (const QString &type : all) {
+            row(type.toUtf8(), QJsonObject{{"Type", type}});
         }
         row("with attachments", "{'Type':'ZQActivityFlipItem','attachments':{'back':'a'}}");
         row("with a question", "{'Type':'ZQQuestionItem','R_Content_svg':'a'}");
