@@ -52,7 +52,7 @@ private slots:
         QFETCH(const QJsonObject, item);
         const QDomElement element = plugin()->tranItemJSON2ZQTX({}, item);
         const QString expected = toText(element);
-        QVERIFY(!element.isNull());
+        QVERIFY(!element.isNull() && element.previousSibling().isNull() && element.nextSibling().isNull());
         QDomDocument document = element.ownerDocument();
         document.documentElement().setAttribute("strange", "1");
         QCOMPARE(toText(plugin()->tranItemJSON2ZQTX({}, item)), expected);
