@@ -1,5 +1,6 @@
 #include "hostfixture.h"
 
+#include "files/ziparchive.h"
 #include "formats/conversion.h"
 
 #include <QDir>
@@ -37,6 +38,23 @@ CommandProcess::Outcome runCommand(const QStringList &arguments, const QString &
 QStringList hiddenEntries(const QString &folder)
 {
     return QDir(folder).entryList({".*"}, QDir::Hidden | QDir::AllEntries | QDir::NoDotAndDotDot);
+}
+
+QMap<QString, QByteArray> contentOfTarget(const QString &target)
+{
+    if (QFileInfo(target).isDir()) {
+        return filesBelow(target);
+    }
+    if (!target.endsWith(".zqtx") && !target.endsWith(".iwb")) {
+        return {{QString(), fileContent(target)}};
+    }
+    const QTemporaryDir unpacked;
+    try {
+        unpackZip(target, unpacked.path());
+    } catch (const LessonError &error) {
+        return {{error.message(), {}}};
+    }
+    return filesBelow(unpacked.path());
 }
 
 std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses)

@@ -45,6 +45,9 @@ CommandProcess::Outcome runCommand(const QStringList &arguments, const QString &
 //! The names of hidden files and folders, which only a run that was cut off leaves.
 QStringList hiddenEntries(const QString &folder);
 
+//! All that is at a target, by the path in it; archives hold times, so theirs is what they unpack to.
+QMap<QString, QByteArray> contentOfTarget(const QString &target);
+
 //! The reader of a lesson, in the format that its name tells. Throws LessonError.
 std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses = nullptr);
 

@@ -133,24 +133,7 @@ private slots:
             "{'type':'Comparison','matchs':[[{'id':'1','condition':'3'},{'id':'2'},{'id':'3','symbol':'='},"
             "{'id':'4'},{'id':'5','condition':'3'}],[{'id':'6'}]]}",
             {"activity.matchs[0][1]", "activity.matchs[0][3]", "activity.matchs[1][0]"});
-        row("a row with both",
-            "{'type':'Comparison','matchs':[[{'id':'1','condition':'3','symbol':'='},{'id':'2','symbol':'<'}]]}",
-            {"activity.matchs[0][0].symbol"});
-        row("material without its place for text",
-            "{'type':'Grouping','templet':{'material':{'font_color':'#f','path':'a.png'}}}",
-            {"activity.templet.material"});
-        row("a text that no form takes", "{'type':'PronunciationGame','matchs':['a','b']}",
-            {"activity.matchs[0]", "activity.matchs[1]"});
-        row("colours of what matches nothing",
-            "{'type':'Grouping','unmatchs':[{'materials':[{'id':'1','juxtaposedColor':'#f'},{'id':'2'}]}]}",
-            {"activity.unmatchs[0].materials[0].juxtaposedColor"});
-        row("a group of answers with two names",
-            "{'type':'Grouping','matchs':[{'answers':[{'a':['1'],'b':['2']},{}]}]}",
-            {"activity.matchs[0].answers[0].b"});
-        row("two backgrounds", "{'background':'a.png','templet':{'background':'b.png'}}", {"activity.background"});
         row("one background beside its place", "{'background':'/i/Canvas/a.png','templet':{'index':'1'}}", {});
-        row("numbers and flags",
-            "{'type':'Judgment','countdown':5,'templet':{'index':2},'matchs':[{'question':7,'answer':true}]}", {});
     }
 
     void lossesAreNamed()

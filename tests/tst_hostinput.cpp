@@ -1,6 +1,5 @@
 #include "files/folder.h"
 #include "hostfixture.h"
-#include "ziptext.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -90,13 +89,6 @@ private slots:
              R"({"Slides": [], "Resources": {"../a.png": ""}})");
         json("resource that is no base64", {"in.json", "a.png", "base64"},
              R"({"Slides": [], "Resources": {"a.png": "!!!"}})");
-
-        QByteArray damaged = zipText({{"index.xml", "<main/>", false}});
-        row("no archive", "in.zqtx", {"in.zqtx", "no zip archive"}, {{"in.zqtx", "PK, or so it says"}});
-        row("damaged archive", "in.zqtx", {"in.zqtx", "index.xml", "damaged"},
-            {{"in.zqtx", damaged.replace("<main/>", "<mein/>")}});
-        row("archive that leads out", "in.zqtx", {"in.zqtx", "../evil.xml", "leads out"},
-            {{"in.zqtx", zipText({{"../evil.xml", ""}})}});
 
         row("unknown format", "in.doc", {"in.doc", "--from"}, {{"in.doc", "a letter"}});
         row("wrong root of raw XML", "in.xml", {"in.xml", "<lesson>", "<presentation>"}, {{"in.xml", "<lesson/>"}});
@@ -294,21 +286,6 @@ private slots:
         QCOMPARE(filesBelow(m_folder->path()), before);
     }
 
-    void replacesALessonWholeAndSweepsAfterKilledRuns()
-    {
-        putFile(path("in.json"), R"({"Slides": [{"ID": "new"}]})");
-        putFile(path("out/index.xml"), "<main/>");
-        putFile(path("out/slides/old.xml"), "<slide/>");
-        putFile(path(".lessonconv-dead/package/index.xml"), "<main/>");
-        // The lock of a process that can't exist any more.
-        putFile(path(".lessonconv-dead.lock"),
-                "4194304999\nlessonconv\n" + QSysInfo::machineHostName().toUtf8() + "\n");
-
-        QCOMPARE(convert("in.json", "out").exitCode, 0);
-        QCOMPARE(QDir(path("out/slides")).entryList(QDir::Files), QStringList("new.xml"));
-        QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
-    }
-
     void tellsOfALessonThatIsCutShortWhileItIsRead()
     {
         const QString file = path("in.json");
@@ -322,19 +299,6 @@ private slots:
             QVERIFY2(error.message().contains(file) && error.message().contains("cut short"),
                      qPrintable(error.message()));
         }
-    }
-
-    // Empty texts, lists and objects count as none; false and 0 are values.
-    void findsLostValuesOfEachKind()
-    {
-        putFile(path("in.json"), R"({"Version": "3.0", "Slides": [{"ID": "1", "Items": [{"Type": "ZQSmoothStroke",
-            "ID": "7", "A": 2.5, "B": true, "C": [1, [2]], "D": {"x": 1}, "E": "", "F": [], "G": {}, "H": null,
-            "I": false, "J": 0}]}]})");
-        QByteArray expected("lessonconv: 6 values lost");
-        for (const char key : {'A', 'B', 'C', 'D', 'I', 'J'}) {
-            expected += (key == 'A' ? ": ZQSmoothStroke." : ", ZQSmoothStroke.") + QByteArray(1, key) + " on slide 1";
-        }
-        QCOMPARE(convert("in.json", "out").errors, QString(expected + '\n'));
     }
 
     void tellsLossesByExitCodeAndReport()

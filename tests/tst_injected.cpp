@@ -1,4 +1,3 @@
-#include "files/ziparchive.h"
 #include "hostfixture.h"
 
 #include <QDir>
@@ -35,31 +34,17 @@ void copyTree(const QString &from, const QString &to)
     }
 }
 
-// All that is at a target, without the times and the numbers made of them that some formats hold.
-Contents contentOf(const QString &target)
+// What is at a target, without the times and the numbers made of them that some formats hold.
+Contents timelessContentOf(const QString &target)
 {
-    const auto timeless = [](const Contents &files) {
-        static const QRegularExpression time("[0-9]{10,}");
-        Contents result;
-        for (auto it = files.cbegin(); it != files.cend(); ++it) {
-            const QString content = QString::fromLatin1(it.value().constData(), it.value().size());
-            result.insert(QString(it.key()).remove(time), QString(content).remove(time).toLatin1());
-        }
-        return result;
-    };
-    if (QFileInfo(target).isDir()) {
-        return timeless(filesBelow(target));
+    static const QRegularExpression time("[0-9]{10,}");
+    const Contents files = contentOfTarget(target);
+    Contents result;
+    for (auto it = files.cbegin(); it != files.cend(); ++it) {
+        const QString content = QString::fromLatin1(it.value().constData(), it.value().size());
+        result.insert(QString(it.key()).remove(time), QString(content).remove(time).toLatin1());
     }
-    if (target.endsWith(".zqtx") || target.endsWith(".iwb")) {
-        const QTemporaryDir unpacked;
-        try {
-            unpackZip(target, unpacked.path());
-        } catch (const LessonError &error) {
-            return {{error.message(), {}}};
-        }
-        return timeless(filesBelow(unpacked.path()));
-    }
-    return timeless({{QString(), fileContent(target)}});
+    return result;
 }
 
 // The calls to fail: the last ones, which put things in their place, and some of the others.
@@ -127,7 +112,7 @@ private:
     {
         QVector<Contents> all;
         for (const QString &target : targets) {
-            all.append(contentOf(path("out/" + target)));
+            all.append(timelessContentOf(path("out/" + target)));
         }
         return all;
     }
@@ -139,8 +124,9 @@ private:
     }
 
     // What is wrong with what a run left, or nothing.
-    static QString problem(const CommandProcess::Outcome &outcome, const QStringList &targets, const QVector<Contents> &before,
-                           const QVector<Contents> &after, const QVector<Contents> &found, Kind kind)
+    static QString problem(const CommandProcess::Outcome &outcome, const QStringList &targets,
+                           const QVector<Contents> &before, const QVector<Contents> &after,
+                           const QVector<Contents> &found, Kind kind)
     {
         bool isAllNew = true;
         for (int i = 0; i < targets.size(); ++i) {

@@ -4,8 +4,6 @@
 #include <QTextDocument>
 #include <QtTest>
 
-#include <cmath>
-
 namespace {
 
 QDomElement contentOf(const QString &package)
@@ -24,39 +22,13 @@ QDomElement byId(const QDomElement &root, const QString &id)
     return {};
 }
 
-QVector<double> numbers(const QString &text)
-{
-    QVector<double> values;
-    const QStringList parts = text.split(QRegularExpression("[ ,]"));
-    for (const QString &part : parts) {
-        values.append(part.toDouble());
-    }
-    return values;
-}
-
 // What a svg element covers before its transform, measured from the attributes that svg readers draw it from.
 QRectF measured(const QDomElement &element)
 {
     const auto value = [&element](const char *name) { return element.attribute(name).toDouble(); };
-    const QString tag = element.tagName();
-    if (tag == "svg:line") {
-        return QRectF(QPointF(value("x1"), value("y1")), QPointF(value("x2"), value("y2"))).normalized();
-    }
-    if (tag == "svg:circle") {
-        return QRectF(value("cx") - value("r"), value("cy") - value("r"), 2 * value("r"), 2 * value("r"));
-    }
-    if (tag == "svg:ellipse") {
-        return QRectF(value("cx") - value("rx"), value("cy") - value("ry"), 2 * value("rx"), 2 * value("ry"));
-    }
-    if (tag == "svg:polyline") {
-        const QVector<double> n = numbers(element.attribute("points"));
-        QPolygonF points;
-        for (int i = 0; i + 1 < n.size(); i += 2) {
-            points.append(QPointF(n.at(i), n.at(i + 1)));
-        }
-        return points.boundingRect();
-    }
-    return QRectF(value("x"), value("y"), value("width"), value("height"));
+    return element.tagName() == "svg:circle"
+        ? QRectF(value("cx") - value("r"), value("cy") - value("r"), 2 * value("r"), 2 * value("r"))
+        : QRectF(value("x"), value("y"), value("width"), value("height"));
 }
 
 QStringList linesOf(const QString &package)
@@ -115,38 +87,6 @@ private:
 
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-
-    void itemsFillTheirBoxes()
-    {
-        convertedLesson(EXAMPLES_DIR "/geometry", path("out"), "iwb");
-        const QDomElement written = contentOf(path("out"));
-        int count = 0;
-        for (const QString &slide : {"figures"_s, "triangles"_s}) {
-            const QDomElement items =
-                xml(fileContent(EXAMPLES_DIR "/geometry/slides/" + slide + ".xml")).firstChildElement("items");
-            for (QDomElement item = items.firstChildElement(); !item.isNull(); item = item.nextSiblingElement()) {
-                if (item.tagName() == "group" || item.tagName() == "stroke") {
-                    continue; // it comes as what it holds; its points are its own
-                }
-                const QByteArray id = item.attribute("id").toUtf8();
-                const QVector<double> box =
-                    numbers(item.firstChildElement("data").firstChildElement("rect").attribute("points"));
-                const QDomElement element = byId(written, id);
-                const QRectF found = measured(element);
-                QVERIFY2(qAbs(found.left() - box.at(0)) < 1 && qAbs(found.top() - box.at(1)) < 1, id);
-                QVERIFY2(qAbs(found.right() - box.at(2)) < 1 && qAbs(found.bottom() - box.at(3)) < 1, id);
-                // rotate(degrees x y)
-                const double angle =
-                    item.firstChildElement("transform").firstChildElement("rotate").attribute("angle").toDouble();
-                const QVector<double> turn = numbers(element.attribute("transform", "rotate(0 0 0)").mid(7).chopped(1));
-                QVERIFY2(qAbs(turn.at(0) - angle * 180 / M_PI) < 1e-3, id);
-                const QPointF centre(turn.at(1), turn.at(2));
-                QVERIFY2(angle == 0 || (centre - found.center()).manhattanLength() < 2, id);
-                ++count;
-            }
-        }
-        QCOMPARE(count, 20 + 6);
-    }
 
     void rawItemsKeepTheirMatrix()
     {

@@ -69,13 +69,6 @@ private slots:
             "<svg:circle cx='5' cy='6' r='7' fill='red' style='fill:#0f0; stroke: rgb(10%,20,30) "
             ";stroke-width:2.5px'/>",
             "circle cx=5 cy=6 r=7 | fill=rgb(0,255,0) stroke=rgb(26,20,30) stroke-opacity=255 stroke-width=2.5");
-        row("half a fill and a quarter of a line: 127.5 and 63.75",
-            "<svg:circle r='7' fill='blue' fill-opacity='.5' stroke='black' stroke-opacity='0.25'/>",
-            "circle cx=0 cy=0 r=7 | fill=rgb(0,0,255) stroke=rgb(64,0,0,0) stroke-opacity=128 stroke-width=1");
-        row("opacity of the element counts for both", "<svg:circle r='7' fill='blue' stroke='black' opacity='.5'/>",
-            "circle cx=0 cy=0 r=7 | fill=rgb(0,0,255) stroke=rgb(128,0,0,0) stroke-opacity=128 stroke-width=1");
-        row("a polygon is closed", "<svg:polygon points='0,0 10,0 10,10' fill='none' stroke='black'/>",
-            "polyline points=0,0,10,0,10,10,0,0 | stroke=rgb(0,0,0) stroke-width=1");
         row("three points stay a polyline", "<svg:polyline points='0 0 10 0 10-10' fill='none' stroke='black'/>",
             "polyline points=0,0,10,0,10,-10,10,-10 | stroke=rgb(0,0,0) stroke-width=1");
         row("a path of straight lines: 1,1 5,1 5,4 2,4 and back",
@@ -92,19 +85,6 @@ private slots:
             "<svg:g transform='translate(10,20)' stroke='blue' fill='none'><svg:g transform='scale(2)'>"
             "<svg:rect x='3' y='4' width='5' height='6'/></svg:g></svg:g>",
             "rect height=12 width=10 x=16 y=28 | stroke=rgb(0,0,255) stroke-width=2");
-        // 90 degrees about 0,0 take the centre 20,10 to -10,20; the sides keep their lengths.
-        row("a turned rectangle keeps its sides",
-            "<svg:rect x='10' y='5' width='20' height='10' fill='red' transform='rotate(90)'/>",
-            "rect height=10 width=20 x=-20 y=15 turned 90 | fill=rgb(255,0,0) stroke=rgb(0,0,0,0) stroke-opacity=255 "
-            "stroke-width=1");
-        row("a stretched circle is an ellipse",
-            "<svg:circle cx='1' cy='1' r='5' fill='red' transform='matrix(2 0 0 3 0 0)'/>",
-            "ellipse cx=2 cy=3 rx=10 ry=15 | fill=rgb(255,0,0) stroke=rgb(0,0,0,0) stroke-opacity=255 "
-            "stroke-width=2.449489743");
-        // skewX(45) moves x by y: 0,0 10,0 20,10 10,10.
-        row("a slanted rectangle is an outline",
-            "<svg:rect width='10' height='10' fill='none' stroke='black' transform='skewX(45)'/>",
-            "polyline points=0,0,10,0,20,10,10,10,0,0 | stroke=rgb(0,0,0) stroke-width=1");
     }
 
     void shapes()
