@@ -41,7 +41,7 @@ QDomElement toSvg(const QJsonObject &item);
 int messagesOf(const std::function<void()> &call);
 
 //! How many times slower things go in this build than in one for users.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(WITH_SANITIZERS)
 constexpr int slowness = 10;
 #elif !defined(__OPTIMIZE__)
 constexpr int slowness = 4;

@@ -26,8 +26,7 @@ SvgPaint paintOf(const ItemView &item, const ShapeForm &form)
     SvgPaint paint;
     paint.line = item.color(QLatin1String(form.lineKey)).value_or(QColor(Qt::black));
     paint.fill = QColor(0, 0, 0, 0);
-    const bool isFilled = item.text(ItemKeys::isFilled) != QLatin1String("0");
-    if (form.fillKey && isFilled) {
+    if (form.fillKey && item.isFilled()) {
         paint.fill = item.color(QLatin1String(form.fillKey)).value_or(paint.fill);
     }
     const double width = item.number(ItemKeys::lineWidth);

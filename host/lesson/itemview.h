@@ -34,6 +34,8 @@ public:
     bool isVisible() const { return flag(ItemKeys::visible, true); }
     bool isLocked() const { return flag(ItemKeys::locked); }
     bool isEndless() const { return flag(ItemKeys::endless); }
+    //! Whether a shape's fill counts, where it has one: only a plain 0 takes it away.
+    bool isFilled() const { return text(ItemKeys::isFilled) != QLatin1String("0"); }
 
     //! False for keys that are missing or say nothing.
     bool has(QLatin1String key) const { return !isEmptyValue(m_item.value(key)); }

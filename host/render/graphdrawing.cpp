@@ -162,7 +162,7 @@ SvgPaint paintOf(const ItemView &item, QLatin1String widthKey, const char *lineK
     SvgPaint paint;
     paint.line = item.color(QLatin1String(lineKey)).value_or(QColor(Qt::black));
     paint.fill = Qt::transparent;
-    if (item.flag(ItemKeys::isFilled, true)) {
+    if (item.isFilled()) {
         paint.fill = item.color(QLatin1String(fillKey)).value_or(paint.fill);
     }
     const double width = item.number(widthKey);

@@ -126,11 +126,6 @@ std::optional<QRectF> ownBox(const ItemView &item)
     return box.isEmpty() ? std::nullopt : std::optional<QRectF>(box);
 }
 
-bool isFilled(const ItemView &item)
-{
-    return item.json().value(ItemKeys::isFilled).toString() != QLatin1String("0");
-}
-
 constexpr int dashOfHidden = 2;
 
 int dashParts(double mode)
@@ -144,7 +139,7 @@ SvgPaint paintOf(const ItemView &item)
     paint.lineWidth = outlineWidth(item);
     paint.line = firstColor(item, {"ArtObj_LineColor", "LineColor"}, Qt::black);
     paint.dashParts = dashParts(item.number(QLatin1String("ArtObj_Mode")));
-    paint.fill = isFilled(item) ? firstColor(item, {"ArtObj_FillColor", "FillColor", "ArtObj_Color"}, Qt::transparent)
+    paint.fill = item.isFilled() ? firstColor(item, {"ArtObj_FillColor", "FillColor", "ArtObj_Color"}, Qt::transparent)
                                 : QColor(Qt::transparent);
     return paint;
 }
