@@ -853,6 +853,8 @@ int main(int argc, char **argv)
 {
     // The host lays out text.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Qt Test ends what takes longer than five minutes, which a run by hand may.
+    qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(300000 + setting("LOSSES_SECONDS", 42) * 1000LL));
     // The attributes of an element stand in the order of their hashes, and a seed stands for the same lesson each time.
     qSetGlobalQHashSeed(0);
     QGuiApplication application(argc, argv);
