@@ -461,9 +461,10 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
         const QJsonArray list = held.toArray();
         const auto isItem = [](const QJsonValue &value) { return value.isObject(); };
         if (held.isArray() && std::all_of(list.begin(), list.end(), isItem)) {
-            children = list;
             item.keys.remove("Children");
         }
+        // Beside other values, which are lost, there may be items.
+        std::copy_if(list.begin(), list.end(), std::back_inserter(children), isItem);
         for (const QJsonValue &child : qAsConst(children)) {
             item.childIds.append(idText(child.toObject().value("ID")));
         }
