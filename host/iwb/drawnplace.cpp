@@ -128,11 +128,11 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const Outl
         isUnderMatrix ? slideInPageForm({{}, {given}}, outlines).items.first().toObject() : given;
     const bool hasPlace = isInk(placed, form) || !isNothing(placed.value(ItemKeys::box));
     // What a slanted rectangle becomes has points of its own, a slanted picture nothing that tells.
-    const bool isSlanted = !isNothing(placed.value(ItemKeys::matrix));
-    if (!hasPlace || (isSlanted && !form && !isInk(given, form))) {
+    const bool isUnplaced = !isNothing(placed.value(ItemKeys::matrix));
+    if (!hasPlace || (isUnplaced && !form && !isInk(given, form) && ItemView(given).isSetUpright())) {
         return false;
     }
-    const QPolygonF one = withoutRepeats(drawnPoints(isSlanted ? given : placed, form, outlines));
+    const QPolygonF one = withoutRepeats(drawnPoints(isUnplaced ? given : placed, form, outlines));
     const QPolygonF other = withoutRepeats(drawnPoints(found, foundForm, outlines));
     return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isNear);
 }
