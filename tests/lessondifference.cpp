@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPolygonF>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFragment>
@@ -207,8 +208,10 @@ struct Run
 
 QVector<Run> runsOf(const QString &html)
 {
+    // What opens no tag is a letter.
+    static const QRegularExpression lessThan("<(?![A-Za-z/!?])");
     QTextDocument document;
-    document.setHtml(html);
+    document.setHtml(QString(html).replace(lessThan, "&lt;"));
     QVector<Run> runs;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         runs.append({"\n", block.charFormat(), block.blockFormat(), block.textList() != nullptr});
@@ -223,6 +226,13 @@ QVector<Run> runsOf(const QString &html)
     return runs;
 }
 
+// 0 for letters that say nothing of their size.
+double pixelSize(const QTextCharFormat &letters)
+{
+    const double pixels = letters.intProperty(QTextFormat::FontPixelSize);
+    return pixels > 0 ? pixels : letters.fontPointSize() * 96 / 72;
+}
+
 bool isSameRun(const Run &given, const Run &found)
 {
     if (given.text != found.text || given.isInList != found.isInList) {
@@ -233,10 +243,13 @@ bool isSameRun(const Run &given, const Run &found)
         return ((given.paragraph.alignment() ^ found.paragraph.alignment()) & sides) == 0
             || !given.paragraph.hasProperty(QTextFormat::BlockAlignment);
     }
+    if (pixelSize(given.letters) > 0 && std::fabs(pixelSize(given.letters) - pixelSize(found.letters)) > 0.01) {
+        return false;
+    }
     for (const int property :
-         {int(QTextFormat::FontFamily), int(QTextFormat::FontPixelSize), int(QTextFormat::FontWeight),
-          int(QTextFormat::FontItalic), int(QTextFormat::TextUnderlineStyle), int(QTextFormat::ForegroundBrush),
-          int(QTextFormat::BackgroundBrush), int(QTextFormat::TextVerticalAlignment), int(QTextFormat::AnchorHref)}) {
+         {int(QTextFormat::FontFamily), int(QTextFormat::FontWeight), int(QTextFormat::FontItalic),
+          int(QTextFormat::TextUnderlineStyle), int(QTextFormat::ForegroundBrush), int(QTextFormat::BackgroundBrush),
+          int(QTextFormat::TextVerticalAlignment), int(QTextFormat::AnchorHref)}) {
         if (given.letters.hasProperty(property)
             && given.letters.property(property) != found.letters.property(property)) {
             return false;
@@ -424,14 +437,19 @@ struct Item
     bool isLocked = false;
     bool isAroundPlaced = false; // around items with a matrix, which its own box follows
 
-    QString id() const { return idText(keys.value("ID")); }
+    // Control characters are no identifier in XML.
+    QString id() const { return idText(keys.value("ID")).remove('\x01'); }
     QString type() const { return keys.value("Type").toString(); }
 };
 
 bool isSet(const QJsonValue &value, bool missing)
 {
-    const auto text = plainText(value);
-    return text && !text->isEmpty() ? text->toDouble() != 0 : missing;
+    if (saysNothing(value)) {
+        return missing;
+    }
+    const QJsonArray list = value.toArray();
+    const auto text = plainText(list.size() == 1 && list.first().isDouble() ? list.first() : value);
+    return text && text->toInt() != 0; // flags are whole numbers
 }
 
 bool isContainer(const QString &type)
@@ -459,12 +477,14 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
         QJsonArray children;
         const QJsonValue held = item.keys.value("Children");
         const QJsonArray list = held.toArray();
-        const auto isItem = [](const QJsonValue &value) { return value.isObject(); };
-        if (held.isArray() && std::all_of(list.begin(), list.end(), isItem)) {
+        // Beside other values, which are lost, there may be items. What is no list of items is taken apart where it is
+        // drawn, and kept as any other key elsewhere.
+        std::copy_if(list.begin(), list.end(), std::back_inserter(children),
+                     [](const QJsonValue &value) { return value.isObject(); });
+        const bool isWhole = held.isArray() && children.size() == list.size();
+        if (isWhole || (road == Road::Drawn && !children.isEmpty())) {
             item.keys.remove("Children");
         }
-        // Beside other values, which are lost, there may be items.
-        std::copy_if(list.begin(), list.end(), std::back_inserter(children), isItem);
         for (const QJsonValue &child : qAsConst(children)) {
             item.childIds.append(idText(child.toObject().value("ID")));
         }
@@ -551,24 +571,29 @@ std::optional<QTransform> matrixOf(const QJsonValue &value)
                                : std::nullopt;
 }
 
+bool isInk(const QString &type)
+{
+    return (type.contains("Stroke") && !isContainer(type)) || type == "stroke";
+}
+
 // Where an item stands on the page: its points, stretched into its box and turned, or its corners. Nothing where one of
 // its values isn't what it should be.
 std::optional<QPolygonF> drawing(const QJsonObject &item)
 {
     const QString type = item.value("Type").toString();
     const auto matrix = matrixOf(item.value("Matrix"));
+    const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
+    if (!angle || angle->size() != 1) {
+        return std::nullopt;
+    }
     const auto line = pointsOf(item.value("XY"));
-    if (matrix && line && type.contains("Stroke") && !isContainer(type)) {
+    if (matrix && line && isInk(type)) {
         QPolygonF points = *line;
         for (int i = 1; i < points.size(); ++i) {
             points[i] += points.at(i - 1);
         }
         if (!saysNothing(item.value("Matrix"))) {
             return matrix->map(points);
-        }
-        const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
-        if (!angle || angle->size() != 1) {
-            return std::nullopt;
         }
         const QPointF center = points.boundingRect().center();
         QTransform turn = QTransform::fromTranslate(center.x(), center.y());
@@ -586,17 +611,14 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
     points << frame.topLeft() << frame.topRight() << frame.bottomRight() << frame.bottomLeft();
     if (hasOwnPoints(type)) {
         const auto own = pointsOf(item.value(type == "ZQMath2DPolyline" ? "XYValue" : "Control"));
-        if (!own) {
+        if (!own || (type.contains("Segment") && own->size() != 2)) {
             return std::nullopt;
         }
-        points = stretched(*own, frame);
+        // A matrix is around an origin of the points' own.
+        points = saysNothing(item.value("Matrix")) ? stretched(*own, frame) : *own;
     }
     if (!saysNothing(item.value("Matrix"))) {
         return matrix->map(points); // a turn is in the matrix
-    }
-    const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
-    if (!angle || angle->size() != 1) {
-        return std::nullopt;
     }
     QTransform turn = QTransform::fromTranslate(frame.center().x(), frame.center().y());
     turn.rotateRadians(angle->first());
@@ -695,11 +717,15 @@ private:
                 m_differences.append({number, item.type(), item.id(), {}, "the item", "nothing", isOfKey});
                 continue;
             }
-            if (places.at(i) < last) {
+            const bool isOneOfSeveral = std::count_if(givenItems.begin(), givenItems.end(),
+                                                      [&item](const Item &other) { return other.id() == item.id(); })
+                > 1;
+            // Which of several came back is a guess.
+            if (!isOneOfSeveral && places.at(i) < last) {
                 m_differences.append(
                     {number, "slide", {}, "Items", "item " + item.id() + " in its place", "elsewhere"});
             }
-            last = places.at(i);
+            last = isOneOfSeveral ? last : places.at(i);
             const Item &back = foundItems.at(places.at(i));
             if (item.childIds != back.childIds) {
                 m_differences.append(
@@ -715,21 +741,19 @@ private:
         }
     }
 
-    // By identifier, as often as it is there, or one that was made of it; what is left over in its order.
-    static QVector<int> matched(const QVector<Item> &given, const QVector<Item> &found)
+    // By identifier; then by one that was made of it; what is left over in its order.
+    QVector<int> matched(const QVector<Item> &given, const QVector<Item> &found)
     {
         QVector<int> places(given.size(), -1);
         QSet<int> taken;
         using IsSame = bool (*)(const Item &one, const Item &other);
         const IsSame ways[] = {
-            [](const Item &one, const Item &other) {
-                return !one.id().isEmpty() && one.id() == other.id() && one.type() == other.type();
-            },
             [](const Item &one, const Item &other) { return !one.id().isEmpty() && one.id() == other.id(); },
             [](const Item &one, const Item &other) { return other.id().startsWith(one.id() + '_'); },
             [](const Item &one, const Item &other) { return one.type() == other.type(); },
             [](const Item &one, const Item &other) { return one.id().isEmpty() && other.id().isEmpty(); },
         };
+        matchEqualIds(given, found, places, taken);
         for (const IsSame isSame : ways) {
             for (int i = 0; i < given.size(); ++i) {
                 for (int j = 0; places.at(i) < 0 && j < found.size(); ++j) {
@@ -741,6 +765,77 @@ private:
             }
         }
         return places;
+    }
+
+    // Of several items with one identifier or with none, some of which may be gone, those are taken for the ones that
+    // came back, in their order, that differ from them the least.
+    void matchEqualIds(const QVector<Item> &given, const QVector<Item> &found, QVector<int> &places, QSet<int> &taken)
+    {
+        QHash<QString, QVector<int>> givenOfId;
+        for (int i = 0; i < given.size(); ++i) {
+            givenOfId[given.at(i).id()].append(i);
+        }
+        for (auto it = givenOfId.cbegin(); it != givenOfId.cend(); ++it) {
+            QVector<int> back;
+            const QString made = it.key().isEmpty() ? QString("item") : QString(it.key() + '_');
+            for (int j = 0; (it->size() > 1 || it.key().isEmpty()) && j < found.size(); ++j) {
+                const QString id = found.at(j).id();
+                if (id == it.key() || (id.startsWith(made) && !givenOfId.contains(id))) {
+                    back.append(j);
+                }
+            }
+            if (back.isEmpty() || back.size() > it->size()) {
+                continue;
+            }
+            const QVector<int> chosen = closest(given, *it, found, back);
+            for (int k = 0; k < back.size(); ++k) {
+                places[chosen.at(k)] = back.at(k);
+                taken.insert(back.at(k));
+            }
+        }
+    }
+
+    // Those of the given ones, as many as were found, whose differences are the fewest in all.
+    QVector<int> closest(const QVector<Item> &given, const QVector<int> &ones, const QVector<Item> &found,
+                         const QVector<int> &others)
+    {
+        struct Choice
+        {
+            int differences = 0;
+            QVector<int> chosen;
+        };
+        // choices.at(n): for the first n of the found ones, from the given ones so far.
+        QVector<std::optional<Choice>> choices(others.size() + 1);
+        choices[0] = Choice();
+        for (const int one : ones) {
+            for (int n = others.size(); n > 0; --n) {
+                std::optional<Choice> taking = choices.at(n - 1);
+                if (taking) {
+                    taking->differences += count(given.at(one), found.at(others.at(n - 1)));
+                    taking->chosen.append(one);
+                }
+                std::optional<Choice> &leaving = choices[n];
+                if (leaving) {
+                    leaving->differences += given.at(one).keys.size();
+                }
+                if (taking && (!leaving || taking->differences < leaving->differences)) {
+                    leaving = taking;
+                }
+            }
+            choices[0]->differences += given.at(one).keys.size();
+        }
+        return choices.last()->chosen;
+    }
+
+    // How much differs if the one became the other.
+    int count(const Item &given, const Item &found)
+    {
+        const int before = m_differences.size();
+        itemKeys({0, given.type(), given.id(), m_road}, given, found);
+        const int count = int(std::count_if(m_differences.begin() + before, m_differences.end(),
+                                            [](const Difference &difference) { return !difference.isMinor; }));
+        m_differences.resize(before);
+        return count;
     }
 
     void properties(const Place &place, const QJsonObject &given, const QJsonObject &found)
@@ -758,8 +853,11 @@ private:
     void value(const Place &place, const QString &key, const QJsonValue &given, const QJsonObject &found)
     {
         QJsonValue back = found.value(key);
-        const bool isInkLine = place.type.contains("Stroke") && found.value("Type") == QJsonValue("ZQMath2DPolyline");
-        const QString other = m_road == Road::Kept ? QString() : isInkLine ? otherNameOfInk(key) : otherName(key);
+        const bool isInkLine = isInk(place.type) && found.value("Type") == QJsonValue("ZQMath2DPolyline");
+        QString other = m_road == Road::Kept ? QString() : isInkLine ? otherNameOfInk(key) : otherName(key);
+        if (m_road == Road::Drawn && other == "ArtObj_Width" && !isInkLine) {
+            other.clear(); // every line has one, whatever was given
+        }
         if (saysNothing(back) && !other.isEmpty() && !saysNothing(found.value(other))) {
             back = found.value(other);
             const auto text = plainText(given);
@@ -771,6 +869,10 @@ private:
             }
         }
         if (m_road == Road::Drawn && isSameFile(given, back)) {
+            // Another kind of file may hold less than is seen of it.
+            if (contentOf(m_givenFiles, given) != contentOf(m_foundFiles, back)) {
+                m_differences.append({place.slide, place.type, place.id, key, shown(given), shown(back), true});
+            }
             return;
         }
         const bool isPaper =
@@ -805,7 +907,8 @@ private:
         QJsonObject keys = given.keys;
         QJsonObject back = found.keys;
         const auto matrix = matrixOf(keys.value("Matrix"));
-        const bool hasMatrix = !saysNothing(keys.value("Matrix")) && matrix && !matrix->isIdentity();
+        const bool hasMatrix =
+            !saysNothing(keys.value("Matrix")) && matrix && (m_road == Road::Drawn || !matrix->isIdentity());
         const bool isPlaced = m_road == Road::Drawn || (m_road == Road::Packed && !saysNothing(keys.value("Matrix")));
         if (isPlaced && isSameDrawing(drawing(keys), drawing(back))) {
             // A shape of one point draws nothing, wherever it is told to stand.
@@ -831,6 +934,10 @@ private:
             if (std::fabs(widthBack->first() - wide) <= 1e-9 * wide) {
                 keys.remove("Width");
             }
+        }
+        if (m_road == Road::Drawn && hasMatrix) {
+            // The size of letters that have none of their own follows it.
+            m_differences.append({place.slide, place.type, place.id, "TextHtml", {}, {}, true});
         }
         if (m_road == Road::Drawn) {
             if (given.isVisible == found.isVisible && isFlagValue(keys.value("Visible"))) {
@@ -867,7 +974,8 @@ private:
         for (const QString &key : keys) {
             const bool isOwn =
                 m_road == Road::Drawn || key != "Control" || hasOwnPoints(place.type) || place.type == "ZQMath2DAngle";
-            if (isOwn && isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
+            const bool isNone = m_road == Road::Drawn && key == "Control" && !isPoints(given.value(key));
+            if (isOwn && !isNone && isOfPlace(key) && key != judged && !(hasOwnTurn && key == "Angle")) {
                 const QJsonValue wrong = given.take(key);
                 found.remove(key);
                 // Steps of ink may be rounded on the way, and what is no place can't be kept.
@@ -878,10 +986,12 @@ private:
         }
     }
 
+    static bool isPoints(const QJsonValue &value) { return saysNothing(value) || pointsOf(value); }
+
     static bool isFlagValue(const QJsonValue &value)
     {
         const auto text = plainText(value);
-        return text && (*text == "0" || *text == "1" || text->isEmpty());
+        return saysNothing(value) || (text && (*text == "0" || *text == "1"));
     }
 
     // Ink's opacity is read into its colour.

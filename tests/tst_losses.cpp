@@ -150,6 +150,13 @@ bool isOfSameItem(const Loss &loss, const Difference &difference)
     return loss.slide == difference.slide && isSameItem;
 }
 
+// Whether a file is named in what was given, which is shown as XML has it or as JSON.
+bool names(const QString &given, const QString &file)
+{
+    const QByteArray json = QJsonDocument(QJsonArray{file}).toJson(QJsonDocument::Compact);
+    return given.contains(file) || given.contains(QString::fromUtf8(json.mid(2).chopped(2)));
+}
+
 // Whether an entry of a report tells of a difference.
 bool tells(const Loss &loss, const Difference &difference)
 {
@@ -159,7 +166,7 @@ bool tells(const Loss &loss, const Difference &difference)
     if (loss.kind == Loss::Item || loss.key.isEmpty()) {
         return true;
     }
-    if (loss.kind == Loss::File && difference.given.contains(loss.key)) {
+    if (loss.kind == Loss::File && names(difference.given, loss.key)) {
         return true;
     }
     // A container that is taken apart is told by what it was or held.
@@ -192,7 +199,8 @@ QVector<Failure> disagreements(const QString &step, const QVector<Difference> &d
     for (const Loss &loss : report.entries()) {
         const bool isTrue = std::any_of(differences.begin(), differences.end(), [&loss](const Difference &difference) {
             // Of an item that isn't there, everything is lost.
-            return tells(loss, difference) || (difference.key.isEmpty() && isOfSameItem(loss, difference));
+            const bool isGone = difference.key.isEmpty() && difference.found == "nothing";
+            return tells(loss, difference) || (isGone && isOfSameItem(loss, difference));
         });
         if (isLoss(loss) && !isTrue) {
             failures.append({step + "false alarm", asDifference(loss), report});

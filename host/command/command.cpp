@@ -439,10 +439,16 @@ void Command::tellRendered(const QJsonObject &result) const
     if (isSet("json")) {
         printJson(result);
     } else if (!isSet("quiet")) {
+        QString text = QStringLiteral("Slides drawn: %1.").arg(result.value(QLatin1String("slides")).toInt());
         const int named = result.value(QLatin1String("named")).toArray().size();
-        print(QStringLiteral("Slides drawn: %1.%2\n")
-                  .arg(result.value(QLatin1String("slides")).toInt())
-                  .arg(named ? QStringLiteral(" Items shown by their name: %1.").arg(named) : QString()));
+        if (named > 0) {
+            text += QStringLiteral(" Items shown by their name: %1.").arg(named);
+        }
+        const int upright = result.value(QLatin1String("upright")).toArray().size();
+        if (upright > 0) {
+            text += QStringLiteral(" Items shown upright that are mirrored or slanted: %1.").arg(upright);
+        }
+        print(text + QLatin1Char('\n'));
     }
 }
 

@@ -2,10 +2,12 @@
 
 #include "iwb/shapeplacing.h"
 #include "lesson/itemview.h"
+#include "lesson/pageplace.h"
 #include "lesson/planegeometry.h"
 #include "losses/modelvalues.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace lessonhost {
 
@@ -36,13 +38,13 @@ bool isInk(const QJsonObject &item, const ShapeForm *form)
 // Whether the values that the item is drawn from are what they should be.
 bool isWhole(const QJsonObject &item, const ShapeForm *form)
 {
-    if (!isNothing(item.value(ItemKeys::matrix)) || !hasNumbers(item, ItemKeys::angle, 1)) {
+    if (!hasNumbers(item, ItemKeys::matrix, 6) || !hasNumbers(item, ItemKeys::angle, 1)) {
         return false;
     }
     if (isInk(item, form)) {
         return hasPairs(item, ItemKeys::steps);
     }
-    if (isNothing(item.value(ItemKeys::box)) || !hasNumbers(item, ItemKeys::box, 4)) {
+    if (!hasNumbers(item, ItemKeys::box, 4)) {
         return false;
     }
     switch (form ? form->outline : ShapeForm::Rectangle) {
@@ -64,22 +66,15 @@ QPolygonF turnedCorners(const QRectF &box, double angle)
     return turnAbout(box.center(), angle).map(corners);
 }
 
-QPolygonF roundShape(const PlacedShape &placed)
-{
-    const QVector<double> rim = itemNumbers(placed.geometry.value(ItemKeys::control));
-    const QTransform matrix = itemTransform(placed.geometry.value(ItemKeys::matrix)).value_or(QTransform());
-    const bool isCircle = placed.form->outline == ShapeForm::Circle;
-    const QPointF corner(rim.value(0), isCircle ? rim.value(0) : rim.value(3));
-    const QPointF center = matrix.map(QPointF());
-    return turnedCorners(QRectF(center - corner, center + corner), isCircle ? 0 : placed.angle);
-}
-
 // The points that are drawn on the page; for round shapes, pictures and texts the corners of their boxes.
 QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const OutlineSource &outlines)
 {
     const ItemView view(item);
     if (isInk(item, form)) {
         const QPolygonF points = view.strokePoints();
+        if (const auto matrix = view.matrix()) {
+            return matrix->map(points);
+        }
         return turnAbout(extentOf(points).center(), view.angle()).map(points);
     }
     if (!form) {
@@ -90,7 +85,8 @@ QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const Outl
     switch (placed.form->outline) {
     case ShapeForm::Circle:
     case ShapeForm::Ellipse:
-        return roundShape(placed);
+        // A circle may be told by a box that isn't quite square, and has no turn.
+        return turnedCorners(view.box().value_or(QRectF()), view.angle());
     case ShapeForm::Rectangle:
         return turnedCorners(placed.box.value_or(QRectF()), placed.angle);
     default:
@@ -108,7 +104,7 @@ QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const Outl
 
 bool isNear(const QPointF &one, const QPointF &other)
 {
-    return (one - other).manhattanLength() < smallestDistance;
+    return std::hypot(one.x() - other.x(), one.y() - other.y()) < smallestDistance;
 }
 
 // Without points that only repeat the one before them.
@@ -127,9 +123,18 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const Outl
     if (!isWhole(given, form)) {
         return false;
     }
-    const QPolygonF one = withoutRepeats(drawnPoints(given, form, outlines));
+    const bool isUnderMatrix = !isNothing(given.value(ItemKeys::matrix));
+    const QJsonObject placed =
+        isUnderMatrix ? slideInPageForm({{}, {given}}, outlines).items.first().toObject() : given;
+    const bool hasPlace = isInk(placed, form) || !isNothing(placed.value(ItemKeys::box));
+    // What a slanted rectangle becomes has points of its own, a slanted picture nothing that tells.
+    const bool isUnplaced = !isNothing(placed.value(ItemKeys::matrix));
+    if (!hasPlace || (isUnplaced && !form && !isInk(given, form) && ItemView(given).isSetUpright())) {
+        return false;
+    }
+    const QPolygonF one = withoutRepeats(drawnPoints(isUnplaced ? given : placed, form, outlines));
     const QPolygonF other = withoutRepeats(drawnPoints(found, foundForm, outlines));
-    return std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isNear);
+    return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isNear);
 }
 
 } // namespace lessonhost

@@ -175,12 +175,14 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
     WrittenItem row{given, item, idOf(given)};
     const QDomElement element = m_items.write(m_document, item, row.id, losses);
     if (element.isNull()) {
+        m_ids.giveBack(row.id);
         row.id.clear();
     } else {
         page.appendChild(element);
     }
-    // What the group would open is lost with the group.
-    if (!element.isNull() && !m_items.missingFile().isEmpty() && ItemView(given).has(ItemKeys::linkType)) {
+    // What the group would open is lost with the group. A number names no file.
+    if (!element.isNull() && !m_items.missingFile().isEmpty() && ItemView(given).has(ItemKeys::linkType)
+        && given.value(ItemKeys::linkValue).isString()) {
         losses.file(given, m_items.missingFile(), QStringLiteral("the lesson has no such file to open"));
     }
     written.append(row);

@@ -10,25 +10,28 @@ namespace {
 
 const QLatin1String identityText("1,0,0,1,0,0");
 
-// Scale along one axis; points that have no extent of their own stay together.
-double fitScale(double own, double target)
+// A coordinate in the place that its part of the own range has in the target's. Points that have no extent of their own
+// stay together, in the middle.
+double fittedCoordinate(double value, double own, double ownSize, double target, double targetSize)
 {
-    if (own < 1e-9 || qAbs(target - own) < 1e-7) {
-        return 1;
+    if (ownSize < 1e-9) {
+        return target + targetSize / 2 + (value - own - ownSize / 2);
     }
-    return target / own;
+    // Told from the edge, such that what fits already stays what it is.
+    const double scale = qAbs(targetSize - ownSize) < 1e-7 ? 1 : targetSize / ownSize;
+    return target + (value - own) * scale;
 }
 
-// Stretches points to fill a box, with what has no extent in the middle, and turns them about its centre.
+// Stretches points to fill a box and turns them about its centre.
 QPolygonF fitted(const QPolygonF &points, const ItemPlace &place)
 {
     const QRectF own = extentOf(points);
-    const double scaleX = fitScale(own.width(), place.box.width());
-    const double scaleY = fitScale(own.height(), place.box.height());
-    const QTransform fit = QTransform::fromTranslate(-own.center().x(), -own.center().y())
-        * QTransform::fromScale(scaleX, scaleY)
-        * QTransform::fromTranslate(place.box.center().x(), place.box.center().y());
-    const QPolygonF filled = fit.map(points);
+    const QRectF &box = place.box;
+    QPolygonF filled = points;
+    for (QPointF &point : filled) {
+        point = {fittedCoordinate(point.x(), own.left(), own.width(), box.left(), box.width()),
+                 fittedCoordinate(point.y(), own.top(), own.height(), box.top(), box.height())};
+    }
     return place.angle == 0 ? filled : turnAbout(place.box.center(), place.angle).map(filled);
 }
 

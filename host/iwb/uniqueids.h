@@ -25,6 +25,9 @@ public:
         return id;
     }
 
+    //! Makes an identifier free again that nobody needs.
+    void giveBack(const QString &id) { m_used.remove(id); }
+
     int count() const { return m_used.size(); }
 
 private:

@@ -53,6 +53,13 @@ std::optional<ItemPlace> ItemView::place() const
     return under ? uprightUnder(*under, *own) : ItemPlace{*own, angle()};
 }
 
+bool ItemView::isSetUpright() const
+{
+    const auto under = matrix();
+    const auto parts = under ? scaleAndTurn(*under) : ScaleAndTurn();
+    return box() && !(parts && parts->scaleY > 0);
+}
+
 double ItemView::scale() const
 {
     const auto under = matrix();

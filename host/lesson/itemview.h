@@ -57,6 +57,9 @@ public:
     //! is that of the page, turned by Angle. Nothing for an item without a box. A slant of the Matrix is lost.
     std::optional<ItemPlace> place() const;
 
+    //! True where a mirror or slant of the Matrix is lost in place().
+    bool isSetUpright() const;
+
     //! How much larger the Matrix draws what has no length of its own, such as letters; 1 without a Matrix.
     double scale() const;
 

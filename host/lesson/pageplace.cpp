@@ -267,7 +267,7 @@ QJsonObject itemInPageForm(QJsonObject item, Placing &placing)
     nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
-    if (!item.value(HostKeys::children).toArray().isEmpty()) {
+    if (!ItemView(item).childObjects().isEmpty()) {
         placeGroup(item, placing);
         return item;
     }

@@ -40,6 +40,14 @@ QString titleOf(const QJsonObject &presentation)
     return title.isEmpty() ? QStringLiteral("Lesson") : title;
 }
 
+void append(QJsonArray &list, int slide, const QVector<SlidePicture::Told> &items)
+{
+    for (const SlidePicture::Told &item : items) {
+        list.append(QJsonObject{
+            {QStringLiteral("slide"), slide}, {QStringLiteral("type"), item.type}, {QStringLiteral("id"), item.id}});
+    }
+}
+
 } // namespace
 
 QSize sizeFromText(const QString &text)
@@ -86,14 +94,12 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     const auto target = pictureOutput(output, titleOf(reader.presentation()), settings.size, slides);
     SlidePictures pictures(reader, context);
     QJsonArray named;
+    QJsonArray upright;
     for (int i = 0; i < slides.size(); ++i) {
         const SlidePicture picture = pictures.picture(slides.at(i));
         target->add(picture);
-        for (const SlidePicture::Named &item : picture.named) {
-            named.append(QJsonObject{{QStringLiteral("slide"), picture.slide},
-                                     {QStringLiteral("type"), item.type},
-                                     {QStringLiteral("id"), item.id}});
-        }
+        append(named, picture.slide, picture.named);
+        append(upright, picture.slide, picture.upright);
         progress(i + 1, slides.size());
     }
     if (slides.isEmpty()) {
@@ -101,7 +107,8 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     }
     return {{QStringLiteral("slides"), slides.size()},
             {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
-            {QStringLiteral("named"), named}};
+            {QStringLiteral("named"), named},
+            {QStringLiteral("upright"), upright}};
 }
 
 QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,

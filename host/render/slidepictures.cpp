@@ -1,5 +1,6 @@
 #include "render/slidepictures.h"
 
+#include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "render/drawings.h"
 #include "render/plainsvg.h"
@@ -67,8 +68,12 @@ SlidePicture SlidePictures::picture(int index)
     }
     Drawings drawings(plain, m_pages, m_files);
     for (const QJsonObject &item : qAsConst(items)) {
+        const ItemView view(item);
+        const bool hasOnlyBox = isTextBoard(view.type()) || mediaFolder(view.type());
         if (!drawings.draw(item)) {
-            result.named.append({ItemView(item).type(), ItemView(item).id()});
+            result.named.append({view.type(), view.id()});
+        } else if (hasOnlyBox && view.isSetUpright()) {
+            result.upright.append({view.type(), view.id()});
         }
     }
     result.svg = plain.text();

@@ -15,8 +15,8 @@ namespace lessonhost {
  */
 struct SlidePicture
 {
-    //! An item that is shown by its name alone.
-    struct Named
+    //! What it says of an item.
+    struct Told
     {
         QString type;
         QString id;
@@ -25,7 +25,8 @@ struct SlidePicture
     int slide = 0; //!< counted from 1
     QSizeF size; //!< pixels
     QByteArray svg;
-    QVector<Named> named;
+    QVector<Told> named; //!< shown by their names alone
+    QVector<Told> upright; //!< shown without the mirror or slant of their Matrix
 };
 
 /*!

@@ -450,8 +450,10 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     item.id = source.attribute(QStringLiteral("id"));
     item.link = place.link;
     item.isVisible = place.style.isVisible();
+    // A record is of every item of its identifier, on whatever page; the item's own word is of itself.
+    const QString locked = source.attribute(QStringLiteral("lockin"));
     item.isLocked =
-        m_rules.records.value(item.id).isLocked || source.attribute(QStringLiteral("lockin")) == QLatin1String("1");
+        locked == QLatin1String("1") || (locked != QLatin1String("0") && m_rules.records.value(item.id).isLocked);
     item.isEndless = source.attribute(QStringLiteral("infiniteclone")) == QLatin1String("1");
     m_result.items.append(item);
     return m_result.items.last();
