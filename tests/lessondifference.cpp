@@ -98,10 +98,8 @@ std::optional<QString> plainText(const QJsonValue &value)
     switch (value.type()) {
     case QJsonValue::String:
         return value.toString();
-    case QJsonValue::Double: {
-        const QVariant number = value.toVariant();
-        return number.type() == QVariant::LongLong ? number.toString() : numberText(value.toDouble());
-    }
+    case QJsonValue::Double:
+        return numberText(value.toDouble());
     case QJsonValue::Bool:
         return value.toBool() ? "1" : "0";
     default:
