@@ -582,7 +582,8 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
     const QString type = item.value("Type").toString();
     const auto matrix = matrixOf(item.value("Matrix"));
     const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
-    if (!angle || angle->size() != 1) {
+    const bool hasTurn = saysNothing(item.value("Matrix")); // a matrix has its own
+    if (hasTurn && (!angle || angle->size() != 1)) {
         return std::nullopt;
     }
     const auto line = pointsOf(item.value("XY"));
