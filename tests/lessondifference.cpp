@@ -98,10 +98,8 @@ std::optional<QString> plainText(const QJsonValue &value)
     switch (value.type()) {
     case QJsonValue::String:
         return value.toString();
-    case QJsonValue::Double: {
-        const QVariant number = value.toVariant();
-        return number.type() == QVariant::LongLong ? number.toString() : numberText(value.toDouble());
-    }
+    case QJsonValue::Double:
+        return numberText(value.toDouble());
     case QJsonValue::Bool:
         return value.toBool() ? "1" : "0";
     default:
@@ -583,7 +581,8 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
     const QString type = item.value("Type").toString();
     const auto matrix = matrixOf(item.value("Matrix"));
     const auto angle = numbersOf(saysNothing(item.value("Angle")) ? QJsonValue(0) : item.value("Angle"));
-    if (!angle || angle->size() != 1) {
+    const bool hasTurn = saysNothing(item.value("Matrix")); // a matrix has its own
+    if (hasTurn && (!angle || angle->size() != 1)) {
         return std::nullopt;
     }
     const auto line = pointsOf(item.value("XY"));

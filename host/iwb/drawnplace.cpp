@@ -38,7 +38,9 @@ bool isInk(const QJsonObject &item, const ShapeForm *form)
 // Whether the values that the item is drawn from are what they should be.
 bool isWhole(const QJsonObject &item, const ShapeForm *form)
 {
-    if (!hasNumbers(item, ItemKeys::matrix, 6) || !hasNumbers(item, ItemKeys::angle, 1)) {
+    // A turn beside a matrix draws nothing.
+    const bool isUnderMatrix = !isNothing(item.value(ItemKeys::matrix));
+    if (!hasNumbers(item, isUnderMatrix ? ItemKeys::matrix : ItemKeys::angle, isUnderMatrix ? 6 : 1)) {
         return false;
     }
     if (isInk(item, form)) {

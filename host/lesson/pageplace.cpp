@@ -267,7 +267,8 @@ QJsonObject itemInPageForm(QJsonObject item, Placing &placing)
     nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
-    if (!ItemView(item).childObjects().isEmpty()) {
+    const bool isGroup = isContainer(item.value(ItemKeys::type).toString());
+    if (isGroup ? !ItemView(item).children().isEmpty() : !ItemView(item).childObjects().isEmpty()) {
         placeGroup(item, placing);
         return item;
     }
