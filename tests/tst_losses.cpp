@@ -691,7 +691,9 @@ bool takeAway(Given &given, int number)
         return isDone;
     }
     for (QDomDocument &document : given.documents) {
-        QDomDocument copy = document.cloneNode(true).toDocument();
+        // What is cloned with its document belongs to the document that it was cloned from.
+        QDomDocument copy;
+        copy.appendChild(copy.importNode(document.documentElement(), true));
         if (takeAway(copy.documentElement(), number)) {
             document = copy;
             return true;

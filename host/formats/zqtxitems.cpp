@@ -337,7 +337,9 @@ QDomElement ZqtxItems::write(const QJsonObject &item) const
     if (!children.isEmpty() && isContainer(item.value(typeKey).toString())) {
         QDomElement data = element.firstChildElement(QStringLiteral("data"));
         for (const QJsonValue &child : children) {
-            data.appendChild(write(child.toObject()));
+            if (child.isObject()) {
+                data.appendChild(write(child.toObject()));
+            }
         }
     }
     return element;
