@@ -4,6 +4,7 @@
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "izqtransformation.h"
+#include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "losses/attributes.h"
 #include "losses/equivalence.h"
@@ -21,14 +22,9 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String idKey("ID");
 const QLatin1String netId("NetID");
-const QLatin1String boxKey("BoundingBox");
 const QLatin1String boundName("Bound");
-const QLatin1String matrixKey("Matrix");
 const QLatin1String matrixName("TransformMatrix");
-const QLatin1String slideMatrixKey("SlideMatrix");
-const QLatin1String colorKey("Color");
 const QLatin1String innerPrefix("ArtInner_");
 const QLatin1String managerTag("ArtVectObj_Manager");
 
@@ -112,12 +108,13 @@ class Places
 public:
     Places(const QDomElement &element, const QJsonObject &item)
         : m_element(element)
-        , m_left(transformIn(item.value(matrixKey).toString()))
-        , m_found(numbersIn(item.value(boxKey).toString(), 4))
+        , m_left(transformIn(item.value(ItemKeys::matrix).toString()))
+        , m_found(numbersIn(item.value(ItemKeys::box).toString(), 4))
     {
         const auto own = element.hasAttribute(matrixName) ? transformIn(element.attribute(matrixName)) : QTransform();
-        const auto fit =
-            item.contains(slideMatrixKey) ? transformIn(item.value(slideMatrixKey).toString()) : QTransform();
+        const auto fit = item.contains(ItemKeys::slideMatrix)
+            ? transformIn(item.value(ItemKeys::slideMatrix).toString())
+            : QTransform();
         if (own && fit) {
             m_whole = *own * *fit;
         }
@@ -275,17 +272,17 @@ bool isArcAngle(const QString &type, const QString &name)
 // Ink has a colour as a text.
 bool isInk(const QJsonObject &item)
 {
-    return item.value(colorKey).isString();
+    return item.value(ItemKeys::color).isString();
 }
 
 QString echoedInk(const QString &name, const QString &given, const QJsonObject &item)
 {
-    const QColor found(item.value(colorKey).toString());
-    if (name == colorKey) {
+    const QColor found(item.value(ItemKeys::color).toString());
+    if (name == ItemKeys::color) {
         const auto color = opaqueColor(given);
         return color && color->rgb() == found.rgb() ? given : found.name();
     }
-    if (name == QLatin1String("Opacity")) {
+    if (name == ItemKeys::opacity) {
         return echoed(ValueForm::Number, given, found.alpha());
     }
     return echoed(ValueForm::InkWidth, given, item.value(name));
@@ -303,7 +300,7 @@ QDomElement managerOf(const QJsonObject &item)
 
 bool isInkValue(const QString &name)
 {
-    return name == colorKey || name == QLatin1String("Opacity") || name == QLatin1String("Width");
+    return name == ItemKeys::color || name == ItemKeys::opacity || name == ItemKeys::width;
 }
 
 } // namespace
@@ -333,7 +330,7 @@ QString RawEcho::attributeOfItem(const QDomElement &element, const QString &name
 {
     const QString type = element.tagName();
     if (name == netId) {
-        return item.value(idKey).toString();
+        return item.value(ItemKeys::id).toString();
     }
     if (isReference(name)) {
         return echoedFiles(given, item.value(name).toString());
@@ -444,7 +441,7 @@ QString RawEcho::keyOf(const QString &type, const QString &tag, const QString &a
     QString key;
     for (auto it = found.constBegin(); it != found.constEnd(); ++it) {
         const bool isMarked = it.value().toString() == mark;
-        if (isMarked || (key.isEmpty() && it.key() != idKey && it.value() != silent->value(it.key()))) {
+        if (isMarked || (key.isEmpty() && it.key() != ItemKeys::id && it.value() != silent->value(it.key()))) {
             key = it.key();
         }
     }
@@ -457,7 +454,7 @@ QDomElement RawEcho::ofSlide(const QDomElement &element, const QJsonObject &prop
     QDomElement echo = looseElement(element.tagName());
     const auto attributes = attributesOf(element);
     for (const auto &[name, given] : attributes) {
-        const QJsonValue value = properties.value(name == netId ? QString(idKey) : name);
+        const QJsonValue value = properties.value(name == netId ? QString(ItemKeys::id) : name);
         QString text = valueText(value);
         if (name == QLatin1String("BackColor") && value.isDouble()) {
             const auto color = given.contains(QLatin1Char(',')) ? opaqueColor(given) : std::nullopt;
@@ -475,7 +472,7 @@ QDomElement RawEcho::ofPresentation(const QDomElement &element, const QJsonObjec
     QDomElement echo = looseElement(element.tagName());
     const auto attributes = attributesOf(element);
     for (const auto &[name, given] : attributes) {
-        echo.setAttribute(name, valueText(presentation.value(name == netId ? QString(idKey) : name)));
+        echo.setAttribute(name, valueText(presentation.value(name == netId ? QString(ItemKeys::id) : name)));
     }
     return echo;
 }

@@ -33,7 +33,6 @@ const QLatin1String rootTag("presentation");
 const QLatin1String slideTag("slide");
 const QLatin1String groupSons("GroupSonItems");
 const QLatin1String resourceFolder("resources");
-const QLatin1String idKey("ID");
 const QLatin1String netId("NetID");
 
 // What a raw presentation says in attributes of its own; the plug-in reads none of them.
@@ -183,7 +182,7 @@ private:
         do {
             id = QString::number(m_nextId++);
         } while (m_ids.contains(id));
-        object.insert(idKey, id);
+        object.insert(ItemKeys::id, id);
     }
 
     // References to files get the folder as their only directory, wherever they pointed to on the machine they are
@@ -209,16 +208,15 @@ private:
     // A raw lesson says how large its slides were; the model wants the page that they are fitted into.
     void addPageSize()
     {
-        const QLatin1String width("Width");
-        const QLatin1String height("Height");
-        if (m_slides.isEmpty() || m_presentation.contains(width) || m_presentation.contains(height)) {
+        if (m_slides.isEmpty() || m_presentation.contains(PresentationKeys::width)
+            || m_presentation.contains(PresentationKeys::height)) {
             return;
         }
         const QJsonObject slide =
             m_context.plugin->tranSlideXML2JSON(m_slides.first().cloneNode(false).toElement(), context());
         const QSize size = pageOfSourceRect(valueText(slide.value(SlideKeys::sourceRect)));
-        m_presentation.insert(width, QString::number(size.width()));
-        m_presentation.insert(height, QString::number(size.height()));
+        m_presentation.insert(PresentationKeys::width, QString::number(size.width()));
+        m_presentation.insert(PresentationKeys::height, QString::number(size.height()));
     }
 
     QJsonObject readItem(QDomElement element, const QJsonObject &context, const CarriedCheck *check)
@@ -242,7 +240,7 @@ private:
         findSingleFile(untouched, item);
         if (check) {
             takeEmptied(untouched, groupSons);
-            check->compare({element.tagName(), item.value(idKey).toString()}, untouched,
+            check->compare({element.tagName(), item.value(ItemKeys::id).toString()}, untouched,
                            m_echo.ofItem(untouched, item));
         }
         nameMediaFile(item);

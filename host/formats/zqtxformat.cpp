@@ -33,7 +33,6 @@ const QLatin1String indexTag("main");
 const QLatin1String slideTag("slide");
 const QLatin1String itemsTag("items");
 const QLatin1String slidesTag("slides");
-const QLatin1String idKey("ID");
 // How many elements stand around an item.
 constexpr int itemDepth = 2;
 
@@ -75,7 +74,7 @@ public:
         LessonSlide slide;
         slide.properties = readProperties(root, context);
         if (check) {
-            check->compare({slideTag, slide.properties.value(idKey).toString()}, root,
+            check->compare({slideTag, slide.properties.value(SlideKeys::id).toString()}, root,
                            writeProperties(slide.properties).documentElement());
         }
         QJsonObject itemContext = context;
@@ -156,7 +155,7 @@ QDomDocument writeIndex(IZQTransformation *plugin, const QJsonObject &presentati
     QJsonObject written = writableProperties(presentation);
     QJsonArray slides;
     for (const QString &id : slideIds) {
-        slides.append(QJsonObject{{idKey, id}});
+        slides.append(QJsonObject{{SlideKeys::id, id}});
     }
     written.insert(QStringLiteral("Slides"), slides);
     QDomDocument document = plugin->tranPresJSON2ZQTX({}, written);
@@ -198,10 +197,10 @@ public:
         const bool isChecked = m_context.verify && losses.isHeard();
         LessonSlide slide = m_slides->read(root, location(), isChecked ? &check : nullptr);
         checkSlideItems(slide.items, index + 1, m_source.displayName(file));
-        if (slide.properties.value(idKey).toString().isEmpty()) {
-            slide.properties.insert(idKey, QFileInfo(file).completeBaseName());
+        if (slide.properties.value(SlideKeys::id).toString().isEmpty()) {
+            slide.properties.insert(SlideKeys::id, QFileInfo(file).completeBaseName());
         }
-        noteRenamedFile(index, slide.properties.value(idKey).toString(), losses);
+        noteRenamedFile(index, slide.properties.value(SlideKeys::id).toString(), losses);
         return slide;
     }
 
@@ -265,7 +264,7 @@ private:
         losses.note(
             QString(slideTag),
             QStringLiteral("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id)),
-            idKey);
+            SlideKeys::id);
     }
 
     LessonContext m_context;
@@ -325,8 +324,8 @@ public:
         LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems,
                                               [this](const QString &type) { return isHeld(type); });
         written.properties = withShortPictures(written.properties);
-        const QString id = usableId(valueText(slide.properties.value(idKey)), number);
-        written.properties.insert(idKey, id);
+        const QString id = usableId(valueText(slide.properties.value(SlideKeys::id)), number);
+        written.properties.insert(SlideKeys::id, id);
         const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
         const QByteArray text = m_slides->write(written, number, name);
         checkSlideSize(text.size(), number, name);

@@ -21,13 +21,11 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String typeKey("Type");
 const QString typeAttribute = QStringLiteral("type");
 const QString idAttribute = QStringLiteral("id");
 const QString rawIdAttribute = QStringLiteral("NetID");
 const QLatin1String attachmentsTag("attachments");
 const QLatin1String errorKey("error");
-const QLatin1String strokeKey("XY");
 const QLatin1String heldItemTag("item");
 const QLatin1String heldItemAttribute("json");
 
@@ -88,7 +86,7 @@ void readOldStroke(const QDomElement &element, QJsonObject &item)
     const QString offsets = data.firstChildElement(QStringLiteral("vertex")).attribute(QStringLiteral("points"));
     const QString points = offsetsAsPoints(offsets);
     if (!points.isEmpty()) {
-        item.insert(strokeKey, points);
+        item.insert(ItemKeys::steps, points);
     }
 }
 
@@ -203,8 +201,8 @@ void writeOtherAnimations(QDomElement &element, const QJsonObject &written)
 QDomElement heldItemElement(const QJsonObject &item)
 {
     QDomElement element = looseElement(heldItemTag);
-    element.setAttribute(QStringLiteral("type"), item.value(typeKey).toString());
-    element.setAttribute(QStringLiteral("id"), item.value(QLatin1String("ID")).toString());
+    element.setAttribute(QStringLiteral("type"), item.value(ItemKeys::type).toString());
+    element.setAttribute(QStringLiteral("id"), item.value(ItemKeys::id).toString());
     element.setAttribute(heldItemAttribute, QString::fromUtf8(QJsonDocument(item).toJson(QJsonDocument::Compact)));
     return element;
 }
@@ -285,9 +283,9 @@ QJsonObject ZqtxItems::read(QDomElement element, const QJsonObject &context, con
 void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomElement written,
                         const CarriedCheck &check) const
 {
-    const QString type = item.value(typeKey).toString();
+    const QString type = item.value(ItemKeys::type).toString();
     if (read.attribute(typeAttribute) != written.attribute(typeAttribute)
-        && m_plugin->tranItemZQTX2JSON(written, {}).value(typeKey) == type) {
+        && m_plugin->tranItemZQTX2JSON(written, {}).value(ItemKeys::type) == type) {
         // Two names of one type.
         written.setAttribute(typeAttribute, read.attribute(typeAttribute));
     }
@@ -307,13 +305,13 @@ QJsonObject ZqtxItems::readSingle(QDomElement element, const QJsonObject &contex
     if (isUnknownAgain) {
         element.setAttribute(typeAttribute, writtenType);
     }
-    const QString type = item.value(typeKey).toString();
+    const QString type = item.value(ItemKeys::type).toString();
     if (m_majorVersion == 3 && isContainer(type)) {
         keepIgnored(element, "points", QLatin1String("BoundingBox"), HostKeys::ignoredBox, item);
     } else if (isFigure(type)) {
         keepIgnored(element, "controlpoints", QLatin1String("Control"), HostKeys::ignoredControl, item);
     }
-    if (m_majorVersion < 3 && item.contains(strokeKey)) {
+    if (m_majorVersion < 3 && item.contains(ItemKeys::steps)) {
         readOldStroke(element, item);
     }
     if (type == QLatin1String("ZQQuestionItem")) {
@@ -334,7 +332,7 @@ QDomElement ZqtxItems::write(const QJsonObject &item) const
         return heldItemElement(item);
     }
     const QJsonArray children = item.value(HostKeys::children).toArray();
-    if (!children.isEmpty() && isContainer(item.value(typeKey).toString())) {
+    if (!children.isEmpty() && isContainer(item.value(ItemKeys::type).toString())) {
         QDomElement data = element.firstChildElement(QStringLiteral("data"));
         for (const QJsonValue &child : children) {
             if (child.isObject()) {
@@ -347,7 +345,7 @@ QDomElement ZqtxItems::write(const QJsonObject &item) const
 
 bool ZqtxItems::isHeld(const QString &type) const
 {
-    return m_plugin->tranItemJSON2ZQTX({}, {{typeKey, type}}).isNull();
+    return m_plugin->tranItemJSON2ZQTX({}, {{ItemKeys::type, type}}).isNull();
 }
 
 QDomElement ZqtxItems::writeSingle(const QJsonObject &item) const

@@ -242,8 +242,8 @@ void IwbPageCheck::comparePresentation(const QDomDocument &document, const QJson
     QDomDocument size;
     const QJsonObject found =
         m_plugin->tranPresIWB2JSON(SvgNormalizer(document.documentElement()).sizeElement(size), {});
-    const QString range = found.value(QLatin1String("Width")).toString() + QLatin1Char(',')
-        + found.value(QLatin1String("Height")).toString();
+    const QString range = found.value(PresentationKeys::width).toString() + QLatin1Char(',')
+        + found.value(PresentationKeys::height).toString();
     Comparison::Rules rules;
     rules.tolerance = writtenDigits;
     rules.isSame = [&range](const QString &key, const QJsonValue &value, const QJsonValue &) {

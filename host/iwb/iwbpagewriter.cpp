@@ -35,16 +35,16 @@ IwbPageWriter::IwbPageWriter(const IwbItemWriter::Setting &setting)
 
 void IwbPageWriter::start(const QJsonObject &presentation, const QJsonObject &firstSlide)
 {
-    const QLatin1String width("Width");
-    const QLatin1String height("Height");
-    m_pageSize = QSizeF(itemNumber(presentation.value(width)), itemNumber(presentation.value(height)));
+    m_pageSize = QSizeF(itemNumber(presentation.value(PresentationKeys::width)),
+                        itemNumber(presentation.value(PresentationKeys::height)));
     if (!(m_pageSize.width() > 0) || !(m_pageSize.height() > 0)) {
         m_pageSize = pageOfSourceRect(valueText(firstSlide.value(SlideKeys::sourceRect)));
     }
-    QJsonObject size{{width, exactText(m_pageSize.width())}, {height, exactText(m_pageSize.height())}};
-    const QString id = withoutControlCharacters(valueText(presentation.value(SlideKeys::id)));
+    QJsonObject size{{PresentationKeys::width, exactText(m_pageSize.width())},
+                     {PresentationKeys::height, exactText(m_pageSize.height())}};
+    const QString id = withoutControlCharacters(valueText(presentation.value(PresentationKeys::id)));
     if (!id.isEmpty()) {
-        size.insert(SlideKeys::id, id);
+        size.insert(PresentationKeys::id, id);
     }
     m_document = m_plugin->tranPresJSON2IWB({}, size);
     QDomElement svg = m_document.documentElement().firstChildElement(svgTag);
@@ -75,8 +75,8 @@ QDomElement IwbPageWriter::addPage(const QJsonObject &slide, int number, const S
                                                        {SlideKeys::id, id},
                                                        {QStringLiteral("x"), QStringLiteral("0")},
                                                        {QStringLiteral("y"), QStringLiteral("0")},
-                                                       {QStringLiteral("Width"), exactText(m_pageSize.width())},
-                                                       {QStringLiteral("Height"), exactText(m_pageSize.height())},
+                                                       {PresentationKeys::width, exactText(m_pageSize.width())},
+                                                       {PresentationKeys::height, exactText(m_pageSize.height())},
                                                        {SlideKeys::backColor, backgroundColor(slide)},
                                                        {QStringLiteral("AttachFile"), picture},
                                                    });

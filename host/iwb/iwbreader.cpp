@@ -3,6 +3,7 @@
 #include "files/lessonerror.h"
 #include "iwb/slidenames.h"
 #include "izqtransformation.h"
+#include "lesson/itemkeys.h"
 #include "lesson/slidelimits.h"
 
 namespace lessonhost {
@@ -44,7 +45,7 @@ LessonSlide IwbReader::slide(int index)
 {
     LessonSlide slide = m_slides.read(m_content.page(index), index + 1, m_losses.slide(index + 1)).slide;
     checkSlideItems(slide.items, index + 1, m_package.displayName());
-    slide.properties.insert(QLatin1String("ID"), m_slideIds.at(index));
+    slide.properties.insert(SlideKeys::id, m_slideIds.at(index));
     return slide;
 }
 

@@ -39,7 +39,7 @@ IwbSlideReader::Slide IwbSlideReader::read(IwbPage page, int number, const Slide
         if (!item.isEmpty()) {
             const QString id =
                 element.id.isEmpty() ? QStringLiteral("item%1_%2").arg(number).arg(ids.count() + 1) : element.id;
-            item.insert(QLatin1String("ID"), ids.take(id));
+            item.insert(ItemKeys::id, ids.take(id));
             result.slide.items.append(item);
             result.elementIds.append(element.id);
         }
@@ -140,7 +140,7 @@ void IwbSlideReader::readLink(const IwbElement &item, const SlideLosses &losses,
         }
     }
     if (link.isEmpty()) {
-        losses.value({json.value(QLatin1String("Type")).toString(), item.id}, QStringLiteral("InteractiveValue"),
+        losses.value({json.value(ItemKeys::type).toString(), item.id}, ItemKeys::linkValue,
                      QLatin1String("link to \"") + item.link + QLatin1String("\": ") + problem);
     }
     for (auto it = link.constBegin(); it != link.constEnd(); ++it) {

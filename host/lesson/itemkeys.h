@@ -58,6 +58,14 @@ const QLatin1String texture("TextureLineType");
 const QLatin1String sourceRect("SlideSourceRect"); //!< x,y,width,height of the slide that was fitted to the page
 } // namespace SlideKeys
 
+//! Keys of the presentation.
+namespace PresentationKeys {
+const QLatin1String id("ID");
+const QLatin1String width("Width"); //!< of a page, in pixels
+const QLatin1String height("Height");
+const QLatin1String version("Version"); //!< its first number decides how strokes store their points
+} // namespace PresentationKeys
+
 //! Keys that only the host knows: how it keeps what the plug-in has no key for.
 namespace HostKeys {
 const QLatin1String children("Children"); //!< nested items of a group or a formula

@@ -1,5 +1,6 @@
 #include "lesson/itemvalues.h"
 
+#include "lesson/itemkeys.h"
 #include <QJsonArray>
 #include <QLocale>
 #include <QStringList>
@@ -84,7 +85,7 @@ QString numberArrayText(const QJsonArray &array)
 
 int majorVersion(const QJsonObject &presentation)
 {
-    return valueText(presentation.value(QLatin1String("Version"))).section(QLatin1Char('.'), 0, 0).toInt();
+    return valueText(presentation.value(PresentationKeys::version)).section(QLatin1Char('.'), 0, 0).toInt();
 }
 
 QString valueText(const QJsonValue &value)

@@ -141,15 +141,14 @@ private:
 // Opacity of ink is read into its colour.
 QJsonObject withOpacityInColor(QJsonObject item, const QJsonObject &found)
 {
-    const QLatin1String opacityKey("Opacity");
-    const QLatin1String colorKey("Color");
-    const auto opacity = wholeNumbers(item.value(opacityKey));
-    const auto color = wholeColor(item.value(colorKey));
+    const auto opacity = wholeNumbers(item.value(ItemKeys::opacity));
+    const auto color = wholeColor(item.value(ItemKeys::color));
     const bool isAlpha = opacity && opacity->size() == 1 && opacity->first() >= 0 && opacity->first() <= 255
-        && !found.contains(opacityKey);
-    if (color && isAlpha && wholeColor(found.value(colorKey)) == ((*color & 0xffffff) | QRgb(opacity->first()) << 24)) {
-        item.remove(opacityKey);
-        item.remove(colorKey);
+        && !found.contains(ItemKeys::opacity);
+    if (color && isAlpha
+        && wholeColor(found.value(ItemKeys::color)) == ((*color & 0xffffff) | QRgb(opacity->first()) << 24)) {
+        item.remove(ItemKeys::opacity);
+        item.remove(ItemKeys::color);
     }
     return item;
 }

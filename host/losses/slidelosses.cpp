@@ -1,5 +1,6 @@
 #include "losses/slidelosses.h"
 
+#include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "losses/lossreport.h"
 
@@ -8,8 +9,8 @@
 namespace lessonhost {
 
 LossOwner::LossOwner(const QJsonObject &item)
-    : type(item.value(QLatin1String("Type")).toString())
-    , id(valueText(item.value(QLatin1String("ID"))))
+    : type(item.value(ItemKeys::type).toString())
+    , id(valueText(item.value(ItemKeys::id)))
 {
 }
 

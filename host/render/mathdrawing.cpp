@@ -140,7 +140,7 @@ SvgPaint paintOf(const ItemView &item)
     paint.line = firstColor(item, {"ArtObj_LineColor", "LineColor"}, Qt::black);
     paint.dashParts = dashParts(item.number(QLatin1String("ArtObj_Mode")));
     paint.fill = item.isFilled() ? firstColor(item, {"ArtObj_FillColor", "FillColor", "ArtObj_Color"}, Qt::transparent)
-                                : QColor(Qt::transparent);
+                                 : QColor(Qt::transparent);
     return paint;
 }
 

@@ -36,7 +36,7 @@ QVector<int> chosenSlides(const RenderSettings &settings, int count)
 
 QString titleOf(const QJsonObject &presentation)
 {
-    const QString title = presentation.value(QLatin1String("Title")).toString();
+    const QString title = presentation.value(HostKeys::title).toString();
     return title.isEmpty() ? QStringLiteral("Lesson") : title;
 }
 
