@@ -517,9 +517,11 @@ void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QStr
         const QString list = place.path.first().toString();
         // An attribute of the item that is no place bears the name of a key or none.
         const QString key = known.isEmpty() ? last : known;
-        const QJsonValue value = list == "PixelDeleteInfos" ? valueInList(item.value(list), key)
-            : known.isEmpty() && place.path.size() > 1      ? QJsonValue(QJsonValue::Undefined)
-                                                            : item.value(key);
+        // What the list's element itself says is in none of its records.
+        const bool isInList = list == "PixelDeleteInfos" && place.path.size() > 2;
+        const QJsonValue value = isInList              ? valueInList(item.value(list), key)
+            : known.isEmpty() && place.path.size() > 1 ? QJsonValue(QJsonValue::Undefined)
+                                                       : item.value(key);
         const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed)
             || (place.path.size() == 1 && isSameControl(last, place.text, item));
         // What is there twice may be told once.
