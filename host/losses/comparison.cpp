@@ -57,16 +57,16 @@ public:
         if (isSameValue(key, given, actual, m_tolerance)) {
             return;
         }
-        if (wholeColor(given) && wholeColor(actual)) {
-            m_all.append({way, detailOf(given)});
-        } else if (given.isArray() && actual.isArray()) {
+        // A colour is told as one value, whichever form it has.
+        const bool isColor = wholeColor(given) && wholeColor(actual);
+        if (!isColor && given.isArray() && actual.isArray()) {
             compareArrays(way, key, given.toArray(), actual.toArray());
-        } else if (given.isObject() && actual.isObject()) {
+        } else if (!isColor && given.isObject() && actual.isObject()) {
             const QJsonObject object = given.toObject();
             for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
                 compare(way + QLatin1Char('.') + it.key(), it.key(), it.value(), actual.toObject().value(it.key()));
             }
-        } else if (given.isString() && actual.isArray() && isListText(given.toString())) {
+        } else if (!isColor && given.isString() && actual.isArray() && isListText(given.toString())) {
             compareArrays(way, key, QJsonDocument::fromJson(given.toString().toUtf8()).array(), actual.toArray());
         } else {
             m_all.append({way, detailOf(given)});
