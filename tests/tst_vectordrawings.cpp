@@ -143,7 +143,9 @@ private slots:
         const SvgDrawing drawing = type.contains("Vector"_s) ? vectorDrawing(type) : mathDrawing(type);
         const IwbMedia media;
         PlainSvg svg(QSizeF(10, 10), media);
-        QTEST(drawing(svg, item), "isDrawn");
+        IwbPageWriter pages({});
+        Canvas canvas(svg, pages, {});
+        QTEST(drawing(canvas, ItemView(item)), "isDrawn");
         QVERIFY(!svg.text().contains("nan") && !svg.text().contains("inf"));
     }
 };

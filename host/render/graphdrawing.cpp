@@ -1,15 +1,34 @@
 #include "render/graphdrawing.h"
 
-#include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
 #include "render/outline.h"
+#include "svg/svgstyle.h"
 
 #include <QHash>
 #include <QLineF>
+#include <QPainterPath>
+#include <QVector>
+
+#include <optional>
 
 namespace lessonhost {
 
 namespace {
+
+/*!
+ * What is to be seen of an item.
+ */
+struct GraphDrawing
+{
+    struct Part
+    {
+        QPainterPath path; //!< on the page, so that no stretching reaches the width of its line
+        SvgPaint paint;
+    };
+    QVector<Part> parts;
+    QRectF textArea; //!< where the shape has room for a text, under placed
+    QTransform placed;
+};
 
 struct Shape
 {
@@ -352,14 +371,7 @@ std::optional<GraphDrawing> drawnFreely(const ItemView &item)
     return drawing;
 }
 
-} // namespace
-
-bool isGraph(const QString &type)
-{
-    return shapeOf(type) || isSegment(type) || isFreeDrawing(type) || type == straightArrow || type == curvedArrow;
-}
-
-std::optional<GraphDrawing> graphDrawing(const ItemView &item)
+std::optional<GraphDrawing> drawingOf(const ItemView &item)
 {
     const QString type = item.type();
     if (isSegment(type)) {
@@ -380,6 +392,30 @@ std::optional<GraphDrawing> graphDrawing(const ItemView &item)
         return std::nullopt;
     }
     return drawnShape(item, *shape, *box);
+}
+
+bool drawGraph(Canvas &canvas, const ItemView &item)
+{
+    const auto graph = drawingOf(item);
+    if (!graph) {
+        return false;
+    }
+    for (const GraphDrawing::Part &part : graph->parts) {
+        canvas.svg().addPath(part.path, part.paint);
+    }
+    if (!graph->textArea.isEmpty()) {
+        canvas.addText(item.text(ItemKeys::html), graph->textArea, graph->placed);
+    }
+    return true;
+}
+
+} // namespace
+
+SvgDrawing graphDrawing(const QString &type)
+{
+    const bool isGraph = shapeOf(type) || isSegment(type) || isFreeDrawing(type) || type == straightArrow
+        || type == curvedArrow;
+    return isGraph ? &drawGraph : nullptr;
 }
 
 } // namespace lessonhost

@@ -145,7 +145,7 @@ SvgPaint paintOf(const ItemView &item)
 }
 
 // The corners that an item tells, within its box.
-bool drawCorners(PlainSvg &svg, const ItemView &item, int corners)
+bool drawCorners(Canvas &canvas, const ItemView &item, int corners)
 {
     const QPolygonF points = item.points(ItemKeys::control);
     if (corners == 0 || points.size() != corners) {
@@ -154,7 +154,7 @@ bool drawCorners(PlainSvg &svg, const ItemView &item, int corners)
     QPainterPath path;
     path.addPolygon(points);
     path.closeSubpath();
-    svg.addPath(onPage(path, points.boundingRect(), item), paintOf(item));
+    canvas.svg().addPath(onPage(path, points.boundingRect(), item), paintOf(item));
     return true;
 }
 
@@ -216,115 +216,110 @@ QPainterPath axis(double length, double step, double arrow)
 }
 
 // A figure or a body of the table: the corners of the item if it has as many as the type, else the type's own form.
-bool drawForm(PlainSvg &svg, const QJsonObject &item)
+bool drawForm(Canvas &canvas, const ItemView &item)
 {
-    const ItemView view(item);
-    const MathForm *const form = formOf(view.type());
+    const MathForm *const form = formOf(item.type());
     if (!form) {
         return false;
     }
-    if (drawCorners(svg, view, form->corners)) {
+    if (drawCorners(canvas, item, form->corners)) {
         return true;
     }
-    const PlacedBox box(view);
+    const PlacedBox box(item);
     if (box.isEmpty()) {
         return false;
     }
-    const SvgPaint paint = paintOf(view);
+    const SvgPaint paint = paintOf(item);
     SvgPaint face = paint;
     if (!form->isOutlined) {
         face.line = Qt::transparent;
     }
-    svg.addPath(box.place.map(pathOf(form->face)), face);
+    canvas.svg().addPath(box.place.map(pathOf(form->face)), face);
     SvgPaint edges = paint;
     edges.fill = Qt::transparent;
     if (*form->edges) {
-        svg.addPath(box.place.map(pathOf(form->edges)), edges);
+        canvas.svg().addPath(box.place.map(pathOf(form->edges)), edges);
     }
     if (*form->hidden) {
         edges.dashParts = dashOfHidden;
-        svg.addPath(box.place.map(pathOf(form->hidden)), edges);
+        canvas.svg().addPath(box.place.map(pathOf(form->hidden)), edges);
     }
     return true;
 }
 
 // The part of an ellipse from StartAngle on, counterclockwise; with a fill, out to its centre.
-bool drawArc(PlainSvg &svg, const QJsonObject &item)
+bool drawArc(Canvas &canvas, const ItemView &item)
 {
-    const ItemView view(item);
-    const PlacedBox box(view);
+    const PlacedBox box(item);
     if (box.isEmpty()) {
         return false;
     }
     constexpr double wholeTurn = 360;
-    const double start = std::fmod(view.number(QLatin1String("StartAngle")), wholeTurn);
-    const double sweep = qBound(-wholeTurn, view.number(QLatin1String("SweepAngle"), 90), wholeTurn);
+    const double start = std::fmod(item.number(QLatin1String("StartAngle")), wholeTurn);
+    const double sweep = qBound(-wholeTurn, item.number(QLatin1String("SweepAngle"), 90), wholeTurn);
     const QRectF ellipse(0, 0, 1, 1);
-    SvgPaint paint = paintOf(view);
+    SvgPaint paint = paintOf(item);
     const QLatin1String width("LineWidth");
-    paint.lineWidth = outlineWidth(view, view.has(width) ? width : ItemKeys::lineWidth);
-    if (view.flag(QLatin1String("IsFill"))) {
+    paint.lineWidth = outlineWidth(item, item.has(width) ? width : ItemKeys::lineWidth);
+    if (item.flag(QLatin1String("IsFill"))) {
         SvgPaint sector = paint;
         sector.line = Qt::transparent;
         QPainterPath path(ellipse.center());
         path.arcTo(ellipse, start, sweep);
         path.closeSubpath();
-        svg.addPath(box.place.map(path), sector);
+        canvas.svg().addPath(box.place.map(path), sector);
     }
     paint.fill = Qt::transparent;
     QPainterPath path;
     path.arcMoveTo(ellipse, start);
     path.arcTo(ellipse, start, sweep);
-    svg.addPath(box.place.map(path), paint);
+    canvas.svg().addPath(box.place.map(path), paint);
     return true;
 }
 
 // A point, as large as the item's line is wide.
-bool drawDot(PlainSvg &svg, const QJsonObject &item)
+bool drawDot(Canvas &canvas, const ItemView &item)
 {
-    const ItemView view(item);
-    const QPolygonF points = view.points(ItemKeys::control);
-    const auto box = view.box();
+    const QPolygonF points = item.points(ItemKeys::control);
+    const auto box = item.box();
     if (!box && points.isEmpty()) {
         return false;
     }
-    SvgPaint paint = axisPaint(view);
+    SvgPaint paint = axisPaint(item);
     const double radius = paint.lineWidth + 1;
     QPainterPath path;
-    path.addEllipse(placeOnPage(view).map(box ? box->center() : points.first()), radius, radius);
+    path.addEllipse(placeOnPage(item).map(box ? box->center() : points.first()), radius, radius);
     paint.fill = paint.line;
     paint.line = Qt::transparent;
-    svg.addPath(path, paint);
+    canvas.svg().addPath(path, paint);
     return true;
 }
 
 // Two axes with arrows and ticks; the item doesn't tell its unit, so the ticks have no numbers.
-bool drawAxes(PlainSvg &svg, const QJsonObject &item)
+bool drawAxes(Canvas &canvas, const ItemView &item)
 {
-    const ItemView view(item);
-    const PlacedBox box(view);
+    const PlacedBox box(item);
     if (box.isEmpty()) {
         return false;
     }
-    const SvgPaint paint = axisPaint(view);
+    const SvgPaint paint = axisPaint(item);
     const double step = qMax(box.width, box.height) / ticksPerSide;
     const double arrow = qMin(4 * paint.lineWidth + 4, qMin(box.width, box.height) / 4);
     QPainterPath path = axis(box.width, step, arrow);
     // Up on the screen is where y grows.
     path.addPath(QTransform(0, -1, 1, 0, 0, 0).map(axis(box.height, step, arrow)));
-    svg.addPath(box.inPixels().map(path), paint);
+    canvas.svg().addPath(box.inPixels().map(path), paint);
     return true;
 }
 
 // Circles and rays about the centre, and the axis that angles begin at.
-bool drawPolarAxes(PlainSvg &svg, const QJsonObject &item)
+bool drawPolarAxes(Canvas &canvas, const ItemView &item)
 {
-    const ItemView view(item);
-    const PlacedBox box(view);
+    const PlacedBox box(item);
     if (box.isEmpty()) {
         return false;
     }
-    SvgPaint paint = axisPaint(view);
+    SvgPaint paint = axisPaint(item);
     const double radius = qMin(box.width, box.height) / 2;
     const double arrow = qMin(4 * paint.lineWidth + 4, radius / 2);
     QPainterPath net;
@@ -339,13 +334,13 @@ bool drawPolarAxes(PlainSvg &svg, const QJsonObject &item)
     }
     SvgPaint thin = paint;
     thin.lineWidth = paint.lineWidth / 2;
-    svg.addPath(box.inPixels().map(net), thin);
+    canvas.svg().addPath(box.inPixels().map(net), thin);
     QPainterPath ray(QPointF(0, 0));
     ray.lineTo(box.width / 2, 0);
     ray.moveTo(box.width / 2 - arrow, -arrow / 2);
     ray.lineTo(box.width / 2, 0);
     ray.lineTo(box.width / 2 - arrow, arrow / 2);
-    svg.addPath(box.inPixels().map(ray), paint);
+    canvas.svg().addPath(box.inPixels().map(ray), paint);
     return true;
 }
 

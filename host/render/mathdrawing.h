@@ -1,7 +1,7 @@
 #ifndef MATHDRAWING_H
 #define MATHDRAWING_H
 
-#include "render/plainsvg.h"
+#include "render/canvas.h"
 
 namespace lessonhost {
 

@@ -14,11 +14,7 @@
 namespace lessonhost {
 
 class IwbMedia;
-class PlainSvg;
 struct SvgPaint;
-
-//! A drawing of one type. False for an item that doesn't tell enough for it.
-using SvgDrawing = bool (*)(PlainSvg &svg, const QJsonObject &item);
 
 /*!
  * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that

@@ -83,14 +83,13 @@ QPainterPath pathOf(const QVector<Knot> &knots)
     return path;
 }
 
-bool drawVectorShape(PlainSvg &svg, const QJsonObject &item)
+bool drawVectorShape(Canvas &canvas, const ItemView &item)
 {
-    const ItemView view(item);
     QVector<QPainterPath> paths;
     QRectF covered;
     for (int i = 0; i < mostPaths; ++i) {
-        const QString key = QStringLiteral("VectorControl%1").arg(i);
-        const QPainterPath path = pathOf(knotsOf(itemNumbers(item.value(key))));
+        const QByteArray key = "VectorControl" + QByteArray::number(i);
+        const QPainterPath path = pathOf(knotsOf(item.numbers(QLatin1String(key))));
         if (!path.isEmpty()) {
             // A rectangle without an area adds nothing to others.
             const QRectF bounds = path.boundingRect().adjusted(0, 0, 1e-9, 1e-9);
@@ -99,12 +98,12 @@ bool drawVectorShape(PlainSvg &svg, const QJsonObject &item)
         }
     }
     SvgPaint paint;
-    paint.lineWidth = outlineWidth(view);
-    const QColor fill = firstColor(view, {"ArtVectObj_RegionColor"}, Qt::transparent);
-    paint.line = firstColor(view, {"ArtVectObj_FrameColor"}, fill.alpha() > 0 ? Qt::transparent : Qt::black);
+    paint.lineWidth = outlineWidth(item);
+    const QColor fill = firstColor(item, {"ArtVectObj_RegionColor"}, Qt::transparent);
+    paint.line = firstColor(item, {"ArtVectObj_FrameColor"}, fill.alpha() > 0 ? Qt::transparent : Qt::black);
     for (const QPainterPath &path : qAsConst(paths)) {
         paint.fill = path.currentPosition() == QPointF(path.elementAt(0)) ? fill : QColor(Qt::transparent);
-        svg.addPath(onPage(path, covered, view), paint);
+        canvas.svg().addPath(onPage(path, covered, item), paint);
     }
     return !paths.isEmpty();
 }

@@ -1,7 +1,7 @@
 #ifndef VECTORDRAWING_H
 #define VECTORDRAWING_H
 
-#include "render/plainsvg.h"
+#include "render/canvas.h"
 
 namespace lessonhost {
 

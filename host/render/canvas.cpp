@@ -1,0 +1,56 @@
+#include "render/canvas.h"
+
+#include "lesson/closedtext.h"
+
+namespace lessonhost {
+
+namespace {
+
+// What IWB leaves with anything to see.
+bool isSeen(const QDomElement &element)
+{
+    const QString tag = element.tagName();
+    return !tag.isEmpty() && tag != QLatin1String("svg:video") && tag != QLatin1String("svg:a")
+        && (tag != QLatin1String("svg:image") || !element.attribute(QStringLiteral("xlink:href")).isEmpty());
+}
+
+} // namespace
+
+Canvas::Canvas(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files)
+    : m_svg(svg)
+    , m_pages(pages)
+    , m_files(files)
+{
+}
+
+bool Canvas::addAsIwb(const QJsonObject &item)
+{
+    QDomDocument document = m_pages.document();
+    const QDomElement element = m_pages.items().write(document, item, {}, {});
+    return isSeen(element) && m_svg.add(element);
+}
+
+// A text board without a frame.
+void Canvas::addText(const QString &html, const QRectF &area, const QTransform &placed)
+{
+    if (plainWords(html).isEmpty()) {
+        return;
+    }
+    QDomDocument document = m_pages.document();
+    const QJsonObject board{{ItemKeys::type, QStringLiteral("ZQTextBoard")},
+                            {ItemKeys::box, boxText(area)},
+                            {ItemKeys::matrix, transformText(placed)},
+                            {ItemKeys::html, html}};
+    m_svg.addTextInMiddle(m_pages.items().write(document, board, {}, {}));
+}
+
+bool Canvas::addPicture(const QString &file, const QRectF &box, const QTransform &placed)
+{
+    return m_files.contains(file)
+        && addAsIwb({{ItemKeys::type, QStringLiteral("ZQImagePic")},
+                     {ItemKeys::box, boxText(box)},
+                     {ItemKeys::matrix, transformText(placed)},
+                     {ItemKeys::resource, file}});
+}
+
+} // namespace lessonhost
