@@ -1,8 +1,10 @@
+#include "contactsheet.h"
 #include "documents.h"
 #include "files/lessonerror.h"
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QJsonDocument>
 
 #include <cstdio>
 
@@ -18,28 +20,31 @@ void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
     }
 }
 
-bool write(const QString &path, const QString &text)
+bool write(const QString &path, const QByteArray &text)
 {
     QFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
 } // namespace
 
 // generatedocuments FOLDER: writes FORMATS.md and LOSSES.md.
+// generatedocuments --sheet FILE [WORD]: writes the lesson of the contact sheet.
 int main(int argc, char **argv)
 {
     qInstallMessageHandler(keepQuiet);
     qSetGlobalQHashSeed(0);
     QGuiApplication application(argc, argv);
-    const QString folder = QCoreApplication::arguments().value(1, QStringLiteral("."));
+    const QStringList arguments = QCoreApplication::arguments();
+    const bool isSheet = arguments.value(1) == QLatin1String("--sheet");
+    const QString target = arguments.value(isSheet ? 2 : 1, QStringLiteral("."));
     try {
-        if (write(folder + QLatin1String("/FORMATS.md"), formatsDocument())
-            && write(folder + QLatin1String("/LOSSES.md"), lossesDocument())) {
+        if (isSheet ? write(target, QJsonDocument(contactSheet(arguments.value(3))).toJson())
+                    : write(target + QLatin1String("/FORMATS.md"), formatsDocument().toUtf8())
+                    && write(target + QLatin1String("/LOSSES.md"), lossesDocument().toUtf8())) {
             return 0;
         }
-        std::fprintf(stderr, "The documents can't be written into %s.\n", qPrintable(folder));
+        std::fprintf(stderr, "%s can't be written.\n", qPrintable(target));
     } catch (const LessonError &error) {
         std::fprintf(stderr, "%s\n", qPrintable(error.message()));
     }

@@ -1,0 +1,176 @@
+#include "contactsheet.h"
+
+#include "itemfamilies.h"
+#include "lesson/plainnames.h"
+#include "translatorchains.h"
+#include "typicalitems.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QJsonArray>
+
+namespace {
+
+constexpr int columns = 6;
+constexpr int rows = 4;
+constexpr double headHeight = 60;
+const QSizeF cellSize(320, 250);
+const QSizeF pageSize(cellSize.width() * columns, headHeight + cellSize.height() * rows + 20);
+
+QString boxText(const QRectF &box)
+{
+    return QStringLiteral("%1,%2,%3,%4").arg(box.left()).arg(box.top()).arg(box.right()).arg(box.bottom());
+}
+
+QJsonObject textItem(const QString &text, const QRectF &box, int points)
+{
+    return {{QStringLiteral("Type"), QStringLiteral("ZQTextBoard")},
+            {QStringLiteral("BoundingBox"), boxText(box)},
+            {QStringLiteral("TextHtml"),
+             QStringLiteral("<p align=\"center\" style=\"font-family:'DejaVu Sans'; font-size:%1pt; color:#555555\">"
+                            "%2</p>")
+                 .arg(points)
+                 .arg(text)}};
+}
+
+/*!
+ * The slides of one variant.
+ */
+class Pages
+{
+public:
+    explicit Pages(const ItemVariant &variant)
+        : m_variant(variant)
+    {
+    }
+
+    // A family that doesn't fit on what is left of a page begins another.
+    void add(const TitledTypes &family)
+    {
+        constexpr int perPage = columns * rows;
+        if (m_cells % perPage + family.types.size() > perPage) {
+            m_cells = (m_cells + perPage - 1) / perPage * perPage;
+        }
+        for (int i = 0; i < family.types.size(); ++i, ++m_cells) {
+            if (m_cells / perPage >= m_slides.size()) {
+                m_slides.append(Slide());
+            }
+            Slide &slide = m_slides.last();
+            if (!slide.families.contains(family.title)) {
+                slide.families.append(family.title);
+            }
+            const int cell = m_cells % perPage;
+            addItem(slide, family.types.at(i),
+                    {cell % columns * cellSize.width(), headHeight + cell / columns * cellSize.height()});
+        }
+    }
+
+    QJsonArray slides() const
+    {
+        QJsonArray result;
+        for (const Slide &slide : m_slides) {
+            QJsonArray items = slide.items;
+            items.append(textItem(QLatin1String(m_variant.title) + QLatin1String(": ")
+                                      + slide.families.join(QLatin1String(", ")),
+                                  {0, 10, pageSize.width(), headHeight - 10}, 20));
+            result.append(QJsonObject{{QStringLiteral("Items"), items}});
+        }
+        return result;
+    }
+
+private:
+    struct Slide
+    {
+        QStringList families;
+        QJsonArray items;
+    };
+
+    // A pale frame shows the item's box.
+    void addItem(Slide &slide, const QString &type, const QPointF &corner)
+    {
+        constexpr double labelHeight = 48;
+        const QSizeF size(typicalSize(type).width() * m_variant.scale.width(),
+                          typicalSize(type).height() * m_variant.scale.height());
+        const QPointF middle = corner + QPointF(cellSize.width() / 2, (cellSize.height() - labelHeight) / 2);
+        const QRectF box(middle - QPointF(size.width() / 2, size.height() / 2), size);
+        slide.items.append(QJsonObject{{QStringLiteral("Type"), QStringLiteral("ZQBasicRectangleItem")},
+                                       {QStringLiteral("BoundingBox"), boxText(box)},
+                                       {QStringLiteral("ArtObj_Width"), QStringLiteral("1")},
+                                       {QStringLiteral("LineColor"), QStringLiteral("255,215,215,215")}});
+        QJsonObject item = typicalItem(type, box);
+        m_variant.change(item);
+        item.insert(QStringLiteral("ID"), QString::number(m_cells + 1));
+        slide.items.append(item);
+        slide.items.append(
+            textItem(type + QLatin1String("<br>") + lessonhost::plainName(type),
+                     {corner.x(), corner.y() + cellSize.height() - labelHeight, cellSize.width(), labelHeight}, 11));
+    }
+
+    const ItemVariant &m_variant;
+    QVector<Slide> m_slides;
+    int m_cells = 0;
+};
+
+// Different at each corner, so that turned and flipped pictures are told apart.
+QString pictureText(const QColor &paper)
+{
+    constexpr int width = 90;
+    constexpr int height = 60;
+    QImage image(width, height, QImage::Format_ARGB32);
+    image.fill(paper);
+    const auto fill = [&image](const QRect &area, const QColor &color) {
+        for (int i = 0; i < area.width() * area.height(); ++i) {
+            image.setPixelColor(area.left() + i % area.width(), area.top() + i / area.width(), color);
+        }
+    };
+    fill({0, 0, width / 3, height / 3}, QColor(Qt::red));
+    fill({width - width / 5, 0, width / 5, height / 5}, QColor(Qt::blue));
+    fill({0, height - height / 5, width / 5, height / 5}, QColor(Qt::darkGreen));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return QString::fromLatin1(bytes.toBase64());
+}
+
+QJsonObject resources()
+{
+    QJsonObject files{{QStringLiteral("images/picture.png"), pictureText(QColor(255, 225, 150))},
+                      {QStringLiteral("images/card.png"), pictureText(QColor(225, 240, 255))}};
+    for (const char *name :
+         {"media/cells.swf", "media/rain.mp3", "media/whales.mp4", "media/worksheet.docx", "media/parabola.ggb"}) {
+        files.insert(QLatin1String(name), QString::fromLatin1(QByteArray(name).toBase64()));
+    }
+    return files;
+}
+
+} // namespace
+
+QJsonObject contactSheet(const QString &word)
+{
+    QJsonArray slides;
+    for (const ItemVariant &variant : itemVariants()) {
+        Pages pages(variant);
+        for (TitledTypes family : itemFamilies()) {
+            const bool isChosen = family.title.contains(word, Qt::CaseInsensitive);
+            QStringList types;
+            for (const QString &type : qAsConst(family.types)) {
+                // Names of ZQTX mean the same as another type's.
+                if (txTypeToJsonType(type) == type && (isChosen || type.contains(word, Qt::CaseInsensitive))) {
+                    types.append(type);
+                }
+            }
+            family.types = types;
+            pages.add(family);
+        }
+        const QJsonArray more = pages.slides();
+        for (const QJsonValue &slide : more) {
+            slides.append(slide);
+        }
+    }
+    return {{QStringLiteral("Title"), QStringLiteral("Every type of item")},
+            {QStringLiteral("Width"), QString::number(pageSize.width())},
+            {QStringLiteral("Height"), QString::number(pageSize.height())},
+            {QStringLiteral("Slides"), slides},
+            {QStringLiteral("Resources"), resources()}};
+}

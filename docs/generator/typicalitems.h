@@ -1,0 +1,29 @@
+#ifndef TYPICALITEMS_H
+#define TYPICALITEMS_H
+
+#include <QJsonObject>
+#include <QRectF>
+#include <QString>
+
+#include <functional>
+
+//! The size of a typical box of a type.
+QSizeF typicalSize(const QString &type);
+
+//! An item of a type with what typicalvalues.json has for the keys that the type has, its points in this box.
+QJsonObject typicalItem(const QString &type, const QRectF &box);
+
+/*!
+ * Another look of a typical item.
+ */
+struct ItemVariant
+{
+    const char *title;
+    QSizeF scale; //!< of the box, against the typical one
+    std::function<void(QJsonObject &item)> change;
+};
+
+//! As it is, turned, flipped, stretched, in other colours, and with values larger and smaller than any that is meant.
+const QVector<ItemVariant> &itemVariants();
+
+#endif // TYPICALITEMS_H
