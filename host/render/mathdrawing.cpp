@@ -2,6 +2,7 @@
 
 #include "lesson/planegeometry.h"
 #include "render/itemoutline.h"
+#include "render/outline.h"
 #include "svg/svgstyle.h"
 
 #include <QHash>
@@ -15,9 +16,7 @@ namespace lessonhost {
 namespace {
 
 /*!
- * One type in a box from 0,0 to 1,1. Paths are letters with numbers behind: M and L with a point; A with the box of an
- * ellipse (left, top, width, height), an angle and a sweep, in degrees and counterclockwise, from where the path is; B
- * the same from its own beginning; Z closes.
+ * One type in a box from 0,0 to 1,1, in the words of outlineIn().
  */
 struct MathForm
 {
@@ -37,20 +36,20 @@ constexpr MathForm forms[] = {
     {"ZQMath2DPentagon", 5, "M .5 0 L 1 .382 L .809 1 L .191 1 L 0 .382 Z", true, "", ""},
     {"ZQMath2DPlane", 4, "M .25 0 L 1 0 L .75 1 L 0 1 Z", true, "", ""},
     {"ZQMath3DSphere", 0, "B 0 0 1 1 0 360 Z", true,
-     "B 0 .36 1 .28 180 180",
-     "B 0 .36 1 .28 0 180"},
-    {"ZQMath3DHalfSphere", 0, "B 0 0 1 1.6 0 180 A 0 .6 1 .4 180 180 Z", true,
+     "B 0 .36 1 .64 180 180",
+     "B 0 .36 1 .64 0 180"},
+    {"ZQMath3DHalfSphere", 0, "B 0 0 1 1.6 0 180 A 0 .6 1 1 180 180 Z", true,
      "",
-     "B 0 .6 1 .4 0 180"},
-    {"ZQMath3DColumn", 0, "M 0 .12 L 0 .88 A 0 .76 1 .24 180 180 L 1 .12 A 0 0 1 .24 0 180 Z", true,
+     "B 0 .6 1 1 0 180"},
+    {"ZQMath3DColumn", 0, "M 0 .12 L 0 .88 A 0 .76 1 1 180 180 L 1 .12 A 0 0 1 .24 0 180 Z", true,
      "B 0 0 1 .24 180 180",
-     "B 0 .76 1 .24 0 180"},
-    {"ZQMath3DCone", 0, "M .5 0 L 0 .88 A 0 .76 1 .24 180 180 Z", true,
+     "B 0 .76 1 1 0 180"},
+    {"ZQMath3DCone", 0, "M .5 0 L 0 .88 A 0 .76 1 1 180 180 Z", true,
      "",
-     "B 0 .76 1 .24 0 180"},
-    {"ZQMath3DFrustumofCone", 0, "M .25 .06 L 0 .88 A 0 .76 1 .24 180 180 L .75 .06 A .25 0 .5 .12 0 180 Z", true,
-     "B .25 0 .5 .12 180 180",
-     "B 0 .76 1 .24 0 180"},
+     "B 0 .76 1 1 0 180"},
+    {"ZQMath3DFrustumofCone", 0, "M .25 .06 L 0 .88 A 0 .76 1 1 180 180 L .75 .06 A .25 0 .75 .12 0 180 Z", true,
+     "B .25 0 .75 .12 180 180",
+     "B 0 .76 1 1 0 180"},
     {"ZQMath3DCube", 0, "M 0 .3 L .3 0 L 1 0 L 1 .7 L .7 1 L 0 1 Z", true,
      "M 0 .3 L .7 .3 L .7 1 M .7 .3 L 1 0",
      "M .3 0 L .3 .7 L 1 .7 M .3 .7 L 0 1"},
@@ -84,33 +83,6 @@ constexpr MathForm forms[] = {
      "M .375 .4 L .625 .4 L .625 .65 L .554 .75"},
 };
 // clang-format on
-
-QPainterPath pathOf(const char *text)
-{
-    QPainterPath path;
-    const QStringList parts = QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (int i = 0; i < parts.size();) {
-        const char letter = parts.at(i++).at(0).toLatin1();
-        QVector<double> n;
-        while (i < parts.size() && !parts.at(i).at(0).isLetter()) {
-            n.append(parts.at(i++).toDouble());
-        }
-        if (letter == 'M') {
-            path.moveTo(n.at(0), n.at(1));
-        } else if (letter == 'L') {
-            path.lineTo(n.at(0), n.at(1));
-        } else if (letter == 'Z') {
-            path.closeSubpath();
-        } else {
-            const QRectF ellipse(n.at(0), n.at(1), n.at(2), n.at(3));
-            if (letter == 'B') {
-                path.arcMoveTo(ellipse, n.at(4));
-            }
-            path.arcTo(ellipse, n.at(4), n.at(5));
-        }
-    }
-    return path;
-}
 
 const MathForm *formOf(const QString &type)
 {
@@ -229,20 +201,21 @@ bool drawForm(Canvas &canvas, const ItemView &item)
     if (box.isEmpty()) {
         return false;
     }
+    const QRectF unit(0, 0, 1, 1);
     const SvgPaint paint = paintOf(item);
     SvgPaint face = paint;
     if (!form->isOutlined) {
         face.line = Qt::transparent;
     }
-    canvas.svg().addPath(box.place.map(pathOf(form->face)), face);
+    canvas.svg().addPath(box.place.map(outlineIn(unit, form->face)), face);
     SvgPaint edges = paint;
     edges.fill = Qt::transparent;
     if (*form->edges) {
-        canvas.svg().addPath(box.place.map(pathOf(form->edges)), edges);
+        canvas.svg().addPath(box.place.map(outlineIn(unit, form->edges)), edges);
     }
     if (*form->hidden) {
         edges.dashParts = dashOfHidden;
-        canvas.svg().addPath(box.place.map(pathOf(form->hidden)), edges);
+        canvas.svg().addPath(box.place.map(outlineIn(unit, form->hidden)), edges);
     }
     return true;
 }

@@ -19,7 +19,7 @@ double distanceOf(QByteArray word, double side, double shorter)
 
 int pointsAfter(char letter)
 {
-    return letter == 'Z' ? 0 : letter == 'C' ? 3 : letter == 'E' ? 2 : 1;
+    return letter == 'Z' ? 0 : letter == 'C' ? 3 : letter == 'M' || letter == 'L' ? 1 : 2;
 }
 
 } // namespace
@@ -49,6 +49,13 @@ QPainterPath outlineIn(const QRectF &box, const char *outline)
             break;
         case 'E':
             path.addEllipse(QRectF(points[0], points[1]));
+            break;
+        case 'B':
+            path.arcMoveTo(QRectF(points[0], points[1]), words.value(at).toDouble());
+            [[fallthrough]];
+        case 'A':
+            path.arcTo(QRectF(points[0], points[1]), words.value(at).toDouble(), words.value(at + 1).toDouble());
+            at += 2;
             break;
         default:
             path.closeSubpath();
