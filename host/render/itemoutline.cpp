@@ -2,6 +2,8 @@
 
 #include "lesson/planegeometry.h"
 
+#include <QLineF>
+
 namespace lessonhost {
 
 QTransform placeOnPage(const ItemView &item)
@@ -35,6 +37,25 @@ QPainterPath onPage(const QPainterPath &outline, const QRectF &covered, const It
     const auto box = item.box();
     const QTransform place = placeOnPage(item);
     return (box && !box->isEmpty() ? fitInto(covered, *box) * place : place).map(outline);
+}
+
+PlacedBox::PlacedBox(const ItemView &item)
+    : PlacedBox(item.box().value_or(extentOf(item.points(ItemKeys::control))), placeOnPage(item))
+{
+}
+
+PlacedBox::PlacedBox(const QRectF &box, const QTransform &page)
+{
+    if (!box.isEmpty()) {
+        place = fitInto(QRectF(0, 0, 1, 1), box) * page;
+        width = QLineF(place.map(QPointF(0, 0)), place.map(QPointF(1, 0))).length();
+        height = QLineF(place.map(QPointF(0, 0)), place.map(QPointF(0, 1))).length();
+    }
+}
+
+QTransform PlacedBox::inPixels() const
+{
+    return QTransform::fromScale(1 / width, 1 / height) * QTransform::fromTranslate(0.5, 0.5) * place;
 }
 
 QColor firstColor(const ItemView &item, std::initializer_list<const char *> keys, const QColor &missing)

@@ -19,6 +19,25 @@ QTransform fitInto(const QRectF &from, const QRectF &to);
 //! outlines of the item cover together.
 QPainterPath onPage(const QPainterPath &outline, const QRectF &covered, const ItemView &item);
 
+/*!
+ * An item's box on the page, where it may be turned: where a part of it comes to stand, and how long its sides are
+ * there. Of an item without a box it is the extent of its Control.
+ */
+struct PlacedBox
+{
+    explicit PlacedBox(const ItemView &item);
+    //! page: from the box to the page.
+    PlacedBox(const QRectF &box, const QTransform &page);
+
+    bool isEmpty() const { return !(width > 0 && height > 0); }
+    //! The same place for lengths of the page, measured from the middle.
+    QTransform inPixels() const;
+
+    QTransform place; //!< from a box from 0,0 to 1,1
+    double width = 0;
+    double height = 0;
+};
+
 //! The first of several keys that has a colour.
 QColor firstColor(const ItemView &item, std::initializer_list<const char *> keys, const QColor &missing);
 

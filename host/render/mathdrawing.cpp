@@ -1,6 +1,5 @@
 #include "render/mathdrawing.h"
 
-#include "lesson/planegeometry.h"
 #include "render/itemoutline.h"
 #include "render/outline.h"
 #include "svg/svgstyle.h"
@@ -91,13 +90,6 @@ const MathForm *formOf(const QString &type)
     return found == std::end(forms) ? nullptr : found;
 }
 
-// What an item covers before it is placed on the page.
-std::optional<QRectF> ownBox(const ItemView &item)
-{
-    const QRectF box = item.box().value_or(extentOf(item.points(ItemKeys::control)));
-    return box.isEmpty() ? std::nullopt : std::optional<QRectF>(box);
-}
-
 constexpr int dashOfHidden = 2;
 
 int dashParts(double mode)
@@ -129,33 +121,6 @@ bool drawCorners(Canvas &canvas, const ItemView &item, int corners)
     canvas.svg().addPath(onPage(path, points.boundingRect(), item), paintOf(item));
     return true;
 }
-
-/*!
- * A box on the page that may be turned: where a part of it comes to stand, and how long its sides are there.
- */
-struct PlacedBox
-{
-    explicit PlacedBox(const ItemView &item)
-    {
-        if (const auto box = ownBox(item)) {
-            const QTransform page = placeOnPage(item);
-            place = fitInto(QRectF(0, 0, 1, 1), *box) * page;
-            width = QLineF(place.map(QPointF(0, 0)), place.map(QPointF(1, 0))).length();
-            height = QLineF(place.map(QPointF(0, 0)), place.map(QPointF(0, 1))).length();
-        }
-    }
-
-    bool isEmpty() const { return !(width > 0 && height > 0); }
-    //! The same place for lengths of the page, measured from the middle.
-    QTransform inPixels() const
-    {
-        return QTransform::fromScale(1 / width, 1 / height) * QTransform::fromTranslate(0.5, 0.5) * place;
-    }
-
-    QTransform place;
-    double width = 0;
-    double height = 0;
-};
 
 SvgPaint axisPaint(const ItemView &item)
 {
