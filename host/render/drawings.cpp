@@ -1,6 +1,7 @@
 #include "render/drawings.h"
 
 #include "render/graphdrawing.h"
+#include "render/instrumentdrawing.h"
 #include "render/mathdrawing.h"
 #include "render/vectordrawing.h"
 
@@ -15,6 +16,7 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &vectorDrawing,
     &mathDrawing,
     &graphDrawing,
+    &instrumentDrawing,
 };
 
 bool drawFromFamilies(Canvas &canvas, const ItemView &item)

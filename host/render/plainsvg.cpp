@@ -9,7 +9,6 @@
 #include "svg/svgstyle.h"
 
 #include <QFontMetricsF>
-#include <QVector>
 
 namespace lessonhost {
 
@@ -394,6 +393,27 @@ void PlainSvg::addLabel(const QString &text, const QRectF &box, double pixelSize
         element.appendChild(m_document.createTextNode(line));
         group.appendChild(element);
         y += label.size * LabelLines::lineHeight;
+    }
+}
+
+void PlainSvg::addMarks(const QVector<SvgMark> &marks, double pixelSize, const QColor &color)
+{
+    QDomElement group = append(QStringLiteral("g"));
+    group.setAttribute(QStringLiteral("text-anchor"), QStringLiteral("middle"));
+    group.setAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
+    group.setAttribute(QStringLiteral("font-size"), number(pixelSize));
+    group.setAttribute(QStringLiteral("fill"), color.name());
+    for (const SvgMark &mark : marks) {
+        QDomElement element = m_document.createElement(QStringLiteral("text"));
+        element.setAttribute(QStringLiteral("x"), number(mark.middle.x()));
+        element.setAttribute(QStringLiteral("y"), number(mark.middle.y() + pixelSize * 0.36));
+        if (qAbs(mark.turn) > 0.05) {
+            element.setAttribute(QStringLiteral("transform"),
+                                 QStringLiteral("rotate(%1 %2 %3)")
+                                     .arg(number(mark.turn), number(mark.middle.x()), number(mark.middle.y())));
+        }
+        element.appendChild(m_document.createTextNode(mark.text));
+        group.appendChild(element);
     }
 }
 

@@ -10,11 +10,22 @@
 #include <QPainterPath>
 #include <QRectF>
 #include <QString>
+#include <QVector>
 
 namespace lessonhost {
 
 class IwbMedia;
 struct SvgPaint;
+
+/*!
+ * A few letters about a point.
+ */
+struct SvgMark
+{
+    QString text;
+    QPointF middle;
+    double turn = 0; //!< degrees, clockwise
+};
 
 /*!
  * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that
@@ -43,6 +54,8 @@ public:
     //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
     //! that lets it be larger.
     void addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color);
+    //! Numbers of a scale and the like.
+    void addMarks(const QVector<SvgMark> &marks, double pixelSize, const QColor &color);
 
 private:
     QDomElement append(const QString &tag);
