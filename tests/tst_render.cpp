@@ -152,6 +152,15 @@ private slots:
             "{'Type':'ZQShapeZhixianjiantou','ArtObj_Point1x':0,'ArtObj_Point1y':50,'ArtObj_Point2x':90,"
             "'ArtObj_Point2y':50}",
             "\"M90.00 50.00L80.00 54.00L80.00 46.00L90.00 50.00Z\"");
+        row("line through two of its points",
+            "{'Type':'ZQShapeLianjiexian','ArtObj_InterpointNumber':2,'ArtObj_Point1x':0,'ArtObj_Point1y':0,"
+            "'ArtObj_Point2x':9,'ArtObj_Point2y':9,'ArtObj_InterPoint0x':5,'ArtObj_InterPoint0y':0,"
+            "'ArtObj_InterPoint1x':5,'ArtObj_InterPoint1y':9,'ArtObj_InterPoint2x':7,'ArtObj_InterPoint2y':7}",
+            "\"M0.00 0.00L5.00 0.00L5.00 9.00L9.00 9.00\"");
+        row("raw figure", "{'Type':'ZQShapeFangkuohao','ArtObj_Mw':'20','ArtObj_Mh':'40','Matrix':'1,0,0,1,50,60'}",
+            "\"M60.00 40.00L40.00 40.00L40.00 80.00L60.00 80.00\"");
+        row("arrow that nobody knows", "{'Type':'ZQShapeGeshijiantou','BoundingBox':'0,0,9,9','ArtObj_Type':'4'}",
+            "stroke-dasharray=\"10,6\"");
         row("nowhere", "{'Type':'ZQBasicFlagItem'}", ">Flag<");
     }
 

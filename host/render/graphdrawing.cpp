@@ -39,6 +39,7 @@ struct Shape
     bool isOpen = false; //!< a line that encloses nothing to be filled
     const char *lineKey = "LineColor";
     const char *fillKey = "ArtObj_Color";
+    bool hasKinds = false; //!< by ArtObj_Type, of which 0 is the outline
 };
 
 constexpr char leftBrace[] =
@@ -103,6 +104,13 @@ const Shape shapes[] = {
      "M .5-.25s 0 L .5+.25s 0 L .5+.25s .5-.25s L 1 .5-.25s L 1 .5+.25s L .5+.25s .5+.25s L .5+.25s 1 L .5-.25s 1 "
      "L .5-.25s .5+.25s L 0 .5+.25s L 0 .5-.25s L .5-.25s .5-.25s Z",
      0, false, "ArtObj_Color1", "ArtObj_Color0"},
+    {"ZQShapeGeshijiantou", 0, .25, .8, .75, "M 0 .25 L 1-.5s .25 L 1-.5s 0 L 1 .5 L 1-.5s 1 L 1-.5s .75 L 0 .75 Z", 0,
+     false, "ArtObj_Color1", "ArtObj_Color0", true},
+    {"ZQShapeJiantoubiaozhu", 0, 0, .65, 1,
+     "M 0 0 L .65 0 L .65 .4 L 1-.25s .4 L 1-.25s .25 L 1 .5 L 1-.25s .75 L 1-.25s .6 L .65 .6 L .65 1 L 0 1 Z", 0,
+     false, "ArtObj_Color1", "ArtObj_Color0", true},
+    {"ZQShapeDanbianjiantou", 0, 0, 0, 0, "M 0 1 L 1 1 L 1-1s 0", 0, true, "ArtObj_Color0", "", true},
+    {"ZQShapeYiduiduoshu", 0, 0, 0, 0, "M 0 .5 L 1 .5 M 1 0 L .5 0 L .5 1 L 1 1", 0, true, "ArtObj_Color"},
     {"ZQShapeJiankuohao", 0, 0, 1, 1, "M 1 0 L 0 .5 L 1 1", 0, true, "ArtObj_Color0"},
     {"ZQShapeFangkuohao", 0, 0, 1, 1, leftBracket, 0, true, "ArtObj_Color0"},
     {"ZQShapeYuankuohao", 0, 0, 1, 1, "M 1 0 C .45 0 0 .22 0 .5 C 0 .78 .45 1 1 1", 0, true, "ArtObj_Color0"},
@@ -121,6 +129,7 @@ const Shape *shapeOf(const QString &type)
 
 const QLatin1String straightArrow("ZQShapeZhixianjiantou");
 const QLatin1String curvedArrow("ZQShapeQuxianjiantou");
+const QLatin1String connectingLine("ZQShapeLianjiexian");
 
 bool isSegment(const QString &type)
 {
@@ -195,6 +204,9 @@ std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape,
     const QString direction = shape.isOpen ? item.text(QLatin1String("ArtObj_Direct")) : QString();
     const bool opensLeft = direction == QLatin1String("1");
     if (!direction.isEmpty() && direction != QLatin1String("0") && !opensLeft) {
+        return std::nullopt;
+    }
+    if (shape.hasKinds && item.number(QLatin1String("ArtObj_Type")) != 0) {
         return std::nullopt;
     }
     GraphDrawing drawing;
@@ -286,18 +298,45 @@ std::optional<GraphDrawing> drawnSegment(const ItemView &item)
     return drawing;
 }
 
+// The points of a name and a number, up to the first one that is missing.
+QPolygonF namedPoints(const ItemView &item, const QByteArray &name, int first, int last)
+{
+    QPolygonF points;
+    for (int i = first; i <= last; ++i) {
+        const QByteArray x = name + QByteArray::number(i) + 'x';
+        const QByteArray y = name + QByteArray::number(i) + 'y';
+        if (!item.has(QLatin1String(x)) || !item.has(QLatin1String(y))) {
+            break;
+        }
+        points.append(QPointF(item.number(QLatin1String(x)), item.number(QLatin1String(y))));
+    }
+    return points;
+}
+
+// From the first point through those between to the second.
+std::optional<GraphDrawing> drawnConnection(const ItemView &item)
+{
+    const QPolygonF ends = namedPoints(item, "ArtObj_Point", 1, 2);
+    if (ends.size() < 2) {
+        return std::nullopt;
+    }
+    constexpr double most = 20;
+    const int between = int(qBound(0.0, item.number(QLatin1String("ArtObj_InterpointNumber"), most), most));
+    const QPolygonF points = ends.mid(0, 1) + namedPoints(item, "ArtObj_InterPoint", 0, between - 1) + ends.mid(1);
+    const auto box = item.box();
+    QPainterPath path;
+    path.addPolygon(lineTransform(item, box).map(fitted(points, box)));
+    GraphDrawing drawing;
+    drawing.parts.append({path, paintOf(item, ItemKeys::lineWidth, "ArtObj_Color", "")});
+    return drawing;
+}
+
 // An arrow goes from its first point to its last, with a head there unless the item says another number of them.
 std::optional<GraphDrawing> drawnArrow(const ItemView &item, int firstPoint, int lastPoint)
 {
-    QPolygonF points;
-    for (int i = firstPoint; i <= lastPoint; ++i) {
-        const QByteArray name = "ArtObj_Point" + QByteArray::number(i);
-        const QByteArray x = name + 'x';
-        const QByteArray y = name + 'y';
-        if (!item.has(QLatin1String(x)) || !item.has(QLatin1String(y))) {
-            return std::nullopt;
-        }
-        points.append(QPointF(item.number(QLatin1String(x)), item.number(QLatin1String(y))));
+    QPolygonF points = namedPoints(item, "ArtObj_Point", firstPoint, lastPoint);
+    if (points.size() <= lastPoint - firstPoint) {
+        return std::nullopt;
     }
     const auto box = item.box();
     points = lineTransform(item, box).map(fitted(points, box));
@@ -371,6 +410,19 @@ std::optional<GraphDrawing> drawnFreely(const ItemView &item)
     return drawing;
 }
 
+// The item's box; for a raw figure, which has none, what its width and height or else its points tell, under its
+// Matrix.
+std::optional<QRectF> boxOf(const ItemView &item)
+{
+    if (const auto box = item.box()) {
+        return box;
+    }
+    const QSizeF size(item.number(QLatin1String("ArtObj_Mw")), item.number(QLatin1String("ArtObj_Mh")));
+    const QRectF box = size.isEmpty() ? extentOf(item.points(ItemKeys::control))
+                                      : QRectF(QPointF(-size.width() / 2, -size.height() / 2), size);
+    return item.matrix() && !box.isEmpty() ? std::optional<QRectF>(box) : std::nullopt;
+}
+
 std::optional<GraphDrawing> drawingOf(const ItemView &item)
 {
     const QString type = item.type();
@@ -386,8 +438,11 @@ std::optional<GraphDrawing> drawingOf(const ItemView &item)
     if (type == curvedArrow) {
         return drawnArrow(item, 0, 3);
     }
+    if (type == connectingLine) {
+        return drawnConnection(item);
+    }
     const Shape *shape = shapeOf(type);
-    const auto box = item.box();
+    const auto box = boxOf(item);
     if (!shape || !box || !(box->width() > 0 || box->height() > 0)) {
         return std::nullopt;
     }
@@ -414,7 +469,7 @@ bool drawGraph(Canvas &canvas, const ItemView &item)
 SvgDrawing graphDrawing(const QString &type)
 {
     const bool isGraph = shapeOf(type) || isSegment(type) || isFreeDrawing(type) || type == straightArrow
-        || type == curvedArrow;
+        || type == curvedArrow || type == connectingLine;
     return isGraph ? &drawGraph : nullptr;
 }
 
