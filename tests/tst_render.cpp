@@ -175,32 +175,6 @@ private slots:
         QVERIFY2(svg.contains(drawn), svg);
     }
 
-    // A box can be turned, not mirrored or slanted.
-    void tellsWhatStandsUpright_data()
-    {
-        const Table<QString, bool> row("matrix", "isTold");
-        row("turned and larger", "0,2,-2,0,300,0", false);
-        row("mirrored", "-1,0,0,1,300,0", true);
-        row("upside down and mirrored", "1,0,0,-1,0,300", true);
-        row("slanted", "1,0,0.5,1,0,0", true);
-    }
-
-    void tellsWhatStandsUpright()
-    {
-        QFETCH(QString, matrix);
-        QFETCH(bool, isTold);
-        const QByteArray keys = R"(","BoundingBox":"10,10,90,60","Matrix":")" + matrix.toLatin1() + "\"";
-        putFile(path("matrix.json"),
-                R"({"Width":"400","Height":"300","Slides":[{"Items":[{"ID":"1","Type":"ZQTextBoard","Text":"a)" + keys
-                    + R"(},{"ID":"2","Control":"10,10,90,60,10,60","Type":"ZQMath2DTriangle)" + keys + "}]}]}");
-        const CommandProcess::Outcome result =
-            runCommand({"render", path("matrix.json"), path("matrix.html"), "--json"});
-        QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
-        const QJsonArray told{QJsonObject{{"slide", 1}, {"type", "ZQTextBoard"}, {"id", "1"}}};
-        QCOMPARE(QJsonDocument::fromJson(result.output.toUtf8()).object().value("upright"),
-                 QJsonValue(isTold ? told : QJsonArray()));
-    }
-
     // Few files are open at a time, however many pictures there are.
     void writesManyPictures()
     {

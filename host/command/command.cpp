@@ -444,10 +444,6 @@ void Command::tellRendered(const QJsonObject &result) const
         if (named > 0) {
             text += QStringLiteral(" Items shown by their name: %1.").arg(named);
         }
-        const int upright = result.value(QLatin1String("upright")).toArray().size();
-        if (upright > 0) {
-            text += QStringLiteral(" Items shown upright that are mirrored or slanted: %1.").arg(upright);
-        }
         print(text + QLatin1Char('\n'));
     }
 }

@@ -16,7 +16,7 @@ bool isSeen(const QDomElement &element)
 
 } // namespace
 
-Canvas::Canvas(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files)
+Canvas::Canvas(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files)
     : m_svg(svg)
     , m_pages(pages)
     , m_files(files)
@@ -44,13 +44,11 @@ void Canvas::addText(const QString &html, const QRectF &area, const QTransform &
     m_svg.addTextInMiddle(m_pages.items().write(document, board, {}, {}));
 }
 
-bool Canvas::addPicture(const QString &file, const QRectF &box, const QTransform &placed)
+bool Canvas::addPicture(const QString &reference, const QRectF &box, const QTransform &placed)
 {
-    return m_files.contains(file)
-        && addAsIwb({{ItemKeys::type, QStringLiteral("ZQImagePic")},
-                     {ItemKeys::box, boxText(box)},
-                     {ItemKeys::matrix, transformText(placed)},
-                     {ItemKeys::resource, file}});
+    const QString file = m_files.find(reference);
+    const PlainSvg::Scope scope(m_svg, placed);
+    return !file.isEmpty() && m_svg.addPicture(file, box);
 }
 
 } // namespace lessonhost

@@ -1,41 +1,43 @@
 #ifndef CANVAS_H
 #define CANVAS_H
 
+#include "iwb/iwbmedia.h"
 #include "iwb/iwbpagewriter.h"
 #include "lesson/itemview.h"
 #include "render/plainsvg.h"
 
-#include <QStringList>
-
 namespace lessonhost {
 
 /*!
- * What the items of one slide are drawn on: the lines of its svg, the texts and pictures that IWB has a form for, and the
- * files of the lesson.
+ * What the items of one slide are drawn on: the lines of its svg, the texts and pictures that IWB has a form for, and
+ * the files of the lesson.
  */
 class Canvas
 {
 public:
-    //! pages: with a document that takes the elements; files: what pictures may be of.
-    Canvas(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files);
+    //! pages: with a document that takes the elements; files: those of the lesson.
+    Canvas(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files);
 
     PlainSvg &svg() const { return m_svg; }
 
-    bool hasFile(const QString &file) const { return m_files.contains(file); }
+    //! reference: as items name their files.
+    bool hasFile(const QString &reference) const { return !m_files.find(reference).isEmpty(); }
 
     //! The item as IWB shows it. False where IWB has nothing to see for it.
     bool addAsIwb(const QJsonObject &item);
 
-    //! A text as items hold it, HTML or plain, in the middle of the height of an area. placed: from the area to the page.
+    //! A text as items hold it, HTML or plain, in the middle of the height of an area. placed: from the area to the
+    //! page.
     void addText(const QString &html, const QRectF &area, const QTransform &placed = {});
 
-    //! A picture of the lesson, stretched to a box. False for a file that the lesson hasn't, or that can't be drawn.
-    bool addPicture(const QString &file, const QRectF &box, const QTransform &placed = {});
+    //! A picture of the lesson, stretched to a box; placed may mirror and slant it. False for a file that the lesson
+    //! hasn't, or that can't be drawn.
+    bool addPicture(const QString &reference, const QRectF &box, const QTransform &placed = {});
 
 private:
     PlainSvg &m_svg;
     IwbPageWriter &m_pages;
-    QStringList m_files;
+    IwbMedia &m_files;
 };
 
 //! A drawing of one type. False for an item that doesn't tell enough for it.

@@ -1,8 +1,12 @@
 #include "render/drawings.h"
 
+#include "lesson/itemtypes.h"
+#include "lesson/planegeometry.h"
 #include "render/graphdrawing.h"
 #include "render/instrumentdrawing.h"
+#include "render/itemoutline.h"
 #include "render/mathdrawing.h"
+#include "render/mediadrawing.h"
 #include "render/vectordrawing.h"
 
 #include <QJsonArray>
@@ -13,10 +17,7 @@ namespace {
 
 // Each family tells which of its types it has a drawing for.
 constexpr SvgDrawing (*families[])(const QString &type) = {
-    &vectorDrawing,
-    &mathDrawing,
-    &graphDrawing,
-    &instrumentDrawing,
+    &vectorDrawing, &mathDrawing, &graphDrawing, &instrumentDrawing, &mediaDrawing,
 };
 
 bool drawFromFamilies(Canvas &canvas, const ItemView &item)
@@ -29,9 +30,27 @@ bool drawFromFamilies(Canvas &canvas, const ItemView &item)
     return false;
 }
 
+// What takes a text to the page that no box can stand for: mirrored or slanted.
+std::optional<QTransform> mirrorOf(const ItemView &item)
+{
+    const QTransform placed = placeOnPage(item);
+    const auto parts = scaleAndTurn(placed);
+    const bool isMirrored = isTextBoard(item.type()) && item.box() && !(parts && parts->scaleY > 0);
+    return isMirrored ? std::optional<QTransform>(placed) : std::nullopt;
+}
+
+QJsonObject withoutPlace(QJsonObject item)
+{
+    for (const QLatin1String key :
+         {ItemKeys::matrix, ItemKeys::angle, ItemKeys::flippedAcross, ItemKeys::flippedDown}) {
+        item.remove(key);
+    }
+    return item;
+}
+
 } // namespace
 
-Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files)
+Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files)
     : m_canvas(svg, pages, files)
     , m_boxes(svg)
 {
@@ -40,6 +59,10 @@ Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files
 bool Drawings::draw(const QJsonObject &json)
 {
     const ItemView item(json);
+    if (const auto mirror = mirrorOf(item)) {
+        const PlainSvg::Scope scope(m_canvas.svg(), *mirror);
+        return draw(withoutPlace(json));
+    }
     if (drawFromFamilies(m_canvas, item)
         || (item.type() == QLatin1String("ZQMindMapItem") ? m_boxes.drawMindMap(json) : m_canvas.addAsIwb(json))) {
         return true;
@@ -51,14 +74,11 @@ bool Drawings::draw(const QJsonObject &json)
 // The picture on an item that has no drawing, in the item's box.
 bool Drawings::addPictureOn(const ItemView &item)
 {
+    const auto box = item.box();
     for (const QLatin1String key : {ItemKeys::document, QLatin1String("picture")}) {
         const QJsonValue value = item.json().value(key);
         const QString file = valueText(value.isArray() ? value.toArray().at(0) : value);
-        QJsonObject picture{{ItemKeys::type, QStringLiteral("ZQImagePic")}, {ItemKeys::resource, file}};
-        for (const QLatin1String place : {ItemKeys::box, ItemKeys::angle, ItemKeys::matrix}) {
-            picture.insert(place, item.json().value(place));
-        }
-        if (m_canvas.hasFile(file) && m_canvas.addAsIwb(picture)) {
+        if (box && !file.isEmpty() && m_canvas.addPicture(file, *box, placeOnPage(item))) {
             return true;
         }
     }

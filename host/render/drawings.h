@@ -7,14 +7,14 @@
 namespace lessonhost {
 
 /*!
- * Draws the items of one slide, each as the table of its family says for its type, or as IWB shows it. What can't be drawn
- * is shown as a box with its name.
+ * Draws the items of one slide, each as the table of its family says for its type, or as IWB shows it. What can't be
+ * drawn is shown as a box with its name.
  */
 class Drawings
 {
 public:
     //! The arguments of Canvas.
-    Drawings(PlainSvg &svg, IwbPageWriter &pages, const QStringList &files);
+    Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files);
 
     //! False for an item that is shown by its name alone.
     bool draw(const QJsonObject &item);

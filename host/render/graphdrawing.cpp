@@ -1,6 +1,7 @@
 #include "render/graphdrawing.h"
 
 #include "lesson/planegeometry.h"
+#include "render/arrowhead.h"
 #include "render/outline.h"
 #include "svg/svgstyle.h"
 
@@ -167,8 +168,7 @@ QPolygonF fitted(const QPolygonF &points, const std::optional<QRectF> &box)
 QTransform flips(const ItemView &item, const QPointF &center, bool isMirrored = false)
 {
     QTransform flips = QTransform::fromTranslate(center.x(), center.y());
-    flips.scale(item.flag(QLatin1String("HorizonFlip")) != isMirrored ? -1 : 1,
-                item.flag(QLatin1String("VerticalFlip")) ? -1 : 1);
+    flips.scale(item.flag(ItemKeys::flippedAcross) != isMirrored ? -1 : 1, item.flag(ItemKeys::flippedDown) ? -1 : 1);
     return flips.translate(-center.x(), -center.y());
 }
 
@@ -231,30 +231,6 @@ std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape,
     }
     drawing.parts.append({(flipped * drawing.placed).map(path), paint});
     return drawing;
-}
-
-// The head of an arrow of a line of this width, with its tip at the line's second end. The line ends within it from
-// then on.
-QPainterPath arrowHead(QLineF &line, double width)
-{
-    const double length = qMin(qMax(4 * width, 10.0), line.length() / 2);
-    const QPointF along = (line.p2() - line.p1()) / line.length() * length;
-    const QPointF across = QPointF(-along.y(), along.x()) * 0.4;
-    const QPointF base = line.p2() - along;
-    QPainterPath head(line.p2());
-    head.lineTo(base + across);
-    head.lineTo(base - across);
-    head.closeSubpath();
-    line.setP2(base + along * 0.1);
-    return head;
-}
-
-SvgPaint headPaint(const SvgPaint &line)
-{
-    SvgPaint paint;
-    paint.fill = line.line;
-    paint.line = Qt::transparent;
-    return paint;
 }
 
 // How many parts the dashes of a line style have.

@@ -12,13 +12,13 @@ QTransform placeOnPage(const ItemView &item)
         return *matrix;
     }
     const auto box = item.box();
-    if (!box) {
-        return {};
-    }
-    const QPointF center = box->center();
+    return box ? turnAndFlips(item, box->center()) : QTransform();
+}
+
+QTransform turnAndFlips(const ItemView &item, const QPointF &center)
+{
     const QTransform flips = QTransform::fromTranslate(-center.x(), -center.y())
-        * QTransform::fromScale(item.flag(QLatin1String("HorizonFlip")) ? -1 : 1,
-                                item.flag(QLatin1String("VerticalFlip")) ? -1 : 1)
+        * QTransform::fromScale(item.flag(ItemKeys::flippedAcross) ? -1 : 1, item.flag(ItemKeys::flippedDown) ? -1 : 1)
         * QTransform::fromTranslate(center.x(), center.y());
     return flips * turnAbout(center, item.angle());
 }

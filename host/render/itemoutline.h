@@ -12,6 +12,9 @@ namespace lessonhost {
 //! Takes what lies in an item's own box to the page: its Matrix; without one, its flips and its Angle.
 QTransform placeOnPage(const ItemView &item);
 
+//! The flips and the turn that an item without a Matrix says, about its middle.
+QTransform turnAndFlips(const ItemView &item, const QPointF &center);
+
 //! Moves and stretches what covers one box so that it covers another. A side without length stays in the middle.
 QTransform fitInto(const QRectF &from, const QRectF &to);
 

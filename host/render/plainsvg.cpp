@@ -5,6 +5,7 @@
 #include "iwb/iwbmedia.h"
 #include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
+#include "render/arrowhead.h"
 #include "render/labellines.h"
 #include "svg/svgstyle.h"
 
@@ -51,9 +52,28 @@ QString number(double value)
     return QString::number(qIsNaN(value) ? 0 : qBound(-largestInDrawing, value, largestInDrawing), 'f', 2);
 }
 
+QString matrixText(const QTransform &transform)
+{
+    QStringList numbers;
+    for (const double number :
+         {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
+        const double bounded = qIsNaN(number) ? 0 : qBound(-largestInDrawing, number, largestInDrawing);
+        numbers.append(QString::number(qAbs(bounded) < 1e-8 ? 0 : bounded, 'g', 8));
+    }
+    return QStringLiteral("matrix(%1)").arg(numbers.join(QLatin1Char(' ')));
+}
+
 QString withoutPrefix(const QString &tag)
 {
     return tag.section(QLatin1Char(':'), -1);
+}
+
+void setBox(QDomElement &element, const QRectF &box)
+{
+    element.setAttribute(QStringLiteral("x"), number(box.x()));
+    element.setAttribute(QStringLiteral("y"), number(box.y()));
+    element.setAttribute(QStringLiteral("width"), number(box.width()));
+    element.setAttribute(QStringLiteral("height"), number(box.height()));
 }
 
 void copyAttributes(const QDomElement &from, QDomElement &to)
@@ -65,6 +85,23 @@ void copyAttributes(const QDomElement &from, QDomElement &to)
             to.setAttribute(QLatin1String(name), value);
         }
     }
+}
+
+QString pathData(const QPainterPath &path)
+{
+    QString data;
+    QPointF start;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        start = element.isMoveTo() ? QPointF(element) : start;
+        const char *letter = element.isMoveTo() ? "M" : element.isLineTo() ? "L" : element.isCurveTo() ? "C" : " ";
+        data += QLatin1String(letter) + number(element.x) + QLatin1Char(' ') + number(element.y);
+        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
+        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
+            data += QLatin1Char('Z');
+        }
+    }
+    return data;
 }
 
 struct Piece
@@ -197,10 +234,33 @@ QByteArray PlainSvg::text()
     return xmlNodeText(m_svg).toUtf8();
 }
 
+PlainSvg::Scope::Scope(PlainSvg &svg, const QTransform &transform)
+    : m_svg(svg)
+    , m_before(svg.m_transform)
+{
+    m_svg.m_transform = transform * m_before;
+}
+
+PlainSvg::Scope::~Scope()
+{
+    m_svg.m_transform = m_before;
+}
+
+// Scopes in each other are written side by side, so that none is deeper than another.
 QDomElement PlainSvg::append(const QString &tag)
 {
     QDomElement element = m_document.createElement(tag);
-    m_svg.appendChild(element);
+    if (m_transform.isIdentity()) {
+        m_svg.appendChild(element);
+        return element;
+    }
+    if (m_scope.isNull() || m_svg.lastChild() != m_scope || m_scopeTransform != m_transform) {
+        m_scopeTransform = m_transform;
+        m_scope = m_document.createElement(QStringLiteral("g"));
+        m_svg.appendChild(m_scope);
+        m_scope.setAttribute(QStringLiteral("transform"), matrixText(m_transform));
+    }
+    m_scope.appendChild(element);
     return element;
 }
 
@@ -220,7 +280,51 @@ bool PlainSvg::add(const QDomElement &element)
                 copy.removeAttribute(QLatin1String(name));
             }
         }
+        if (tag == QLatin1String("line")) {
+            addHeads(element, copy);
+        }
     }
+    return true;
+}
+
+// The heads that IWB says a line has. The line ends within them.
+void PlainSvg::addHeads(const QDomElement &element, QDomElement &line)
+{
+    const auto value = [&line](const char *name) { return line.attribute(QLatin1String(name)).toDouble(); };
+    const auto setValue = [&line](const char *name, double value) {
+        line.setAttribute(QLatin1String(name), number(value));
+    };
+    for (const bool isStart : {false, true}) {
+        QLineF to(value("x1"), value("y1"), value("x2"), value("y2"));
+        to = isStart ? QLineF(to.p2(), to.p1()) : to;
+        const QString shape =
+            isStart ? QStringLiteral("stroke-lineshape-start") : QStringLiteral("stroke-lineshape-end");
+        if (element.attribute(shape) != QLatin1String("arrow") || !(to.length() > 0)) {
+            continue;
+        }
+        QDomElement head = append(QStringLiteral("path"));
+        head.setAttribute(QStringLiteral("d"), pathData(arrowHead(to, value("stroke-width"))));
+        for (const auto &row : {std::make_pair("fill", "stroke"), std::make_pair("fill-opacity", "stroke-opacity"),
+                                std::make_pair("transform", "transform")}) {
+            if (line.hasAttribute(QLatin1String(row.second))) {
+                head.setAttribute(QLatin1String(row.first), line.attribute(QLatin1String(row.second)));
+            }
+        }
+        setValue(isStart ? "x1" : "x2", to.x2());
+        setValue(isStart ? "y1" : "y2", to.y2());
+    }
+}
+
+bool PlainSvg::addPicture(const QString &file, const QRectF &box)
+{
+    const QString address = Picture(file).address(m_pixels);
+    if (address.isEmpty()) {
+        return false;
+    }
+    QDomElement image = append(QStringLiteral("image"));
+    setBox(image, box);
+    image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+    image.setAttribute(QStringLiteral("xlink:href"), address);
     return true;
 }
 
@@ -309,20 +413,8 @@ void PlainSvg::addText(const QDomElement &area, bool isInMiddle)
 
 void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
 {
-    QString data;
-    QPointF start;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element element = path.elementAt(i);
-        start = element.isMoveTo() ? QPointF(element) : start;
-        const char *letter = element.isMoveTo() ? "M" : element.isLineTo() ? "L" : element.isCurveTo() ? "C" : " ";
-        data += QLatin1String(letter) + number(element.x) + QLatin1Char(' ') + number(element.y);
-        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
-        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
-            data += QLatin1Char('Z');
-        }
-    }
     QDomElement shape = append(QStringLiteral("path"));
-    shape.setAttribute(QStringLiteral("d"), data);
+    shape.setAttribute(QStringLiteral("d"), pathData(path));
     for (const auto &row : {std::make_pair("fill", paint.fill), std::make_pair("stroke", paint.line)}) {
         const QString name = QLatin1String(row.first);
         shape.setAttribute(name, row.second.alpha() > 0 ? row.second.name() : QStringLiteral("none"));
@@ -345,10 +437,7 @@ void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
 QDomElement PlainSvg::addRectangle(const QRectF &box, const QColor &line, const QColor &fill)
 {
     QDomElement rectangle = append(QStringLiteral("rect"));
-    rectangle.setAttribute(QStringLiteral("x"), number(box.x()));
-    rectangle.setAttribute(QStringLiteral("y"), number(box.y()));
-    rectangle.setAttribute(QStringLiteral("width"), number(box.width()));
-    rectangle.setAttribute(QStringLiteral("height"), number(box.height()));
+    setBox(rectangle, box);
     rectangle.setAttribute(QStringLiteral("rx"), QStringLiteral("6"));
     rectangle.setAttribute(QStringLiteral("stroke"), line.name());
     rectangle.setAttribute(QStringLiteral("stroke-width"), QStringLiteral("2"));

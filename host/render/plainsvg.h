@@ -10,6 +10,7 @@
 #include <QPainterPath>
 #include <QRectF>
 #include <QString>
+#include <QTransform>
 #include <QVector>
 
 namespace lessonhost {
@@ -38,11 +39,31 @@ public:
     PlainSvg(const QSizeF &size, const IwbMedia &media);
 
     QSizeF size() const { return m_size; }
+
+    /*!
+     * As long as it lives, what is added stands under a transform, and under those of the scopes around it: lines,
+     * letters and pictures alike.
+     */
+    class Scope
+    {
+    public:
+        Scope(PlainSvg &svg, const QTransform &transform);
+        ~Scope();
+        Scope(const Scope &) = delete;
+        Scope &operator=(const Scope &) = delete;
+
+    private:
+        PlainSvg &m_svg;
+        QTransform m_before;
+    };
     //! What was added, within the bounds of drawings.
     QByteArray text();
 
     //! Adds an element of an IWB page. False for a picture that can't be drawn.
     bool add(const QDomElement &element);
+
+    //! A picture on disk, stretched to a box. False for one that can't be drawn.
+    bool addPicture(const QString &file, const QRectF &box);
 
     //! Adds a text area of an IWB page with its lines in the middle of its height.
     void addTextInMiddle(const QDomElement &area) { addText(area, true); }
@@ -60,6 +81,7 @@ public:
 private:
     QDomElement append(const QString &tag);
     void addText(const QDomElement &area, bool isInMiddle);
+    void addHeads(const QDomElement &element, QDomElement &line);
     bool addPicture(const QDomElement &image);
 
     QSizeF m_size;
@@ -67,6 +89,9 @@ private:
     PixelBudget m_pixels;
     QDomDocument m_document;
     QDomElement m_svg;
+    QTransform m_transform;
+    QDomElement m_scope; // holds what was added last under a transform
+    QTransform m_scopeTransform;
 };
 
 } // namespace lessonhost

@@ -94,12 +94,10 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     const auto target = pictureOutput(output, titleOf(reader.presentation()), settings.size, slides);
     SlidePictures pictures(reader, context);
     QJsonArray named;
-    QJsonArray upright;
     for (int i = 0; i < slides.size(); ++i) {
         const SlidePicture picture = pictures.picture(slides.at(i));
         target->add(picture);
         append(named, picture.slide, picture.named);
-        append(upright, picture.slide, picture.upright);
         progress(i + 1, slides.size());
     }
     if (slides.isEmpty()) {
@@ -107,8 +105,7 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     }
     return {{QStringLiteral("slides"), slides.size()},
             {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
-            {QStringLiteral("named"), named},
-            {QStringLiteral("upright"), upright}};
+            {QStringLiteral("named"), named}};
 }
 
 QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,

@@ -26,9 +26,8 @@ QSize sizeFromText(const QString &text);
 QVector<int> slidesFromText(const QString &text);
 
 //! Draws a lesson into a .html or .pdf file, or into .svg or .png files, one a slide, with %d in the name for the
-//! slide's number. Returns {"slides", "files", "named": [{"slide", "type", "id"}], "upright": the same}, where named
-//! are the items that are shown by name only, upright those that are shown without the mirror or slant of their Matrix.
-//! Throws LessonError; then nothing is written.
+//! slide's number. Returns {"slides", "files", "named": [{"slide", "type", "id"}]}, where named are the items that are
+//! shown by name only. Throws LessonError; then nothing is written.
 QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
                          const RenderSettings &settings, const Progress &progress);
 

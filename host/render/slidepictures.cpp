@@ -1,28 +1,103 @@
 #include "render/slidepictures.h"
 
-#include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
+#include "lesson/planegeometry.h"
 #include "render/drawings.h"
+#include "render/itemoutline.h"
 #include "render/plainsvg.h"
 
 namespace lessonhost {
 
 namespace {
 
-// The items to be seen that stand on the page by themselves, groups taken apart.
-void takeApart(const QJsonObject &item, QVector<QJsonObject> &result)
+/*!
+ * An item that stands on the page by itself, and what the groups around it do with it.
+ */
+struct Shown
+{
+    QJsonObject item;
+    QTransform placed; //!< from where the item says that it is to the page
+};
+
+// What an item without children covers, where it says that it is.
+QRectF extentOfOne(const ItemView &item)
+{
+    if (const auto place = item.place()) {
+        return place->extent();
+    }
+    const QPolygonF points = item.has(ItemKeys::steps) ? item.strokePoints() : item.points(ItemKeys::control);
+    return item.matrix().value_or(QTransform()).mapRect(extentOf(points));
+}
+
+QRectF extentOfChildren(const ItemView &group)
+{
+    QRectF extent;
+    const QVector<QJsonObject> children = group.childObjects();
+    for (const QJsonObject &child : children) {
+        const ItemView view(child);
+        const QRectF own = view.childObjects().isEmpty() ? extentOfOne(view)
+            : view.box()                                 ? *view.box()
+                                                         : extentOfChildren(view);
+        extent = extent.isNull() ? own : own.isNull() ? extent : extent.united(own);
+    }
+    return extent;
+}
+
+// The fit of a raw slide to the page, as the first item below a group has it.
+QTransform fitOfChildren(const ItemView &group)
+{
+    const QVector<QJsonObject> children = group.childObjects();
+    for (const QJsonObject &child : children) {
+        const auto fit = itemTransform(child.value(ItemKeys::slideMatrix));
+        if (fit && fit->isInvertible()) {
+            return *fit;
+        }
+    }
+    return children.isEmpty() ? QTransform() : fitOfChildren(ItemView(children.constFirst()));
+}
+
+// What a group does with its children. The Matrix of a raw group is one of its slide, not of the page.
+QTransform placeOfChildren(const ItemView &group)
+{
+    if (const auto matrix = group.matrix()) {
+        if (matrix->isIdentity()) {
+            return {};
+        }
+        const QTransform fit = fitOfChildren(group);
+        return fit.inverted() * *matrix * fit;
+    }
+    if (turnAndFlips(group, {}).isIdentity()) {
+        return {};
+    }
+    const auto box = group.box();
+    return turnAndFlips(group, (box ? *box : extentOfChildren(group)).center());
+}
+
+// The items to be seen, groups taken apart.
+void takeApart(const QJsonObject &item, const QTransform &placed, QVector<Shown> &result)
 {
     const ItemView view(item);
-    const QVector<QJsonObject> children = view.looseChildren();
     if (!view.isVisible()) {
         return;
     }
+    const QVector<QJsonObject> children = view.looseChildren();
+    const QTransform inside = children.isEmpty() ? placed : placeOfChildren(view) * placed;
     for (const QJsonObject &child : children) {
-        takeApart(child, result);
+        takeApart(child, inside, result);
     }
     if (children.isEmpty()) {
-        result.append(item);
+        result.append({item, placed});
     }
+}
+
+// The page of a slide. Slides that tell what they were fitted from have a page each.
+QJsonObject sizeFor(QJsonObject presentation, const QJsonObject &slide)
+{
+    if (!isEmptyValue(slide.value(SlideKeys::sourceRect))) {
+        presentation.remove(PresentationKeys::width);
+        presentation.remove(PresentationKeys::height);
+    }
+    return presentation;
 }
 
 IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
@@ -38,10 +113,10 @@ IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 
 SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context)
     : m_reader(reader)
-    , m_files(reader.resources())
     , m_pages(drawnSetting(context.plugin, &m_media))
 {
-    for (const QString &file : qAsConst(m_files)) {
+    const QStringList files = reader.resources();
+    for (const QString &file : files) {
         m_media.add(file, reader.resourceFile(file));
     }
 }
@@ -53,7 +128,7 @@ SlidePicture SlidePictures::picture(int index)
 
     SlidePicture result;
     result.slide = index + 1;
-    m_pages.start(m_reader.presentation(), slide.properties);
+    m_pages.start(sizeFor(m_reader.presentation(), slide.properties), slide.properties);
     const QSizeF size = m_pages.pageSize();
     result.size = QSizeF(qBound(1.0, size.width(), longestSide), qBound(1.0, size.height(), longestSide));
 
@@ -62,18 +137,16 @@ SlidePicture SlidePictures::picture(int index)
     for (QDomElement e = page.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
         plain.add(e);
     }
-    QVector<QJsonObject> items;
+    QVector<Shown> items;
     for (const QJsonValue &item : slide.items) {
-        takeApart(item.toObject(), items);
+        takeApart(item.toObject(), {}, items);
     }
-    Drawings drawings(plain, m_pages, m_files);
-    for (const QJsonObject &item : qAsConst(items)) {
-        const ItemView view(item);
-        const bool hasOnlyBox = isTextBoard(view.type()) || mediaFolder(view.type());
-        if (!drawings.draw(item)) {
+    Drawings drawings(plain, m_pages, m_media);
+    for (const Shown &shown : qAsConst(items)) {
+        const PlainSvg::Scope scope(plain, shown.placed);
+        if (!drawings.draw(shown.item)) {
+            const ItemView view(shown.item);
             result.named.append({view.type(), view.id()});
-        } else if (hasOnlyBox && view.isSetUpright()) {
-            result.upright.append({view.type(), view.id()});
         }
     }
     result.svg = plain.text();

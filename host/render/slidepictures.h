@@ -26,13 +26,11 @@ struct SlidePicture
     QSizeF size; //!< pixels
     QByteArray svg;
     QVector<Told> named; //!< shown by their names alone
-    QVector<Told> upright; //!< shown without the mirror or slant of their Matrix
 };
 
 /*!
- * Draws slides: what the IWB export draws of an item, mind maps as boxes and lines, vector shapes and mathematics from
- * what they hold, and a named box for every other item, so that nobody takes a gap for an empty page. Hidden items are
- * left out.
+ * Draws slides, each in its own size: every item as its type is drawn, or in a named box, so that nobody takes a gap
+ * for an empty page. What stands in groups goes with them; hidden items are left out.
  */
 class SlidePictures
 {
@@ -44,7 +42,6 @@ public:
 
 private:
     LessonReader &m_reader;
-    QStringList m_files;
     IwbMedia m_media;
     IwbPageWriter m_pages;
 };

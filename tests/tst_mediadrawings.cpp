@@ -1,0 +1,107 @@
+#include "hostfixture.h"
+
+#include <QtTest>
+
+/*!
+ * Draws what the items of a slide hold, through the command.
+ */
+class TestMediaDrawings : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    //! The first slide of a lesson in JSON.
+    QByteArray svgOf(QByteArray lesson)
+    {
+        const QString path = m_folder.filePath("lesson.json");
+        putFile(path, lesson.replace('\'', '"'));
+        const CommandProcess::Outcome outcome =
+            runCommand({"render", path, m_folder.filePath("lesson.svg"), "--slides", "1"});
+        return outcome.exitCode == 0 ? fileContent(m_folder.filePath("lesson.svg")) : outcome.errors.toUtf8();
+    }
+
+private slots:
+    // What is drawn stands between bars; behind an exclamation mark, what isn't.
+    void drawsWhatItemsHold_data()
+    {
+        const Table<QByteArray, QByteArray> row("items", "drawn");
+        row("mirrored text", "{'Type':'ZQTextBoard','BoundingBox':'10,10,90,60','Text':'a','Matrix':'-1,0,0,1,300,0'}",
+            "matrix(-1 0 0 1 300 0)|x=\"10.00\"");
+        row("text upside down", "{'Type':'ZQTextBoard','BoundingBox':'0,10,90,60','Text':'a','VerticalFlip':'1'}",
+            "matrix(1 0 0 -1 0 70)");
+        row("turned text", "{'Type':'ZQTextBoard','BoundingBox':'10,10,90,60','Text':'a','Matrix':'0,2,-2,0,300,0'}",
+            "rotate(90|!matrix(");
+        row("slanted picture",
+            "{'Type':'ZQImagePic','BoundingBox':'0,0,9,9','resource':'a.svg','Matrix':'1,0,2,1,0,5'}",
+            "matrix(1 0 2 1 0 5)|width=\"9.00\"|data:image/png");
+        row("group that is turned about its middle",
+            "{'Type':'ZQGroupItem','Angle':'3.14159265358979','Children':["
+            "{'Type':'ZQMath2DRectangle','BoundingBox':'0,0,20,20'},"
+            "{'Type':'ZQMath2DRectangle','BoundingBox':'80,40,100,60'}]}",
+            "matrix(-1 0 0 -1 100 60)|x=\"80\"");
+        row("groups in each other",
+            "{'Type':'ZQGroupItem','Matrix':'2,0,0,2,0,0','Children':[{'Type':'ZQGroupItem','Matrix':'1,0,0,1,7,0',"
+            "'Children':[{'Type':'ZQMath2DRectangle','BoundingBox':'0,0,20,20'}]}]},"
+            "{'Type':'ZQMath2DRectangle','BoundingBox':'40,0,60,20'}",
+            "<g transform=\"matrix(2 0 0 2 14 0)\"><rect");
+        row("raw group",
+            "{'Type':'ZQGroupItem','Matrix':'1,0,0,1,7,0','Children':[{'Type':'ZQMath2DRectangle',"
+            "'BoundingBox':'0,0,20,20','Matrix':'2,0,0,2,0,0','SlideMatrix':'2,0,0,2,0,0'}]}",
+            "matrix(1 0 0 1 14 0)");
+        row("hidden group",
+            "{'Type':'ZQGroupItem','Visible':false,'Children':[{'Type':'ZQMath2DRectangle',"
+            "'BoundingBox':'0,0,20,77'}]}",
+            "!77");
+        row("segment with two heads",
+            "{'Type':'ZQMath2DSegmentWith2Arrow','Control':'0,50,90,50','BoundingBox':'0,50,90,50',"
+            "'ArtObj_Color1':'255,255,0,0'}",
+            "d=\"M90.00 50.00L80.00 54.00L80.00 46.00L90.00 50.00Z\"|d=\"M0.00 50.00L10.00 "
+            "46.00|x2=\"81.00\"|x1=\"9.00\"");
+        row("film", "{'Type':'ZQMediaVideo','BoundingBox':'0,0,200,150','resource':'v/of a day.mp4'}",
+            ">of a day.mp4<|>Film, MP4<|!matrix(");
+        row("sound that is named",
+            "{'Type':'ZQMediaAudio','BoundingBox':'0,0,300,60','resource':'a.wav','name':'Bell'}",
+            ">Bell<|>Sound, WAV<");
+        row("document in a small box", "{'Type':'ZQMediaDoc','BoundingBox':'0,0,30,30','document':'a.doc'}",
+            "<path|!<text");
+        row("worksheet", "{'Type':'ZQDyCoursewareItem','BoundingBox':'0,0,200,150','document':['','w/a.ggb']}",
+            ">a.ggb<|>Moving worksheet, GGB<");
+        row("worksheet with its picture",
+            "{'Type':'ZQDyCoursewareItem','BoundingBox':'0,0,200,150','document':['a.svg','w/a.ggb']}",
+            "data:image/png|!<text");
+        row("picture that is missing", "{'Type':'ZQImagePic','BoundingBox':'0,0,200,90','resource':'b.png'}",
+            ">Picture that<|>is missing<");
+    }
+
+    void drawsWhatItemsHold()
+    {
+        QFETCH(QByteArray, items);
+        QFETCH(QByteArray, drawn);
+        const QByteArray drawing =
+            QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><circle r='9'/></svg>").toBase64();
+        const QByteArray svg = svgOf("{'Width':'400','Height':'300','Version':'3.0','Resources':{'a.svg':'" + drawing
+                                     + "'},'Slides':[{'Items':[" + items + "]}]}");
+        for (const QByteArray &part : drawn.split('|')) {
+            const bool isDrawn = !part.startsWith('!');
+            QVERIFY2(svg.contains(isDrawn ? part : part.mid(1)) == isDrawn, QByteArray(part + " in " + svg));
+        }
+    }
+
+    // Raw lessons have slides of several sizes.
+    void keepsASizeASlide()
+    {
+        const QByteArray lesson = "{'Width':'1440','Height':'1080','Slides':[{SLIDE'Items':[]}]}";
+        for (const auto &row : {std::make_pair("", "1440.00 1080.00"),
+                                std::make_pair("'SlideSourceRect':'0,0,1280,720',", "1920.00 1080.00"),
+                                std::make_pair("'SlideSourceRect':'0,0,1280,800',", "1728.00 1080.00")}) {
+            QVERIFY2(svgOf(QByteArray(lesson).replace("SLIDE", row.first))
+                         .contains("viewBox=\"0 0 " + QByteArray(row.second)),
+                     row.first);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMediaDrawings)
+#include "tst_mediadrawings.moc"
