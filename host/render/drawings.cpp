@@ -7,6 +7,7 @@
 #include "render/itemoutline.h"
 #include "render/mathdrawing.h"
 #include "render/mediadrawing.h"
+#include "render/symboldrawing.h"
 #include "render/vectordrawing.h"
 
 #include <QJsonArray>
@@ -17,7 +18,7 @@ namespace {
 
 // Each family tells which of its types it has a drawing for.
 constexpr SvgDrawing (*families[])(const QString &type) = {
-    &vectorDrawing, &mathDrawing, &graphDrawing, &instrumentDrawing, &mediaDrawing,
+    &vectorDrawing, &mathDrawing, &graphDrawing, &instrumentDrawing, &mediaDrawing, &symbolDrawing,
 };
 
 bool drawFromFamilies(Canvas &canvas, const ItemView &item)

@@ -2,6 +2,7 @@
 
 #include "lesson/planegeometry.h"
 #include "render/arrowhead.h"
+#include "render/itemoutline.h"
 #include "render/outline.h"
 #include "svg/svgstyle.h"
 
@@ -142,28 +143,6 @@ bool isFreeDrawing(const QString &type)
     return type.contains(QLatin1String("ZQBasicFreeDraw"));
 }
 
-// The same points where the box has them: they are told from the page's corner or the box's, and by who stretched the
-// box, in a size that it had before.
-QPolygonF fitted(const QPolygonF &points, const std::optional<QRectF> &box)
-{
-    if (!box) {
-        return points;
-    }
-    const QRectF extent = extentOf(points);
-    const QRectF room = box->adjusted(-1, -1, 1, 1);
-    for (const QPointF &offset : {QPointF(), box->topLeft()}) {
-        const QRectF moved = extent.translated(offset);
-        if (room.contains(moved.topLeft()) && room.contains(moved.bottomRight())) {
-            return points.translated(offset);
-        }
-    }
-    QTransform stretched = QTransform::fromTranslate(box->left(), box->top());
-    stretched.scale(extent.width() > 0 ? box->width() / extent.width() : 1,
-                    extent.height() > 0 ? box->height() / extent.height() : 1);
-    stretched.translate(-extent.left(), -extent.top());
-    return stretched.map(points);
-}
-
 // Left for right and up for down, as the item says.
 QTransform flips(const ItemView &item, const QPointF &center, bool isMirrored = false)
 {
@@ -218,7 +197,7 @@ std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape,
     QPainterPath path;
     const QPolygonF corners = withoutRepeatedEnd(item.points(ItemKeys::control));
     if (shape.corners > 0 && corners.size() == shape.corners) {
-        path.addPolygon(fitted(corners, box));
+        path.addPolygon(fittedPoints(corners, box));
         path.closeSubpath();
     } else {
         path = outlineIn(box, shape.outline);
@@ -252,7 +231,7 @@ std::optional<GraphDrawing> drawnSegment(const ItemView &item)
         return std::nullopt;
     }
     GraphDrawing drawing;
-    ends = lineTransform(item, box).map(fitted(ends, box));
+    ends = lineTransform(item, box).map(fittedPoints(ends, box));
     QLineF line(ends.at(0), ends.at(1));
     if (!(line.length() > 0)) {
         return std::nullopt;
@@ -301,7 +280,7 @@ std::optional<GraphDrawing> drawnConnection(const ItemView &item)
     const QPolygonF points = ends.mid(0, 1) + namedPoints(item, "ArtObj_InterPoint", 0, between - 1) + ends.mid(1);
     const auto box = item.box();
     QPainterPath path;
-    path.addPolygon(lineTransform(item, box).map(fitted(points, box)));
+    path.addPolygon(lineTransform(item, box).map(fittedPoints(points, box)));
     GraphDrawing drawing;
     drawing.parts.append({path, paintOf(item, ItemKeys::lineWidth, "ArtObj_Color", "")});
     return drawing;
@@ -315,7 +294,7 @@ std::optional<GraphDrawing> drawnArrow(const ItemView &item, int firstPoint, int
         return std::nullopt;
     }
     const auto box = item.box();
-    points = lineTransform(item, box).map(fitted(points, box));
+    points = lineTransform(item, box).map(fittedPoints(points, box));
     const SvgPaint paint = paintOf(item, ItemKeys::lineWidth, "ArtObj_Color", "");
     GraphDrawing drawing;
     const auto addHead = [&](const QPointF &from, QPointF &tip) {
@@ -382,7 +361,7 @@ std::optional<GraphDrawing> drawnFreely(const ItemView &item)
     for (QColor *color : {&paint.line, &paint.fill}) {
         color->setAlphaF(color->alphaF() * opacity);
     }
-    drawing.parts.append({lineTransform(item, box).map(freeLines(item, fitted(points, box))), paint});
+    drawing.parts.append({lineTransform(item, box).map(freeLines(item, fittedPoints(points, box))), paint});
     return drawing;
 }
 

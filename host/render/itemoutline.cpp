@@ -58,6 +58,26 @@ QTransform PlacedBox::inPixels() const
     return QTransform::fromScale(1 / width, 1 / height) * QTransform::fromTranslate(0.5, 0.5) * place;
 }
 
+QPolygonF fittedPoints(const QPolygonF &points, const std::optional<QRectF> &box)
+{
+    if (!box) {
+        return points;
+    }
+    const QRectF extent = extentOf(points);
+    const QRectF room = box->adjusted(-1, -1, 1, 1);
+    for (const QPointF &offset : {QPointF(), box->topLeft()}) {
+        const QRectF moved = extent.translated(offset);
+        if (room.contains(moved.topLeft()) && room.contains(moved.bottomRight())) {
+            return points.translated(offset);
+        }
+    }
+    QTransform stretched = QTransform::fromTranslate(box->left(), box->top());
+    stretched.scale(extent.width() > 0 ? box->width() / extent.width() : 1,
+                    extent.height() > 0 ? box->height() / extent.height() : 1);
+    stretched.translate(-extent.left(), -extent.top());
+    return stretched.map(points);
+}
+
 QColor firstColor(const ItemView &item, std::initializer_list<const char *> keys, const QColor &missing)
 {
     for (const char *key : keys) {

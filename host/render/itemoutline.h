@@ -41,6 +41,10 @@ struct PlacedBox
     double height = 0;
 };
 
+//! Points where the box has them: they are told from the page's corner or the box's, and by who stretched the box, in a
+//! size that it had before.
+QPolygonF fittedPoints(const QPolygonF &points, const std::optional<QRectF> &box);
+
 //! The first of several keys that has a colour.
 QColor firstColor(const ItemView &item, std::initializer_list<const char *> keys, const QColor &missing);
 

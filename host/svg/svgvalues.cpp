@@ -1,5 +1,7 @@
 #include "svg/svgvalues.h"
 
+#include "svg/svgscanner.h"
+
 #include <QStringList>
 
 #include <cmath>
@@ -9,102 +11,6 @@ namespace lessonhost {
 namespace {
 
 constexpr double degreesOfRadian = 180.0 / M_PI;
-
-bool isDigit(QChar c)
-{
-    return c.unicode() >= '0' && c.unicode() <= '9';
-}
-
-// Reads numbers and letters from the front of an attribute's text.
-class Scanner
-{
-public:
-    explicit Scanner(const QString &text)
-        : m_text(text)
-    {
-    }
-
-    void skipSeparators()
-    {
-        while (m_at < m_text.size() && (m_text.at(m_at).isSpace() || m_text.at(m_at) == QLatin1Char(','))) {
-            ++m_at;
-        }
-    }
-
-    bool atEnd()
-    {
-        skipSeparators();
-        return m_at >= m_text.size();
-    }
-
-    QChar peek() const { return m_at < m_text.size() ? m_text.at(m_at) : QChar(); }
-    QChar take() { return m_text.at(m_at++); }
-
-    // Numbers may follow one another without a separator: "1-2" and "1.5.5" are two each.
-    std::optional<double> number()
-    {
-        skipSeparators();
-        int end = m_at;
-        if (end < m_text.size() && (m_text.at(end) == QLatin1Char('-') || m_text.at(end) == QLatin1Char('+'))) {
-            ++end;
-        }
-        const int digits = end;
-        end = digitsEnd(end);
-        int count = end - digits;
-        if (end < m_text.size() && m_text.at(end) == QLatin1Char('.')) {
-            const int fraction = ++end;
-            end = digitsEnd(end);
-            count += end - fraction;
-        }
-        if (count == 0) {
-            return std::nullopt;
-        }
-        end = exponentEnd(end);
-        bool ok = false;
-        const double value = m_text.midRef(m_at, end - m_at).toDouble(&ok);
-        if (!ok || !std::isfinite(value)) {
-            return std::nullopt;
-        }
-        m_at = end;
-        return value;
-    }
-
-    // A flag or unit: the letters and percent signs that follow at once.
-    QString word()
-    {
-        const int start = m_at;
-        while (m_at < m_text.size() && (m_text.at(m_at).isLetter() || m_text.at(m_at) == QLatin1Char('%'))) {
-            ++m_at;
-        }
-        return m_text.mid(start, m_at - start);
-    }
-
-private:
-    int digitsEnd(int at) const
-    {
-        while (at < m_text.size() && isDigit(m_text.at(at))) {
-            ++at;
-        }
-        return at;
-    }
-
-    int exponentEnd(int end) const
-    {
-        if (end >= m_text.size() || m_text.at(end).toLower() != QLatin1Char('e')) {
-            return end;
-        }
-        int at = end + 1;
-        if (at < m_text.size() && (m_text.at(at) == QLatin1Char('-') || m_text.at(at) == QLatin1Char('+'))) {
-            ++at;
-        }
-        const int digits = at;
-        at = digitsEnd(at);
-        return at > digits ? at : end;
-    }
-
-    const QString m_text;
-    int m_at = 0;
-};
 
 // The text between the brackets of name(...), or nothing.
 std::optional<QString> argumentsOf(const QString &text, QLatin1String name)
@@ -124,7 +30,7 @@ std::optional<QString> argumentsOf(const QString &text, QLatin1String name)
 QVector<double> channels(const QString &arguments)
 {
     QVector<double> values;
-    Scanner scanner(arguments);
+    SvgScanner scanner(arguments);
     while (!scanner.atEnd()) {
         if (scanner.peek() == QLatin1Char('/')) {
             scanner.take();
@@ -256,7 +162,7 @@ private:
         return true;
     }
 
-    Scanner m_scanner;
+    SvgScanner m_scanner;
     QPointF m_at;
     QVector<SvgOutline> m_outlines;
 };
@@ -266,7 +172,7 @@ private:
 QVector<double> svgNumbers(const QString &text)
 {
     QVector<double> numbers;
-    Scanner scanner(text);
+    SvgScanner scanner(text);
     while (const auto value = scanner.number()) {
         numbers.append(*value);
     }
@@ -282,7 +188,7 @@ std::optional<double> svgLength(const QString &text, double reference, double fo
     };
     static constexpr Unit units[] = {{"", 1},           {"px", 1},         {"pt", 96.0 / 72}, {"pc", 16},
                                      {"mm", 96 / 25.4}, {"cm", 96 / 2.54}, {"in", 96}};
-    Scanner scanner(text);
+    SvgScanner scanner(text);
     const auto value = scanner.number();
     if (!value) {
         return std::nullopt;

@@ -1,0 +1,243 @@
+#include "render/symboldrawing.h"
+
+#include "render/itemoutline.h"
+#include "render/symbolaxis.h"
+#include "render/symbolfile.h"
+#include "render/symbolrules.h"
+#include "svg/svgpath.h"
+#include "svg/svgstyle.h"
+#include "svg/svgvalues.h"
+
+#include <QFontMetricsF>
+#include <QtMath>
+
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+constexpr double usualLine = 2; // of the files
+constexpr int mostRepeats = 100;
+
+// Where the parts of a file come to stand, in pixels of the page from the middle of the item's box.
+struct SymbolPlace
+{
+    SymbolAxis x;
+    SymbolAxis y;
+
+    QPointF at(const QPointF &point) const { return {x.at(point.x()), y.at(point.y())}; }
+};
+
+// A turn in degrees that leaves words readable: those of a mirrored item are not mirrored themselves.
+double angleOfWords(const QTransform &toPage)
+{
+    const QPointF along = toPage.map(QPointF(1, 0)) - toPage.map(QPointF(0, 0));
+    const double angle = qRadiansToDegrees(std::atan2(along.y(), along.x()));
+    const bool isUpsideDown = toPage.determinant() < 0 && qAbs(angle) > 90;
+    return isUpsideDown ? angle + 180 : angle;
+}
+
+double angleBetween(const QPointF &first, const QPointF &corner, const QPointF &second)
+{
+    const double angle = std::abs(QLineF(corner, first).angleTo(QLineF(corner, second)));
+    return qMin(angle, 360 - angle);
+}
+
+/*!
+ * Draws one file for one item.
+ */
+class SymbolPainter
+{
+public:
+    SymbolPainter(Canvas &canvas, const ItemView &item, const PlacedBox &box, const SymbolFile &file)
+        : m_canvas(canvas)
+        , m_item(item)
+        , m_file(file)
+        , m_toPage(box.inPixels())
+        , m_wordAngle(angleOfWords(m_toPage))
+        , m_room(box.width, box.height)
+    {
+        const QSizeF size = file.size();
+        // The top of what stands comes to lie on the left, and the left of what lies to stand at the top.
+        constexpr double clearly = 1.1;
+        m_isTurned = file.turns()
+            && (size.width() > size.height() ? box.height > clearly * box.width : box.width > clearly * box.height);
+        if (m_isTurned) {
+            m_toPage = QTransform().rotate(size.width() > size.height() ? 90 : -90) * m_toPage;
+            m_room.transpose();
+        }
+        m_scale = qMin(m_room.width() / size.width(), m_room.height() / size.height());
+        // Lines that the item says nothing of are finer in small symbols.
+        m_lineFactor = outlineWidth(item) / usualLine;
+        if (!item.has(ItemKeys::lineWidth)) {
+            m_lineFactor *= qBound(0.5, m_scale, 1.0);
+        }
+    }
+
+    void draw()
+    {
+        const SymbolPlace whole{SymbolAxis(m_file.size().width(), m_file.stretchingAcross(), m_scale, m_room.width()),
+                                SymbolAxis(m_file.size().height(), m_file.stretchingDown(), m_scale, m_room.height())};
+        drawPart(m_file.root(), {}, whole);
+    }
+
+private:
+    void drawPart(const QDomElement &part, const SvgStyle &above, const SymbolPlace &around)
+    {
+        if (!SymbolFile::isShown(part, m_item)) {
+            return;
+        }
+        const SvgStyle style = styleOf(part, above);
+        const SymbolPlace place = placeOf(part, around);
+        const QString tag = part.tagName();
+        if (part.hasAttribute(QStringLiteral("data-repeat-x")) || part.hasAttribute(QStringLiteral("data-repeat-y"))) {
+            drawRepeated(part, style, place);
+        } else if (tag == QLatin1String("svg") || tag == QLatin1String("g")) {
+            for (QDomElement child = part.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+                drawPart(child, style, place);
+            }
+        } else if (tag == QLatin1String("text")) {
+            drawWord(part, style, place);
+        } else if (const auto outline = svgOutline(part)) {
+            QPainterPath path = style.matrix.map(*outline);
+            for (int i = 0; i < path.elementCount(); ++i) {
+                const QPointF point = place.at(path.elementAt(i));
+                path.setElementPositionAt(i, point.x(), point.y());
+            }
+            SvgPaint paint = paintOf(style);
+            paint.lineWidth *= m_lineFactor;
+            m_canvas.svg().addPath(m_toPage.map(path), paint);
+        }
+    }
+
+    static SvgPaint paintOf(const SvgStyle &style)
+    {
+        return svgPaint(style, false, [](const QString &) {});
+    }
+
+    // With the item's colours in place of those that have a role.
+    SvgStyle styleOf(const QDomElement &part, const SvgStyle &above) const
+    {
+        SvgStyle style = above.child(part, part.attribute(QStringLiteral("transform")), [](const QString &) {});
+        const QStringList roles = part.attribute(QStringLiteral("class")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (const QString &role : roles) {
+            if (const auto color = m_file.color(role, m_item)) {
+                const QString name = role == QLatin1String("edge") ? QStringLiteral("stroke") : QStringLiteral("fill");
+                style.set(name, color->name());
+                style.set(name + QLatin1String("-opacity"), QString::number(color->alphaF()));
+            }
+        }
+        return style;
+    }
+
+    SymbolPlace placeOf(const QDomElement &part, const SymbolPlace &around) const
+    {
+        const QVector<double> kept = svgNumbers(part.attribute(QStringLiteral("data-keep")));
+        if (kept.size() != 2) {
+            return around;
+        }
+        return {around.x.keptAround(kept.at(0), m_scale), around.y.keptAround(kept.at(1), m_scale)};
+    }
+
+    // The first of the parts as often as there is room for it, or as the item says.
+    void drawRepeated(const QDomElement &group, const SvgStyle &style, const SymbolPlace &place)
+    {
+        const bool isAcross = group.hasAttribute(QStringLiteral("data-repeat-x"));
+        const QVector<double> range =
+            svgNumbers(group.attribute(isAcross ? QStringLiteral("data-repeat-x") : QStringLiteral("data-repeat-y")));
+        const QDomElement first = group.firstChildElement();
+        int inFile = 0;
+        for (QDomElement part = first; !part.isNull(); part = part.nextSiblingElement()) {
+            ++inFile;
+        }
+        if (range.size() != 2 || inFile == 0) {
+            return;
+        }
+        const SymbolAxis &axis = isAcross ? place.x : place.y;
+        const double cell = (range.at(1) - range.at(0)) / inFile;
+        const double start = axis.at(range.at(0));
+        const double length = axis.at(range.at(1)) - start;
+        const double fitting = qBound(1.0, length / (cell * m_scale), double(mostRepeats));
+        const QJsonValue told = m_item.json().value(group.attribute(QStringLiteral("data-count")));
+        const int count = qRound(qBound(1.0, itemNumber(told, fitting), double(mostRepeats)));
+        for (int i = 0; i < count; ++i) {
+            const SymbolAxis part(range.at(0), range.at(0) + cell, start + length * i / count,
+                                  start + length * (i + 1) / count);
+            drawPart(first, style, isAcross ? SymbolPlace{part, place.y} : SymbolPlace{place.x, part});
+        }
+    }
+
+    void drawWord(const QDomElement &element, const SvgStyle &style, const SymbolPlace &place)
+    {
+        const auto number = [&element](const char *name) { return element.attribute(QLatin1String(name)).toDouble(); };
+        SvgMark word;
+        word.text = textOf(element, place).simplified().left(longestWord);
+        // Its middle stays where it is, however it is turned.
+        constexpr double middleOfLetters = 0.36;
+        const QPointF middle(number("x"), number("y") - middleOfLetters * style.fontPixels());
+        word.middle = m_toPage.map(place.at(style.matrix.map(middle)));
+        word.turn = m_wordAngle;
+        double size = style.fontPixels() * m_scale;
+        // Words of the item's own may be longer than those of the file.
+        const double room = number("data-room") * m_scale;
+        if (room > 0) {
+            QFont font(QStringLiteral("sans-serif"));
+            font.setPixelSize(100);
+            const double width = QFontMetricsF(font).horizontalAdvance(word.text) / 100;
+            size = qMin(size, room / qMax(width, 0.01));
+            word.turn -= m_isTurned ? 90 : 0;
+        }
+        if (!word.text.isEmpty()) {
+            m_canvas.svg().addMarks({word}, size, paintOf(style).fill);
+        }
+    }
+
+    QString textOf(const QDomElement &element, const SymbolPlace &place) const
+    {
+        const QVector<double> angle = svgNumbers(element.attribute(QStringLiteral("data-angle")));
+        if (angle.size() == 6) {
+            const double degrees =
+                angleBetween(place.at({angle.at(0), angle.at(1)}), place.at({angle.at(2), angle.at(3)}),
+                             place.at({angle.at(4), angle.at(5)}));
+            return QString::number(qRound(degrees)) + QChar(0x00b0);
+        }
+        const QJsonValue told = m_item.json().value(element.attribute(QStringLiteral("data-text")));
+        return isEmptyValue(told) ? element.text() : valueText(told);
+    }
+
+    static constexpr int longestWord = 60; // what follows would be too small to read
+
+    Canvas &m_canvas;
+    const ItemView &m_item;
+    const SymbolFile &m_file;
+    QTransform m_toPage; //!< from the middle of the item's box
+    double m_wordAngle;
+    QSizeF m_room; //!< for the file as it stands
+    bool m_isTurned = false;
+    double m_scale = 1; //!< of what keeps its proportion
+    double m_lineFactor = 1;
+};
+
+bool drawSymbol(Canvas &canvas, const ItemView &item)
+{
+    if (drawByRule(canvas, item)) {
+        return true;
+    }
+    const auto file = SymbolFile::ofType(item.type());
+    const PlacedBox box(item);
+    if (!file || box.isEmpty() || file->size().isEmpty()) {
+        return false;
+    }
+    SymbolPainter(canvas, item, box, *file).draw();
+    return true;
+}
+
+} // namespace
+
+SvgDrawing symbolDrawing(const QString &type)
+{
+    return SymbolFile::ofType(type) ? &drawSymbol : nullptr;
+}
+
+} // namespace lessonhost

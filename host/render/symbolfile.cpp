@@ -1,0 +1,140 @@
+#include "render/symbolfile.h"
+
+#include "files/xmlloader.h"
+#include "svg/svgvalues.h"
+
+#include <QDir>
+#include <QFile>
+
+// Outside of all namespaces, as the macro wants it.
+static void makeSymbolsKnown()
+{
+    Q_INIT_RESOURCE(symbols);
+}
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String folder(":/symbols/");
+const QLatin1String suffix(".svg");
+
+/*!
+ * Which keys the colours of a family's symbols come from: words of a role, a colon and keys with commas between. A file
+ * may have others of its own.
+ */
+struct FamilyColors
+{
+    const char *prefix; //!< of the names of its types
+    const char *colors;
+};
+
+constexpr FamilyColors families[] = {
+    {"ZQPhysics", "edge:ArtObj_Color0 fill:ArtObj_Color1"},
+    {"ZQChemistry", "liquid:ArtObj_LiquidColor"},
+};
+
+void addColors(QHash<QString, QStringList> &keys, const QString &text)
+{
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        keys.insert(word.section(QLatin1Char(':'), 0, 0),
+                    word.section(QLatin1Char(':'), 1).split(QLatin1Char(','), Qt::SkipEmptyParts));
+    }
+}
+
+QByteArray contentOf(const QString &type)
+{
+    QFile file(folder + type + suffix);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+SymbolFile::SymbolFile(const QDomDocument &document, const QString &type)
+    : m_document(document)
+    , m_root(document.documentElement())
+{
+    const QVector<double> box = svgNumbers(m_root.attribute(QStringLiteral("viewBox")));
+    m_size = QSizeF(box.value(2), box.value(3));
+    // Without a word about it, all of a side stretches.
+    const auto stretching = [this](const QString &name, double side) {
+        return m_root.hasAttribute(name) ? svgNumbers(m_root.attribute(name)) : QVector<double>{0, side};
+    };
+    m_across = stretching(QStringLiteral("data-stretch-x"), m_size.width());
+    m_down = stretching(QStringLiteral("data-stretch-y"), m_size.height());
+    m_keys.insert(QStringLiteral("edge"), {});
+    for (const FamilyColors &family : families) {
+        if (type.startsWith(QLatin1String(family.prefix))) {
+            addColors(m_keys, QLatin1String(family.colors));
+        }
+    }
+    addColors(m_keys, m_root.attribute(QStringLiteral("data-colors")));
+    // What is filled or written with the colour of lines.
+    for (const QString &role : {QStringLiteral("ink"), QStringLiteral("text")}) {
+        if (!m_keys.contains(role)) {
+            m_keys.insert(role, m_keys.value(QStringLiteral("edge")));
+        }
+    }
+}
+
+std::shared_ptr<const SymbolFile> SymbolFile::ofType(const QString &type)
+{
+    makeSymbolsKnown();
+    static QHash<QString, std::shared_ptr<const SymbolFile>> known;
+    const auto found = known.constFind(type);
+    if (found != known.constEnd()) {
+        return *found;
+    }
+    // A name of a lesson is none of a file before it is known.
+    const QByteArray text = types().contains(type) ? contentOf(type) : QByteArray();
+    if (text.isEmpty()) {
+        return nullptr;
+    }
+    const std::shared_ptr<const SymbolFile> file(new SymbolFile(loadXml(text, type + suffix, XmlBlanks::Kept), type));
+    known.insert(type, file);
+    return file;
+}
+
+QStringList SymbolFile::types()
+{
+    makeSymbolsKnown();
+    static const QStringList types = [] {
+        QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
+        for (QString &name : names) {
+            name.chop(suffix.size());
+        }
+        return names;
+    }();
+    return types;
+}
+
+std::optional<QColor> SymbolFile::color(const QString &role, const ItemView &item) const
+{
+    // Only a fill can be taken away by itself.
+    if (role == QLatin1String("fill") && !item.isFilled()) {
+        return QColor(Qt::transparent);
+    }
+    const QStringList keys = m_keys.value(role);
+    for (const QString &key : keys) {
+        if (const auto color = itemColor(item.json().value(key))) {
+            return color;
+        }
+    }
+    return std::nullopt;
+}
+
+bool SymbolFile::isShown(const QDomElement &part, const ItemView &item)
+{
+    const QString unless = part.attribute(QStringLiteral("data-unless"));
+    const QString condition = unless.isEmpty() ? part.attribute(QStringLiteral("data-if")) : unless;
+    const QString key = condition.section(QLatin1Char('='), 0, 0);
+    const QJsonValue value = item.json().value(key);
+    if (key.isEmpty() || isEmptyValue(value)) {
+        return part.attribute(QStringLiteral("display")) != QLatin1String("none");
+    }
+    const bool holds = key == condition ? itemFlag(value) : valueText(value) == condition.section(QLatin1Char('='), 1);
+    return holds == unless.isEmpty();
+}
+
+} // namespace lessonhost

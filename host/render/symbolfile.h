@@ -1,0 +1,58 @@
+#ifndef SYMBOLFILE_H
+#define SYMBOLFILE_H
+
+#include "lesson/itemview.h"
+
+#include <QDomElement>
+#include <QHash>
+#include <QSizeF>
+#include <QStringList>
+#include <QVector>
+
+#include <memory>
+
+namespace lessonhost {
+
+/*!
+ * The drawing of a type that stands in a file of its own; symbols/README.md tells its form.
+ */
+class SymbolFile
+{
+public:
+    //! Null for a type that has no symbol. Read once.
+    static std::shared_ptr<const SymbolFile> ofType(const QString &type);
+
+    //! The types that have a symbol.
+    static QStringList types();
+
+    const QDomElement &root() const { return m_root; }
+    QSizeF size() const { return m_size; }
+    //! From and to of the parts that stretch, in turn.
+    const QVector<double> &stretchingAcross() const { return m_across; }
+    const QVector<double> &stretchingDown() const { return m_down; }
+
+    //! Whether it lies down in a box that is wider than high, or stands up, if it is drawn the other way.
+    bool turns() const { return m_root.attribute(QStringLiteral("data-turn")) == QLatin1String("auto"); }
+
+    //! The names of colours that parts of the file may have.
+    QStringList roles() const { return m_keys.keys(); }
+    //! What an item says of a colour; nothing for an item that doesn't.
+    std::optional<QColor> color(const QString &role, const ItemView &item) const;
+
+    //! Whether a part is shown: as its condition says where the item has the key, else as in the file.
+    static bool isShown(const QDomElement &part, const ItemView &item);
+
+private:
+    SymbolFile(const QDomDocument &document, const QString &type);
+
+    QDomDocument m_document;
+    QDomElement m_root;
+    QSizeF m_size;
+    QVector<double> m_across;
+    QVector<double> m_down;
+    QHash<QString, QStringList> m_keys; //!< of the item, by role; the first one that it has counts
+};
+
+} // namespace lessonhost
+
+#endif // SYMBOLFILE_H
