@@ -43,10 +43,10 @@ private:
     static QByteArray drawn(QJsonObject item, const QString &type, const QSizeF &page)
     {
         item.insert("Type", type);
-        const IwbMedia media;
+        IwbMedia media;
         PlainSvg svg(page, media);
         IwbPageWriter pages({});
-        Canvas canvas(svg, pages, {});
+        Canvas canvas(svg, pages, media);
         return symbolDrawing(type)(canvas, ItemView(item)) ? svg.text() : QByteArray();
     }
 
