@@ -43,8 +43,12 @@ install(DIRECTORY docs DESTINATION ${DOC_FOLDER} FILES_MATCHING PATTERN "*.md" P
 if(BUILD_HOST)
     gzip_file(docs/lessonconv.1 lessonconv.1.gz)
     install(FILES ${CMAKE_BINARY_DIR}/lessonconv.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-    install(FILES packaging/lessonconv.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
-        RENAME lessonconv)
+    install(FILES ${CMAKE_BINARY_DIR}/completions/lessonconv.bash RENAME lessonconv
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    install(FILES ${CMAKE_BINARY_DIR}/completions/lessonconv.zsh RENAME _lessonconv
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+    install(FILES ${CMAKE_BINARY_DIR}/completions/lessonconv.fish
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 
     # What file managers know of lessons: their types, icons, thumbnails, how they are shown and converted.
     set(desktop packaging/desktop)

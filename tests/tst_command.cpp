@@ -1,4 +1,5 @@
 #include "command/command.h"
+#include "command/completion.h"
 #include "pluginfixture.h"
 #include "testtable.h"
 
@@ -8,7 +9,6 @@
 namespace {
 
 const QString man = EXAMPLES_DIR "/../docs/lessonconv.1"_s;
-const QString completion = EXAMPLES_DIR "/../packaging/lessonconv.bash"_s;
 
 QStringList sorted(QStringList list)
 {
@@ -56,9 +56,9 @@ QStringList found(const char *pattern, const QString &text)
 QStringList offered(const QString &word, const QString &begun)
 {
     QStringList arguments{"-c",
-                          "source \"$0\"; COMP_WORDS=(lessonconv \"$@\"); COMP_CWORD=$#; _lessonconv; "
+                          "eval \"$0\"; COMP_WORDS=(lessonconv \"$@\"); COMP_CWORD=$#; _lessonconv; "
                           "printf '%s\\n' \"${COMPREPLY[@]}\"",
-                          completion};
+                          lessonhost::completionScript("bash")};
     if (!word.isEmpty()) {
         arguments.append(word);
     }
@@ -97,6 +97,37 @@ private slots:
         QCOMPARE(offered({}, {}), sorted(wordsOfTable() + QStringList{"--help", "--version"}));
         for (const QString &word : wordsOfTable()) {
             QCOMPARE(offered(word, "--"), optionsOfTable(word));
+        }
+    }
+
+    void completionIsReadByTheShells_data()
+    {
+        const Table<QString, QString> row("shell", "option");
+        row("bash", "bash", "-n");
+        row("zsh", "zsh", "-n");
+        row("fish", "fish", "--no-execute");
+    }
+
+    void completionIsReadByTheShells()
+    {
+        QFETCH(QString, shell);
+        QFETCH(QString, option);
+        if (QStandardPaths::findExecutable(shell).isEmpty()) {
+            QSKIP("The shell isn't installed");
+        }
+        const QString script = lessonhost::completionScript(shell);
+        QFile file(QDir::temp().filePath("lessonconv-completion." + shell));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(script.toUtf8());
+        file.close();
+        QCOMPARE(QProcess::execute(shell, {option, file.fileName()}), 0);
+        file.remove();
+        for (const QString &word : wordsOfTable()) {
+            QVERIFY(script.contains(word));
+        }
+        const QStringList options = optionsOfTable();
+        for (const QString &name : options) {
+            QVERIFY2(script.contains(shell == "fish" ? "-l " + name.mid(2) : name), qPrintable(name));
         }
     }
 };

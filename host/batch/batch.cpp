@@ -120,7 +120,7 @@ private:
     void giveNext(Worker &worker)
     {
         worker.lesson = -1;
-        while (m_next < m_plan.lessons.size() && (isImpossible(m_next) || isDoneBefore(m_next))) {
+        while (m_next < m_plan.lessons.size() && (isImpossible(m_next) || isDoneBefore(m_next) || isKept(m_next))) {
             ++m_next;
         }
         if (m_next < m_plan.lessons.size()) {
@@ -156,6 +156,20 @@ private:
         m_result.lessons[index].losses = losses;
         ++m_done;
         return true;
+    }
+
+    // What stands in the place of the result.
+    bool isKept(int index)
+    {
+        const QFileInfo output(outputOf(index));
+        const bool isThere = m_settings.keepsOutputs && (output.exists() || output.isSymLink());
+        if (isThere) {
+            fail(index,
+                 LessonError(QStringLiteral("%1 is there already, and is kept").arg(output.filePath()))
+                     .in(m_plan.lessons.at(index).input)
+                     .message());
+        }
+        return isThere;
     }
 
     QString outputOf(int index) const

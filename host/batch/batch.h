@@ -16,6 +16,7 @@ struct BatchSettings
     QByteArray fingerprint; //!< whatever makes the same lesson give another result
     int jobs = 1; //!< worker processes
     int lessonSeconds = 0; //!< a lesson that takes longer fails; 0: each may take as long as it does
+    bool keepsOutputs = false; //!< what stands in the place of a result stays, and the lesson fails
     bool resume = false; //!< leave out what is done and unchanged
 };
 

@@ -15,6 +15,9 @@ namespace lessonhost {
 
 namespace {
 
+// Of archives that don't say what is in them.
+const QLatin1String archiveEnding("zip");
+
 const LessonFormat *formatOf(const QFileInfo &entry)
 {
     for (const LessonFormat &format : lessonFormats()) {
@@ -23,12 +26,26 @@ const LessonFormat *formatOf(const QFileInfo &entry)
         }
     }
     const QString extension = entry.suffix().toLower();
+    if (extension == archiveEnding && entry.isFile()) {
+        return lessonFormatByContent(entry.filePath());
+    }
     for (const LessonFormat &format : lessonFormats()) {
         if (entry.isFile() && format.extensions.contains(extension)) {
             return &format;
         }
     }
     return nullptr;
+}
+
+// What can't be read isn't: the conversion says why.
+bool isSomethingElse(const QString &file)
+{
+    try {
+        bool isKnown = false;
+        return !lessonFormatByContent(file, &isKnown) && isKnown;
+    } catch (const LessonError &) {
+        return false;
+    }
 }
 
 // The name without its ending, if that is the one of a format: "Lesson 1.2" keeps its number.
@@ -39,7 +56,7 @@ QString stemOf(const QString &path)
     const bool isKnown = std::any_of(formats.cbegin(), formats.cend(), [&extension](const LessonFormat &format) {
         return format.extensions.contains(extension.toLower());
     });
-    return isKnown ? path.chopped(extension.size() + 1) : path;
+    return isKnown || extension.toLower() == archiveEnding ? path.chopped(extension.size() + 1) : path;
 }
 
 class Planner
@@ -154,7 +171,7 @@ private:
         if (!format || (m_from && format != m_from) || (entry.isDir() && entry.isSymLink())) {
             return false;
         }
-        if (entry.isFile() && format->mayBe && !format->mayBe(entry.filePath())) {
+        if (entry.isFile() && format->isCommonEnding && isSomethingElse(entry.filePath())) {
             m_plan.passedOver.append(entry.filePath());
         } else {
             addLesson(entry.filePath(), place, format);

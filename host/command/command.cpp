@@ -2,9 +2,12 @@
 
 #include "batch/batch.h"
 #include "batch/batchjournal.h"
+#include "command/browser.h"
+#include "command/completion.h"
 #include "command/lessoninfo.h"
 #include "command/pluginhost.h"
 #include "command/progressbar.h"
+#include "command/standardstreams.h"
 #include "command/terminal.h"
 #include "files/inputfile.h"
 #include "files/inputguard.h"
@@ -140,9 +143,12 @@ const std::vector<Command::Word> &Command::words()
          &Command::render},
         {"render", "diff", "--diff A B OUTPUT.html", "two lessons side by side, and what B lacks", 3, 3,
          &Command::always, &Command::renderDifference},
+        {"show", nullptr, "INPUT", "opens a lesson in the browser", 1, 1, &Command::always, &Command::show},
         {"info", nullptr, "INPUT", "page size, slides, items, missing files", 1, 1, &Command::infoMeasuresText,
          &Command::info},
         {"formats", nullptr, "", "the formats and their file names", 0, 0, &Command::never, &Command::formats},
+        // For those who install the command.
+        {"completion", nullptr, "SHELL", nullptr, 1, 1, &Command::never, &Command::completion},
         // What a worker process of convertMany() does.
         {"serve", nullptr, "", nullptr, 0, 0, &Command::serveMeasuresText, &Command::serve},
     };
@@ -151,8 +157,11 @@ const std::vector<Command::Word> &Command::words()
 
 Command::Command(const QStringList &arguments)
     : m_line(arguments, usage(), wordList())
+    , m_streams(std::make_unique<StandardStreams>())
 {
 }
+
+Command::~Command() = default;
 
 // The row for the line, or null. The rows of a word for options come behind the one without.
 const Command::Word *Command::word() const
@@ -201,6 +210,8 @@ int Command::run()
     }
     if (m_line.isSet("version")) {
         print(QLatin1String("lessonconv ") + QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+        const PluginHost host(value("plugin"));
+        print(QStringLiteral("plug-in %1, %2\n").arg(host.version(), host.fileName()));
         return Done;
     }
     if (m_line.isSet("verbose")) {
@@ -212,26 +223,121 @@ int Command::run()
         print(m_line.help());
         return given.isEmpty() && !m_line.isSet("help") ? NotDone : Done;
     }
-    if (const Word *found = word()) {
-        return (this->*found->run)(given.mid(1));
+    const Word *found = word();
+    if (!found) {
+        tellWhatIsMissing();
     }
-    throw LessonError(
-        QStringLiteral("The command \"%1\" isn't complete or isn't known").arg(given.join(QLatin1Char(' '))),
-        QStringLiteral("See lessonconv --help"));
+    checkOptions(*found);
+    try {
+        const int code = (this->*found->run)(given.mid(1));
+        m_streams->send();
+        return code;
+    } catch (const LessonError &error) {
+        throw m_streams->named(error);
+    }
+}
+
+// Why no row fits the line.
+void Command::tellWhatIsMissing() const
+{
+    const QString given = m_line.words().value(0);
+    const int files = m_line.words().size() - 1;
+    const Word *fitting = nullptr;
+    for (const Word &word : words()) {
+        if (word.purpose && given == QLatin1String(word.word) && (!word.option || m_line.isSet(word.option))) {
+            fitting = &word;
+        }
+    }
+    if (!fitting) {
+        throw LessonError(QStringLiteral("There is no command \"%1\"").arg(given),
+                          QStringLiteral("Say %1; lessonconv --help tells more").arg(wordList()));
+    }
+    const QString call = QStringLiteral("lessonconv %1 %2").arg(given, QLatin1String(fitting->arguments)).trimmed();
+    const QString problem = files > fitting->mostFiles ? QStringLiteral("%1 takes no more files than %2")
+        : files == 0                                   ? QStringLiteral("%1 needs a lesson")
+                                                       : QStringLiteral("%1 needs a name for the result as well");
+    throw LessonError(files > fitting->mostFiles ? problem.arg(given).arg(fitting->mostFiles) : problem.arg(given),
+                      QStringLiteral("The call is: %1").arg(call));
+}
+
+// Who gives an option expects something of it.
+void Command::checkOptions(const Word &word) const
+{
+    for (const CommandOption &option : commandOptions()) {
+        const QStringList takers = QString::fromLatin1(option.words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (m_line.isSet(option.name) && word.purpose && !takers.isEmpty()
+            && !takers.contains(QLatin1String(word.word))) {
+            throw LessonError(
+                QStringLiteral("%1 makes no use of --%2").arg(QLatin1String(word.word), QLatin1String(option.name)),
+                QStringLiteral("Leave it out; it is for %1").arg(takers.join(QStringLiteral(" and "))));
+        }
+    }
+}
+
+QString Command::inputFile(const QString &input) const
+{
+    return m_streams->input(input);
 }
 
 const LessonFormat &Command::inputFormat(const QString &input) const
 {
-    return isSet("from") ? lessonFormatByName(value("from")) : lessonFormatOfInput(input);
+    return isSet("from") ? lessonFormatByName(value("from")) : lessonFormatOfInput(inputFile(input));
 }
 
 const LessonFormat &Command::outputFormat(const QString &output) const
 {
-    return isSet("to") ? lessonFormatByName(value("to")) : lessonFormatOfOutput(output);
+    if (isSet("to")) {
+        return lessonFormatByName(value("to"));
+    }
+    if (StandardStreams::isStandardOutput(output)) {
+        throw LessonError(QStringLiteral("It isn't said what is to come out"),
+                          QStringLiteral("Say the format, such as --to json"));
+    }
+    if (isPictureName(output)) {
+        throw LessonError(QStringLiteral("This is the name of a picture or a page, which convert doesn't make"),
+                          QStringLiteral("Say lessonconv render instead of lessonconv convert"))
+            .in(output);
+    }
+    return lessonFormatOfOutput(output);
+}
+
+// What stands there already is replaced otherwise.
+void Command::checkOutput(const QString &output) const
+{
+    if (StandardStreams::isStandardOutput(output)) {
+        if (isSet("json")) {
+            throw LessonError(QStringLiteral("Standard output can't take the result and what --json tells of it"),
+                              QStringLiteral("Leave out --json, or give the result a name"));
+        }
+    } else if (isSet("no-clobber") && (QFileInfo(output).isSymLink() || QFileInfo::exists(output))) {
+        throw LessonError(QStringLiteral("There is a file or folder of this name already"),
+                          QStringLiteral("Give another name, or leave out --no-clobber"))
+            .in(output);
+    }
+}
+
+void Command::tellName(const QString &input, const LessonFormat &format) const
+{
+    const QString remark = isSet("quiet") || isSet("from") ? QString() : remarkOnName(input, format);
+    if (!remark.isEmpty()) {
+        complain(remark);
+    }
 }
 
 int Command::formats(const QStringList &) const
 {
+    if (isSet("json")) {
+        QJsonArray list;
+        for (const LessonFormat &format : lessonFormats()) {
+            list.append(QJsonObject{{QStringLiteral("name"), format.name},
+                                    {QStringLiteral("extensions"), QJsonArray::fromStringList(format.extensions)},
+                                    {QStringLiteral("read"), format.canRead()},
+                                    {QStringLiteral("written"), format.canWrite()},
+                                    {QStringLiteral("description"), format.description}});
+        }
+        printJson({{QStringLiteral("formats"), list}});
+        return Done;
+    }
     for (const LessonFormat &format : lessonFormats()) {
         const QString use = format.canRead() && format.canWrite() ? QStringLiteral("read, written")
             : format.canRead()                                    ? QStringLiteral("read")
@@ -245,13 +351,20 @@ int Command::formats(const QStringList &) const
     return Done;
 }
 
+int Command::completion(const QStringList &shells) const
+{
+    print(completionScript(shells.first()));
+    return Done;
+}
+
 int Command::info(const QStringList &files) const
 {
     const QString &input = files.first();
     const LessonFormat &format = inputFormat(input);
+    tellName(input, format);
     const PluginHost host(value("plugin"));
     ProgressBar bar(!isSet("quiet"));
-    const auto reader = format.open(input, readingContext(host));
+    const auto reader = format.open(inputFile(input), readingContext(host));
     const LessonInfo info = lessonInfo(*reader, [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     if (isSet("json")) {
@@ -291,6 +404,8 @@ int Command::convertOne(const QStringList &files) const
     const QString &output = files.last();
     const LessonFormat &from = inputFormat(input);
     const LessonFormat &to = outputFormat(output);
+    tellName(input, from);
+    checkOutput(output);
     InputGuard inputs;
     inputs.addLesson(input, from.folderBeside);
     inputs.check(output);
@@ -301,8 +416,8 @@ int Command::convertOne(const QStringList &files) const
     const PluginHost host(value("plugin"));
     LossReport losses;
     ProgressBar bar(!isSet("quiet"));
-    convertLesson(from, input, to, output, conversionContext(host, &losses),
-                  [&bar](int done, int total) { bar.show(done, total); });
+    convertLesson(from, inputFile(input), to, m_streams->output(output, to.extensions.first()),
+                  conversionContext(host, &losses), [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     report.write(losses.toJson());
     if (isSet("json")) {
@@ -325,6 +440,7 @@ BatchSettings Command::batchSettings(const PluginHost &host) const
     settings.jobs = m_line.jobs();
     settings.lessonSeconds = m_line.lessonSeconds();
     settings.resume = isSet("resume");
+    settings.keepsOutputs = isSet("no-clobber");
     const QStringList arguments = m_line.resultArguments();
     settings.workerArguments =
         QStringList{QStringLiteral("serve"), QStringLiteral("--plugin"), host.fileName()} + arguments;
@@ -398,7 +514,10 @@ int Command::render(const QStringList &files) const
     const PluginHost host(value("plugin"));
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
-    const auto reader = inputFormat(files.first()).open(files.first(), context);
+    const LessonFormat &format = inputFormat(files.first());
+    tellName(files.first(), format);
+    checkOutput(files.last());
+    const auto reader = format.open(inputFile(files.first()), context);
     const QJsonObject result =
         renderLesson(*reader, context, files.last(), settings, [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
@@ -412,13 +531,37 @@ int Command::renderDifference(const QStringList &files) const
     const PluginHost host(value("plugin"));
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
-    const auto first = inputFormat(files.first()).open(files.first(), context);
+    checkOutput(files.last());
+    const auto first = inputFormat(files.first()).open(inputFile(files.first()), context);
     const auto second = lessonFormatOfInput(files.at(1)).open(files.at(1), context);
     const QJsonObject result =
         lessonhost::renderDifference(*first, files.first(), *second, files.at(1), context, files.last(), settings,
                                      [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     tellRendered(result);
+    return Done;
+}
+
+int Command::show(const QStringList &files) const
+{
+    const QByteArray path = QFileInfo(files.first()).absoluteFilePath().toUtf8();
+    const QByteArray name = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
+    const QString page = pageFolder() + QStringLiteral("/%1.html").arg(QLatin1String(name));
+    try {
+        const LessonFormat &format = inputFormat(files.first());
+        const PluginHost host(value("plugin"));
+        const LessonContext context = readingContext(host);
+        ProgressBar bar(!isSet("quiet"));
+        const auto reader = format.open(inputFile(files.first()), context);
+        renderLesson(*reader, context, page, renderSettings(files),
+                     [&bar](int done, int total) { bar.show(done, total); });
+        bar.clear();
+    } catch (const LessonError &error) {
+        writeFailurePage(page, m_streams->named(error).message());
+        openInBrowser(page);
+        throw;
+    }
+    openInBrowser(page);
     return Done;
 }
 

@@ -3,6 +3,8 @@
 
 #include "command/commandline.h"
 
+#include <memory>
+
 namespace lessonhost {
 
 struct BatchSettings;
@@ -11,6 +13,7 @@ struct LessonFormat;
 struct RenderSettings;
 class LossReport;
 class PluginHost;
+class StandardStreams;
 
 /*!
  * The command: what each of its words does.
@@ -40,6 +43,7 @@ public:
 
     //! The program's name and what follows it. Needs no application yet.
     explicit Command(const QStringList &arguments);
+    ~Command();
 
     //! Whether it needs a QGuiApplication. False as well for what can't be done at all.
     bool measuresText() const;
@@ -51,6 +55,8 @@ private:
     bool isSet(const char *name) const { return m_line.isSet(name); }
     QString value(const char *name) const { return m_line.value(name); }
     const Word *word() const;
+    [[noreturn]] void tellWhatIsMissing() const;
+    void checkOptions(const Word &word) const;
 
     int formats(const QStringList &files) const;
     int info(const QStringList &files) const;
@@ -59,6 +65,8 @@ private:
     int serve(const QStringList &files) const;
     int render(const QStringList &files) const;
     int renderDifference(const QStringList &files) const;
+    int show(const QStringList &files) const;
+    int completion(const QStringList &shells) const;
 
     bool never(const QStringList &) const { return false; }
     bool always(const QStringList &) const { return true; }
@@ -66,6 +74,10 @@ private:
     bool convertMeasuresText(const QStringList &files) const;
     bool serveMeasuresText(const QStringList &files) const;
 
+    //! The file to read for an input. Throws LessonError.
+    QString inputFile(const QString &input) const;
+    void checkOutput(const QString &output) const;
+    void tellName(const QString &input, const LessonFormat &format) const;
     const LessonFormat &inputFormat(const QString &input) const;
     const LessonFormat &outputFormat(const QString &output) const;
     LessonContext readingContext(const PluginHost &host) const;
@@ -75,6 +87,7 @@ private:
     void tellRendered(const QJsonObject &result) const;
 
     CommandLine m_line;
+    std::unique_ptr<StandardStreams> m_streams;
 };
 
 } // namespace lessonhost

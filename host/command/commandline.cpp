@@ -29,8 +29,10 @@ const std::vector<CommandOption> &commandOptions()
         {"strict", nullptr, Option::OnTheRun, "convert", "Treat losses as a failure: exit code 1."},
         {"no-check", nullptr, Option::OnResults, "convert",
          "Don't read back what was written. Faster, but losses stay unnoticed."},
+        {"no-clobber", nullptr, Option::OnTheRun, "convert render",
+         "Replace nothing: what is there already makes the run fail, or is left out of many."},
         {"ink", "choice", Option::OnAFormat, "convert",
-         "What becomes of handwriting in IWB: polyline (the default) or drop.", "polyline"},
+         "What becomes of handwriting in IWB: polyline (the default) or drop.", "polyline", "polyline drop"},
         {"size", "widthxheight", Option::OnTheRun, "render", "With render: the size of a picture or page in pixels."},
         {"slides", "slides", Option::OnTheRun, "render", "With render: only these slides, such as 2-5 or 1,4."},
         {"diff", nullptr, Option::OnTheRun, "render",
@@ -80,18 +82,22 @@ int CommandLine::lessonSeconds() const
     return seconds;
 }
 
-void CommandLine::checkInk() const
+void CommandLine::checkChoices() const
 {
-    const QString choice = value("ink");
-    if (choice != QLatin1String("polyline") && choice != QLatin1String("drop")) {
-        throw LessonError(QStringLiteral("Ink can't be treated as \"%1\"").arg(choice),
-                          QStringLiteral("Say --ink polyline or --ink drop"));
+    for (const CommandOption &option : commandOptions()) {
+        const QStringList choices = QString::fromLatin1(option.choices).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const QString given = value(option.name);
+        if (!choices.isEmpty() && !choices.contains(given)) {
+            throw LessonError(
+                QStringLiteral("--%1 knows no \"%2\"").arg(QLatin1String(option.name), given),
+                QStringLiteral("Say --%1 %2").arg(QLatin1String(option.name), choices.join(QStringLiteral(" or "))));
+        }
     }
 }
 
 QStringList CommandLine::resultArguments() const
 {
-    checkInk();
+    checkChoices();
     QStringList arguments;
     for (const CommandOption &option : commandOptions()) {
         const QString given = value(option.name);
@@ -107,7 +113,7 @@ QStringList CommandLine::resultArguments() const
 
 QHash<QString, QString> CommandLine::formatOptions() const
 {
-    checkInk();
+    checkChoices();
     QHash<QString, QString> values;
     for (const CommandOption &option : commandOptions()) {
         if (option.effect == CommandOption::OnAFormat) {

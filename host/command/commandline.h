@@ -25,6 +25,7 @@ struct CommandOption
     const char *words; //!< the words of the command that take it; empty for all
     const char *description;
     const char *standard = ""; //!< the value where none is given
+    const char *choices = ""; //!< all values that there are, with blanks between; empty where there is no list of them
 };
 
 //! The table of options, in the order of the help.
@@ -59,7 +60,7 @@ public:
     QHash<QString, QString> formatOptions() const;
 
 private:
-    void checkInk() const;
+    void checkChoices() const;
 
     QCommandLineParser m_parser;
     bool m_isUnderstood = false;

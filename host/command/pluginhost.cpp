@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonObject>
 
 namespace lessonhost {
 
@@ -45,6 +46,11 @@ PluginHost::PluginHost(const QString &path)
                           QStringLiteral("Build the plug-in again with the same Qt as the command"))
             .in(file);
     }
+}
+
+QString PluginHost::version() const
+{
+    return m_loader.metaData().value(QLatin1String("IID")).toString().section(QLatin1Char('/'), -1);
 }
 
 QStringList PluginHost::usualPlaces()

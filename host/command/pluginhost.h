@@ -18,6 +18,8 @@ public:
     explicit PluginHost(const QString &path = {});
 
     IZQTransformation *plugin() const { return m_plugin; }
+    //! The number behind the name that the plug-in gives itself, such as "1.0".
+    QString version() const;
     QString fileName() const { return m_loader.fileName(); }
 
     //! Where the plug-in is looked for: beside the build's command, then in the folder of the

@@ -29,7 +29,11 @@ QString printable(QString text)
 
 void print(const QString &text)
 {
-    const QByteArray bytes = printable(text).toLocal8Bit();
+    printBytes(printable(text).toLocal8Bit());
+}
+
+void printBytes(const QByteArray &bytes)
+{
     for (int done = 0; done < bytes.size();) {
         const ssize_t count = ::write(STDOUT_FILENO, bytes.constData() + done, std::size_t(bytes.size() - done));
         if (count < 0 && errno != EINTR) {

@@ -12,6 +12,9 @@ namespace lessonhost {
 //! On standard output. Throws LessonError if it is full or closed.
 void print(const QString &text);
 
+//! The same for what is no text, as it is.
+void printBytes(const QByteArray &bytes);
+
 //! The same.
 void printJson(const QJsonObject &object);
 

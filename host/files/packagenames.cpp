@@ -91,4 +91,20 @@ QString problemWithPackagePath(const QString &path)
     return {};
 }
 
+QString outerFolder(const QStringList &files)
+{
+    QString outer;
+    for (const QString &file : files) {
+        if (file.startsWith(QLatin1String("__MACOSX/"))) {
+            continue;
+        }
+        const QString folder = file.left(file.indexOf(QLatin1Char('/')) + 1);
+        if (folder.isEmpty() || (!outer.isEmpty() && folder != outer)) {
+            return {};
+        }
+        outer = folder;
+    }
+    return outer;
+}
+
 } // namespace lessonhost

@@ -2,6 +2,7 @@
 #define PACKAGENAMES_H
 
 #include <QString>
+#include <QStringList>
 
 namespace lessonhost {
 
@@ -15,6 +16,10 @@ QString problemWithPackagePath(const QString &path);
 
 //! The same for a single part, such as the identifier of a slide that names a file.
 QString problemWithFileName(const QString &name);
+
+//! The one folder that everything in an archive lies in, with "/" at its end; empty where there is none. Folders that
+//! some systems add for themselves don't count.
+QString outerFolder(const QStringList &files);
 
 } // namespace lessonhost
 

@@ -70,6 +70,9 @@ PackageSource::PackageSource(const QString &path)
     m_unpacked = std::make_unique<WorkFolder>();
     m_directory = m_unpacked->path();
     unpackZip(path, m_directory);
+    m_outer = outerFolder(files());
+    m_directory += QLatin1Char('/') + m_outer;
+    m_directory.chop(1);
 }
 
 bool PackageSource::contains(const QString &relativePath) const

@@ -14,7 +14,8 @@ namespace lessonhost {
  * A package to read: a directory as it is, or an archive unpacked into a temporary directory for the object's life.
  *
  * Archives come from strangers. Entries that are absolute, lead out of the package, are links or devices, repeat a
- * name, or unpack to more than an honest lesson needs are refused, and nothing of the archive is used.
+ * name, or unpack to more than an honest lesson needs are refused, and nothing of the archive is used. Where all of it
+ * lies in one folder, that is the package.
  */
 class PackageSource
 {
@@ -39,6 +40,7 @@ public:
 private:
     QString m_path;
     QString m_directory;
+    QString m_outer; // the folder in an archive that holds everything, with a separator at its end
     std::unique_ptr<WorkFolder> m_unpacked;
 };
 

@@ -383,6 +383,19 @@ void unpackZip(const QString &archive, const QString &directory)
     }
 }
 
+QStringList namesInZip(const QString &archive)
+{
+    InputFile file(archive);
+    const CentralDirectory list(file, archive);
+    QStringList names;
+    for (const ZipEntry &entry : list.entries()) {
+        if (!entry.isDirectory) {
+            names.append(entry.name);
+        }
+    }
+    return names;
+}
+
 void packZip(const QString &directory, OutputFile &archive, const QString &shownName)
 {
     QStringList files;

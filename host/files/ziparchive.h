@@ -2,6 +2,7 @@
 #define ZIPARCHIVE_H
 
 #include <QString>
+#include <QStringList>
 
 namespace lessonhost {
 
@@ -20,6 +21,9 @@ bool isPackedTooTightly(qint64 size, qint64 packedSize);
 //! no name twice, no encryption, at most 100,000 entries, at most mostBytesInArchive, not packed too tightly. Archives
 //! with something before their beginning and those with 64-bit sizes are read as well. Throws LessonError.
 void unpackZip(const QString &archive, const QString &directory);
+
+//! The names of the files in an archive, as they stand there and unchecked. Throws LessonError.
+QStringList namesInZip(const QString &archive);
 
 //! Packs all files below a directory, in ascending order. shownName stands for the archive in messages. Throws
 //! LessonError.

@@ -6,6 +6,15 @@
 
 namespace lessonhost {
 
+namespace {
+
+bool holdsIwb(const LessonContent &content)
+{
+    return content.names.contains(QLatin1String("content.xml")) || content.rootTag == QLatin1String("iwb");
+}
+
+} // namespace
+
 LessonFormat iwbFormat()
 {
     LessonFormat format;
@@ -14,6 +23,7 @@ LessonFormat iwbFormat()
     format.description =
         QStringLiteral("interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb");
     format.recognizes = isIwbFolder;
+    format.holds = holdsIwb;
     format.measuresText = true;
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<IwbReader>(path, context);

@@ -70,20 +70,49 @@ const LessonFormat &lessonFormatOfInput(const QString &path)
     if (!QFileInfo::exists(path)) {
         throw LessonError(QStringLiteral("There is no such file or folder"), QStringLiteral("Check the path")).in(path);
     }
+    const bool isFolder = QFileInfo(path).isDir();
     for (const LessonFormat &format : lessonFormats()) {
-        if (format.recognizes && format.recognizes(path)) {
+        if (isFolder && format.recognizes && format.recognizes(path)) {
             return format;
+        }
+    }
+    if (!isFolder) {
+        if (const LessonFormat *format = lessonFormatByContent(path)) {
+            return *format;
         }
     }
     if (const LessonFormat *format = formatByExtension(path)) {
         return *format;
     }
-    if (QFileInfo(path).isDir()) {
+    if (isFolder) {
         throw LessonError(QStringLiteral("This folder is no lesson: it has neither index.xml nor content.xml"),
                           QStringLiteral("To convert all lessons in a folder, say --to FORMAT --out-dir FOLDER"))
             .in(path);
     }
     failWithoutFormat(path, QStringLiteral("--from"), namesOfFormats(&LessonFormat::canRead));
+}
+
+const LessonFormat *lessonFormatByContent(const QString &file, bool *isKnown)
+{
+    const LessonContent content = lessonContent(file);
+    for (const LessonFormat &format : lessonFormats()) {
+        if (format.holds(content)) {
+            return &format;
+        }
+    }
+    if (isKnown) {
+        *isKnown = content.isKnown();
+    }
+    return nullptr;
+}
+
+QString remarkOnName(const QString &path, const LessonFormat &format)
+{
+    const LessonFormat *named = formatByExtension(path);
+    return !named || named->name == format.name
+        ? QString()
+        : QStringLiteral("%1 is called like a lesson in the format %2 and is one in %3")
+              .arg(path, named->name, format.name);
 }
 
 const LessonFormat &lessonFormatOfOutput(const QString &path)

@@ -1,6 +1,7 @@
 #ifndef LESSONFORMATS_H
 #define LESSONFORMATS_H
 
+#include "formats/lessoncontent.h"
 #include "lesson/lesson.h"
 
 #include <QStringList>
@@ -19,11 +20,11 @@ struct LessonFormat
     QString name;
     QStringList extensions; //!< lower case, without the point
     QString description; //!< a line for "lessonconv formats"
-    //! True for a directory or file that is this format whatever its name says; may be empty. Throws LessonError for
-    //! what can't be read.
+    //! True for a folder that is a lesson in this format; may be empty. Throws LessonError for what can't be read.
     std::function<bool(const QString &path)> recognizes;
-    //! False for a file that has the extension and plainly is something else; may be empty.
-    std::function<bool(const QString &path)> mayBe;
+    //! True for what a file in this format holds.
+    std::function<bool(const LessonContent &content)> holds;
+    bool isCommonEnding = false; //!< files with such a name often are no lessons
     bool measuresText = false; //!< to read or write it takes a QGuiApplication, for its fonts
     QString folderBeside; //!< the name of a folder beside a file that belongs to it; may be empty
     std::function<std::unique_ptr<LessonReader>(const QString &path, const LessonContext &context)> open;
@@ -42,6 +43,13 @@ const LessonFormat &lessonFormatByName(const QString &name);
 
 //! The format of a lesson on disk, by what it holds or, failing that, by its extension.
 const LessonFormat &lessonFormatOfInput(const QString &path);
+
+//! The format of a file by what it holds alone; null where that says nothing, or something that no format knows.
+//! isKnown: set to true in the second case.
+const LessonFormat *lessonFormatByContent(const QString &file, bool *isKnown = nullptr);
+
+//! Where a file's name says another format than the one it is read in: a sentence for the user. Empty otherwise.
+QString remarkOnName(const QString &path, const LessonFormat &format);
 
 //! The format to write, by the extension; a path without one is a ZQTX directory.
 const LessonFormat &lessonFormatOfOutput(const QString &path);

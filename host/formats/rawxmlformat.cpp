@@ -21,7 +21,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -286,18 +285,6 @@ private:
     QJsonObject m_presentation;
 };
 
-// What can't be read so far may be a damaged lesson.
-bool mayBeLesson(const QString &path)
-{
-    try {
-        InputFile file(path);
-        QXmlStreamReader xml(&file);
-        return !xml.readNextStartElement() || xml.name() == rootTag;
-    } catch (const LessonError &) {
-        return true;
-    }
-}
-
 } // namespace
 
 LessonFormat rawXmlFormat()
@@ -306,7 +293,8 @@ LessonFormat rawXmlFormat()
     format.name = QStringLiteral("rawxml");
     format.extensions = QStringList{QStringLiteral("xml")};
     format.description = QStringLiteral("flat XML in one file, files in the folder \"resources\" beside it; only read");
-    format.mayBe = mayBeLesson;
+    format.holds = [](const LessonContent &content) { return content.rootTag == rootTag; };
+    format.isCommonEnding = true;
     format.folderBeside = resourceFolder;
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<RawXmlReader>(path, context);

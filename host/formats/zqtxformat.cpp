@@ -424,6 +424,7 @@ LessonFormat zqtxFormat()
     format.description =
         QStringLiteral("lesson package: a folder with index.xml and slides/, or the same zipped as .zqtx");
     format.recognizes = [](const QString &path) { return QFileInfo(path + QLatin1Char('/') + indexFile).isFile(); };
+    format.holds = [](const LessonContent &content) { return content.names.contains(indexFile); };
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<ZqtxReader>(path, context);
     };

@@ -65,6 +65,13 @@ QSize sizeFromText(const QString &text)
     return size;
 }
 
+bool isPictureName(const QString &path)
+{
+    static const QStringList endings{QStringLiteral("html"), QStringLiteral("pdf"), QStringLiteral("svg"),
+                                     QStringLiteral("png")};
+    return endings.contains(QFileInfo(path).suffix().toLower());
+}
+
 QVector<int> slidesFromText(const QString &text)
 {
     QVector<int> slides;

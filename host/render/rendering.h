@@ -19,6 +19,9 @@ struct RenderSettings
     InputGuard inputs; //!< what is read, which no output may touch
 };
 
+//! Whether a name is one that lessons are drawn into, by its ending.
+bool isPictureName(const QString &path);
+
 //! "1280x720" as a size; an empty text gives an empty one. Throws LessonError.
 QSize sizeFromText(const QString &text);
 
