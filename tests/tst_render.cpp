@@ -157,6 +157,23 @@ private slots:
             "'ArtObj_Point2x':9,'ArtObj_Point2y':9,'ArtObj_InterPoint0x':5,'ArtObj_InterPoint0y':0,"
             "'ArtObj_InterPoint1x':5,'ArtObj_InterPoint1y':9,'ArtObj_InterPoint2x':7,'ArtObj_InterPoint2y':7}",
             "\"M0.00 0.00L5.00 0.00L5.00 9.00L9.00 9.00\"");
+        row("line by its shortest way",
+            "{'Type':'ZQShapeLianjiexian','ArtObj_InterpointNumber':'1','ArtObj_Point1x':0,'ArtObj_Point1y':9,"
+            "'ArtObj_InterPoint0x':40,'ArtObj_InterPoint0y':9,'ArtObj_Point2x':90,'ArtObj_Point2y':80,"
+            "'ArtObj_Point3x':40,'ArtObj_Point3y':80}",
+            "\"M0.00 9.00L40.00 9.00L40.00 80.00L90.00 80.00\"");
+        row("one to many",
+            "{'Type':'ZQShapeYiduiduoshu','ArtObj_Point1x':50,'ArtObj_Point1y':0,'ArtObj_Point2x':10,"
+            "'ArtObj_Point2y':60,'ArtObj_Point3x':90,'ArtObj_Point3y':80}",
+            "\"M50.00 0.00L50.00 30.00M10.00 30.00L90.00 30.00M10.00 30.00L10.00 60.00M90.00 30.00L90.00 80.00\"");
+        row("points in one place",
+            "{'Type':'ZQShapeLianjiexian','ArtObj_Point1x':1,'ArtObj_Point1y':1,"
+            "'ArtObj_Point2x':1,'ArtObj_Point2y':1}",
+            ">Connecting line<");
+        row("corners by its name", "{'Type':'ZQBasicNormalItem4','BoundingBox':'0,0,20,40','ArtObj_Mode':'2'}",
+            "\"M10.00 0.00L20.00 20.00L10.00 40.00L0.00 20.00L10.00 0.00Z\"");
+        row("dashed edge", "{'Type':'ZQBasicEllipseItem','BoundingBox':'0,0,20,40','ArtObj_Mode':'2'}",
+            "stroke-dasharray=\"10.00,10.00\"");
         row("raw figure", "{'Type':'ZQShapeFangkuohao','ArtObj_Mw':'20','ArtObj_Mh':'40','Matrix':'1,0,0,1,50,60'}",
             "\"M60.00 40.00L40.00 40.00L40.00 80.00L60.00 80.00\"");
         row("arrow that nobody knows", "{'Type':'ZQShapeGeshijiantou','BoundingBox':'0,0,9,9','ArtObj_Type':'4'}",

@@ -10,8 +10,11 @@
 #include <QLineF>
 #include <QPainterPath>
 #include <QVector>
+#include <QtMath>
 
+#include <cmath>
 #include <optional>
+#include <utility>
 
 namespace lessonhost {
 
@@ -132,6 +135,12 @@ const Shape *shapeOf(const QString &type)
 const QLatin1String straightArrow("ZQShapeZhixianjiantou");
 const QLatin1String curvedArrow("ZQShapeQuxianjiantou");
 const QLatin1String connectingLine("ZQShapeLianjiexian");
+const QLatin1String branches("ZQShapeYiduiduoshu");
+
+bool isRegularPolygon(const QString &type)
+{
+    return type.contains(QLatin1String("ZQBasicNormalItem"));
+}
 
 bool isSegment(const QString &type)
 {
@@ -164,6 +173,14 @@ QTransform lineTransform(const ItemView &item, const std::optional<QRectF> &box)
     return flips(item, center) * placing(item, center);
 }
 
+// How many parts the dashes of a line style have.
+int dashParts(const QString &style)
+{
+    static const QHash<QString, int> parts{
+        {QStringLiteral("1"), 4}, {QStringLiteral("2"), 2}, {QStringLiteral("3"), 3}};
+    return parts.value(style);
+}
+
 SvgPaint paintOf(const ItemView &item, QLatin1String widthKey, const char *lineKey, const char *fillKey)
 {
     SvgPaint paint;
@@ -174,6 +191,7 @@ SvgPaint paintOf(const ItemView &item, QLatin1String widthKey, const char *lineK
     }
     const double width = item.number(widthKey);
     paint.lineWidth = width > 0 ? width : 2;
+    paint.dashParts = dashParts(item.text(QLatin1String("ArtObj_Mode")));
     return paint;
 }
 
@@ -210,14 +228,6 @@ std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape,
     }
     drawing.parts.append({(flipped * drawing.placed).map(path), paint});
     return drawing;
-}
-
-// How many parts the dashes of a line style have.
-int dashParts(const QString &style)
-{
-    static const QHash<QString, int> parts{
-        {QStringLiteral("1"), 4}, {QStringLiteral("2"), 2}, {QStringLiteral("3"), 3}};
-    return parts.value(style);
 }
 
 std::optional<GraphDrawing> drawnSegment(const ItemView &item)
@@ -268,21 +278,125 @@ QPolygonF namedPoints(const ItemView &item, const QByteArray &name, int first, i
     return points;
 }
 
-// From the first point through those between to the second.
+double lengthOf(const QPolygonF &points)
+{
+    double length = 0;
+    for (int i = 1; i < points.size(); ++i) {
+        length += QLineF(points.at(i - 1), points.at(i)).length();
+    }
+    return length;
+}
+
+// Of the points between there are as many as the item says, or all.
+QPolygonF pointsBetween(const ItemView &item)
+{
+    constexpr double most = 20;
+    const double told = qBound(0.0, item.number(QLatin1String("ArtObj_InterpointNumber"), most), most);
+    return namedPoints(item, "ArtObj_InterPoint", 0, int(told) - 1);
+}
+
+// The points between follow each other, but nothing says where among them a third point is, or whether the line ends
+// there. A line that connects makes no detours.
+QPolygonF wayThrough(const QPolygonF &ends, const QPolygonF &between)
+{
+    const QPolygonF first(ends.mid(0, 1));
+    if (ends.size() < 3) {
+        return first + between + ends.mid(1);
+    }
+    QPolygonF shortest;
+    for (const auto &order : {std::make_pair(1, 2), std::make_pair(2, 1)}) {
+        const QPolygonF one(ends.mid(order.first, 1));
+        const QPolygonF other(ends.mid(order.second, 1));
+        for (const auto &way : {first + between + one + other, first + one + between + other}) {
+            if (shortest.isEmpty() || lengthOf(way) < lengthOf(shortest)) {
+                shortest = way;
+            }
+        }
+    }
+    return shortest;
+}
+
 std::optional<GraphDrawing> drawnConnection(const ItemView &item)
 {
-    const QPolygonF ends = namedPoints(item, "ArtObj_Point", 1, 2);
-    if (ends.size() < 2) {
+    const QPolygonF ends = namedPoints(item, "ArtObj_Point", 1, 3);
+    const auto box = item.box();
+    const QPolygonF way = wayThrough(ends, pointsBetween(item));
+    if (ends.size() < 2 || !(lengthOf(way) > 0)) {
         return std::nullopt;
     }
-    constexpr double most = 20;
-    const int between = int(qBound(0.0, item.number(QLatin1String("ArtObj_InterpointNumber"), most), most));
-    const QPolygonF points = ends.mid(0, 1) + namedPoints(item, "ArtObj_InterPoint", 0, between - 1) + ends.mid(1);
-    const auto box = item.box();
     QPainterPath path;
-    path.addPolygon(lineTransform(item, box).map(fittedPoints(points, box)));
+    path.addPolygon(lineTransform(item, box).map(fittedPoints(way, box)));
     GraphDrawing drawing;
     drawing.parts.append({path, paintOf(item, ItemKeys::lineWidth, "ArtObj_Color", "")});
+    return drawing;
+}
+
+// One to many: from the first point a trunk, from which a branch goes to each of the others, all with right angles.
+std::optional<GraphDrawing> drawnBranches(const ItemView &item)
+{
+    const auto box = item.box();
+    const QPolygonF points = fittedPoints(namedPoints(item, "ArtObj_Point", 1, 3) + pointsBetween(item), box);
+    if (!(lengthOf(points) > 0)) {
+        return std::nullopt;
+    }
+    const QPointF root = points.first();
+    const QPolygonF tips(points.mid(1));
+    // The trunk goes along the side on which the tips lie next to each other.
+    const QRectF extent = extentOf(tips);
+    const bool isUpright = extent.height() >= extent.width();
+    const auto turned = [isUpright](const QPointF &point) { return isUpright ? point : point.transposed(); };
+    QPointF nearest = tips.first();
+    double from = turned(root).y();
+    double to = from;
+    for (const QPointF &tip : tips) {
+        if (qAbs(turned(tip - root).x()) < qAbs(turned(nearest - root).x())) {
+            nearest = tip;
+        }
+        from = qMin(from, turned(tip).y());
+        to = qMax(to, turned(tip).y());
+    }
+    const double trunk = turned((root + nearest) / 2).x();
+    QPainterPath path;
+    const auto addLine = [&](const QPointF &start, const QPointF &end) {
+        path.moveTo(turned(start));
+        path.lineTo(turned(end));
+    };
+    addLine(turned(root), {trunk, turned(root).y()});
+    addLine({trunk, from}, {trunk, to});
+    for (const QPointF &tip : tips) {
+        addLine({trunk, turned(tip).y()}, turned(tip));
+    }
+    GraphDrawing drawing;
+    drawing.parts.append({lineTransform(item, box).map(path), paintOf(item, ItemKeys::lineWidth, "ArtObj_Color", "")});
+    return drawing;
+}
+
+// The corners of the item, or as many as the number at the end of its type's name says.
+std::optional<GraphDrawing> drawnRegularPolygon(const ItemView &item)
+{
+    constexpr int mostCorners = 100;
+    const auto box = item.box();
+    QPolygonF corners = withoutRepeatedEnd(item.points(ItemKeys::control));
+    const int told = item.type().section(QLatin1String("ZQBasicNormalItem"), -1).toInt();
+    if (corners.size() >= 3) {
+        corners = fittedPoints(corners, box);
+    } else if (box && told >= 3 && told <= mostCorners) {
+        corners.clear();
+        for (int i = 0; i < told; ++i) {
+            const double angle = 2 * M_PI * i / told - M_PI_2;
+            corners.append(QPointF(std::cos(angle), std::sin(angle)));
+        }
+        corners = fitInto(extentOf(corners), *box).map(corners);
+    } else {
+        return std::nullopt;
+    }
+    GraphDrawing drawing;
+    QPainterPath path;
+    path.addPolygon(corners);
+    path.closeSubpath();
+    drawing.placed = lineTransform(item, box);
+    drawing.textArea = extentOf(corners);
+    drawing.parts.append({drawing.placed.map(path), paintOf(item, ItemKeys::lineWidth, "LineColor", "ArtObj_Color")});
     return drawing;
 }
 
@@ -290,7 +404,7 @@ std::optional<GraphDrawing> drawnConnection(const ItemView &item)
 std::optional<GraphDrawing> drawnArrow(const ItemView &item, int firstPoint, int lastPoint)
 {
     QPolygonF points = namedPoints(item, "ArtObj_Point", firstPoint, lastPoint);
-    if (points.size() <= lastPoint - firstPoint) {
+    if (points.size() <= lastPoint - firstPoint || !(lengthOf(points) > 0)) {
         return std::nullopt;
     }
     const auto box = item.box();
@@ -396,6 +510,14 @@ std::optional<GraphDrawing> drawingOf(const ItemView &item)
     if (type == connectingLine) {
         return drawnConnection(item);
     }
+    if (isRegularPolygon(type)) {
+        return drawnRegularPolygon(item);
+    }
+    if (type == branches) {
+        if (auto drawing = drawnBranches(item)) {
+            return drawing;
+        }
+    }
     const Shape *shape = shapeOf(type);
     const auto box = boxOf(item);
     if (!shape || !box || !(box->width() > 0 || box->height() > 0)) {
@@ -424,7 +546,7 @@ bool drawGraph(Canvas &canvas, const ItemView &item)
 SvgDrawing graphDrawing(const QString &type)
 {
     const bool isGraph = shapeOf(type) || isSegment(type) || isFreeDrawing(type) || type == straightArrow
-        || type == curvedArrow || type == connectingLine;
+        || type == curvedArrow || type == connectingLine || isRegularPolygon(type);
     return isGraph ? &drawGraph : nullptr;
 }
 

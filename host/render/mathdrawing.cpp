@@ -215,6 +215,21 @@ bool drawArc(Canvas &canvas, const ItemView &item)
     return true;
 }
 
+// From one control point to the other.
+bool drawSegment(Canvas &canvas, const ItemView &item)
+{
+    const QPolygonF points = item.points(ItemKeys::control).mid(0, 2);
+    if (points.size() != 2) {
+        return false;
+    }
+    QPainterPath path;
+    path.addPolygon(points);
+    SvgPaint paint = paintOf(item);
+    paint.fill = Qt::transparent;
+    canvas.svg().addPath(onPage(path, points.boundingRect(), item), paint);
+    return true;
+}
+
 // A point, as large as the item's line is wide.
 bool drawDot(Canvas &canvas, const ItemView &item)
 {
@@ -289,6 +304,7 @@ SvgDrawing mathDrawing(const QString &type)
     static const QHash<QString, SvgDrawing> drawings{
         {QStringLiteral("ZQMath2DNewArc"), &drawArc},
         {QStringLiteral("ZQMath2DDot"), &drawDot},
+        {QStringLiteral("ZQSegment"), &drawSegment},
         {QStringLiteral("ZQMathToolCoordinateItem"), &drawAxes},
         {QStringLiteral("ZQMathToolCoordinateFunct"), &drawAxes},
         {QStringLiteral("ZQMathToolCoordinateParam"), &drawAxes},
