@@ -1,5 +1,6 @@
 #include "hostfixture.h"
 #include "iwb/iwbmedia.h"
+#include "render/coverdrawing.h"
 #include "render/instrumentdrawing.h"
 
 #include <QDomDocument>
@@ -15,11 +16,12 @@ class TestToolDrawings : public QObject
 private:
     static QDomElement drawn(const QJsonObject &item)
     {
-        const IwbMedia media;
+        IwbMedia media;
         PlainSvg svg(QSizeF(1000, 1000), media);
         IwbPageWriter pages({});
-        Canvas canvas(svg, pages, {});
-        const SvgDrawing drawing = instrumentDrawing(item.value("Type").toString());
+        Canvas canvas(svg, pages, media);
+        const QString type = item.value("Type").toString();
+        const SvgDrawing drawing = instrumentDrawing(type) ? instrumentDrawing(type) : coverDrawing(type);
         QDomDocument document;
         if (drawing && drawing(canvas, ItemView(item))) {
             document.setContent(svg.text());
@@ -111,12 +113,47 @@ private slots:
         QCOMPARE(firstTurn.section(' ', 0, 0).mid(7), turn);
     }
 
+    void drawsCovers_data()
+    {
+        const Table<QJsonObject, QRect, QString> row("item", "covered", "darkness");
+        const auto curtain = [](const char *keys) { return json("{'Type':'General:curtain'"_s + keys + '}'); };
+        row("curtain", curtain(",'BoundingBox':'100,100,300,160','rect':'9,9,20,20'"), {100, 100, 200, 60}, "1");
+        row("drawn a part", curtain(",'BoundingBox':'100,100,300,160','rect':'0,0,200,20'"), {100, 100, 200, 20}, "1");
+        row("more than its box", curtain(",'BoundingBox':'100,100,300,160','rect':'0,0,200,90'"), {100, 100, 200, 60},
+            "1");
+        row("curtain without a box", curtain(",'rect':'0,0,200,90'"), {0, 0, 200, 90}, "1");
+        const auto spot = [](const char *keys) {
+            return json("{'Type':'General:spotlight','SpotRadius':'10','SpotCenter':'50,25'"_s + keys + '}');
+        };
+        row("spotlight", spot(",'BoundingBox':'0,0,400,300'"), {0, 0, 400, 300}, "0.75");
+        row("on its canvas", spot(",'BoundingBox':'100,0,300,100','CanvasSize':'100,50','BackgroundAlpha':'51'"),
+            {100, 0, 200, 100}, "0.20");
+        row("canvas without a box", spot(",'CanvasSize':'100,50','BackgroundAlpha':'0.4'"), {0, 0, 100, 50}, "0.40");
+        row("all light", spot(",'BoundingBox':'0,0,40,30','SpotRadius':'1e30'"), {}, "0.75");
+    }
+
+    // Where the middle of a spotlight's box would be dark, nothing is.
+    void drawsCovers()
+    {
+        QFETCH(QJsonObject, item);
+        QFETCH(QRect, covered);
+        const QDomElement svg = drawn(item);
+        QCOMPARE(extent(svg), covered);
+        const QDomElement path = svg.elementsByTagName("path").at(0).toElement();
+        QTEST(path.attribute("fill-opacity", "1"), "darkness");
+        const bool isSpotlight = item.contains("SpotRadius");
+        QCOMPARE(path.attribute("d").contains('C'), isSpotlight && !covered.isEmpty());
+        QCOMPARE(path.attribute("fill"), isSpotlight ? "#000000"_s : "#8c1c2b"_s);
+    }
+
     void drawsNothingOutOfNothing_data()
     {
         const Table<QJsonObject> row("item");
         row("nowhere", "{'Type':'Math:ruler','Length':'300'}");
         row("at half a place", "{'Type':'Math:protractor','Translate_X':'300'}");
         row("without an area", "{'Type':'Math:compasses','BoundingBox':'0,0,9,9','Matrix':'0,0,0,0,1,1'}");
+        row("no curtain", "{'Type':'General:curtain','rect':'5,5,9,9'}");
+        row("no hole", "{'Type':'General:spotlight','BoundingBox':'0,0,9,9','SpotCenter':'1,1'}");
         row("another type", "{'Type':'Math:abacus','BoundingBox':'0,0,9,9'}");
     }
 

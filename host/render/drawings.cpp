@@ -2,6 +2,7 @@
 
 #include "lesson/itemtypes.h"
 #include "lesson/planegeometry.h"
+#include "render/coverdrawing.h"
 #include "render/graphdrawing.h"
 #include "render/instrumentdrawing.h"
 #include "render/itemoutline.h"
@@ -17,9 +18,17 @@ namespace lessonhost {
 namespace {
 
 // Each family tells which of its types it has a drawing for.
+// clang-format off
 constexpr SvgDrawing (*families[])(const QString &type) = {
-    &vectorDrawing, &mathDrawing, &graphDrawing, &instrumentDrawing, &mediaDrawing, &symbolDrawing,
+    &vectorDrawing,
+    &mathDrawing,
+    &graphDrawing,
+    &instrumentDrawing,
+    &coverDrawing,
+    &mediaDrawing,
+    &symbolDrawing,
 };
+// clang-format on
 
 bool drawFromFamilies(Canvas &canvas, const ItemView &item)
 {

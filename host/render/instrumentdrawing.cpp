@@ -159,7 +159,8 @@ void drawProtractor(const Instrument &protractor)
     degrees.last = 180;
     degrees.step = 10;
     degrees.tickLength = radius * 0.08;
-    degrees.numberSize = qMin(18.0, radius * 0.065);
+    constexpr double readable = 7.5;
+    degrees.numberSize = radius > 50 ? qBound(readable, radius * 0.065, 18.0) : 0;
     degrees.turnsNumbers = true;
     degrees.color = inkOfScales;
     addScale(protractor.svg, ScaleCourse::arc(center, radius, 0, 180), degrees, protractor.place);
