@@ -141,10 +141,10 @@ private slots:
         QFETCH(QJsonObject, item);
         const QString type = item.value("Type").toString();
         const SvgDrawing drawing = type.contains("Vector"_s) ? vectorDrawing(type) : mathDrawing(type);
-        const IwbMedia media;
+        IwbMedia media;
         PlainSvg svg(QSizeF(10, 10), media);
         IwbPageWriter pages({});
-        Canvas canvas(svg, pages, {});
+        Canvas canvas(svg, pages, media);
         QTEST(drawing(canvas, ItemView(item)), "isDrawn");
         QVERIFY(!svg.text().contains("nan") && !svg.text().contains("inf"));
     }
