@@ -8,6 +8,7 @@
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
+    qSetGlobalQHashSeed(0); // attributes come in the same order each time
     QTextStream out(stdout);
 
     QPluginLoader loader(QString::fromLocal8Bit(argc > 1 ? argv[1] : PLUGIN_FILE));
