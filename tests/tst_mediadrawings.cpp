@@ -59,6 +59,20 @@ private slots:
             "'ArtObj_Color1':'255,255,0,0'}",
             "d=\"M90.00 50.00L80.00 54.00L80.00 46.00L90.00 50.00Z\"|d=\"M0.00 50.00L10.00 "
             "46.00|x2=\"81.00\"|x1=\"9.00\"");
+        row("smooth ring",
+            "{'Type':'ZQSmoothStroke','XY':'120,100,-20,20,-20,-20,20,-20,20,20','Color':'#66fff200','Width':'8'}",
+            "\"M120.00 100.00C120.00 109.43 109.43 120.00 100.00 120.00C90.57 120.00 80.00 109.43 80.00 100.00C|"
+            "stroke=\"#fff200\"|stroke-opacity=\"0.40\"|stroke-width=\"8.00\"|stroke-linecap=\"round\"|fill=\"none\"");
+        row("corners between long lines", "{'Type':'stroke','XY':'10,10,100,0,0,100','Opacity':'51','Cap':'square'}",
+            "\"M10.00 10.00L110.00 10.00L110.00 110.00\"|stroke-opacity=\"0.20\"|stroke-width=\"5.00\"|square");
+        row("dashes", "{'Type':'ZQSmoothStroke','XY':'10,10,90,0','Width':'6','DashStyle':'DashLine','Cap':'round'}",
+            "stroke-dasharray=\"24,18\"|!linecap");
+        row("line style that nobody knows", "{'Type':'ZQSmoothStroke','XY':'10,10,90,0','DashStyle':'4'}", "!dash");
+        row("brush that gets wider",
+            "{'Type':'ZQBrushStrokeVelocity','XY':'10,50,3,0,3,0','PointBrushWid':'2,4,6','Matrix':'2,0,0,2,0,0'}",
+            "M20.00 98.00L26.00 96.00L32.00 94.00L32.00 106.00L26.00 104.00L20.00 102.00L20.00 98.00Z|stroke=\"none\"");
+        row("dot", "{'Type':'ZQChalkStroke','XY':'10,50','Width':'8'}", "M14.00 50.00C|stroke=\"none\"");
+        row("ink without points", "{'Type':'ZQChalkStroke','BoundingBox':'0,0,200,90'}", ">Chalk stroke<");
         row("film", "{'Type':'ZQMediaVideo','BoundingBox':'0,0,200,150','resource':'v/of a day.mp4'}",
             ">of a day.mp4<|>Film, MP4<|!matrix(");
         row("sound that is named",

@@ -4,6 +4,7 @@
 #include "lesson/planegeometry.h"
 #include "render/coverdrawing.h"
 #include "render/graphdrawing.h"
+#include "render/inkdrawing.h"
 #include "render/instrumentdrawing.h"
 #include "render/itemoutline.h"
 #include "render/mathdrawing.h"
@@ -26,6 +27,7 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &instrumentDrawing,
     &coverDrawing,
     &mediaDrawing,
+    &inkDrawing,
     &symbolDrawing,
 };
 // clang-format on

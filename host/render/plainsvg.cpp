@@ -411,7 +411,7 @@ void PlainSvg::addText(const QDomElement &area, bool isInMiddle)
     }
 }
 
-void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
+QDomElement PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
 {
     QDomElement shape = append(QStringLiteral("path"));
     shape.setAttribute(QStringLiteral("d"), pathData(path));
@@ -432,6 +432,7 @@ void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
     if (!lengths.isEmpty()) {
         shape.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
     }
+    return shape;
 }
 
 QDomElement PlainSvg::addRectangle(const QRectF &box, const QColor &line, const QColor &fill)

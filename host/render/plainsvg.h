@@ -68,7 +68,7 @@ public:
     //! Adds a text area of an IWB page with its lines in the middle of its height.
     void addTextInMiddle(const QDomElement &area) { addText(area, true); }
     //! With round corners and no caps, so that no tip of a line reaches further than its width does.
-    void addPath(const QPainterPath &path, const SvgPaint &paint);
+    QDomElement addPath(const QPainterPath &path, const SvgPaint &paint);
 
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);

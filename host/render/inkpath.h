@@ -1,0 +1,32 @@
+#ifndef INKPATH_H
+#define INKPATH_H
+
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QVector>
+
+namespace lessonhost {
+
+/*!
+ * Where a stroke goes: its points on the page, no two of them in the same place one after the other.
+ */
+struct InkTrack
+{
+    QPolygonF points;
+    QVector<double> widths; //!< at the points; empty for a stroke of one width
+
+    //! widths count only if there is one for each point.
+    InkTrack(const QPolygonF &points, const QVector<double> &widths);
+
+    bool isDot() const { return points.size() == 1; }
+};
+
+//! A smooth line through the points; where they turn sharply it has a corner. Ends that meet are smooth, too.
+QPainterPath smoothLine(const InkTrack &track);
+
+//! The outline of a track with widths: what is within it by the winding rule is ink.
+QPainterPath brushOutline(const InkTrack &track);
+
+} // namespace lessonhost
+
+#endif // INKPATH_H
