@@ -5,8 +5,6 @@
 #include "translatorchains.h"
 #include "typicalitems.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <QJsonArray>
 
 namespace {
@@ -97,8 +95,7 @@ private:
                                        {QStringLiteral("BoundingBox"), boxText(box)},
                                        {QStringLiteral("ArtObj_Width"), QStringLiteral("1")},
                                        {QStringLiteral("LineColor"), QStringLiteral("255,215,215,215")}});
-        QJsonObject item = typicalItem(type, box);
-        m_variant.change(item);
+        QJsonObject item = m_variant.changed(typicalItem(type, box));
         item.insert(QStringLiteral("ID"), QString::number(m_cells + 1));
         slide.items.append(item);
         slide.items.append(
@@ -110,39 +107,6 @@ private:
     QVector<Slide> m_slides;
     int m_cells = 0;
 };
-
-// Different at each corner, so that turned and flipped pictures are told apart.
-QString pictureText(const QColor &paper)
-{
-    constexpr int width = 90;
-    constexpr int height = 60;
-    QImage image(width, height, QImage::Format_ARGB32);
-    image.fill(paper);
-    const auto fill = [&image](const QRect &area, const QColor &color) {
-        for (int i = 0; i < area.width() * area.height(); ++i) {
-            image.setPixelColor(area.left() + i % area.width(), area.top() + i / area.width(), color);
-        }
-    };
-    fill({0, 0, width / 3, height / 3}, QColor(Qt::red));
-    fill({width - width / 5, 0, width / 5, height / 5}, QColor(Qt::blue));
-    fill({0, height - height / 5, width / 5, height / 5}, QColor(Qt::darkGreen));
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return QString::fromLatin1(bytes.toBase64());
-}
-
-QJsonObject resources()
-{
-    QJsonObject files{{QStringLiteral("images/picture.png"), pictureText(QColor(255, 225, 150))},
-                      {QStringLiteral("images/card.png"), pictureText(QColor(225, 240, 255))}};
-    for (const char *name :
-         {"media/cells.swf", "media/rain.mp3", "media/whales.mp4", "media/worksheet.docx", "media/parabola.ggb"}) {
-        files.insert(QLatin1String(name), QString::fromLatin1(QByteArray(name).toBase64()));
-    }
-    return files;
-}
 
 } // namespace
 
@@ -172,5 +136,5 @@ QJsonObject contactSheet(const QString &word)
             {QStringLiteral("Width"), QString::number(pageSize.width())},
             {QStringLiteral("Height"), QString::number(pageSize.height())},
             {QStringLiteral("Slides"), slides},
-            {QStringLiteral("Resources"), resources()}};
+            {QStringLiteral("Resources"), typicalFiles()}};
 }

@@ -6,6 +6,9 @@
 //! Every key that the plug-in reads or writes by its tables, by family and type.
 QString formatsDocument();
 
+//! What pictures show of an item, by type: found by drawing typical items with other values of every key.
+QString drawingsDocument();
+
 //! What conversions can't carry, by type: found by converting one item of every type.
 QString lossesDocument();
 

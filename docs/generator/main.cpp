@@ -26,9 +26,16 @@ bool write(const QString &path, const QByteArray &text)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
+bool writeDocuments(const QString &folder)
+{
+    return write(folder + QLatin1String("/FORMATS.md"), formatsDocument().toUtf8())
+        && write(folder + QLatin1String("/LOSSES.md"), lossesDocument().toUtf8())
+        && write(folder + QLatin1String("/DRAWINGS.md"), drawingsDocument().toUtf8());
+}
+
 } // namespace
 
-// generatedocuments FOLDER: writes FORMATS.md and LOSSES.md.
+// generatedocuments FOLDER: writes FORMATS.md, LOSSES.md and DRAWINGS.md.
 // generatedocuments --sheet FILE [WORD]: writes the lesson of the contact sheet.
 int main(int argc, char **argv)
 {
@@ -40,8 +47,7 @@ int main(int argc, char **argv)
     const QString target = arguments.value(isSheet ? 2 : 1, QStringLiteral("."));
     try {
         if (isSheet ? write(target, QJsonDocument(contactSheet(arguments.value(3))).toJson())
-                    : write(target + QLatin1String("/FORMATS.md"), formatsDocument().toUtf8())
-                    && write(target + QLatin1String("/LOSSES.md"), lossesDocument().toUtf8())) {
+                    : writeDocuments(target)) {
             return 0;
         }
         std::fprintf(stderr, "%s can't be written.\n", qPrintable(target));

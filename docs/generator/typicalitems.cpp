@@ -2,8 +2,10 @@
 
 #include "itemfamilies.h"
 
+#include <QBuffer>
 #include <QColor>
 #include <QFile>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -128,17 +130,8 @@ QJsonValue placed(const QJsonValue &value, const QRectF &box)
     return value.isString() ? placedText(value.toString(), box) : value;
 }
 
-// What an item is, where it is, and how wide its lines are: they would hide all others.
-bool isKept(const QString &key)
-{
-    static const QStringList keys{QStringLiteral("Type"),      QStringLiteral("BoundingBox"),
-                                  QStringLiteral("Children"),  QStringLiteral("ArtObj_Width"),
-                                  QStringLiteral("LineWidth"), QStringLiteral("Width")};
-    return keys.contains(key);
-}
-
 // Every number and text, also in lists, except names of files.
-QJsonValue replaced(const QJsonValue &value, double number, const QString &text)
+QJsonValue replaced(const QJsonValue &value, const QString &number, const QString &text)
 {
     if (value.isArray()) {
         QJsonArray result;
@@ -156,7 +149,7 @@ QJsonValue replaced(const QJsonValue &value, double number, const QString &text)
         return object;
     }
     if (value.isDouble()) {
-        return number;
+        return number.toDouble();
     }
     QStringList parts = value.toString().split(QLatin1Char(','));
     for (QString &part : parts) {
@@ -167,21 +160,12 @@ QJsonValue replaced(const QJsonValue &value, double number, const QString &text)
                 ? value
                 : QJsonValue(text);
         }
-        part = QString::number(number);
+        part = number;
     }
     return parts.join(QLatin1Char(','));
 }
 
-void replaceValues(QJsonObject &item, double number, const QString &text)
-{
-    for (auto it = item.begin(); it != item.end(); ++it) {
-        if (!isKept(it.key()) && !isColorKey(it.key())) {
-            *it = replaced(*it, number, text);
-        }
-    }
-}
-
-void replaceColors(QJsonObject &item)
+QJsonObject recolored(QJsonObject item)
 {
     constexpr int apart = 137; // on the circle of hues
     constexpr int full = 255;
@@ -193,6 +177,29 @@ void replaceColors(QJsonObject &item)
             hue += apart;
         }
     }
+    return item;
+}
+
+// Different at each corner, so that turned and flipped pictures are told apart.
+QString pictureText(const QColor &paper)
+{
+    constexpr int width = 90;
+    constexpr int height = 60;
+    QImage image(width, height, QImage::Format_ARGB32);
+    image.fill(paper);
+    const auto fill = [&image](const QRect &area, const QColor &color) {
+        for (int i = 0; i < area.width() * area.height(); ++i) {
+            image.setPixelColor(area.left() + i % area.width(), area.top() + i / area.width(), color);
+        }
+    };
+    fill({0, 0, width / 3, height / 3}, QColor(Qt::red));
+    fill({width - width / 5, 0, width / 5, height / 5}, QColor(Qt::blue));
+    fill({0, height - height / 5, width / 5, height / 5}, QColor(Qt::darkGreen));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return QString::fromLatin1(bytes.toBase64());
 }
 
 } // namespace
@@ -242,19 +249,54 @@ QJsonObject typicalItem(const QString &type, const QRectF &box)
     return item;
 }
 
+QJsonObject withValues(QJsonObject item, const QString &number, const QString &text)
+{
+    static const QStringList kept{QStringLiteral("Type"), QStringLiteral("BoundingBox"), QStringLiteral("Children")};
+    for (auto it = item.begin(); it != item.end(); ++it) {
+        if (!kept.contains(it.key()) && !isColorKey(it.key())) {
+            *it = replaced(*it, number, text);
+        }
+    }
+    return item;
+}
+
 const QVector<ItemVariant> &itemVariants()
 {
-    constexpr double extreme = 1e9;
+    // A very wide line hides all others.
+    const auto extreme = [](const QString &number, const QString &text) {
+        return [number, text](const QJsonObject &item) {
+            QJsonObject changed = withValues(item, number, text);
+            for (const char *key : {"ArtObj_Width", "LineWidth", "Width"}) {
+                changed.insert(QLatin1String(key), item.value(QLatin1String(key)));
+            }
+            return changed;
+        };
+    };
+    const auto with = [](const char *key, const char *value) {
+        return [key, value](QJsonObject item) {
+            item.insert(QLatin1String(key), QLatin1String(value));
+            return item;
+        };
+    };
     static const QVector<ItemVariant> variants{
-        {"As it is", {1, 1}, [](QJsonObject &) {}},
-        {"Turned", {1, 1}, [](QJsonObject &item) { item.insert(QStringLiteral("Angle"), QStringLiteral("0.5236")); }},
-        {"Flipped", {1, 1}, [](QJsonObject &item) { item.insert(QStringLiteral("HorizonFlip"), QStringLiteral("1")); }},
-        {"Stretched", {1.5, 0.5}, [](QJsonObject &) {}},
-        {"Coloured", {1, 1}, &replaceColors},
-        {"Large values",
-         {1, 1},
-         [](QJsonObject &item) { replaceValues(item, extreme, QStringLiteral("Extraordinarily ").repeated(40)); }},
-        {"Small values", {1, 1}, [](QJsonObject &item) { replaceValues(item, -extreme, {}); }},
+        {"As it is", {1, 1}, [](const QJsonObject &item) { return item; }},
+        {"Turned", {1, 1}, with("Angle", "0.5236")},
+        {"Flipped", {1, 1}, with("HorizonFlip", "1")},
+        {"Stretched", {1.5, 0.5}, [](const QJsonObject &item) { return item; }},
+        {"Coloured", {1, 1}, &recolored},
+        {"Large values", {1, 1}, extreme(QStringLiteral("1e9"), QStringLiteral("Extraordinarily ").repeated(40))},
+        {"Small values", {1, 1}, extreme(QStringLiteral("-1e9"), {})},
     };
     return variants;
+}
+
+QJsonObject typicalFiles()
+{
+    QJsonObject files{{QStringLiteral("images/picture.png"), pictureText(QColor(255, 225, 150))},
+                      {QStringLiteral("images/card.png"), pictureText(QColor(225, 240, 255))}};
+    for (const char *name :
+         {"media/cells.swf", "media/rain.mp3", "media/whales.mp4", "media/worksheet.docx", "media/parabola.ggb"}) {
+        files.insert(QLatin1String(name), QString::fromLatin1(QByteArray(name).toBase64()));
+    }
+    return files;
 }

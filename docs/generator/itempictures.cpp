@@ -1,0 +1,66 @@
+#include "itempictures.h"
+
+#include "typicalitems.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace lessonhost;
+
+/*!
+ * A lesson of the one slide that is to be drawn.
+ */
+class ItemPictures::Lesson : public LessonReader
+{
+public:
+    Lesson()
+    {
+        const QJsonObject files = typicalFiles();
+        for (auto it = files.constBegin(); it != files.constEnd(); ++it) {
+            QFile file(fileOf(it.key()));
+            if (!file.open(QIODevice::WriteOnly)
+                || file.write(QByteArray::fromBase64(it.value().toString().toLatin1())) < 0) {
+                qFatal("%s can't be written.", qPrintable(file.fileName()));
+            }
+        }
+    }
+
+    QJsonObject presentation() override
+    {
+        return {{QStringLiteral("Width"), QString::number(pageSize().width())},
+                {QStringLiteral("Height"), QString::number(pageSize().height())}};
+    }
+    int slideCount() override { return 1; }
+    LessonSlide slide(int) override { return {{}, items}; }
+    QStringList resources() override { return typicalFiles().keys(); }
+    QString resourceFile(const QString &relativePath) override { return fileOf(relativePath); }
+
+    QJsonArray items;
+
+private:
+    QString fileOf(QString path) const { return m_folder.filePath(path.replace(QLatin1Char('/'), QLatin1Char('-'))); }
+
+    QTemporaryDir m_folder;
+};
+
+ItemPictures::ItemPictures(IZQTransformation *plugin)
+    : m_lesson(std::make_unique<Lesson>())
+{
+    LessonContext context;
+    context.plugin = plugin;
+    m_pictures = std::make_unique<SlidePictures>(*m_lesson, context);
+}
+
+ItemPictures::~ItemPictures() = default;
+
+QRectF ItemPictures::boxOf(const QString &type)
+{
+    const QSizeF size = typicalSize(type);
+    return {QPointF((pageSize().width() - size.width()) / 2, (pageSize().height() - size.height()) / 2), size};
+}
+
+SlidePicture ItemPictures::draw(const QJsonArray &items)
+{
+    m_lesson->items = items;
+    return m_pictures->picture(0);
+}

@@ -1,0 +1,34 @@
+#ifndef ITEMPICTURES_H
+#define ITEMPICTURES_H
+
+#include "render/slidepictures.h"
+
+#include <QJsonArray>
+
+#include <memory>
+
+/*!
+ * Draws typical items, each time on a new slide of a lesson that has their files.
+ */
+class ItemPictures
+{
+public:
+    //! plugin has to live as long.
+    explicit ItemPictures(IZQTransformation *plugin);
+    ~ItemPictures();
+
+    //! A page that leaves room around the typical boxes of all types, turned or not.
+    static QSizeF pageSize() { return {320, 320}; }
+    //! The typical box of a type in its middle.
+    static QRectF boxOf(const QString &type);
+
+    //! Throws LessonError.
+    lessonhost::SlidePicture draw(const QJsonArray &items);
+
+private:
+    class Lesson;
+    std::unique_ptr<Lesson> m_lesson;
+    std::unique_ptr<lessonhost::SlidePictures> m_pictures;
+};
+
+#endif // ITEMPICTURES_H
