@@ -86,7 +86,12 @@ void addArc(QPainterPath &path, const Arc &arc, const QPointF &to)
     const QRectF unit(center - QPointF(1, 1), QSizeF(2, 2));
     circle.arcMoveTo(unit, -start);
     circle.arcTo(unit, -start, -sweep);
-    path.connectPath((toPage * QTransform::fromTranslate(from.x(), from.y())).map(circle));
+    const QPainterPath curves = (toPage * QTransform::fromTranslate(from.x(), from.y())).map(circle);
+    for (int i = 0; i + 2 < curves.elementCount(); ++i) {
+        if (curves.elementAt(i).isCurveTo()) {
+            path.cubicTo(curves.elementAt(i), curves.elementAt(i + 1), curves.elementAt(i + 2));
+        }
+    }
 }
 
 // Walks the commands of a path.
