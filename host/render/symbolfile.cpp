@@ -133,7 +133,12 @@ bool SymbolFile::isShown(const QDomElement &part, const ItemView &item)
     if (key.isEmpty() || isEmptyValue(value)) {
         return part.attribute(QStringLiteral("display")) != QLatin1String("none");
     }
-    const bool holds = key == condition ? itemFlag(value) : valueText(value) == condition.section(QLatin1Char('='), 1);
+    const QString told = valueText(value);
+    bool isNumber = false;
+    const double number = told.toDouble(&isNumber);
+    // A text is set as a number is that isn't 0.
+    const bool isSet = !isNumber || number != 0;
+    const bool holds = key == condition ? isSet : told == condition.section(QLatin1Char('='), 1);
     return holds == unless.isEmpty();
 }
 
