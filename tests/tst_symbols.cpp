@@ -233,6 +233,7 @@ private slots:
                 colored.insert(key, "255,1,2,3");
                 colored.insert("ArtObj_Fill", "1");
                 colored.insert("ArtObj_Text", "R");
+                colored.insert("ArtObj_DisplayLiquid", "1");
                 if (file->color(role, ItemView(colored)) == QColor(1, 2, 3)) {
                     QVERIFY2(drawn(colored, type, QSizeF(200, 200)).contains("#010203"), qPrintable(role));
                 }
