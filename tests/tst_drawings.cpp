@@ -3,6 +3,7 @@
 #include "itempictures.h"
 #include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
+#include "render/symbolfile.h"
 #include "typicalitems.h"
 
 #include <QImage>
@@ -110,7 +111,7 @@ private slots:
             QVERIFY2(there.adjusted(-3, -3, 3, 3).contains(found) && found.adjusted(-3, -3, 3, 3).contains(there), key);
         }
 
-        // Of the colours that an item has, some are seen.
+        // Of the colours that an item has, some are seen. Apparatus without a liquid has that of a liquid all the same.
         const QJsonObject colored = itemVariants().at(4).changed(item);
         const QByteArray svg = look(colored).svg;
         QStringList colors;
@@ -121,7 +122,9 @@ private slots:
             }
         }
         const auto isSeen = [&svg](const QString &color) { return svg.contains(color.toLatin1()); };
-        QVERIFY2(colors.isEmpty() || std::any_of(colors.cbegin(), colors.cend(), isSeen), svg);
+        QVERIFY2(SymbolFile::ofType(view.type()) || colors.isEmpty()
+                     || std::any_of(colors.cbegin(), colors.cend(), isSeen),
+                 svg);
     }
 
     void drawsWhatItemsSay_data()
