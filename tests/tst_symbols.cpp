@@ -1,6 +1,7 @@
 #include "hostfixture.h"
 #include "itemfamilies.h"
 #include "iwb/iwbmedia.h"
+#include "render/levelliquid.h"
 #include "render/symboldrawing.h"
 #include "render/symbolfile.h"
 #include "svg/svgpath.h"
@@ -93,7 +94,7 @@ private slots:
             QString("xmlns viewBox x y width height rx ry cx cy r x1 y1 x2 y2 d points fill stroke stroke-width "
                     "stroke-linejoin stroke-dasharray fill-rule font-size text-anchor display transform "
                     "class data-colors data-stretch-x data-stretch-y data-turn data-keep data-repeat-x data-repeat-y "
-                    "data-count data-if data-unless data-text data-room data-angle")
+                    "data-vessel data-count data-if data-unless data-text data-room data-angle")
                 .split(' ');
         const auto file = SymbolFile::ofType(type);
         const QVector<double> box = svgNumbers(file->root().attribute("viewBox"));
@@ -195,6 +196,39 @@ private slots:
             }
         }
         QVERIFY2(differing <= size.width() * size.height() / 100, qPrintable(QString::number(differing)));
+    }
+
+    void keepsLiquidsLevel_data() { addEverySymbol(); }
+
+    // In a vessel that is turned stands as much as in its file, with a level surface.
+    void keepsLiquidsLevel()
+    {
+        QFETCH(QString, type);
+        for (const QDomElement &part : partsOf(type)) {
+            if (!part.hasAttribute("data-vessel")) {
+                continue;
+            }
+            const auto vessel = svgPath(part.attribute("data-vessel"));
+            const auto usual = svgOutline(part.firstChildElement());
+            QVERIFY(vessel && vessel->boundingRect().adjusted(-1, -1, 1, 1).contains(usual->boundingRect()));
+            double upright = 0;
+            for (const char *angle : {"0", "0.7", "1.57079633", "3.14159265"}) {
+                QJsonObject item{{"BoundingBox", "60,60,360,360"}, {"ArtObj_DisplayLiquid", "1"}, {"Angle", angle}};
+                for (const char *key : {"ArtObj_LiquidColor", "ArtObj_Color"}) {
+                    item.insert(key, "255,1,2,3");
+                }
+                const QRegularExpression liquid(" d=\"([^\"]*)\" fill=\"#010203\"");
+                const auto body = svgPath(liquid.match(drawn(item, type, {420, 420})).captured(1));
+                QVERIFY(body && !body->isEmpty());
+                upright = upright > 0 ? upright : enclosedArea(*body);
+                QVERIFY2(qAbs(enclosedArea(*body) - upright) < 0.02 * upright, angle);
+                int high = 0;
+                for (int i = 0; i < body->elementCount(); ++i) {
+                    high += body->elementAt(i).y < body->boundingRect().top() + 0.02 ? 1 : 0;
+                }
+                QVERIFY2(high >= 2, angle);
+            }
+        }
     }
 
     void takesWhatItemsSay_data() { addEverySymbol(); }

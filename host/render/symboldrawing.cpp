@@ -1,6 +1,7 @@
 #include "render/symboldrawing.h"
 
 #include "render/itemoutline.h"
+#include "render/levelliquid.h"
 #include "render/symbolaxis.h"
 #include "render/symbolfile.h"
 #include "render/symbolrules.h"
@@ -93,6 +94,8 @@ private:
         const QString tag = part.tagName();
         if (part.hasAttribute(QStringLiteral("data-repeat-x")) || part.hasAttribute(QStringLiteral("data-repeat-y"))) {
             drawRepeated(part, style, place);
+        } else if (part.hasAttribute(QStringLiteral("data-vessel")) && !isUpright()) {
+            drawLevel(part, style, place);
         } else if (tag == QLatin1String("svg") || tag == QLatin1String("g")) {
             for (QDomElement child = part.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
                 drawPart(child, style, place);
@@ -100,15 +103,45 @@ private:
         } else if (tag == QLatin1String("text")) {
             drawWord(part, style, place);
         } else if (const auto outline = svgOutline(part)) {
-            QPainterPath path = style.matrix.map(*outline);
-            for (int i = 0; i < path.elementCount(); ++i) {
-                const QPointF point = place.at(path.elementAt(i));
-                path.setElementPositionAt(i, point.x(), point.y());
-            }
-            SvgPaint paint = paintOf(style);
-            paint.lineWidth *= m_lineFactor;
-            m_canvas.svg().addPath(m_toPage.map(path), paint);
+            addPath(onPage(*outline, style, place), style);
         }
+    }
+
+    QPainterPath onPage(const QPainterPath &outline, const SvgStyle &style, const SymbolPlace &place) const
+    {
+        QPainterPath path = style.matrix.map(outline);
+        for (int i = 0; i < path.elementCount(); ++i) {
+            const QPointF point = place.at(path.elementAt(i));
+            path.setElementPositionAt(i, point.x(), point.y());
+        }
+        return m_toPage.map(path);
+    }
+
+    void addPath(const QPainterPath &path, const SvgStyle &style)
+    {
+        SvgPaint paint = paintOf(style);
+        paint.lineWidth *= m_lineFactor;
+        m_canvas.svg().addPath(path, paint);
+    }
+
+    bool isUpright() const
+    {
+        constexpr double level = 1e-3;
+        return m_toPage.m22() > 0 && std::abs(m_toPage.m12()) < level && std::abs(m_toPage.m21()) < level;
+    }
+
+    // Of a group that shows a liquid and its surface: as much of the liquid where it comes to stand in the vessel.
+    void drawLevel(const QDomElement &group, const SvgStyle &style, const SymbolPlace &place)
+    {
+        const QDomElement usual = group.firstChildElement();
+        const auto outline = svgOutline(usual);
+        const auto vessel = svgPath(group.attribute(QStringLiteral("data-vessel")));
+        if (!outline || !vessel) {
+            return;
+        }
+        const LevelLiquid liquid(onPage(*vessel, style, place), enclosedArea(onPage(*outline, style, place)));
+        addPath(liquid.body, styleOf(usual, style));
+        addPath(liquid.surface, styleOf(usual.nextSiblingElement(), style));
     }
 
     static SvgPaint paintOf(const SvgStyle &style)
