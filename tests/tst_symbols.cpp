@@ -83,6 +83,17 @@ private:
     }
 
 private slots:
+    void knowsEveryType()
+    {
+        for (const TitledTypes &family : itemFamilies()) {
+            for (const QString &type : family.types) {
+                if (type.startsWith("ZQPhysics"_s) || type.startsWith("ZQChemistry"_s)) {
+                    QVERIFY2(symbolDrawing(type), qPrintable(type));
+                }
+            }
+        }
+    }
+
     void keepsToTheForm_data() { addEverySymbol(); }
 
     void keepsToTheForm()
@@ -93,8 +104,10 @@ private slots:
         static const QStringList attributes =
             QString("xmlns viewBox x y width height rx ry cx cy r x1 y1 x2 y2 d points fill stroke stroke-width "
                     "stroke-linejoin stroke-dasharray fill-rule font-size text-anchor display transform "
-                    "class data-colors data-stretch-x data-stretch-y data-turn data-keep data-repeat-x data-repeat-y "
-                    "data-vessel data-count data-if data-unless data-text data-room data-angle")
+                    "class data-colors data-stretch-x data-stretch-y data-turn data-upright data-keep data-repeat-x "
+                    "data-repeat-y data-vessel "
+                    "data-count data-if data-unless data-text data-room data-angle data-scale data-values data-tick "
+                    "data-pitch data-first data-step data-decimals")
                 .split(' ');
         const auto file = SymbolFile::ofType(type);
         const QVector<double> box = svgNumbers(file->root().attribute("viewBox"));
@@ -114,7 +127,9 @@ private slots:
                 const QDomAttr attribute = own.item(i).toAttr();
                 QVERIFY2(attributes.contains(attribute.name()), qPrintable(attribute.name()));
                 QVERIFY2(!attribute.value().contains("url("), line);
-                if (QString("data-if data-unless data-text data-count").split(' ').contains(attribute.name())) {
+                if (QString("data-if data-unless data-text data-count data-first data-step data-decimals")
+                        .split(' ')
+                        .contains(attribute.name())) {
                     named.append(attribute.value().section('=', 0, 0));
                 }
             }
@@ -239,38 +254,40 @@ private slots:
         QFETCH(QString, type);
         const auto file = SymbolFile::ofType(type);
         const QJsonObject plain{{"BoundingBox", "0,0,200,200"}};
-        QJsonObject shown = plain;
+        QJsonObject on = plain;
+        QJsonObject off = plain;
         QStringList roles;
         for (const QDomElement &part : partsOf(type)) {
             roles += part.attribute("class").split(' ', Qt::SkipEmptyParts);
             for (const char *name : {"data-if", "data-unless"}) {
                 const QString condition = part.attribute(name);
-                if (condition.isEmpty()) {
-                    continue;
-                }
                 const QString key = condition.section('=', 0, 0);
-                QJsonObject on = plain;
-                QJsonObject off = plain;
-                on.insert(key, condition.contains('=') ? condition.section('=', 1) : "1"_s);
-                off.insert(key, condition.contains('=') ? "none"_s : "0"_s);
-                QVERIFY2(drawn(on, type, QSizeF(200, 200)) != drawn(off, type, QSizeF(200, 200)), qPrintable(key));
+                if (!key.isEmpty()) {
+                    on.insert(key, condition.contains('=') ? condition.section('=', 1) : "1"_s);
+                    off.insert(key, condition.contains('=') ? "none"_s : "0"_s);
+                    QJsonObject changed = on;
+                    changed.insert(key, off.value(key));
+                    QVERIFY2(drawn(on, type, QSizeF(200, 200)) != drawn(changed, type, QSizeF(200, 200)),
+                             qPrintable(key));
+                }
             }
             if (part.hasAttribute("data-text")) {
                 QJsonObject told = plain;
                 told.insert(part.attribute("data-text"), "5 V <");
+                on.insert(part.attribute("data-text"), "R");
                 QVERIFY(drawn(told, type, QSizeF(200, 200)).contains(">5 V &lt;<"));
             }
         }
         for (const QString &role : qAsConst(roles)) {
             for (const QString &key : subjectColorKeys()) {
-                QJsonObject colored = plain;
-                colored.insert(key, "255,1,2,3");
-                colored.insert("ArtObj_Fill", "1");
-                colored.insert("ArtObj_Text", "R");
-                colored.insert("ArtObj_DisplayLiquid", "1");
-                if (file->color(role, ItemView(colored)) == QColor(1, 2, 3)) {
-                    QVERIFY2(drawn(colored, type, QSizeF(200, 200)).contains("#010203"), qPrintable(role));
+                on.insert(key, "255,1,2,3");
+                off.insert(key, "255,1,2,3");
+                if (file->color(role, ItemView(on)) == QColor(1, 2, 3)) {
+                    const QByteArray both = drawn(on, type, QSizeF(200, 200)) + drawn(off, type, QSizeF(200, 200));
+                    QVERIFY2(both.contains("#010203"), qPrintable(role));
                 }
+                on.remove(key);
+                off.remove(key);
             }
         }
     }

@@ -53,15 +53,17 @@ double partOfTick(int index, int parts)
     return index == 0 ? 1 : index * 2 == parts ? 0.75 : 0.5;
 }
 
-QString numberText(double value)
+QString numberText(double value, int decimals)
 {
-    return QString::number(value, 'g', 6);
+    constexpr int most = 6;
+    return decimals < 0 ? QString::number(value, 'g', most) : QString::number(value, 'f', qMin(decimals, most));
 }
 
 // Every so many steps there is a number.
 int stepsBetweenNumbers(const Scale &scale, const Steps &steps)
 {
-    const int letters = qMax(numberText(scale.first).size(), numberText(scale.first + steps.count * scale.step).size());
+    const int letters = qMax(numberText(scale.first, scale.decimals).size(),
+                             numberText(scale.first + steps.count * scale.step, scale.decimals).size());
     const double room = (letters * digitWidth + 0.4) * scale.numberSize;
     for (const int every : {1, 2, 5, 10, 20, 50, 100}) {
         if (every * steps.length >= room) {
@@ -171,7 +173,7 @@ void addScale(PlainSvg &svg, const ScaleCourse &course, const Scale &scale, cons
         const QLineF tick = course.tick(step * steps.part, scale.tickLength);
         const QPointF inwards = (tick.p2() - tick.p1()) / qMax(tick.length(), 1e-9);
         SvgMark mark;
-        mark.text = numberText(qAbs(value) < qAbs(scale.step) * 1e-6 ? 0 : value);
+        mark.text = numberText(qAbs(value) < qAbs(scale.step) * 1e-6 ? 0 : value, scale.decimals);
         mark.middle = placed.map(
             tick.p2()
             + inwards * (reach(mark.text, scale.numberSize, inwards, scale.turnsNumbers) + scale.numberSize * 0.25));

@@ -43,6 +43,7 @@ struct Scale
     double step = 1; //!< from one number to the next; the first one is a multiple of it
     int parts = 10; //!< ticks a step
     double tickLength = 12; //!< at numbers; shorter halfway and between. Negative on the other side of the course
+    int decimals = -1; //!< of the numbers; negative for as many as they have
     double numberSize = 0; //!< of the letters; 0 for no numbers
     bool turnsNumbers = false; //!< they stand upright where their ticks end, or else with the instrument
     QColor color = Qt::black;

@@ -2,6 +2,7 @@
 
 #include "render/itemoutline.h"
 #include "render/levelliquid.h"
+#include "render/scale.h"
 #include "render/symbolaxis.h"
 #include "render/symbolfile.h"
 #include "render/symbolrules.h"
@@ -65,7 +66,8 @@ public:
         m_isTurned = file.turns()
             && (size.width() > size.height() ? box.height > clearly * box.width : box.width > clearly * box.height);
         if (m_isTurned) {
-            m_toPage = QTransform().rotate(size.width() > size.height() ? 90 : -90) * m_toPage;
+            m_lies = size.height() > size.width();
+            m_toPage = QTransform().rotate(m_lies ? -90 : 90) * m_toPage;
             m_room.transpose();
         }
         m_scale = qMin(m_room.width() / size.width(), m_room.height() / size.height());
@@ -92,7 +94,10 @@ private:
         const SvgStyle style = styleOf(part, above);
         const SymbolPlace place = placeOf(part, around);
         const QString tag = part.tagName();
-        if (part.hasAttribute(QStringLiteral("data-repeat-x")) || part.hasAttribute(QStringLiteral("data-repeat-y"))) {
+        if (part.hasAttribute(QStringLiteral("data-scale"))) {
+            drawScale(part, style, place);
+        } else if (part.hasAttribute(QStringLiteral("data-repeat-x"))
+                   || part.hasAttribute(QStringLiteral("data-repeat-y"))) {
             drawRepeated(part, style, place);
         } else if (part.hasAttribute(QStringLiteral("data-vessel")) && !isUpright()) {
             drawLevel(part, style, place);
@@ -153,10 +158,18 @@ private:
     SvgStyle styleOf(const QDomElement &part, const SvgStyle &above) const
     {
         SvgStyle style = above.child(part, part.attribute(QStringLiteral("transform")), [](const QString &) {});
+        // A sign that is turned with its part of a circuit would be another one.
+        const QVector<double> upright = svgNumbers(part.attribute(QStringLiteral("data-upright")));
+        if (m_isTurned && upright.size() == 2) {
+            QTransform back = QTransform::fromTranslate(upright.at(0), upright.at(1));
+            back.rotate(m_lies ? 90 : -90);
+            style.matrix = back.translate(-upright.at(0), -upright.at(1)) * style.matrix;
+        }
         const QStringList roles = part.attribute(QStringLiteral("class")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
         for (const QString &role : roles) {
             if (const auto color = m_file.color(role, m_item)) {
-                const QString name = role == QLatin1String("edge") ? QStringLiteral("stroke") : QStringLiteral("fill");
+                const bool isLine = role.startsWith(QLatin1String("edge"));
+                const QString name = isLine ? QStringLiteral("stroke") : QStringLiteral("fill");
                 style.set(name, color->name());
                 style.set(name + QLatin1String("-opacity"), QString::number(color->alphaF()));
             }
@@ -192,13 +205,49 @@ private:
         const double start = axis.at(range.at(0));
         const double length = axis.at(range.at(1)) - start;
         const double fitting = qBound(1.0, length / (cell * m_scale), double(mostRepeats));
-        const QJsonValue told = m_item.json().value(group.attribute(QStringLiteral("data-count")));
-        const int count = qRound(qBound(1.0, itemNumber(told, fitting), double(mostRepeats)));
+        const double told = numberOf(group, "data-count", fitting);
+        const int count = qRound(told >= 1 && told <= mostRepeats ? told : fitting);
         for (int i = 0; i < count; ++i) {
             const SymbolAxis part(range.at(0), range.at(0) + cell, start + length * i / count,
                                   start + length * (i + 1) / count);
             drawPart(first, style, isAcross ? SymbolPlace{part, place.y} : SymbolPlace{place.x, part});
         }
+    }
+
+    // What the item says under the key that an attribute names.
+    double numberOf(const QDomElement &part, const char *attribute, double missing) const
+    {
+        return itemNumber(m_item.json().value(part.attribute(QLatin1String(attribute))), missing);
+    }
+
+    // Ticks and numbers along a line or, told by five numbers, an arc.
+    void drawScale(const QDomElement &part, const SvgStyle &style, const SymbolPlace &place)
+    {
+        const QVector<double> course = svgNumbers(part.attribute(QStringLiteral("data-scale")));
+        const QVector<double> values = svgNumbers(part.attribute(QStringLiteral("data-values")));
+        if (course.size() < 4 || values.size() != 4) {
+            return;
+        }
+        const QPointF from = place.at({course.at(0), course.at(1)});
+        const ScaleCourse placed = course.size() == 5
+            ? ScaleCourse::arc(from, course.at(2) * m_scale, course.at(3), course.at(4))
+            : ScaleCourse::line(from, place.at({course.at(2), course.at(3)}));
+        const SvgPaint paint = paintOf(style);
+        Scale scale;
+        scale.first = numberOf(part, "data-first", values.at(0));
+        scale.step = numberOf(part, "data-step", values.at(2));
+        const QString pitch = part.attribute(QStringLiteral("data-pitch"));
+        const double stepLength = svgLength(pitch).value_or(0) * (pitch.endsWith(QLatin1String("px")) ? 1 : m_scale);
+        const double steps =
+            stepLength > 0 ? placed.length() / stepLength : (values.at(1) - values.at(0)) / qMax(values.at(2), 1e-9);
+        scale.last = scale.first + steps * scale.step;
+        scale.parts = qRound(values.at(3));
+        scale.decimals = qRound(numberOf(part, "data-decimals", -1));
+        scale.tickLength = part.attribute(QStringLiteral("data-tick")).toDouble() * m_scale;
+        scale.numberSize = part.hasAttribute(QStringLiteral("font-size")) ? style.fontPixels() * m_scale : 0;
+        scale.color = paint.line;
+        scale.lineWidth = paint.lineWidth * m_lineFactor;
+        addScale(m_canvas.svg(), placed, scale, m_toPage);
     }
 
     void drawWord(const QDomElement &element, const SvgStyle &style, const SymbolPlace &place)
@@ -248,6 +297,7 @@ private:
     double m_wordAngle;
     QSizeF m_room; //!< for the file as it stands
     bool m_isTurned = false;
+    bool m_lies = false; //!< what is drawn upright
     double m_scale = 1; //!< of what keeps its proportion
     double m_lineFactor = 1;
 };
