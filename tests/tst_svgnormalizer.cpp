@@ -157,7 +157,7 @@ private slots:
     void nothingIsDroppedSilently_data()
     {
         const Table<QString, QString> row("svg", "remark");
-        row("curves", "<svg:path id='p' d='M0 0C1 1 2 2 3 3'/>", "svg:path p: it has curves");
+        row("curves", "<svg:path id='p' d='M0 0C1 1 2 2 3 3'/>", "svg:path p: its curves became fine lines");
         row("use", "<svg:use id='u'/>", "svg:use u: lessons have nothing like it");
         row("other vocabulary", "<x:y xmlns:x='urn:x'/>", "x:y : lessons have nothing like it");
         row("gradient", "<svg:circle r='1' fill='url(#g)'/>", "svg:circle : fill \"url(#g)\" (a gradient");

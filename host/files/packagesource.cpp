@@ -1,7 +1,9 @@
 #include "files/packagesource.h"
 
 #include "files/folder.h"
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/packagenames.h"
 #include "files/ziparchive.h"
 
@@ -51,9 +53,21 @@ void checkEntry(const Folder::Entry &entry, const QString &shownName)
     }
 }
 
+// A document as it is, and no archive.
+bool isText(const QString &path)
+{
+    InputFile file(path);
+    QByteArray start = file.bytes(0, qMin<qint64>(file.size(), 64));
+    if (start.startsWith("\xef\xbb\xbf")) {
+        start.remove(0, 3);
+    }
+    const bool isWide = start.startsWith("\xff\xfe") || start.startsWith("\xfe\xff");
+    return isWide || start.trimmed().startsWith('<');
+}
+
 } // namespace
 
-PackageSource::PackageSource(const QString &path)
+PackageSource::PackageSource(const QString &path, const QString &singleFile)
     : m_path(path)
 {
     const QFileInfo info(path);
@@ -69,7 +83,12 @@ PackageSource::PackageSource(const QString &path)
     }
     m_unpacked = std::make_unique<WorkFolder>();
     m_directory = m_unpacked->path();
-    unpackZip(path, m_directory);
+    if (!singleFile.isEmpty() && isText(path)) {
+        m_singleFile = singleFile;
+        copyFile(path, path, m_directory + QLatin1Char('/') + singleFile, path, OutputFile::Temporary);
+        return;
+    }
+    m_remarks = unpackZip(path, m_directory);
     m_outer = outerFolder(files());
     m_directory += QLatin1Char('/') + m_outer;
     m_directory.chop(1);
@@ -102,6 +121,9 @@ QString PackageSource::file(const QString &relativePath) const
 
 QString PackageSource::displayName(const QString &relativePath) const
 {
+    if (!m_singleFile.isEmpty() && relativePath == m_singleFile) {
+        return m_path;
+    }
     return m_path + (m_path.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/")) + relativePath;
 }
 

@@ -20,8 +20,9 @@ namespace lessonhost {
 class PackageSource
 {
 public:
-    //! Throws LessonError.
-    explicit PackageSource(const QString &path);
+    //! singleFile: a file that is no archive counts as a package with this one file in it; empty for packages that are
+    //! always archives. Throws LessonError.
+    explicit PackageSource(const QString &path, const QString &singleFile = {});
 
     //! What the user called it, for messages.
     QString path() const { return m_path; }
@@ -33,6 +34,8 @@ public:
     QString file(const QString &relativePath) const;
     //! Name for messages: the package and the path inside.
     QString displayName(const QString &relativePath) const;
+    //! What was read otherwise than it stands in the archive, as sentences without a full stop.
+    QStringList remarks() const { return m_remarks; }
     //! All files, ascending, relative to the package. Throws LessonError for links, devices, and names that can't be
     //! told.
     QStringList files() const;
@@ -40,6 +43,8 @@ public:
 private:
     QString m_path;
     QString m_directory;
+    QString m_singleFile; // that the file itself is
+    QStringList m_remarks;
     QString m_outer; // the folder in an archive that holds everything, with a separator at its end
     std::unique_ptr<WorkFolder> m_unpacked;
 };

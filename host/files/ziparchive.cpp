@@ -17,6 +17,7 @@
 #include <QSet>
 #include <QtEndian>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -57,6 +58,8 @@ struct ZipEntry
     qint64 header = 0; // where in the file its own header is
     quint32 crc = 0;
     int method = Stored;
+    bool isUtf8 = true;
+    bool hasBackslash = false; // between the parts of its name, as some systems write them
     bool isDirectory = false;
     bool isSpecial = false; // link, device or the like
     bool isEncrypted = false;
@@ -179,6 +182,9 @@ private:
             ZipEntry entry = entryAt(list, at);
             entry.rawName = list.mid(at + headerSize, nameSize);
             entry.name = QString::fromUtf8(entry.rawName.constData(), entry.rawName.size());
+            entry.isUtf8 = entry.name.toUtf8() == entry.rawName;
+            entry.hasBackslash = entry.name.contains(QLatin1Char('\\'));
+            entry.name.replace(QLatin1Char('\\'), QLatin1Char('/'));
             entry.isDirectory = entry.name.endsWith(QLatin1Char('/'));
             if (!readLargeNumbers(list.mid(at + headerSize + nameSize, extraSize), entry)) {
                 return false;
@@ -239,7 +245,7 @@ void checkEntry(const QString &archive, const ZipEntry &entry, const QString &na
     if (!problem.isEmpty()) {
         refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked: %2").arg(entry.name, problem));
     }
-    if (entry.name.toUtf8() != entry.rawName) {
+    if (!entry.isUtf8) {
         refuse(archive, QStringLiteral("The name of the entry \"%1\" is no UTF-8").arg(entry.name));
     }
     if (entry.isSpecial) {
@@ -371,7 +377,7 @@ bool isPackedTooTightly(qint64 size, qint64 packedSize)
     return size > harmlessSize && size / maximumRatio > packedSize;
 }
 
-void unpackZip(const QString &archive, const QString &directory)
+QStringList unpackZip(const QString &archive, const QString &directory)
 {
     InputFile file(archive);
     const CentralDirectory list(file, archive);
@@ -381,6 +387,11 @@ void unpackZip(const QString &archive, const QString &directory)
             unpackEntry(file, archive, entry, directory + QLatin1Char('/') + entry.name);
         }
     }
+    const auto &entries = list.entries();
+    const bool hasBackslash =
+        std::any_of(entries.cbegin(), entries.cend(), [](const ZipEntry &entry) { return entry.hasBackslash; });
+    return hasBackslash ? QStringList{QStringLiteral("the backslashes in the archive's names were taken for slashes")}
+                        : QStringList();
 }
 
 QStringList namesInZip(const QString &archive)

@@ -46,7 +46,7 @@ QString suffixOfMediaType(const QString &type)
 } // namespace
 
 IwbPackage::IwbPackage(const QString &path)
-    : m_source(path)
+    : m_source(path, contentFile)
 {
     m_document = loadXmlFile(m_source.file(contentFile), displayName());
     if (iwbName(root()) != QLatin1String("iwb") && svgName(root()) != QLatin1String("svg")) {
@@ -54,6 +54,10 @@ IwbPackage::IwbPackage(const QString &path)
             QStringLiteral("The document begins with <%1> where an IWB file has <iwb>").arg(root().tagName()),
             QStringLiteral("Check that this is an IWB lesson"))
             .in(displayName());
+    }
+    m_files = m_source.files();
+    for (const QString &name : qAsConst(m_files)) {
+        m_folded.insert(name.toCaseFolded(), name);
     }
     extractEmbedded(root());
 }
@@ -65,7 +69,7 @@ QString IwbPackage::displayName() const
 
 QStringList IwbPackage::resources() const
 {
-    QStringList paths = m_source.files();
+    QStringList paths = m_files;
     paths.removeOne(contentFile);
     paths += m_embedded.keys();
     paths.sort();
@@ -107,13 +111,32 @@ void IwbPackage::extractEmbedded(QDomElement element)
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
         QDomAttr attribute = attributes.item(i).toAttr();
-        if (attribute.name().endsWith(QLatin1String("href")) && attribute.value().startsWith(QLatin1String("data:"))) {
+        if (!attribute.name().endsWith(QLatin1String("href"))) {
+            continue;
+        }
+        const QString other = otherName(attribute.value());
+        if (attribute.value().startsWith(QLatin1String("data:"))) {
             attribute.setValue(saveEmbedded(attribute.value()));
+        } else if (!other.isEmpty()) {
+            m_remarks.append(QStringLiteral("%1 was found as %2").arg(attribute.value().left(200), other));
+            attribute.setValue(other);
         }
     }
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         extractEmbedded(child);
     }
+}
+
+// A file that isn't there by its name, but compressed beside it or with other capitals, as some programs leave it.
+QString IwbPackage::otherName(const QString &reference) const
+{
+    const QString path = QUrl::fromPercentEncoding(plainPath(reference.trimmed()).toUtf8());
+    if (path.isEmpty() || hasScheme(path) || path.startsWith(QLatin1Char('#')) || m_source.contains(path)) {
+        return {};
+    }
+    const int name = path.lastIndexOf(QLatin1Char('/')) + 1;
+    const QString compressed = path.left(name) + QLatin1String("compressed_") + path.mid(name);
+    return m_folded.value(compressed.toCaseFolded(), m_folded.value(path.toCaseFolded()));
 }
 
 QString IwbPackage::saveEmbedded(const QString &uri)

@@ -21,6 +21,9 @@ public:
     //! Throws LessonError.
     explicit IwbPackage(const QString &path);
 
+    //! What was found otherwise than the document or the archive has it, as sentences without a full stop.
+    QStringList remarks() const { return m_source.remarks() + m_remarks; }
+
     QDomElement root() const { return m_document.documentElement(); }
     QString displayName() const;
 
@@ -37,11 +40,15 @@ public:
 
 private:
     void extractEmbedded(QDomElement element);
+    QString otherName(const QString &reference) const;
     QString saveEmbedded(const QString &uri);
 
     PackageSource m_source;
     WorkFolder m_work;
     QDomDocument m_document;
+    QStringList m_files; // of the source
+    QHash<QString, QString> m_folded; // the same by their names without capitals
+    QStringList m_remarks;
     QHash<QString, QString> m_embedded; // file on disk by path in the package
 };
 

@@ -8,6 +8,14 @@
 
 namespace lessonhost {
 
+namespace {
+
+// What documents say about themselves, and the lesson's keys for it.
+constexpr std::pair<const char *, const char *> metaKeys[] = {
+    {"owner", "Author"}, {"title", "Title"}, {"date", "Date"}, {"modified", "Date_modified"}};
+
+} // namespace
+
 IwbReader::IwbReader(const QString &path, const LessonContext &context)
     : m_plugin(context.plugin)
     , m_losses(context.losses)
@@ -29,6 +37,14 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
         m_slideIds.append(names.next(m_content.backgroundName(i), id));
     }
     const SlideLosses losses = m_losses.presentation();
+    const auto &meta = m_content.meta();
+    if (!meta.value(QStringLiteral("description")).isEmpty()) {
+        losses.value({QStringLiteral("iwb:meta"), {}}, QStringLiteral("description"),
+                     meta.value(QStringLiteral("description")));
+    }
+    for (const QString &remark : m_package.remarks()) {
+        losses.note({QStringLiteral("presentation"), {}}, remark);
+    }
     for (const SvgRemark &remark : m_content.remarks()) {
         const LossOwner owner(remark.tag, remark.id);
         remark.isLoss ? losses.value(owner, {}, remark.text) : losses.note(owner, remark.text);
@@ -38,7 +54,14 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
 QJsonObject IwbReader::presentation()
 {
     QDomDocument document;
-    return m_plugin->tranPresIWB2JSON(m_content.sizeElement(document), {});
+    QJsonObject presentation = m_plugin->tranPresIWB2JSON(m_content.sizeElement(document), {});
+    for (const auto &[name, key] : metaKeys) {
+        const QString text = m_content.meta().value(QLatin1String(name));
+        if (!text.isEmpty()) {
+            presentation.insert(QLatin1String(key), text);
+        }
+    }
+    return presentation;
 }
 
 LessonSlide IwbReader::slide(int index)

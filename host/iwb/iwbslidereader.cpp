@@ -5,8 +5,12 @@
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
+#include "lesson/itemview.h"
+#include "lesson/planegeometry.h"
+#include "svg/svgvalues.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 namespace lessonhost {
 
@@ -15,6 +19,85 @@ namespace {
 // The plug-in is told a folder that can't be one, so that it finds no file and copies none: files stay where they are,
 // and the host names them.
 const QLatin1String noFolder("/dev/null/");
+
+QJsonObject groupOf(const QJsonArray &children, const QString &id)
+{
+    QRectF extent;
+    bool isVisible = false;
+    for (const QJsonValue &child : children) {
+        const ItemView item(child.toObject());
+        if (const auto box = item.box()) {
+            extent = extent.isNull() ? *box : extent.united(*box);
+        }
+        isVisible = isVisible || item.isVisible();
+    }
+    return {{ItemKeys::type, QStringLiteral("ZQGroupItem")},
+            {ItemKeys::id, id},
+            {ItemKeys::box, boxText(extent)},
+            {ItemKeys::visible, isVisible},
+            {HostKeys::children, children}};
+}
+
+// A line of points that was drawn by hand, as ink. A marker that tells no opacity lets shine through what lies below.
+QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
+{
+    const QPolygonF points = pointsOf(svgNumbers(element.element.attribute(QStringLiteral("points"))));
+    const double width = element.element.attribute(QStringLiteral("stroke-width")).toDouble();
+    QColor color = svgColor(element.element.attribute(QStringLiteral("stroke"))).value_or(QColor(Qt::black));
+    constexpr double markerOpacity = 0.4;
+    if (element.isHighlight && color.alpha() == 255) {
+        color.setAlphaF(markerOpacity);
+    }
+    QPolygonF steps = points;
+    for (int i = steps.size() - 1; i > 0; --i) {
+        steps[i] = points.at(i) - points.at(i - 1);
+    }
+    QJsonObject ink{
+        {ItemKeys::type,
+         element.isHighlight ? QStringLiteral("ZQFluorescentStroke") : QStringLiteral("ZQSmoothStroke")},
+        {ItemKeys::box, boxText(points.boundingRect().adjusted(-width / 2, -width / 2, width / 2, width / 2))},
+        {ItemKeys::color, color.name(QColor::HexArgb)},
+        {ItemKeys::width, QString::number(width)},
+        {ItemKeys::steps, pointsText(steps)},
+        {ItemKeys::angle, QStringLiteral("0")}};
+    for (const QLatin1String key : {ItemKeys::visible, ItemKeys::locked, ItemKeys::endless}) {
+        ink.insert(key, polyline.value(key));
+    }
+    return ink;
+}
+
+// What records say of an item beyond what the plug-in reads.
+void readRecord(const IwbElement &element, QJsonObject &json)
+{
+    const bool isPolyline = element.element.tagName() == QLatin1String("svg:polyline");
+    if (isPolyline && (element.isFreehand || element.isHighlight)) {
+        const QJsonObject polyline = json;
+        json = inkOf(element, polyline);
+        for (auto it = polyline.constBegin(); it != polyline.constEnd(); ++it) {
+            if (it.key().startsWith(QLatin1String("Interactive"))) {
+                json.insert(it.key(), it.value());
+            }
+        }
+    }
+    if (element.isRevealer) {
+        json = {{ItemKeys::type, QStringLiteral("General:curtain")},
+                {ItemKeys::box, json.value(ItemKeys::box)},
+                {QStringLiteral("rect"), json.value(ItemKeys::box)},
+                {ItemKeys::visible, json.value(ItemKeys::visible)},
+                {ItemKeys::locked, json.value(ItemKeys::locked)}};
+    }
+    if (element.flipsAcross) {
+        json.insert(ItemKeys::flippedAcross, QStringLiteral("1"));
+    }
+    if (element.flipsDown) {
+        json.insert(ItemKeys::flippedDown, QStringLiteral("1"));
+    }
+    if (element.textFill.alpha() > 0) {
+        const QString background = QStringLiteral("<span style=\"background-color:%1;").arg(element.textFill.name());
+        json.insert(ItemKeys::html,
+                    json.value(ItemKeys::html).toString().replace(QLatin1String("<span style=\""), background));
+    }
+}
 
 } // namespace
 
@@ -34,6 +117,7 @@ IwbSlideReader::Slide IwbSlideReader::read(IwbPage page, int number, const Slide
     Slide result;
     result.slide.properties = readProperties(page, losses);
     UniqueIds ids;
+    QVector<int> groups;
     for (const IwbElement &element : qAsConst(page.items)) {
         QJsonObject item = readItem(element, losses);
         if (!item.isEmpty()) {
@@ -42,9 +126,45 @@ IwbSlideReader::Slide IwbSlideReader::read(IwbPage page, int number, const Slide
             item.insert(ItemKeys::id, ids.take(id));
             result.slide.items.append(item);
             result.elementIds.append(element.id);
+            groups.append(element.group);
         }
     }
+    putIntoGroups(result, groups, number, ids, losses);
     return result;
+}
+
+// Items that are a group in the document are one again, where nothing stands between them: a group is one layer.
+void IwbSlideReader::putIntoGroups(Slide &slide, const QVector<int> &groups, int number, UniqueIds &ids,
+                                   const SlideLosses &losses)
+{
+    QJsonArray items;
+    QStringList elementIds;
+    QSet<int> begun;
+    for (int i = 0; i < groups.size();) {
+        int end = i + 1;
+        while (groups.at(i) >= 0 && end < groups.size() && groups.at(end) == groups.at(i)) {
+            ++end;
+        }
+        if (groups.at(i) >= 0 && begun.contains(groups.at(i))) {
+            losses.note({QStringLiteral("iwb:group"), slide.elementIds.at(i)},
+                        QStringLiteral("other items stand between those of the group, which fell apart"));
+        }
+        begun.insert(groups.at(i));
+        if (end - i < 2) {
+            items.append(slide.slide.items.at(i));
+            elementIds.append(slide.elementIds.at(i));
+        } else {
+            QJsonArray children;
+            for (int k = i; k < end; ++k) {
+                children.append(slide.slide.items.at(k));
+            }
+            items.append(groupOf(children, ids.take(QStringLiteral("group%1_%2").arg(number).arg(groups.at(i) + 1))));
+            elementIds.append(QString());
+        }
+        i = end;
+    }
+    slide.slide.items = items;
+    slide.elementIds = elementIds;
 }
 
 // The colour and picture of the page, in the keys that ZQTX has for them.
@@ -99,6 +219,7 @@ QJsonObject IwbSlideReader::readItem(IwbElement item, const SlideLosses &losses)
         }
     }
     readLink(item, losses, json);
+    readRecord(item, json);
     return json;
 }
 

@@ -7,6 +7,8 @@
 
 namespace lessonhost {
 
+class UniqueIds;
+
 /*!
  * What the references of a page mean: files, and other pages.
  */
@@ -44,6 +46,7 @@ public:
 private:
     QJsonObject readProperties(IwbPage &page, const SlideLosses &losses);
     QJsonObject readItem(IwbElement item, const SlideLosses &losses);
+    void putIntoGroups(Slide &slide, const QVector<int> &groups, int number, UniqueIds &ids, const SlideLosses &losses);
     QString mediaFile(const IwbElement &item, const SlideLosses &losses);
     void readLink(const IwbElement &item, const SlideLosses &losses, QJsonObject &json);
 

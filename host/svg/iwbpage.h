@@ -1,6 +1,7 @@
 #ifndef IWBPAGE_H
 #define IWBPAGE_H
 
+#include <QColor>
 #include <QDomDocument>
 #include <QHash>
 #include <QRectF>
@@ -33,6 +34,13 @@ struct IwbElement
     bool isVisible = true;
     bool isLocked = false;
     bool isEndless = false; //!< gives copies of itself without end
+    bool isRevealer = false; //!< a cover that is drawn away
+    bool isFreehand = false; //!< ink of a pen
+    bool isHighlight = false; //!< ink of a marker
+    bool flipsAcross = false; //!< left and right are exchanged
+    bool flipsDown = false; //!< up and down are exchanged
+    QColor textFill = Qt::transparent; //!< what lies behind the letters of a text
+    int group = -1; //!< which of the document's groups it belongs to
 };
 
 /*!
@@ -57,6 +65,16 @@ struct IwbRecord
     bool isBackground = false;
     bool refusesPicture = false; //!< says that it is no background
     bool isLocked = false;
+    bool isEndless = false;
+    bool isRevealer = false; //!< a cover that is drawn away
+    bool isFreehand = false;
+    bool isHighlight = false;
+    bool flipsAcross = false;
+    bool flipsDown = false;
+    QString startShape; //!< "arrow" and the like; empty where the record says nothing
+    QString endShape;
+    QString posture; //!< of a background picture; empty where the record says nothing
+    QString textFill; //!< what lies behind a text; empty or "none" for nothing
 };
 
 /*!
@@ -65,7 +83,9 @@ struct IwbRecord
 struct IwbDocumentRules
 {
     QHash<QString, IwbRecord> records; //!< by the identifier that they refer to
+    QHash<QString, int> groups; //!< the number of the group of each identifier that is in one
     QRectF viewBox;
+    bool isIwb = false; //!< a document of IWB, where lines of points are never filled
     bool isNative = false; //!< written by this system or the plug-in, with its own conventions
 };
 

@@ -4,8 +4,6 @@
 #include "svg/svgpagebuilder.h"
 #include "svg/svgvalues.h"
 
-#include <QMap>
-
 namespace lessonhost {
 
 namespace {
@@ -32,6 +30,23 @@ bool isTrue(const QString &text)
     return text == QLatin1String("true") || text == QLatin1String("1");
 }
 
+bool isPageSet(const QString &name)
+{
+    return name == QLatin1String("pageSet") || name == QLatin1String("pageset");
+}
+
+void findPages(const QDomElement &holder, QVector<QDomElement> &pages)
+{
+    for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString name = svgName(child);
+        if (name == QLatin1String("page")) {
+            pages.append(child);
+        } else if (isPageSet(name)) {
+            findPages(child, pages);
+        }
+    }
+}
+
 } // namespace
 
 SvgNormalizer::SvgNormalizer(const QDomElement &root)
@@ -41,11 +56,16 @@ SvgNormalizer::SvgNormalizer(const QDomElement &root)
         return;
     }
     m_rules.isNative = m_svg.attribute(QStringLiteral("version")) == QLatin1String("tesselmark");
+    m_rules.isIwb = iwbName(root) == QLatin1String("iwb");
     readSize();
-    readRecords(root);
-    findPages(m_svg);
-    if (m_pages.isEmpty()) {
-        m_pages.append(m_svg);
+    if (root != m_svg) {
+        readRecords(root);
+    }
+    // Some programs write a section for each layer of the pages.
+    for (QDomElement section = m_svg; !section.isNull(); section = section.nextSiblingElement()) {
+        if (svgName(section) == QLatin1String("svg")) {
+            addLayer(section);
+        }
     }
 }
 
@@ -70,48 +90,76 @@ void SvgNormalizer::readSize()
         {QStringLiteral("svg"), {}, QStringLiteral("the file tells no page size; 1440 x 1080 was taken"), false});
 }
 
-void SvgNormalizer::findPages(const QDomElement &holder)
+void SvgNormalizer::addLayer(const QDomElement &section)
 {
-    for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QString name = svgName(child);
-        if (name == QLatin1String("page")) {
-            m_pages.append(child);
-        } else if (name == QLatin1String("pageSet") || name == QLatin1String("pageset")) {
-            findPages(child);
+    QVector<QDomElement> pages;
+    findPages(section, pages);
+    if (pages.isEmpty()) {
+        pages.append(section);
+    } else {
+        for (QDomElement child = section.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            if (SvgPageBuilder::isDrawn(svgName(child))) {
+                m_remarks.append({svgName(child), child.attribute(QStringLiteral("id")),
+                                  QStringLiteral("it stands on no page and is left out")});
+            }
         }
     }
-    if (m_pages.isEmpty() || holder != m_svg) {
-        return;
+    for (int i = 0; i < pages.size(); ++i) {
+        if (i == m_pages.size()) {
+            m_pages.append(QVector<QDomElement>());
+        }
+        m_pages[i].append(pages.at(i));
     }
-    for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (SvgPageBuilder::isDrawn(svgName(child))) {
-            m_remarks.append({svgName(child), child.attribute(QStringLiteral("id")),
-                              QStringLiteral("it stands on no page and is left out")});
+}
+
+void SvgNormalizer::readRecords(const QDomElement &holder)
+{
+    for (QDomElement row = holder.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+        const QString name = iwbName(row);
+        if (name == QLatin1String("element")) {
+            readRecord(row);
+        } else if (name == QLatin1String("group")) {
+            const int number = m_groupCount++;
+            for (QDomElement member = row.firstChildElement(); !member.isNull(); member = member.nextSiblingElement()) {
+                m_rules.groups.insert(member.attribute(QStringLiteral("ref")), number);
+            }
+            readRecords(row);
+        } else if (name == QLatin1String("meta")) {
+            m_meta.insert(row.attribute(QStringLiteral("name")), row.attribute(QStringLiteral("content")));
+        } else if (name != QLatin1String("link") && svgName(row) != QLatin1String("svg")) {
+            m_remarks.append({row.tagName(), row.attribute(QStringLiteral("ref"), row.attribute(QStringLiteral("id"))),
+                              QStringLiteral("lessons have no such record"), false});
         }
     }
 }
 
-void SvgNormalizer::readRecords(const QDomElement &root)
+// Of two records of one element, the later says what it says.
+void SvgNormalizer::readRecord(const QDomElement &row)
 {
-    QMap<QString, int> others;
-    for (QDomElement row = root.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
-        const QString name = iwbName(row);
-        if (name == QLatin1String("element")) {
-            IwbRecord &record = m_rules.records[row.attribute(QStringLiteral("ref"))];
-            const QString background = row.attribute(QStringLiteral("background"));
-            // The plug-in writes the attribute with a slip of the pen.
-            record.isBackground = isTrue(background) || isTrue(row.attribute(QStringLiteral("backgorund")));
-            record.refusesPicture = background == QLatin1String("false");
-            record.isLocked = isTrue(row.attribute(QStringLiteral("locked")));
-        } else if (row != m_svg && name != QLatin1String("link")) {
-            ++others[row.tagName()];
-        }
-    }
-    for (auto it = others.constBegin(); it != others.constEnd(); ++it) {
-        m_remarks.append({it.key(),
-                          {},
-                          QString::number(it.value()) + QLatin1String(" left out: lessons have no such records"),
-                          false});
+    IwbRecord &record = m_rules.records[row.attribute(QStringLiteral("ref"))];
+    const auto readFlag = [&row](const char *name, bool &flag) {
+        const QString text = row.attribute(QLatin1String(name));
+        flag = text.isEmpty() ? flag : isTrue(text);
+    };
+    const auto readText = [&row](const char *name, QString &text) { text = row.attribute(QLatin1String(name), text); };
+    // The plug-in writes the attribute with a slip of the pen.
+    readFlag("backgorund", record.isBackground);
+    readFlag("background", record.isBackground);
+    record.refusesPicture = row.attribute(QStringLiteral("background")) == QLatin1String("false")
+        || (record.refusesPicture && !row.hasAttribute(QStringLiteral("background")));
+    readFlag("locked", record.isLocked);
+    readFlag("replicate", record.isEndless);
+    readFlag("revealer", record.isRevealer);
+    readFlag("freehand", record.isFreehand);
+    readFlag("highlight", record.isHighlight);
+    readText("stroke-lineshape-start", record.startShape);
+    readText("stroke-lineshape-end", record.endShape);
+    readText("background-posture", record.posture);
+    readText("background-fill", record.textFill);
+    const QString flip = row.attribute(QStringLiteral("flip"));
+    if (!flip.isEmpty()) {
+        record.flipsAcross = flip == QLatin1String("horizontal") || flip == QLatin1String("both");
+        record.flipsDown = flip == QLatin1String("vertical") || flip == QLatin1String("both");
     }
 }
 
@@ -128,14 +176,20 @@ QDomElement SvgNormalizer::sizeElement(QDomDocument &document) const
     return element;
 }
 
+QString SvgNormalizer::pageId(int index) const
+{
+    return m_pages.at(index).first().attribute(QStringLiteral("id"));
+}
+
 QString SvgNormalizer::backgroundName(int index) const
 {
     const QLatin1String ending("_rect");
-    const QDomElement page = m_pages.at(index);
-    for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QString id = child.attribute(QStringLiteral("id"));
-        if (svgName(child) == QLatin1String("rect") && m_rules.records.value(id).isBackground) {
-            return id.endsWith(ending) ? id.chopped(ending.size()) : QString();
+    for (const QDomElement &page : m_pages.at(index)) {
+        for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            const QString id = child.attribute(QStringLiteral("id"));
+            if (svgName(child) == QLatin1String("rect") && m_rules.records.value(id).isBackground) {
+                return id.endsWith(ending) ? id.chopped(ending.size()) : QString();
+            }
         }
     }
     return {};

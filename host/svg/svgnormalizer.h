@@ -25,9 +25,12 @@ public:
     //! The attributes of the svg element that the plug-in reads the size of the lesson from.
     QDomElement sizeElement(QDomDocument &document) const;
 
+    //! What the document says about itself, by the names that it uses: "owner", "description", "creator".
+    const QHash<QString, QString> &meta() const { return m_meta; }
+
     int pageCount() const { return m_pages.size(); }
     //! The identifier of a page in the file.
-    QString pageId(int index) const { return m_pages.at(index).attribute(QStringLiteral("id")); }
+    QString pageId(int index) const;
     //! What a page was made of by the plug-in, which names the rectangle of its background so; empty for others.
     QString backgroundName(int index) const;
     IwbPage page(int index) const;
@@ -37,12 +40,15 @@ public:
 
 private:
     void readSize();
-    void findPages(const QDomElement &holder);
-    void readRecords(const QDomElement &root);
+    void addLayer(const QDomElement &section);
+    void readRecords(const QDomElement &holder);
+    void readRecord(const QDomElement &row);
 
-    QDomElement m_svg;
-    QVector<QDomElement> m_pages;
+    QDomElement m_svg; // the first section, whose size is that of all
+    QVector<QVector<QDomElement>> m_pages; // each with the elements of its layers, from back to front
+    QHash<QString, QString> m_meta;
     IwbDocumentRules m_rules;
+    int m_groupCount = 0;
     QVector<SvgRemark> m_remarks;
 };
 

@@ -5,6 +5,7 @@
 #include "lesson/planegeometry.h"
 #include "svg/svggeometry.h"
 #include "svg/svgnames.h"
+#include "svg/svgpath.h"
 #include "svg/svgtext.h"
 #include "svg/svgvalues.h"
 
@@ -24,6 +25,46 @@ constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
 
 // Elements whose own readers look at what is within.
 constexpr const char *holders[] = {"g", "svg", "a", "switch", "text", "textarea", "textArea"};
+
+bool hasOwnFill(const QDomElement &element)
+{
+    return element.hasAttribute(QStringLiteral("fill"))
+        || svgDeclarations(element.attribute(QStringLiteral("style"))).contains(QStringLiteral("fill"));
+}
+
+// Curves as lines that nobody tells from them at a scale.
+QVector<SvgOutline> flattened(const QPainterPath &path, double scale)
+{
+    QVector<SvgOutline> outlines;
+    const double largest = scale > 0 ? qBound(1e-3, scale, 1e3) : 1;
+    const QList<QPolygonF> polygons = path.toSubpathPolygons(QTransform::fromScale(4 * largest, 4 * largest));
+    for (const QPolygonF &polygon : polygons) {
+        SvgOutline outline;
+        for (const QPointF &point : polygon) {
+            outline.points.append(point / (4 * largest));
+        }
+        outline.closed = polygon.isClosed();
+        outlines.append(outline);
+    }
+    return outlines;
+}
+
+// The format that an alternative asks for and that nothing here draws; empty for one that can be shown.
+QString unknownFormat(const QDomElement &element)
+{
+    constexpr const char *known[] = {"bmp", "png",  "jpg", "jpeg", "gif", "svg",
+                                     "mpg", "mpeg", "mp4", "swf",  "mp3", "wav"};
+    for (const char *name : {"requiredExtensions", "requiredExtension"}) {
+        const QString required = element.attribute(QLatin1String(name)).trimmed();
+        const QString format = required.section(QLatin1Char('/'), -1).toLower();
+        if (!required.isEmpty() && !isOneOf(known, format)) {
+            return format;
+        }
+    }
+    const QString suffix = linkTarget(element).section(QLatin1Char('.'), -1).toLower();
+    constexpr const char *undrawn[] = {"wmf", "emf", "wmz", "emz"};
+    return svgName(element) == QLatin1String("image") && isOneOf(undrawn, suffix) ? suffix : QString();
+}
 
 bool isArrow(const QString &text)
 {
@@ -73,12 +114,14 @@ bool SvgPageBuilder::isDrawn(const QString &svgName)
     return !svgName.isEmpty() && !isOneOf(silentElements, svgName);
 }
 
-IwbPage SvgPageBuilder::build(const QDomElement &page)
+IwbPage SvgPageBuilder::build(const QVector<QDomElement> &layers)
 {
-    Place place;
-    place.style.matrix = QTransform::fromTranslate(-m_rules.viewBox.x(), -m_rules.viewBox.y());
-    place.style = place.style.child(page, nativeTransform(page), remarkAbout(page));
-    children(page, place);
+    for (const QDomElement &page : layers) {
+        Place place;
+        place.style.matrix = QTransform::fromTranslate(-m_rules.viewBox.x(), -m_rules.viewBox.y());
+        place.style = place.style.child(page, nativeTransform(page), remarkAbout(page));
+        children(page, place);
+    }
     finishBackground();
     return m_result;
 }
@@ -166,11 +209,22 @@ void SvgPageBuilder::nestedSvg(const QDomElement &element, const Place &place)
     children(element, inner);
 }
 
+// The first that can be shown, alone.
 void SvgPageBuilder::alternatives(const QDomElement &element, const Place &place)
 {
-    const QDomElement first = element.firstChildElement();
-    if (!first.isNull()) {
-        convert(first, place);
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString format = unknownFormat(child);
+        if (format.isEmpty()) {
+            convert(child, place);
+            return;
+        }
+        const bool hasOther = !child.nextSiblingElement().isNull();
+        remark(child,
+               QStringLiteral("%1 can't be shown here, and %2")
+                   .arg(format,
+                        hasOther ? QStringLiteral("what stands for it is taken")
+                                 : QStringLiteral("nothing stands for it")),
+               !hasOther);
     }
 }
 
@@ -239,9 +293,10 @@ void SvgPageBuilder::line(const QDomElement &element, const Place &place)
 {
     QPointF from = place.style.matrix.map(QPointF(length(element, "x1"), length(element, "y1")));
     QPointF to = place.style.matrix.map(QPointF(length(element, "x2"), length(element, "y2")));
-    bool startsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-start")))
+    const IwbRecord record = recordOf(element);
+    bool startsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-start"), record.startShape))
         || isArrow(place.style.property(QStringLiteral("marker-start")));
-    bool endsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-end")))
+    bool endsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-end"), record.endShape))
         || isArrow(place.style.property(QStringLiteral("marker-end")));
     if (endsWithArrow && !startsWithArrow) {
         // Lessons know a single arrow at the start only.
@@ -270,7 +325,11 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
     if (numbers.size() % 2 == 1) {
         remark(element, QStringLiteral("its last point has no y and is left out"));
     }
-    outline(element, place, pointsOf(numbers), false);
+    Place inner = place;
+    if (m_rules.isIwb && !hasOwnFill(element)) {
+        inner.style.set(QStringLiteral("fill"), QStringLiteral("none"));
+    }
+    outline(element, inner, pointsOf(numbers), false);
 }
 
 void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
@@ -284,15 +343,21 @@ void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
 
 void SvgPageBuilder::path(const QDomElement &element, const Place &place)
 {
-    const auto outlines = svgStraightPath(element.attribute(QStringLiteral("d")));
+    const QString data = element.attribute(QStringLiteral("d"));
+    auto outlines = svgStraightPath(data);
     if (!outlines) {
-        remark(element, QStringLiteral("it has curves, which lessons don't have"));
-        return;
+        const auto curves = svgPath(data);
+        if (!curves) {
+            remark(element, QStringLiteral("its data can't be read"));
+            return;
+        }
+        outlines = flattened(*curves, meanScale(place.style.matrix));
+        remark(element, QStringLiteral("its curves became fine lines"), false);
     }
     if (outlines->size() > 1) {
         remark(element, QString::number(outlines->size()) + QLatin1String(" outlines became an item each"), false);
     }
-    for (const SvgOutline &shape : *outlines) {
+    for (const SvgOutline &shape : qAsConst(*outlines)) {
         if (shape.points.size() > 1) {
             outline(element, place, shape.points, shape.closed);
         }
@@ -316,7 +381,9 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
         }
     }
     const SvgPaint paint = svgPaint(place.style, m_rules.isNative, remarkAbout(source));
-    if (points.size() == 3 && (!m_rules.isNative || paint.fill.alpha() > 0)) {
+    const IwbRecord record = recordOf(source);
+    const bool isInk = record.isFreehand || record.isHighlight;
+    if (points.size() == 3 && !isInk && (!m_rules.isNative || paint.fill.alpha() > 0)) {
         points.append(points.last());
     }
     IwbElement &item = addItem(source, place, QStringLiteral("svg:polyline"));
@@ -343,7 +410,8 @@ void SvgPageBuilder::media(const QDomElement &source, const Place &place, const 
         remark(source, QStringLiteral("it is drawn slanted no longer"), false);
     }
     if (place.style.matrix.determinant() < 0 && tag == QLatin1String("svg:image")) {
-        remark(source, QStringLiteral("it is mirrored no longer"), false);
+        // The box is turned with its upper side: what is upside down then is flipped.
+        item.flipsDown = !item.flipsDown;
     }
     if (place.style.opacity < 1) {
         remark(source, QStringLiteral("it is no longer translucent"), false);
@@ -385,7 +453,7 @@ void SvgPageBuilder::textArea(const QDomElement &element, const Place &place)
 bool SvgPageBuilder::takeBackground(const QDomElement &element, const QString &name, const SvgStyle &style)
 {
     const QString id = element.attribute(QStringLiteral("id"));
-    const IwbRecord record = m_rules.records.value(id);
+    const IwbRecord record = recordOf(element);
     if (name == QLatin1String("rect") && record.isBackground && !m_hasBackground) {
         m_hasBackground = true;
         m_background = svgPaint(style, m_rules.isNative, remarkAbout(element)).fill;
@@ -395,10 +463,37 @@ bool SvgPageBuilder::takeBackground(const QDomElement &element, const QString &n
     const bool isNamedPicture = !m_backgroundStem.isEmpty() && id == m_backgroundStem + QLatin1String("_bgd");
     if (name == QLatin1String("image") && m_result.backgroundReference.isEmpty()
         && (record.isBackground || isNamedPicture) && !record.refusesPicture) {
+        if (!fillsPage(element, record, style)) {
+            return false;
+        }
         m_result.backgroundReference = linkTarget(element);
         return true;
     }
     return false;
+}
+
+// The picture of a slide fills it. One that stands elsewhere is a picture that can't be moved.
+bool SvgPageBuilder::fillsPage(const QDomElement &element, const IwbRecord &record, const SvgStyle &style)
+{
+    if (m_rules.isNative || record.posture == QLatin1String("stretched-to-fill")) {
+        return true;
+    }
+    if (record.posture == QLatin1String("repeated")) {
+        remark(element, QStringLiteral("the picture fills the page once instead of many times"));
+        return true;
+    }
+    const QRectF box(length(element, "x"), length(element, "y"), length(element, "width", m_rules.viewBox.width()),
+                     length(element, "height", m_rules.viewBox.height()));
+    const QRectF onPage = style.matrix.mapRect(box);
+    const QSizeF page = m_rules.viewBox.size();
+    const double tolerance = qMax(page.width(), page.height()) / 100;
+    const QRectF difference(onPage.topLeft(), onPage.size() - page);
+    const bool isFull = qAbs(difference.x()) <= tolerance && qAbs(difference.y()) <= tolerance
+        && qAbs(difference.width()) <= tolerance && qAbs(difference.height()) <= tolerance;
+    if (!isFull) {
+        remark(element, QStringLiteral("it doesn't fill the page, so it became a picture that can't be moved"), false);
+    }
+    return isFull;
 }
 
 void SvgPageBuilder::finishBackground()
@@ -454,9 +549,28 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     const QString locked = source.attribute(QStringLiteral("lockin"));
     item.isLocked =
         locked == QLatin1String("1") || (locked != QLatin1String("0") && m_rules.records.value(item.id).isLocked);
-    item.isEndless = source.attribute(QStringLiteral("infiniteclone")) == QLatin1String("1");
+    const IwbRecord record = recordOf(source);
+    if (tag == QLatin1String("svg:image") && record.isBackground) {
+        item.isLocked = true;
+    }
+    item.isEndless = source.attribute(QStringLiteral("infiniteclone")) == QLatin1String("1") || record.isEndless;
+    item.isRevealer = record.isRevealer && tag == QLatin1String("svg:rect");
+    item.isFreehand = record.isFreehand;
+    item.isHighlight = record.isHighlight;
+    item.flipsAcross = record.flipsAcross && tag == QLatin1String("svg:image");
+    item.flipsDown = record.flipsDown && tag == QLatin1String("svg:image");
+    if (tag == QLatin1String("svg:textarea")) {
+        item.textFill = svgColor(record.textFill).value_or(QColor(Qt::transparent));
+    }
+    item.group = item.id.isEmpty() ? -1 : m_rules.groups.value(item.id, -1);
     m_result.items.append(item);
     return m_result.items.last();
+}
+
+IwbRecord SvgPageBuilder::recordOf(const QDomElement &element) const
+{
+    const QString id = element.attribute(QStringLiteral("id"));
+    return id.isEmpty() ? IwbRecord() : m_rules.records.value(id);
 }
 
 double SvgPageBuilder::length(const QDomElement &element, const char *name, double fallback)

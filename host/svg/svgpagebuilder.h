@@ -16,7 +16,8 @@ class SvgPageBuilder
 public:
     explicit SvgPageBuilder(const IwbDocumentRules &rules);
 
-    IwbPage build(const QDomElement &page);
+    //! layers: the page elements that lie over each other, from back to front.
+    IwbPage build(const QVector<QDomElement> &layers);
 
     //! True for svg elements that show something, converted or not.
     static bool isDrawn(const QString &svgName);
@@ -51,7 +52,9 @@ private:
     void text(const QDomElement &element, const Place &place);
     void textArea(const QDomElement &element, const Place &place);
 
+    IwbRecord recordOf(const QDomElement &element) const;
     bool takeBackground(const QDomElement &element, const QString &name, const SvgStyle &style);
+    bool fillsPage(const QDomElement &element, const IwbRecord &record, const SvgStyle &style);
     void finishBackground();
     void outline(const QDomElement &source, const Place &place, QPolygonF points, bool isClosed);
     void media(const QDomElement &source, const Place &place, const QString &tag);
