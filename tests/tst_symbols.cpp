@@ -202,8 +202,11 @@ private slots:
         file->root().save(stream, 0);
         stream.flush();
         const QImage expected = picture(text, size);
-        const QImage image = picture(
-            drawn({{"BoundingBox", QString("0,0,%1,%2").arg(size.width()).arg(size.height())}}, type, size), size);
+        const QByteArray svg =
+            drawn({{"BoundingBox", QString("0,0,%1,%2").arg(size.width()).arg(size.height())}}, type, size);
+        const QString middle = QString("1,0,0,1,%1,%2").arg(size.width() / 2.0).arg(size.height() / 2.0);
+        QCOMPARE(drawn({{"Matrix", middle}}, type, size), svg);
+        const QImage image = picture(svg, size);
         int differing = 0;
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x) {

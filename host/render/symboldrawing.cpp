@@ -302,14 +302,27 @@ private:
     double m_lineFactor = 1;
 };
 
+// The item's box; a raw item, which has none, is as large as its file around the origin of its Matrix.
+PlacedBox boxOf(const ItemView &item, const QSizeF &usual)
+{
+    const PlacedBox box(item);
+    if (!box.isEmpty() || item.box() || !item.matrix()) {
+        return box;
+    }
+    return {QRectF(QPointF(-usual.width() / 2, -usual.height() / 2), usual), *item.matrix()};
+}
+
 bool drawSymbol(Canvas &canvas, const ItemView &item)
 {
     if (drawByRule(canvas, item)) {
         return true;
     }
     const auto file = SymbolFile::ofType(item.type());
-    const PlacedBox box(item);
-    if (!file || box.isEmpty() || file->size().isEmpty()) {
+    if (!file || file->size().isEmpty()) {
+        return false;
+    }
+    const PlacedBox box = boxOf(item, file->size());
+    if (box.isEmpty()) {
         return false;
     }
     SymbolPainter(canvas, item, box, *file).draw();
