@@ -262,7 +262,8 @@ private:
         word.turn = m_wordAngle;
         double size = style.fontPixels() * m_scale;
         // Words of the item's own may be longer than those of the file.
-        const double room = number("data-room") * m_scale;
+        const double half = number("data-room") / 2;
+        const double room = place.x.at(number("x") + half) - place.x.at(number("x") - half);
         if (room > 0) {
             QFont font(QStringLiteral("sans-serif"));
             font.setPixelSize(100);
