@@ -2,7 +2,6 @@
 
 #include "itemfamilies.h"
 #include "lesson/plainnames.h"
-#include "translatorchains.h"
 #include "typicalitems.h"
 
 #include <QJsonArray>
@@ -119,8 +118,7 @@ QJsonObject contactSheet(const QString &word)
             const bool isChosen = family.title.contains(word, Qt::CaseInsensitive);
             QStringList types;
             for (const QString &type : qAsConst(family.types)) {
-                // Names of ZQTX mean the same as another type's.
-                if (txTypeToJsonType(type) == type && (isChosen || type.contains(word, Qt::CaseInsensitive))) {
+                if (isModelType(type) && (isChosen || type.contains(word, Qt::CaseInsensitive))) {
                     types.append(type);
                 }
             }

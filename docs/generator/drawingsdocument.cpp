@@ -4,7 +4,6 @@
 #include "itempictures.h"
 #include "lesson/plainnames.h"
 #include "transformationplugin.h"
-#include "translatorchains.h"
 #include "typicalitems.h"
 
 #include <algorithm>
@@ -169,8 +168,7 @@ QString section(Effects &effects, const TitledTypes &family)
 {
     QVector<Shown> types;
     for (const QString &type : family.types) {
-        // Names of ZQTX mean the same as another type's.
-        if (txTypeToJsonType(type) == type) {
+        if (isModelType(type)) {
             types.append(shownOf(effects, type));
         }
     }

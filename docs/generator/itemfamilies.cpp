@@ -83,6 +83,11 @@ const QVector<TitledTypes> &itemFamilies()
     return families;
 }
 
+bool isModelType(const QString &type)
+{
+    return txTypeToJsonType(type) == type;
+}
+
 KeyPlaces keyMapsOfType(const QString &type)
 {
     const auto translator = createTranslator(type);

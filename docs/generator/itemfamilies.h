@@ -28,6 +28,9 @@ struct TitledTypes
 //! All families and the types that they know by name.
 const QVector<TitledTypes> &itemFamilies();
 
+//! False for a name of ZQTX, which means the same as another type's.
+bool isModelType(const QString &type);
+
 KeyPlaces keyMapsOfType(const QString &type);
 KeyPlaces keyMapsOfEveryItem();
 //! What mathematics, physics, chemistry, vector shapes and figures have in common.

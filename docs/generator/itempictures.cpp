@@ -13,7 +13,8 @@ using namespace lessonhost;
 class ItemPictures::Lesson : public LessonReader
 {
 public:
-    Lesson()
+    explicit Lesson(const QSizeF &page)
+        : m_page(page)
     {
         const QJsonObject files = typicalFiles();
         for (auto it = files.constBegin(); it != files.constEnd(); ++it) {
@@ -27,8 +28,8 @@ public:
 
     QJsonObject presentation() override
     {
-        return {{QStringLiteral("Width"), QString::number(pageSize().width())},
-                {QStringLiteral("Height"), QString::number(pageSize().height())}};
+        return {{QStringLiteral("Width"), QString::number(m_page.width())},
+                {QStringLiteral("Height"), QString::number(m_page.height())}};
     }
     int slideCount() override { return 1; }
     LessonSlide slide(int) override { return {{}, items}; }
@@ -40,11 +41,12 @@ public:
 private:
     QString fileOf(QString path) const { return m_folder.filePath(path.replace(QLatin1Char('/'), QLatin1Char('-'))); }
 
+    QSizeF m_page;
     QTemporaryDir m_folder;
 };
 
-ItemPictures::ItemPictures(IZQTransformation *plugin)
-    : m_lesson(std::make_unique<Lesson>())
+ItemPictures::ItemPictures(IZQTransformation *plugin, const QSizeF &page)
+    : m_lesson(std::make_unique<Lesson>(page))
 {
     LessonContext context;
     context.plugin = plugin;

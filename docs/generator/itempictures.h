@@ -13,12 +13,13 @@
 class ItemPictures
 {
 public:
-    //! plugin has to live as long.
-    explicit ItemPictures(IZQTransformation *plugin);
-    ~ItemPictures();
-
     //! A page that leaves room around the typical boxes of all types, turned or not.
     static QSizeF pageSize() { return {320, 320}; }
+
+    //! plugin has to live as long.
+    explicit ItemPictures(IZQTransformation *plugin, const QSizeF &page = pageSize());
+    ~ItemPictures();
+
     //! The typical box of a type in its middle.
     static QRectF boxOf(const QString &type);
 

@@ -1,7 +1,6 @@
 #include "sampleitems.h"
 
 #include "itemfamilies.h"
-#include "translatorchains.h"
 
 #include <QBuffer>
 #include <QDomDocument>
@@ -184,8 +183,8 @@ QJsonObject sampleLesson()
     QJsonArray items;
     for (const TitledTypes &family : itemFamilies()) {
         for (const QString &type : family.types) {
-            if (txTypeToJsonType(type) != type) {
-                continue; // the name that another type has in ZQTX
+            if (!isModelType(type)) {
+                continue;
             }
             items.append(sampleItem(type, items.size() + 1));
         }
@@ -214,8 +213,8 @@ QString rawSampleLesson()
     slide.setAttribute(QStringLiteral("BackColor"), QStringLiteral("255,10,20,30"));
     for (const TitledTypes &family : itemFamilies()) {
         for (const QString &type : family.types) {
-            if (type.contains(QLatin1Char(':')) || txTypeToJsonType(type) != type) {
-                continue; // a name of ZQTX
+            if (type.contains(QLatin1Char(':')) || !isModelType(type)) {
+                continue;
             }
             QDomElement item = document.createElement(type);
             const QJsonObject places = keyMapsOfType(type).xml;
