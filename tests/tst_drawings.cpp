@@ -181,6 +181,8 @@ private slots:
             "{'Type':'ZQShapeYiduiduoshu','ArtObj_Point1x':50,'ArtObj_Point1y':0,'ArtObj_Point2x':10,"
             "'ArtObj_Point2y':60,'ArtObj_Point3x':90,'ArtObj_Point3y':80}",
             "\"M50.00 0.00L50.00 30.00M10.00 30.00L90.00 30.00M10.00 30.00L10.00 60.00M90.00 30.00L90.00 80.00\"");
+        row("hose by its points", "{'Type':'ZQChemistryXiangPiGuan','Control':'0,0,30,60,60,0,90,30'}",
+            "\"M0.00 0.00C30.00 60.00 60.00 0.00 90.00 30.00\"");
         row("points in one place",
             "{'Type':'ZQShapeLianjiexian','ArtObj_Point1x':1,'ArtObj_Point1y':1,"
             "'ArtObj_Point2x':1,'ArtObj_Point2y':1}",

@@ -73,6 +73,31 @@ bool drawWire(Canvas &canvas, const ItemView &item)
     return true;
 }
 
+// A hose that bends by its four points as curved arrows do.
+bool drawTube(Canvas &canvas, const ItemView &item)
+{
+    constexpr int bendingPoints = 4;
+    constexpr double bore = 8;
+    SvgPaint paint = linePaint(item);
+    const double width = bore + 2 * paint.lineWidth;
+    auto box = item.box();
+    if (box && box->width() > 2 * width && box->height() > 2 * width) {
+        box->adjust(width / 2, width / 2, -width / 2, -width / 2);
+    }
+    const QPolygonF points = placeOnPage(item).map(fittedPoints(item.points(ItemKeys::control), box));
+    if (points.size() != bendingPoints || points.first() == points.last()) {
+        return false;
+    }
+    QPainterPath path(points.at(0));
+    path.cubicTo(points.at(1), points.at(2), points.at(3));
+    paint.lineWidth = width;
+    canvas.svg().addPath(path, paint);
+    paint.lineWidth = bore;
+    paint.line = firstColor(item, {"ArtObj_Color"}, QColor(0xe3, 0xe3, 0xe3));
+    canvas.svg().addPath(path, paint);
+    return true;
+}
+
 } // namespace
 
 bool drawByRule(Canvas &canvas, const ItemView &item)
@@ -80,6 +105,7 @@ bool drawByRule(Canvas &canvas, const ItemView &item)
     static const QHash<QString, SvgDrawing> rules{
         {QStringLiteral("ZQPhysicsDaoxian"), &drawWire},
         {QStringLiteral("ZQPhysicsLi"), &drawForces},
+        {QStringLiteral("ZQChemistryXiangPiGuan"), &drawTube},
     };
     const SvgDrawing rule = rules.value(item.type());
     return rule && rule(canvas, item);
