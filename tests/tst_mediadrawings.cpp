@@ -73,6 +73,24 @@ private slots:
             "M20.00 98.00L26.00 96.00L32.00 94.00L32.00 106.00L26.00 104.00L20.00 102.00L20.00 98.00Z|stroke=\"none\"");
         row("dot", "{'Type':'ZQChalkStroke','XY':'10,50','Width':'8'}", "M14.00 50.00C|stroke=\"none\"");
         row("ink without points", "{'Type':'ZQChalkStroke','BoundingBox':'0,0,200,90'}", ">Chalk stroke<");
+        row("rubbed-out ink",
+            "{'Type':'stroke','XY':'10,50,200,0','Width':'10','Color':'#80ff0000','Angle':'0'},"
+            "{'Type':'stroke','XY':'10,80,200,0','Width':'10','IgnoreEraser':true},"
+            "{'Type':'ZQStrokesDeletePixel','XY':'100,0,0,200','Width':'20'},"
+            "{'Type':'stroke','XY':'10,90,200,0','Width':'10'}",
+            "90.00 45.00|90.00 55.00|110.00 45.00|110.00 55.00|evenodd|fill-opacity=\"0.50\"|"
+            "M10.00 80.00L210.00 80.00|M10.00 90.00L210.00 90.00|!M10.00 50.00L210.00 50.00");
+        row("ink of a group that is rubbed out where it is on the page",
+            "{'Type':'ZQGroupItem','Matrix':'1,0,0,1,100,0','Children':[{'Type':'stroke','XY':'10,50,200,0',"
+            "'Width':'10'}]},{'Type':'ZQStrokesDeletePixel','XY':'200,0,0,200','Width':'20'}",
+            "matrix(1 0 0 1 100 0)|90.00 45.00|110.00 55.00|evenodd");
+        row("texture", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','Width':'20','DrawTexture':'a.svg'}",
+            "x=\"0.00\" xlink:href=\"data:image/png|width=\"100.00\"|height=\"20.00\"|!<path");
+        row("texture that is missing", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','DrawTexture':'b.svg'}", "<path");
+        row("stamps", "{'Type':'ZQStrokesStamp','XY':'50,50,80,10','Width':'30','Stamp':'a.svg','DrawTexture':'a.svg'}",
+            "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/png");
+        row("stamp in a box", "{'Type':'ZQStrokesStamp','BoundingBox':'5,6,12,16','Stamp':'a.svg'}",
+            "height=\"10.00\"|width=\"7.00\"|data:image/png");
         row("film", "{'Type':'ZQMediaVideo','BoundingBox':'0,0,200,150','resource':'v/of a day.mp4'}",
             ">of a day.mp4<|>Film, MP4<|!matrix(");
         row("sound that is named",

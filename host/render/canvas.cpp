@@ -44,6 +44,18 @@ void Canvas::addText(const QString &html, const QRectF &area, const QTransform &
     m_svg.addTextInMiddle(m_pages.items().write(document, board, {}, {}));
 }
 
+QSize Canvas::pictureSize(const QString &reference) const
+{
+    const QString file = m_files.find(reference);
+    return file.isEmpty() ? QSize() : Picture(file).size();
+}
+
+QImage Canvas::picture(const QString &reference, qint64 mostPixels) const
+{
+    const QString file = m_files.find(reference);
+    return file.isEmpty() ? QImage() : Picture(file).image(mostPixels);
+}
+
 bool Canvas::addPicture(const QString &reference, const QRectF &box, const QTransform &placed)
 {
     const QString file = m_files.find(reference);

@@ -5,6 +5,7 @@
 #include "iwb/iwbpagewriter.h"
 #include "lesson/itemview.h"
 #include "render/plainsvg.h"
+#include "render/rubbing.h"
 
 namespace lessonhost {
 
@@ -23,6 +24,12 @@ public:
     //! reference: as items name their files.
     bool hasFile(const QString &reference) const { return !m_files.find(reference).isEmpty(); }
 
+    //! Pixels; empty for what is no picture of the lesson.
+    QSize pictureSize(const QString &reference) const;
+    //! Its pixels, made smaller if it has more than most; null for what is no picture of the lesson. Throws LessonError
+    //! where the disk fails.
+    QImage picture(const QString &reference, qint64 mostPixels) const;
+
     //! The item as IWB shows it. False where IWB has nothing to see for it.
     bool addAsIwb(const QJsonObject &item);
 
@@ -34,10 +41,14 @@ public:
     //! hasn't, or that can't be drawn.
     bool addPicture(const QString &reference, const QRectF &box, const QTransform &placed = {});
 
+    //! What is rubbed out of the ink that is drawn now.
+    Rubbing &rubbing() { return m_rubbing; }
+
 private:
     PlainSvg &m_svg;
     IwbPageWriter &m_pages;
     IwbMedia &m_files;
+    Rubbing m_rubbing;
 };
 
 //! A drawing of one type. False for an item that doesn't tell enough for it.

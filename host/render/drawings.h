@@ -16,6 +16,10 @@ public:
     //! The arguments of Canvas.
     Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files);
 
+    //! Before the items are drawn: what is rubbed out of those before, for each record of it in the order of the slide,
+    //! where it is on the page.
+    void rubOut(const QPainterPath &area) { m_canvas.rubbing().add(area); }
+
     //! False for an item that is shown by its name alone.
     bool draw(const QJsonObject &item);
 

@@ -1,5 +1,7 @@
 #include "render/inkpath.h"
 
+#include "files/drawingbounds.h"
+
 #include <QLineF>
 
 #include <cmath>
@@ -222,14 +224,27 @@ FineTrack refined(const InkTrack &track)
 InkTrack::InkTrack(const QPolygonF &all, const QVector<double> &allWidths)
 {
     const bool hasWidths = !all.isEmpty() && allWidths.size() >= all.size();
+    const auto bounded = [](double value) {
+        return qIsNaN(value) ? 0 : qBound(-largestInDrawing, value, largestInDrawing);
+    };
     for (int i = 0; i < all.size(); ++i) {
-        if (points.isEmpty() || QLineF(points.last(), all.at(i)).length() > samePlace) {
-            points.append(all.at(i));
+        const QPointF point(bounded(all.at(i).x()), bounded(all.at(i).y()));
+        if (points.isEmpty() || QLineF(points.last(), point).length() > samePlace) {
+            points.append(point);
             if (hasWidths) {
                 widths.append(allWidths.at(i));
             }
         }
     }
+}
+
+double InkTrack::length() const
+{
+    double sum = 0;
+    for (int i = 1; i < points.size(); ++i) {
+        sum += QLineF(points.at(i - 1), points.at(i)).length();
+    }
+    return sum;
 }
 
 QPainterPath smoothLine(const InkTrack &track)

@@ -15,10 +15,11 @@ struct InkTrack
     QPolygonF points;
     QVector<double> widths; //!< at the points; empty for a stroke of one width
 
-    //! widths count only if there is one for each point.
+    //! widths count only if there is one for each point. What lies beyond the bounds of drawings is brought to them.
     InkTrack(const QPolygonF &points, const QVector<double> &widths);
 
     bool isDot() const { return points.size() == 1; }
+    double length() const; //!< straight from point to point
 };
 
 //! A smooth line through the points; where they turn sharply it has a corner. Ends that meet are smooth, too.

@@ -9,7 +9,9 @@
 #include "render/labellines.h"
 #include "svg/svgstyle.h"
 
+#include <QBuffer>
 #include <QFontMetricsF>
+#include <QImage>
 
 namespace lessonhost {
 
@@ -326,6 +328,20 @@ bool PlainSvg::addPicture(const QString &file, const QRectF &box)
     image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
     image.setAttribute(QStringLiteral("xlink:href"), address);
     return true;
+}
+
+void PlainSvg::addImage(const QImage &image, const QRectF &box)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    m_pixels.take(1, qint64(image.width()) * image.height());
+    QDomElement element = append(QStringLiteral("image"));
+    setBox(element, box);
+    element.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+    element.setAttribute(QStringLiteral("xlink:href"),
+                         QLatin1String("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()));
 }
 
 bool PlainSvg::addPicture(const QDomElement &image)

@@ -56,6 +56,9 @@ public:
         PlainSvg &m_svg;
         QTransform m_before;
     };
+    //! From what is added now to the page.
+    QTransform transform() const { return m_transform; }
+
     //! What was added, within the bounds of drawings.
     QByteArray text();
 
@@ -67,6 +70,10 @@ public:
 
     //! Adds a text area of an IWB page with its lines in the middle of its height.
     void addTextInMiddle(const QDomElement &area) { addText(area, true); }
+    //! How many pixels a picture may have that is made for this page; 0 if there were too many before.
+    qint64 mostPixels() const { return m_pixels.shareFor(1); }
+    //! Such a picture.
+    void addImage(const QImage &image, const QRectF &box);
     //! With round corners and no caps, so that no tip of a line reaches further than its width does.
     QDomElement addPath(const QPainterPath &path, const SvgPaint &paint);
 

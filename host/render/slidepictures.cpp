@@ -3,6 +3,7 @@
 #include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
 #include "render/drawings.h"
+#include "render/inkdrawing.h"
 #include "render/itemoutline.h"
 #include "render/plainsvg.h"
 
@@ -82,7 +83,10 @@ void takeApart(const QJsonObject &item, const QTransform &placed, QVector<Shown>
     }
     const QVector<QJsonObject> children = view.looseChildren();
     const QTransform inside = children.isEmpty() ? placed : placeOfChildren(view) * placed;
-    for (const QJsonObject &child : children) {
+    for (QJsonObject child : children) {
+        if (view.flag(ItemKeys::ignoresEraser)) {
+            child.insert(ItemKeys::ignoresEraser, true);
+        }
         takeApart(child, inside, result);
     }
     if (children.isEmpty()) {
@@ -142,6 +146,11 @@ SlidePicture SlidePictures::picture(int index)
         takeApart(item.toObject(), {}, items);
     }
     Drawings drawings(plain, m_pages, m_media);
+    for (const Shown &shown : qAsConst(items)) {
+        if (const auto rubbed = rubbedArea(ItemView(shown.item))) {
+            drawings.rubOut(shown.placed.map(*rubbed));
+        }
+    }
     for (const Shown &shown : qAsConst(items)) {
         const PlainSvg::Scope scope(plain, shown.placed);
         if (!drawings.draw(shown.item)) {
