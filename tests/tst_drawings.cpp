@@ -194,7 +194,8 @@ private slots:
         row("raw figure", "{'Type':'ZQShapeFangkuohao','ArtObj_Mw':'20','ArtObj_Mh':'40','Matrix':'1,0,0,1,50,60'}",
             "\"M60.00 40.00L40.00 40.00L40.00 80.00L60.00 80.00\"");
         row("arrow that nobody knows", "{'Type':'ZQShapeGeshijiantou','BoundingBox':'0,0,9,9','ArtObj_Type':'4'}", "");
-        row("no path", "{'Type':'ZQVectorJuxing','BoundingBox':'0,0,9,9'}", "");
+        row("no path", "{'Type':'ZQVectorJuxing','BoundingBox':'0,0,90,90'}", "<path");
+        row("no path of a form without a name", "{'Type':'ZQVectorPianduan','BoundingBox':'0,0,9,9'}", "");
         row("one point", "{'Type':'ZQVectorJuxing','VectorControl0':[1,2,3,4,5,6,7]}", "");
         row("a box without an area", "{'Type':'ZQMathToolCoordinatePolar','BoundingBox':'5,5,5,9'}", "");
         row("a matrix without an area",

@@ -18,7 +18,8 @@ namespace lessonhost {
 
 namespace {
 
-// Each family tells which of its types it has a drawing for.
+// Each family tells which of its types it has a drawing for. Symbols are last: of types whose items tell their outline,
+// they are the usual look of one that doesn't.
 // clang-format off
 constexpr SvgDrawing (*families[])(const QString &type) = {
     &vectorDrawing,
@@ -35,8 +36,9 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
 bool drawFromFamilies(Canvas &canvas, const ItemView &item)
 {
     for (const auto drawingOf : families) {
-        if (const SvgDrawing drawing = drawingOf(item.type())) {
-            return drawing(canvas, item);
+        const SvgDrawing drawing = drawingOf(item.type());
+        if (drawing && drawing(canvas, item)) {
+            return true;
         }
     }
     return false;

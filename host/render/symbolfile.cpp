@@ -32,6 +32,7 @@ struct FamilyColors
 constexpr FamilyColors families[] = {
     {"ZQPhysics", "edge:ArtObj_Color0 fill:ArtObj_Color1"},
     {"ZQChemistry", "liquid:ArtObj_LiquidColor"},
+    {"ZQVector", "edge:ArtVectObj_FrameColor fill:ArtVectObj_RegionColor"},
 };
 
 void addColors(QHash<QString, QStringList> &keys, const QString &text)
