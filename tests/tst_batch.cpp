@@ -191,6 +191,38 @@ private slots:
         QVERIFY(convert(arguments + QStringList{"--no-check"}).output.startsWith("3 lessons: 3 converted"));
     }
 
+    // What has a file a slide becomes a folder, which stands where no folder of other results is to be.
+    void drawsMany()
+    {
+        putLesson("in/a.json");
+        putLesson("in/a/b.json");
+        putFile(path("in/c.json"), R"({"Slides":[{"Items":[{"Type":"Unheard","BoundingBox":"0,0,9,9"}]},{}]})");
+        putFile(path("in/d.json"), "{");
+        const auto draw = [this](const QStringList &arguments) {
+            return runCommand(QStringList{"render", "in", "--out-dir", "out", "--resume", "--report", "report.json"}
+                                  + arguments,
+                              m_folder->path());
+        };
+        const CommandProcess::Outcome first = draw({"--to", "jpeg"});
+        QCOMPARE(first.exitCode, 2);
+        QCOMPARE(first.output, "4 lessons: 3 drawn, 1 not drawn.\n1 item is shown by name; the report names each.\n");
+        QVERIFY2(first.errors.startsWith("lessonconv: in/d.json"), qPrintable(first.errors));
+        QCOMPARE(results(),
+                 (QStringList{".lessonconv-done", "a.json/slide001.jpg", "a/b/slide001.jpg", "c/slide001.jpg",
+                              "c/slide002.jpg"}));
+        const QJsonObject drawn = report().value("lessons").toArray().at(2).toObject().value("drawn").toObject();
+        QCOMPARE(drawn.value("slides").toInt(), 2);
+        QCOMPARE(drawn.value("named").toArray().size(), 1);
+
+        QFile::remove(path("in/d.json"));
+        QCOMPARE(draw({"--to", "jpeg"}).output, "3 lessons: 0 drawn, 3 done before.\n");
+        putFile(path("out/c/notes.txt"), "not of this command");
+        QVERIFY(draw({"--to", "jpeg"}).errors.contains("out/c: There is a folder of this name already"));
+        QCOMPARE(draw({"--to", "pdf"}).output.section('\n', 0, 0), "3 lessons: 3 drawn.");
+        QCOMPARE(draw({"--to", "png", "--slides", "1", "--width", "20"}).exitCode, 0);
+        QVERIFY(QFile::exists(path("out/a/b.pdf")) && QFile::exists(path("out/a.png")));
+    }
+
     void crashFailsOneLesson()
     {
         putSlowLesson("0.json");

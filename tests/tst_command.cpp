@@ -34,8 +34,7 @@ QStringList optionsOfTable(const QString &word = {})
 {
     QStringList options{"--help", "--version"};
     for (const lessonhost::CommandOption &option : lessonhost::commandOptions()) {
-        const QStringList takers = QString(option.words).split(' ', Qt::SkipEmptyParts);
-        if (word.isEmpty() || takers.isEmpty() || takers.contains(word)) {
+        if (word.isEmpty() || lessonhost::isFor(option, word)) {
             options.append("--"_s + option.name);
         }
     }

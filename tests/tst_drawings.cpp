@@ -34,7 +34,7 @@ private:
 
     Look look(const QJsonObject &item)
     {
-        const SlidePicture picture = m_pictures.draw({item});
+        const ItemPicture picture = m_pictures.draw({item});
         Look look{picture.svg, !picture.named.isEmpty(), {}};
         QImage page(ItemPictures::pageSize().toSize(), QImage::Format_RGB32);
         QPainter painter(&page);
@@ -207,7 +207,7 @@ private slots:
     {
         QFETCH(QJsonObject, item);
         QFETCH(QByteArray, drawn);
-        const SlidePicture picture = m_pictures.draw({item});
+        const ItemPicture picture = m_pictures.draw({item});
         QCOMPARE(picture.named.isEmpty(), !drawn.isEmpty());
         QVERIFY2(picture.svg.contains(drawn), picture.svg);
     }

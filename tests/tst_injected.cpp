@@ -226,9 +226,11 @@ private slots:
             convertHere("in/old.json", "before/"_s + name);
         }
         convertHere("in/old.json", "before/page", {"--to", "iwb"});
-        for (const char *name : {"p%d.svg", "p%d.png", "p.html", "p.pdf"}) {
+        for (const char *name : {"p%d.svg", "p%d.png", "p%d.jpg", "p%d.webp", "p.html", "p.pdf", "new.pdf"}) {
             QCOMPARE(runCommand({"render", path("in/old.json"), path("before/"_s + name)}).exitCode, 0);
         }
+        QVERIFY(QDir().mkpath(path("before/many/new")));
+        QVERIFY(QFile::copy(path("before/p1.png"), path("before/many/new/slide001.png")));
         putFile(path("before/r.json"), "{}");
     }
 
@@ -251,6 +253,13 @@ private slots:
         row("paper", Run{{"render", "in/new.zqtx", "out/p.pdf"}, {"p.pdf"}});
         row("drawings", Run{{"render", "in/new", "out/p%d.svg"}, {"p1.svg", "p2.svg"}});
         row("pictures", Run{{"render", "in/new", "out/p%d.png"}, {"p1.png", "p2.png"}});
+        row("photographs", Run{{"render", "in/new", "out/p%d.jpg"}, {"p1.jpg", "p2.jpg"}});
+        row("pictures for the web", Run{{"render", "in/new", "out/p%d.webp"}, {"p1.webp", "p2.webp"}});
+        row("many papers",
+            Run{{"render", "in/new", "--to", "pdf", "--out-dir", "out", "--jobs", "1", "--report", "out/r.json"},
+                {"new.pdf"}});
+        row("many folders of pictures",
+            Run{{"render", "in/new", "--to", "png", "--out-dir", "out/many", "--jobs", "1"}, {"many/new"}});
     }
 
     void failsWhileWriting()

@@ -101,6 +101,70 @@ private slots:
         QVERIFY(pdf.contains("/MediaBox [0 0 300"));
     }
 
+    // A page of 400 x 300 pixels, in each form that has a size.
+    void drawsInSizes_data()
+    {
+        const Table<QStringList, QString, QSize, QColor> row("arguments", "name", "size", "corner");
+        row("its own", {}, "s.png", {400, 300}, Qt::white);
+        row("width", {"--width", "100"}, "s.png", {100, 75}, Qt::white);
+        row("height", {"--height", "600"}, "s.jpg", {800, 600}, Qt::white);
+        row("factor", {"--scale", "0.5"}, "s.webp", {200, 150}, Qt::white);
+        row("dots", {"--dpi", "192"}, "s.png", {800, 600}, Qt::white);
+        row("within", {"--size", "100x100"}, "s.png", {100, 75}, Qt::white);
+        row("filled", {"--size", "100x100", "--pad", "--background", "yellow"}, "s.png", {100, 100}, Qt::yellow);
+        row("nothing below", {"--background", "transparent"}, "s.png", {400, 300}, Qt::transparent);
+        row("said by name", {"--to", "png"}, "s.tmp", {400, 300}, Qt::white);
+        row("lines", {"--width", "100"}, "s.svg", {100, 75}, Qt::white);
+        row("lines, filled", {"--size", "90x90", "--pad", "--background", "yellow"}, "s.svg", {90, 90}, Qt::yellow);
+    }
+
+    void drawsInSizes()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, name);
+        QFETCH(QSize, size);
+        QFETCH(QColor, corner);
+        const QString file = m_folder.filePath(name);
+        QCOMPARE(runCommand(QStringList{"render", path("lesson.json"), file, "--slides", "1"} + arguments).exitCode, 0);
+        QImage picture;
+        QVERIFY(picture.loadFromData(fileContent(file)));
+        QCOMPARE(picture.size(), size);
+        QCOMPARE(picture.convertToFormat(QImage::Format_ARGB32).pixelColor(0, 0), corner);
+        const QColor middle = picture.pixelColor(size.width() / 2, size.height() / 2);
+        QVERIFY2(middle.red() > 250 && middle.green() < 5, qPrintable(middle.name()));
+        if (arguments.contains("--dpi")) {
+            QCOMPARE(qRound(picture.dotsPerMeterX() * 0.0254), 192);
+        }
+    }
+
+    // A picture on every slide is there once, whatever its files are called, and in its place.
+    void keepsPicturesOnce()
+    {
+        QImage picture(40, 30, QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        QVERIFY(picture.save(path("once.png")));
+        const QByteArray data = fileContent(path("once.png")).toBase64();
+        const QByteArray item = R"({"Items":[{"Type":"ZQImagePic","resource":"FILE","BoundingBox":"100,0,200,300",
+            "Matrix":"1,0,0,1,0,0"}]},)";
+        QByteArray slides;
+        for (const char *file : {"a.png", "b.png", "a.png"}) {
+            slides += QByteArray(item).replace("FILE", file);
+        }
+        slides.chop(1);
+        putFile(path("once.json"),
+                QByteArray(R"({"Width":"400","Height":"300","Resources":{"a.png":"B","b.png":"B"},"Slides":[)")
+                        .replace("\"B\"", '"' + data + '"')
+                    + slides + "]}");
+        QCOMPARE(runCommand({"render", path("once.json"), path("once.html")}).exitCode, 0);
+        const QByteArray html = fileContent(path("once.html"));
+        QCOMPARE(html.count(data), 1);
+        QCOMPARE(html.count("<use transform=\"matrix(2.5,0,0,10,100,0)\" xlink:href=\"#picture0\"/>"), 3);
+        QCOMPARE(runCommand({"render", path("once.json"), path("once%03d.png")}).exitCode, 0);
+        const QImage page(path("once002.png"));
+        QCOMPARE(page.pixelColor(110, 290), QColor(Qt::green));
+        QCOMPARE(page.pixelColor(90, 150), QColor(Qt::white));
+    }
+
     void comparesLessons()
     {
         // A slide lacks a text and its first item, so that the others stand at other places.
@@ -251,11 +315,22 @@ private slots:
     {
         const Table<QStringList, QString> row("arguments", "message");
         row("one file for two slides", {"p.png"}, "%d");
-        row("form", {"p.bmp"}, ".html, .pdf, .svg or .png");
+        row("form", {"p.bmp"}, ".html, .pdf, .svg, .png, .jpg or .webp, or say");
+        row("form by its name", {"p", "--to", "bmp"}, "Say html, pdf, svg, png, jpeg or webp");
         row("slide beyond", {"p.html", "--slides", "3"}, "no slide 3");
         row("slides", {"p.html", "--slides", "5-2"}, "names no slides");
-        row("size", {"p.html", "--size", "12"}, "is no size");
-        row("huge", {"p.html", "--size", "99999x1"}, "is no size");
+        row("size", {"p.pdf", "--size", "12"}, "is no size");
+        row("huge", {"p.svg", "--size", "99999x1"}, "is no size");
+        row("side", {"p.pdf", "--width", "0"}, "--width 640");
+        row("factor", {"p.png", "--scale", "0"}, "--scale a number from 0.01 to 100");
+        row("two sizes", {"p.png", "--width", "9", "--dpi", "9"}, "--width and --dpi both say");
+        row("size of what has none", {"p.html", "--height", "9"}, "--height changes nothing about html");
+        row("dots of what has none", {"p.pdf", "--dpi", "9"}, "it is for png, jpeg and webp");
+        row("borders of nothing", {"p.png", "--pad"}, "--pad changes nothing without --size");
+        row("many without a folder", {"p.pdf", "--jobs", "2"}, "render INPUTS... --to FORM --out-dir FOLDER");
+        row("colour", {"p.png", "--background", "#12"}, "is no colour");
+        row("nothing shows through", {"p.jpg", "--background", "transparent"}, "write png and webp");
+        row("folders of slides", {"a%d/p.png"}, "one folder");
         row("more than fits into the memory", {"p.png", "--slides", "1", "--size", "16384x8192"},
             "Ask for a smaller one");
     }
@@ -272,5 +347,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRender)
+QTEST_MAIN(TestRender) // reads drawings with letters
 #include "tst_render.moc"

@@ -2,6 +2,7 @@
 #include "itemfamilies.h"
 #include "iwb/iwbmedia.h"
 #include "render/levelliquid.h"
+#include "render/picturestore.h"
 #include "render/symboldrawing.h"
 #include "render/symbolfile.h"
 #include "svg/svgpath.h"
@@ -45,10 +46,12 @@ private:
     {
         item.insert("Type", type);
         IwbMedia media;
-        PlainSvg svg(page, media);
+        PictureStore pictures;
+        PlainSvg svg(page, media, pictures);
         IwbPageWriter pages({});
         Canvas canvas(svg, pages, media);
-        return symbolDrawing(type)(canvas, ItemView(item)) ? svg.text() : QByteArray();
+        return symbolDrawing(type)(canvas, ItemView(item)) ? pictures.text(svg.finished().documentElement())
+                                                           : QByteArray();
     }
 
     static QImage picture(const QByteArray &svg, const QSize &size)

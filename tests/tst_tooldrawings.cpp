@@ -2,6 +2,7 @@
 #include "iwb/iwbmedia.h"
 #include "render/coverdrawing.h"
 #include "render/instrumentdrawing.h"
+#include "render/picturestore.h"
 
 #include <QDomDocument>
 #include <QtTest>
@@ -17,14 +18,15 @@ private:
     static QDomElement drawn(const QJsonObject &item)
     {
         IwbMedia media;
-        PlainSvg svg(QSizeF(1000, 1000), media);
+        PictureStore pictures;
+        PlainSvg svg(QSizeF(1000, 1000), media, pictures);
         IwbPageWriter pages({});
         Canvas canvas(svg, pages, media);
         const QString type = item.value("Type").toString();
         const SvgDrawing drawing = instrumentDrawing(type) ? instrumentDrawing(type) : coverDrawing(type);
         QDomDocument document;
         if (drawing && drawing(canvas, ItemView(item))) {
-            document.setContent(svg.text());
+            document = svg.finished();
         }
         return document.documentElement();
     }

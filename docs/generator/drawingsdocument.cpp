@@ -92,7 +92,7 @@ private:
         });
     }
 
-    lessonhost::SlidePicture draw(const QJsonObject &item) { return m_pictures.draw({item}); }
+    ItemPicture draw(const QJsonObject &item) { return m_pictures.draw({item}); }
 
     TransformationPlugin m_plugin;
     ItemPictures m_pictures{&m_plugin};

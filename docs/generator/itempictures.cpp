@@ -50,7 +50,7 @@ ItemPictures::ItemPictures(IZQTransformation *plugin, const QSizeF &page)
 {
     LessonContext context;
     context.plugin = plugin;
-    m_pictures = std::make_unique<SlidePictures>(*m_lesson, context);
+    m_pictures = std::make_unique<SlidePictures>(*m_lesson, context, m_store);
 }
 
 ItemPictures::~ItemPictures() = default;
@@ -61,8 +61,9 @@ QRectF ItemPictures::boxOf(const QString &type)
     return {QPointF((pageSize().width() - size.width()) / 2, (pageSize().height() - size.height()) / 2), size};
 }
 
-SlidePicture ItemPictures::draw(const QJsonArray &items)
+ItemPicture ItemPictures::draw(const QJsonArray &items)
 {
     m_lesson->items = items;
-    return m_pictures->picture(0);
+    const SlidePicture picture = m_pictures->picture(0);
+    return {m_store.text(picture.svg.documentElement()), picture.named};
 }

@@ -1,11 +1,21 @@
 #ifndef ITEMPICTURES_H
 #define ITEMPICTURES_H
 
+#include "render/picturestore.h"
 #include "render/slidepictures.h"
 
 #include <QJsonArray>
 
 #include <memory>
+
+/*!
+ * An item as it is drawn on a page of its own.
+ */
+struct ItemPicture
+{
+    QByteArray svg; //!< with its pictures inside
+    QVector<lessonhost::SlidePicture::Told> named; //!< the item, if it is shown by its name alone
+};
 
 /*!
  * Draws typical items, each time on a new slide of a lesson that has their files.
@@ -24,11 +34,12 @@ public:
     static QRectF boxOf(const QString &type);
 
     //! Throws LessonError.
-    lessonhost::SlidePicture draw(const QJsonArray &items);
+    ItemPicture draw(const QJsonArray &items);
 
 private:
     class Lesson;
     std::unique_ptr<Lesson> m_lesson;
+    lessonhost::PictureStore m_store;
     std::unique_ptr<lessonhost::SlidePictures> m_pictures;
 };
 

@@ -24,8 +24,8 @@ namespace {
 
 const QLatin1String failureKey("failure");
 const QLatin1String inputKey("input");
-const QLatin1String lossesKey("losses");
 const QLatin1String outputKey("output");
+const QLatin1String resultKey("result");
 
 class BatchRun
 {
@@ -35,6 +35,7 @@ public:
         , m_settings(settings)
         , m_watcher(watcher)
         , m_journal(settings.outputFolder, settings.fingerprint)
+        , m_result(*settings.work)
         , m_states(plan.lessons.size())
     {
         m_result.lessons.resize(plan.lessons.size());
@@ -148,12 +149,12 @@ private:
         if (!m_settings.resume) {
             return false;
         }
-        const QJsonObject losses = m_journal.doneBefore(m_plan.lessons.at(index));
-        if (losses.isEmpty()) {
+        const QJsonObject result = m_journal.doneBefore(m_plan.lessons.at(index));
+        if (result.isEmpty()) {
             return false;
         }
         m_result.lessons[index].state = BatchResult::DoneBefore;
-        m_result.lessons[index].losses = losses;
+        m_result.lessons[index].result = result;
         ++m_done;
         return true;
     }
@@ -201,8 +202,8 @@ private:
             const QJsonObject answer = QJsonDocument::fromJson(worker.process->readLine()).object();
             if (answer.contains(failureKey)) {
                 fail(worker.lesson, answer.value(failureKey).toString());
-            } else if (answer.contains(lossesKey)) {
-                succeed(worker.lesson, answer);
+            } else if (answer.contains(resultKey)) {
+                succeed(worker.lesson, answer.value(resultKey).toObject());
             } else {
                 continue; // something that a library printed
             }
@@ -233,9 +234,11 @@ private:
         PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
         if (isLate) {
             fail(worker.lesson,
-                 LessonError(QStringLiteral("The conversion took longer than %1 s").arg(m_settings.lessonSeconds),
+                 LessonError(QStringLiteral("The %1 took longer than %2 s")
+                                 .arg(m_settings.work->name)
+                                 .arg(m_settings.lessonSeconds),
                              QStringLiteral("The other lessons are not concerned. Give this one more time with "
-                                            "--lesson-timeout, or convert it without"))
+                                            "--lesson-timeout, or try it without"))
                      .in(m_plan.lessons.at(worker.lesson).input)
                      .message());
             giveNext(worker);
@@ -254,13 +257,15 @@ private:
         giveNext(worker);
     }
 
-    void succeed(int index, const QJsonObject &losses)
+    void succeed(int index, const QJsonObject &result)
     {
         BatchResult::Lesson &lesson = m_result.lessons[index];
-        lesson.state = BatchResult::Converted;
-        lesson.losses = losses;
-        QJsonObject remembered = losses;
-        remembered.remove(QLatin1String("entries"));
+        lesson.state = BatchResult::Done;
+        lesson.result = result;
+        QJsonObject remembered = result;
+        for (const QString &detail : m_settings.work->details) {
+            remembered.remove(detail);
+        }
         try {
             m_journal.note(m_plan.lessons.at(index), m_states.at(index), remembered);
         } catch (const LessonError &error) {
@@ -327,14 +332,14 @@ BatchResult runBatch(const BatchPlan &plan, const BatchSettings &settings, const
     return BatchRun(plan, settings, watcher).run();
 }
 
-void serveBatch(const std::function<QJsonObject(const QString &, const QString &)> &convert)
+void serveBatch(const std::function<QJsonObject(const QString &, const QString &)> &work)
 {
     std::string line;
     while (std::getline(std::cin, line)) {
         const QJsonObject request = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
         QJsonObject answer;
         try {
-            answer = convert(request.value(inputKey).toString(), request.value(outputKey).toString());
+            answer.insert(resultKey, work(request.value(inputKey).toString(), request.value(outputKey).toString()));
         } catch (const LessonError &error) {
             answer.insert(failureKey, error.message());
         } catch (const std::exception &error) {

@@ -7,10 +7,11 @@
 namespace lessonhost {
 
 /*!
- * How many lessons are converted.
+ * How many lessons are converted or drawn.
  */
 struct BatchSettings
 {
+    const BatchWork *work = &BatchWork::conversion;
     QString outputFolder;
     QStringList workerArguments; //!< arguments with which this command runs serveBatch()
     QByteArray fingerprint; //!< whatever makes the same lesson give another result
@@ -31,15 +32,15 @@ struct BatchWatcher
 };
 
 /*!
- * Converts the lessons of a plan in worker processes. Each takes one lesson after the other; one that crashes fails its
- * lesson and is started anew. An interruption from the terminal ends the run between two results: what was being made
- * is removed. Throws LessonError if nothing can be done at all.
+ * Converts or draws the lessons of a plan in worker processes. Each takes one lesson after the other; one that crashes
+ * fails its lesson and is started anew. An interruption from the terminal ends the run between two results: what was
+ * being made is removed. Throws LessonError if nothing can be done at all.
  */
 BatchResult runBatch(const BatchPlan &plan, const BatchSettings &settings, const BatchWatcher &watcher);
 
 //! What a worker process does until its input ends: reads a line {"input", "output"} for each lesson and answers with a
-//! line, either what convert returns or {"failure": sentence}.
-void serveBatch(const std::function<QJsonObject(const QString &input, const QString &output)> &convert);
+//! line, either {"result": what work returns} or {"failure": sentence}.
+void serveBatch(const std::function<QJsonObject(const QString &input, const QString &output)> &work);
 
 } // namespace lessonhost
 

@@ -62,9 +62,9 @@ QString stemOf(const QString &path)
 class Planner
 {
 public:
-    Planner(const LessonFormat *from, const LessonFormat &to, const QString &outputFolder)
+    Planner(const LessonFormat *from, const QString &extension, const QString &outputFolder)
         : m_from(from)
-        , m_extension(QLatin1Char('.') + to.extensions.first())
+        , m_extension(extension.isEmpty() ? QString() : QString(QLatin1Char('.') + extension))
         , m_output(QFileInfo(outputFolder).absoluteFilePath())
         , m_shownOutput(outputFolder)
     {
@@ -185,11 +185,16 @@ private:
         const auto resultOf = [this](const QString &place) { return QString(stemOf(place) + m_extension); };
         // Some file systems don't tell small letters from capitals.
         QHash<QString, int> counts;
+        QSet<QString> folders;
         for (const BatchPlan::Lesson &lesson : qAsConst(m_plan.lessons)) {
             if (!lesson.problem.isEmpty()) {
                 continue;
             }
-            ++counts[resultOf(lesson.output).toCaseFolded()];
+            const QString result = resultOf(lesson.output).toCaseFolded();
+            ++counts[result];
+            for (int end = result.indexOf(QLatin1Char('/')); end > 0; end = result.indexOf(QLatin1Char('/'), end + 1)) {
+                folders.insert(result.left(end));
+            }
         }
         QHash<QString, QString> inputs;
         for (BatchPlan::Lesson &lesson : m_plan.lessons) {
@@ -197,7 +202,8 @@ private:
                 continue;
             }
             const QString result = resultOf(lesson.output);
-            lesson.output = counts.value(result.toCaseFolded()) == 1 ? result : QString(lesson.output + m_extension);
+            const bool isFree = counts.value(result.toCaseFolded()) == 1 && !folders.contains(result.toCaseFolded());
+            lesson.output = isFree ? result : QString(lesson.output + m_extension);
             const QString folded = lesson.output.toCaseFolded();
             if (inputs.contains(folded)) {
                 throw LessonError(QStringLiteral("This lesson and %1 would both be written as %2")
@@ -218,17 +224,17 @@ private:
     BatchPlan m_plan;
     QSet<QString> m_seen; // canonical paths
     const LessonFormat *m_from;
-    QString m_extension; // with its point
+    QString m_extension; // with its point, or empty
     QString m_output; // canonical, if it exists
     QString m_shownOutput;
 };
 
 } // namespace
 
-BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const LessonFormat &to,
+BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const QString &extension,
                     const QString &outputFolder)
 {
-    Planner planner(from, to, outputFolder);
+    Planner planner(from, extension, outputFolder);
     const auto isFolderToSearch = [](const QString &input) {
         const QFileInfo info(input);
         return info.isDir() && !formatOf(info);

@@ -32,14 +32,16 @@ struct BatchPlan
  * A given folder that is no lesson itself is searched with all its folders, links and hidden entries left out; a lesson
  * that is a folder is one lesson and not searched. What is found in a folder keeps its way from there; with several
  * folders, each result lies in a folder of that name. A lesson that is met twice is converted once. Where two lessons
- * would have one name, such as a.zqtx and a.json, both keep the ending that they have: a.zqtx.iwb and a.json.iwb.
+ * would have one name, such as a.zqtx and a.json, both keep the ending that they have: a.zqtx.iwb and a.json.iwb. So
+ * does one whose result would stand where a folder of other results is to be.
  *
  * What can't be called or looked into is a lesson with a problem.
  *
- * from: the format of all inputs, or null to tell it from each. Throws LessonError where results can't be kept apart,
+ * from: the format of all inputs, or null to tell it from each. extension: of the results, without the point; empty for
+ * results that are folders. Throws LessonError where results can't be kept apart,
  * the results would lie among the lessons, or there is no lesson.
  */
-BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const LessonFormat &to,
+BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const QString &extension,
                     const QString &outputFolder);
 
 } // namespace lessonhost

@@ -13,27 +13,45 @@ namespace {
 
 const QLatin1String lossesKey("losses");
 
-QString counted(int count, const char *what)
+QString counted(int count, const QString &what)
 {
-    return QString::number(count) + QLatin1Char(' ') + QLatin1String(what);
+    return QString::number(count) + QLatin1Char(' ') + what;
 }
 
-QLatin1String stateName(BatchResult::State state)
+// One of two words, by the number.
+QString counted(int count, const char *one, const char *several)
+{
+    return counted(count, QLatin1String(count == 1 ? one : several));
+}
+
+QString stateName(BatchResult::State state, const BatchWork &work)
 {
     switch (state) {
-    case BatchResult::Converted:
-        return QLatin1String("converted");
+    case BatchResult::Done:
+        return work.done;
     case BatchResult::DoneBefore:
-        return QLatin1String("done before");
+        return QStringLiteral("done before");
     case BatchResult::Failed:
-        return QLatin1String("failed");
+        return QStringLiteral("failed");
     case BatchResult::Open:
         break;
     }
-    return QLatin1String("open");
+    return QStringLiteral("open");
+}
+
+QString whoNames(bool hasReport)
+{
+    return hasReport ? QStringLiteral("the report") : QStringLiteral("--report FILE");
 }
 
 } // namespace
+
+const BatchWork BatchWork::conversion{
+    QStringLiteral("conversion"), QStringLiteral("converted"), lossesKey, {QStringLiteral("entries")}};
+const BatchWork BatchWork::drawing{QStringLiteral("drawing"),
+                                   QStringLiteral("drawn"),
+                                   QStringLiteral("drawn"),
+                                   {QStringLiteral("files"), QStringLiteral("named")}};
 
 int BatchResult::count(State state) const
 {
@@ -53,22 +71,32 @@ int BatchResult::lessonsWithLosses() const
         std::count_if(lessons.cbegin(), lessons.cend(), [](const Lesson &lesson) { return lesson.lossCount() > 0; }));
 }
 
+int BatchResult::namedCount() const
+{
+    return std::accumulate(lessons.cbegin(), lessons.cend(), 0,
+                           [](int sum, const Lesson &lesson) { return sum + lesson.namedCount(); });
+}
+
 QString BatchResult::summary(const BatchPlan &plan, bool hasReport) const
 {
-    QStringList parts{counted(count(Converted), "converted")};
-    for (const auto &[state, what] :
-         {std::pair(DoneBefore, "done before"), {Failed, "not converted"}, {Open, "not begun"}}) {
+    QStringList parts{counted(count(Done), work->done)};
+    for (const auto &[state, what] : {std::pair(DoneBefore, QStringLiteral("done before")),
+                                      {Failed, QString(QLatin1String("not ") + work->done)},
+                                      {Open, QStringLiteral("not begun")}}) {
         if (count(state) > 0) {
             parts.append(counted(count(state), what));
         }
     }
-    QString text = counted(lessons.size(), lessons.size() == 1 ? "lesson: " : "lessons: ")
-        + parts.join(QLatin1String(", ")) + QLatin1String(".\n");
+    QString text =
+        counted(lessons.size(), "lesson: ", "lessons: ") + parts.join(QLatin1String(", ")) + QLatin1String(".\n");
     if (const int concerned = lessonsWithLosses()) {
         text += QStringLiteral("%1 lost something, %2 in all; %3 names each.\n")
-                    .arg(counted(concerned, concerned == 1 ? "lesson" : "lessons"),
-                         counted(lossCount(), lossCount() == 1 ? "value, item or file" : "values, items or files"),
-                         hasReport ? QStringLiteral("the report") : QStringLiteral("--report FILE"));
+                    .arg(counted(concerned, "lesson", "lessons"),
+                         counted(lossCount(), "value, item or file", "values, items or files"), whoNames(hasReport));
+    }
+    if (const int named = namedCount()) {
+        text += QStringLiteral("%1 shown by name; %2 names each.\n")
+                    .arg(counted(named, "item is", "items are"), whoNames(hasReport));
     }
     if (!plan.passedOver.isEmpty()) {
         text += plan.passedOver.size() == 1
@@ -90,17 +118,22 @@ QJsonObject BatchResult::toJson(const BatchPlan &plan) const
         const Lesson &lesson = lessons.at(i);
         QJsonObject entry{{QStringLiteral("input"), plan.lessons.at(i).input},
                           {QStringLiteral("output"), plan.lessons.at(i).output},
-                          {QStringLiteral("state"), stateName(lesson.state)}};
+                          {QStringLiteral("state"), stateName(lesson.state, *work)}};
         if (lesson.state == Failed) {
             entry.insert(QStringLiteral("message"), lesson.message);
         } else if (lesson.state != Open) {
-            entry.insert(lossesKey, lesson.losses);
+            entry.insert(work->resultKey, lesson.result);
         }
         list.append(entry);
     }
-    QJsonObject counts{{lossesKey, lossCount()}, {QStringLiteral("with losses"), lessonsWithLosses()}};
-    for (const State state : {Converted, DoneBefore, Failed, Open}) {
-        counts.insert(stateName(state), count(state));
+    QJsonObject counts;
+    if (work == &BatchWork::conversion) {
+        counts = {{lossesKey, lossCount()}, {QStringLiteral("with losses"), lessonsWithLosses()}};
+    } else {
+        counts = {{QStringLiteral("named"), namedCount()}};
+    }
+    for (const State state : {Done, DoneBefore, Failed, Open}) {
+        counts.insert(stateName(state, *work), count(state));
     }
     return {{QStringLiteral("counts"), counts},
             {QStringLiteral("interrupted"), isInterrupted},

@@ -12,6 +12,7 @@
 #include "files/inputfile.h"
 #include "files/inputguard.h"
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
@@ -43,13 +44,18 @@ Examples:
   lessonconv convert lesson.json lesson.zqtx --report losses.json
   lessonconv convert lessons/ --to iwb --out-dir converted/ --resume
   lessonconv render lesson.zqtx lesson.html
-  lessonconv render lesson.zqtx slide%d.png --slides 2-5 --size 1280x720
+  lessonconv render lesson.zqtx slide%02d.png --slides 2-5 --width 1280
+  lessonconv render lessons/ --to pdf --out-dir paper/ --resume
   lessonconv render --diff lesson.zqtx lesson.iwb difference.html
   lessonconv info lesson.zqtx
 
 The lesson that is read is never changed. What the other format can't hold is
 named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
 2 not done.)";
+
+const char *const serveWord = "serve";
+const char *const servePicturesWord = "serve-pictures";
+const char *const manyOption = "out-dir";
 
 // What stands before a purpose in the help.
 constexpr int purposeColumn = 36;
@@ -139,8 +145,10 @@ const std::vector<Command::Word> &Command::words()
          &Command::convertMeasuresText, &Command::convertOne},
         {"convert", "out-dir", "INPUTS... --to FORMAT --out-dir FOLDER", "converts many lessons, or all in a folder", 1,
          anyNumber, &Command::never, &Command::convertMany},
-        {"render", nullptr, "INPUT OUTPUT", "draws the slides as .html, .pdf, .svg or .png", 2, 2, &Command::always,
-         &Command::render},
+        {"render", nullptr, "INPUT OUTPUT", "draws the slides as .html, .pdf, .svg, .png, .jpg or .webp", 2, 2,
+         &Command::always, &Command::render},
+        {"render", "out-dir", "INPUTS... --to FORM --out-dir FOLDER", "draws many lessons, or all in a folder", 1,
+         anyNumber, &Command::never, &Command::renderMany},
         {"render", "diff", "--diff A B OUTPUT.html", "two lessons side by side, and what B lacks", 3, 3,
          &Command::always, &Command::renderDifference},
         {"show", nullptr, "INPUT", "opens a lesson in the browser", 1, 1, &Command::always, &Command::show},
@@ -149,8 +157,9 @@ const std::vector<Command::Word> &Command::words()
         {"formats", nullptr, "", "the formats and their file names", 0, 0, &Command::never, &Command::formats},
         // For those who install the command.
         {"completion", nullptr, "SHELL", nullptr, 1, 1, &Command::never, &Command::completion},
-        // What a worker process of convertMany() does.
-        {"serve", nullptr, "", nullptr, 0, 0, &Command::serveMeasuresText, &Command::serve},
+        // What worker processes of convertMany() and renderMany() do.
+        {serveWord, nullptr, "", nullptr, 0, 0, &Command::serveMeasuresText, &Command::serve},
+        {servePicturesWord, nullptr, "", nullptr, 0, 0, &Command::always, &Command::servePictures},
     };
     return words;
 }
@@ -264,13 +273,20 @@ void Command::tellWhatIsMissing() const
 void Command::checkOptions(const Word &word) const
 {
     for (const CommandOption &option : commandOptions()) {
-        const QStringList takers = QString::fromLatin1(option.words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (m_line.isSet(option.name) && word.purpose && !takers.isEmpty()
-            && !takers.contains(QLatin1String(word.word))) {
-            throw LessonError(
-                QStringLiteral("%1 makes no use of --%2").arg(QLatin1String(word.word), QLatin1String(option.name)),
-                QStringLiteral("Leave it out; it is for %1").arg(takers.join(QStringLiteral(" and "))));
+        if (!m_line.isSet(option.name) || !word.purpose
+            || isFor(option, QLatin1String(word.word), QLatin1String(word.option))) {
+            continue;
         }
+        QStringList takers;
+        for (const Word &other : words()) {
+            if (other.purpose && isFor(option, QLatin1String(other.word), QLatin1String(other.option))) {
+                takers.append(
+                    QStringLiteral("\"%1 %2\"").arg(QLatin1String(other.word), QLatin1String(other.arguments)));
+            }
+        }
+        throw LessonError(QStringLiteral("This call of %1 makes no use of --%2")
+                              .arg(QLatin1String(word.word), QLatin1String(option.name)),
+                          QStringLiteral("Leave it out; it is for %1").arg(takers.join(QStringLiteral(" and "))));
     }
 }
 
@@ -289,16 +305,31 @@ const LessonFormat &Command::outputFormat(const QString &output) const
     if (isSet("to")) {
         return lessonFormatByName(value("to"));
     }
-    if (StandardStreams::isStandardOutput(output)) {
-        throw LessonError(QStringLiteral("It isn't said what is to come out"),
-                          QStringLiteral("Say the format, such as --to json"));
-    }
+    checkIsTold(output);
     if (isPictureName(output)) {
         throw LessonError(QStringLiteral("This is the name of a picture or a page, which convert doesn't make"),
                           QStringLiteral("Say lessonconv render instead of lessonconv convert"))
             .in(output);
     }
     return lessonFormatOfOutput(output);
+}
+
+const PictureForm &Command::pictureForm(const QString &output) const
+{
+    if (isSet("to")) {
+        return pictureFormByName(value("to"));
+    }
+    checkIsTold(output);
+    return pictureFormOfOutput(output);
+}
+
+void Command::checkIsTold(const QString &output) const
+{
+    if (StandardStreams::isStandardOutput(output)) {
+        throw LessonError(QStringLiteral("It isn't said what is to come out"),
+                          QStringLiteral("Say the format, such as --to %1")
+                              .arg(QLatin1String(word()->run == &Command::convertOne ? "json" : "pdf")));
+    }
 }
 
 // What stands there already is replaced otherwise.
@@ -309,10 +340,8 @@ void Command::checkOutput(const QString &output) const
             throw LessonError(QStringLiteral("Standard output can't take the result and what --json tells of it"),
                               QStringLiteral("Leave out --json, or give the result a name"));
         }
-    } else if (isSet("no-clobber") && (QFileInfo(output).isSymLink() || QFileInfo::exists(output))) {
-        throw LessonError(QStringLiteral("There is a file or folder of this name already"),
-                          QStringLiteral("Give another name, or leave out --no-clobber"))
-            .in(output);
+    } else if (isSet("no-clobber")) {
+        refuseToReplace(output);
     }
 }
 
@@ -433,17 +462,20 @@ int Command::convertOne(const QStringList &files) const
     return isSet("strict") && losses.lossCount() > 0 ? DoneWithLosses : Done;
 }
 
-BatchSettings Command::batchSettings(const PluginHost &host) const
+BatchSettings Command::batchSettings(const PluginHost &host, const BatchWork &work) const
 {
+    const bool isConversion = &work == &BatchWork::conversion;
     BatchSettings settings;
-    settings.outputFolder = QDir::cleanPath(value("out-dir"));
+    settings.work = &work;
+    settings.outputFolder = QDir::cleanPath(value(manyOption));
     settings.jobs = m_line.jobs();
     settings.lessonSeconds = m_line.lessonSeconds();
     settings.resume = isSet("resume");
     settings.keepsOutputs = isSet("no-clobber");
-    const QStringList arguments = m_line.resultArguments();
-    settings.workerArguments =
-        QStringList{QStringLiteral("serve"), QStringLiteral("--plugin"), host.fileName()} + arguments;
+    const QStringList arguments = m_line.resultArguments(m_line.words().first(), QLatin1String(manyOption));
+    settings.workerArguments = QStringList{QLatin1String(isConversion ? serveWord : servePicturesWord),
+                                           QStringLiteral("--plugin"), host.fileName()}
+        + arguments;
     QCryptographicHash plugin(QCryptographicHash::Sha1);
     InputFile file(host.fileName());
     plugin.addData(&file);
@@ -460,11 +492,27 @@ int Command::convertMany(const QStringList &inputs) const
                           QStringLiteral("Say the format, such as --to iwb"));
     }
     const LessonFormat &to = lessonFormatByName(value("to"));
-    const LessonFormat *from = isSet("from") ? &lessonFormatByName(value("from")) : nullptr;
-    checkCanWrite(to, value("out-dir"));
+    checkCanWrite(to, value(manyOption));
     const PluginHost host(value("plugin"));
-    const BatchSettings settings = batchSettings(host);
-    const BatchPlan plan = planBatch(inputs, from, to, settings.outputFolder);
+    return runMany(inputs, to.extensions.first(), batchSettings(host, BatchWork::conversion));
+}
+
+int Command::renderMany(const QStringList &inputs) const
+{
+    if (!isSet("to")) {
+        throw LessonError(QStringLiteral("It isn't said what the lessons are to be drawn as"),
+                          QStringLiteral("Say it, such as --to pdf"));
+    }
+    const RenderSettings settings = manyRenderSettings();
+    const PluginHost host(value("plugin"));
+    return runMany(inputs, settings.isFolder ? QString() : settings.form->extensions.first(),
+                   batchSettings(host, BatchWork::drawing));
+}
+
+int Command::runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const
+{
+    const LessonFormat *from = isSet("from") ? &lessonFormatByName(value("from")) : nullptr;
+    const BatchPlan plan = planBatch(inputs, from, extension, settings.outputFolder);
     if (isSet("report")) {
         checkReport(value("report"), plan.inputs, outputsOf(plan, settings.outputFolder));
     }
@@ -508,26 +556,48 @@ int Command::serve(const QStringList &) const
     return Done;
 }
 
+int Command::servePictures(const QStringList &) const
+{
+    const PluginHost host(value("plugin"));
+    const LessonContext context = readingContext(host);
+    const RenderSettings settings = manyRenderSettings();
+    serveBatch([&](const QString &input, const QString &output) {
+        const auto reader = inputFormat(input).open(input, context);
+        return renderLesson(*reader, context, output, settings, [](int, int) {});
+    });
+    return Done;
+}
+
 int Command::render(const QStringList &files) const
 {
-    const RenderSettings settings = renderSettings(files.mid(0, files.size() - 1));
+    const QString &input = files.first();
+    const QString &output = files.last();
+    const RenderSettings settings = renderSettings(pictureForm(output), {input});
+    const LessonFormat &format = inputFormat(input);
+    tellName(input, format);
+    checkOutput(output);
+    if (isSet("report")) {
+        checkReport(value("report"), settings.inputs, {output});
+    }
+    ReportFile report(isSet("report") ? value("report") : QString());
     const PluginHost host(value("plugin"));
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
-    const LessonFormat &format = inputFormat(files.first());
-    tellName(files.first(), format);
-    checkOutput(files.last());
-    const auto reader = format.open(inputFile(files.first()), context);
+    const auto reader = format.open(inputFile(input), context);
     const QJsonObject result =
-        renderLesson(*reader, context, files.last(), settings, [&bar](int done, int total) { bar.show(done, total); });
+        renderLesson(*reader, context, m_streams->output(output, settings.form->extensions.first()), settings,
+                     [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
-    tellRendered(result);
+    report.write(result);
+    if (!StandardStreams::isStandardOutput(output)) {
+        tellRendered(result);
+    }
     return Done;
 }
 
 int Command::renderDifference(const QStringList &files) const
 {
-    const RenderSettings settings = renderSettings(files.mid(0, files.size() - 1));
+    const RenderSettings settings = renderSettings(pictureForm(files.last()), files.mid(0, files.size() - 1));
     const PluginHost host(value("plugin"));
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
@@ -553,7 +623,7 @@ int Command::show(const QStringList &files) const
         const LessonContext context = readingContext(host);
         ProgressBar bar(!isSet("quiet"));
         const auto reader = format.open(inputFile(files.first()), context);
-        renderLesson(*reader, context, page, renderSettings(files),
+        renderLesson(*reader, context, page, renderSettings(pictureFormOfOutput(page), files),
                      [&bar](int done, int total) { bar.show(done, total); });
         bar.clear();
     } catch (const LessonError &error) {
@@ -565,15 +635,25 @@ int Command::show(const QStringList &files) const
     return Done;
 }
 
-RenderSettings Command::renderSettings(const QStringList &inputs) const
+RenderSettings Command::renderSettings(const PictureForm &form, const QStringList &inputs) const
 {
-    RenderSettings settings;
-    settings.size = sizeFromText(value("size"));
-    settings.slides = slidesFromText(value("slides"));
+    RenderSettings settings = lessonhost::renderSettings(form, [this](const char *option) {
+        const QString text = value(option);
+        return !isSet(option) ? QString() : text.isNull() ? QStringLiteral("") : text;
+    });
+    settings.isKept = isSet("no-clobber");
     for (const QString &input : inputs) {
         const LessonFormat &format = input == inputs.first() ? inputFormat(input) : lessonFormatOfInput(input);
         settings.inputs.addLesson(input, format.folderBeside);
     }
+    return settings;
+}
+
+// A lesson has a file or, where its slides have one each and all are wanted, a folder.
+RenderSettings Command::manyRenderSettings() const
+{
+    RenderSettings settings = renderSettings(pictureFormByName(value("to")), {});
+    settings.isFolder = settings.form->isPerSlide && settings.slides.size() != 1;
     return settings;
 }
 

@@ -8,8 +8,10 @@
 namespace lessonhost {
 
 struct BatchSettings;
+struct BatchWork;
 struct LessonContext;
 struct LessonFormat;
+struct PictureForm;
 struct RenderSettings;
 class LossReport;
 class PluginHost;
@@ -63,7 +65,9 @@ private:
     int convertOne(const QStringList &files) const;
     int convertMany(const QStringList &inputs) const;
     int serve(const QStringList &files) const;
+    int servePictures(const QStringList &files) const;
     int render(const QStringList &files) const;
+    int renderMany(const QStringList &inputs) const;
     int renderDifference(const QStringList &files) const;
     int show(const QStringList &files) const;
     int completion(const QStringList &shells) const;
@@ -82,8 +86,12 @@ private:
     const LessonFormat &outputFormat(const QString &output) const;
     LessonContext readingContext(const PluginHost &host) const;
     LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
-    BatchSettings batchSettings(const PluginHost &host) const;
-    RenderSettings renderSettings(const QStringList &inputs) const;
+    const PictureForm &pictureForm(const QString &output) const;
+    void checkIsTold(const QString &output) const;
+    BatchSettings batchSettings(const PluginHost &host, const BatchWork &work) const;
+    int runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const;
+    RenderSettings renderSettings(const PictureForm &form, const QStringList &inputs) const;
+    RenderSettings manyRenderSettings() const;
     void tellRendered(const QJsonObject &result) const;
 
     CommandLine m_line;

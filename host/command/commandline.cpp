@@ -4,6 +4,8 @@
 
 #include <QThread>
 
+#include <algorithm>
+
 namespace lessonhost {
 
 namespace {
@@ -18,14 +20,17 @@ const std::vector<CommandOption> &commandOptions()
     using Option = CommandOption;
     static const std::vector<Option> options{
         {"from", "format", Option::OnResults, "", "The format of the input, where its name doesn't tell."},
-        {"to", "format", Option::OnResults, "convert", "The format of the output, where its name doesn't tell."},
-        {"out-dir", "folder", Option::OnTheRun, "convert", "Convert many: the folder for the results."},
-        {"jobs", "number", Option::OnTheRun, "convert",
-         "Convert many: this many at the same time; as many as the machine has cores otherwise."},
-        {"lesson-timeout", "seconds", Option::OnTheRun, "convert", "Convert many: give up a lesson that takes longer."},
-        {"resume", nullptr, Option::OnTheRun, "convert", "Convert many: leave out what is done and unchanged."},
-        {"report", "file", Option::OnTheRun, "convert",
-         "Write everything that was lost or kept aside into this file, as JSON."},
+        {"to", "format", Option::OnResults, "convert render: render:out-dir",
+         "The format of the output, where its name doesn't tell."},
+        {"out-dir", "folder", Option::OnTheRun, "convert:out-dir render:out-dir", "Many: the folder for the results."},
+        {"jobs", "number", Option::OnTheRun, "convert:out-dir render:out-dir",
+         "Many: this many at the same time; as many as the machine has cores otherwise."},
+        {"lesson-timeout", "seconds", Option::OnTheRun, "convert:out-dir render:out-dir",
+         "Many: give up a lesson that takes longer."},
+        {"resume", nullptr, Option::OnTheRun, "convert:out-dir render:out-dir",
+         "Many: leave out what is done and unchanged."},
+        {"report", "file", Option::OnTheRun, "convert render: render:out-dir",
+         "Write everything that was lost or kept aside, or how it was drawn, into this file, as JSON."},
         {"strict", nullptr, Option::OnTheRun, "convert", "Treat losses as a failure: exit code 1."},
         {"no-check", nullptr, Option::OnResults, "convert",
          "Don't read back what was written. Faster, but losses stay unnoticed."},
@@ -33,9 +38,22 @@ const std::vector<CommandOption> &commandOptions()
          "Replace nothing: what is there already makes the run fail, or is left out of many."},
         {"ink", "choice", Option::OnAFormat, "convert",
          "What becomes of handwriting in IWB: polyline (the default) or drop.", "polyline", "polyline drop"},
-        {"size", "widthxheight", Option::OnTheRun, "render", "With render: the size of a picture or page in pixels."},
-        {"slides", "slides", Option::OnTheRun, "render", "With render: only these slides, such as 2-5 or 1,4."},
-        {"diff", nullptr, Option::OnTheRun, "render",
+        {"slides", "slides", Option::OnResults, "render", "With render: only these slides, such as 2-5 or 1,4."},
+        {"width", "pixels", Option::OnResults, "render: render:out-dir",
+         "With render: how wide pictures and pages are; their height follows."},
+        {"height", "pixels", Option::OnResults, "render: render:out-dir",
+         "With render: how high pictures and pages are; their width follows."},
+        {"size", "widthxheight", Option::OnResults, "render: render:out-dir",
+         "With render: as large as fits into so many pixels."},
+        {"pad", nullptr, Option::OnResults, "render: render:out-dir",
+         "With --size: just this size, with borders where a slide is narrower or lower."},
+        {"scale", "factor", Option::OnResults, "render: render:out-dir",
+         "With render: so many times the size of the slide."},
+        {"dpi", "number", Option::OnResults, "render: render:out-dir",
+         "With render: dots per inch of pictures; 96 is the size of the slide."},
+        {"background", "colour", Option::OnResults, "render: render:out-dir",
+         "With render: this colour in place of the slides' own, such as \"#ffffe0\", or transparent."},
+        {"diff", nullptr, Option::OnTheRun, "render:diff",
          "With render: two lessons side by side, with the values that the second lacks."},
         {"json", nullptr, Option::OnTheRun, "", "Print JSON, also for a failure."},
         {"quiet", nullptr, Option::OnTheRun, "", "No progress bar, no list of losses, no summary."},
@@ -43,6 +61,20 @@ const std::vector<CommandOption> &commandOptions()
         {"plugin", "file", Option::OnTheRun, "", "The plug-in's file, where it is in an unusual place."},
     };
     return options;
+}
+
+bool isFor(const CommandOption &option, const QString &word)
+{
+    const QStringList takers = QString::fromLatin1(option.words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return takers.isEmpty() || std::any_of(takers.cbegin(), takers.cend(), [&word](const QString &taker) {
+               return taker.section(QLatin1Char(':'), 0, 0) == word;
+           });
+}
+
+bool isFor(const CommandOption &option, const QString &word, const QString &wordsOption)
+{
+    const QStringList takers = QString::fromLatin1(option.words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return takers.isEmpty() || takers.contains(word) || takers.contains(word + QLatin1Char(':') + wordsOption);
 }
 
 CommandLine::CommandLine(const QStringList &arguments, const QString &usage, const QString &wordList)
@@ -95,13 +127,14 @@ void CommandLine::checkChoices() const
     }
 }
 
-QStringList CommandLine::resultArguments() const
+QStringList CommandLine::resultArguments(const QString &word, const QString &wordsOption) const
 {
     checkChoices();
     QStringList arguments;
     for (const CommandOption &option : commandOptions()) {
         const QString given = value(option.name);
-        if (option.effect != CommandOption::OnTheRun && (isSet(option.name) || !given.isEmpty())) {
+        if (option.effect != CommandOption::OnTheRun && isFor(option, word, wordsOption)
+            && (isSet(option.name) || !given.isEmpty())) {
             arguments << QLatin1String("--") + QLatin1String(option.name);
             if (option.value) {
                 arguments << given;

@@ -22,7 +22,9 @@ struct CommandOption
     const char *name;
     const char *value; //!< what its value is called; null where it has none
     Effect effect;
-    const char *words; //!< the words of the command that take it; empty for all
+    //! The words of the command that take it, with blanks between; empty for all. "render:diff" is for lines with
+    //! --diff only, "render:" for those without such an option.
+    const char *words;
     const char *description;
     const char *standard = ""; //!< the value where none is given
     const char *choices = ""; //!< all values that there are, with blanks between; empty where there is no list of them
@@ -30,6 +32,11 @@ struct CommandOption
 
 //! The table of options, in the order of the help.
 const std::vector<CommandOption> &commandOptions();
+
+//! Whether a word of the command takes an option at all.
+bool isFor(const CommandOption &option, const QString &word);
+//! Whether it does so in lines with an option of its own, or without such.
+bool isFor(const CommandOption &option, const QString &word, const QString &wordsOption);
 
 /*!
  * What a call of the command says, with the values of its options checked. Functions throw LessonError where noted.
@@ -54,8 +61,8 @@ public:
     //! How long each of many lessons may take; 0 for as long as it does. Throws.
     int lessonSeconds() const;
 
-    //! The options that change results, as arguments again. Throws.
-    QStringList resultArguments() const;
+    //! The options of a word that change results in lines with an option of its own, as arguments again. Throws.
+    QStringList resultArguments(const QString &word, const QString &wordsOption) const;
     //! Those for single formats, by name. Throws.
     QHash<QString, QString> formatOptions() const;
 

@@ -3,6 +3,7 @@
 #include "command/command.h"
 #include "files/lessonerror.h"
 #include "formats/lessonformats.h"
+#include "render/rendersettings.h"
 
 namespace lessonhost {
 
@@ -36,27 +37,29 @@ QString wordNames()
     return names.join(QLatin1Char(' '));
 }
 
-bool isFor(const CommandOption &option, const QString &word)
-{
-    const QStringList words = QString::fromLatin1(option.words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    return words.isEmpty() || words.contains(word);
-}
-
 // Whether the value of an option is called so.
 bool takes(const CommandOption &option, const char *value)
 {
     return option.value && QLatin1String(option.value) == QLatin1String(value);
 }
 
-// What may stand behind an option, with blanks between; empty where anything may, or a file.
-QString choicesOf(const CommandOption &option)
+// What may stand behind an option of a word, or of any, with blanks between; empty where anything may, or a file.
+QString choicesOf(const CommandOption &option, const QString &word = {})
 {
     if (!takes(option, "format")) {
         return QLatin1String(option.choices);
     }
+    const bool isForPictures = QLatin1String(option.name) == QLatin1String("to");
     QStringList names;
     for (const LessonFormat &format : lessonFormats()) {
-        names.append(format.name);
+        if (word != QLatin1String("render") || !isForPictures) {
+            names.append(format.name);
+        }
+    }
+    for (const PictureForm &form : pictureForms()) {
+        if (word != QLatin1String("convert") && isForPictures) {
+            names.append(form.name);
+        }
     }
     return names.join(QLatin1Char(' '));
 }
@@ -142,7 +145,7 @@ QString zshScript()
             if (!isFor(option, word.word)) {
                 continue;
             }
-            const QString choices = choicesOf(option);
+            const QString choices = choicesOf(option, word.word);
             QString action;
             if (option.value) {
                 action = QStringLiteral(":%1:%2").arg(QLatin1String(option.value),
@@ -196,7 +199,7 @@ QString fishScript()
             if (!isFor(option, word.word)) {
                 continue;
             }
-            const QString choices = choicesOf(option);
+            const QString choices = choicesOf(option, word.word);
             const QString value = !option.value ? QString()
                 : !choices.isEmpty()            ? QStringLiteral(" -x -a '%1'").arg(choices)
                 : isFolder(option)              ? QStringLiteral(" -x -a '(__fish_complete_directories)'")

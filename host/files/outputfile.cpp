@@ -4,6 +4,7 @@
 #include "files/lessonerror.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <cerrno>
@@ -151,6 +152,15 @@ void makeFolders(const QString &path, const QString &shownName, OutputFile::Use 
     }
     if (error) {
         throw writeError(shownName, error, use == OutputFile::Temporary);
+    }
+}
+
+void refuseToReplace(const QString &path)
+{
+    if (QFileInfo(path).isSymLink() || QFileInfo::exists(path)) {
+        throw LessonError(QStringLiteral("There is a file or folder of this name already"),
+                          QStringLiteral("Give another name, or leave out --no-clobber"))
+            .in(path);
     }
 }
 

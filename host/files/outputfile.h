@@ -64,6 +64,9 @@ private:
 //! Makes a folder and those on the way to it, where they aren't there yet. Throws LessonError.
 void makeFolders(const QString &path, const QString &shownName, OutputFile::Use use = OutputFile::Result);
 
+//! Throws LessonError where something is there already, be it a link to nothing.
+void refuseToReplace(const QString &path);
+
 //! Writes a whole file. Throws LessonError.
 void writeFile(const QString &path, const QByteArray &content, const QString &shownName,
                OutputFile::Use use = OutputFile::Result);

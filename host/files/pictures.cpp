@@ -8,6 +8,7 @@
 #include <KCompressionDevice>
 
 #include <QBuffer>
+#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
@@ -33,6 +34,9 @@ constexpr int largestSideOfDrawing = 4096;
 // What a picture takes beside its pixels, and for each; one that takes more is written anew.
 constexpr qint64 mostBytesBeside = 65536;
 constexpr qint64 mostBytesOfPixel = 8;
+
+// Of photographs that are written anew.
+constexpr int jpegQuality = 92;
 
 // However many pictures there are, each has so many pixels or is left out.
 constexpr qint64 leastShare = qint64(128) * 128;
@@ -292,28 +296,59 @@ QByteArray Picture::content() const
     return bytes;
 }
 
-QString Picture::address(PixelBudget &budget) const
+// Photographs tell how the camera was held, and not every viewer asks.
+bool Picture::isTurned() const
 {
-    const qint64 pixels = m_format == "svg" ? 1 : pixelsOf(size());
-    const qint64 most = budget.shareFor(pixels);
-    const QImage picture = most > 0 ? image(most, budget) : QImage();
+    m_device->seek(0);
+    return QImageReader(m_device.get(), m_format).transformation() != QImageIOHandler::TransformationNone;
+}
+
+qint64 Picture::unpackedPixels() const
+{
+    return m_format == "svg" ? 1 : pixelsOf(size());
+}
+
+ShownPicture Picture::shown(qint64 most, PixelBudget &inner) const
+{
+    const QImage picture = most > 0 ? image(most, inner) : QImage();
     if (picture.isNull()) {
         return {};
     }
-    budget.take(pixels, pixelsOf(picture.size()));
-    QByteArray bytes;
-    QByteArray type = m_format;
+    ShownPicture result{m_format, {}, picture.size()};
+    const qint64 pixels = unpackedPixels();
     const bool isKnown = m_format == "png" || m_format == "jpeg" || m_format == "gif";
-    if (isKnown && pixels <= most && m_device->size() <= mostBytesBeside + pixels * mostBytesOfPixel) {
-        bytes = content();
+    if (isKnown && pixels <= most && m_device->size() <= mostBytesBeside + pixels * mostBytesOfPixel && !isTurned()) {
+        result.bytes = content();
     } else {
-        type = m_format == "jpeg" ? "jpeg" : "png";
-        QBuffer buffer(&bytes);
+        result.type = m_format == "jpeg" ? "jpeg" : "png";
+        QBuffer buffer(&result.bytes);
         buffer.open(QIODevice::WriteOnly);
-        picture.save(&buffer, type.constData());
+        picture.save(&buffer, result.type.constData(), m_format == "jpeg" ? jpegQuality : -1);
     }
-    return QLatin1String("data:image/") + QString::fromLatin1(type) + QLatin1String(";base64,")
-        + QString::fromLatin1(bytes.toBase64());
+    return result;
+}
+
+QString Picture::address(PixelBudget &budget) const
+{
+    const qint64 pixels = unpackedPixels();
+    const ShownPicture picture = shown(budget.shareFor(pixels), budget);
+    if (picture.type.isEmpty()) {
+        return {};
+    }
+    budget.take(pixels, pixelsOf(picture.size));
+    return lessonhost::addressOf(picture);
+}
+
+QByteArray Picture::fingerprint() const
+{
+    if (!m_device) {
+        return {};
+    }
+    m_device->seek(0);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(m_device.get());
+    checkDevice(m_device.get());
+    return hash.result();
 }
 
 QByteArray Picture::drawingText() const
@@ -356,6 +391,13 @@ QString Picture::addressOf(const QString &reference, PixelBudget &budget) const
     const QString path = fileBeside(m_folder, reference);
     const auto file = path.isEmpty() ? nullptr : openedFile(path);
     return file ? Picture(file->readAll(), QFileInfo(path).path(), m_depth + 1).address(budget) : QString();
+}
+
+QString addressOf(const ShownPicture &picture)
+{
+    return picture.type.isEmpty() ? QString()
+                                  : QString(QLatin1String("data:image/") + QLatin1String(picture.type)
+                                            + QLatin1String(";base64,") + QLatin1String(picture.bytes.toBase64()));
 }
 
 QString pictureProblem(const QString &file)

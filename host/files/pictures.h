@@ -24,11 +24,22 @@ public:
 
     //! What the next picture may have; 0 if there is nothing left for one that has so many before it is made smaller.
     qint64 shareFor(qint64 pixels) const;
+    //! Of a picture that has so many pixels, and so many when it is drawn.
     void take(qint64 pixels, qint64 drawn);
 
 private:
     qint64 m_left = all;
     qint64 m_unpackedLeft = 8 * all;
+};
+
+/*!
+ * A picture as it is handed on: in a form that every viewer knows.
+ */
+struct ShownPicture
+{
+    QByteArray type; //!< "png", "jpeg" or "gif"; empty for what can't be drawn
+    QByteArray bytes;
+    QSize size; //!< pixels
 };
 
 /*!
@@ -52,12 +63,20 @@ public:
 
     //! Its pixels, made smaller if it has more than most. Null if it can't be drawn.
     QImage image(qint64 most = PixelBudget::all) const;
-    //! The picture as an address "data:image/..." in a form that every viewer knows. Empty if it can't be drawn.
+    //! The picture as it is handed on: its own bytes where they will do, or its pixels written anew, lossless but for
+    //! photographs. At most so many pixels; inner is what the pictures in a drawing may have.
+    ShownPicture shown(qint64 most, PixelBudget &inner) const;
+    //! The picture as an address "data:image/...". Empty if it can't be drawn.
     QString address(PixelBudget &budget) const;
+    //! How many pixels are unpacked to draw it.
+    qint64 unpackedPixels() const;
+    //! The same for files of the same content.
+    QByteArray fingerprint() const;
     //! A drawing that leads nowhere. Throws LessonError for what is no drawing.
     ClosedSvg drawing() const;
 
 private:
+    bool isTurned() const;
     //! Of a file's content. folder is where it lies; without one no other file is taken into it.
     Picture(const QByteArray &content, const QString &folder, int depth);
     void look();
@@ -77,6 +96,9 @@ private:
 
 //! Picture(file).problem().
 QString pictureProblem(const QString &file);
+
+//! "data:image/...", or nothing for what can't be drawn.
+QString addressOf(const ShownPicture &picture);
 
 } // namespace lessonhost
 

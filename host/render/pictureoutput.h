@@ -1,53 +1,37 @@
 #ifndef PICTUREOUTPUT_H
 #define PICTUREOUTPUT_H
 
-#include "files/packagetarget.h"
+#include "render/rendersettings.h"
 
-#include <QSize>
 #include <QStringList>
-#include <QVector>
 
 #include <memory>
 
 namespace lessonhost {
 
+class PictureStore;
 struct SlidePicture;
 
-//! No picture or page is wider or higher, in pixels.
-constexpr int largestSide = 16384;
-
 /*!
- * Takes the pictures one after the other and puts everything in its place at the end.
+ * Takes the pictures of slides one after the other and puts everything in its place at the end. Every function throws
+ * LessonError; an output that goes without finish() leaves what was there.
  */
 class PictureOutput
 {
 public:
     virtual ~PictureOutput() = default;
     virtual void add(const SlidePicture &picture) = 0;
+    //! Returns the files.
     virtual QStringList finish() = 0;
 };
 
-/*!
- * One page with all pictures, and whatever else is put between them.
- */
-class HtmlOutput : public PictureOutput
-{
-public:
-    HtmlOutput(const QString &path, const QString &title);
-    void add(const SlidePicture &picture) override;
-    void addHtml(const QByteArray &html);
-    QStringList finish() override;
+//! A name with the number of a slide, counted from 1, in the place of %d, or of %03d with zeros before it.
+QString numberedName(const QString &name, int slide);
 
-private:
-    PackageTarget m_target;
-};
-
-//! The output of a name: .html and .pdf for all slides, .svg and .png for one each, with %d in the name for its number.
-//! size: of each
-//! picture or page in pixels, empty for that of the slide. slides: counted from 0. Throws LessonError for any other
-//! name.
-std::unique_ptr<PictureOutput> pictureOutput(const QString &path, const QString &title, const QSize &size,
-                                             const QVector<int> &slides);
+//! The output of that name in settings.form. store: where the pictures on the slides lie. slides: those that will come,
+//! counted from 0. Throws LessonError for a name that can't hold them.
+std::unique_ptr<PictureOutput> pictureOutput(const QString &path, const QString &title, const RenderSettings &settings,
+                                             const PictureStore &store, const QVector<int> &slides);
 
 } // namespace lessonhost
 

@@ -1,12 +1,12 @@
 #include "render/plainsvg.h"
 
 #include "files/drawingbounds.h"
-#include "files/xmltext.h"
 #include "iwb/iwbmedia.h"
 #include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
 #include "render/arrowhead.h"
 #include "render/labellines.h"
+#include "render/picturestore.h"
 #include "svg/svgstyle.h"
 
 #include <QBuffer>
@@ -212,9 +212,10 @@ QVector<Line> linesOf(const QDomElement &area, double width)
 
 } // namespace
 
-PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media)
+PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pictures, const QColor &paper)
     : m_size(size)
     , m_media(media)
+    , m_pictures(pictures)
 {
     m_svg = m_document.createElement(QStringLiteral("svg"));
     m_document.appendChild(m_svg);
@@ -224,16 +225,21 @@ PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media)
                        QStringLiteral("0 0 %1 %2").arg(number(size.width()), number(size.height())));
     m_svg.setAttribute(QStringLiteral("width"), number(size.width()));
     m_svg.setAttribute(QStringLiteral("height"), number(size.height()));
-    QDomElement paper = append(QStringLiteral("rect"));
-    paper.setAttribute(QStringLiteral("width"), number(size.width()));
-    paper.setAttribute(QStringLiteral("height"), number(size.height()));
-    paper.setAttribute(QStringLiteral("fill"), QStringLiteral("#ffffff"));
+    if (paper.alpha() > 0) {
+        QDomElement sheet = append(QStringLiteral("rect"));
+        sheet.setAttribute(QStringLiteral("width"), number(size.width()));
+        sheet.setAttribute(QStringLiteral("height"), number(size.height()));
+        sheet.setAttribute(QStringLiteral("fill"), paper.name());
+        if (paper.alpha() < 255) {
+            sheet.setAttribute(QStringLiteral("fill-opacity"), number(paper.alphaF()));
+        }
+    }
 }
 
-QByteArray PlainSvg::text()
+QDomDocument PlainSvg::finished()
 {
     boundDrawing(m_svg);
-    return xmlNodeText(m_svg).toUtf8();
+    return m_document;
 }
 
 PlainSvg::Scope::Scope(PlainSvg &svg, const QTransform &transform)
@@ -317,17 +323,17 @@ void PlainSvg::addHeads(const QDomElement &element, QDomElement &line)
     }
 }
 
-bool PlainSvg::addPicture(const QString &file, const QRectF &box)
+// Null for a file that can't be drawn.
+QDomElement PlainSvg::appendPicture(const QString &file)
 {
-    const QString address = Picture(file).address(m_pixels);
-    if (address.isEmpty()) {
-        return false;
+    const QString name = file.isEmpty() ? QString() : m_pictures.add(file, m_pixels);
+    if (name.isEmpty()) {
+        return {};
     }
     QDomElement image = append(QStringLiteral("image"));
-    setBox(image, box);
     image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
-    image.setAttribute(QStringLiteral("xlink:href"), address);
-    return true;
+    image.setAttribute(QStringLiteral("xlink:href"), QString(QLatin1Char('#') + name));
+    return image;
 }
 
 void PlainSvg::addImage(const QImage &image, const QRectF &box)
@@ -344,17 +350,22 @@ void PlainSvg::addImage(const QImage &image, const QRectF &box)
                          QLatin1String("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()));
 }
 
-bool PlainSvg::addPicture(const QDomElement &image)
+bool PlainSvg::addPicture(const QString &file, const QRectF &box)
 {
-    const IwbMedia::File file = m_media.file(image.attribute(QStringLiteral("xlink:href")));
-    const QString address = file.source.isEmpty() ? QString() : Picture(file.source).address(m_pixels);
-    if (address.isEmpty()) {
-        return false;
+    QDomElement image = appendPicture(file);
+    if (!image.isNull()) {
+        setBox(image, box);
     }
-    QDomElement copy = append(QStringLiteral("image"));
-    copyAttributes(image, copy);
-    copy.setAttribute(QStringLiteral("xlink:href"), address);
-    return true;
+    return !image.isNull();
+}
+
+bool PlainSvg::addPicture(const QDomElement &element)
+{
+    QDomElement image = appendPicture(m_media.file(element.attribute(QStringLiteral("xlink:href"))).source);
+    if (!image.isNull()) {
+        copyAttributes(element, image);
+    }
+    return !image.isNull();
 }
 
 void PlainSvg::addText(const QDomElement &area, bool isInMiddle)

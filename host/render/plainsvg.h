@@ -16,6 +16,7 @@
 namespace lessonhost {
 
 class IwbMedia;
+class PictureStore;
 struct SvgPaint;
 
 /*!
@@ -35,8 +36,9 @@ struct SvgMark
 class PlainSvg
 {
 public:
-    //! media: what the references of the elements mean that will be added; it has to live as long.
-    PlainSvg(const QSizeF &size, const IwbMedia &media);
+    //! media: what the references of the elements mean that will be added; pictures: where their pictures go. Both have
+    //! to live as long. paper: what lies below everything.
+    PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pictures, const QColor &paper = Qt::white);
 
     QSizeF size() const { return m_size; }
 
@@ -59,8 +61,8 @@ public:
     //! From what is added now to the page.
     QTransform transform() const { return m_transform; }
 
-    //! What was added, within the bounds of drawings.
-    QByteArray text();
+    //! What was added, within the bounds of drawings. Pictures are those of the store, by their names.
+    QDomDocument finished();
 
     //! Adds an element of an IWB page. False for a picture that can't be drawn.
     bool add(const QDomElement &element);
@@ -89,10 +91,12 @@ private:
     QDomElement append(const QString &tag);
     void addText(const QDomElement &area, bool isInMiddle);
     void addHeads(const QDomElement &element, QDomElement &line);
-    bool addPicture(const QDomElement &image);
+    QDomElement appendPicture(const QString &file);
+    bool addPicture(const QDomElement &element);
 
     QSizeF m_size;
     const IwbMedia &m_media;
+    PictureStore &m_pictures;
     PixelBudget m_pixels;
     QDomDocument m_document;
     QDomElement m_svg;

@@ -1,15 +1,16 @@
 #include "render/rendering.h"
 
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
 #include "lesson/itemkeys.h"
 #include "lesson/pageplace.h"
 #include "losses/lossreport.h"
-#include "render/pictureoutput.h"
+#include "render/htmloutput.h"
+#include "render/picturestore.h"
 #include "render/slidedifference.h"
 #include "render/slidepictures.h"
 #include "svg/pluginoutlines.h"
 
-#include <QFileInfo>
 #include <QJsonArray>
 
 namespace lessonhost {
@@ -50,56 +51,20 @@ void append(QJsonArray &list, int slide, const QVector<SlidePicture::Told> &item
 
 } // namespace
 
-QSize sizeFromText(const QString &text)
-{
-    if (text.isEmpty()) {
-        return {};
-    }
-    const QStringList parts = text.split(QLatin1Char('x'));
-    const QSize size(parts.value(0).toInt(), parts.value(1).toInt());
-    if (parts.size() != 2 || size.isEmpty() || size.width() > largestSide || size.height() > largestSide) {
-        throw LessonError(QStringLiteral("\"%1\" is no size").arg(text),
-                          QStringLiteral("Write width and height in pixels, such as --size 1280x720, up to %1 each")
-                              .arg(largestSide));
-    }
-    return size;
-}
-
-bool isPictureName(const QString &path)
-{
-    static const QStringList endings{QStringLiteral("html"), QStringLiteral("pdf"), QStringLiteral("svg"),
-                                     QStringLiteral("png")};
-    return endings.contains(QFileInfo(path).suffix().toLower());
-}
-
-QVector<int> slidesFromText(const QString &text)
-{
-    QVector<int> slides;
-    const QStringList parts = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
-    for (const QString &part : parts) {
-        const QStringList ends = part.split(QLatin1Char('-'));
-        const int first = ends.constFirst().toInt();
-        const int last = ends.constLast().toInt();
-        if (ends.size() > 2 || first < 1 || last < first || last - first > 100000) {
-            throw LessonError(QStringLiteral("\"%1\" names no slides").arg(text),
-                              QStringLiteral("Count from 1, such as --slides 2-5 or --slides 1,4"));
-        }
-        for (int slide = first; slide <= last; ++slide) {
-            slides.append(slide - 1);
-        }
-    }
-    return slides;
-}
-
 QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
                          const RenderSettings &settings, const Progress &progress)
 {
     const QVector<int> slides = chosenSlides(settings, reader.slideCount());
     for (const int slide : slides) {
-        settings.inputs.check(QString(output).replace(QLatin1String("%d"), QString::number(slide + 1)));
+        const QString file = settings.isFolder ? output : numberedName(output, slide + 1);
+        settings.inputs.check(file);
+        if (settings.isKept) {
+            refuseToReplace(file);
+        }
     }
-    const auto target = pictureOutput(output, titleOf(reader.presentation()), settings.size, slides);
-    SlidePictures pictures(reader, context);
+    PictureStore store;
+    const auto target = pictureOutput(output, titleOf(reader.presentation()), settings, store, slides);
+    SlidePictures pictures(reader, context, store, settings.ground);
     QJsonArray named;
     for (int i = 0; i < slides.size(); ++i) {
         const SlidePicture picture = pictures.picture(slides.at(i));
@@ -119,7 +84,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
                              const QString &secondName, const LessonContext &context, const QString &output,
                              const RenderSettings &settings, const Progress &progress)
 {
-    if (QFileInfo(output).suffix().compare(QLatin1String("html"), Qt::CaseInsensitive) != 0) {
+    if (settings.form->kind != PictureForm::Html) {
         throw LessonError(QStringLiteral("Two lessons side by side are written as one page"),
                           QStringLiteral("Give the output a name in .html"))
             .in(output);
@@ -127,9 +92,13 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
     const int count = qMax(first.slideCount(), second.slideCount());
     const QVector<int> slides = chosenSlides(settings, count);
     settings.inputs.check(output);
-    HtmlOutput html(output, firstName + QLatin1String(" and ") + secondName);
-    SlidePictures firstPictures(first, context);
-    SlidePictures secondPictures(second, context);
+    if (settings.isKept) {
+        refuseToReplace(output);
+    }
+    PictureStore store;
+    HtmlOutput html(output, firstName + QLatin1String(" and ") + secondName, store);
+    SlidePictures firstPictures(first, context, store);
+    SlidePictures secondPictures(second, context, store);
     LossReport losses;
     for (int i = 0; i < slides.size(); ++i) {
         const int slide = slides.at(i);

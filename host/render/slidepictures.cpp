@@ -115,8 +115,11 @@ IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 
 } // namespace
 
-SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context)
+SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context, PictureStore &store,
+                             const std::optional<QColor> &ground)
     : m_reader(reader)
+    , m_store(store)
+    , m_ground(ground)
     , m_pages(drawnSetting(context.plugin, &m_media))
 {
     const QStringList files = reader.resources();
@@ -136,10 +139,13 @@ SlidePicture SlidePictures::picture(int index)
     const QSizeF size = m_pages.pageSize();
     result.size = QSizeF(qBound(1.0, size.width(), longestSide), qBound(1.0, size.height(), longestSide));
 
-    PlainSvg plain(result.size, m_media);
+    PlainSvg plain(result.size, m_media, m_store, m_ground.value_or(Qt::white));
     const QDomElement page = m_pages.addPage(slide.properties, 1, {});
     for (QDomElement e = page.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
-        plain.add(e);
+        const bool isColor = e.tagName() == QLatin1String("svg:rect");
+        if (!isColor || !m_ground) {
+            plain.add(e);
+        }
     }
     QVector<Shown> items;
     for (const QJsonValue &item : slide.items) {
@@ -158,7 +164,9 @@ SlidePicture SlidePictures::picture(int index)
             result.named.append({view.type(), view.id()});
         }
     }
-    result.svg = plain.text();
+    result.svg = plain.finished();
+    // Pictures are drawn from their files; what IWB would store of them isn't needed.
+    m_media.storeNew([](const QString &, const IwbMedia::File &) {});
     return result;
 }
 

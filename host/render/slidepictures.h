@@ -5,13 +5,19 @@
 #include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
 
+#include <QColor>
+#include <QDomDocument>
 #include <QSizeF>
 #include <QVector>
 
+#include <optional>
+
 namespace lessonhost {
 
+class PictureStore;
+
 /*!
- * One slide as an svg that needs no other file.
+ * One slide as an svg whose pictures lie in a store.
  */
 struct SlidePicture
 {
@@ -24,7 +30,7 @@ struct SlidePicture
 
     int slide = 0; //!< counted from 1
     QSizeF size; //!< pixels
-    QByteArray svg;
+    QDomDocument svg;
     QVector<Told> named; //!< shown by their names alone
 };
 
@@ -35,13 +41,18 @@ struct SlidePicture
 class SlidePictures
 {
 public:
-    SlidePictures(LessonReader &reader, const LessonContext &context);
+    //! store: takes the pictures. ground: in place of the slides' own colours. Reader and store have to live
+    //! as long.
+    SlidePictures(LessonReader &reader, const LessonContext &context, PictureStore &store,
+                  const std::optional<QColor> &ground = {});
 
     //! The picture of a slide, counted from 0. Throws LessonError.
     SlidePicture picture(int index);
 
 private:
     LessonReader &m_reader;
+    PictureStore &m_store;
+    std::optional<QColor> m_ground;
     IwbMedia m_media;
     IwbPageWriter m_pages;
 };

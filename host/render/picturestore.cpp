@@ -1,0 +1,102 @@
+#include "render/picturestore.h"
+
+#include "files/xmltext.h"
+
+namespace lessonhost {
+
+namespace {
+
+const QLatin1String namePrefix("picture");
+const QLatin1String reference("xlink:href");
+constexpr int none = -1;
+
+qint64 areaOf(const QSize &size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+} // namespace
+
+QString PictureStore::add(const QString &file, PixelBudget &budget)
+{
+    const Picture picture(file);
+    auto print = m_fingerprints.constFind(file);
+    if (print == m_fingerprints.constEnd()) {
+        print = m_fingerprints.insert(file, picture.fingerprint());
+    }
+    const qint64 pixels = picture.unpackedPixels();
+    const qint64 most = budget.shareFor(pixels);
+    int index = m_indices.value({*print, 0}, none);
+    if (most <= 0) {
+        return {};
+    }
+    if (index == none || areaOf(m_entries.at(index).size) > most) {
+        index = m_indices.value({*print, most}, none);
+    }
+    if (index == none) {
+        index = m_entries.size();
+        const bool isWhole = areaOf(picture.size()) <= most;
+        m_entries.append({file, picture.shown(most, budget).size, most, picture.format() == "svg"});
+        m_indices.insert({*print, isWhole ? 0 : most}, index);
+    }
+    if (m_entries.at(index).size.isEmpty()) {
+        return {};
+    }
+    budget.take(pixels, areaOf(m_entries.at(index).size));
+    return namePrefix + QString::number(index);
+}
+
+int PictureStore::indexOf(const QString &name) const
+{
+    return name.midRef(namePrefix.size()).toInt();
+}
+
+QString PictureStore::pictureOf(const QDomElement &element) const
+{
+    const QString name = element.attribute(reference).mid(1);
+    const bool isPicture = element.tagName() == QLatin1String("image") && name.startsWith(namePrefix);
+    return isPicture && indexOf(name) < m_entries.size() ? name : QString();
+}
+
+ShownPicture PictureStore::shown(const QString &name) const
+{
+    const Entry &entry = m_entries.at(indexOf(name));
+    PixelBudget inner;
+    return Picture(entry.file).shown(entry.most, inner);
+}
+
+QImage PictureStore::image(const QString &name) const
+{
+    const Entry &entry = m_entries.at(indexOf(name));
+    return Picture(entry.file).image(entry.most);
+}
+
+QByteArray PictureStore::drawing(const QString &name) const
+{
+    return Picture(m_entries.at(indexOf(name)).file).drawing().text;
+}
+
+QByteArray PictureStore::text(const QDomElement &svg) const
+{
+    const QDomElement copy = svg.cloneNode().toElement();
+    for (QDomElement &image : imagesIn(copy)) {
+        const QString name = pictureOf(image);
+        if (!name.isEmpty()) {
+            image.setAttribute(reference, addressOf(shown(name)));
+        }
+    }
+    return xmlNodeText(copy).toUtf8();
+}
+
+QVector<QDomElement> imagesIn(const QDomElement &svg)
+{
+    const QDomNodeList nodes = svg.elementsByTagName(QStringLiteral("image"));
+    QVector<QDomElement> images;
+    images.reserve(nodes.size());
+    for (int i = 0; i < nodes.size(); ++i) {
+        images.append(nodes.at(i).toElement());
+    }
+    return images;
+}
+
+} // namespace lessonhost

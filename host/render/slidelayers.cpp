@@ -1,0 +1,137 @@
+#include "render/slidelayers.h"
+
+#include "files/xmltext.h"
+#include "render/picturestore.h"
+#include "svg/svgvalues.h"
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+double numberOf(const QDomElement &element, const char *name, double otherwise)
+{
+    bool isNumber = false;
+    const double number = element.attribute(QLatin1String(name)).toDouble(&isNumber);
+    return isNumber ? number : otherwise;
+}
+
+QTransform transformOf(const QDomElement &element)
+{
+    return svgTransform(element.attribute(QStringLiteral("transform"))).value_or(QTransform());
+}
+
+double opacityOf(const QDomElement &element)
+{
+    return qBound(0.0, numberOf(element, "opacity", 1), 1.0);
+}
+
+/*!
+ * Goes through a drawing and begins a new one behind each picture, within the same groups.
+ */
+class Parting
+{
+public:
+    Parting(const QDomElement &svg, const PictureStore &store)
+        : m_store(store)
+        , m_around({svg})
+    {
+        walk({}, 1);
+        endPart();
+    }
+
+    QVector<SlideLayer> layers() const { return m_layers; }
+
+private:
+    void walk(const QTransform &transform, double opacity)
+    {
+        const QDomElement parent = m_around.constLast();
+        for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+            PlacedPicture picture = placedPicture(e, m_store);
+            if (!picture.name.isEmpty()) {
+                endPart();
+                picture.transform *= transform;
+                picture.opacity *= opacity;
+                m_layers.append(SlideLayer{{}, picture});
+            } else if (holdsPictures(e)) {
+                enter(e);
+                walk(transformOf(e) * transform, opacityOf(e) * opacity);
+                leave();
+            } else {
+                innermost().appendChild(e.cloneNode());
+            }
+        }
+    }
+
+    bool holdsPictures(const QDomElement &element) const
+    {
+        const QVector<QDomElement> images = imagesIn(element);
+        return std::any_of(images.cbegin(), images.cend(),
+                           [this](const QDomElement &image) { return !m_store.pictureOf(image).isEmpty(); });
+    }
+
+    void enter(const QDomElement &group)
+    {
+        m_around.append(group);
+        if (!m_part.isEmpty()) {
+            m_part.append(m_part.last().appendChild(group.cloneNode(false)).toElement());
+        }
+    }
+
+    void leave()
+    {
+        m_around.removeLast();
+        if (!m_part.isEmpty()) {
+            m_part.removeLast();
+        }
+    }
+
+    // Where the next element of the part goes.
+    QDomElement &innermost()
+    {
+        for (int i = m_part.size(); i < m_around.size(); ++i) {
+            const QDomElement copy = m_around.at(i).cloneNode(false).toElement();
+            if (i > 0) {
+                m_part.last().appendChild(copy);
+            }
+            m_part.append(copy);
+        }
+        return m_part.last();
+    }
+
+    void endPart()
+    {
+        if (!m_part.isEmpty()) {
+            m_layers.append(SlideLayer{xmlNodeText(m_part.first()).toUtf8(), {}});
+            m_part.clear();
+        }
+    }
+
+    const PictureStore &m_store;
+    QVector<QDomElement> m_around; // the drawing and the groups down to where it is
+    QVector<QDomElement> m_part; // copies of them
+    QVector<SlideLayer> m_layers;
+};
+
+} // namespace
+
+PlacedPicture placedPicture(const QDomElement &element, const PictureStore &store)
+{
+    PlacedPicture placed;
+    placed.name = store.pictureOf(element);
+    if (!placed.name.isEmpty()) {
+        placed.box = QRectF(numberOf(element, "x", 0), numberOf(element, "y", 0), numberOf(element, "width", 0),
+                            numberOf(element, "height", 0));
+        placed.transform = transformOf(element);
+        placed.opacity = opacityOf(element);
+    }
+    return placed;
+}
+
+QVector<SlideLayer> layersOf(const QDomElement &svg, const PictureStore &store)
+{
+    return Parting(svg, store).layers();
+}
+
+} // namespace lessonhost

@@ -1,0 +1,44 @@
+#ifndef SLIDELAYERS_H
+#define SLIDELAYERS_H
+
+#include <QByteArray>
+#include <QDomElement>
+#include <QRectF>
+#include <QString>
+#include <QTransform>
+#include <QVector>
+
+namespace lessonhost {
+
+class PictureStore;
+
+/*!
+ * A picture as it stands on a page: stretched to a box, which a transform brings to the page.
+ */
+struct PlacedPicture
+{
+    QString name; //!< in the store; empty for none
+    QRectF box;
+    QTransform transform;
+    double opacity = 1;
+};
+
+//! The picture that an element of a drawing shows.
+PlacedPicture placedPicture(const QDomElement &element, const PictureStore &store);
+
+/*!
+ * A part of a page: either a drawing of its lines and texts or a picture.
+ */
+struct SlideLayer
+{
+    QByteArray svg; //!< of the whole page
+    PlacedPicture picture;
+};
+
+//! A drawing of a page taken apart from back to front, for libraries that are better handed pictures than texts that
+//! hold them. Pictures within groups stay in the drawings.
+QVector<SlideLayer> layersOf(const QDomElement &svg, const PictureStore &store);
+
+} // namespace lessonhost
+
+#endif // SLIDELAYERS_H
