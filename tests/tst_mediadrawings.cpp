@@ -12,11 +12,11 @@ class TestMediaDrawings : public QObject
 private:
     QTemporaryDir m_folder;
 
-    //! The first slide of a lesson in JSON.
+    //! The first slide of a lesson in JSON, with ' for " and ` for '.
     QByteArray svgOf(QByteArray lesson)
     {
         const QString path = m_folder.filePath("lesson.json");
-        putFile(path, lesson.replace('\'', '"'));
+        putFile(path, lesson.replace('\'', '"').replace('`', '\''));
         const CommandProcess::Outcome outcome =
             runCommand({"render", path, m_folder.filePath("lesson.svg"), "--slides", "1"});
         return outcome.exitCode == 0 ? fileContent(m_folder.filePath("lesson.svg")) : outcome.errors.toUtf8();
@@ -91,6 +91,24 @@ private slots:
             "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/png");
         row("stamp in a box", "{'Type':'ZQStrokesStamp','BoundingBox':'5,6,12,16','Stamp':'a.svg'}",
             "height=\"10.00\"|width=\"7.00\"|data:image/png");
+        const QByteArray question = "{'Type':'ZQQuestionItem','BoundingBox':'100,50,300,150','R_Content_svg':'";
+        row("question",
+            question
+                + "<svg viewBox=`0 10 400 200`><style>text,.a{fill:red}@media print{b{c:d}}</style>"
+                  "<linearGradient id=`g`/><path id=`p` d=`M0 0L9 9` fill=`url( #g )`/><use href=`#p` x=`7`/>"
+                  "<script>x()</script><a xlink:href=`http://x.y`><text onclick=`x()`>Why?</text></a></svg>'}",
+            "matrix(0.5 0 0 0.5 100 45)|1-g\"/>|url(#d|1-g)\"|matrix(1 0 0 1 7 0)\"><path d=\"M0 0L9 9\"|1 text,#d|1 "
+            ".a{fill:red}|"
+            ">Why?<|!script|!x()|!x.y|!@media|!Question");
+        row("question of no size",
+            question + "<svg:svg><svg:circle r=`9`/></svg:svg>','content_width':400,'content_height':50}",
+            "matrix(0.5 0 0 0.5 100 50)|<circle r=\"9\"/>");
+        row("drawing that uses itself",
+            question + "<svg><g id=`a`><rect/><use xlink:href=`#b`/></g><g id=`b`><use xlink:href=`#a`/></g></svg>'}",
+            "<rect/>|matrix(1 0 0 1 100 50)|!<use");
+        row("question in words", question + "1 < 2 & 3'}", ">1 &lt; 2 &amp; 3<");
+        row("question that is broken", question + "<svg><text>Why?'}", ">Why?<");
+        row("empty question", question + "'}", ">Question<");
         row("film", "{'Type':'ZQMediaVideo','BoundingBox':'0,0,200,150','resource':'v/of a day.mp4'}",
             ">of a day.mp4<|>Film, MP4<|!matrix(");
         row("sound that is named",

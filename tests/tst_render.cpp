@@ -34,7 +34,7 @@ private slots:
                 {"nodeHtml":"Animals","childNodes":[{"nodeHtml":"<b>Cats</b> & dogs"},{"nodeHtml":"Birds"}]}]}]},
         {"ID":"2","Items":[
             {"ID":"3","Type":"General:spotlight","BoundingBox":"10,10,110,60"},
-            {"ID":"6","Type":"ZQQuestionItem","BoundingBox":"120,10,390,60","Angle":"0.5","R_Content_svg":"<svg><text>Why?</text></svg>"},
+            {"ID":"6","Type":"ZQNewPart","BoundingBox":"120,10,390,60","Angle":"0.5","TextHtml":"<p>Why?</p>"},
             {"ID":"4","Type":"ZQTextBoard","BoundingBox":"10,70,390,100","Text":"unseen","Visible":"0"},
             {"ID":"5","Type":"ZQTextBoard","BoundingBox":"10,120,390,200","Text":"<script>alert(1)</script>"}]}]})");
     }
@@ -48,10 +48,10 @@ private slots:
         QCOMPARE(json.value("slides").toInt(), 2);
         QCOMPARE(json.value("named"),
                  QJsonValue(QJsonArray{QJsonObject{{"slide", 2}, {"type", "General:spotlight"}, {"id", "3"}},
-                                       QJsonObject{{"slide", 2}, {"type", "ZQQuestionItem"}, {"id", "6"}}}));
+                                       QJsonObject{{"slide", 2}, {"type", "ZQNewPart"}, {"id", "6"}}}));
         const QByteArray html = fileContent(path("lesson.html"));
         QCOMPARE(html.count("<svg "), 2);
-        for (const char *shown : {"Animals", "Cats &amp;", "Birds", "Spotlight", ">Question<", "rotate(28.6479 255 35)",
+        for (const char *shown : {"Animals", "Cats &amp;", "Birds", "Spotlight", ">New Part<", "rotate(28.6479 255 35)",
                                   ">Why?<", "&lt;script"}) {
             QVERIFY2(html.contains(shown), shown);
         }

@@ -400,6 +400,11 @@ QString addressOf(const ShownPicture &picture)
                                             + QLatin1String(";base64,") + QLatin1String(picture.bytes.toBase64()));
 }
 
+QString embeddedPicture(const QString &address, PixelBudget &budget)
+{
+    return Picture(embedded(address), {}, 1).address(budget);
+}
+
 QString pictureProblem(const QString &file)
 {
     return Picture(file).problem();

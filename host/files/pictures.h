@@ -86,6 +86,7 @@ private:
     ClosedSvg drawing(PixelBudget &budget) const;
     QImage image(qint64 most, PixelBudget &budget) const;
     QString addressOf(const QString &reference, PixelBudget &budget) const;
+    friend QString embeddedPicture(const QString &address, PixelBudget &budget);
 
     std::unique_ptr<QIODevice> m_device;
     QString m_folder;
@@ -93,6 +94,9 @@ private:
     QByteArray m_format;
     QString m_problem;
 };
+
+//! Picture::address() of what an address "data:..." holds.
+QString embeddedPicture(const QString &address, PixelBudget &budget);
 
 //! Picture(file).problem().
 QString pictureProblem(const QString &file);

@@ -63,4 +63,9 @@ bool Canvas::addPicture(const QString &reference, const QRectF &box, const QTran
     return !file.isEmpty() && m_svg.addPicture(file, box);
 }
 
+bool Canvas::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize)
+{
+    return m_svg.addDrawing(svg, box, usualSize, [this](const QString &reference) { return m_files.find(reference); });
+}
+
 } // namespace lessonhost

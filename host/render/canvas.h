@@ -41,6 +41,10 @@ public:
     //! hasn't, or that can't be drawn.
     bool addPicture(const QString &reference, const QRectF &box, const QTransform &placed = {});
 
+    //! A drawing in svg in its proportion, from a box's upper left corner on. What it shows of pictures is in it or in the
+    //! lesson. usualSize: of one that tells none. False for what is no drawing.
+    bool addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize);
+
     //! What is rubbed out of the ink that is drawn now.
     Rubbing &rubbing() { return m_rubbing; }
 

@@ -9,6 +9,7 @@
 #include "render/itemoutline.h"
 #include "render/mathdrawing.h"
 #include "render/mediadrawing.h"
+#include "render/questiondrawing.h"
 #include "render/symboldrawing.h"
 #include "render/vectordrawing.h"
 
@@ -29,6 +30,7 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &coverDrawing,
     &mediaDrawing,
     &inkDrawing,
+    &questionDrawing,
     &symbolDrawing,
 };
 // clang-format on

@@ -1,15 +1,20 @@
 #include "render/plainsvg.h"
 
+#include "files/closedsvg.h"
 #include "files/drawingbounds.h"
+#include "files/lessonerror.h"
+#include "files/xmlloader.h"
 #include "iwb/iwbmedia.h"
 #include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
 #include "render/arrowhead.h"
+#include "render/innersvg.h"
 #include "render/labellines.h"
 #include "render/picturestore.h"
 #include "svg/svgstyle.h"
 
 #include <QBuffer>
+#include <QCryptographicHash>
 #include <QFontMetricsF>
 #include <QImage>
 
@@ -334,6 +339,30 @@ QDomElement PlainSvg::appendPicture(const QString &file)
     image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
     image.setAttribute(QStringLiteral("xlink:href"), QString(QLatin1Char('#') + name));
     return image;
+}
+
+bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize,
+                          const std::function<QString(const QString &)> &fileOf)
+{
+    const auto addressOf = [&](const QString &reference) {
+        if (reference.startsWith(QLatin1String("data:"))) {
+            return embeddedPicture(reference, m_pixels);
+        }
+        const QString file = fileOf(reference);
+        return file.isEmpty() ? QString() : Picture(file).address(m_pixels);
+    };
+    try {
+        const QByteArray closed = closedSvg(svg, QStringLiteral("svg"), addressOf).text;
+        const QDomDocument drawing = loadXml(closed, QStringLiteral("svg"), XmlBlanks::Kept);
+        // Slides stand in one page, where no two names may be the same.
+        const QByteArray name = QCryptographicHash::hash(closed, QCryptographicHash::Md5).toHex().left(8);
+        const QString prefix = QLatin1Char('d') + QString::fromLatin1(name) + QString::number(++m_drawings);
+        QDomElement part = append(QStringLiteral("g"));
+        part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix));
+        return true;
+    } catch (const LessonError &) {
+        return false;
+    }
 }
 
 void PlainSvg::addImage(const QImage &image, const QRectF &box)

@@ -13,6 +13,8 @@
 #include <QTransform>
 #include <QVector>
 
+#include <functional>
+
 namespace lessonhost {
 
 class IwbMedia;
@@ -72,6 +74,10 @@ public:
 
     //! Adds a text area of an IWB page with its lines in the middle of its height.
     void addTextInMiddle(const QDomElement &area) { addText(area, true); }
+    //! A drawing in svg, in its proportion from a box's upper left corner on; one that tells no size is as large as
+    //! usualSize. fileOf: where a picture lies that it refers to. False for what is no drawing.
+    bool addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize,
+                    const std::function<QString(const QString &reference)> &fileOf);
     //! How many pixels a picture may have that is made for this page; 0 if there were too many before.
     qint64 mostPixels() const { return m_pixels.shareFor(1); }
     //! Such a picture.
@@ -103,6 +109,7 @@ private:
     QTransform m_transform;
     QDomElement m_scope; // holds what was added last under a transform
     QTransform m_scopeTransform;
+    int m_drawings = 0;
 };
 
 } // namespace lessonhost
