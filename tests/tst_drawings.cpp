@@ -34,7 +34,7 @@ private:
 
     Look look(const QJsonObject &item)
     {
-        const ItemPicture picture = m_pictures.draw({item});
+        const ItemPicture picture = m_pictures.draw(withGround(item));
         Look look{picture.svg, !picture.named.isEmpty(), {}};
         QImage page(ItemPictures::pageSize().toSize(), QImage::Format_RGB32);
         QPainter painter(&page);
@@ -96,7 +96,7 @@ private slots:
         const int reach = 2 + int(qMax(view.number(ItemKeys::lineWidth), view.number(ItemKeys::width)) / 2);
         QVERIFY2(box.toAlignedRect().adjusted(-reach, -reach, reach, reach).contains(plain.ink), plain.svg);
 
-        if (plain.isNamed || view.type() == "ZQMindMapItem") {
+        if (plain.isNamed || view.type() == "ZQMindMapItem" || view.type() == "ZQStrokesDeletePixel") {
             return;
         }
 

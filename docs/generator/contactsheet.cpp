@@ -96,7 +96,10 @@ private:
                                        {QStringLiteral("LineColor"), QStringLiteral("255,215,215,215")}});
         QJsonObject item = m_variant.changed(typicalItem(type, box));
         item.insert(QStringLiteral("ID"), QString::number(m_cells + 1));
-        slide.items.append(item);
+        const QJsonArray shown = withGround(item);
+        for (const QJsonValue &each : shown) {
+            slide.items.append(each);
+        }
         slide.items.append(
             textItem(type + QLatin1String("<br>") + lessonhost::plainName(type),
                      {corner.x(), corner.y() + cellSize.height() - labelHeight, cellSize.width(), labelHeight}, 11));

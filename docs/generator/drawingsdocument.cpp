@@ -92,7 +92,7 @@ private:
         });
     }
 
-    ItemPicture draw(const QJsonObject &item) { return m_pictures.draw({item}); }
+    ItemPicture draw(const QJsonObject &item) { return m_pictures.draw(withGround(item)); }
 
     TransformationPlugin m_plugin;
     ItemPictures m_pictures{&m_plugin};

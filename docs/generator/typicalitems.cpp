@@ -249,6 +249,21 @@ QJsonObject typicalItem(const QString &type, const QRectF &box)
     return item;
 }
 
+QJsonArray withGround(const QJsonObject &item)
+{
+    if (item.value(QLatin1String("Type")) != QLatin1String("ZQStrokesDeletePixel")) {
+        return {item};
+    }
+    QStringList sides = item.value(QLatin1String("BoundingBox")).toString().split(QLatin1Char(','));
+    while (sides.size() < 4) {
+        sides.append(QStringLiteral("0"));
+    }
+    const QRectF box(QPointF(sides.at(0).toDouble(), sides.at(1).toDouble()),
+                     QPointF(sides.at(2).toDouble(), sides.at(3).toDouble()));
+    const QJsonObject ink = typicalItem(QStringLiteral("ZQBrushStroke"), box);
+    return {ink, item};
+}
+
 QJsonObject withValues(QJsonObject item, const QString &number, const QString &text)
 {
     static const QStringList kept{QStringLiteral("Type"), QStringLiteral("BoundingBox"), QStringLiteral("Children")};

@@ -1,6 +1,7 @@
 #ifndef TYPICALITEMS_H
 #define TYPICALITEMS_H
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QRectF>
 #include <QString>
@@ -12,6 +13,9 @@ QSizeF typicalSize(const QString &type);
 
 //! An item of a type with what typicalvalues.json has for the keys that the type has, its points in this box.
 QJsonObject typicalItem(const QString &type, const QRectF &box);
+
+//! The item, and below it what it is seen by: ink under what rubs it out.
+QJsonArray withGround(const QJsonObject &item);
 
 //! The files that typical items refer to, in base64 by their paths in the lesson.
 QJsonObject typicalFiles();
