@@ -1,6 +1,8 @@
 #include "lesson/closedtext.h"
 
+#include <QGuiApplication>
 #include <QHash>
+#include <QPixmap>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QVariant>
@@ -316,6 +318,17 @@ private:
 ClosedTextDocument::ClosedTextDocument()
 {
     setUndoRedoEnabled(false);
+}
+
+// A document that is laid out opens the file of a picture itself where it gets none here.
+QVariant ClosedTextDocument::loadResource(int type, const QUrl &)
+{
+    if (type != ImageResource || !qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        return {};
+    }
+    QPixmap nothing(1, 1);
+    nothing.fill(Qt::transparent);
+    return nothing;
 }
 
 int ClosedTextDocument::setLessonHtml(const QString &html)

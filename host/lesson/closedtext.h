@@ -21,7 +21,7 @@ public:
     int setLessonHtml(const QString &html);
 
 protected:
-    QVariant loadResource(int, const QUrl &) override { return {}; }
+    QVariant loadResource(int type, const QUrl &name) override;
 };
 
 //! The words of a text in HTML, with one blank between them.

@@ -1,5 +1,10 @@
 #include "lesson/fontvalues.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
+
 namespace lessonhost {
 
 namespace {
@@ -27,6 +32,20 @@ constexpr AlignmentName alignments[] = {
     {Qt::AlignRight, "end", "right", "end"},
     {Qt::AlignHCenter, "center", "center", "middle"},
     {Qt::AlignJustify, "justify", "justify", "justify"},
+};
+
+// A part of a font's name, and what it tells. The first that fits counts.
+struct FamilyKind
+{
+    const char *part;
+    const char *generic;
+};
+constexpr FamilyKind familyKinds[] = {
+    {"mono", "monospace"}, {"courier", "monospace"}, {"consolas", "monospace"}, {"sans", "sans-serif"},
+    {"serif", "serif"},    {"times", "serif"},       {"georgia", "serif"},      {"cambria", "serif"},
+    {"garamond", "serif"}, {"palatino", "serif"},    {"song", "serif"},         {"simsun", "serif"},
+    {"ming", "serif"},     {"mincho", "serif"},      {"kai", "serif"},          {"batang", "serif"},
+    {"宋", "serif"},       {"明", "serif"},          {"楷", "serif"},
 };
 
 const AlignmentName &alignmentName(Qt::Alignment alignment)
@@ -98,6 +117,37 @@ QLatin1String svgAlignment(Qt::Alignment alignment)
 QLatin1String htmlAlignment(Qt::Alignment alignment)
 {
     return QLatin1String(alignmentName(alignment).html);
+}
+
+QStringList withGenericFamily(QStringList families)
+{
+    const QString first = families.value(0).toLower();
+    const auto *const kind =
+        std::find_if(std::begin(familyKinds), std::end(familyKinds),
+                     [&first](const FamilyKind &row) { return first.contains(QString::fromUtf8(row.part)); });
+    const QString generic = QLatin1String(kind == std::end(familyKinds) ? "sans-serif" : kind->generic);
+    families.removeAll(generic);
+    families.append(generic);
+    return families;
+}
+
+// Words of letters and digits need no quotes. What names of fonts don't have stays out, for a style ends at a
+// semicolon.
+QString svgFamilies(const QStringList &families)
+{
+    static const QRegularExpression words(QStringLiteral("^[^\\W\\d][\\w-]*( [^\\W\\d][\\w-]*)*$"),
+                                          QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression odd(QStringLiteral("[^\\w .+-]"), QRegularExpression::UseUnicodePropertiesOption);
+    QStringList names;
+    for (QString family : families) {
+        family = family.remove(odd).simplified();
+        if (words.match(family).hasMatch()) {
+            names.append(family);
+        } else if (!family.isEmpty()) {
+            names.append(QLatin1Char('\'') + family + QLatin1Char('\''));
+        }
+    }
+    return names.join(QLatin1String(", "));
 }
 
 } // namespace lessonhost

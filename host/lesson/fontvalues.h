@@ -2,6 +2,7 @@
 #define FONTVALUES_H
 
 #include <QString>
+#include <QStringList>
 #include <Qt>
 
 namespace lessonhost {
@@ -23,6 +24,13 @@ Qt::AlignmentFlag textAlignment(const QString &text);
 //! Its names in svg ("start", "end", "center" or "justify") and in HTML ("left", ...).
 QLatin1String svgAlignment(Qt::Alignment alignment);
 QLatin1String htmlAlignment(Qt::Alignment alignment);
+
+//! The families of a font, and behind them the generic one that stands in where a machine has none of them: "serif",
+//! "sans-serif" or "monospace", as the names tell.
+QStringList withGenericFamily(QStringList families);
+
+//! The same list as svg writes it.
+QString svgFamilies(const QStringList &families);
 
 } // namespace lessonhost
 

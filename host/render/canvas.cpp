@@ -1,10 +1,12 @@
 #include "render/canvas.h"
 
-#include "lesson/closedtext.h"
+#include "lesson/planegeometry.h"
 
 namespace lessonhost {
 
 namespace {
+
+constexpr double smallestScale = 1e-3;
 
 // What IWB leaves with anything to see.
 bool isSeen(const QDomElement &element)
@@ -30,18 +32,37 @@ bool Canvas::addAsIwb(const QJsonObject &item)
     return isSeen(element) && m_svg.add(element);
 }
 
-// A text board without a frame.
-void Canvas::addText(const QString &html, const QRectF &area, const QTransform &placed)
+bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &placed, const TextPlace &place)
 {
-    if (plainWords(html).isEmpty()) {
-        return;
+    LessonText laidOut(text, place.look);
+    if (laidOut.isEmpty()) {
+        return true;
     }
-    QDomDocument document = m_pages.document();
-    const QJsonObject board{{ItemKeys::type, QStringLiteral("ZQTextBoard")},
-                            {ItemKeys::box, boxText(area)},
-                            {ItemKeys::matrix, transformText(placed)},
-                            {ItemKeys::html, html}};
-    m_svg.addTextInMiddle(m_pages.items().write(document, board, {}, {}));
+    // A box that is only turned and larger has letters as wide as they are, one that is stretched more room for them.
+    const auto parts = scaleAndTurn(placed);
+    const bool isUpright = parts && parts->scaleY > 0;
+    const ItemPlace onPage = isUpright ? placeUnder(placed, area) : ItemPlace{area, 0};
+    const QSizeF room = onPage.box.size();
+    double scale = isUpright ? qMax(meanScale(placed), smallestScale) : 1;
+    laidOut.setWidth(room.width() / scale, place.isFitted);
+    if (place.isFitted) {
+        const double smallest = qMin(1.0, m_svg.readableSize() / laidOut.smallestPixels());
+        const auto isTooLarge = [&] {
+            return laidOut.size().height() * scale > room.height() || laidOut.idealWidth() * scale > room.width();
+        };
+        while (isTooLarge()) {
+            scale *= 0.9;
+            if (scale < smallest) {
+                return false;
+            }
+            laidOut.setWidth(room.width() / scale, place.isFitted);
+        }
+    }
+    const double space = place.isInMiddle ? room.height() - laidOut.size().height() * scale : 0;
+    const QTransform inArea = QTransform::fromScale(scale, scale)
+        * QTransform::fromTranslate(onPage.box.left(), onPage.box.top() + qMax(0.0, space / 2));
+    laidOut.draw(m_svg.addGroup(inArea * (isUpright ? turnAbout(onPage.box.center(), onPage.angle) : placed)));
+    return true;
 }
 
 QSize Canvas::pictureSize(const QString &reference) const

@@ -4,10 +4,21 @@
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagewriter.h"
 #include "lesson/itemview.h"
+#include "render/lessontext.h"
 #include "render/plainsvg.h"
 #include "render/rubbing.h"
 
 namespace lessonhost {
+
+/*!
+ * How a text stands in its area.
+ */
+struct TextPlace
+{
+    bool isInMiddle = true; //!< of the area's height; else it begins at its top
+    bool isFitted = false; //!< made smaller until it fits into the area
+    TextLook look;
+};
 
 /*!
  * What the items of one slide are drawn on: the lines of its svg, the texts and pictures that IWB has a form for, and
@@ -33,9 +44,9 @@ public:
     //! The item as IWB shows it. False where IWB has nothing to see for it.
     bool addAsIwb(const QJsonObject &item);
 
-    //! A text as items hold it, HTML or plain, in the middle of the height of an area. placed: from the area to the
-    //! page.
-    void addText(const QString &html, const QRectF &area, const QTransform &placed = {});
+    //! A text as items hold it, HTML or plain, in lines as long as an area is wide. placed: from the area to the page;
+    //! it may mirror and slant the text. False for a text that would have to be made smaller than can be read.
+    bool addText(const QString &text, const QRectF &area, const QTransform &placed = {}, const TextPlace &place = {});
 
     //! A picture of the lesson, stretched to a box; placed may mirror and slant it. False for a file that the lesson
     //! hasn't, or that can't be drawn.

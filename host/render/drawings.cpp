@@ -1,7 +1,5 @@
 #include "render/drawings.h"
 
-#include "lesson/itemtypes.h"
-#include "lesson/planegeometry.h"
 #include "render/coverdrawing.h"
 #include "render/graphdrawing.h"
 #include "render/inkdrawing.h"
@@ -9,8 +7,10 @@
 #include "render/itemoutline.h"
 #include "render/mathdrawing.h"
 #include "render/mediadrawing.h"
+#include "render/mindmapdrawing.h"
 #include "render/questiondrawing.h"
 #include "render/symboldrawing.h"
+#include "render/textdrawing.h"
 #include "render/vectordrawing.h"
 
 #include <QJsonArray>
@@ -32,6 +32,8 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &inkDrawing,
     &questionDrawing,
     &symbolDrawing,
+    &textDrawing,
+    &mindMapDrawing,
 };
 // clang-format on
 
@@ -46,24 +48,6 @@ bool drawFromFamilies(Canvas &canvas, const ItemView &item)
     return false;
 }
 
-// What takes a text to the page that no box can stand for: mirrored or slanted.
-std::optional<QTransform> mirrorOf(const ItemView &item)
-{
-    const QTransform placed = placeOnPage(item);
-    const auto parts = scaleAndTurn(placed);
-    const bool isMirrored = isTextBoard(item.type()) && item.box() && !(parts && parts->scaleY > 0);
-    return isMirrored ? std::optional<QTransform>(placed) : std::nullopt;
-}
-
-QJsonObject withoutPlace(QJsonObject item)
-{
-    for (const QLatin1String key :
-         {ItemKeys::matrix, ItemKeys::angle, ItemKeys::flippedAcross, ItemKeys::flippedDown}) {
-        item.remove(key);
-    }
-    return item;
-}
-
 } // namespace
 
 Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files)
@@ -75,12 +59,7 @@ Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files)
 bool Drawings::draw(const QJsonObject &json)
 {
     const ItemView item(json);
-    if (const auto mirror = mirrorOf(item)) {
-        const PlainSvg::Scope scope(m_canvas.svg(), *mirror);
-        return draw(withoutPlace(json));
-    }
-    if (drawFromFamilies(m_canvas, item)
-        || (item.type() == QLatin1String("ZQMindMapItem") ? m_boxes.drawMindMap(json) : m_canvas.addAsIwb(json))) {
+    if (drawFromFamilies(m_canvas, item) || m_canvas.addAsIwb(json)) {
         return true;
     }
     m_boxes.drawBox(json, addPictureOn(item));

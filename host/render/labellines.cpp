@@ -1,5 +1,9 @@
 #include "render/labellines.h"
 
+#include "lesson/fontshere.h"
+#include "render/svgelements.h"
+
+#include <QFont>
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -8,14 +12,26 @@ namespace lessonhost {
 
 namespace {
 
-// Lines of words, each as long as it fits into a width.
-QStringList brokenIntoLines(const QString &text, double width, const QFontMetricsF &metrics)
+constexpr double measuredSize = 100;
+
+const QFontMetricsF &metrics()
+{
+    static const QFontMetricsF known = [] {
+        QFont font(familyHere(labelFamilies()));
+        font.setPixelSize(int(measuredSize));
+        return QFontMetricsF(font);
+    }();
+    return known;
+}
+
+// Lines of words, each as long as it fits into a width. A word that doesn't has a line of its own.
+QStringList brokenIntoLines(const QString &text, double width)
 {
     QStringList lines;
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : words) {
         const QString longer = lines.isEmpty() ? word : QString(lines.constLast() + QLatin1Char(' ') + word);
-        if (!lines.isEmpty() && metrics.horizontalAdvance(longer) <= width) {
+        if (!lines.isEmpty() && metrics().horizontalAdvance(longer) <= width) {
             lines.last() = longer;
         } else {
             lines.append(word);
@@ -24,23 +40,68 @@ QStringList brokenIntoLines(const QString &text, double width, const QFontMetric
     return lines;
 }
 
+// How many letters fit into a width, at least one.
+int lettersThatFit(const QString &text, double width)
+{
+    int fitting = 1;
+    while (fitting < text.size() && metrics().horizontalAdvance(text, fitting + 1) <= width) {
+        ++fitting;
+    }
+    return fitting < text.size() && text.at(fitting).isLowSurrogate() ? qMax(1, fitting - 1) : fitting;
+}
+
+// The same lines without one that is longer than the width, and no more of them than so many.
+QStringList cutToLines(const QStringList &lines, double width, int count)
+{
+    QStringList cut;
+    for (QString line : lines) {
+        while (metrics().horizontalAdvance(line) > width && cut.size() <= count) {
+            const int fitting = lettersThatFit(line, width);
+            cut.append(line.left(fitting));
+            line = line.mid(fitting);
+        }
+        cut.append(line);
+    }
+    if (cut.size() > count) {
+        cut = cut.mid(0, count);
+        const QString sign(QChar(0x2026));
+        QString &last = cut.last();
+        while (!last.isEmpty() && metrics().horizontalAdvance(last + sign) > width) {
+            last.chop(last.size() > 1 && last.at(last.size() - 1).isLowSurrogate() ? 2 : 1);
+        }
+        last = last.trimmed() + sign;
+    }
+    return cut;
+}
+
+double longestOf(const QStringList &lines)
+{
+    double longest = 0;
+    for (const QString &line : lines) {
+        longest = qMax(longest, metrics().horizontalAdvance(line));
+    }
+    return longest;
+}
+
 } // namespace
 
-LabelLines linesThatFit(const QString &text, const QSizeF &box, double largestSize)
+LabelLines linesThatFit(const QString &text, const QSizeF &box, double largestSize, double smallestSize)
 {
-    constexpr double smallestSize = 4;
-    QFont font(QStringLiteral("sans-serif"));
-    font.setPixelSize(100);
-    const QFontMetricsF metrics(font);
+    constexpr double usedWidth = 0.94;
+    constexpr double usedHeight = 0.96;
+    constexpr double step = 0.9;
     LabelLines label;
-    for (label.size = largestSize;; label.size *= 0.9) {
-        const double width = box.width() * 0.94 * 100 / label.size;
-        label.lines = brokenIntoLines(text, width, metrics);
-        const bool isNarrow = std::all_of(label.lines.cbegin(), label.lines.cend(), [&](const QString &line) {
-            return metrics.horizontalAdvance(line) <= width;
-        });
-        if ((isNarrow && label.lines.size() * label.size * LabelLines::lineHeight <= box.height() * 0.96)
-            || label.size < smallestSize) {
+    for (label.size = qMax(largestSize, smallestSize);; label.size = qMax(label.size * step, smallestSize)) {
+        const double width = box.width() * usedWidth * measuredSize / label.size;
+        const int count = int(box.height() * usedHeight / (label.size * LabelLines::lineHeight));
+        label.lines = brokenIntoLines(text, width);
+        label.isWhole = longestOf(label.lines) <= width && label.lines.size() <= count;
+        if (!label.isWhole && label.size <= smallestSize) {
+            const bool isTiny = count < 1 || width < metrics().horizontalAdvance(QStringLiteral("mm"));
+            label.lines = isTiny ? QStringList() : cutToLines(label.lines, width, count);
+        }
+        if (label.isWhole || label.size <= smallestSize) {
+            label.width = longestOf(label.lines) * label.size / measuredSize;
             return label;
         }
     }

@@ -5,9 +5,6 @@
 #include "lesson/plainnames.h"
 #include "render/plainsvg.h"
 
-#include <QJsonArray>
-#include <QLineF>
-
 namespace lessonhost {
 
 namespace {
@@ -30,91 +27,11 @@ QString textOn(const ItemView &item)
     return {};
 }
 
-struct Node
-{
-    QString text;
-    QColor fill;
-    QColor line;
-    QRectF box;
-    int depth = 0;
-    int parent = -1;
-    double row = 0;
-};
-
-constexpr int maximumDepth = 500;
-
-// Leaves take the rows one after the other, a node stands in the middle of its own. Returns the node's row.
-double layOut(const QJsonObject &json, int parent, int depth, QVector<Node> &nodes, double &nextRow)
-{
-    const int self = nodes.size();
-    Node node;
-    node.text = plainWords(valueText(json.value(QLatin1String("nodeHtml"))));
-    node.fill = itemColor(json.value(QLatin1String("fillColor"))).value_or(QColor(0xea, 0xf2, 0xfb));
-    node.line = itemColor(json.value(QLatin1String("lineColor"))).value_or(QColor(0x4a, 0x6f, 0xa5));
-    node.depth = depth;
-    node.parent = parent;
-    nodes.append(node);
-    const QJsonArray children = json.value(QLatin1String("childNodes")).toArray();
-    double first = nextRow;
-    double last = nextRow;
-    if (children.isEmpty() || depth >= maximumDepth) {
-        nextRow += 1;
-    }
-    for (int i = 0; i < children.size() && depth < maximumDepth; ++i) {
-        last = layOut(children.at(i).toObject(), self, depth + 1, nodes, nextRow);
-        if (i == 0) {
-            first = last;
-        }
-    }
-    nodes[self].row = (first + last) / 2;
-    return nodes.at(self).row;
-}
-
 } // namespace
 
 NamedBoxes::NamedBoxes(PlainSvg &svg)
     : m_svg(svg)
 {
-}
-
-bool NamedBoxes::drawMindMap(const QJsonObject &item)
-{
-    const QJsonArray data = item.value(ItemKeys::mindMap).toArray();
-    if (data.size() < 3) {
-        return false;
-    }
-    QVector<Node> nodes;
-    double rows = 0;
-    layOut(data.at(2).toObject(), -1, 0, nodes, rows);
-    int depth = 0;
-    for (const Node &node : qAsConst(nodes)) {
-        depth = qMax(depth, node.depth);
-    }
-    const QRectF page = QRectF(QPointF(), m_svg.size());
-    const auto place = ItemView(item).place();
-    const QRectF area = place && place->box.width() > 40 && place->box.height() > 20
-        ? place->box
-        : page.adjusted(page.width() * 0.05, page.height() * 0.1, -page.width() * 0.05, -page.height() * 0.1);
-    const QSizeF cell(area.width() / (depth + 1), area.height() / qMax(rows, 1.0));
-    const QSizeF size(cell.width() * 0.7, qMin(cell.height() * 0.7, 90.0));
-    for (Node &node : nodes) {
-        const QPointF center(area.left() + (node.depth + 0.5) * cell.width(),
-                             area.top() + (node.row + 0.5) * cell.height());
-        node.box = QRectF(center - QPointF(size.width() / 2, size.height() / 2), size);
-    }
-    for (const Node &node : qAsConst(nodes)) {
-        if (node.parent >= 0) {
-            const QRectF &parent = nodes.at(node.parent).box;
-            m_svg.addLine(QLineF(parent.right(), parent.center().y(), node.box.left(), node.box.center().y()),
-                          node.line, 2);
-        }
-    }
-    for (const Node &node : qAsConst(nodes)) {
-        m_svg.addRectangle(node.box, node.line, node.fill);
-        const bool isDark = node.fill.alpha() > 127 && qGray(node.fill.rgb()) < 110;
-        m_svg.addLabel(node.text, node.box, 28, isDark ? Qt::white : Qt::black);
-    }
-    return true;
 }
 
 void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)

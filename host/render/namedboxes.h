@@ -17,9 +17,6 @@ class NamedBoxes
 public:
     explicit NamedBoxes(PlainSvg &svg);
 
-    //! A tree of boxes and lines, in the item's box or the whole page. False for what is no mind map.
-    bool drawMindMap(const QJsonObject &item);
-
     //! The item's box with the plain name of its type and the text that stands on it; for an item without a box, a
     //! small one at the page's left edge. hasPicture: it lies over a picture that is to be seen.
     void drawBox(const QJsonObject &item, bool hasPicture);

@@ -5,18 +5,19 @@
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "iwb/iwbmedia.h"
-#include "lesson/fontvalues.h"
 #include "lesson/isoneof.h"
 #include "render/arrowhead.h"
 #include "render/innersvg.h"
 #include "render/labellines.h"
 #include "render/picturestore.h"
+#include "render/svgelements.h"
 #include "svg/svgstyle.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
-#include <QFontMetricsF>
 #include <QImage>
+
+#include <algorithm>
 
 namespace lessonhost {
 
@@ -54,22 +55,6 @@ const char *const keptAttributes[] = {
 };
 const char *const keptTags[] = {"rect", "circle", "ellipse", "line", "polyline", "polygon", "path"};
 
-QString number(double value)
-{
-    return QString::number(qIsNaN(value) ? 0 : qBound(-largestInDrawing, value, largestInDrawing), 'f', 2);
-}
-
-QString matrixText(const QTransform &transform)
-{
-    QStringList numbers;
-    for (const double number :
-         {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
-        const double bounded = qIsNaN(number) ? 0 : qBound(-largestInDrawing, number, largestInDrawing);
-        numbers.append(QString::number(qAbs(bounded) < 1e-8 ? 0 : bounded, 'g', 8));
-    }
-    return QStringLiteral("matrix(%1)").arg(numbers.join(QLatin1Char(' ')));
-}
-
 QString withoutPrefix(const QString &tag)
 {
     return tag.section(QLatin1Char(':'), -1);
@@ -77,10 +62,10 @@ QString withoutPrefix(const QString &tag)
 
 void setBox(QDomElement &element, const QRectF &box)
 {
-    element.setAttribute(QStringLiteral("x"), number(box.x()));
-    element.setAttribute(QStringLiteral("y"), number(box.y()));
-    element.setAttribute(QStringLiteral("width"), number(box.width()));
-    element.setAttribute(QStringLiteral("height"), number(box.height()));
+    element.setAttribute(QStringLiteral("x"), drawnNumber(box.x()));
+    element.setAttribute(QStringLiteral("y"), drawnNumber(box.y()));
+    element.setAttribute(QStringLiteral("width"), drawnNumber(box.width()));
+    element.setAttribute(QStringLiteral("height"), drawnNumber(box.height()));
 }
 
 void copyAttributes(const QDomElement &from, QDomElement &to)
@@ -92,127 +77,6 @@ void copyAttributes(const QDomElement &from, QDomElement &to)
             to.setAttribute(QLatin1String(name), value);
         }
     }
-}
-
-QString pathData(const QPainterPath &path)
-{
-    QString data;
-    QPointF start;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element element = path.elementAt(i);
-        start = element.isMoveTo() ? QPointF(element) : start;
-        const char *letter = element.isMoveTo() ? "M" : element.isLineTo() ? "L" : element.isCurveTo() ? "C" : " ";
-        data += QLatin1String(letter) + number(element.x) + QLatin1Char(' ') + number(element.y);
-        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
-        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
-            data += QLatin1Char('Z');
-        }
-    }
-    return data;
-}
-
-struct Piece
-{
-    QDomElement span;
-    QFont font;
-    QString text;
-    double width = 0;
-};
-using Line = QVector<Piece>;
-
-double pixelSize(const QDomElement &span)
-{
-    bool isNumber = false;
-    const double size = span.attribute(QStringLiteral("font-size")).toDouble(&isNumber);
-    return isNumber ? qBound(1.0, size, 2000.0) : defaultFontPixels;
-}
-
-QFont fontOf(const QDomElement &span)
-{
-    QFont font(span.attribute(QStringLiteral("font-family"), QStringLiteral("Arial")));
-    font.setPixelSize(qMax(1, qRound(pixelSize(span))));
-    font.setWeight(fontWeight(span.attribute(QStringLiteral("font-weight"))));
-    font.setItalic(span.attribute(QStringLiteral("font-style")) == QLatin1String("italic"));
-    return font;
-}
-
-struct LineSize
-{
-    double ascent = 0;
-    double descent = 0;
-    double width = 0;
-
-    double height() const { return ascent + descent; }
-};
-
-LineSize sizeOf(const Line &line)
-{
-    if (line.isEmpty()) {
-        return {defaultFontPixels, 6, 0};
-    }
-    LineSize size;
-    for (const Piece &piece : line) {
-        const QFontMetricsF metrics(piece.font);
-        size.ascent = qMax(size.ascent, metrics.ascent());
-        size.descent = qMax(size.descent, metrics.descent());
-        size.width += piece.width;
-    }
-    return size;
-}
-
-// Where the next word ends, the blanks behind it included. Wide scripts have no blanks: each of their letters is a
-// word.
-int wordEnd(const QString &text, int from)
-{
-    int end = from;
-    while (end < text.size() && !text.at(end).isSpace() && text.at(end).unicode() < 0x2e80) {
-        ++end;
-    }
-    end = qMax(end, from + 1);
-    while (end < text.size() && text.at(end) == QLatin1Char(' ')) {
-        ++end;
-    }
-    return end;
-}
-
-// Breaks the runs of a text area into lines of at most a width.
-QVector<Line> linesOf(const QDomElement &area, double width)
-{
-    QVector<Line> lines(1);
-    double used = 0;
-    for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-        if (withoutPrefix(span.tagName()) != QLatin1String("tspan")) {
-            continue;
-        }
-        const QString text = span.text();
-        const QFont font = fontOf(span);
-        const QFontMetricsF metrics(font);
-        for (int at = 0; at < text.size();) {
-            const QChar first = text.at(at);
-            if (first == QLatin1Char('\n') || first == QChar::LineSeparator) {
-                lines.append(Line());
-                used = 0;
-                ++at;
-                continue;
-            }
-            const int end = wordEnd(text, at);
-            const QString word = text.mid(at, end - at);
-            const double wordWidth = metrics.horizontalAdvance(word);
-            if (used > 0 && used + wordWidth > width + 1) {
-                lines.append(Line());
-                used = 0;
-            }
-            Line &line = lines.last();
-            if (line.isEmpty() || line.constLast().span != span) {
-                line.append({span, font, QString(), 0});
-            }
-            line.last().text += word;
-            line.last().width += wordWidth;
-            used += wordWidth;
-            at = end;
-        }
-    }
-    return lines;
 }
 
 } // namespace
@@ -227,16 +91,16 @@ PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pict
     m_svg.setAttribute(QStringLiteral("xmlns"), QStringLiteral("http://www.w3.org/2000/svg"));
     m_svg.setAttribute(QStringLiteral("xmlns:xlink"), QStringLiteral("http://www.w3.org/1999/xlink"));
     m_svg.setAttribute(QStringLiteral("viewBox"),
-                       QStringLiteral("0 0 %1 %2").arg(number(size.width()), number(size.height())));
-    m_svg.setAttribute(QStringLiteral("width"), number(size.width()));
-    m_svg.setAttribute(QStringLiteral("height"), number(size.height()));
+                       QStringLiteral("0 0 %1 %2").arg(drawnNumber(size.width()), drawnNumber(size.height())));
+    m_svg.setAttribute(QStringLiteral("width"), drawnNumber(size.width()));
+    m_svg.setAttribute(QStringLiteral("height"), drawnNumber(size.height()));
     if (paper.alpha() > 0) {
         QDomElement sheet = append(QStringLiteral("rect"));
-        sheet.setAttribute(QStringLiteral("width"), number(size.width()));
-        sheet.setAttribute(QStringLiteral("height"), number(size.height()));
+        sheet.setAttribute(QStringLiteral("width"), drawnNumber(size.width()));
+        sheet.setAttribute(QStringLiteral("height"), drawnNumber(size.height()));
         sheet.setAttribute(QStringLiteral("fill"), paper.name());
         if (paper.alpha() < 255) {
-            sheet.setAttribute(QStringLiteral("fill-opacity"), number(paper.alphaF()));
+            sheet.setAttribute(QStringLiteral("fill-opacity"), drawnNumber(paper.alphaF()));
         }
     }
 }
@@ -271,7 +135,7 @@ QDomElement PlainSvg::append(const QString &tag)
         m_scopeTransform = m_transform;
         m_scope = m_document.createElement(QStringLiteral("g"));
         m_svg.appendChild(m_scope);
-        m_scope.setAttribute(QStringLiteral("transform"), matrixText(m_transform));
+        m_scope.setAttribute(QStringLiteral("transform"), drawnTransform(m_transform));
     }
     m_scope.appendChild(element);
     return element;
@@ -280,9 +144,7 @@ QDomElement PlainSvg::append(const QString &tag)
 bool PlainSvg::add(const QDomElement &element)
 {
     const QString tag = withoutPrefix(element.tagName());
-    if (tag == QLatin1String("textarea")) {
-        addText(element, false);
-    } else if (tag == QLatin1String("image")) {
+    if (tag == QLatin1String("image")) {
         return addPicture(element);
     } else if (isOneOf(keptTags, tag)) {
         QDomElement copy = append(tag);
@@ -305,7 +167,7 @@ void PlainSvg::addHeads(const QDomElement &element, QDomElement &line)
 {
     const auto value = [&line](const char *name) { return line.attribute(QLatin1String(name)).toDouble(); };
     const auto setValue = [&line](const char *name, double value) {
-        line.setAttribute(QLatin1String(name), number(value));
+        line.setAttribute(QLatin1String(name), drawnNumber(value));
     };
     for (const bool isStart : {false, true}) {
         QLineF to(value("x1"), value("y1"), value("x2"), value("y2"));
@@ -316,7 +178,7 @@ void PlainSvg::addHeads(const QDomElement &element, QDomElement &line)
             continue;
         }
         QDomElement head = append(QStringLiteral("path"));
-        head.setAttribute(QStringLiteral("d"), pathData(arrowHead(to, value("stroke-width"))));
+        head.setAttribute(QStringLiteral("d"), drawnPath(arrowHead(to, value("stroke-width"))));
         for (const auto &row : {std::make_pair("fill", "stroke"), std::make_pair("fill-opacity", "stroke-opacity"),
                                 std::make_pair("transform", "transform")}) {
             if (line.hasAttribute(QLatin1String(row.second))) {
@@ -397,93 +259,29 @@ bool PlainSvg::addPicture(const QDomElement &element)
     return !image.isNull();
 }
 
-void PlainSvg::addText(const QDomElement &area, bool isInMiddle)
+// Letters keep their proportions where viewers would fit them to the dots of a screen.
+QDomElement PlainSvg::addGroup(const QTransform &placed)
 {
-    const double left = area.attribute(QStringLiteral("x")).toDouble();
-    double y = area.attribute(QStringLiteral("y")).toDouble();
-    double width = area.attribute(QStringLiteral("width")).toDouble();
-    if (!(width > 0)) {
-        width = m_size.width() - left;
-    }
     QDomElement group = append(QStringLiteral("g"));
-    copyAttributes(area, group);
-    for (const char *name : {"x", "y", "width", "height", "fill"}) {
-        group.removeAttribute(QLatin1String(name));
+    if (!placed.isIdentity()) {
+        group.setAttribute(QStringLiteral("transform"), drawnTransform(placed));
     }
-    const QVector<Line> lines = linesOf(area, width);
-    if (isInMiddle) {
-        double space = area.attribute(QStringLiteral("height")).toDouble();
-        for (const Line &line : lines) {
-            space -= sizeOf(line).height();
-        }
-        y += qMax(0.0, space / 2);
-    }
-    for (const Line &line : lines) {
-        const LineSize size = sizeOf(line);
-        double x = left;
-        if (!line.isEmpty()) {
-            const Qt::AlignmentFlag align =
-                textAlignment(line.constFirst().span.attribute(QStringLiteral("text-align")));
-            x += align == Qt::AlignRight    ? width - size.width
-                : align == Qt::AlignHCenter ? (width - size.width) / 2
-                                            : 0;
-        }
-        for (const Piece &piece : line) {
-            QDomElement text = m_document.createElement(QStringLiteral("text"));
-            group.appendChild(text);
-            text.setAttribute(QStringLiteral("x"), number(x));
-            text.setAttribute(QStringLiteral("y"), number(y + size.ascent));
-            text.setAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
-            text.setAttribute(QStringLiteral("font-family"), piece.font.family());
-            text.setAttribute(QStringLiteral("font-size"), number(pixelSize(piece.span)));
-            for (const char *name : {"fill", "font-weight", "font-style"}) {
-                const QString value = piece.span.attribute(QLatin1String(name));
-                if (!value.isEmpty() && !value.contains(QLatin1String("url("), Qt::CaseInsensitive)) {
-                    text.setAttribute(QLatin1String(name), value);
-                }
-            }
-            // Another program's font of that name may be wider.
-            if (piece.width > 0) {
-                text.setAttribute(QStringLiteral("textLength"), number(piece.width));
-            }
-            text.appendChild(m_document.createTextNode(piece.text));
-            // Drawn, since not every viewer knows the attribute.
-            const QString decoration = piece.span.attribute(QStringLiteral("text-decoration"));
-            const double letters = pixelSize(piece.span);
-            for (const auto &row : {std::make_pair("underline", 0.12), std::make_pair("line-through", -0.3)}) {
-                if (decoration.contains(QLatin1String(row.first))) {
-                    QDomElement rule = m_document.createElement(QStringLiteral("rect"));
-                    group.appendChild(rule);
-                    rule.setAttribute(QStringLiteral("x"), number(x));
-                    rule.setAttribute(QStringLiteral("y"), number(y + size.ascent + row.second * letters));
-                    rule.setAttribute(QStringLiteral("width"), number(piece.width));
-                    rule.setAttribute(QStringLiteral("height"), number(letters * 0.06));
-                    rule.setAttribute(QStringLiteral("fill"), text.attribute(QStringLiteral("fill")));
-                }
-            }
-            x += piece.width;
-        }
-        y += size.height();
-    }
+    group.setAttribute(QStringLiteral("text-rendering"), QStringLiteral("geometricPrecision"));
+    return group;
 }
 
 QDomElement PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
 {
     QDomElement shape = append(QStringLiteral("path"));
-    shape.setAttribute(QStringLiteral("d"), pathData(path));
-    for (const auto &row : {std::make_pair("fill", paint.fill), std::make_pair("stroke", paint.line)}) {
-        const QString name = QLatin1String(row.first);
-        shape.setAttribute(name, row.second.alpha() > 0 ? row.second.name() : QStringLiteral("none"));
-        if (row.second.alpha() > 0 && row.second.alpha() < 255) {
-            shape.setAttribute(name + QLatin1String("-opacity"), number(row.second.alphaF()));
-        }
-    }
-    shape.setAttribute(QStringLiteral("stroke-width"), number(paint.lineWidth));
+    shape.setAttribute(QStringLiteral("d"), drawnPath(path));
+    setDrawnColor(shape, "fill", paint.fill);
+    setDrawnColor(shape, "stroke", paint.line);
+    shape.setAttribute(QStringLiteral("stroke-width"), drawnNumber(paint.lineWidth));
     shape.setAttribute(QStringLiteral("stroke-linejoin"), QStringLiteral("round"));
     const QVector<double> dashes[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
     QStringList lengths;
     for (const double length : dashes[qBound(0, paint.dashParts, 4)]) {
-        lengths.append(number(length * paint.lineWidth));
+        lengths.append(drawnNumber(length * paint.lineWidth));
     }
     if (!lengths.isEmpty()) {
         shape.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
@@ -499,43 +297,113 @@ QDomElement PlainSvg::addRectangle(const QRectF &box, const QColor &line, const 
     rectangle.setAttribute(QStringLiteral("stroke"), line.name());
     rectangle.setAttribute(QStringLiteral("stroke-width"), QStringLiteral("2"));
     rectangle.setAttribute(QStringLiteral("fill"), fill.name());
-    rectangle.setAttribute(QStringLiteral("fill-opacity"), number(fill.alphaF()));
+    rectangle.setAttribute(QStringLiteral("fill-opacity"), drawnNumber(fill.alphaF()));
     return rectangle;
 }
 
 void PlainSvg::addLine(const QLineF &line, const QColor &color, double width)
 {
     QDomElement element = append(QStringLiteral("line"));
-    element.setAttribute(QStringLiteral("x1"), number(line.x1()));
-    element.setAttribute(QStringLiteral("y1"), number(line.y1()));
-    element.setAttribute(QStringLiteral("x2"), number(line.x2()));
-    element.setAttribute(QStringLiteral("y2"), number(line.y2()));
+    element.setAttribute(QStringLiteral("x1"), drawnNumber(line.x1()));
+    element.setAttribute(QStringLiteral("y1"), drawnNumber(line.y1()));
+    element.setAttribute(QStringLiteral("x2"), drawnNumber(line.x2()));
+    element.setAttribute(QStringLiteral("y2"), drawnNumber(line.y2()));
     element.setAttribute(QStringLiteral("stroke"), color.name());
-    element.setAttribute(QStringLiteral("stroke-width"), number(width));
+    element.setAttribute(QStringLiteral("stroke-width"), drawnNumber(width));
+}
+
+double PlainSvg::readableSize() const
+{
+    constexpr double size = 9;
+    constexpr double pageWidth = 1280;
+    return m_size.width() * size / pageWidth;
 }
 
 void PlainSvg::addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color)
 {
     constexpr int longestText = 600; // what follows would be too small to read
     const QString shown = text.left(longestText);
-    LabelLines label = linesThatFit(shown, box.size(), pixelSize);
-    QDomElement group = append(QStringLiteral("g"));
-    const LabelLines upright = linesThatFit(shown, box.size().transposed(), pixelSize);
-    if (upright.size > label.size * 1.5) {
+    const double smallest = readableSize();
+    LabelLines label = linesThatFit(shown, box.size(), pixelSize, smallest);
+    const LabelLines upright = linesThatFit(shown, box.size().transposed(), pixelSize, smallest);
+    const bool isUpright = !upright.lines.isEmpty()
+        && (label.lines.isEmpty() || upright.size > label.size * 1.5 || (upright.isWhole && !label.isWhole));
+    if (isUpright) {
         label = upright;
+    }
+    QRectF place;
+    if (!label.lines.isEmpty()) {
+        place = freePlaceIn(box, isUpright ? label.extent().transposed() : label.extent());
+    }
+    if (place.isNull()) {
+        label = linesThatFit(shown, {smallest * 24, smallest * 1.3}, smallest, smallest);
+        place = freePlaceBeside(box, label.extent());
+    }
+    if (!place.isNull()) {
+        m_labels.append(place);
+        putLabel(label, place, isUpright && place.width() < place.height(), color);
+    }
+}
+
+bool PlainSvg::isFree(const QRectF &place) const
+{
+    return std::none_of(m_labels.cbegin(), m_labels.cend(),
+                        [&place](const QRectF &label) { return label.intersects(place); });
+}
+
+// In the middle of the box or as near to it as nothing stands. Null where all is taken.
+QRectF PlainSvg::freePlaceIn(const QRectF &box, const QSizeF &size) const
+{
+    constexpr int steps = 8;
+    QRectF middle(QPointF(), size);
+    middle.moveCenter(box.center());
+    const double roomX = qMax(0.0, (box.width() - size.width()) / 2);
+    const double roomY = qMax(0.0, (box.height() - size.height()) / 2);
+    for (int i = 0; i <= steps; ++i) {
+        for (const double part : {double(i) / steps, -double(i) / steps}) {
+            for (const QPointF &offset : {QPointF(0, roomY * part), QPointF(roomX * part, 0)}) {
+                if (isFree(middle.translated(offset))) {
+                    return middle.translated(offset);
+                }
+            }
+        }
+    }
+    return {};
+}
+
+// To the right of the box, to its left, below or above, on the page.
+QRectF PlainSvg::freePlaceBeside(const QRectF &box, const QSizeF &size) const
+{
+    constexpr double gap = 3;
+    const QPointF middle = box.center() - QPointF(size.width(), size.height()) / 2;
+    for (const QPointF &corner :
+         {QPointF(box.right() + gap, middle.y()), QPointF(box.left() - gap - size.width(), middle.y()),
+          QPointF(middle.x(), box.bottom() + gap), QPointF(middle.x(), box.top() - gap - size.height())}) {
+        const QRectF place(corner, size);
+        if (!size.isEmpty() && QRectF(QPointF(), m_size).contains(place) && isFree(place)) {
+            return place;
+        }
+    }
+    return {};
+}
+
+void PlainSvg::putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color)
+{
+    QDomElement group = append(QStringLiteral("g"));
+    const QPointF center = place.center();
+    if (isUpright) {
         group.setAttribute(QStringLiteral("transform"),
-                           QStringLiteral("rotate(-90 %1 %2)").arg(number(box.center().x()), number(box.center().y())));
+                           QStringLiteral("rotate(-90 %1 %2)").arg(drawnNumber(center.x()), drawnNumber(center.y())));
     }
     group.setAttribute(QStringLiteral("text-anchor"), QStringLiteral("middle"));
-    group.setAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
-    group.setAttribute(QStringLiteral("font-size"), number(label.size));
+    setDrawnFamilies(group, labelFamilies());
+    group.setAttribute(QStringLiteral("font-size"), drawnNumber(label.size));
     group.setAttribute(QStringLiteral("fill"), color.name());
-    double y =
-        box.center().y() - (label.lines.size() - 1) * label.size * LabelLines::lineHeight / 2 + label.size * 0.35;
-    for (const QString &line : qAsConst(label.lines)) {
+    double y = center.y() - (label.lines.size() - 1) * label.size * LabelLines::lineHeight / 2 + label.size * 0.35;
+    for (const QString &line : label.lines) {
         QDomElement element = m_document.createElement(QStringLiteral("text"));
-        element.setAttribute(QStringLiteral("x"), number(box.center().x()));
-        element.setAttribute(QStringLiteral("y"), number(y));
+        element.setAttribute(QStringLiteral("x"), drawnNumber(center.x()));
+        element.setAttribute(QStringLiteral("y"), drawnNumber(y));
         element.appendChild(m_document.createTextNode(line));
         group.appendChild(element);
         y += label.size * LabelLines::lineHeight;
@@ -547,16 +415,17 @@ void PlainSvg::addMarks(const QVector<SvgMark> &marks, double pixelSize, const Q
     QDomElement group = append(QStringLiteral("g"));
     group.setAttribute(QStringLiteral("text-anchor"), QStringLiteral("middle"));
     group.setAttribute(QStringLiteral("font-family"), QStringLiteral("sans-serif"));
-    group.setAttribute(QStringLiteral("font-size"), number(pixelSize));
+    group.setAttribute(QStringLiteral("font-size"), drawnNumber(pixelSize));
     group.setAttribute(QStringLiteral("fill"), color.name());
     for (const SvgMark &mark : marks) {
         QDomElement element = m_document.createElement(QStringLiteral("text"));
-        element.setAttribute(QStringLiteral("x"), number(mark.middle.x()));
-        element.setAttribute(QStringLiteral("y"), number(mark.middle.y() + pixelSize * 0.36));
+        element.setAttribute(QStringLiteral("x"), drawnNumber(mark.middle.x()));
+        element.setAttribute(QStringLiteral("y"), drawnNumber(mark.middle.y() + pixelSize * 0.36));
         if (qAbs(mark.turn) > 0.05) {
-            element.setAttribute(QStringLiteral("transform"),
-                                 QStringLiteral("rotate(%1 %2 %3)")
-                                     .arg(number(mark.turn), number(mark.middle.x()), number(mark.middle.y())));
+            element.setAttribute(
+                QStringLiteral("transform"),
+                QStringLiteral("rotate(%1 %2 %3)")
+                    .arg(drawnNumber(mark.turn), drawnNumber(mark.middle.x()), drawnNumber(mark.middle.y())));
         }
         element.appendChild(m_document.createTextNode(mark.text));
         group.appendChild(element);

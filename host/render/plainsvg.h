@@ -18,6 +18,7 @@
 namespace lessonhost {
 
 class IwbMedia;
+struct LabelLines;
 class PictureStore;
 struct SvgPaint;
 
@@ -32,8 +33,8 @@ struct SvgMark
 };
 
 /*!
- * An svg of one page, such as every viewer draws it: no prefixes, text broken into lines, pictures inside, nothing that
- * runs or leads out of it.
+ * An svg of one page, such as every viewer draws it: no prefixes, pictures inside, nothing that runs or leads out of
+ * it.
  */
 class PlainSvg
 {
@@ -72,8 +73,9 @@ public:
     //! A picture on disk, stretched to a box. False for one that can't be drawn.
     bool addPicture(const QString &file, const QRectF &box);
 
-    //! Adds a text area of an IWB page with its lines in the middle of its height.
-    void addTextInMiddle(const QDomElement &area) { addText(area, true); }
+    //! An element for what is drawn in a place of its own. placed: from there to the page.
+    QDomElement addGroup(const QTransform &placed);
+
     //! A drawing in svg, in its proportion from a box's upper left corner on; one that tells no size is as large as
     //! usualSize. fileOf: where a picture lies that it refers to. False for what is no drawing.
     bool addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize,
@@ -88,17 +90,23 @@ public:
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);
     //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
-    //! that lets it be larger.
+    //! that lets it be larger. No smaller than can be read: what doesn't fit then is left out, and a box too small for
+    //! any of it has its text beside it. Labels make room for each other; one that finds none isn't there.
     void addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color);
+    //! Smaller letters, in pixels, can't be read: 9 pixels of a page that is 1280 wide.
+    double readableSize() const;
     //! Numbers of a scale and the like.
     void addMarks(const QVector<SvgMark> &marks, double pixelSize, const QColor &color);
 
 private:
     QDomElement append(const QString &tag);
-    void addText(const QDomElement &area, bool isInMiddle);
     void addHeads(const QDomElement &element, QDomElement &line);
     QDomElement appendPicture(const QString &file);
     bool addPicture(const QDomElement &element);
+    bool isFree(const QRectF &place) const;
+    QRectF freePlaceIn(const QRectF &box, const QSizeF &size) const;
+    QRectF freePlaceBeside(const QRectF &box, const QSizeF &size) const;
+    void putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color);
 
     QSizeF m_size;
     const IwbMedia &m_media;
@@ -106,6 +114,7 @@ private:
     PixelBudget m_pixels;
     QDomDocument m_document;
     QDomElement m_svg;
+    QVector<QRectF> m_labels; // where they are
     QTransform m_transform;
     QDomElement m_scope; // holds what was added last under a transform
     QTransform m_scopeTransform;

@@ -1,0 +1,87 @@
+#include "lesson/fontshere.h"
+
+#include "lesson/fontvalues.h"
+
+#include <QFont>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QHash>
+
+namespace lessonhost {
+
+namespace {
+
+bool hasFonts()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+}
+
+QString familyThatStandsInFor(const QString &family)
+{
+    return QFontInfo(QFont(family)).family();
+}
+
+bool isGeneric(const QString &family)
+{
+    return withGenericFamily({family}).size() == 1;
+}
+
+} // namespace
+
+// Another font of the same widths is one that isn't taken for just any name.
+bool hasFamily(const QString &family)
+{
+    if (!hasFonts()) {
+        return true;
+    }
+    static QHash<QString, bool> known;
+    const auto found = known.constFind(family);
+    if (found != known.cend()) {
+        return *found;
+    }
+    const QString standsIn = familyThatStandsInFor(family);
+    bool isHere = isGeneric(family) || standsIn.compare(family, Qt::CaseInsensitive) == 0;
+    if (!isHere) {
+        isHere = true;
+        for (const char *generic : {"serif", "sans-serif", "monospace"}) {
+            isHere = isHere && standsIn != familyThatStandsInFor(QLatin1String(generic));
+        }
+    }
+    known.insert(family, isHere);
+    return isHere;
+}
+
+QString familyHere(const QStringList &families)
+{
+    const QStringList all = withGenericFamily(families);
+    for (const QString &family : all) {
+        if (hasFamily(family)) {
+            return family;
+        }
+    }
+    return all.constLast();
+}
+
+bool hasGlyph(uint letter)
+{
+    const QChar::Category category = QChar::category(letter);
+    if (category <= QChar::Mark_Enclosing || category == QChar::Other_Control || category == QChar::Other_Format
+        || QChar::isSpace(letter)) {
+        return true;
+    }
+    if (!hasFonts()) {
+        return true;
+    }
+    static QHash<uint, bool> known;
+    const auto found = known.constFind(letter);
+    if (found != known.cend()) {
+        return *found;
+    }
+    static const QFontMetrics metrics(QFont(QStringLiteral("sans-serif")));
+    const bool isHere = metrics.inFontUcs4(letter);
+    known.insert(letter, isHere);
+    return isHere;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,153 @@
+#include "render/lessontext.h"
+
+#include "lesson/fontshere.h"
+#include "render/svgpaintdevice.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextFragment>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+constexpr double largestPixels = 2000;
+constexpr double largestPoints = largestPixels * 72 / SvgPaintDevice::dotsPerInch;
+
+// The one that is here before the list that is asked for.
+QStringList families(const QStringList &asked)
+{
+    return QStringList(familyHere(asked)) + withGenericFamily(asked);
+}
+
+// In a font that is here and a size that can be drawn, with the widths that letters have in every size.
+QTextCharFormat prepared(QTextCharFormat format)
+{
+    QStringList asked = format.fontFamilies().toStringList();
+    if (asked.isEmpty() && !format.fontFamily().isEmpty()) {
+        asked.append(format.fontFamily());
+    }
+    if (!asked.isEmpty()) {
+        format.setFontFamilies(families(asked));
+        format.clearProperty(QTextFormat::FontFamily);
+    }
+    if (format.hasProperty(QTextFormat::FontPointSize)) {
+        format.setFontPointSize(qBound(1.0, format.fontPointSize(), largestPoints));
+    }
+    if (format.hasProperty(QTextFormat::FontPixelSize)) {
+        format.setProperty(QTextFormat::FontPixelSize,
+                           qBound(1, format.intProperty(QTextFormat::FontPixelSize), int(largestPixels)));
+    }
+    format.setFontHintingPreference(QFont::PreferNoHinting);
+    return format;
+}
+
+double pixelsOf(const QFont &font)
+{
+    return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * SvgPaintDevice::dotsPerInch / 72;
+}
+
+// The lines that begin elsewhere than at the left.
+QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
+{
+    QVector<SvgPaintDevice::Line> lines;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const Qt::Alignment alignment = block.blockFormat().alignment();
+        if (!(alignment & (Qt::AlignHCenter | Qt::AlignRight | Qt::AlignJustify))
+            || block.textDirection() == Qt::RightToLeft) {
+            continue;
+        }
+        const QPointF offset = document.documentLayout()->blockBoundingRect(block).topLeft();
+        for (int i = 0; i < block.layout()->lineCount(); ++i) {
+            const QTextLine line = block.layout()->lineAt(i);
+            const QRectF letters = line.naturalTextRect();
+            lines.append({offset.y() + line.y() + line.ascent(), offset.x() + letters.left(),
+                          offset.x() + letters.right(), alignment});
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+LessonText::LessonText(const QString &text, const TextLook &look)
+    : m_screen(1, 1, QImage::Format_RGB32)
+    , m_color(look.color)
+{
+    constexpr double inchesInMeter = 1 / 0.0254;
+    m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
+    m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
+    m_document.documentLayout()->setPaintDevice(&m_screen);
+    QFont font;
+    font.setFamilies(families({look.family}));
+    font.setPointSizeF(qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints));
+    font.setBold(look.isBold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    m_document.setDefaultFont(font);
+    m_document.setDocumentMargin(0);
+    m_document.setUseDesignMetrics(true);
+    QTextOption option = m_document.defaultTextOption();
+    option.setAlignment(look.alignment);
+    m_document.setDefaultTextOption(option);
+    if (text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'))) {
+        m_document.setLessonHtml(text);
+    } else {
+        m_document.setPlainText(text);
+    }
+    prepareFonts();
+}
+
+void LessonText::prepareFonts()
+{
+    struct Part
+    {
+        int position;
+        int length;
+        QTextCharFormat format;
+    };
+    QVector<Part> parts;
+    m_smallestPixels = pixelsOf(m_document.defaultFont());
+    QTextCursor cursor(&m_document);
+    cursor.beginEditBlock();
+    for (QTextBlock block = m_document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const QTextCharFormat format = prepared(fragment.charFormat());
+            parts.append({fragment.position(), fragment.length(), format});
+            m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document.defaultFont())));
+        }
+        cursor.setPosition(block.position());
+        cursor.setBlockCharFormat(prepared(block.charFormat()));
+    }
+    for (const Part &part : qAsConst(parts)) {
+        cursor.setPosition(part.position);
+        cursor.setPosition(part.position + part.length, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(part.format);
+    }
+    cursor.endEditBlock();
+}
+
+void LessonText::setWidth(double width, bool keepsWords)
+{
+    QTextOption option = m_document.defaultTextOption();
+    option.setWrapMode(keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_document.setDefaultTextOption(option);
+    m_document.setTextWidth(qMax(1.0, width));
+}
+
+void LessonText::draw(const QDomElement &group)
+{
+    SvgPaintDevice device(group);
+    device.setLines(linesOf(m_document));
+    QPainter painter(&device);
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, m_color);
+    m_document.documentLayout()->draw(&painter, context);
+}
+
+} // namespace lessonhost

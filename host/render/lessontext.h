@@ -1,0 +1,62 @@
+#ifndef LESSONTEXT_H
+#define LESSONTEXT_H
+
+#include "lesson/closedtext.h"
+#include "lesson/fontvalues.h"
+
+#include <QColor>
+#include <QDomElement>
+#include <QImage>
+#include <QSizeF>
+
+namespace lessonhost {
+
+/*!
+ * How letters look that tell nothing themselves.
+ */
+struct TextLook
+{
+    QColor color = Qt::black;
+    double pixels = defaultFontPixels;
+    Qt::Alignment alignment = Qt::AlignLeft;
+    QString family = QStringLiteral("Arial");
+    bool isBold = false;
+};
+
+/*!
+ * A text of a lesson, HTML or plain, in lines of a width: with its paragraphs, lists and tables as a text document lays
+ * them out.
+ */
+class LessonText
+{
+public:
+    explicit LessonText(const QString &text, const TextLook &look = {});
+
+    bool isEmpty() const { return m_document.isEmpty(); }
+
+    //! In pixels; lines are broken to be no longer, between words or, unless they are to stay whole, within.
+    void setWidth(double width, bool keepsWords = false);
+
+    //! Of all lines. A word that is longer than the width, or a table, makes it wider.
+    QSizeF size() const { return m_document.size(); }
+    //! The width of the longest line.
+    double idealWidth() const { return m_document.idealWidth(); }
+
+    //! The size of its smallest letters, sub- and superscript aside.
+    double smallestPixels() const { return m_smallestPixels; }
+
+    //! Draws it into an element of an svg, from 0,0 on.
+    void draw(const QDomElement &group);
+
+private:
+    void prepareFonts();
+
+    QImage m_screen; // tells how large a point is
+    ClosedTextDocument m_document;
+    QColor m_color;
+    double m_smallestPixels = 0;
+};
+
+} // namespace lessonhost
+
+#endif // LESSONTEXT_H

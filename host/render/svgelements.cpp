@@ -1,0 +1,75 @@
+#include "render/svgelements.h"
+
+#include "files/drawingbounds.h"
+#include "lesson/fontshere.h"
+#include "lesson/fontvalues.h"
+
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+double bounded(double value)
+{
+    return std::isnan(value) ? 0 : qBound(-largestInDrawing, value, largestInDrawing);
+}
+
+} // namespace
+
+QString drawnNumber(double value)
+{
+    return QString::number(bounded(value), 'f', 2);
+}
+
+QString drawnTransform(const QTransform &transform)
+{
+    constexpr double nothing = 1e-8;
+    QStringList numbers;
+    for (const double number :
+         {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
+        numbers.append(QString::number(qAbs(number) < nothing ? 0 : bounded(number), 'g', 6));
+    }
+    return QStringLiteral("matrix(%1)").arg(numbers.join(QLatin1Char(' ')));
+}
+
+QString drawnPath(const QPainterPath &path)
+{
+    QString data;
+    QPointF start;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        start = element.isMoveTo() ? QPointF(element) : start;
+        const char *letter = element.isMoveTo() ? "M" : element.isLineTo() ? "L" : element.isCurveTo() ? "C" : " ";
+        data += QLatin1String(letter) + drawnNumber(element.x) + QLatin1Char(' ') + drawnNumber(element.y);
+        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
+        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
+            data += QLatin1Char('Z');
+        }
+    }
+    return data;
+}
+
+void setDrawnColor(QDomElement &element, const char *name, const QColor &color)
+{
+    const QString attribute = QLatin1String(name);
+    element.setAttribute(attribute, color.alpha() > 0 ? color.name() : QStringLiteral("none"));
+    if (color.alpha() > 0 && color.alpha() < 255) {
+        element.setAttribute(attribute + QLatin1String("-opacity"), drawnNumber(color.alphaF()));
+    }
+}
+
+// Qt takes a list for one name and the attribute before the style; svg wants it the other way round.
+void setDrawnFamilies(QDomElement &element, const QStringList &families)
+{
+    element.setAttribute(QStringLiteral("font-family"), familyHere(families));
+    element.setAttribute(QStringLiteral("style"),
+                         QLatin1String("font-family:") + svgFamilies(withGenericFamily(families)));
+}
+
+QStringList labelFamilies()
+{
+    return {QStringLiteral("Arial")};
+}
+
+} // namespace lessonhost

@@ -1,0 +1,195 @@
+#include "hostfixture.h"
+#include "iwb/iwbmedia.h"
+#include "render/canvas.h"
+#include "render/labellines.h"
+#include "render/picturestore.h"
+
+#include <QDomDocument>
+#include <QFontMetricsF>
+#include <QtTest>
+
+/*!
+ * Draws texts on a page of 1280 by 720 pixels.
+ */
+class TestTextDrawings : public QObject
+{
+    Q_OBJECT
+
+private:
+    using Draw = std::function<void(Canvas &)>;
+
+    static QByteArray drawnSvg(const Draw &draw)
+    {
+        IwbMedia media;
+        PictureStore pictures;
+        PlainSvg svg(QSizeF(1280, 720), media, pictures);
+        IwbPageWriter pages({});
+        Canvas canvas(svg, pages, media);
+        draw(canvas);
+        return pictures.text(svg.finished().documentElement());
+    }
+
+    static QDomElement parsed(const QByteArray &svg)
+    {
+        QDomDocument document;
+        document.setContent(svg, false);
+        return document.documentElement();
+    }
+
+    static QDomElement drawn(const Draw &draw) { return parsed(drawnSvg(draw)); }
+
+    static double number(const QDomElement &element, const char *name) { return element.attribute(name).toDouble(); }
+
+    static QVector<QDomElement> elements(const QDomElement &svg, const char *tag)
+    {
+        QVector<QDomElement> elements;
+        const QDomNodeList found = svg.elementsByTagName(tag);
+        for (int i = 0; i < found.size(); ++i) {
+            elements.append(found.at(i).toElement());
+        }
+        return elements;
+    }
+
+    static QStringList words(const QDomElement &svg)
+    {
+        QStringList words;
+        for (const QDomElement &text : elements(svg, "text")) {
+            words.append(text.text());
+        }
+        return words;
+    }
+
+private slots:
+    void writesTexts_data()
+    {
+        const Table<QString, QString, QByteArray> row("html", "texts", "part");
+        const QString para = "<p style='margin:0px' align='%1'>%2</p>";
+        row("plain", "1 < 2", "1 < 2", "font-family:Arial, sans-serif");
+        row("spans of one line", "a <b>b</b>, <i>c</i>", "a b, c", "<tspan font-weight=\"bold\">b</tspan>, <tspan font");
+        row("colour that shines through", "<span style='color:rgba(255,0,0,128)'>a</span>", "a",
+            "fill=\"#ff0000\" fill-opacity=\"0.50\"");
+        row("a font that isn't here", "<span style='font-family:No Such Font'>a</span>", "a",
+            "font-family=\"sans-serif\" font-size=\"28.00\" style=\"font-family:No Such Font, sans-serif\"");
+        row("a name that would end its style", "<span style=\"font-family:'1;fill:url(x)'\">a</span>", "a",
+            "font-family:'1fillurlx', sans-serif\"");
+        row("points", "<span style='font-size:21pt'>a</span>", "a", "font-size=\"28.00\"");
+        row("middle", para.arg("center", "a"), "a", "text-anchor=\"middle\" x=\"200.00\"");
+        row("right", para.arg("right", "a"), "a", "text-anchor=\"end\" x=\"400.00\"");
+        row("background", "<span style='background-color:#ff8800'>a</span>", "a", "<rect fill=\"#ff8800\"");
+        row("list", "<ol><li>a</li><li>b</li></ol><ul><li>c</li></ul>", "1.|a|2.|b|c", "<path ");
+        row("table", "<table><tr><td bgcolor='#00ff00'>a</td><td>b</td></tr></table>", "a|b", "fill=\"#00ff00\"");
+        row("rule", "a<hr/>b", "a|b", "<line ");
+        row("capitals", "<span style='text-transform:uppercase'>ab</span>", "AB", ">AB<");
+        row("right to left", QString::fromUtf8("<p dir='rtl'>\u05d0\u05d1</p>"), QString::fromUtf8("\u05d0\u05d1"),
+            "text-anchor=\"middle\"");
+        row("picture that isn't there", "a<img src='/dev/zero'/>b", "a|b", ">b<");
+    }
+
+    void writesTexts()
+    {
+        QFETCH(QString, html);
+        QFETCH(QString, texts);
+        QFETCH(QByteArray, part);
+        const QByteArray svg = drawnSvg([&](Canvas &canvas) { canvas.addText(html, {0, 0, 400, 300}); });
+        QCOMPARE(words(parsed(svg)).join('|'), texts);
+        QVERIFY2(svg.contains(part), svg);
+        QVERIFY(!svg.contains("textLength"));
+    }
+
+    void raisesAndLowers()
+    {
+        const QDomElement svg = drawn([](Canvas &canvas) {
+            canvas.addText("x<sup>2</sup>y<sub>3</sub><u>u</u> <s>t</s>", {0, 0, 400, 300});
+        });
+        const QVector<QDomElement> texts = elements(svg, "text");
+        QCOMPARE(words(svg).join('|'), "x|2|y|3|u t");
+        const double baseline = number(texts.at(0), "y");
+        QVERIFY(number(texts.at(1), "y") < baseline - 5 && number(texts.at(3), "y") > baseline + 2);
+        QVERIFY(number(texts.at(1), "font-size") < 20 && number(texts.at(2), "font-size") == 28);
+        for (int i = 1; i < texts.size(); ++i) {
+            QVERIFY(number(texts.at(i), "x") > number(texts.at(i - 1), "x") + 5);
+        }
+        const QVector<QDomElement> lines = elements(svg, "line");
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(number(lines.at(0), "y1") > baseline && number(lines.at(1), "y1") < baseline - 4);
+        QVERIFY(qAbs(number(lines.at(0), "x1") - number(texts.at(4), "x")) < 1);
+    }
+
+    // Words of a full line reach from one side to the other, those of the last line don't.
+    void fillsLines()
+    {
+        const QDomElement svg = drawn([](Canvas &canvas) {
+            canvas.addText("<p align='justify'>" + QString("lines of words ").repeated(9) + "</p>", {0, 0, 400, 300});
+        });
+        QMap<double, QStringList> lines;
+        double right = 0;
+        for (const QDomElement &text : elements(svg, "text")) {
+            lines[number(text, "y")].append(text.text().trimmed());
+            right = qMax(right, number(text, "x"));
+        }
+        QVERIFY(lines.size() > 2 && right > 300 && right < 400);
+        QVERIFY(lines.first().size() > 3);
+        QCOMPARE(lines.last().size(), 1);
+    }
+
+    void fitsOrTells()
+    {
+        const QRectF small(0, 0, 60, 20);
+        TextPlace place;
+        place.isFitted = true;
+        const QDomElement svg = drawn([&](Canvas &canvas) {
+            QVERIFY(canvas.addText("Extraordinary", small, QTransform::fromTranslate(100, 100), place));
+            QVERIFY(!canvas.addText("Extraordinary things happen", small, {}, place));
+            QVERIFY(canvas.addText("", small, {}, place));
+        });
+        QCOMPARE(words(svg), QStringList("Extraordinary"));
+        const QString matrix = elements(svg, "g").first().attribute("transform");
+        const double scale = matrix.mid(7).section(' ', 0, 0).toDouble();
+        QVERIFY2(scale > 0.3 && scale < 0.5, qPrintable(matrix));
+    }
+
+    // No smaller than can be read, cut where they don't fit, beside what is too small, and never one over the other.
+    void placesLabels()
+    {
+        const QVector<QRectF> boxes{{20, 20, 40, 24},  {20, 20, 300, 60},   {20, 20, 300, 60},  {400, 20, 4, 4},
+                                    {404, 20, 4, 4},   {600, 20, 20, 300},  {700, 20, 100, 40}, {800, 20, 100, 12},
+                                    {1270, 20, 10, 10}, {1000, 400, 0, 200}};
+        const QDomElement svg = drawn([&](Canvas &canvas) {
+            for (const QRectF &box : boxes) {
+                canvas.svg().addLabel("Extraordinary things that happen on Thursdays", box, 30, Qt::black);
+            }
+            for (int i = 0; i < 99; ++i) {
+                canvas.svg().addLabel("Extraordinary", {900, 500, 90, 40}, 30, Qt::black);
+            }
+        });
+        const QVector<QDomElement> groups = elements(svg, "g");
+        QVERIFY(groups.size() > boxes.size() && groups.size() < 40);
+        QVector<QRectF> taken;
+        for (const QDomElement &group : groups) {
+            const double size = number(group, "font-size");
+            QVERIFY(size >= 9 && size <= 30);
+            QFont font("Arial");
+            font.setPixelSize(100);
+            QRectF extent;
+            for (const QDomElement &line : elements(group, "text")) {
+                const double width = QFontMetricsF(font).horizontalAdvance(line.text()) * size / 100;
+                extent |= QRectF(number(line, "x") - width / 2, number(line, "y") - size * 0.8, width, size);
+            }
+            if (group.hasAttribute("transform")) {
+                const QPointF center = extent.center();
+                extent = extent.transposed();
+                extent.moveCenter(center);
+            }
+            QVERIFY(QRectF(0, 0, 1280, 720).contains(extent));
+            for (const QRectF &other : qAsConst(taken)) {
+                QVERIFY(!other.intersects(extent));
+            }
+            taken.append(extent);
+        }
+        QVERIFY(words(svg).filter(QChar(0x2026)).size() >= 2);
+        QVERIFY(linesThatFit("Thursdays", {1, 1}, 30, 9).lines.isEmpty());
+    }
+};
+
+QTEST_MAIN(TestTextDrawings)
+#include "tst_textdrawings.moc"
