@@ -1,6 +1,9 @@
 #include "hostfixture.h"
 #include "iwb/iwbmedia.h"
+#include "render/activitydrawing.h"
 #include "render/coverdrawing.h"
+#include "render/exercisedrawing.h"
+#include "render/gamedrawing.h"
 #include "render/instrumentdrawing.h"
 #include "render/picturestore.h"
 
@@ -15,20 +18,30 @@ class TestToolDrawings : public QObject
     Q_OBJECT
 
 private:
-    static QDomElement drawn(const QJsonObject &item)
+    // The svg, or nothing if draw says that there is none.
+    static QDomElement svgOf(const std::function<bool(Canvas &)> &draw)
     {
         IwbMedia media;
         PictureStore pictures;
         PlainSvg svg(QSizeF(1000, 1000), media, pictures);
         IwbPageWriter pages({});
         Canvas canvas(svg, pages, media);
-        const QString type = item.value("Type").toString();
-        const SvgDrawing drawing = instrumentDrawing(type) ? instrumentDrawing(type) : coverDrawing(type);
         QDomDocument document;
-        if (drawing && drawing(canvas, ItemView(item))) {
+        if (draw(canvas)) {
             document = svg.finished();
         }
         return document.documentElement();
+    }
+
+    static QDomElement drawn(const QJsonObject &item)
+    {
+        const QString type = item.value("Type").toString();
+        for (const auto family : {&instrumentDrawing, &coverDrawing, &exerciseDrawing, &activityDrawing}) {
+            if (const SvgDrawing drawing = family(type)) {
+                return svgOf([&](Canvas &canvas) { return drawing(canvas, ItemView(item)); });
+            }
+        }
+        return {};
     }
 
     // Around all paths.
@@ -148,6 +161,109 @@ private slots:
         QCOMPARE(path.attribute("fill"), isSpotlight ? "#000000"_s : "#8c1c2b"_s);
     }
 
+    void laysOutLists_data()
+    {
+        const Table<QString, QJsonValue, QString, int> row("type", "list", "words", "frames");
+        row("fronts of cards", "General:everCard",
+            R"([{"id":7,"front":"7 x 8","back":"56"},{"front":"a < b","color":"#ff0000"},{"kind":"none"}])",
+            "T|7 x 8|a < b", 4);
+        row("cards in a plain text", "General:everCard", "one; two;three, and more", "T|one|two|three, and more", 4);
+        row("kinds and what belongs to them", "General:fiaction",
+            R"([{"name":"even","items":[2,"4"]},["odd","1",["3"]],{"title":"none"}])", "T|even|2|4|odd|1|3|none", 8);
+        row("kinds by name", "General:fiaction", QJsonObject{{"odd", QJsonArray{"1", "3"}}, {"version", 2}},
+            "T|odd|1|3", 4);
+        row("pairs", "General:connection", R"([["cat","kitten"],{"left":"dog","right":"puppy"},["owl"]])",
+            "T|cat|kitten|dog|puppy|owl", 6);
+        row("columns", "General:connection", QJsonArray{QJsonArray{"1", "2", "3"}, QJsonArray{"I", "II", "III"}},
+            "T|1|I|2|II|3|III", 7);
+        row("no list", "General:everCard", "{\"front\":", "T|{\"front\":", 2);
+        row("deep", "General:fiaction", QString(QString("[").repeated(500) + QString("]").repeated(500)), "T", 2);
+    }
+
+    void laysOutLists()
+    {
+        QFETCH(QString, type);
+        QFETCH(QJsonValue, list);
+        QJsonObject item{{"Type", type}, {"Title", "T"}, {"BoundingBox", "100,100,900,700"}};
+        for (const char *key : {"CardList", "FicationList", "ConnectionList"}) {
+            item.insert(key, list);
+        }
+        const QDomElement svg = drawn(item);
+        QTEST(words(svg).join('|'), "words");
+        int frames = 0;
+        const QDomNodeList paths = svg.elementsByTagName("path");
+        for (int i = 0; i < paths.size(); ++i) {
+            frames += paths.at(i).toElement().attribute("stroke") == "none"_s ? 0 : 1;
+        }
+        QTEST(frames, "frames");
+    }
+
+    void drawsItemsOfGames_data()
+    {
+        const Table<QJsonObject, QString, QString> row("item", "words", "look");
+        const QString look = "'defaultTextSize':'24','defaultTextColor':'#80ff0000','defaultTextFamily':'Serif'"_s;
+        row("piece", json("{'Type':'ZQActiveMaterialItem','TextHtml':'<p>Otter</p>'," + look + '}'), "Otter",
+            "24.00 #ff0000 0.50 serif");
+        row("gap", json("{'Type':'ZQActiveContainerGapFillingItem','TextHtml':'Water','GapFillingContent':'A _'}"_s),
+            "A _", "28.00 #000000  Arial");
+        row("front of a card",
+            json("{'Type':'ZQActivityFlipItem','TextHtml':'back','frontContent':'7 < 11','defaultFrontFontFormat':"
+                 "'Serif,15,-1'}"_s),
+            "7 < 11", "20.00 #000000  serif");
+        row("player", json("{'Type':'ZQActiveMaterialStudent7','TextHtml':'Ada'}"_s), "Ada", "28.00 #000000  Arial");
+    }
+
+    void drawsItemsOfGames()
+    {
+        QFETCH(QJsonObject, item);
+        item.insert("BoundingBox", "100,100,400,300");
+        const QDomElement svg = drawn(item);
+        QTEST(words(svg).join('|'), "words");
+        const QDomElement text = svg.elementsByTagName("text").at(0).toElement();
+        QStringList look;
+        for (const char *name : {"font-size", "fill", "fill-opacity", "font-family"}) {
+            look.append(text.attribute(name));
+        }
+        QTEST(look.join(' '), "look");
+    }
+
+    void laysOutGames_data()
+    {
+        const Table<QString, QByteArray, QString> row("type", "entries", "words");
+        row("Judgment", "Judgment", R"([{"question":"7 is prime","answer":"true"},{"question":"Q"}])",
+            "T|7 is prime|Q");
+        row("comparison", "NumberComparison", R"([[{"condition":"3 + 4"},{"symbol":"<"},{"condition":"8"}]])",
+            "T|3 + 4|8");
+        row("texts to read", "PronunciationTest", R"(["one","two"])", "T|one|two");
+        row("baskets", "Grouping", R"([{"container":{"id":"c","txt":"Water"},"materials":[{"id":"m","txt":"Whale"},
+            {"txt":"Otter"}],"answers":[{"c":["m"]}]}])",
+            "T|Water|Whale|Otter|Teapot");
+    }
+
+    // Where the items of the slide leave the most room.
+    void laysOutGames()
+    {
+        QFETCH(QString, type);
+        QFETCH(QByteArray, entries);
+        const QJsonObject others = json("{'container':{'txt':''},'materials':[{'txt':'Teapot'}]}");
+        const bool isSorted = type == "Grouping"_s;
+        const QJsonObject slide{
+            {"activity",
+             QJsonObject{{"type", type},
+                         {"title", "T"},
+                         {"matchs", QJsonDocument::fromJson(entries).array()},
+                         {"unmatchs", isSorted ? QJsonArray{others} : QJsonArray()},
+                         {"templet", json("{'index':'1','container':{'font_color':'#ff0000ff','font_size':'30'}}")}}}};
+        const QDomElement svg = svgOf([&](Canvas &canvas) {
+            drawGameRecord(canvas, slide, QRectF(0, 600, 1000, 400));
+            return true;
+        });
+        QTEST(words(svg).join('|'), "words");
+        QVERIFY(QRect(40, 40, 920, 520).contains(extent(svg)));
+        const QDomElement text = svg.elementsByTagName("text").at(1).toElement();
+        QCOMPARE(text.attribute("fill") + ' ' + text.attribute("font-size"), "#0000ff 30.00"_s);
+    }
+
     void drawsNothingOutOfNothing_data()
     {
         const Table<QJsonObject> row("item");
@@ -156,6 +272,9 @@ private slots:
         row("without an area", "{'Type':'Math:compasses','BoundingBox':'0,0,9,9','Matrix':'0,0,0,0,1,1'}");
         row("no curtain", "{'Type':'General:curtain','rect':'5,5,9,9'}");
         row("no hole", "{'Type':'General:spotlight','BoundingBox':'0,0,9,9','SpotCenter':'1,1'}");
+        row("no list and no title", "{'Type':'General:everCard','BoundingBox':'0,0,9,9','CardList':'{}'}");
+        row("a score that says nothing", "{'Type':'ZQActiveMaterialMarkPKItem','BoundingBox':'0,0,9,9'}");
+        row("a game nobody knows", "{'Type':'ZQActiveBoard','BoundingBox':'0,0,9,9','TextHtml':'a'}");
         row("another type", "{'Type':'Math:abacus','BoundingBox':'0,0,9,9'}");
     }
 
@@ -166,5 +285,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestToolDrawings)
+QTEST_MAIN(TestToolDrawings)
 #include "tst_tooldrawings.moc"

@@ -140,6 +140,23 @@ QJsonObject withShortPictures(QJsonObject slide)
     return slide;
 }
 
+QJsonObject withPackagedPictures(QJsonObject slide)
+{
+    slide = withShortPictures(slide);
+    QJsonObject activity = slide.value(activityKey).toObject();
+    const QJsonObject templet = activity.value(templetKey).toObject();
+    if (liesInData(templet)) {
+        activity.insert(
+            templetKey,
+            changedPictures(templet, [](Kind kind, const QString &, const QString &reference, const QString &) {
+                const QString place = placeInData(kind, reference);
+                return place.isEmpty() ? reference : place;
+            }));
+        slide.insert(activityKey, activity);
+    }
+    return slide;
+}
+
 QMap<QString, QString> picturesInData(const QJsonObject &slide)
 {
     const QJsonObject templet = withShortPictures(slide).value(activityKey).toObject().value(templetKey).toObject();

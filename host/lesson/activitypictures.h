@@ -19,6 +19,10 @@ QJsonObject withReferencesOf(const QDomElement &root, QJsonObject slide);
 //! background that stands beside templet where a read looks for it.
 QJsonObject withShortPictures(QJsonObject slide);
 
+//! A slide's keys with the path in the package for each picture that lies in the application's data, and with short
+//! references for the others.
+QJsonObject withPackagedPictures(QJsonObject slide);
+
 //! The pictures of a slide that lie in the application's data: file names by the paths that they have in a package.
 QMap<QString, QString> picturesInData(const QJsonObject &slide);
 

@@ -34,6 +34,8 @@ public:
 
     //! reference: as items name their files.
     bool hasFile(const QString &reference) const { return !m_files.find(reference).isEmpty(); }
+    //! path: just this one in the lesson.
+    bool holds(const QString &path) const { return !m_files.source(path).isEmpty(); }
 
     //! Pixels; empty for what is no picture of the lesson.
     QSize pictureSize(const QString &reference) const;

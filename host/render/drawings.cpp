@@ -1,6 +1,9 @@
 #include "render/drawings.h"
 
+#include "render/activitydrawing.h"
 #include "render/coverdrawing.h"
+#include "render/exercisedrawing.h"
+#include "render/gamedrawing.h"
 #include "render/graphdrawing.h"
 #include "render/inkdrawing.h"
 #include "render/instrumentdrawing.h"
@@ -28,6 +31,8 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &graphDrawing,
     &instrumentDrawing,
     &coverDrawing,
+    &exerciseDrawing,
+    &activityDrawing,
     &mediaDrawing,
     &inkDrawing,
     &questionDrawing,
@@ -54,6 +59,14 @@ Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files)
     : m_canvas(svg, pages, files)
     , m_boxes(svg)
 {
+}
+
+void Drawings::drawGame(const QJsonObject &slide, const QRectF &occupied, bool hasGameItems)
+{
+    drawGameBackground(m_canvas, slide);
+    if (!hasGameItems) {
+        drawGameRecord(m_canvas, slide, occupied);
+    }
 }
 
 bool Drawings::draw(const QJsonObject &json)

@@ -20,6 +20,10 @@ public:
     //! where it is on the page.
     void rubOut(const QPainterPath &area) { m_canvas.rubbing().add(area); }
 
+    //! What the slide's classroom game shows below the items. occupied: what they cover. hasGameItems: some of them are
+    //! of the game.
+    void drawGame(const QJsonObject &slide, const QRectF &occupied, bool hasGameItems);
+
     //! False for an item that is shown by its name alone.
     bool draw(const QJsonObject &item);
 

@@ -64,7 +64,7 @@ int stepsBetweenNumbers(const Scale &scale, const Steps &steps)
 {
     const int letters = qMax(numberText(scale.first, scale.decimals).size(),
                              numberText(scale.first + steps.count * scale.step, scale.decimals).size());
-    const double room = (letters * digitWidth + 0.4) * scale.numberSize;
+    const double room = (letters * digitWidth + 0.8) * scale.numberSize;
     for (const int every : {1, 2, 5, 10, 20, 50, 100}) {
         if (every * steps.length >= room) {
             return every;

@@ -2,6 +2,7 @@
 
 #include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
+#include "render/activitydrawing.h"
 #include "render/drawings.h"
 #include "render/inkdrawing.h"
 #include "render/itemoutline.h"
@@ -152,6 +153,17 @@ SlidePicture SlidePictures::picture(int index)
         takeApart(item.toObject(), {}, items);
     }
     Drawings drawings(plain, m_pages, m_media);
+    if (slide.properties.contains(QLatin1String("activity"))) {
+        QRectF occupied;
+        bool hasGameItems = false;
+        for (const Shown &shown : qAsConst(items)) {
+            const ItemView view(shown.item);
+            const QRectF extent = shown.placed.mapRect(extentOfOne(view));
+            occupied = occupied.isNull() ? extent : occupied.united(extent);
+            hasGameItems = hasGameItems || activityDrawing(view.type());
+        }
+        drawings.drawGame(slide.properties, occupied, hasGameItems);
+    }
     for (const Shown &shown : qAsConst(items)) {
         if (const auto rubbed = rubbedArea(ItemView(shown.item))) {
             drawings.rubOut(shown.placed.map(*rubbed));

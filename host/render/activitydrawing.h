@@ -1,0 +1,14 @@
+#ifndef ACTIVITYDRAWING_H
+#define ACTIVITYDRAWING_H
+
+#include "render/canvas.h"
+
+namespace lessonhost {
+
+//! The drawing of an item of a classroom game, null for other types: its picture, or the frame that its kind has
+//! without one, and its text on it. Of a card to turn the front is seen.
+SvgDrawing activityDrawing(const QString &type);
+
+} // namespace lessonhost
+
+#endif // ACTIVITYDRAWING_H
