@@ -6,11 +6,11 @@
 #include "render/symbolaxis.h"
 #include "render/symbolfile.h"
 #include "render/symbolrules.h"
-#include "svg/svgpath.h"
 #include "svg/svgstyle.h"
 #include "svg/svgvalues.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 #include <QtMath>
 
 #include <cmath>
@@ -27,8 +27,13 @@ struct SymbolPlace
 {
     SymbolAxis x;
     SymbolAxis y;
+    QTransform turned; //!< what stays upright, within the file
 
-    QPointF at(const QPointF &point) const { return {x.at(point.x()), y.at(point.y())}; }
+    QPointF at(const QPointF &point) const
+    {
+        const QPointF inFile = turned.map(point);
+        return {x.at(inFile.x()), y.at(inFile.y())};
+    }
 };
 
 // A turn in degrees that leaves words readable: those of a mirrored item are not mirrored themselves.
@@ -81,40 +86,49 @@ public:
     void draw()
     {
         const SymbolPlace whole{SymbolAxis(m_file.size().width(), m_file.stretchingAcross(), m_scale, m_room.width()),
-                                SymbolAxis(m_file.size().height(), m_file.stretchingDown(), m_scale, m_room.height())};
-        drawPart(m_file.root(), {}, whole);
+                                SymbolAxis(m_file.size().height(), m_file.stretchingDown(), m_scale, m_room.height()),
+                                {}};
+        drawPart(m_file.whole(), whole);
+        addLines();
     }
 
 private:
-    void drawPart(const QDomElement &part, const SvgStyle &above, const SymbolPlace &around)
+    void drawPart(const SymbolPart &part, const SymbolPlace &around)
     {
-        if (!SymbolFile::isShown(part, m_item)) {
+        if (!part.isShownFor(m_item)) {
             return;
         }
-        const SvgStyle style = styleOf(part, above);
         const SymbolPlace place = placeOf(part, around);
-        const QString tag = part.tagName();
-        if (part.hasAttribute(QStringLiteral("data-scale"))) {
-            drawScale(part, style, place);
-        } else if (part.hasAttribute(QStringLiteral("data-repeat-x"))
-                   || part.hasAttribute(QStringLiteral("data-repeat-y"))) {
-            drawRepeated(part, style, place);
-        } else if (part.hasAttribute(QStringLiteral("data-vessel")) && !isUpright()) {
-            drawLevel(part, style, place);
-        } else if (tag == QLatin1String("svg") || tag == QLatin1String("g")) {
-            for (QDomElement child = part.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-                drawPart(child, style, place);
+        switch (part.kind) {
+        case SymbolPart::Kind::Outline:
+            addPath(onPage(part.outline, place), part);
+            return;
+        case SymbolPart::Kind::Word:
+            drawWord(part, place);
+            return;
+        case SymbolPart::Kind::Scale:
+            drawScale(part, place);
+            return;
+        case SymbolPart::Kind::Repeated:
+            drawRepeated(part, place);
+            return;
+        case SymbolPart::Kind::Liquid:
+            if (!isUpright()) {
+                drawLevel(part, place);
+                return;
             }
-        } else if (tag == QLatin1String("text")) {
-            drawWord(part, style, place);
-        } else if (const auto outline = svgOutline(part)) {
-            addPath(onPage(*outline, style, place), style);
+            break;
+        case SymbolPart::Kind::Group:
+            break;
+        }
+        for (const SymbolPart &child : part.children) {
+            drawPart(child, place);
         }
     }
 
-    QPainterPath onPage(const QPainterPath &outline, const SvgStyle &style, const SymbolPlace &place) const
+    QPainterPath onPage(const QPainterPath &outline, const SymbolPlace &place) const
     {
-        QPainterPath path = style.matrix.map(outline);
+        QPainterPath path = outline;
         for (int i = 0; i < path.elementCount(); ++i) {
             const QPointF point = place.at(path.elementAt(i));
             path.setElementPositionAt(i, point.x(), point.y());
@@ -122,11 +136,31 @@ private:
         return m_toPage.map(path);
     }
 
-    void addPath(const QPainterPath &path, const SvgStyle &style)
+    // Lines of one kind that follow each other are one path: they look the same, and a slide has fewer elements.
+    void addPath(const QPainterPath &path, const SymbolPart &part)
     {
-        SvgPaint paint = paintOf(style);
+        SvgPaint paint = paintOf(part);
         paint.lineWidth *= m_lineFactor;
-        m_canvas.svg().addPath(path, paint);
+        const bool isPlain = paint.fill.alpha() == 0 && paint.line.alpha() == 255 && paint.dashParts == 0;
+        if (!isPlain) {
+            addLines();
+            m_canvas.svg().addPath(path, paint);
+            return;
+        }
+        if (paint.line != m_linePaint.line || paint.lineWidth != m_linePaint.lineWidth) {
+            addLines();
+            m_linePaint = paint;
+        }
+        m_lines.addPath(path);
+    }
+
+    // What was kept back of it. Everything else that is added needs this before it.
+    void addLines()
+    {
+        if (!m_lines.isEmpty()) {
+            m_canvas.svg().addPath(m_lines, m_linePaint);
+            m_lines = {};
+        }
     }
 
     bool isUpright() const
@@ -136,81 +170,72 @@ private:
     }
 
     // Of a group that shows a liquid and its surface: as much of the liquid where it comes to stand in the vessel.
-    void drawLevel(const QDomElement &group, const SvgStyle &style, const SymbolPlace &place)
+    void drawLevel(const SymbolPart &group, const SymbolPlace &place)
     {
-        const QDomElement usual = group.firstChildElement();
-        const auto outline = svgOutline(usual);
-        const auto vessel = svgPath(group.attribute(QStringLiteral("data-vessel")));
-        if (!outline || !vessel) {
+        if (group.children.size() < 2) {
             return;
         }
-        const LevelLiquid liquid(onPage(*vessel, style, place), enclosedArea(onPage(*outline, style, place)));
-        addPath(liquid.body, styleOf(usual, style));
-        addPath(liquid.surface, styleOf(usual.nextSiblingElement(), style));
-    }
-
-    static SvgPaint paintOf(const SvgStyle &style)
-    {
-        return svgPaint(style, false, [](const QString &) {});
+        const SymbolPart &usual = group.children.at(0);
+        const LevelLiquid liquid(onPage(group.outline, place), enclosedArea(onPage(usual.outline, place)));
+        addPath(liquid.body, usual);
+        addPath(liquid.surface, group.children.at(1));
     }
 
     // With the item's colours in place of those that have a role.
-    SvgStyle styleOf(const QDomElement &part, const SvgStyle &above) const
+    SvgPaint paintOf(const SymbolPart &part)
     {
-        SvgStyle style = above.child(part, part.attribute(QStringLiteral("transform")), [](const QString &) {});
-        // A sign that is turned with its part of a circuit would be another one.
-        const QVector<double> upright = svgNumbers(part.attribute(QStringLiteral("data-upright")));
-        if (m_isTurned && upright.size() == 2) {
-            QTransform back = QTransform::fromTranslate(upright.at(0), upright.at(1));
-            back.rotate(m_lies ? 90 : -90);
-            style.matrix = back.translate(-upright.at(0), -upright.at(1)) * style.matrix;
-        }
-        const QStringList roles = part.attribute(QStringLiteral("class")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        for (const QString &role : roles) {
-            if (const auto color = m_file.color(role, m_item)) {
-                const bool isLine = role.startsWith(QLatin1String("edge"));
-                const QString name = isLine ? QStringLiteral("stroke") : QStringLiteral("fill");
-                style.set(name, color->name());
-                style.set(name + QLatin1String("-opacity"), QString::number(color->alphaF()));
-            }
-        }
-        return style;
+        SvgPaint paint = part.paint;
+        paint.line = colorOf(part.lineRole).value_or(paint.line);
+        paint.fill = colorOf(part.fillRole).value_or(paint.fill);
+        return paint;
     }
 
-    SymbolPlace placeOf(const QDomElement &part, const SymbolPlace &around) const
+    std::optional<QColor> colorOf(const QString &role)
     {
-        const QVector<double> kept = svgNumbers(part.attribute(QStringLiteral("data-keep")));
-        if (kept.size() != 2) {
-            return around;
+        if (role.isEmpty()) {
+            return std::nullopt;
         }
-        return {around.x.keptAround(kept.at(0), m_scale), around.y.keptAround(kept.at(1), m_scale)};
+        const auto known = m_colors.constFind(role);
+        return known != m_colors.constEnd() ? *known : *m_colors.insert(role, m_file.color(role, m_item));
+    }
+
+    SymbolPlace placeOf(const SymbolPart &part, const SymbolPlace &around) const
+    {
+        SymbolPlace place = around;
+        if (part.kept) {
+            place.x = around.x.keptAround(part.kept->x(), m_scale);
+            place.y = around.y.keptAround(part.kept->y(), m_scale);
+        }
+        // A sign that is turned with its part of a circuit would be another one.
+        if (m_isTurned && part.upright) {
+            place.turned = QTransform::fromTranslate(part.upright->x(), part.upright->y());
+            place.turned.rotate(m_lies ? 90 : -90);
+            place.turned.translate(-part.upright->x(), -part.upright->y());
+        }
+        return place;
     }
 
     // The first of the parts as often as there is room for it, or as the item says.
-    void drawRepeated(const QDomElement &group, const SvgStyle &style, const SymbolPlace &place)
+    void drawRepeated(const SymbolPart &group, const SymbolPlace &place)
     {
-        const bool isAcross = group.hasAttribute(QStringLiteral("data-repeat-x"));
-        const QVector<double> range =
-            svgNumbers(group.attribute(isAcross ? QStringLiteral("data-repeat-x") : QStringLiteral("data-repeat-y")));
-        const QDomElement first = group.firstChildElement();
-        int inFile = 0;
-        for (QDomElement part = first; !part.isNull(); part = part.nextSiblingElement()) {
-            ++inFile;
-        }
-        if (range.size() != 2 || inFile == 0) {
+        const bool isAcross = group.element.hasAttribute(QStringLiteral("data-repeat-x"));
+        const QVector<double> range = svgNumbers(
+            group.element.attribute(isAcross ? QStringLiteral("data-repeat-x") : QStringLiteral("data-repeat-y")));
+        if (range.size() != 2 || group.children.isEmpty()) {
             return;
         }
         const SymbolAxis &axis = isAcross ? place.x : place.y;
-        const double cell = (range.at(1) - range.at(0)) / inFile;
+        const double cell = (range.at(1) - range.at(0)) / group.children.size();
         const double start = axis.at(range.at(0));
         const double length = axis.at(range.at(1)) - start;
         const double fitting = qBound(1.0, length / (cell * m_scale), double(mostRepeats));
-        const double told = numberOf(group, "data-count", fitting);
+        const double told = numberOf(group.element, "data-count", fitting);
         const int count = qRound(told >= 1 && told <= mostRepeats ? told : fitting);
         for (int i = 0; i < count; ++i) {
-            const SymbolAxis part(range.at(0), range.at(0) + cell, start + length * i / count,
-                                  start + length * (i + 1) / count);
-            drawPart(first, style, isAcross ? SymbolPlace{part, place.y} : SymbolPlace{place.x, part});
+            SymbolPlace placed = place;
+            (isAcross ? placed.x : placed.y) = SymbolAxis(range.at(0), range.at(0) + cell, start + length * i / count,
+                                                          start + length * (i + 1) / count);
+            drawPart(group.children.at(0), placed);
         }
     }
 
@@ -221,8 +246,9 @@ private:
     }
 
     // Ticks and numbers along a line or, told by five numbers, an arc.
-    void drawScale(const QDomElement &part, const SvgStyle &style, const SymbolPlace &place)
+    void drawScale(const SymbolPart &scalePart, const SymbolPlace &place)
     {
+        const QDomElement &part = scalePart.element;
         const QVector<double> course = svgNumbers(part.attribute(QStringLiteral("data-scale")));
         const QVector<double> values = svgNumbers(part.attribute(QStringLiteral("data-values")));
         if (course.size() < 4 || values.size() != 4) {
@@ -232,7 +258,7 @@ private:
         const ScaleCourse placed = course.size() == 5
             ? ScaleCourse::arc(from, course.at(2) * m_scale, course.at(3), course.at(4))
             : ScaleCourse::line(from, place.at({course.at(2), course.at(3)}));
-        const SvgPaint paint = paintOf(style);
+        const SvgPaint paint = paintOf(scalePart);
         Scale scale;
         scale.first = numberOf(part, "data-first", values.at(0));
         scale.step = numberOf(part, "data-step", values.at(2));
@@ -244,23 +270,25 @@ private:
         scale.parts = qRound(values.at(3));
         scale.decimals = qRound(numberOf(part, "data-decimals", -1));
         scale.tickLength = part.attribute(QStringLiteral("data-tick")).toDouble() * m_scale;
-        scale.numberSize = part.hasAttribute(QStringLiteral("font-size")) ? style.fontPixels() * m_scale : 0;
+        scale.numberSize = part.hasAttribute(QStringLiteral("font-size")) ? scalePart.fontPixels * m_scale : 0;
         scale.color = paint.line;
         scale.lineWidth = paint.lineWidth * m_lineFactor;
+        addLines();
         addScale(m_canvas.svg(), placed, scale, m_toPage);
     }
 
-    void drawWord(const QDomElement &element, const SvgStyle &style, const SymbolPlace &place)
+    void drawWord(const SymbolPart &part, const SymbolPlace &place)
     {
+        const QDomElement &element = part.element;
         const auto number = [&element](const char *name) { return element.attribute(QLatin1String(name)).toDouble(); };
         SvgMark word;
         word.text = textOf(element, place).simplified().left(longestWord);
         // Its middle stays where it is, however it is turned.
         constexpr double middleOfLetters = 0.36;
-        const QPointF middle(number("x"), number("y") - middleOfLetters * style.fontPixels());
-        word.middle = m_toPage.map(place.at(style.matrix.map(middle)));
+        const QPointF middle(number("x"), number("y") - middleOfLetters * part.fontPixels);
+        word.middle = m_toPage.map(place.at(part.matrix.map(middle)));
         word.turn = m_wordAngle;
-        double size = style.fontPixels() * m_scale;
+        double size = part.fontPixels * m_scale;
         // Words of the item's own may be longer than those of the file.
         const double half = number("data-room") / 2;
         const double room = place.x.at(number("x") + half) - place.x.at(number("x") - half);
@@ -272,7 +300,8 @@ private:
             word.turn -= m_isTurned ? 90 : 0;
         }
         if (!word.text.isEmpty()) {
-            m_canvas.svg().addMarks({word}, size, paintOf(style).fill);
+            addLines();
+            m_canvas.svg().addMarks({word}, size, paintOf(part).fill);
         }
     }
 
@@ -294,6 +323,9 @@ private:
     Canvas &m_canvas;
     const ItemView &m_item;
     const SymbolFile &m_file;
+    QHash<QString, std::optional<QColor>> m_colors; //!< of the item, by role
+    QPainterPath m_lines;
+    SvgPaint m_linePaint;
     QTransform m_toPage; //!< from the middle of the item's box
     double m_wordAngle;
     QSizeF m_room; //!< for the file as it stands

@@ -1,6 +1,7 @@
 #include "render/symbolfile.h"
 
 #include "files/xmlloader.h"
+#include "svg/svgpath.h"
 #include "svg/svgvalues.h"
 
 #include <QDir>
@@ -44,6 +45,70 @@ void addColors(QHash<QString, QStringList> &keys, const QString &text)
     }
 }
 
+std::optional<QPointF> pointIn(const QDomElement &element, const QString &attribute)
+{
+    const QVector<double> numbers = svgNumbers(element.attribute(attribute));
+    return numbers.size() == 2 ? std::optional<QPointF>(QPointF(numbers.at(0), numbers.at(1))) : std::nullopt;
+}
+
+void readCondition(SymbolPart &part)
+{
+    const QString unless = part.element.attribute(QStringLiteral("data-unless"));
+    const QString condition = unless.isEmpty() ? part.element.attribute(QStringLiteral("data-if")) : unless;
+    part.key = condition.section(QLatin1Char('='), 0, 0);
+    part.value = part.key == condition ? QString() : condition.section(QLatin1Char('='), 1);
+    part.isUnless = !unless.isEmpty();
+    part.isUsual = part.element.attribute(QStringLiteral("display")) != QLatin1String("none");
+}
+
+SymbolPart::Kind kindOf(const QDomElement &element)
+{
+    if (element.hasAttribute(QStringLiteral("data-scale"))) {
+        return SymbolPart::Kind::Scale;
+    }
+    if (element.hasAttribute(QStringLiteral("data-repeat-x"))
+        || element.hasAttribute(QStringLiteral("data-repeat-y"))) {
+        return SymbolPart::Kind::Repeated;
+    }
+    if (element.hasAttribute(QStringLiteral("data-vessel"))) {
+        return SymbolPart::Kind::Liquid;
+    }
+    const QString tag = element.tagName();
+    return tag == QLatin1String("text")                            ? SymbolPart::Kind::Word
+        : tag == QLatin1String("svg") || tag == QLatin1String("g") ? SymbolPart::Kind::Group
+                                                                   : SymbolPart::Kind::Outline;
+}
+
+// With what it has from the parts around it: their style, and their roles where it says no colour of its own.
+SymbolPart readPart(const QDomElement &element, const SvgStyle &above, const SymbolPart &around)
+{
+    const auto ignore = [](const QString &) {};
+    const SvgStyle style = above.child(element, element.attribute(QStringLiteral("transform")), ignore);
+    SymbolPart part;
+    part.element = element;
+    part.kind = kindOf(element);
+    readCondition(part);
+    part.paint = svgPaint(style, false, ignore);
+    part.matrix = style.matrix;
+    part.fontPixels = style.fontPixels();
+    part.lineRole = element.hasAttribute(QStringLiteral("stroke")) ? QString() : around.lineRole;
+    part.fillRole = element.hasAttribute(QStringLiteral("fill")) ? QString() : around.fillRole;
+    const QStringList roles = element.attribute(QStringLiteral("class")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &role : roles) {
+        (role.startsWith(QLatin1String("edge")) ? part.lineRole : part.fillRole) = role;
+    }
+    part.kept = pointIn(element, QStringLiteral("data-keep"));
+    part.upright = pointIn(element, QStringLiteral("data-upright"));
+    const auto outline = part.kind == SymbolPart::Kind::Liquid
+        ? svgPath(element.attribute(QStringLiteral("data-vessel")))
+        : svgOutline(element);
+    part.outline = style.matrix.map(outline.value_or(QPainterPath()));
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        part.children.append(readPart(child, style, part));
+    }
+    return part;
+}
+
 QByteArray contentOf(const QString &type)
 {
     QFile file(folder + type + suffix);
@@ -77,6 +142,7 @@ SymbolFile::SymbolFile(const QDomDocument &document, const QString &type)
             m_keys.insert(role, m_keys.value(QStringLiteral("edge")));
         }
     }
+    m_whole = readPart(m_root, {}, {});
 }
 
 std::shared_ptr<const SymbolFile> SymbolFile::ofType(const QString &type)
@@ -125,22 +191,18 @@ std::optional<QColor> SymbolFile::color(const QString &role, const ItemView &ite
     return std::nullopt;
 }
 
-bool SymbolFile::isShown(const QDomElement &part, const ItemView &item)
+bool SymbolPart::isShownFor(const ItemView &item) const
 {
-    const QString unless = part.attribute(QStringLiteral("data-unless"));
-    const QString condition = unless.isEmpty() ? part.attribute(QStringLiteral("data-if")) : unless;
-    const QString key = condition.section(QLatin1Char('='), 0, 0);
-    const QJsonValue value = item.json().value(key);
-    if (key.isEmpty() || isEmptyValue(value)) {
-        return part.attribute(QStringLiteral("display")) != QLatin1String("none");
+    const QJsonValue told = key.isEmpty() ? QJsonValue() : item.json().value(key);
+    if (isEmptyValue(told)) {
+        return isUsual;
     }
-    const QString told = valueText(value);
+    const QString text = valueText(told);
     bool isNumber = false;
-    const double number = told.toDouble(&isNumber);
+    const double number = text.toDouble(&isNumber);
     // A text is set as a number is that isn't 0.
-    const bool isSet = !isNumber || number != 0;
-    const bool holds = key == condition ? isSet : told == condition.section(QLatin1Char('='), 1);
-    return holds == unless.isEmpty();
+    const bool holds = value.isNull() ? !isNumber || number != 0 : text == value;
+    return holds != isUnless;
 }
 
 } // namespace lessonhost

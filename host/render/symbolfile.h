@@ -2,9 +2,11 @@
 #define SYMBOLFILE_H
 
 #include "lesson/itemview.h"
+#include "svg/svgstyle.h"
 
 #include <QDomElement>
 #include <QHash>
+#include <QPainterPath>
 #include <QSizeF>
 #include <QStringList>
 #include <QVector>
@@ -12,6 +14,35 @@
 #include <memory>
 
 namespace lessonhost {
+
+/*!
+ * A part of a symbol's file, as it is before an item says anything of it. What few parts have is read from its element.
+ */
+struct SymbolPart
+{
+    enum class Kind { Group, Repeated, Liquid, Outline, Word, Scale };
+
+    //! Whether it is shown: as its condition says where the item has the key, else as in the file.
+    bool isShownFor(const ItemView &item) const;
+
+    Kind kind = Kind::Group;
+    QDomElement element;
+
+    QString key; //!< of its condition; empty for none
+    QString value; //!< that the key has to have; null for any that is set
+    bool isUnless = false; //!< shown where the condition doesn't hold
+    bool isUsual = true; //!< shown where the item doesn't tell
+
+    SvgPaint paint; //!< of the file
+    QString lineRole; //!< of the colour that the item may have for it
+    QString fillRole;
+    QTransform matrix; //!< by transforms of the file
+    double fontPixels = 16;
+    QPainterPath outline; //!< under the matrix; of a liquid, the inside of its vessel
+    std::optional<QPointF> kept; //!< around which it keeps its proportion
+    std::optional<QPointF> upright; //!< around which it stays upright
+    QVector<SymbolPart> children;
+};
 
 /*!
  * The drawing of a type that stands in a file of its own; symbols/README.md tells its form.
@@ -26,6 +57,7 @@ public:
     static QStringList types();
 
     const QDomElement &root() const { return m_root; }
+    const SymbolPart &whole() const { return m_whole; }
     QSizeF size() const { return m_size; }
     //! From and to of the parts that stretch, in turn.
     const QVector<double> &stretchingAcross() const { return m_across; }
@@ -39,14 +71,12 @@ public:
     //! What an item says of a colour; nothing for an item that doesn't.
     std::optional<QColor> color(const QString &role, const ItemView &item) const;
 
-    //! Whether a part is shown: as its condition says where the item has the key, else as in the file.
-    static bool isShown(const QDomElement &part, const ItemView &item);
-
 private:
     SymbolFile(const QDomDocument &document, const QString &type);
 
     QDomDocument m_document;
     QDomElement m_root;
+    SymbolPart m_whole;
     QSizeF m_size;
     QVector<double> m_across;
     QVector<double> m_down;
