@@ -109,6 +109,27 @@ private slots:
         row("question in words", question + "1 < 2 & 3'}", ">1 &lt; 2 &amp; 3<");
         row("question that is broken", question + "<svg><text>Why?'}", ">Why?<");
         row("empty question", question + "'}", ">Question<");
+        const QByteArray formula =
+            "{'Type':'ZQFormulaEditorItem','BoundingBox':'0,0,200,100','color':'255,1,2,3','mml':'";
+        row("fraction", formula + "<math><mfrac><mn>1</mn><mi>x</mi></mfrac></math>'}",
+            ">1</text>|>x</text>|font-style=\"italic\"|fill=\"#010203\"|<path|stroke=\"#010203\"|font-family:Times New "
+            "Roman");
+        row("root with an index", formula + "<m:math><m:mroot><m:mn>2</m:mn><m:mn>3</m:mn></m:mroot></m:math>'}",
+            ">2</text>|>3</text>|font-size=\"56.80\"|<path");
+        row("script, colour and names of characters",
+            formula
+                + "<math><msup><mi "
+                  "mathcolor=`red`>&alpha;</mi><mo>&PlusMinus;</mo></msup><mo>-</mo><mi>&nobody;</mi></math>'}",
+            "fill=\"#ff0000\"|>\u03b1<|>\u00b1<|font-size=\"71.00\"|>\u2212<|>nobody<");
+        row("fences as high as what they hold",
+            formula
+                + "<math><mi>f</mi><mo>(</mo><mi>x</mi><mo>)</mo><mo>[</mo><mfrac><mn>1</mn><mn>2</mn></mfrac><mo>]</"
+                  "mo></math>'}",
+            ">(</text>|>)</text>|!>[</text>|!>]</text>|<path");
+        row("table", formula + "<math><mtable><mtr><mtd><mn>7</mn></mtd><mtd><mn>8</mn></mtd></mtr></mtable></math>'}",
+            ">7</text>|>8</text>|x=\"155.00\"");
+        row("formula that is broken, with its picture", formula + "<math>','document':'a.svg'}", "<image|!<path");
+        row("formula that is broken", formula + "<math>'}", ">Formula<");
         row("film", "{'Type':'ZQMediaVideo','BoundingBox':'0,0,200,150','resource':'v/of a day.mp4'}",
             ">of a day.mp4<|>Film, MP4<|!matrix(");
         row("sound that is named",

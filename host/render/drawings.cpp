@@ -3,6 +3,7 @@
 #include "render/activitydrawing.h"
 #include "render/coverdrawing.h"
 #include "render/exercisedrawing.h"
+#include "render/formuladrawing.h"
 #include "render/gamedrawing.h"
 #include "render/graphdrawing.h"
 #include "render/inkdrawing.h"
@@ -36,6 +37,7 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &mediaDrawing,
     &inkDrawing,
     &questionDrawing,
+    &formulaDrawing,
     &symbolDrawing,
     &textDrawing,
     &mindMapDrawing,
