@@ -57,7 +57,10 @@ QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
 {
     QVector<SvgPaintDevice::Line> lines;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const Qt::Alignment alignment = block.blockFormat().alignment();
+        const QTextBlockFormat format = block.blockFormat();
+        const Qt::Alignment alignment = format.hasProperty(QTextFormat::BlockAlignment)
+            ? format.alignment()
+            : document.defaultTextOption().alignment();
         if (!(alignment & (Qt::AlignHCenter | Qt::AlignRight | Qt::AlignJustify))
             || block.textDirection() == Qt::RightToLeft) {
             continue;

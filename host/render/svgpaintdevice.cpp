@@ -388,10 +388,11 @@ private:
             return;
         }
         constexpr double tolerance = 0.5;
+        const double overhang = 0.1 * m_pixels; // of the last letter, which the line counts
         auto line = std::lower_bound(lines.cbegin(), lines.cend(), m_baseline - tolerance,
                                      [](const Line &row, double y) { return row.baseline < y; });
         for (; line != lines.cend() && line->baseline < m_baseline + tolerance; ++line) {
-            if (qAbs(line->left - m_textStart) < tolerance && qAbs(line->right - m_lettersEnd) < tolerance) {
+            if (qAbs(line->left - m_textStart) < tolerance && qAbs(line->right - m_lettersEnd) < tolerance + overhang) {
                 QDomText last = m_text.lastChild().isText() ? m_text.lastChild().toText()
                                                             : m_text.lastChild().firstChild().toText();
                 last.setData(last.data().left(lengthWithoutBlanks(last.data())));
