@@ -2,6 +2,7 @@
 #include "iwb/iwbmedia.h"
 #include "render/canvas.h"
 #include "render/labellines.h"
+#include "render/languagedrawing.h"
 #include "render/picturestore.h"
 
 #include <QDomDocument>
@@ -65,7 +66,8 @@ private slots:
         const Table<QString, QString, QByteArray> row("html", "texts", "part");
         const QString para = "<p style='margin:0px' align='%1'>%2</p>";
         row("plain", "1 < 2", "1 < 2", "font-family:Arial, sans-serif");
-        row("spans of one line", "a <b>b</b>, <i>c</i>", "a b, c", "<tspan font-weight=\"bold\">b</tspan>, <tspan font");
+        row("spans of one line", "a <b>b</b>, <i>c</i>", "a b, c",
+            "<tspan font-weight=\"bold\">b</tspan>, <tspan font");
         row("colour that shines through", "<span style='color:rgba(255,0,0,128)'>a</span>", "a",
             "fill=\"#ff0000\" fill-opacity=\"0.50\"");
         row("a font that isn't here", "<span style='font-family:No Such Font'>a</span>", "a",
@@ -148,11 +150,65 @@ private slots:
         QVERIFY2(scale > 0.3 && scale < 0.5, qPrintable(matrix));
     }
 
+    // Letters stand in the middle of their squares, and on the third of four lines.
+    void drawsLanguage_data()
+    {
+        const Table<QJsonObject, QString, int, QPointF> row("item", "texts", "lines", "last");
+        row("character", "{'Type':'ZQChineseCharacterItem','BoundingBox':'0,0,100,100','current_text':'水'}", "水", 2,
+            {50, 80.4});
+        row("character with pinyin",
+            "{'Type':'ZQChineseCharacterItem','BoundingBox':'0,0,200,158','current_text':'水','current_pinyin':'shuǐ'}",
+            "shuǐ|水", 3, {100, 138.4});
+        row("squares that fit", "{'Type':'ZQWordLatticeItem','BoundingBox':'0,0,90,60','Text':'山 高水长a'}",
+            "山|高|水|长|a", 10, {45, 54.12});
+        row("signs above letters",
+            "{'Type':'ZQLiteratureHanzibihua','BoundingBox':'0,0,100,100','ArtObj_HZ':'u\u030c'}", "u\u030c", 2,
+            {50, 80.4});
+        row("turned",
+            "{'Type':'ZQLiteratureHanzibihua','BoundingBox':'0,0,100,100','ChineseWord':'水','Angle':1.570796}", "水",
+            2, {19.6, 50});
+        row("pinyin in rows", "{'Type':'ZQChinesePhoneticItem','BoundingBox':'0,0,100,110','TextPhonetic':'gāo shān'}",
+            "gāo|shān", 2, {50, 93.33});
+        row("pinyin on its paper",
+            "{'Type':'ZQChinesePhoneticItem','BoundingBox':'0,0,200,60','TextPhonetic':'a','Fill_Color':'255,0,0,9'}",
+            "a", 2, {100, 40});
+        row("a syllable for each character",
+            "{'Type':'ZQLiteraturePinyin','BoundingBox':'0,0,200,158','ArtObj_Hanzi':'学习','ArtObj_Pinyin':'xué xí'}",
+            "学|xué|习|xí", 5, {150, 33.33});
+        row("without squares and characters",
+            "{'Type':'ZQLiteraturePinyin','BoundingBox':'0,0,200,158','ChineseWord':'学习','ArtObj_Pinyin':'xuéxí',"
+            "'DispGrid':'0','ArtObj_DispHanzi':'0'}",
+            "xuéxí", 1, {100, 33.33});
+        row("word", "{'Type':'ZQLiteratureYinbiao','BoundingBox':'0,0,200,60','EnglishWord':'ox'}", "ox", 1, {100, 40});
+        row("hidden word",
+            "{'Type':'ZQLiteratureYinbiao','BoundingBox':'0,0,200,60','EnglishWord':'ox','WordHide':'1'}", "", 1, {});
+        row("nowhere", "{'Type':'ZQLiteratureYinbiao','EnglishWord':'ox'}", "", 0, {});
+    }
+
+    void drawsLanguage()
+    {
+        QFETCH(QJsonObject, item);
+        QFETCH(QString, texts);
+        QFETCH(int, lines);
+        QFETCH(QPointF, last);
+        const ItemView view(item);
+        const QDomElement svg =
+            drawn([&](Canvas &canvas) { QCOMPARE(languageDrawing(view.type())(canvas, view), lines > 0); });
+        QCOMPARE(words(svg).join('|'), texts);
+        QCOMPARE(elements(svg, "path").size(), lines);
+        if (!texts.isEmpty()) {
+            const QStringList matrix = elements(svg, "g").constLast().attribute("transform").mid(7).split(' ');
+            const QPointF middle(matrix.at(4).toDouble(), matrix.at(5).chopped(1).toDouble());
+            QVERIFY2((middle - last).manhattanLength() < 0.1, qPrintable(matrix.join(' ')));
+            QVERIFY(qAbs(number(elements(svg, "text").constLast(), "x")) < 0.1);
+        }
+    }
+
     // No smaller than can be read, cut where they don't fit, beside what is too small, and never one over the other.
     void placesLabels()
     {
-        const QVector<QRectF> boxes{{20, 20, 40, 24},  {20, 20, 300, 60},   {20, 20, 300, 60},  {400, 20, 4, 4},
-                                    {404, 20, 4, 4},   {600, 20, 20, 300},  {700, 20, 100, 40}, {800, 20, 100, 12},
+        const QVector<QRectF> boxes{{20, 20, 40, 24},   {20, 20, 300, 60},  {20, 20, 300, 60},  {400, 20, 4, 4},
+                                    {404, 20, 4, 4},    {600, 20, 20, 300}, {700, 20, 100, 40}, {800, 20, 100, 12},
                                     {1270, 20, 10, 10}, {1000, 400, 0, 200}};
         const QDomElement svg = drawn([&](Canvas &canvas) {
             for (const QRectF &box : boxes) {

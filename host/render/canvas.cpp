@@ -65,6 +65,17 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
     return true;
 }
 
+void Canvas::addLetters(const QString &text, double size, const QPointF &middle, const QTransform &placed,
+                        const TextLook &look)
+{
+    if (!text.isEmpty()) {
+        const double scale = size / LetterLine::drawnSize;
+        LetterLine(text, look)
+            .draw(m_svg.addGroup(QTransform::fromScale(scale, scale) * QTransform::fromTranslate(middle.x(), middle.y())
+                                 * placed));
+    }
+}
+
 QSize Canvas::pictureSize(const QString &reference) const
 {
     const QString file = m_files.find(reference);

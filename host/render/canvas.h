@@ -50,12 +50,16 @@ public:
     //! it may mirror and slant the text. False for a text that would have to be made smaller than can be read.
     bool addText(const QString &text, const QRectF &area, const QTransform &placed = {}, const TextPlace &place = {});
 
+    //! One line of letters. middle: of the line on which they stand; placed: from there to the page.
+    void addLetters(const QString &text, double size, const QPointF &middle, const QTransform &placed,
+                    const TextLook &look = {});
+
     //! A picture of the lesson, stretched to a box; placed may mirror and slant it. False for a file that the lesson
     //! hasn't, or that can't be drawn.
     bool addPicture(const QString &reference, const QRectF &box, const QTransform &placed = {});
 
-    //! A drawing in svg in its proportion, from a box's upper left corner on. What it shows of pictures is in it or in the
-    //! lesson. usualSize: of one that tells none. False for what is no drawing.
+    //! A drawing in svg in its proportion, from a box's upper left corner on. What it shows of pictures is in it or in
+    //! the lesson. usualSize: of one that tells none. False for what is no drawing.
     bool addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize);
 
     //! What is rubbed out of the ink that is drawn now.

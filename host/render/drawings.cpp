@@ -9,6 +9,7 @@
 #include "render/inkdrawing.h"
 #include "render/instrumentdrawing.h"
 #include "render/itemoutline.h"
+#include "render/languagedrawing.h"
 #include "render/mathdrawing.h"
 #include "render/mediadrawing.h"
 #include "render/mindmapdrawing.h"
@@ -41,6 +42,7 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
     &symbolDrawing,
     &textDrawing,
     &mindMapDrawing,
+    &languageDrawing,
 };
 // clang-format on
 

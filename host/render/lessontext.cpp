@@ -4,6 +4,7 @@
 #include "render/svgpaintdevice.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -151,6 +152,31 @@ void LessonText::draw(const QDomElement &group)
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, m_color);
     m_document.documentLayout()->draw(&painter, context);
+}
+
+// Letters have the same proportions in every size, so they are painted in one that can be measured well.
+LetterLine::LetterLine(const QString &text, const TextLook &look)
+    : m_text(text)
+    , m_color(look.color)
+{
+    m_font.setFamilies(families({look.family}));
+    m_font.setPixelSize(drawnSize);
+    m_font.setBold(look.isBold);
+    m_font.setHintingPreference(QFont::PreferNoHinting);
+    const QFontMetricsF metrics(m_font);
+    m_width = metrics.horizontalAdvance(text) / drawnSize;
+    m_xHeight = metrics.xHeight() / drawnSize;
+}
+
+void LetterLine::draw(const QDomElement &group) const
+{
+    const double half = m_width * drawnSize / 2;
+    SvgPaintDevice device(group);
+    device.setLines({{0, -half, half, Qt::AlignHCenter}});
+    QPainter painter(&device);
+    painter.setFont(m_font);
+    painter.setPen(m_color);
+    painter.drawText(QPointF(-half, 0), m_text);
 }
 
 } // namespace lessonhost

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QDomElement>
+#include <QFont>
 #include <QImage>
 #include <QSizeF>
 
@@ -55,6 +56,31 @@ private:
     ClosedTextDocument m_document;
     QColor m_color;
     double m_smallestPixels = 0;
+};
+
+/*!
+ * A line of letters without a size of its own.
+ */
+class LetterLine
+{
+public:
+    explicit LetterLine(const QString &text, const TextLook &look = {});
+
+    //! Of a size of 1.
+    double width() const { return m_width; }
+    //! How high its small letters are, of a size of 1.
+    double xHeight() const { return m_xHeight; }
+
+    static constexpr int drawnSize = 100;
+    //! Draws it into an element of an svg, in that size, with the middle of its line at 0,0.
+    void draw(const QDomElement &group) const;
+
+private:
+    QString m_text;
+    QColor m_color;
+    QFont m_font;
+    double m_width = 0;
+    double m_xHeight = 0;
 };
 
 } // namespace lessonhost

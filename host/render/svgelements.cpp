@@ -15,6 +15,13 @@ double bounded(double value)
     return std::isnan(value) ? 0 : qBound(-largestInDrawing, value, largestInDrawing);
 }
 
+// Six digits, and no more than seven behind the point.
+QString factor(double value)
+{
+    constexpr double scale = 1e7;
+    return QString::number(qAbs(value) < 1 ? std::round(value * scale) / scale : value, 'g', 6);
+}
+
 } // namespace
 
 QString drawnNumber(double value)
@@ -24,11 +31,10 @@ QString drawnNumber(double value)
 
 QString drawnTransform(const QTransform &transform)
 {
-    constexpr double nothing = 1e-8;
     QStringList numbers;
     for (const double number :
          {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
-        numbers.append(QString::number(qAbs(number) < nothing ? 0 : bounded(number), 'g', 6));
+        numbers.append(factor(bounded(number)));
     }
     return QStringLiteral("matrix(%1)").arg(numbers.join(QLatin1Char(' ')));
 }
