@@ -130,6 +130,22 @@ private slots:
             ">7</text>|>8</text>|x=\"155.00\"");
         row("formula that is broken, with its picture", formula + "<math>','document':'a.svg'}", "<image|!<path");
         row("formula that is broken", formula + "<math>'}", ">Formula<");
+        row("covered item, turned",
+            "{'Type':'ZQMath2DRectangle','BoundingBox':'0,0,40,20','Angle':'1.5707963267949','CoverLayer':'1'}",
+            "fill-opacity=\"0.40\"|matrix(0 1 -1 0 30 -10)\"><path d=\"M0.00 0.00L40.00 0.00L40.00 20.00L0.00 20.00");
+        row("covered group",
+            "{'Type':'ZQGroupItem','CoverLayer':'1','Children':[{'Type':'ZQMath2DRectangle','BoundingBox':'0,0,40,20'},"
+            "{'Type':'stroke','XY':'10,10,80,0'}]}",
+            "M0.00 0.00L90.00 0.00L90.00 20.00L0.00 20.00");
+        row("item that isn't covered", "{'Type':'stroke','XY':'10,10,80,0','CoverLayer':'0'}",
+            "!fill-opacity=\"0.40\"");
+        row("raw item where its points are",
+            "{'Type':'ZQNewPart','Matrix':'2,0,0,2,100,50','ArtObj_Point0x':'0','ArtObj_Point0y':'5',"
+            "'ArtObj_Point1x':'50','ArtObj_Point1y':'5'}",
+            "height=\"24.00\"|width=\"100.00\"|x=\"100.00\"|y=\"48.00\"");
+        row("raw item where its matrix is", "{'Type':'ZQNewPart','Matrix':'2,0,0,2,100,50'}",
+            "width=\"176.00\"|x=\"100.00\"|y=\"50.00\"");
+        row("item that is nowhere", "{'Type':'ZQNewPart'}", "x=\"12.00\"|y=\"12.00\"");
         row("film", "{'Type':'ZQMediaVideo','BoundingBox':'0,0,200,150','resource':'v/of a day.mp4'}",
             ">of a day.mp4<|>Film, MP4<|!matrix(");
         row("sound that is named",

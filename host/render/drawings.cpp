@@ -17,6 +17,7 @@
 #include "render/symboldrawing.h"
 #include "render/textdrawing.h"
 #include "render/vectordrawing.h"
+#include "svg/svgstyle.h"
 
 #include <QJsonArray>
 
@@ -81,6 +82,16 @@ bool Drawings::draw(const QJsonObject &json)
     }
     m_boxes.drawBox(json, addPictureOn(item));
     return false;
+}
+
+void Drawings::drawCover(const QRectF &box)
+{
+    SvgPaint paint;
+    paint.fill = QColor(0x6b, 0x76, 0x85, 0x66);
+    paint.line = QColor(0x6b, 0x76, 0x85);
+    QPainterPath path;
+    path.addRect(box);
+    m_canvas.svg().addPath(path, paint);
 }
 
 // The picture on an item that has no drawing, in the item's box.

@@ -27,6 +27,9 @@ public:
     //! False for an item that is shown by its name alone.
     bool draw(const QJsonObject &item);
 
+    //! What covers an item. It lets through what it hides, so that a picture of a lesson tells both.
+    void drawCover(const QRectF &box);
+
 private:
     bool addPictureOn(const ItemView &item);
 

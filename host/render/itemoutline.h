@@ -15,6 +15,10 @@ QTransform placeOnPage(const ItemView &item);
 //! The flips and the turn that an item without a Matrix says, about its middle.
 QTransform turnAndFlips(const ItemView &item, const QPointF &center);
 
+//! What an item covers where it says that it is: its box, or without one the points that it tells. Empty where it tells
+//! neither.
+QRectF toldExtent(const ItemView &item);
+
 //! Moves and stretches what covers one box so that it covers another. A side without length stays in the middle.
 QTransform fitInto(const QRectF &from, const QRectF &to);
 

@@ -3,6 +3,7 @@
 #include "lesson/closedtext.h"
 #include "lesson/itemview.h"
 #include "lesson/plainnames.h"
+#include "render/itemoutline.h"
 #include "render/plainsvg.h"
 
 namespace lessonhost {
@@ -34,6 +35,31 @@ NamedBoxes::NamedBoxes(PlainSvg &svg)
 {
 }
 
+// The item's own; without one, about the points that it tells, or where its Matrix has its origin. The last of it is a
+// place at the left edge.
+QRectF NamedBoxes::boxOf(const ItemView &item)
+{
+    const auto place = item.place();
+    if (place && place->box.width() >= 1 && place->box.height() >= 1) {
+        return place->box;
+    }
+    constexpr double height = 44;
+    constexpr double smallest = 24;
+    const QRectF extent = toldExtent(item);
+    if (extent.width() >= 1 || extent.height() >= 1) {
+        const double across = qMax(0.0, smallest - extent.width()) / 2;
+        const double down = qMax(0.0, smallest - extent.height()) / 2;
+        return extent.adjusted(-across, -down, across, down);
+    }
+    if (const auto matrix = item.matrix()) {
+        return {matrix->map(QPointF()), QSizeF(4 * height, height)};
+    }
+    const int perColumn = qMax(1, int((m_svg.size().height() - 20) / (height + 8)));
+    const int column = m_withoutPlace / perColumn;
+    const int row = m_withoutPlace++ % perColumn;
+    return {12 + column * 372.0, 12 + row * (height + 8), 360, height};
+}
+
 void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
 {
     const ItemView view(item);
@@ -44,16 +70,7 @@ void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
         name += QLatin1String(" that is missing");
     }
     const auto place = view.place();
-    QRectF box;
-    if (place && place->box.width() >= 1 && place->box.height() >= 1) {
-        box = place->box;
-    } else {
-        constexpr double height = 44;
-        const int perColumn = qMax(1, int((m_svg.size().height() - 20) / (height + 8)));
-        const int column = m_withoutPlace / perColumn;
-        box = QRectF(12 + column * 372, 12 + m_withoutPlace % perColumn * (height + 8), 360, height);
-        ++m_withoutPlace;
-    }
+    const QRectF box = boxOf(view);
     QDomElement frame =
         m_svg.addRectangle(box, QColor(0x77, 0x77, 0x77), QColor(0xee, 0xee, 0xee, hasPicture ? 0 : 150));
     frame.setAttribute(QStringLiteral("stroke-dasharray"), QStringLiteral("10,6"));
