@@ -86,7 +86,6 @@ LessonText::LessonText(const QString &text, const TextLook &look)
     constexpr double inchesInMeter = 1 / 0.0254;
     m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
     m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
-    m_document.documentLayout()->setPaintDevice(&m_screen);
     QFont font;
     font.setFamilies(families({look.family}));
     font.setPointSizeF(qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints));
@@ -104,6 +103,8 @@ LessonText::LessonText(const QString &text, const TextLook &look)
         m_document.setPlainText(text);
     }
     prepareFonts();
+    // Only now, since a layout follows every change.
+    m_document.documentLayout()->setPaintDevice(&m_screen);
 }
 
 void LessonText::prepareFonts()
@@ -139,8 +140,11 @@ void LessonText::prepareFonts()
 void LessonText::setWidth(double width, bool keepsWords)
 {
     QTextOption option = m_document.defaultTextOption();
-    option.setWrapMode(keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_document.setDefaultTextOption(option);
+    const auto mode = keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere;
+    if (option.wrapMode() != mode) {
+        option.setWrapMode(mode);
+        m_document.setDefaultTextOption(option);
+    }
     m_document.setTextWidth(qMax(1.0, width));
 }
 
