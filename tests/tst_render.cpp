@@ -262,6 +262,47 @@ private slots:
         QVERIFY(fileContent(path("texts.html")).count("shown<") == 3);
     }
 
+    // What no font here has is said for each script, with the package that has it.
+    void tellsMissingFonts()
+    {
+        putFile(path("fonts.conf"),
+                QByteArray("<fontconfig><dir>NONE</dir><cachedir>NONE</cachedir></fontconfig>")
+                    .replace("NONE", path("none").toUtf8()));
+        const auto withoutFonts = [this] { qputenv("FONTCONFIG_FILE", path("fonts.conf").toUtf8()); };
+        const auto putLesson = [this](const char *name, const char *lesson) {
+            putFile(path(name), QJsonDocument(json(lesson)).toJson());
+        };
+        putLesson("scripts.json",
+                  "{'Slides':[{'Items':[{'ID':'1','Type':'ZQTextBoard','Text':'水 Б'}]},{'Items':[]},"
+                  "{'Items':[{'ID':'2','Type':'ZQWordLatticeItem','BoundingBox':'0,0,90,90','Text':'山'},"
+                  "{'ID':'3','Type':'ZQTextBoard','Text':'\\ue000 \\u0301'}]}]}");
+        const QString chinese("2 slides have Chinese characters and no font here has them: install fonts-noto-cjk");
+        const QString cyrillic("1 slide has Cyrillic letters and no font here has them: install fonts-dejavu-core");
+        const QStringList render{"render", path("scripts.json"), path("scripts.html")};
+        const QString errors = runCommand(render, {}, withoutFonts).errors;
+        QVERIFY2(errors.count("Note: ") == 3, qPrintable(errors));
+        QVERIFY2(errors.contains(chinese) && errors.contains(cyrillic), qPrintable(errors));
+        const QByteArray result = runCommand(render + QStringList{"--json"}, {}, withoutFonts).output.toUtf8();
+        const QJsonArray told = QJsonDocument::fromJson(result)["missingFonts"].toArray();
+        QCOMPARE(told.at(0).toObject(),
+                 json("{'letters':'Chinese characters','package':'fonts-noto-cjk','slides':[1,3]}"));
+        QVERIFY(runCommand(render + QStringList{"--quiet"}, {}, withoutFonts).errors.isEmpty());
+
+        const QString exported =
+            runCommand({"convert", path("scripts.json"), path("scripts.iwb")}, {}, withoutFonts).errors;
+        QVERIFY2(exported.contains("fonts: 1 slide has Chinese") && exported.contains(cyrillic), qPrintable(exported));
+        putFile(path("foreign/content.xml"),
+                "<iwb><svg:svg viewbox='0 0 9 9'><svg:text x='1' y='9'>水</svg:text></svg:svg></iwb>");
+        const QString read = runCommand({"convert", path("foreign"), path("foreign.json")}, {}, withoutFonts).errors;
+        QVERIFY2(read.contains("no font here has its Chinese characters: install fonts-noto-cjk"), qPrintable(read));
+
+        putLesson("font.json",
+                  "{'Slides':[{'Items':[{'ID':'1','Type':'ZQTextBoard',"
+                  "'TextHtml':'<p style=\\'font-family:No Such Font, Arial\\'>a</p>'}]}]}");
+        const QString font = runCommand({"render", path("font.json"), path("font.html")}).errors;
+        QVERIFY2(font.contains("1 slide has the font No Such Font, which isn't here"), qPrintable(font));
+    }
+
     void drawsWithoutADisplay()
     {
         const auto prepare = [] {

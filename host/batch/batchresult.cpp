@@ -48,10 +48,11 @@ QString whoNames(bool hasReport)
 
 const BatchWork BatchWork::conversion{
     QStringLiteral("conversion"), QStringLiteral("converted"), lossesKey, {QStringLiteral("entries")}};
-const BatchWork BatchWork::drawing{QStringLiteral("drawing"),
-                                   QStringLiteral("drawn"),
-                                   QStringLiteral("drawn"),
-                                   {QStringLiteral("files"), QStringLiteral("named")}};
+const BatchWork BatchWork::drawing{
+    QStringLiteral("drawing"),
+    QStringLiteral("drawn"),
+    QStringLiteral("drawn"),
+    {QStringLiteral("files"), QStringLiteral("named"), QStringLiteral("missingFonts"), QStringLiteral("notes")}};
 
 int BatchResult::count(State state) const
 {
@@ -97,6 +98,15 @@ QString BatchResult::summary(const BatchPlan &plan, bool hasReport) const
     if (const int named = namedCount()) {
         text += QStringLiteral("%1 shown by name; %2 names each.\n")
                     .arg(counted(named, "item is", "items are"), whoNames(hasReport));
+    }
+    QStringList notes;
+    for (const Lesson &lesson : lessons) {
+        notes += lesson.notes();
+    }
+    if (!notes.isEmpty()) {
+        text += QStringLiteral("%1, such as: %2.\n")
+                    .arg(counted(notes.size(), "note on a font that isn't here", "notes on fonts that aren't here"),
+                         notes.first());
     }
     if (!plan.passedOver.isEmpty()) {
         text += plan.passedOver.size() == 1

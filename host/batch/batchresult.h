@@ -41,6 +41,15 @@ struct BatchResult
         QString message; //!< why it failed
 
         int lossCount() const { return result.value(QLatin1String("losses")).toInt(); }
+        QStringList notes() const
+        {
+            QStringList notes;
+            const QJsonArray all = result.value(QLatin1String("notes")).toArray();
+            for (const QJsonValue &note : all) {
+                notes.append(note.toString());
+            }
+            return notes;
+        }
         int namedCount() const { return result.value(QLatin1String("named")).toArray().size(); }
     };
 

@@ -589,6 +589,7 @@ int Command::render(const QStringList &files) const
                      [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     report.write(result);
+    tellNotes(result);
     if (!StandardStreams::isStandardOutput(output)) {
         tellRendered(result);
     }
@@ -608,6 +609,7 @@ int Command::renderDifference(const QStringList &files) const
         lessonhost::renderDifference(*first, files.first(), *second, files.at(1), context, files.last(), settings,
                                      [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
+    tellNotes(result);
     tellRendered(result);
     return Done;
 }
@@ -655,6 +657,16 @@ RenderSettings Command::manyRenderSettings() const
     RenderSettings settings = renderSettings(pictureFormByName(value("to")), {});
     settings.isFolder = settings.form->isPerSlide && settings.slides.size() != 1;
     return settings;
+}
+
+void Command::tellNotes(const QJsonObject &result) const
+{
+    const QJsonArray notes = result.value(QLatin1String("notes")).toArray();
+    for (const QJsonValue &note : notes) {
+        if (!isSet("quiet") && !isSet("json")) {
+            complain(QLatin1String("Note: ") + note.toString());
+        }
+    }
 }
 
 void Command::tellRendered(const QJsonObject &result) const

@@ -92,6 +92,7 @@ private:
     int runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const;
     RenderSettings renderSettings(const PictureForm &form, const QStringList &inputs) const;
     RenderSettings manyRenderSettings() const;
+    void tellNotes(const QJsonObject &result) const;
     void tellRendered(const QJsonObject &result) const;
 
     CommandLine m_line;

@@ -80,8 +80,17 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
     if (m_check) {
         m_check->compare(m_pages.document(), slide, items, m_slides, losses);
     }
+    lookAtTexts(page);
     storeMedia();
     writePage(page);
+}
+
+void IwbWriter::lookAtTexts(const QDomElement &page)
+{
+    const QDomNodeList spans = page.elementsByTagName(QStringLiteral("svg:tspan"));
+    for (int i = 0; i < spans.size(); ++i) {
+        m_missing.lookAt(spans.at(i).toElement().text(), m_slides);
+    }
 }
 
 void IwbWriter::start(const QJsonObject &firstSlide)
@@ -174,6 +183,10 @@ void IwbWriter::finish()
     const int leftOut = m_pages.items().strokesLeftOut();
     if (leftOut > 0) {
         losses.note(QStringLiteral("ink"), counted(leftOut, " stroke left out", " strokes left out"));
+    }
+    const QStringList missing = m_missing.sentences();
+    for (const QString &sentence : missing) {
+        losses.note(QStringLiteral("fonts"), sentence);
     }
     const QStringList unused = m_media.unused();
     if (!unused.isEmpty()) {

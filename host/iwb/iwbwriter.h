@@ -6,6 +6,7 @@
 #include "iwb/iwbpagecheck.h"
 #include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
+#include "lesson/missingfonts.h"
 #include "losses/slidelosses.h"
 
 namespace lessonhost {
@@ -31,6 +32,7 @@ private:
     void finishPages();
     void append(const QByteArray &text);
     void storeMedia();
+    void lookAtTexts(const QDomElement &page);
     [[noreturn]] void failWithoutPages() const;
 
     LessonContext m_context;
@@ -42,6 +44,7 @@ private:
     QJsonObject m_presentation;
     QByteArray m_records; // about the items of the pages that are written; they stand behind all pages
     QByteArray m_afterPages; // the document from the end of its pages to its end
+    MissingFonts m_missing;
     int m_slides = 0;
     qint64 m_contentSize = 0; // of the document
 };

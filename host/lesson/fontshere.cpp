@@ -66,8 +66,9 @@ QString familyHere(const QStringList &families)
 bool hasGlyph(uint letter)
 {
     const QChar::Category category = QChar::category(letter);
-    if (category <= QChar::Mark_Enclosing || category == QChar::Other_Control || category == QChar::Other_Format
-        || QChar::isSpace(letter)) {
+    const bool isMark = category <= QChar::Mark_Enclosing;
+    const bool isNoLetter = category >= QChar::Other_Control && category <= QChar::Other_NotAssigned;
+    if (isMark || isNoLetter || QChar::isSpace(letter)) {
         return true;
     }
     if (!hasFonts()) {

@@ -14,7 +14,7 @@ bool hasFamily(const QString &family);
 //! The first of the families that is here, or else the generic one that withGenericFamily() puts at their end.
 QString familyHere(const QStringList &families);
 
-//! True where some font has the letter, control characters and blanks aside.
+//! True where some font has the letter, and for what is none: blanks, controls, marks, and what Unicode leaves open.
 bool hasGlyph(uint letter);
 
 } // namespace lessonhost

@@ -38,7 +38,7 @@ SvgPaint linePaint(double width)
 TextLook characterLook(const QColor &color = Qt::black)
 {
     TextLook look;
-    look.family = QStringLiteral("KaiTi");
+    look.family = QStringLiteral("serif");
     look.color = color;
     return look;
 }

@@ -49,6 +49,12 @@ void append(QJsonArray &list, int slide, const QVector<SlidePicture::Told> &item
     }
 }
 
+QStringList withoutDuplicates(QStringList texts)
+{
+    texts.removeDuplicates();
+    return texts;
+}
+
 } // namespace
 
 QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
@@ -77,7 +83,9 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     }
     return {{QStringLiteral("slides"), slides.size()},
             {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
-            {QStringLiteral("named"), named}};
+            {QStringLiteral("named"), named},
+            {QStringLiteral("missingFonts"), pictures.missingFonts().toJson()},
+            {QStringLiteral("notes"), QJsonArray::fromStringList(pictures.missingFonts().sentences())}};
 }
 
 QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
@@ -124,7 +132,10 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
     }
     return {{QStringLiteral("slides"), slides.size()},
             {QStringLiteral("files"), QJsonArray::fromStringList(html.finish())},
-            {QStringLiteral("losses"), losses.toJson()}};
+            {QStringLiteral("losses"), losses.toJson()},
+            {QStringLiteral("notes"),
+             QJsonArray::fromStringList(withoutDuplicates(firstPictures.missingFonts().sentences()
+                                                          + secondPictures.missingFonts().sentences()))}};
 }
 
 } // namespace lessonhost

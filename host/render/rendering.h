@@ -9,13 +9,14 @@
 namespace lessonhost {
 
 //! Draws a lesson into a file, or into files, one a slide, with %d or %03d in the name for the slide's number. Returns
-//! {"slides", "files", "named": [{"slide", "type", "id"}]}, where named are the items that are shown by name only.
-//! Throws LessonError; then nothing is written.
+//! {"slides", "files", "named": [{"slide", "type", "id"}], "missingFonts", "notes"}, where named are the items that are
+//! shown by name only, missingFonts is MissingFonts::toJson() and notes are its sentences. Throws LessonError; then
+//! nothing is written.
 QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
                          const RenderSettings &settings, const Progress &progress);
 
 //! Writes a .html file with the slides of two lessons side by side and the values of the first that the second lacks.
-//! Returns {"slides", "files", "losses"}. Throws LessonError.
+//! Returns {"slides", "files", "losses", "notes"}. Throws LessonError.
 QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
                              const QString &secondName, const LessonContext &context, const QString &output,
                              const RenderSettings &settings, const Progress &progress);

@@ -22,6 +22,30 @@ QJsonObject sizeFor(QJsonObject presentation, const QJsonObject &slide)
     return presentation;
 }
 
+// The family that is asked for first stands at the beginning of the style.
+void lookAtFonts(const QDomElement &element, int slide, MissingFonts &missing)
+{
+    const QString style = element.attribute(QStringLiteral("style"));
+    const QLatin1String start("font-family:");
+    if (style.startsWith(start)) {
+        const QString family = style.mid(start.size()).section(QLatin1Char(','), 0, 0).section(QLatin1Char(';'), 0, 0);
+        missing.lookAtFamily(family.trimmed().remove(QLatin1Char('\'')), slide);
+    }
+}
+
+void lookAtTexts(const QDomElement &svg, int slide, MissingFonts &missing)
+{
+    const QDomNodeList texts = svg.elementsByTagName(QStringLiteral("text"));
+    for (int i = 0; i < texts.size(); ++i) {
+        const QDomElement text = texts.at(i).toElement();
+        missing.lookAt(text.text(), slide);
+        lookAtFonts(text, slide, missing);
+        for (QDomElement span = text.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+            lookAtFonts(span, slide, missing);
+        }
+    }
+}
+
 IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 {
     IwbItemWriter::Setting setting;
@@ -93,6 +117,7 @@ SlidePicture SlidePictures::picture(int index)
         }
     }
     result.svg = plain.finished();
+    lookAtTexts(result.svg.documentElement(), result.slide, m_missing);
     // Pictures are drawn from their files; what IWB would store of them isn't needed.
     m_media.storeNew([](const QString &, const IwbMedia::File &) {});
     return result;

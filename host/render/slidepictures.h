@@ -4,6 +4,7 @@
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
+#include "lesson/missingfonts.h"
 
 #include <QColor>
 #include <QDomDocument>
@@ -49,12 +50,16 @@ public:
     //! The picture of a slide, counted from 0. Throws LessonError.
     SlidePicture picture(int index);
 
+    //! What the pictures so far have in letters and fonts that aren't here.
+    const MissingFonts &missingFonts() const { return m_missing; }
+
 private:
     LessonReader &m_reader;
     PictureStore &m_store;
     std::optional<QColor> m_ground;
     IwbMedia m_media;
     IwbPageWriter m_pages;
+    MissingFonts m_missing;
 };
 
 } // namespace lessonhost

@@ -2,6 +2,7 @@
 
 #include "lesson/isoneof.h"
 #include "lesson/itemvalues.h"
+#include "lesson/missingfonts.h"
 #include "lesson/planegeometry.h"
 #include "svg/svggeometry.h"
 #include "svg/svgnames.h"
@@ -425,6 +426,12 @@ void SvgPageBuilder::text(const QDomElement &element, const Place &place)
     const QDomElement firstSpan = element.firstChildElement();
     const QDomElement &anchor = element.hasAttribute(QStringLiteral("y")) || firstSpan.isNull() ? element : firstSpan;
     const QRectF box = content.boxAt(length(anchor, "x"), length(anchor, "y"));
+    const QMap<QString, QString> missing = missingLetters(content.plainText());
+    for (auto it = missing.cbegin(); it != missing.cend(); ++it) {
+        remark(element,
+               QStringLiteral("its size is a guess, as no font here has its %1: install %2").arg(it.key(), it.value()),
+               false);
+    }
     if (!placeBox(item, box, place.style.matrix)) {
         remark(element, QStringLiteral("it is drawn slanted no longer"), false);
     }

@@ -194,6 +194,15 @@ void SvgText::writeInto(QDomElement &area, double scale) const
     }
 }
 
+QString SvgText::plainText() const
+{
+    QString text;
+    for (const Run &run : m_runs) {
+        text += run.text;
+    }
+    return text;
+}
+
 QSizeF SvgText::size() const
 {
     double width = 0;

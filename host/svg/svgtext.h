@@ -29,6 +29,9 @@ public:
     //! The size that the text takes in one column as wide as it likes.
     QSizeF size() const;
 
+    //! All its letters.
+    QString plainText() const;
+
 private:
     struct Run
     {

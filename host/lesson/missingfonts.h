@@ -1,0 +1,43 @@
+#ifndef MISSINGFONTS_H
+#define MISSINGFONTS_H
+
+#include <QJsonArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <set>
+
+namespace lessonhost {
+
+/*!
+ * Which letters and fonts of a lesson's texts this machine has none of, and which package of Debian has them.
+ */
+class MissingFonts
+{
+public:
+    //! Looks at the letters of a text. slide is counted from 1.
+    void lookAt(const QString &text, int slide);
+    //! Looks at the font that a text asks for.
+    void lookAtFamily(const QString &family, int slide);
+
+    bool isEmpty() const { return m_letters.isEmpty() && m_families.isEmpty(); }
+
+    //! "3 slides have Chinese characters and no font here has them: install fonts-noto-cjk", one for each script, and
+    //! one for the fonts of each package.
+    QStringList sentences() const;
+
+    //! [{"letters" or "font", "package", "slides": [1, 2]}, ...]; no package where none has the font.
+    QJsonArray toJson() const;
+
+private:
+    QMap<QString, std::set<int>> m_letters; // by what they are called
+    QMap<QString, std::set<int>> m_families;
+};
+
+//! The letters of a text that no font here has, such as "Chinese characters", and the packages that have them.
+QMap<QString, QString> missingLetters(const QString &text);
+
+} // namespace lessonhost
+
+#endif // MISSINGFONTS_H
