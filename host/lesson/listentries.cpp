@@ -13,7 +13,7 @@ namespace lessonhost {
 namespace {
 
 constexpr int deepest = 8;
-constexpr int mostEntries = 500;
+constexpr int mostEntries = 200; // of one list, which is more than anyone could read
 
 // What stands on an entry, and what belongs to it. The first of each that an object has counts.
 constexpr const char *textMembers[] = {"front",    "name", "title",   "text",  "txt",     "content",

@@ -53,6 +53,7 @@ void addChip(Canvas &canvas, const QRectF &cell, const QString &text, const Chip
 {
     constexpr double marginOfPicture = 0.06;
     constexpr double marginOfText = 0.08;
+    constexpr int longestText = 5000; // with its tags
     constexpr int mostLetters = 300;
     constexpr int fewestLetters = 4;
     addFrame(canvas.svg(), cell, look);
@@ -64,7 +65,7 @@ void addChip(Canvas &canvas, const QRectF &cell, const QString &text, const Chip
     place.look = look.text;
     const QRectF room = within(cell, marginOfText);
     place.look.pixels = qMin(look.text.pixels, room.height());
-    if (canvas.addText(text, room, {}, place)) {
+    if (text.size() <= longestText && canvas.addText(text, room, {}, place)) {
         return;
     }
     // Of a text that could only be read with a glass, the beginning.

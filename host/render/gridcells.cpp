@@ -22,7 +22,8 @@ QVector<QRectF> gridCells(const QRectF &area, int count, const CellForm &form, d
             rows = needed;
         }
     }
-    if (size.isEmpty()) {
+    constexpr double smallest = 4;
+    if (qMin(size.width(), size.height()) < smallest) {
         return cells;
     }
     const double top = area.center().y() - (rows * size.height() + (rows - 1) * gap) / 2;
