@@ -11,7 +11,7 @@
 #include <QtTest>
 
 /*!
- * Draws tools for the classroom on a page of 1000 by 1000 pixels.
+ * Draws tools and games for the classroom on a page of 1000 by 1000 pixels.
  */
 class TestToolDrawings : public QObject
 {
@@ -22,6 +22,7 @@ private:
     static QDomElement svgOf(const std::function<bool(Canvas &)> &draw)
     {
         IwbMedia media;
+        media.add("ClassActivity/x.png", EXAMPLES_DIR "/tools/images/cloth.png");
         PictureStore pictures;
         PlainSvg svg(QSizeF(1000, 1000), media, pictures);
         IwbPageWriter pages({});
@@ -263,6 +264,29 @@ private slots:
         QVERIFY(QRect(40, 40, 920, 520).contains(extent(svg)));
         const QDomElement text = svg.elementsByTagName("text").at(1).toElement();
         QCOMPARE(text.attribute("fill") + ' ' + text.attribute("font-size"), "#0000ff 30.00"_s);
+    }
+
+    // By the path that the package has for it, not by its bare name.
+    void drawsBackgroundsOfGames_data()
+    {
+        const Table<QString, QString, bool> row("index", "picture", "isDrawn");
+        row("in the application's data", "3", "/ClassActivity/x.png", true);
+        row("as editors name it", "3", "editor/ActivityInfo/x.png", true);
+        row("in the lesson", "1", "ClassActivity/x.png", true);
+        row("another of the application", "2", "Match/x.png", false);
+    }
+
+    void drawsBackgroundsOfGames()
+    {
+        QFETCH(QString, index);
+        QFETCH(QString, picture);
+        const QJsonObject slide{
+            {"activity", QJsonObject{{"templet", QJsonObject{{"index", index}, {"background", picture}}}}}};
+        const QDomElement svg = svgOf([&](Canvas &canvas) {
+            drawGameBackground(canvas, slide);
+            return true;
+        });
+        QTEST(!svg.elementsByTagName("image").isEmpty(), "isDrawn");
     }
 
     void drawsNothingOutOfNothing_data()
