@@ -25,6 +25,7 @@ public:
         IwbMedia *media = nullptr;
         bool keepsInk = true; //!< writes strokes as polylines
         bool keepsLinks = true; //!< writes what items open
+        bool isStored = true; //!< files go into a package, in the forms that it takes
     };
 
     explicit IwbItemWriter(const Setting &setting);

@@ -29,6 +29,7 @@ QString backgroundColor(const QJsonObject &properties)
 IwbPageWriter::IwbPageWriter(const IwbItemWriter::Setting &setting)
     : m_plugin(setting.plugin)
     , m_media(setting.media)
+    , m_isStored(setting.isStored)
     , m_items(setting)
 {
 }
@@ -118,14 +119,14 @@ QString IwbPageWriter::background(const QJsonObject &slide, const QString &id, c
             continue;
         }
         file.isConverted = picture.format() != "png";
-        if (file.isConverted) {
+        if (file.isConverted && m_isStored) {
             file.picture = picture.image();
             if (file.picture.isNull()) {
                 losses.file(owner, reference, QStringLiteral("it can't be made a PNG picture"));
                 continue;
             }
         }
-        if (picture.format() == "svg") {
+        if (picture.format() == "svg" && m_isStored) {
             const QStringList leftOut = picture.drawing().leftOut;
             for (const QString &name : leftOut) {
                 losses.file(owner, reference,

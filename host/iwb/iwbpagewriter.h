@@ -54,6 +54,7 @@ private:
 
     IZQTransformation *m_plugin;
     IwbMedia *m_media;
+    bool m_isStored; // what it names
     IwbItemWriter m_items;
     QDomDocument m_document;
     QSizeF m_pageSize;

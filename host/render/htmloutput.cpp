@@ -41,7 +41,9 @@ HtmlOutput::HtmlOutput(const QString &path, const QString &title, const PictureS
 void HtmlOutput::add(const SlidePicture &picture)
 {
     const QDomElement svg = referring(picture.svg.documentElement());
-    addHtml("<figure id=\"slide" + QByteArray::number(picture.slide) + "\">\n" + xmlNodeText(svg).toUtf8()
+    const QByteArray language = picture.language.code().toLatin1();
+    addHtml("<figure id=\"slide" + QByteArray::number(picture.slide) + '"'
+            + (language.isEmpty() ? QByteArray() : " lang=\"" + language + '"') + ">\n" + xmlNodeText(svg).toUtf8()
             + "\n<figcaption>" + caption(picture).toHtmlEscaped().toUtf8() + "</figcaption></figure>\n");
 }
 

@@ -39,7 +39,7 @@ void PagePrinter::paint(QPainter &painter, const SlidePicture &picture, const QR
     const QVector<SlideLayer> layers = layersOf(picture.svg.documentElement(), m_store);
     for (const SlideLayer &layer : layers) {
         painter.save();
-        if (layer.picture.name.isEmpty()) {
+        if (layer.picture.isNone()) {
             QSvgRenderer(layer.svg).render(&painter, area);
         } else {
             painter.setTransform(layer.picture.transform * toArea, true);
@@ -52,14 +52,15 @@ void PagePrinter::paint(QPainter &painter, const SlidePicture &picture, const QR
 void PagePrinter::paintPicture(QPainter &painter, const PlacedPicture &picture)
 {
     painter.setOpacity(picture.opacity);
-    if (m_store.isDrawing(picture.name)) {
+    if (!picture.name.isEmpty() && m_store.isDrawing(picture.name)) {
         QSvgRenderer(m_store.drawing(picture.name)).render(&painter, picture.box);
         return;
     }
     const QTransform toDevice = painter.deviceTransform();
     const QSizeF drawn(std::hypot(toDevice.m11(), toDevice.m12()) * picture.box.width(),
                        std::hypot(toDevice.m21(), toDevice.m22()) * picture.box.height());
-    painter.drawImage(picture.box, shrunk(image(picture.name), drawn));
+    const QImage pixels = picture.name.isEmpty() ? picture.image : image(picture.name);
+    painter.drawImage(picture.box, shrunk(pixels, drawn));
 }
 
 QImage PagePrinter::image(const QString &name)

@@ -1,48 +1,109 @@
 #include "render/pdfoutput.h"
 
 #include "files/lessonerror.h"
+#include "render/pdflibrary.h"
+#include "render/picturestore.h"
+#include "render/slidelayers.h"
 #include "render/slidepictures.h"
 
-#include <QPageSize>
+#include <QFile>
 
 namespace lessonhost {
 
 namespace {
 
-constexpr double pointsPerPixel = 0.75;
+constexpr double pointsPerPixel = 72 / PictureSize::pageDotsPerInch;
+const QLatin1String pagesName("/pages.pdf");
 
 } // namespace
 
 PdfOutput::PdfOutput(const QString &path, const QString &title, const RenderSettings &settings,
                      const PictureStore &store)
     : m_settings(settings)
+    , m_store(store)
+    , m_title(title)
     , m_target(path)
-    , m_printer(store)
-    , m_writer(&m_target.file())
 {
-    m_writer.setTitle(title);
-    m_writer.setCreator(QStringLiteral("lessonconv"));
-    m_writer.setResolution(96);
+    const PdfLibrary &library = PdfLibrary::instance();
+    m_pagesFile = std::make_unique<OutputFile>(m_target.workFolder() + pagesName, m_target.target());
+    work([&] { m_pages.reset(library.makePages(*m_pagesFile)); });
+}
+
+PdfOutput::~PdfOutput() = default;
+
+// What a library is told by the disk is told as such.
+void PdfOutput::work(const std::function<void()> &step)
+{
+    try {
+        step();
+    } catch (const LessonError &) {
+        throw;
+    } catch (const std::exception &error) {
+        m_pagesFile->check();
+        m_target.file().check();
+        throw LessonError(QStringLiteral("The pages can't be drawn: %1").arg(QString::fromLocal8Bit(error.what())))
+            .in(m_target.target());
+    }
 }
 
 void PdfOutput::add(const SlidePicture &picture)
 {
+    m_language.add(picture.language);
+    work([&] { draw(picture); });
+}
+
+void PdfOutput::draw(const SlidePicture &picture)
+{
     const PageFrame frame = m_settings.size.frameOf(picture.size);
-    m_writer.setPageSize(QPageSize(frame.size * pointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
-    m_writer.setPageMargins(QMarginsF());
-    const bool isReady = m_painter.isActive() ? m_writer.newPage() : m_painter.begin(&m_writer);
-    m_target.file().check();
-    if (!isReady) {
-        throw LessonError(QStringLiteral("The pages can't be written"),
-                          QStringLiteral("Check that there is room and that you may write there"))
-            .in(m_target.target());
+    const QTransform toPoints = QTransform::fromScale(pointsPerPixel, pointsPerPixel);
+    m_pages->beginPage(frame.size * pointsPerPixel, picture.outlineLine());
+    const QTransform toPage =
+        QTransform::fromScale(frame.page.width() / picture.size.width(), frame.page.height() / picture.size.height())
+        * QTransform::fromTranslate(frame.page.x(), frame.page.y()) * toPoints;
+    const QRectF whole(QPointF(), picture.size);
+    const QVector<SlideLayer> layers = layersOf(picture.svg.documentElement(), m_store);
+    for (const SlideLayer &layer : layers) {
+        if (!layer.picture.isNone()) {
+            draw(layer.picture, toPage);
+        } else {
+            m_pages->drawSvg(layer.svg, whole, toPage, 1);
+        }
     }
-    m_printer.paint(m_painter, picture, frame.page);
+    m_pages->endPage();
+}
+
+void PdfOutput::draw(const PlacedPicture &picture, const QTransform &toPage)
+{
+    const QTransform transform = picture.transform * toPage;
+    if (picture.name.isEmpty()) {
+        m_pages->drawPicture({{}, picture.image.size(), {}, picture.image}, picture.box, transform, picture.opacity);
+        return;
+    }
+    if (m_store.isDrawing(picture.name)) {
+        m_pages->drawSvg(m_store.drawing(picture.name), picture.box, transform, picture.opacity);
+        return;
+    }
+    PdfPicture shown{picture.name.toLatin1(), m_store.size(picture.name), {}, {}};
+    if (!m_written.contains(picture.name)) {
+        const ShownPicture content = m_store.shown(picture.name);
+        if (content.type == "jpeg") {
+            shown.jpeg = content.bytes;
+        } else {
+            shown.image = m_store.image(picture.name);
+        }
+        m_written.insert(picture.name);
+    }
+    m_pages->drawPicture(shown, picture.box, transform, picture.opacity);
 }
 
 QStringList PdfOutput::finish()
 {
-    m_painter.end();
+    work([&] {
+        m_pages->finish();
+        m_pagesFile->finish();
+        PdfLibrary::instance().complete(QFile::encodeName(m_target.workFolder() + pagesName), m_target.file(),
+                                        {m_title, m_language.code()});
+    });
     m_target.commit();
     return {m_target.target()};
 }

@@ -2,31 +2,42 @@
 #define PDFOUTPUT_H
 
 #include "files/packagetarget.h"
-#include "render/pageprinter.h"
+#include "render/pdfpages.h"
 #include "render/pictureoutput.h"
+#include "render/textlanguage.h"
 
-#include <QPainter>
-#include <QPdfWriter>
+#include <QSet>
 
 namespace lessonhost {
 
+struct PlacedPicture;
+
 /*!
- * A document with a page a slide.
+ * A document with a page a slide: texts that are texts, a picture once for all pages, photographs as they came, and an
+ * outline with a line a slide.
  */
 class PdfOutput : public PictureOutput
 {
 public:
     //! store has to live as long.
     PdfOutput(const QString &path, const QString &title, const RenderSettings &settings, const PictureStore &store);
+    ~PdfOutput() override;
     void add(const SlidePicture &picture) override;
     QStringList finish() override;
 
 private:
+    void work(const std::function<void()> &step);
+    void draw(const SlidePicture &picture);
+    void draw(const PlacedPicture &picture, const QTransform &toPage);
+
     RenderSettings m_settings;
+    const PictureStore &m_store;
+    QString m_title;
     PackageTarget m_target;
-    PagePrinter m_printer;
-    QPdfWriter m_writer;
-    QPainter m_painter;
+    std::unique_ptr<OutputFile> m_pagesFile; // becomes the document at the end
+    std::unique_ptr<PdfPages> m_pages;
+    QSet<QString> m_written; // pictures
+    TextLanguage m_language;
 };
 
 } // namespace lessonhost

@@ -1,10 +1,7 @@
 #include "render/slidelayers.h"
 
-#include "files/xmltext.h"
 #include "render/picturestore.h"
 #include "svg/svgvalues.h"
-
-#include <algorithm>
 
 namespace lessonhost {
 
@@ -25,6 +22,21 @@ QTransform transformOf(const QDomElement &element)
 double opacityOf(const QDomElement &element)
 {
     return qBound(0.0, numberOf(element, "opacity", 1), 1.0);
+}
+
+// What was painted for a page stands in it, always in this form.
+QImage pixelsIn(const QString &address)
+{
+    const QLatin1String form("data:image/png;base64,");
+    return address.startsWith(form)
+        ? QImage::fromData(QByteArray::fromBase64(address.midRef(form.size()).toLatin1()), "png")
+        : QImage();
+}
+
+// Groups with a name are drawings with gradients and style sheets of their own, which stay together.
+bool isOpenGroup(const QDomElement &element)
+{
+    return element.tagName() == QLatin1String("g") && !element.hasAttribute(QStringLiteral("id"));
 }
 
 /*!
@@ -49,12 +61,12 @@ private:
         const QDomElement parent = m_around.constLast();
         for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
             PlacedPicture picture = placedPicture(e, m_store);
-            if (!picture.name.isEmpty()) {
+            if (!picture.isNone()) {
                 endPart();
                 picture.transform *= transform;
                 picture.opacity *= opacity;
                 m_layers.append(SlideLayer{{}, picture});
-            } else if (holdsPictures(e)) {
+            } else if (isOpenGroup(e) && !imagesIn(e).isEmpty()) {
                 enter(e);
                 walk(transformOf(e) * transform, opacityOf(e) * opacity);
                 leave();
@@ -62,13 +74,6 @@ private:
                 innermost().appendChild(e.cloneNode());
             }
         }
-    }
-
-    bool holdsPictures(const QDomElement &element) const
-    {
-        const QVector<QDomElement> images = imagesIn(element);
-        return std::any_of(images.cbegin(), images.cend(),
-                           [this](const QDomElement &image) { return !m_store.pictureOf(image).isEmpty(); });
     }
 
     void enter(const QDomElement &group)
@@ -103,7 +108,7 @@ private:
     void endPart()
     {
         if (!m_part.isEmpty()) {
-            m_layers.append(SlideLayer{xmlNodeText(m_part.first()).toUtf8(), {}});
+            m_layers.append(SlideLayer{m_store.text(m_part.first()), {}});
             m_part.clear();
         }
     }
@@ -120,7 +125,10 @@ PlacedPicture placedPicture(const QDomElement &element, const PictureStore &stor
 {
     PlacedPicture placed;
     placed.name = store.pictureOf(element);
-    if (!placed.name.isEmpty()) {
+    if (placed.name.isEmpty() && element.tagName() == QLatin1String("image")) {
+        placed.image = pixelsIn(element.attribute(QStringLiteral("xlink:href")));
+    }
+    if (!placed.isNone()) {
         placed.box = QRectF(numberOf(element, "x", 0), numberOf(element, "y", 0), numberOf(element, "width", 0),
                             numberOf(element, "height", 0));
         placed.transform = transformOf(element);

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QDomElement>
+#include <QImage>
 #include <QRectF>
 #include <QString>
 #include <QTransform>
@@ -17,10 +18,13 @@ class PictureStore;
  */
 struct PlacedPicture
 {
-    QString name; //!< in the store; empty for none
+    QString name; //!< in the store
+    QImage image; //!< of one that stands on this page only
     QRectF box;
     QTransform transform;
     double opacity = 1;
+
+    bool isNone() const { return name.isEmpty() && image.isNull(); }
 };
 
 //! The picture that an element of a drawing shows.
@@ -36,7 +40,7 @@ struct SlideLayer
 };
 
 //! A drawing of a page taken apart from back to front, for libraries that are better handed pictures than texts that
-//! hold them. Pictures within groups stay in the drawings.
+//! hold them. Drawings within it stay whole. Pictures within groups stay in the drawings.
 QVector<SlideLayer> layersOf(const QDomElement &svg, const PictureStore &store);
 
 } // namespace lessonhost

@@ -1,5 +1,7 @@
 #include "render/slidepictures.h"
 
+#include "lesson/closedtext.h"
+#include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "render/activitydrawing.h"
 #include "render/drawings.h"
@@ -52,10 +54,54 @@ IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
     setting.plugin = plugin;
     setting.media = media;
     setting.keepsLinks = false; // a picture opens nothing
+    setting.isStored = false;
     return setting;
 }
 
+// What the text says that begins highest on the page, shortened to a line.
+QString titleOf(const QVector<ShownItem> &items)
+{
+    constexpr int longest = 60;
+    QString title;
+    double top = 0;
+    for (const ShownItem &shown : items) {
+        const ItemView view(shown.item);
+        const auto place = isTextBoard(view.type()) ? view.place() : std::nullopt;
+        if (!place) {
+            continue;
+        }
+        const QString html = view.text(ItemKeys::html);
+        const QString words = html.isEmpty() ? view.text(ItemKeys::text).simplified() : plainWords(html);
+        const double own = shown.placed.mapRect(place->extent()).top();
+        if (!words.isEmpty() && (title.isEmpty() || own < top)) {
+            title = words;
+            top = own;
+        }
+    }
+    if (title.size() > longest) {
+        const int end = title.lastIndexOf(QLatin1Char(' '), longest);
+        title = title.left(end > longest / 2 ? end : longest) + QChar(0x2026);
+    }
+    return title;
+}
+
+TextLanguage languageOf(const QDomElement &svg)
+{
+    TextLanguage language;
+    const QDomNodeList texts = svg.elementsByTagName(QStringLiteral("text"));
+    for (int i = 0; i < texts.size(); ++i) {
+        language.add(texts.at(i).toElement().text());
+    }
+    return language;
+}
+
 } // namespace
+
+QString SlidePicture::outlineLine() const
+{
+    const QString line = QStringLiteral("Slide %1").arg(slide);
+    return title.isEmpty() ? line : QString(line + QLatin1String(": ") + title);
+}
 
 SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context, PictureStore &store,
                              const std::optional<QColor> &ground)
@@ -118,8 +164,8 @@ SlidePicture SlidePictures::picture(int index)
     }
     result.svg = plain.finished();
     lookAtTexts(result.svg.documentElement(), result.slide, m_missing);
-    // Pictures are drawn from their files; what IWB would store of them isn't needed.
-    m_media.storeNew([](const QString &, const IwbMedia::File &) {});
+    result.title = titleOf(items);
+    result.language = languageOf(result.svg.documentElement());
     return result;
 }
 

@@ -5,6 +5,7 @@
 #include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
 #include "lesson/missingfonts.h"
+#include "render/textlanguage.h"
 
 #include <QColor>
 #include <QDomDocument>
@@ -32,7 +33,12 @@ struct SlidePicture
     int slide = 0; //!< counted from 1
     QSizeF size; //!< pixels
     QDomDocument svg;
+    QString title; //!< what its uppermost text says; may be empty
+    TextLanguage language;
     QVector<Told> named; //!< shown by their names alone
+
+    //! "Slide 3: What plants live on"
+    QString outlineLine() const;
 };
 
 /*!

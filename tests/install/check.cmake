@@ -10,4 +10,5 @@ check_example_hosts(${WORK}/root)
 # Moved away from the folder that it was built in, the command finds the plug-in that was installed with it.
 step(${CMAKE_COMMAND} -E rename ${WORK}/root ${WORK}/moved)
 step(${WORK}/moved/bin/lessonconv info ${SOURCE}/examples/handwriting --json)
+step(${WORK}/moved/bin/lessonconv render ${SOURCE}/examples/handwriting ${WORK}/handwriting.pdf)
 step(bash -n ${WORK}/moved/share/bash-completion/completions/lessonconv)
