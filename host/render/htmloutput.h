@@ -4,6 +4,7 @@
 #include "files/packagetarget.h"
 #include "render/pictureoutput.h"
 
+#include <QDomElement>
 #include <QSet>
 
 namespace lessonhost {
