@@ -129,6 +129,8 @@ private slots:
         row("table", formula + "<math><mtable><mtr><mtd><mn>7</mn></mtd><mtd><mn>8</mn></mtd></mtr></mtable></math>'}",
             ">7</text>|>8</text>|x=\"155.00\"");
         row("formula that is broken, with its picture", formula + "<math>','document':'a.svg'}", "<image|!<path");
+        row("expression", "{'Type':'ZQFormulaMath','BoundingBox':'0,0,200,90','TextHtml':'<p>1 &lt; x</p>'}",
+            ">1 &lt; x<|!>Formula<");
         row("formula that is broken", formula + "<math>'}", ">Formula<");
         row("covered item, turned",
             "{'Type':'ZQMath2DRectangle','BoundingBox':'0,0,40,20','Angle':'1.5707963267949','CoverLayer':'1'}",
@@ -151,7 +153,7 @@ private slots:
         row("sound that is named",
             "{'Type':'ZQMediaAudio','BoundingBox':'0,0,300,60','resource':'a.wav','name':'Bell'}",
             ">Bell<|>Sound, WAV<");
-        row("document in a small box", "{'Type':'ZQMediaDoc','BoundingBox':'0,0,30,30','document':'a.doc'}",
+        row("document in a small box", "{'Type':'ZQMediaDoc','BoundingBox':'0,0,8,8','document':'a.doc'}",
             "<path|!<text");
         row("worksheet", "{'Type':'ZQDyCoursewareItem','BoundingBox':'0,0,200,150','document':['','w/a.ggb']}",
             ">a.ggb<|>Moving worksheet, GGB<");

@@ -152,11 +152,27 @@ bool drawFormula(Canvas &canvas, const ItemView &item)
     return true;
 }
 
+// A formula that is a text.
+bool drawExpression(Canvas &canvas, const ItemView &item)
+{
+    const auto box = item.box();
+    const bool isDrawn = box && !box->isEmpty() && item.has(ItemKeys::html);
+    if (isDrawn) {
+        canvas.addText(item.text(ItemKeys::html), *box, placeOnPage(item));
+    }
+    return isDrawn;
+}
+
 } // namespace
 
 SvgDrawing formulaDrawing(const QString &type)
 {
-    return type == QLatin1String("ZQFormulaEditorItem") ? &drawFormula : nullptr;
+    static const QHash<QString, SvgDrawing> drawings{
+        {QStringLiteral("ZQFormulaEditorItem"), &drawFormula},
+        {QStringLiteral("ZQFormulaMath"), &drawExpression},
+        {QStringLiteral("ZQMathToolExpressions"), &drawExpression},
+    };
+    return drawings.value(type);
 }
 
 } // namespace lessonhost

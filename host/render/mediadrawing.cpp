@@ -4,6 +4,7 @@
 #include "lesson/planegeometry.h"
 #include "render/itemoutline.h"
 #include "render/outline.h"
+#include "render/svgelements.h"
 #include "svg/svgstyle.h"
 
 #include <QFileInfo>
@@ -48,7 +49,7 @@ const Sign *signOf(const QString &type)
 
 const QColor ink(0x3d, 0x4f, 0x66);
 const QColor paper(0xf3, 0xf5, 0xf8);
-constexpr double smallestLetters = 11;
+constexpr double lineHeight = 1.3;
 constexpr double largestLetters = 30;
 
 // What an item's file is called in the lesson. A worksheet stands behind its picture.
@@ -88,29 +89,35 @@ QStringList linesOf(const ItemView &item)
     return name.isEmpty() ? QStringList{kind} : QStringList{name, kind};
 }
 
-// Lines of the same size in an area, shortened where they would be small. Nothing where they couldn't be read.
+// As many of the lines as can be read in an area of this height.
+QStringList linesThatFit(const PlainSvg &svg, const QStringList &lines, double height)
+{
+    return lines.mid(0, int(height / (svg.readableSize() * lineHeight)));
+}
+
+// Lines of the same size in an area, shortened where they would be small.
 void addLines(PlainSvg &svg, const QStringList &lines, const QRectF &area)
 {
-    const double height = area.height() / lines.size();
-    const double width = area.width() * 0.92;
-    double size = qMin(largestLetters, height / 1.3);
-    QFont font(QStringLiteral("sans-serif"));
-    font.setPixelSize(100);
-    double needed = 0; // for letters one pixel high
-    for (const QString &line : lines) {
-        needed = qMax(needed, QFontMetricsF(font).horizontalAdvance(line) / 100);
-    }
-    size = qMin(size, qMax(width / qMax(needed, 1.0), qMax(smallestLetters, size * 0.6)));
-    constexpr double fewestLetters = 4;
-    if (size < smallestLetters || width < fewestLetters * size) {
+    if (lines.isEmpty()) {
         return;
     }
-    font.setPixelSize(qRound(size));
+    const double height = area.height() / lines.size();
+    const double width = area.width() * 0.92;
+    const double highest = qMin(largestLetters, height / lineHeight);
+    constexpr int pixels = 100;
+    QFont font;
+    font.setFamilies(labelFamilies());
+    font.setPixelSize(pixels);
     const QFontMetricsF metrics(font);
+    double needed = 1; // for letters one pixel high
+    for (const QString &line : lines) {
+        needed = qMax(needed, metrics.horizontalAdvance(line) / pixels);
+    }
+    const double size = qMin(highest, qMax(width / needed, qMax(svg.readableSize(), highest / 2)));
     for (int i = 0; i < lines.size(); ++i) {
-        svg.addLabel(metrics.elidedText(lines.at(i), Qt::ElideMiddle, width),
+        svg.addLabel(metrics.elidedText(lines.at(i), Qt::ElideMiddle, width / size * pixels + 1),
                      QRectF(area.left(), area.top() + i * height, area.width(), height), size,
-                     i + 1 < lines.size() ? QColor(Qt::black) : ink);
+                     i == 0 ? QColor(Qt::black) : ink);
     }
 }
 
@@ -156,12 +163,13 @@ bool drawCard(Canvas &canvas, const ItemView &item)
     if (box.width() > 2.2 * box.height()) {
         signArea.setWidth(box.height());
         textArea = box.adjusted(box.height(), 0, 0, 0);
+        lines = linesThatFit(svg, lines, textArea.height());
     } else {
-        const double height = qMin(box.height() * 0.42, lines.size() * largestLetters * 1.4);
+        constexpr double textShare = 0.42;
+        lines = linesThatFit(svg, lines, box.height() * textShare);
+        const double height = qMin(box.height() * textShare, lines.size() * largestLetters * lineHeight);
         textArea = box.adjusted(0, box.height() - height, 0, 0);
-        if (textArea.height() >= lines.size() * smallestLetters * 1.3) {
-            signArea.setBottom(textArea.top());
-        }
+        signArea.setBottom(textArea.top());
     }
     if (hasPicture) {
         SvgPaint veil;
@@ -173,8 +181,7 @@ bool drawCard(Canvas &canvas, const ItemView &item)
         svg.addPath(path, veil);
     }
     addSign(svg, sign, squareIn(signArea, hasPicture ? 0.4 : 0.66));
-    const QRectF text = textArea.adjusted(0, textArea.height() * 0.06, 0, -textArea.height() * 0.1);
-    addLines(svg, lines, text);
+    addLines(svg, lines, textArea.adjusted(0, 0, 0, -textArea.height() * 0.06));
     return true;
 }
 
