@@ -14,13 +14,6 @@ namespace lessonhost {
 
 namespace {
 
-QFont formulaFont()
-{
-    QFont font(familyHere(formulaFamilies()));
-    font.setPixelSize(int(formulaLetters));
-    return font;
-}
-
 // Lengths are parts of the size of the letters.
 constexpr double axisHeight = 0.26; // where fractions and fences have their middle
 constexpr double ruleWidth = 0.055;
@@ -219,6 +212,46 @@ double lengthOf(const QString &text, double size)
                                                                      : 0;
 }
 
+/*!
+ * What is known of letters of the size of the formula.
+ */
+struct Measure
+{
+    double advance = 0;
+    double xHeight = 0;
+    QRectF ink;
+};
+
+class Letters
+{
+public:
+    Letters()
+        : m_font(familyHere(formulaFamilies()))
+    {
+        m_font.setPixelSize(int(formulaLetters));
+    }
+
+    Measure measure(const QString &text, bool isItalic = false, bool isBold = false)
+    {
+        auto &known = m_known[2 * int(isItalic) + int(isBold)];
+        const auto found = known.constFind(text);
+        if (found != known.constEnd()) {
+            return *found;
+        }
+        QFont font = m_font;
+        font.setItalic(isItalic);
+        font.setBold(isBold);
+        const QFontMetricsF metrics(font);
+        const Measure measure{metrics.horizontalAdvance(text), metrics.xHeight(), metrics.tightBoundingRect(text)};
+        known.insert(text, measure);
+        return measure;
+    }
+
+private:
+    QFont m_font;
+    QHash<QString, Measure> m_known[4];
+};
+
 class Layout
 {
 public:
@@ -274,22 +307,17 @@ private:
         return box(element.firstChildElement(), style);
     }
 
-    static FormulaBox word(const QString &text, const Style &style, bool isItalic, bool isBold)
+    FormulaBox word(const QString &text, const Style &style, bool isItalic, bool isBold)
     {
         FormulaBox box;
         if (text.isEmpty()) {
             return box;
         }
-        QFont font = formulaFont();
-        font.setItalic(isItalic);
-        font.setBold(isBold);
-        const QFontMetricsF metrics(font);
+        const Measure letters = m_letters.measure(text, isItalic, isBold);
         const double scale = style.size / formulaLetters;
-        const QRectF ink = metrics.tightBoundingRect(text);
-        const double advance = metrics.horizontalAdvance(text);
-        box.width = advance * scale;
-        box.ascent = qMax(-ink.top(), metrics.xHeight()) * scale;
-        box.descent = qMax(ink.bottom(), 0.0) * scale;
+        box.width = letters.advance * scale;
+        box.ascent = qMax(-letters.ink.top(), letters.xHeight) * scale;
+        box.descent = qMax(letters.ink.bottom(), 0.0) * scale;
         FormulaPart part;
         part.text = text;
         part.middle = QPointF(box.width / 2, 0);
@@ -300,7 +328,7 @@ private:
         box.parts.append(part);
         if (isItalic) {
             // Slanted letters lean over their end.
-            box.width += qBound(0.0, ink.right() - advance, 0.2 * formulaLetters) * scale;
+            box.width += qBound(0.0, letters.ink.right() - letters.advance, 0.2 * formulaLetters) * scale;
         }
         return box;
     }
@@ -335,7 +363,7 @@ private:
     }
 
     // In the middle of the axis.
-    static FormulaBox largeSign(const QString &text, const Style &style)
+    FormulaBox largeSign(const QString &text, const Style &style)
     {
         Style large = style;
         large.size *= style.isDisplayed ? largeOperator : 1;
@@ -413,7 +441,7 @@ private:
     }
 
     // Each fence is as high as what stands between it and its counterpart, or the end of the row.
-    static void stretchFences(const QVector<QDomElement> &children, QVector<FormulaBox> &boxes, const Style &style)
+    void stretchFences(const QVector<QDomElement> &children, QVector<FormulaBox> &boxes, const Style &style)
     {
         const auto stretch = [&](int fenceAt, int begin, int end) {
             FormulaBox content;
@@ -461,7 +489,7 @@ private:
         return !text.isEmpty() && ends.contains(text);
     }
 
-    static FormulaBox fence(const QString &text, const FormulaBox &content, const Style &style)
+    FormulaBox fence(const QString &text, const FormulaBox &content, const Style &style)
     {
         const FormulaBox glyph = word(text, style, false, false);
         const double half = qMax(content.ascent - style.axis(), content.descent + style.axis());
@@ -675,7 +703,7 @@ private:
     }
 
     // A sign without the empty room between it and the line that it stands on.
-    static FormulaBox onLine(const FormulaBox &sign)
+    FormulaBox onLine(const FormulaBox &sign)
     {
         if (sign.parts.isEmpty()) {
             return {};
@@ -683,8 +711,7 @@ private:
         const FormulaPart &part = sign.parts.constFirst();
         double lift = -part.lines.boundingRect().bottom();
         if (!part.text.isEmpty()) {
-            QFont font = formulaFont();
-            lift = -QFontMetricsF(font).tightBoundingRect(part.text).bottom() / formulaLetters * part.size;
+            lift = -m_letters.measure(part.text).ink.bottom() / formulaLetters * part.size;
         }
         FormulaBox low;
         low.add(sign, QPointF(0, lift));
@@ -874,6 +901,7 @@ private:
         }
     }
 
+    Letters m_letters;
     int m_elements = 0;
 };
 

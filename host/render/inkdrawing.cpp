@@ -176,10 +176,9 @@ bool addPainted(Canvas &canvas, const ItemView &item, const QRectF &box, const s
     PlainSvg &svg = canvas.svg();
     const QTransform toPage = svg.transform();
     const QRectF shown = box & toPage.inverted().mapRect(QRectF(QPointF(), svg.size()));
-    constexpr double pixelsOfLength = 2;
     constexpr double mostPixels = 4e6;
     const double most = qMin(mostPixels, double(svg.mostPixels()));
-    const double scale = qMin(pixelsOfLength * meanScale(toPage), std::sqrt(most / (shown.width() * shown.height())));
+    const double scale = qMin(meanScale(toPage), std::sqrt(most / (shown.width() * shown.height())));
     const QSize size = (shown.size() * scale).toSize();
     if (shown.isEmpty() || size.isEmpty() || size.width() > mostPixels || size.height() > mostPixels) {
         return shown.isEmpty();
