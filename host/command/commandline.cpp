@@ -38,6 +38,10 @@ const std::vector<CommandOption> &commandOptions()
          "Replace nothing: what is there already makes the run fail, or is left out of many."},
         {"ink", "choice", Option::OnAFormat, "convert",
          "What becomes of handwriting in IWB: polyline (the default) or drop.", "polyline", "polyline drop"},
+        {"plain", nullptr, Option::OnAFormat, "convert",
+         "Leave out of IWB what other boards pass over: the lesson itself, from which all of it comes back."},
+        {"items", "choice", Option::OnAFormat, "convert",
+         "What becomes of items that IWB has no form for: picture (the default) or drop.", "picture", "picture drop"},
         {"slides", "slides", Option::OnResults, "render", "With render: only these slides, such as 2-5 or 1,4."},
         {"width", "pixels", Option::OnResults, "render: render:out-dir",
          "With render: how wide pictures and pages are; their height follows."},
@@ -149,7 +153,7 @@ QHash<QString, QString> CommandLine::formatOptions() const
     checkChoices();
     QHash<QString, QString> values;
     for (const CommandOption &option : commandOptions()) {
-        if (option.effect == CommandOption::OnAFormat) {
+        if (option.effect == CommandOption::OnAFormat && (option.value || isSet(option.name))) {
             values.insert(QLatin1String(option.name), value(option.name));
         }
     }

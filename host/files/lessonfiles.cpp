@@ -79,4 +79,11 @@ QStringList LessonFiles::unused() const
     return paths;
 }
 
+QStringList LessonFiles::paths() const
+{
+    QStringList paths = m_sources.keys();
+    paths.sort();
+    return paths;
+}
+
 } // namespace lessonhost

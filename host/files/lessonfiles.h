@@ -27,6 +27,9 @@ public:
     //! like it. The same file gets the same name again.
     QString nameIn(const QString &folder, const QString &sourceFile, const QString &wantedName = {});
 
+    //! Of all files, ascending.
+    QStringList paths() const;
+
     //! Paths of the files that nobody asked for.
     QStringList unused() const;
 

@@ -8,6 +8,9 @@ QString IwbMedia::place(const QString &folder, const File &file, const QString &
     if (!m_placed.contains(reference)) {
         m_placed.insert(reference, file);
         m_new.append(reference);
+        if (!file.isConverted) {
+            m_unchanged.insert(file.source, reference);
+        }
     }
     return reference;
 }
@@ -21,6 +24,11 @@ void IwbMedia::storeNew(const std::function<void(const QString &, const File &)>
         store(reference, file);
         file.picture = {};
     }
+}
+
+QString IwbMedia::unchanged(const QString &relativePath) const
+{
+    return m_unchanged.value(m_files.source(relativePath));
 }
 
 } // namespace lessonhost

@@ -41,12 +41,18 @@ public:
     //! Calls store for each reference that came up since the last call, and lets go of its picture.
     void storeNew(const std::function<void(const QString &reference, const File &file)> &store);
 
+    //! Of all files, ascending.
+    QStringList paths() const { return m_files.paths(); }
+    //! The reference under which a file of the lesson goes into the package as it is, or nothing.
+    QString unchanged(const QString &relativePath) const;
+
     //! Paths of the files that nobody asked for.
     QStringList unused() const { return m_files.unused(); }
 
 private:
     LessonFiles m_files;
     QHash<QString, File> m_placed; // by reference
+    QHash<QString, QString> m_unchanged; // references of files that go as they are, by their sources
     QStringList m_new;
 };
 

@@ -155,8 +155,12 @@ QVector<IwbPageWriter::WrittenItem> IwbPageWriter::addItems(QDomElement &page, c
                                                             const SlideLosses &losses)
 {
     QVector<WrittenItem> written;
-    for (const QJsonValue &item : items) {
-        addItem(page, item.toObject(), item.toObject(), losses, written);
+    for (int i = 0; i < items.size(); ++i) {
+        const int first = written.size();
+        addItem(page, items.at(i).toObject(), items.at(i).toObject(), losses, written);
+        for (int k = first; k < written.size(); ++k) {
+            written[k].top = i;
+        }
     }
     return written;
 }
@@ -173,7 +177,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         }
         return;
     }
-    WrittenItem row{given, item, idOf(given)};
+    WrittenItem row{given, item, idOf(given), 0};
     const QDomElement element = m_items.write(m_document, item, row.id, losses);
     if (element.isNull()) {
         m_ids.giveBack(row.id);

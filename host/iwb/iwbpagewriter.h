@@ -24,6 +24,7 @@ public:
         QJsonObject given;
         QJsonObject item; //!< the same, hidden, locked and linked by the groups that were around it
         QString id; //!< of its element; empty for an item that has no form
+        int top = 0; //!< which of the slide's own items it is, or stands in
     };
 
     explicit IwbPageWriter(const IwbItemWriter::Setting &setting);

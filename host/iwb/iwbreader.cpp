@@ -1,10 +1,15 @@
 #include "iwb/iwbreader.h"
 
 #include "files/lessonerror.h"
+#include "iwb/elementmark.h"
+#include "iwb/pagerestorer.h"
 #include "iwb/slidenames.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
+#include "lesson/itemvalues.h"
 #include "lesson/slidelimits.h"
+
+#include <algorithm>
 
 namespace lessonhost {
 
@@ -14,6 +19,16 @@ namespace {
 constexpr std::pair<const char *, const char *> metaKeys[] = {
     {"owner", "Author"}, {"title", "Title"}, {"date", "Date"}, {"modified", "Date_modified"}};
 
+// A raw lesson tells its size in its slides.
+bool hasSize(const QJsonObject &presentation, const QJsonObject &size)
+{
+    const QLatin1String keys[] = {PresentationKeys::width, PresentationKeys::height};
+    return std::all_of(std::begin(keys), std::end(keys), [&](QLatin1String key) {
+        const double own = itemNumber(presentation.value(key));
+        return !(own > 0) || qAbs(own - itemNumber(size.value(key))) < 0.01;
+    });
+}
+
 } // namespace
 
 IwbReader::IwbReader(const QString &path, const LessonContext &context)
@@ -22,11 +37,16 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     , m_package(path)
     , m_content(m_package.root())
     , m_slides(context.plugin, this)
+    , m_native(m_package)
 {
     if (!m_content.hasSvg()) {
         throw LessonError(QStringLiteral("The document has no svg element with pages"),
                           QStringLiteral("Check that this is an IWB lesson"))
             .in(m_package.displayName());
+    }
+    nameResources();
+    if (m_native.isThere()) {
+        m_records = recordTexts(m_package.root());
     }
     SlideNames names;
     for (int i = 0; i < m_content.pageCount(); ++i) {
@@ -51,10 +71,40 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     }
 }
 
+// Files of the lesson keep their paths, those that another program has added get the ones of the package.
+void IwbReader::nameResources()
+{
+    for (auto it = m_native.files().constBegin(); it != m_native.files().constEnd(); ++it) {
+        m_resources.insert(it.key(), it.value());
+        m_lessonPaths.insert(it.value(), it.key());
+    }
+    const QStringList inPackage = m_package.resources();
+    for (const QString &path : inPackage) {
+        if (m_lessonPaths.contains(path) || (m_native.isThere() && NativePart::isPart(path))) {
+            continue;
+        }
+        QString name = path;
+        while (m_resources.contains(name)) {
+            name.insert(name.lastIndexOf(QLatin1Char('/')) + 1, QLatin1Char('_'));
+        }
+        m_resources.insert(name, path);
+        m_lessonPaths.insert(path, name);
+    }
+}
+
 QJsonObject IwbReader::presentation()
 {
     QDomDocument document;
-    QJsonObject presentation = m_plugin->tranPresIWB2JSON(m_content.sizeElement(document), {});
+    const QJsonObject shown = m_plugin->tranPresIWB2JSON(m_content.sizeElement(document), {});
+    QJsonObject presentation = shown;
+    if (m_native.isThere()) {
+        presentation = m_native.presentation();
+        if (!hasSize(presentation, shown)) {
+            presentation.insert(PresentationKeys::width, shown.value(PresentationKeys::width));
+            presentation.insert(PresentationKeys::height, shown.value(PresentationKeys::height));
+        }
+        return presentation;
+    }
     for (const auto &[name, key] : metaKeys) {
         const QString text = m_content.meta().value(QLatin1String(name));
         if (!text.isEmpty()) {
@@ -66,9 +116,16 @@ QJsonObject IwbReader::presentation()
 
 LessonSlide IwbReader::slide(int index)
 {
-    LessonSlide slide = m_slides.read(m_content.page(index), index + 1, m_losses.slide(index + 1)).slide;
+    const SlideLosses losses = m_losses.slide(index + 1);
+    const auto native = m_native.page(m_content.pageId(index));
+    LessonSlide slide;
+    if (native) {
+        slide = PageRestorer(m_content, m_slides, m_records).restore(index, *native, losses);
+    } else {
+        slide = m_slides.read(m_content.page(index), index + 1, losses).slide;
+        slide.properties.insert(SlideKeys::id, m_slideIds.at(index));
+    }
     checkSlideItems(slide.items, index + 1, m_package.displayName());
-    slide.properties.insert(SlideKeys::id, m_slideIds.at(index));
     return slide;
 }
 

@@ -3,6 +3,7 @@
 
 #include "iwb/iwbpackage.h"
 #include "iwb/iwbslidereader.h"
+#include "iwb/nativepart.h"
 #include "svg/svgnormalizer.h"
 
 namespace lessonhost {
@@ -18,15 +19,20 @@ public:
     QJsonObject presentation() override;
     int slideCount() override { return m_content.pageCount(); }
     LessonSlide slide(int index) override;
-    QStringList resources() override { return m_package.resources(); }
-    QString resourceFile(const QString &relativePath) override { return m_package.file(relativePath); }
+    QStringList resources() override { return m_resources.keys(); }
+    QString resourceFile(const QString &relativePath) override
+    {
+        return m_package.file(m_resources.value(relativePath, relativePath));
+    }
 
 private:
+    void nameResources();
     QString resolve(const QString &reference, QString *problem) override
     {
-        return m_package.resolve(reference, problem);
+        const QString path = m_package.resolve(reference, problem);
+        return m_lessonPaths.value(path, path);
     }
-    QString file(const QString &path) override { return m_package.file(path); }
+    QString file(const QString &path) override { return resourceFile(path); }
     int pageNumber(const QString &id) override { return m_pageNumbers.value(id); }
 
     IZQTransformation *m_plugin;
@@ -34,6 +40,10 @@ private:
     IwbPackage m_package;
     SvgNormalizer m_content;
     IwbSlideReader m_slides;
+    NativePart m_native;
+    QHash<QString, QString> m_records; // what they say of each element
+    QMap<QString, QString> m_resources; // paths in the package by those in the lesson
+    QHash<QString, QString> m_lessonPaths; // the other way round
     QHash<QString, int> m_pageNumbers;
     QStringList m_slideIds;
 };

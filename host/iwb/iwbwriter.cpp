@@ -52,6 +52,9 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     if (context.verify && m_losses.presentation().isHeard()) {
         m_check = std::make_unique<IwbPageCheck>(context.plugin, m_media);
     }
+    if (!context.options.contains(QStringLiteral("plain"))) {
+        m_native = std::make_unique<NativePartWriter>(m_target);
+    }
 }
 
 void IwbWriter::begin(const QJsonObject &presentation)
@@ -71,7 +74,8 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
         startPages();
     }
     ++m_slides;
-    const SlideLosses losses = m_losses.slide(m_slides);
+    const SlideLosses told = m_losses.slide(m_slides);
+    const SlideLosses losses = m_native ? told.elsewhere() : told;
     QDomElement page = m_pages.addPage(slide.properties, m_slides, losses);
     if (page.isNull()) {
         failWithoutPages();
@@ -82,6 +86,10 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
     }
     lookAtTexts(page);
     storeMedia();
+    if (m_native && !m_native->writePage(m_slides, slide, items, page)) {
+        told.note({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()},
+                  QStringLiteral("it is too deep to travel along, so that what other boards don't show is lost"));
+    }
     writePage(page);
 }
 
@@ -97,7 +105,8 @@ void IwbWriter::start(const QJsonObject &firstSlide)
 {
     m_pages.start(m_presentation, firstSlide);
     if (m_check) {
-        m_check->comparePresentation(m_pages.document(), m_presentation, m_losses.presentation());
+        const SlideLosses losses = m_losses.presentation();
+        m_check->comparePresentation(m_pages.document(), m_presentation, m_native ? losses.elsewhere() : losses);
     }
 }
 
@@ -188,8 +197,11 @@ void IwbWriter::finish()
     for (const QString &sentence : missing) {
         losses.note(QStringLiteral("fonts"), sentence);
     }
+    if (m_native) {
+        m_native->finish(m_presentation, m_media);
+    }
     const QStringList unused = m_media.unused();
-    if (!unused.isEmpty()) {
+    if (!m_native && !unused.isEmpty()) {
         losses.note(QStringLiteral("files"),
                     QLatin1String("no page shows them, so they stay behind: ") + unused.join(QLatin1String(", ")));
     }

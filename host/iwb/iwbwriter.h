@@ -5,6 +5,7 @@
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagecheck.h"
 #include "iwb/iwbpagewriter.h"
+#include "iwb/nativepart.h"
 #include "lesson/lesson.h"
 #include "lesson/missingfonts.h"
 #include "losses/slidelosses.h"
@@ -40,6 +41,7 @@ private:
     PackageTarget m_target;
     IwbMedia m_media;
     IwbPageWriter m_pages;
+    std::unique_ptr<NativePartWriter> m_native; // null where the lesson doesn't travel along
     std::unique_ptr<IwbPageCheck> m_check; // null where nobody asks for one
     QJsonObject m_presentation;
     QByteArray m_records; // about the items of the pages that are written; they stand behind all pages

@@ -27,6 +27,10 @@ QLatin1String kindName(Loss::Kind kind)
         return QLatin1String("kept");
     case Loss::File:
         return QLatin1String("file");
+    case Loss::NotShown:
+        return QLatin1String("notShown");
+    case Loss::Otherwise:
+        return QLatin1String("otherwise");
     case Loss::Note:
         break;
     }
@@ -187,6 +191,12 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
     case Loss::File:
         return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
             + listed(losses);
+    case Loss::NotShown:
+        return number + QLatin1String(count == 1 ? " item isn't" : " items aren't")
+            + QLatin1String(" shown by other boards: ") + countedByType(losses);
+    case Loss::Otherwise:
+        return number + QLatin1String(count == 1 ? " value is" : " values are")
+            + QLatin1String(" otherwise on other boards: ") + listed(losses);
     case Loss::Note:
         break;
     }
@@ -195,12 +205,17 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
 
 } // namespace
 
+bool isLoss(Loss::Kind kind)
+{
+    return kind == Loss::Value || kind == Loss::Item || kind == Loss::File;
+}
+
 void LossReport::add(const Loss &loss)
 {
     // The entries of a large lesson differ in little but their places.
     m_entries.append(
         {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail)});
-    if (loss.kind != Loss::Kept && loss.kind != Loss::Note) {
+    if (isLoss(loss.kind)) {
         ++m_lossCount;
     }
 }
@@ -213,7 +228,8 @@ QString LossReport::shared(const QString &text)
 QString LossReport::summary() const
 {
     QStringList lines;
-    for (const auto kind : {Loss::Value, Loss::Item, Loss::File, Loss::Kept, Loss::Note}) {
+    for (const auto kind :
+         {Loss::Value, Loss::Item, Loss::File, Loss::NotShown, Loss::Otherwise, Loss::Kept, Loss::Note}) {
         QVector<Loss> losses;
         std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
                      [kind](const Loss &loss) { return loss.kind == kind; });

@@ -19,6 +19,8 @@ struct Loss
         Kept, //!< an item nobody can convert went over as it came: named, but no loss
         File, //!< a file that the lesson names isn't there or can't be taken
         Note, //!< done otherwise than one would expect: named, but no loss
+        NotShown, //!< an item that other boards don't show; it travels along and comes back, so no loss
+        Otherwise, //!< a value that other boards show otherwise; it travels along, too
     };
 
     Kind kind = Value;
@@ -29,6 +31,9 @@ struct Loss
     QString detail; //!< what it was, or why; may be empty
 };
 
+//! False for what is only named.
+bool isLoss(Loss::Kind kind);
+
 /*!
  * Collects losses in the order in which they are found and puts them into words and JSON.
  */
@@ -38,7 +43,7 @@ public:
     void add(const Loss &loss);
 
     const QVector<Loss> &entries() const { return m_entries; }
-    //! Everything but what was kept and the notes.
+    //! Values, items and files; what was kept, notes and what is so for other boards alone don't count.
     int lossCount() const { return m_lossCount; }
     bool isEmpty() const { return m_entries.isEmpty(); }
 

@@ -21,14 +21,21 @@ SlideLosses::SlideLosses(LossReport *report, int slide)
 {
 }
 
+SlideLosses SlideLosses::elsewhere() const
+{
+    SlideLosses losses = *this;
+    losses.m_isElsewhere = true;
+    return losses;
+}
+
 void SlideLosses::value(const LossOwner &owner, const QString &key, const QString &detail) const
 {
-    add(Loss::Value, owner, key, detail);
+    add(m_isElsewhere ? Loss::Otherwise : Loss::Value, owner, key, detail);
 }
 
 void SlideLosses::item(const LossOwner &owner, const QString &why) const
 {
-    add(Loss::Item, owner, {}, why);
+    add(m_isElsewhere ? Loss::NotShown : Loss::Item, owner, {}, why);
 }
 
 void SlideLosses::kept(const LossOwner &owner) const

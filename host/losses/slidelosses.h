@@ -40,6 +40,9 @@ public:
     //! False where everything is dropped, so that nothing has to be looked for.
     bool isHeard() const { return m_report; }
 
+    //! The same slide, where values and items are only told of what other boards show.
+    SlideLosses elsewhere() const;
+
     //! A value that did not survive.
     void value(const LossOwner &owner, const QString &key, const QString &detail = {}) const;
     //! An item that isn't there.
@@ -59,6 +62,7 @@ private:
 
     LossReport *m_report = nullptr;
     int m_slide = 0;
+    bool m_isElsewhere = false;
     int m_first = 0; // entry of the report that may be this object's
 };
 

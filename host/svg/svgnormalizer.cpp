@@ -200,4 +200,9 @@ IwbPage SvgNormalizer::page(int index) const
     return SvgPageBuilder(m_rules).build(m_pages.at(index));
 }
 
+IwbPage SvgNormalizer::page(int index, const QVector<QDomElement> &children) const
+{
+    return SvgPageBuilder(m_rules).build(m_pages.at(index).first(), children);
+}
+
 } // namespace lessonhost

@@ -33,7 +33,11 @@ public:
     QString pageId(int index) const;
     //! What a page was made of by the plug-in, which names the rectangle of its background so; empty for others.
     QString backgroundName(int index) const;
+    //! The elements that lie over each other on a page, from back to front.
+    const QVector<QDomElement> &layers(int index) const { return m_pages.at(index); }
     IwbPage page(int index) const;
+    //! The page with some of its children alone.
+    IwbPage page(int index, const QVector<QDomElement> &children) const;
 
     //! About the document as a whole.
     const QVector<SvgRemark> &remarks() const { return m_remarks; }

@@ -118,13 +118,28 @@ bool SvgPageBuilder::isDrawn(const QString &svgName)
 IwbPage SvgPageBuilder::build(const QVector<QDomElement> &layers)
 {
     for (const QDomElement &page : layers) {
-        Place place;
-        place.style.matrix = QTransform::fromTranslate(-m_rules.viewBox.x(), -m_rules.viewBox.y());
-        place.style = place.style.child(page, nativeTransform(page), remarkAbout(page));
-        children(page, place);
+        children(page, placeOn(page));
     }
     finishBackground();
     return m_result;
+}
+
+IwbPage SvgPageBuilder::build(const QDomElement &page, const QVector<QDomElement> &chosen)
+{
+    const Place place = placeOn(page);
+    for (const QDomElement &child : chosen) {
+        convert(child, place);
+    }
+    finishBackground();
+    return m_result;
+}
+
+SvgPageBuilder::Place SvgPageBuilder::placeOn(const QDomElement &page)
+{
+    Place place;
+    place.style.matrix = QTransform::fromTranslate(-m_rules.viewBox.x(), -m_rules.viewBox.y());
+    place.style = place.style.child(page, nativeTransform(page), remarkAbout(page));
+    return place;
 }
 
 void SvgPageBuilder::children(const QDomElement &holder, const Place &place)

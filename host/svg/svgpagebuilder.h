@@ -18,6 +18,8 @@ public:
 
     //! layers: the page elements that lie over each other, from back to front.
     IwbPage build(const QVector<QDomElement> &layers);
+    //! chosen: some of the page's children, which are all that is looked at.
+    IwbPage build(const QDomElement &page, const QVector<QDomElement> &chosen);
 
     //! True for svg elements that show something, converted or not.
     static bool isDrawn(const QString &svgName);
@@ -33,6 +35,7 @@ private:
     using Convert = void (SvgPageBuilder::*)(const QDomElement &, const Place &);
     static const QHash<QString, Convert> &conversions();
 
+    Place placeOn(const QDomElement &page);
     void children(const QDomElement &holder, const Place &place);
     void convert(const QDomElement &element, const Place &outer);
     void remarkOnExtras(const QDomElement &element, const QString &name);

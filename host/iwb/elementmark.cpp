@@ -1,0 +1,104 @@
+#include "iwb/elementmark.h"
+
+#include "svg/svgnames.h"
+
+#include <QCryptographicHash>
+#include <QMap>
+#include <QRegularExpression>
+#include <QVector>
+
+namespace lessonhost {
+
+namespace {
+
+QString localName(const QString &name)
+{
+    return name.mid(name.indexOf(QLatin1Char(':')) + 1);
+}
+
+// Numbers in five digits, with one blank between the parts.
+QString plainValue(const QString &value)
+{
+    static const QRegularExpression number(QStringLiteral("[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?"));
+    QString text;
+    int at = 0;
+    auto matches = number.globalMatch(value);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        text += value.midRef(at, match.capturedStart() - at);
+        text += QString::number(match.capturedRef().toDouble(), 'g', 5);
+        at = match.capturedEnd();
+    }
+    text += value.midRef(at);
+    return text.replace(QLatin1Char(','), QLatin1Char(' ')).simplified();
+}
+
+QString attributesOf(const QDomElement &element)
+{
+    QMap<QString, QString> attributes;
+    const QDomNamedNodeMap all = element.attributes();
+    for (int i = 0; i < all.size(); ++i) {
+        const QString name = all.item(i).nodeName();
+        if (!name.startsWith(QLatin1String("xmlns")) && name != QLatin1String("ref")) {
+            attributes.insert(localName(name), plainValue(all.item(i).nodeValue()));
+        }
+    }
+    QString text;
+    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
+        text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
+    }
+    return text;
+}
+
+// Without a call for each level: elements may stand in each other deeper than calls may.
+QString wholeText(const QDomElement &element, const QHash<QString, QString> &records)
+{
+    QString text;
+    QDomNode node = element;
+    while (!node.isNull()) {
+        if (node.isElement()) {
+            const QDomElement inner = node.toElement();
+            text += QLatin1Char('<') + localName(inner.tagName()) + attributesOf(inner)
+                + records.value(inner.attribute(QStringLiteral("id"))) + QLatin1Char('>');
+        } else if (node.isText() || node.isCDATASection()) {
+            text += node.nodeValue().simplified();
+        }
+        QDomNode next = node.firstChild();
+        while (next.isNull() && node != element) {
+            text += node.isElement() ? QStringLiteral("</>") : QString();
+            next = node.nextSibling();
+            node = next.isNull() ? node.parentNode() : node;
+        }
+        if (node == element && next.isNull()) {
+            break;
+        }
+        node = next;
+    }
+    return text;
+}
+
+} // namespace
+
+QHash<QString, QString> recordTexts(const QDomElement &root)
+{
+    QHash<QString, QString> texts;
+    for (QDomElement row = root.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
+        const QString name = iwbName(row);
+        if (name == QLatin1String("group")) {
+            for (QDomElement member = row.firstChildElement(); !member.isNull(); member = member.nextSiblingElement()) {
+                texts[member.attribute(QStringLiteral("ref"))] += QLatin1String(" group") + attributesOf(member);
+            }
+        } else if (svgName(row) != QLatin1String("svg") && row.hasAttribute(QStringLiteral("ref"))) {
+            texts[row.attribute(QStringLiteral("ref"))] += QLatin1Char(' ') + name + attributesOf(row);
+        }
+    }
+    return texts;
+}
+
+QString elementMark(const QDomElement &element, const QHash<QString, QString> &records)
+{
+    const QByteArray text = wholeText(element, records).toUtf8();
+    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().left(20));
+}
+
+} // namespace lessonhost

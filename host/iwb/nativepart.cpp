@@ -1,0 +1,210 @@
+#include "iwb/nativepart.h"
+
+#include "files/inputfile.h"
+#include "files/lessonerror.h"
+#include "files/packagenames.h"
+#include "files/packagetarget.h"
+#include "iwb/elementmark.h"
+#include "iwb/iwbmedia.h"
+#include "iwb/iwbpackage.h"
+#include "lesson/itemkeys.h"
+#include "lesson/slidelimits.h"
+
+#include <QJsonDocument>
+
+namespace lessonhost {
+
+namespace {
+
+constexpr int form = 1; // of these files
+const QLatin1String folder("additional/native/");
+const QLatin1String lessonFile("additional/native/lesson.json");
+const QLatin1String filesFolder("additional/native/files/");
+const QLatin1String pagePrefix("page");
+
+namespace Keys {
+const QLatin1String form("form");
+const QLatin1String presentation("presentation");
+const QLatin1String files("files");
+const QLatin1String slide("slide");
+const QLatin1String background("background");
+const QLatin1String ids("ids");
+const QLatin1String mark("mark");
+const QLatin1String items("items");
+const QLatin1String item("item");
+const QLatin1String parts("parts");
+const QLatin1String id("id");
+} // namespace Keys
+
+QString pageFile(const QString &pageId)
+{
+    return folder + pageId + QLatin1String(".json");
+}
+
+// Elements that items stand for, by identifier, with the links around them.
+QHash<QString, QDomElement> elementsOf(const QDomElement &page)
+{
+    QHash<QString, QDomElement> elements;
+    for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        QDomElement inner = child;
+        while (inner.tagName() == QLatin1String("svg:a") && !inner.firstChildElement().isNull()) {
+            inner = inner.firstChildElement();
+        }
+        elements.insert(inner.attribute(QStringLiteral("id")), child);
+    }
+    return elements;
+}
+
+QJsonObject partOf(const IwbPageWriter::WrittenItem &written, bool isWhole, const QHash<QString, QDomElement> &elements,
+                   const QHash<QString, QString> &records)
+{
+    QJsonObject part;
+    if (!written.id.isEmpty()) {
+        part.insert(Keys::id, written.id);
+        part.insert(Keys::mark, elementMark(elements.value(written.id), records));
+    }
+    if (!isWhole) {
+        part.insert(Keys::item, written.item);
+    }
+    return part;
+}
+
+NativePage::Part readPart(const QJsonObject &json)
+{
+    return {json.value(Keys::id).toString(), json.value(Keys::mark).toString(), json.value(Keys::item).toObject()};
+}
+
+QJsonObject objectIn(const QString &file, const QString &shownName)
+{
+    InputFile input(file, shownName);
+    // A page has its items twice where they are in groups.
+    return input.size() > 3 * maximumSlideSize ? QJsonObject() : QJsonDocument::fromJson(input.all()).object();
+}
+
+} // namespace
+
+QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, QString> &records)
+{
+    QStringList marks;
+    for (const QDomElement &element : elements) {
+        marks.append(elementMark(element, records));
+    }
+    return marks.join(QLatin1Char(' '));
+}
+
+NativePartWriter::NativePartWriter(PackageTarget &target)
+    : m_target(target)
+{
+}
+
+bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items,
+                                 const QDomElement &page)
+{
+    const QHash<QString, QString> records = recordTexts(page.ownerDocument().documentElement());
+    const QHash<QString, QDomElement> elements = elementsOf(page);
+    QJsonArray entries;
+    QStringList itemIds;
+    int next = 0;
+    for (int i = 0; i < slide.items.size(); ++i) {
+        QJsonArray parts;
+        for (; next < items.size() && items.at(next).top == i; ++next) {
+            const bool isWhole = items.at(next).given == slide.items.at(i).toObject();
+            parts.append(partOf(items.at(next), isWhole, elements, records));
+            itemIds.append(items.at(next).id);
+        }
+        entries.append(QJsonObject{{Keys::item, slide.items.at(i)}, {Keys::parts, parts}});
+    }
+    QVector<QDomElement> background;
+    QStringList backgroundIds;
+    for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString id = child.attribute(QStringLiteral("id"));
+        if (!elements.contains(id) || !itemIds.contains(id)) {
+            if (child.tagName() != QLatin1String("svg:a")) {
+                background.append(child);
+                backgroundIds.append(id);
+            }
+        }
+    }
+    const QJsonObject json{{Keys::slide, slide.properties},
+                           {Keys::background,
+                            QJsonObject{{Keys::ids, QJsonArray::fromStringList(backgroundIds)},
+                                        {Keys::mark, backgroundMark(background, records)}}},
+                           {Keys::items, entries}};
+    const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
+    if (text.size() > 3 * maximumSlideSize || QJsonDocument::fromJson(text).object() != json) {
+        return false;
+    }
+    m_target.write(pageFile(pagePrefix + QString::number(number)), text);
+    return true;
+}
+
+void NativePartWriter::finish(const QJsonObject &presentation, const IwbMedia &media)
+{
+    QJsonObject files;
+    for (const QString &path : media.paths()) {
+        QString place = media.unchanged(path);
+        if (place.isEmpty()) {
+            place = filesFolder + path;
+            m_target.copy(place, media.source(path), path);
+        }
+        files.insert(path, place);
+    }
+    m_target.write(lessonFile,
+                   QJsonDocument(QJsonObject{{Keys::form, form}, {Keys::presentation, presentation}, {Keys::files, files}})
+                       .toJson(QJsonDocument::Compact));
+}
+
+NativePart::NativePart(const IwbPackage &package)
+    : m_package(package)
+{
+    if (!package.contains(lessonFile)) {
+        return;
+    }
+    const QJsonObject lesson = objectIn(package.file(lessonFile), lessonFile);
+    m_isThere = lesson.value(Keys::form).toInt() == form;
+    if (!m_isThere) {
+        return;
+    }
+    m_presentation = lesson.value(Keys::presentation).toObject();
+    const QJsonObject files = lesson.value(Keys::files).toObject();
+    for (auto it = files.constBegin(); it != files.constEnd(); ++it) {
+        const QString place = it.value().toString();
+        if (problemWithPackagePath(it.key()).isEmpty() && package.contains(place)) {
+            m_files.insert(it.key(), place);
+        }
+    }
+}
+
+bool NativePart::isPart(const QString &packagePath)
+{
+    return packagePath.startsWith(folder);
+}
+
+std::optional<NativePage> NativePart::page(const QString &pageId) const
+{
+    const QString file = pageFile(pageId);
+    if (!m_isThere || !problemWithFileName(pageId).isEmpty() || !m_package.contains(file)) {
+        return {};
+    }
+    const QJsonObject json = objectIn(m_package.file(file), file);
+    const QJsonObject background = json.value(Keys::background).toObject();
+    NativePage page;
+    page.slide = json.value(Keys::slide).toObject();
+    page.backgroundMark = background.value(Keys::mark).toString();
+    for (const QJsonValue &id : background.value(Keys::ids).toArray()) {
+        page.backgroundIds.append(id.toString());
+    }
+    for (const QJsonValue &value : json.value(Keys::items).toArray()) {
+        NativePage::Entry entry;
+        entry.item = value.toObject().value(Keys::item).toObject();
+        for (const QJsonValue &part : value.toObject().value(Keys::parts).toArray()) {
+            entry.parts.append(readPart(part.toObject()));
+        }
+        if (!entry.item.isEmpty()) {
+            page.entries.append(entry);
+        }
+    }
+    return page;
+}
+
+} // namespace lessonhost

@@ -1,0 +1,95 @@
+#ifndef NATIVEPART_H
+#define NATIVEPART_H
+
+#include "iwb/iwbpagewriter.h"
+#include "lesson/lesson.h"
+
+#include <QHash>
+#include <QVector>
+
+#include <optional>
+
+namespace lessonhost {
+
+class IwbMedia;
+class IwbPackage;
+class PackageTarget;
+
+/*!
+ * What a page of an IWB document was made of.
+ */
+struct NativePage
+{
+    //! An element that stands for an item, or for one of those that a group holds.
+    struct Part
+    {
+        QString id; //!< empty for an item that the document has no form for
+        QString mark; //!< of the element as it was written
+        QJsonObject item; //!< the same by itself, without the group
+    };
+    struct Entry
+    {
+        QJsonObject item;
+        QVector<Part> parts;
+    };
+
+    QJsonObject slide; //!< properties
+    QStringList backgroundIds;
+    QString backgroundMark;
+    QVector<Entry> entries; //!< from back to front
+};
+
+/*!
+ * The lesson itself, beside the document of an IWB package, in files that programs of other boards pass over:
+ *
+ *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "files": {path in the lesson: path in the package}}
+ *     additional/native/page1.json    {"slide": {...}, "background": {"ids", "mark"}, "items": [{"item", "parts"}]}
+ *     additional/native/files/...     files of the lesson that no page shows as they are
+ *
+ * Each item is bound to the elements that stand for it by their identifiers and marks.
+ */
+class NativePartWriter
+{
+public:
+    explicit NativePartWriter(PackageTarget &target);
+
+    //! page: with the records about it in its document. False, and nothing is written, for a slide that JSON can't hold.
+    bool writePage(int number, const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items,
+                   const QDomElement &page);
+    //! Throws LessonError.
+    void finish(const QJsonObject &presentation, const IwbMedia &media);
+
+private:
+    PackageTarget &m_target;
+};
+
+/*!
+ * The same, read. What isn't such a part, or was made by a later version, counts as none.
+ */
+class NativePart
+{
+public:
+    explicit NativePart(const IwbPackage &package);
+
+    bool isThere() const { return m_isThere; }
+    const QJsonObject &presentation() const { return m_presentation; }
+    //! What the page with that identifier was made of. Throws LessonError where the file can't be read.
+    std::optional<NativePage> page(const QString &pageId) const;
+
+    //! Paths of the lesson's files in the package, by those in the lesson.
+    const QHash<QString, QString> &files() const { return m_files; }
+    static bool isPart(const QString &packagePath);
+
+private:
+    const IwbPackage &m_package;
+    bool m_isThere = false;
+    QJsonObject m_presentation;
+    QHash<QString, QString> m_files;
+};
+
+//! One mark for all elements of a page's background.
+QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, QString> &records);
+
+} // namespace lessonhost
+
+#endif // NATIVEPART_H

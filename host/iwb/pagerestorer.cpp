@@ -1,0 +1,189 @@
+#include "iwb/pagerestorer.h"
+
+#include "iwb/elementmark.h"
+#include "iwb/uniqueids.h"
+#include "lesson/itemkeys.h"
+#include "svg/svgnames.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace lessonhost {
+
+namespace {
+
+// What a page's background shows of a slide.
+const QLatin1String backgroundKeys[] = {SlideKeys::color, SlideKeys::backColor, SlideKeys::document, SlideKeys::files,
+                                        SlideKeys::texture};
+
+QString innerId(QDomElement element)
+{
+    while (svgName(element) == QLatin1String("a") && !element.firstChildElement().isNull()) {
+        element = element.firstChildElement();
+    }
+    return element.attribute(QStringLiteral("id"));
+}
+
+QString counted(int count, const char *one, const char *more)
+{
+    return QString::number(count) + QLatin1String(count == 1 ? one : more);
+}
+
+} // namespace
+
+PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records)
+    : m_content(content)
+    , m_reader(reader)
+    , m_records(records)
+{
+}
+
+LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses)
+{
+    m_index = index;
+    lookAtPage(index);
+    LessonSlide slide;
+    slide.properties = properties(native, index + 1, losses);
+    placeEntries(native);
+    placeOthers(index + 1, losses);
+    std::stable_sort(m_placed.begin(), m_placed.end(),
+                     [](const Placed &one, const Placed &other) { return one.child < other.child; });
+    for (const Placed &placed : qAsConst(m_placed)) {
+        slide.items.append(placed.item);
+    }
+    tell(losses);
+    return slide;
+}
+
+void PageRestorer::lookAtPage(int index)
+{
+    for (const QDomElement &layer : m_content.layers(index)) {
+        for (QDomElement child = layer.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            const QString id = innerId(child);
+            // Of two, neither is surely the one.
+            m_byId.insert(id, m_byId.contains(id) ? -1 : m_children.size());
+            m_children.append(child);
+        }
+    }
+}
+
+bool PageRestorer::isIntact(const NativePage::Part &part) const
+{
+    if (part.id.isEmpty()) {
+        return true;
+    }
+    const int child = m_byId.value(part.id, -1);
+    return child >= 0 && !m_taken.contains(child) && elementMark(m_children.at(child), m_records) == part.mark;
+}
+
+QJsonObject PageRestorer::properties(const NativePage &native, int number, const SlideLosses &losses)
+{
+    QVector<QDomElement> background;
+    for (const QString &id : native.backgroundIds) {
+        const int child = m_byId.value(id, -1);
+        if (child >= 0) {
+            background.append(m_children.at(child));
+        }
+    }
+    if (backgroundMark(background, m_records) == native.backgroundMark) {
+        for (const QString &id : native.backgroundIds) {
+            m_taken.insert(m_byId.value(id));
+        }
+        return native.slide;
+    }
+    ++m_changed;
+    QJsonObject properties = native.slide;
+    for (const QLatin1String key : backgroundKeys) {
+        properties.remove(key);
+    }
+    // The whole page, since another element may be the background now.
+    const QJsonObject shown = m_reader.read(m_content.page(m_index), number, {}).slide.properties;
+    for (auto it = shown.constBegin(); it != shown.constEnd(); ++it) {
+        properties.insert(it.key(), it.value());
+    }
+    Q_UNUSED(losses)
+    return properties;
+}
+
+// Items without an element stay behind the one that they stood behind.
+void PageRestorer::placeEntries(const NativePage &native)
+{
+    int last = -1;
+    for (const NativePage::Entry &entry : native.entries) {
+        int first = -1;
+        bool isWhole = true;
+        for (const NativePage::Part &part : entry.parts) {
+            const bool isPartIntact = isIntact(part);
+            isWhole = isWhole && isPartIntact;
+            const int child = part.id.isEmpty() ? -1 : m_byId.value(part.id, -1);
+            if (isPartIntact && child >= 0 && (first < 0 || child < first)) {
+                first = child;
+            }
+        }
+        last = first >= 0 ? first : last;
+        if (isWhole) {
+            m_placed.append({last, entry.item});
+            ++m_restored;
+        } else if (entry.parts.size() > 1) {
+            ++m_changed; // the group is none any more
+        }
+        for (const NativePage::Part &part : entry.parts) {
+            const int child = part.id.isEmpty() ? -1 : m_byId.value(part.id, -1);
+            const bool isPartIntact = isIntact(part);
+            if (isPartIntact && child >= 0) {
+                m_taken.insert(child);
+            }
+            if (isWhole) {
+                continue;
+            }
+            if (isPartIntact && !part.item.isEmpty()) {
+                m_placed.append({child >= 0 ? child : last, part.item});
+                ++m_restored;
+            } else if (!isPartIntact) {
+                ++(child >= 0 ? m_changed : m_gone);
+            }
+        }
+    }
+}
+
+// What the document alone tells, a run of neighbours at a time.
+void PageRestorer::placeOthers(int number, const SlideLosses &losses)
+{
+    UniqueIds ids;
+    for (const Placed &placed : qAsConst(m_placed)) {
+        ids.take(placed.item.value(ItemKeys::id).toString());
+    }
+    for (int i = 0; i < m_children.size();) {
+        int end = i;
+        while (end < m_children.size() && !m_taken.contains(end)) {
+            ++end;
+        }
+        if (end > i) {
+            const IwbSlideReader::Slide found =
+                m_reader.read(m_content.page(m_index, m_children.mid(i, end - i)), number, losses);
+            for (const QJsonValue &value : found.slide.items) {
+                QJsonObject item = value.toObject();
+                item.insert(ItemKeys::id, ids.take(item.value(ItemKeys::id).toString()));
+                m_placed.append({i, item});
+                ++m_others;
+            }
+        }
+        i = end + 1;
+    }
+}
+
+void PageRestorer::tell(const SlideLosses &losses) const
+{
+    if (m_changed + m_gone + m_others == 0) {
+        return;
+    }
+    losses.note(QStringLiteral("page"),
+                QStringLiteral("%1, %2 and %3 by another program; %4")
+                    .arg(counted(m_changed, " thing changed", " things changed"),
+                         counted(m_gone, " item removed", " items removed"),
+                         counted(qMax(0, m_others - m_changed), " added", " added"),
+                         counted(m_restored, " item is as it was", " items are as they were")));
+}
+
+} // namespace lessonhost

@@ -1,0 +1,54 @@
+#ifndef PAGERESTORER_H
+#define PAGERESTORER_H
+
+#include "iwb/iwbslidereader.h"
+#include "iwb/nativepart.h"
+#include "svg/svgnormalizer.h"
+
+namespace lessonhost {
+
+/*!
+ * Makes a slide of a page that another program may have worked on since it was written: items whose elements are still
+ * there unchanged are as they were, the others are what the page shows now.
+ */
+class PageRestorer
+{
+public:
+    //! All of them have to live as long. number counts from 1.
+    PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records);
+
+    //! ID is that of the slide as it was. index: of the page, from 0.
+    LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses);
+
+private:
+    struct Placed
+    {
+        int child; // of the page where it stands
+        QJsonObject item;
+    };
+
+    void lookAtPage(int index);
+    bool isIntact(const NativePage::Part &part) const;
+    void placeEntries(const NativePage &native);
+    void placeOthers(int number, const SlideLosses &losses);
+    QJsonObject properties(const NativePage &native, int number, const SlideLosses &losses);
+    void tell(const SlideLosses &losses) const;
+
+    const SvgNormalizer &m_content;
+    IwbSlideReader &m_reader;
+    const QHash<QString, QString> &m_records;
+
+    int m_index = 0;
+    QVector<QDomElement> m_children; // of the page's layers
+    QHash<QString, int> m_byId; // the child in which an element stands
+    QSet<int> m_taken; // children that need not be read
+    QVector<Placed> m_placed;
+    int m_restored = 0;
+    int m_changed = 0;
+    int m_gone = 0;
+    int m_others = 0;
+};
+
+} // namespace lessonhost
+
+#endif // PAGERESTORER_H
