@@ -16,6 +16,7 @@
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
+#include "render/slideitempainter.h"
 #include "render/rendering.h"
 
 #include <QCoreApplication>
@@ -419,6 +420,11 @@ LessonContext Command::conversionContext(const PluginHost &host, LossReport *los
     context.losses = losses;
     context.verify = !isSet("no-check");
     context.options = m_line.formatOptions();
+    if (value("items") != QLatin1String("drop")) {
+        context.makePainter = [plugin = context.plugin](LessonReader &reader) {
+            return std::make_unique<SlideItemPainter>(reader, plugin);
+        };
+    }
     return context;
 }
 

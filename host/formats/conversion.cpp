@@ -48,7 +48,13 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
     inputs.addLesson(input, from.folderBeside);
     inputs.check(output);
     const auto reader = from.open(input, context);
-    const auto writer = to.create(output, context);
+    LessonContext writing = context;
+    std::unique_ptr<ItemPainter> painter;
+    if (context.makePainter && to.takesPictures) {
+        painter = context.makePainter(*reader);
+        writing.painter = painter.get();
+    }
+    const auto writer = to.create(output, writing);
     const QStringList resources = reader->resources();
     writer->expect(reader->slideCount(), resources.size());
     writer->begin(reader->presentation());

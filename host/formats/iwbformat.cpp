@@ -25,6 +25,7 @@ LessonFormat iwbFormat()
     format.recognizes = isIwbFolder;
     format.holds = holdsIwb;
     format.measuresText = true;
+    format.takesPictures = true;
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<IwbReader>(path, context);
     };

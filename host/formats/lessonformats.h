@@ -24,6 +24,7 @@ struct LessonFormat
     std::function<bool(const QString &path)> recognizes;
     //! True for what a file in this format holds.
     std::function<bool(const LessonContent &content)> holds;
+    bool takesPictures = false; //!< of items that it has no form for
     bool isCommonEnding = false; //!< files with such a name often are no lessons
     bool measuresText = false; //!< to read or write it takes a QGuiApplication, for its fonts
     QString folderBeside; //!< the name of a folder beside a file that belongs to it; may be empty

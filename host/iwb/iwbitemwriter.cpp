@@ -142,7 +142,7 @@ QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
     const QPolygonF points = matrix ? matrix->map(view.strokePoints()) : view.strokePoints();
     if (!m_setting.keepsInk || points.isEmpty()) {
         ++m_strokesLeftOut;
-        m_losses.item(item, m_setting.keepsInk ? QStringLiteral("it has no points") : QStringLiteral("--ink drop"));
+        tellFormless(m_setting.keepsInk ? QStringLiteral("it has no points") : QStringLiteral("--ink drop"));
         return {};
     }
     const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DPolyline"));
@@ -322,8 +322,39 @@ QDomElement IwbItemWriter::convert(const QJsonObject &prepared)
     if (root.lastChild() != lastRecord) {
         root.removeChild(root.lastChild());
     }
-    m_losses.item(m_given, hasForm ? QStringLiteral("it has too few points to be drawn") : QString());
+    tellFormless(hasForm ? QStringLiteral("it has too few points to be drawn") : QString());
     return {};
+}
+
+void IwbItemWriter::tellFormless(const QString &why)
+{
+    m_whyNot = why;
+    if (m_tellsFormless) {
+        m_losses.item(m_given, why);
+    }
+}
+
+QDomElement IwbItemWriter::writePicture(QDomDocument &document, const QJsonObject &item, const QString &id,
+                                        const QString &reference, const QRectF &box)
+{
+    m_document = document;
+    m_given = item;
+    m_id = id;
+    m_linkedFile.clear();
+    m_missingFile.clear();
+    QJsonObject prepared = commonKeys(item);
+    prepared.insert(ItemKeys::type, QStringLiteral("ZQImagePic"));
+    prepared.insert(ItemKeys::mediaFiles, reference);
+    prepared.insert(ItemKeys::box, boxText(box));
+    prepared.insert(ItemKeys::matrix, QStringLiteral("1,0,0,1,0,0"));
+    QDomElement element = convert(prepared);
+    if (!element.isNull()) {
+        QDomElement image = innermost(element);
+        setSvgBox(image, box, pluginDigits);
+        image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+        complete(item, element);
+    }
+    return element;
 }
 
 // What the element says about the item beside its place and looks.

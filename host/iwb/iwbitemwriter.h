@@ -34,6 +34,14 @@ public:
     //! losses, for one that has no form. id: what the element is called. Records about it are added to the document.
     QDomElement write(QDomDocument &document, const QJsonObject &item, const QString &id, const SlideLosses &losses);
 
+    //! A picture that stands for an item: hidden, locked and linked like it. reference: of the picture's file.
+    QDomElement writePicture(QDomDocument &document, const QJsonObject &item, const QString &id,
+                             const QString &reference, const QRectF &box);
+
+    //! Whether items without a form are told to losses; if not, whyNot() has the reason for the last one.
+    void setTellsFormless(bool tells) { m_tellsFormless = tells; }
+    QString whyNot() const { return m_whyNot; }
+
     //! The file that the item written last would open, where the lesson has none.
     QString missingFile() const { return m_missingFile; }
 
@@ -50,6 +58,7 @@ private:
     QJsonObject commonKeys(const QJsonObject &item);
     void addLink(const QJsonObject &item, QJsonObject &prepared);
     QString linkedFile(const QString &reference);
+    void tellFormless(const QString &why);
     QDomElement convert(const QJsonObject &prepared);
     void complete(const QJsonObject &item, QDomElement element);
 
@@ -60,6 +69,8 @@ private:
     SlideLosses m_losses; // of its slide
     QString m_linkedFile; // the reference of the file that the item being written opens
     QString m_missingFile; // that it would open
+    QString m_whyNot;
+    bool m_tellsFormless = true;
     int m_strokes = 0;
     int m_strokesLeftOut = 0;
 };

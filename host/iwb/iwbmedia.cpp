@@ -31,4 +31,16 @@ QString IwbMedia::unchanged(const QString &relativePath) const
     return m_unchanged.value(m_files.source(relativePath));
 }
 
+QStringList IwbMedia::made() const
+{
+    QStringList references;
+    for (auto it = m_placed.cbegin(); it != m_placed.cend(); ++it) {
+        if (it->isMade) {
+            references.append(it.key());
+        }
+    }
+    references.sort();
+    return references;
+}
+
 } // namespace lessonhost

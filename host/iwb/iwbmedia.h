@@ -21,6 +21,7 @@ public:
         QString source; //!< on disk
         bool isConverted = false; //!< goes into the package as a png picture
         QImage picture; //!< the picture until it is stored
+        bool isMade = false; //!< no file of the lesson, but a picture of an item
     };
 
     void add(const QString &relativePath, const QString &sourceFile) { m_files.add(relativePath, sourceFile); }
@@ -45,6 +46,9 @@ public:
     QStringList paths() const { return m_files.paths(); }
     //! The reference under which a file of the lesson goes into the package as it is, or nothing.
     QString unchanged(const QString &relativePath) const;
+
+    //! References of pictures of items, ascending.
+    QStringList made() const;
 
     //! Paths of the files that nobody asked for.
     QStringList unused() const { return m_files.unused(); }

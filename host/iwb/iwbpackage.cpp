@@ -15,7 +15,7 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String contentFile("content.xml");
+const QLatin1String contentName("content.xml");
 
 bool hasScheme(const QString &reference)
 {
@@ -46,9 +46,9 @@ QString suffixOfMediaType(const QString &type)
 } // namespace
 
 IwbPackage::IwbPackage(const QString &path)
-    : m_source(path, contentFile)
+    : m_source(path, contentName)
 {
-    m_document = loadXmlFile(m_source.file(contentFile), displayName());
+    m_document = loadXmlFile(m_source.file(contentName), displayName());
     if (iwbName(root()) != QLatin1String("iwb") && svgName(root()) != QLatin1String("svg")) {
         throw LessonError(
             QStringLiteral("The document begins with <%1> where an IWB file has <iwb>").arg(root().tagName()),
@@ -64,13 +64,18 @@ IwbPackage::IwbPackage(const QString &path)
 
 QString IwbPackage::displayName() const
 {
-    return m_source.displayName(contentFile);
+    return m_source.displayName(contentName);
+}
+
+QString IwbPackage::contentFile() const
+{
+    return m_source.file(contentName);
 }
 
 QStringList IwbPackage::resources() const
 {
     QStringList paths = m_files;
-    paths.removeOne(contentFile);
+    paths.removeOne(contentName);
     paths += m_embedded.keys();
     paths.sort();
     return paths;
@@ -87,7 +92,7 @@ QString IwbPackage::resolve(const QString &reference, QString *problem) const
     const QString asWritten = plainPath(reference.trimmed());
     const QString decoded = QUrl::fromPercentEncoding(asWritten.toUtf8());
     for (const QString &path : {asWritten, decoded}) {
-        if (m_embedded.contains(path) || (m_source.contains(path) && path != contentFile)) {
+        if (m_embedded.contains(path) || (m_source.contains(path) && path != contentName)) {
             return path;
         }
     }
@@ -162,7 +167,7 @@ QString IwbPackage::saveEmbedded(const QString &uri)
 
 bool isIwbFolder(const QString &path)
 {
-    const QString file = path + QLatin1Char('/') + contentFile;
+    const QString file = path + QLatin1Char('/') + contentName;
     if (!QFileInfo(file).isFile()) {
         return false;
     }

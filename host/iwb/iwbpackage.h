@@ -29,6 +29,8 @@ public:
 
     //! Files but the content, and the pictures of the document itself, as paths in the package.
     QStringList resources() const;
+    //! Where the document lies on disk.
+    QString contentFile() const;
     bool contains(const QString &path) const { return m_source.contains(path); }
     //! Where a resource lies on disk. Throws LessonError.
     QString file(const QString &resource) const;

@@ -4,6 +4,7 @@
 #include "files/pictures.h"
 #include "iwb/iwbmedia.h"
 #include "izqtransformation.h"
+#include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/pagesize.h"
 #include "lesson/textruns.h"
@@ -177,8 +178,13 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         }
         return;
     }
-    WrittenItem row{given, item, idOf(given), 0};
-    const QDomElement element = m_items.write(m_document, item, row.id, losses);
+    WrittenItem row{given, item, idOf(given), false, 0};
+    QDomElement element = m_items.write(m_document, item, row.id, losses);
+    if (element.isNull() && m_painter) {
+        element = pictureOf(item, row.id);
+        row.isPicture = !element.isNull();
+        row.isPicture ? losses.picture(given) : losses.item(given, m_items.whyNot());
+    }
     if (element.isNull()) {
         m_ids.giveBack(row.id);
         row.id.clear();
@@ -191,6 +197,33 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         losses.file(given, m_items.missingFile(), QStringLiteral("the lesson has no such file to open"));
     }
     written.append(row);
+}
+
+void IwbPageWriter::setPainter(ItemPainter *painter)
+{
+    m_painter = painter;
+    m_items.setTellsFormless(!painter);
+}
+
+// Nothing for an item that isn't to be seen, or was asked to be left out.
+QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id)
+{
+    const ItemView view(item);
+    if (!view.isVisible() || isInk(view.type())) {
+        return {};
+    }
+    const auto picture = m_painter->paint(item, m_pageSize);
+    if (!picture) {
+        return {};
+    }
+    IwbMedia::File file;
+    file.source = QStringLiteral("page%1/%2.png").arg(m_number).arg(id);
+    file.isConverted = true;
+    file.isMade = true;
+    file.picture = picture->image;
+    const QString name = QStringLiteral("item%1_%2.png").arg(m_number).arg(++m_pictures);
+    const QString reference = m_media->place(QStringLiteral("images"), file, name);
+    return m_items.writePicture(m_document, item, id, reference, picture->box);
 }
 
 // Of an identifier that two items have, the second gets one of its own: records know elements by it.

@@ -24,6 +24,7 @@ public:
         QJsonObject given;
         QJsonObject item; //!< the same, hidden, locked and linked by the groups that were around it
         QString id; //!< of its element; empty for an item that has no form
+        bool isPicture = false; //!< its element is a picture of it
         int top = 0; //!< which of the slide's own items it is, or stands in
     };
 
@@ -46,9 +47,13 @@ public:
 
     IwbItemWriter &items() { return m_items; }
 
+    //! Items without a form become pictures; null for none. It has to live as long.
+    void setPainter(ItemPainter *painter);
+
 private:
     void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
                  QVector<WrittenItem> &written);
+    QDomElement pictureOf(const QJsonObject &item, const QString &id);
     QString idOf(const QJsonObject &item);
     QString background(const QJsonObject &slide, const QString &id, const SlideLosses &losses);
     void fillPage(QDomElement &page, const QString &picture) const;
@@ -57,11 +62,13 @@ private:
     IwbMedia *m_media;
     bool m_isStored; // what it names
     IwbItemWriter m_items;
+    ItemPainter *m_painter = nullptr;
     QDomDocument m_document;
     QSizeF m_pageSize;
     int m_number = 0; // of the page that gets items
     UniqueIds m_ids; // of its elements
     int m_generatedIds = 0;
+    int m_pictures = 0; // of items
 };
 
 } // namespace lessonhost

@@ -44,7 +44,6 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
                           QStringLiteral("Check that this is an IWB lesson"))
             .in(m_package.displayName());
     }
-    nameResources();
     if (m_native.isThere()) {
         m_records = recordTexts(m_package.root());
     }
@@ -56,6 +55,7 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
         }
         m_slideIds.append(names.next(m_content.backgroundName(i), id));
     }
+    nameResources();
     const SlideLosses losses = m_losses.presentation();
     const auto &meta = m_content.meta();
     if (!meta.value(QStringLiteral("description")).isEmpty()) {
@@ -71,6 +71,19 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     }
 }
 
+// Of pictures that stand for items, those that another program has changed are shown.
+QSet<QString> IwbReader::madePicturesInUse()
+{
+    if (!m_native.isThere() || m_native.isUntouched()) {
+        return {};
+    }
+    m_asked.clear();
+    for (int i = 0; i < m_content.pageCount(); ++i) {
+        slide(i, {});
+    }
+    return m_asked;
+}
+
 // Files of the lesson keep their paths, those that another program has added get the ones of the package.
 void IwbReader::nameResources()
 {
@@ -78,9 +91,11 @@ void IwbReader::nameResources()
         m_resources.insert(it.key(), it.value());
         m_lessonPaths.insert(it.value(), it.key());
     }
+    const QSet<QString> used = madePicturesInUse();
     const QStringList inPackage = m_package.resources();
     for (const QString &path : inPackage) {
-        if (m_lessonPaths.contains(path) || (m_native.isThere() && NativePart::isPart(path))) {
+        const bool isOwn = m_native.isThere() && (NativePart::isPart(path) || (m_native.isMade(path) && !used.contains(path)));
+        if (m_lessonPaths.contains(path) || isOwn) {
             continue;
         }
         QString name = path;
@@ -116,7 +131,11 @@ QJsonObject IwbReader::presentation()
 
 LessonSlide IwbReader::slide(int index)
 {
-    const SlideLosses losses = m_losses.slide(index + 1);
+    return slide(index, m_losses.slide(index + 1));
+}
+
+LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
+{
     const auto native = m_native.page(m_content.pageId(index));
     LessonSlide slide;
     if (native) {

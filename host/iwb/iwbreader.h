@@ -26,10 +26,13 @@ public:
     }
 
 private:
+    LessonSlide slide(int index, const SlideLosses &losses);
+    QSet<QString> madePicturesInUse();
     void nameResources();
     QString resolve(const QString &reference, QString *problem) override
     {
         const QString path = m_package.resolve(reference, problem);
+        m_asked.insert(path);
         return m_lessonPaths.value(path, path);
     }
     QString file(const QString &path) override { return resourceFile(path); }
@@ -44,6 +47,7 @@ private:
     QHash<QString, QString> m_records; // what they say of each element
     QMap<QString, QString> m_resources; // paths in the package by those in the lesson
     QHash<QString, QString> m_lessonPaths; // the other way round
+    QSet<QString> m_asked; // paths that the pages show
     QHash<QString, int> m_pageNumbers;
     QStringList m_slideIds;
 };

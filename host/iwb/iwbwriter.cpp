@@ -49,6 +49,7 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
 {
     m_losses.setFormat(QStringLiteral("IWB"));
     m_target.setKept(context.isKept);
+    m_pages.setPainter(context.painter);
     if (context.verify && m_losses.presentation().isHeard()) {
         m_check = std::make_unique<IwbPageCheck>(context.plugin, m_media);
     }
@@ -123,6 +124,7 @@ void IwbWriter::startPages()
     pages.removeChild(mark);
     const int place = text.indexOf(marked);
     m_contentSize = text.size();
+    m_contentHash.addData(text.left(place));
     m_target.write(contentFile, text.left(place));
     m_afterPages = text.mid(place + marked.size());
 }
@@ -150,6 +152,7 @@ void IwbWriter::append(const QByteArray &text)
 {
     m_contentSize += text.size();
     checkXmlSize(m_contentSize, m_target.target());
+    m_contentHash.addData(text);
     m_target.append(contentFile, text);
 }
 
@@ -177,7 +180,9 @@ void IwbWriter::finish()
 {
     if (m_pages.document().isNull()) {
         start({});
-        m_target.write(contentFile, xmlDocumentText(m_pages.document().documentElement()));
+        const QByteArray text = xmlDocumentText(m_pages.document().documentElement());
+        m_contentHash.addData(text);
+        m_target.write(contentFile, text);
     } else {
         finishPages();
     }
@@ -198,7 +203,7 @@ void IwbWriter::finish()
         losses.note(QStringLiteral("fonts"), sentence);
     }
     if (m_native) {
-        m_native->finish(m_presentation, m_media);
+        m_native->finish(m_presentation, m_media, m_contentHash.result());
     }
     const QStringList unused = m_media.unused();
     if (!m_native && !unused.isEmpty()) {

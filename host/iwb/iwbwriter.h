@@ -10,6 +10,8 @@
 #include "lesson/missingfonts.h"
 #include "losses/slidelosses.h"
 
+#include <QCryptographicHash>
+
 namespace lessonhost {
 
 /*!
@@ -49,6 +51,7 @@ private:
     MissingFonts m_missing;
     int m_slides = 0;
     qint64 m_contentSize = 0; // of the document
+    QCryptographicHash m_contentHash{QCryptographicHash::Sha1};
 };
 
 } // namespace lessonhost

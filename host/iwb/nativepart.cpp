@@ -10,6 +10,7 @@
 #include "lesson/itemkeys.h"
 #include "lesson/slidelimits.h"
 
+#include <QCryptographicHash>
 #include <QJsonDocument>
 
 namespace lessonhost {
@@ -26,6 +27,8 @@ namespace Keys {
 const QLatin1String form("form");
 const QLatin1String presentation("presentation");
 const QLatin1String files("files");
+const QLatin1String made("made");
+const QLatin1String document("document");
 const QLatin1String slide("slide");
 const QLatin1String background("background");
 const QLatin1String ids("ids");
@@ -138,7 +141,7 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
     return true;
 }
 
-void NativePartWriter::finish(const QJsonObject &presentation, const IwbMedia &media)
+void NativePartWriter::finish(const QJsonObject &presentation, const IwbMedia &media, const QByteArray &document)
 {
     QJsonObject files;
     for (const QString &path : media.paths()) {
@@ -150,7 +153,11 @@ void NativePartWriter::finish(const QJsonObject &presentation, const IwbMedia &m
         files.insert(path, place);
     }
     m_target.write(lessonFile,
-                   QJsonDocument(QJsonObject{{Keys::form, form}, {Keys::presentation, presentation}, {Keys::files, files}})
+                   QJsonDocument(QJsonObject{{Keys::form, form},
+                                             {Keys::presentation, presentation},
+                                             {Keys::files, files},
+                                             {Keys::made, QJsonArray::fromStringList(media.made())},
+                                             {Keys::document, QString::fromLatin1(document.toHex())}})
                        .toJson(QJsonDocument::Compact));
 }
 
@@ -166,6 +173,14 @@ NativePart::NativePart(const IwbPackage &package)
         return;
     }
     m_presentation = lesson.value(Keys::presentation).toObject();
+    for (const QJsonValue &path : lesson.value(Keys::made).toArray()) {
+        m_made.insert(path.toString());
+    }
+    QCryptographicHash document(QCryptographicHash::Sha1);
+    InputFile content(package.contentFile(), package.displayName());
+    document.addData(&content);
+    content.check();
+    m_isUntouched = lesson.value(Keys::document).toString() == QLatin1String(document.result().toHex());
     const QJsonObject files = lesson.value(Keys::files).toObject();
     for (auto it = files.constBegin(); it != files.constEnd(); ++it) {
         const QString place = it.value().toString();

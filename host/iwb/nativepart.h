@@ -5,6 +5,7 @@
 #include "lesson/lesson.h"
 
 #include <QHash>
+#include <QSet>
 #include <QVector>
 
 #include <optional>
@@ -42,7 +43,8 @@ struct NativePage
 /*!
  * The lesson itself, beside the document of an IWB package, in files that programs of other boards pass over:
  *
- *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "files": {path in the lesson: path in the package}}
+ *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "files": {path in the lesson: path in the package},
+ *                                      "made": [pictures of items], "document": checksum of content.xml}
  *     additional/native/page1.json    {"slide": {...}, "background": {"ids", "mark"}, "items": [{"item", "parts"}]}
  *     additional/native/files/...     files of the lesson that no page shows as they are
  *
@@ -56,8 +58,8 @@ public:
     //! page: with the records about it in its document. False, and nothing is written, for a slide that JSON can't hold.
     bool writePage(int number, const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items,
                    const QDomElement &page);
-    //! Throws LessonError.
-    void finish(const QJsonObject &presentation, const IwbMedia &media);
+    //! document: the checksum of what was written. Throws LessonError.
+    void finish(const QJsonObject &presentation, const IwbMedia &media, const QByteArray &document);
 
 private:
     PackageTarget &m_target;
@@ -78,6 +80,10 @@ public:
 
     //! Paths of the lesson's files in the package, by those in the lesson.
     const QHash<QString, QString> &files() const { return m_files; }
+    //! Whether a picture stands for an item, and is no file of the lesson.
+    bool isMade(const QString &packagePath) const { return m_made.contains(packagePath); }
+    //! Whether the document is, byte for byte, what was written.
+    bool isUntouched() const { return m_isUntouched; }
     static bool isPart(const QString &packagePath);
 
 private:
@@ -85,6 +91,8 @@ private:
     bool m_isThere = false;
     QJsonObject m_presentation;
     QHash<QString, QString> m_files;
+    QSet<QString> m_made;
+    bool m_isUntouched = false;
 };
 
 //! One mark for all elements of a page's background.

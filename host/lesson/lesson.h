@@ -2,13 +2,16 @@
 #define LESSON_H
 
 #include <QHash>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class IZQTransformation;
 
@@ -73,6 +76,26 @@ public:
 };
 
 /*!
+ * An item as a picture.
+ */
+struct PaintedItem
+{
+    QImage image; //!< with nothing where the item isn't
+    QRectF box; //!< where it stands on the page, upright
+};
+
+/*!
+ * Paints items for formats that have no form for them.
+ */
+class ItemPainter
+{
+public:
+    virtual ~ItemPainter() = default;
+    //! page: pixels. Nothing for an item that shows nothing. Throws LessonError.
+    virtual std::optional<PaintedItem> paint(const QJsonObject &item, const QSizeF &page) = 0;
+};
+
+/*!
  * What readers and writers are given to work with.
  */
 struct LessonContext
@@ -82,6 +105,9 @@ struct LessonContext
     bool verify = true; //!< read back what was written and report what did not survive
     bool isKept = true; //!< the output is for the user, and not only for what is made of it
     QHash<QString, QString> options; //!< of single formats, by the name of the command's option
+    //! Makes a painter for the lesson of a reader; may be empty.
+    std::function<std::unique_ptr<ItemPainter>(LessonReader &reader)> makePainter;
+    ItemPainter *painter = nullptr; //!< of the lesson that is written; null where there is none
 };
 
 } // namespace lessonhost

@@ -27,6 +27,8 @@ QLatin1String kindName(Loss::Kind kind)
         return QLatin1String("kept");
     case Loss::File:
         return QLatin1String("file");
+    case Loss::AsPicture:
+        return QLatin1String("asPicture");
     case Loss::NotShown:
         return QLatin1String("notShown");
     case Loss::Otherwise:
@@ -191,6 +193,9 @@ QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format
     case Loss::File:
         return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
             + listed(losses);
+    case Loss::AsPicture:
+        return number + QLatin1String(count == 1 ? " item is a picture" : " items are pictures")
+            + QLatin1String(" on other boards: ") + countedByType(losses);
     case Loss::NotShown:
         return number + QLatin1String(count == 1 ? " item isn't" : " items aren't")
             + QLatin1String(" shown by other boards: ") + countedByType(losses);
@@ -229,7 +234,7 @@ QString LossReport::summary() const
 {
     QStringList lines;
     for (const auto kind :
-         {Loss::Value, Loss::Item, Loss::File, Loss::NotShown, Loss::Otherwise, Loss::Kept, Loss::Note}) {
+         {Loss::Value, Loss::Item, Loss::File, Loss::AsPicture, Loss::NotShown, Loss::Otherwise, Loss::Kept, Loss::Note}) {
         QVector<Loss> losses;
         std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
                      [kind](const Loss &loss) { return loss.kind == kind; });

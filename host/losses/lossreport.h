@@ -19,6 +19,7 @@ struct Loss
         Kept, //!< an item nobody can convert went over as it came: named, but no loss
         File, //!< a file that the lesson names isn't there or can't be taken
         Note, //!< done otherwise than one would expect: named, but no loss
+        AsPicture, //!< an item that other boards show as a picture; it travels along and comes back, so no loss
         NotShown, //!< an item that other boards don't show; it travels along and comes back, so no loss
         Otherwise, //!< a value that other boards show otherwise; it travels along, too
     };

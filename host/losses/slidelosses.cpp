@@ -38,6 +38,11 @@ void SlideLosses::item(const LossOwner &owner, const QString &why) const
     add(m_isElsewhere ? Loss::NotShown : Loss::Item, owner, {}, why);
 }
 
+void SlideLosses::picture(const LossOwner &owner) const
+{
+    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {}) : item(owner, QStringLiteral("it became a picture"));
+}
+
 void SlideLosses::kept(const LossOwner &owner) const
 {
     add(Loss::Kept, owner, {}, {});

@@ -47,6 +47,8 @@ public:
     void value(const LossOwner &owner, const QString &key, const QString &detail = {}) const;
     //! An item that isn't there.
     void item(const LossOwner &owner, const QString &why = {}) const;
+    //! An item that became a picture.
+    void picture(const LossOwner &owner) const;
     //! An item that nobody can convert and that goes over as it came.
     void kept(const LossOwner &owner) const;
     //! A file that isn't there or can't be taken.

@@ -1,0 +1,105 @@
+#include "render/slideitempainter.h"
+
+#include "lesson/itemkeys.h"
+#include "lesson/itemvalues.h"
+#include "render/drawings.h"
+#include "render/plainsvg.h"
+#include "render/slidepictures.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace lessonhost {
+
+namespace {
+
+constexpr double sharpness = 2; // pixels for each of the page
+constexpr double overview = 0.5; // the same, to find where an item is
+constexpr double largestSide = 16384;
+
+IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
+{
+    IwbItemWriter::Setting setting;
+    setting.plugin = plugin;
+    setting.media = media;
+    setting.keepsLinks = false;
+    return setting;
+}
+
+QRect paintedRect(const QImage &image)
+{
+    QRect painted;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        int left = 0;
+        while (left < image.width() && qAlpha(line[left]) == 0) {
+            ++left;
+        }
+        if (left == image.width()) {
+            continue;
+        }
+        int right = image.width() - 1;
+        while (qAlpha(line[right]) == 0) {
+            --right;
+        }
+        painted = painted.united(QRect(left, y, right - left + 1, 1));
+    }
+    return painted;
+}
+
+} // namespace
+
+SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plugin)
+    : m_printer(m_store)
+    , m_pages(drawnSetting(plugin, &m_media))
+{
+    const QStringList files = reader.resources();
+    for (const QString &file : files) {
+        m_media.add(file, reader.resourceFile(file));
+    }
+}
+
+// First where it is, in an area larger than the page, then what it is.
+std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, const QSizeF &page)
+{
+    m_pages.start({{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}},
+                  {});
+    PlainSvg plain(page, m_media, m_store, Qt::transparent);
+    Drawings(plain, m_pages, m_media).draw(item);
+    SlidePicture drawn;
+    drawn.size = page;
+    drawn.svg = plain.finished();
+    m_media.storeNew([](const QString &, const IwbMedia::File &) {});
+
+    const auto painted = [&](const QRectF &area, double scale) {
+        const QSizeF size = area.size() * scale;
+        QImage image(QSizeF(qBound(1.0, std::ceil(size.width()), largestSide),
+                            qBound(1.0, std::ceil(size.height()), largestSide))
+                         .toSize(),
+                     QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        m_printer.paint(painter, drawn, QRectF(-area.topLeft() * scale, page * scale));
+        return image;
+    };
+    const QSizeF half = page / 2;
+    const QRectF around = QRectF(QPointF(), page).adjusted(-half.width(), -half.height(), half.width(), half.height());
+    const QRect found = paintedRect(painted(around, overview));
+    if (found.isEmpty()) {
+        return {};
+    }
+    const QRectF near(around.topLeft() + QPointF(found.topLeft()) / overview, QSizeF(found.size()) / overview);
+    const QRectF area(QPointF(std::floor(near.x()) - 2, std::floor(near.y()) - 2),
+                      QSizeF(std::ceil(near.width()) + 4, std::ceil(near.height()) + 4));
+    const QImage image = painted(area, sharpness);
+    const QRect exact = paintedRect(image);
+    if (exact.isEmpty()) {
+        return {};
+    }
+    return PaintedItem{image.copy(exact),
+                       QRectF(area.topLeft() + QPointF(exact.topLeft()) / sharpness, QSizeF(exact.size()) / sharpness)};
+}
+
+} // namespace lessonhost

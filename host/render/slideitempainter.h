@@ -1,0 +1,32 @@
+#ifndef SLIDEITEMPAINTER_H
+#define SLIDEITEMPAINTER_H
+
+#include "iwb/iwbmedia.h"
+#include "iwb/iwbpagewriter.h"
+#include "lesson/lesson.h"
+#include "render/pageprinter.h"
+#include "render/picturestore.h"
+
+namespace lessonhost {
+
+/*!
+ * Paints items one by one as slides show them, at twice their size, on nothing.
+ */
+class SlideItemPainter : public ItemPainter
+{
+public:
+    //! reader: of the lesson; it has to live as long. Throws LessonError.
+    SlideItemPainter(LessonReader &reader, IZQTransformation *plugin);
+
+    std::optional<PaintedItem> paint(const QJsonObject &item, const QSizeF &page) override;
+
+private:
+    IwbMedia m_media;
+    PictureStore m_store;
+    PagePrinter m_printer;
+    IwbPageWriter m_pages;
+};
+
+} // namespace lessonhost
+
+#endif // SLIDEITEMPAINTER_H
