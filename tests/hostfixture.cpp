@@ -71,6 +71,7 @@ LossReport convertedLesson(const QString &from, const QString &to, const QString
     LessonContext complete = context;
     complete.plugin = plugin();
     complete.losses = &losses;
+    complete.options.insert("plain", {});
     try {
         convertLesson(lessonFormatOfInput(from), from,
                       format.isEmpty() ? lessonFormatOfOutput(to) : lessonFormatByName(format), to, complete,

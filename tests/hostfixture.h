@@ -51,7 +51,7 @@ QMap<QString, QByteArray> contentOfTarget(const QString &target);
 //! The reader of a lesson, in the format that its name tells. Throws LessonError.
 std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses = nullptr);
 
-//! Converts a lesson through the library and tells its losses; format stands for that of the output's name. Fails the
+//! Converts a lesson through the library, without what other boards pass over, and tells its losses; format stands for that of the output's name. Fails the
 //! program if it can't be.
 LossReport convertedLesson(const QString &from, const QString &to, const QString &format = {},
                            const LessonContext &context = {});

@@ -43,7 +43,7 @@ private slots:
     {
         const Table<QString, int, QString, QString> row("line", "exitCode", "output", "errors");
         row("out", "$L convert g.zqtx - --to json | cmp - g.json", 0, "", "");
-        row("in and out", "cat g.json | $L convert - - --to zqtx | cmp - g.zqtx", 0, "", "");
+        row("in and out", "cat g.json | $L convert - - --to zqtx | $L convert - - --to json | cmp - g.json", 0, "", "");
         row("handed over", "$L info <(cat g.zqtx)", 0, "Mind maps", "");
         row("by its device", "$L info /dev/stdin < g.iwb", 0, "Mind maps", "");
         row("the wrong name", "$L info g.iwb", 0, "Mind maps", "g.iwb is called like a lesson in the format iwb");

@@ -49,6 +49,9 @@ struct Road_
     Judge judge;
 };
 
+// IWB with the lesson itself in it.
+const QString wholeIwb = "iwb whole"_s;
+
 /*!
  * A folder in which lessons are converted from step to step.
  */
@@ -84,7 +87,11 @@ public:
         context.plugin = plugin();
         context.losses = &losses;
         const QString input = folder() + '/' + from;
-        convertLesson(lessonFormatOfInput(input), input, lessonFormatByName(format), folder() + '/' + to, context,
+        const bool isWhole = format == wholeIwb;
+        if (!isWhole) {
+            context.options.insert("plain", {});
+        }
+        convertLesson(lessonFormatOfInput(input), input, lessonFormatByName(isWhole ? "iwb" : format), folder() + '/' + to, context,
                       [](int, int) {});
         return losses;
     }
@@ -130,7 +137,7 @@ private:
 
 bool isLoss(const Loss &loss)
 {
-    return loss.kind != Loss::Note && loss.kind != Loss::Kept;
+    return isLoss(loss.kind);
 }
 
 // The key of the item that holds a value, or the place of a value in XML but for the numbers of its steps.
@@ -610,6 +617,8 @@ const QVector<Road_> &roads()
          [](const Given &given, bool isTwice) { return judgePackage(given, "zqtx", isTwice); }},
         {"json-iwb-json", [](quint32 seed) { return randomModel(seed, true); },
          [](const Given &given, bool isTwice) { return judgeModel(given, "iwb", Road::Drawn, isTwice); }},
+        {"json-iwb whole-json", [](quint32 seed) { return randomModel(seed, true); },
+         [](const Given &given, bool isTwice) { return judgeModel(given, wholeIwb, Road::Kept, isTwice); }},
         {"iwb-json-iwb", [](quint32 seed) { return randomPackage(seed, "iwb"); },
          [](const Given &given, bool isTwice) { return judgePackage(given, "iwb", isTwice); }},
         {"rawxml-json", randomRaw, judgeRaw},

@@ -50,6 +50,7 @@ Losses convert(const QString &input, const QString &output)
     LessonContext context;
     context.plugin = &plugin;
     context.losses = &report;
+    context.options.insert(QStringLiteral("plain"), {});
     convertLesson(lessonFormatOfInput(input), input, lessonFormatOfOutput(output), output, context, [](int, int) {});
     Losses losses;
     for (const Loss &loss : report.entries()) {

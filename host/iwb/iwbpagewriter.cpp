@@ -62,7 +62,9 @@ QDomElement IwbPageWriter::pageSet() const
 QDomElement IwbPageWriter::addPage(const QJsonObject &slide, int number, const SlideLosses &losses)
 {
     m_number = number;
-    m_ids = {};
+    if (!m_isUniqueInDocument) {
+        m_ids = {};
+    }
     // The identifier names a file.
     QString id = withoutControlCharacters(valueText(slide.value(SlideKeys::id)));
     if (!problemWithFileName(id).isEmpty()) {

@@ -47,6 +47,10 @@ public:
 
     IwbItemWriter &items() { return m_items; }
 
+    //! Records know elements by their identifiers, whatever page they stand on. Without this, what items on two pages
+    //! call themselves is kept.
+    void setUniqueInDocument() { m_isUniqueInDocument = true; }
+
     //! Items without a form become pictures; null for none. It has to live as long.
     void setPainter(ItemPainter *painter);
 
@@ -67,6 +71,7 @@ private:
     QSizeF m_pageSize;
     int m_number = 0; // of the page that gets items
     UniqueIds m_ids; // of its elements
+    bool m_isUniqueInDocument = false;
     int m_generatedIds = 0;
     int m_pictures = 0; // of items
 };

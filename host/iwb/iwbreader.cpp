@@ -9,8 +9,6 @@
 #include "lesson/itemvalues.h"
 #include "lesson/slidelimits.h"
 
-#include <algorithm>
-
 namespace lessonhost {
 
 namespace {
@@ -18,16 +16,6 @@ namespace {
 // What documents say about themselves, and the lesson's keys for it.
 constexpr std::pair<const char *, const char *> metaKeys[] = {
     {"owner", "Author"}, {"title", "Title"}, {"date", "Date"}, {"modified", "Date_modified"}};
-
-// A raw lesson tells its size in its slides.
-bool hasSize(const QJsonObject &presentation, const QJsonObject &size)
-{
-    const QLatin1String keys[] = {PresentationKeys::width, PresentationKeys::height};
-    return std::all_of(std::begin(keys), std::end(keys), [&](QLatin1String key) {
-        const double own = itemNumber(presentation.value(key));
-        return !(own > 0) || qAbs(own - itemNumber(size.value(key))) < 0.01;
-    });
-}
 
 } // namespace
 
@@ -114,7 +102,9 @@ QJsonObject IwbReader::presentation()
     QJsonObject presentation = shown;
     if (m_native.isThere()) {
         presentation = m_native.presentation();
-        if (!hasSize(presentation, shown)) {
+        const QSizeF size(itemNumber(shown.value(PresentationKeys::width)), itemNumber(shown.value(PresentationKeys::height)));
+        const QSizeF changed = size - m_native.size();
+        if (qAbs(changed.width()) > 0.01 || qAbs(changed.height()) > 0.01) {
             presentation.insert(PresentationKeys::width, shown.value(PresentationKeys::width));
             presentation.insert(PresentationKeys::height, shown.value(PresentationKeys::height));
         }

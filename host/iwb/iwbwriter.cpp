@@ -55,6 +55,7 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     }
     if (!context.options.contains(QStringLiteral("plain"))) {
         m_native = std::make_unique<NativePartWriter>(m_target);
+        m_pages.setUniqueInDocument();
     }
 }
 
@@ -203,7 +204,7 @@ void IwbWriter::finish()
         losses.note(QStringLiteral("fonts"), sentence);
     }
     if (m_native) {
-        m_native->finish(m_presentation, m_media, m_contentHash.result());
+        m_native->finish(m_presentation, m_pages.pageSize(), m_media, m_contentHash.result());
     }
     const QStringList unused = m_media.unused();
     if (!m_native && !unused.isEmpty()) {

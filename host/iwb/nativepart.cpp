@@ -26,6 +26,7 @@ const QLatin1String pagePrefix("page");
 namespace Keys {
 const QLatin1String form("form");
 const QLatin1String presentation("presentation");
+const QLatin1String size("size");
 const QLatin1String files("files");
 const QLatin1String made("made");
 const QLatin1String document("document");
@@ -134,14 +135,15 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
                                         {Keys::mark, backgroundMark(background, records)}}},
                            {Keys::items, entries}};
     const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
-    if (text.size() > 3 * maximumSlideSize || QJsonDocument::fromJson(text).object() != json) {
+    if (text.size() > 3 * maximumSlideSize || QJsonDocument::fromJson(text).toJson(QJsonDocument::Compact) != text) {
         return false;
     }
     m_target.write(pageFile(pagePrefix + QString::number(number)), text);
     return true;
 }
 
-void NativePartWriter::finish(const QJsonObject &presentation, const IwbMedia &media, const QByteArray &document)
+void NativePartWriter::finish(const QJsonObject &presentation, const QSizeF &size, const IwbMedia &media,
+                              const QByteArray &document)
 {
     QJsonObject files;
     for (const QString &path : media.paths()) {
@@ -155,6 +157,7 @@ void NativePartWriter::finish(const QJsonObject &presentation, const IwbMedia &m
     m_target.write(lessonFile,
                    QJsonDocument(QJsonObject{{Keys::form, form},
                                              {Keys::presentation, presentation},
+                                             {Keys::size, QJsonArray{size.width(), size.height()}},
                                              {Keys::files, files},
                                              {Keys::made, QJsonArray::fromStringList(media.made())},
                                              {Keys::document, QString::fromLatin1(document.toHex())}})
@@ -173,6 +176,8 @@ NativePart::NativePart(const IwbPackage &package)
         return;
     }
     m_presentation = lesson.value(Keys::presentation).toObject();
+    const QJsonArray size = lesson.value(Keys::size).toArray();
+    m_size = QSizeF(size.at(0).toDouble(), size.at(1).toDouble());
     for (const QJsonValue &path : lesson.value(Keys::made).toArray()) {
         m_made.insert(path.toString());
     }

@@ -43,7 +43,7 @@ struct NativePage
 /*!
  * The lesson itself, beside the document of an IWB package, in files that programs of other boards pass over:
  *
- *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "files": {path in the lesson: path in the package},
+ *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "size": [w, h], "files": {path in the lesson: path in the package},
  *                                      "made": [pictures of items], "document": checksum of content.xml}
  *     additional/native/page1.json    {"slide": {...}, "background": {"ids", "mark"}, "items": [{"item", "parts"}]}
  *     additional/native/files/...     files of the lesson that no page shows as they are
@@ -58,8 +58,8 @@ public:
     //! page: with the records about it in its document. False, and nothing is written, for a slide that JSON can't hold.
     bool writePage(int number, const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items,
                    const QDomElement &page);
-    //! document: the checksum of what was written. Throws LessonError.
-    void finish(const QJsonObject &presentation, const IwbMedia &media, const QByteArray &document);
+    //! size: of the pages; document: the checksum of what was written. Throws LessonError.
+    void finish(const QJsonObject &presentation, const QSizeF &size, const IwbMedia &media, const QByteArray &document);
 
 private:
     PackageTarget &m_target;
@@ -75,6 +75,8 @@ public:
 
     bool isThere() const { return m_isThere; }
     const QJsonObject &presentation() const { return m_presentation; }
+    //! Of the pages, as it was written.
+    QSizeF size() const { return m_size; }
     //! What the page with that identifier was made of. Throws LessonError where the file can't be read.
     std::optional<NativePage> page(const QString &pageId) const;
 
@@ -90,6 +92,7 @@ private:
     const IwbPackage &m_package;
     bool m_isThere = false;
     QJsonObject m_presentation;
+    QSizeF m_size;
     QHash<QString, QString> m_files;
     QSet<QString> m_made;
     bool m_isUntouched = false;

@@ -50,7 +50,7 @@ void SlideLosses::kept(const LossOwner &owner) const
 
 void SlideLosses::file(const LossOwner &owner, const QString &reference, const QString &why) const
 {
-    add(Loss::File, owner, reference, why);
+    add(m_isElsewhere ? Loss::Otherwise : Loss::File, owner, reference, why);
 }
 
 void SlideLosses::note(const LossOwner &owner, const QString &detail, const QString &key) const
@@ -62,7 +62,7 @@ bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) cons
 {
     return m_report
         && std::any_of(m_report->entries().cbegin() + m_first, m_report->entries().cend(), [&](const Loss &loss) {
-               return loss.kind == Loss::File && loss.slide == m_slide && loss.itemType == owner.type
+               return (loss.kind == Loss::File || loss.kind == Loss::Otherwise) && loss.slide == m_slide && loss.itemType == owner.type
                    && loss.key == reference && (owner.id.isEmpty() || loss.itemId.isEmpty() || loss.itemId == owner.id);
            });
 }

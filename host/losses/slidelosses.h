@@ -40,7 +40,7 @@ public:
     //! False where everything is dropped, so that nothing has to be looked for.
     bool isHeard() const { return m_report; }
 
-    //! The same slide, where values and items are only told of what other boards show.
+    //! The same slide, where everything is only told of what other boards show.
     SlideLosses elsewhere() const;
 
     //! A value that did not survive.
