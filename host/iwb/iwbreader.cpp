@@ -82,7 +82,8 @@ void IwbReader::nameResources()
     const QSet<QString> used = madePicturesInUse();
     const QStringList inPackage = m_package.resources();
     for (const QString &path : inPackage) {
-        const bool isOwn = m_native.isThere() && (NativePart::isPart(path) || (m_native.isMade(path) && !used.contains(path)));
+        const bool isOwn =
+            m_native.isThere() && (NativePart::isPart(path) || (m_native.isMade(path) && !used.contains(path)));
         if (m_lessonPaths.contains(path) || isOwn) {
             continue;
         }
@@ -102,7 +103,8 @@ QJsonObject IwbReader::presentation()
     QJsonObject presentation = shown;
     if (m_native.isThere()) {
         presentation = m_native.presentation();
-        const QSizeF size(itemNumber(shown.value(PresentationKeys::width)), itemNumber(shown.value(PresentationKeys::height)));
+        const QSizeF size(itemNumber(shown.value(PresentationKeys::width)),
+                          itemNumber(shown.value(PresentationKeys::height)));
         const QSizeF changed = size - m_native.size();
         if (qAbs(changed.width()) > 0.01 || qAbs(changed.height()) > 0.01) {
             presentation.insert(PresentationKeys::width, shown.value(PresentationKeys::width));

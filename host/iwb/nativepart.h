@@ -43,10 +43,10 @@ struct NativePage
 /*!
  * The lesson itself, beside the document of an IWB package, in files that programs of other boards pass over:
  *
- *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "size": [w, h], "files": {path in the lesson: path in the package},
- *                                      "made": [pictures of items], "document": checksum of content.xml}
- *     additional/native/page1.json    {"slide": {...}, "background": {"ids", "mark"}, "items": [{"item", "parts"}]}
- *     additional/native/files/...     files of the lesson that no page shows as they are
+ *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "size": [w, h], "files": {path in the lesson:
+ * path in the package}, "made": [pictures of items], "document": checksum of content.xml} additional/native/page1.json
+ * {"slide": {...}, "background": {"ids", "mark"}, "items": [{"item", "parts"}]} additional/native/files/...     files
+ * of the lesson that no page shows as they are
  *
  * Each item is bound to the elements that stand for it by their identifiers and marks.
  */
@@ -55,7 +55,8 @@ class NativePartWriter
 public:
     explicit NativePartWriter(PackageTarget &target);
 
-    //! page: with the records about it in its document. False, and nothing is written, for a slide that JSON can't hold.
+    //! page: with the records about it in its document. False, and nothing is written, for a slide that JSON can't
+    //! hold.
     bool writePage(int number, const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items,
                    const QDomElement &page);
     //! size: of the pages; document: the checksum of what was written. Throws LessonError.

@@ -233,8 +233,8 @@ QString LossReport::shared(const QString &text)
 QString LossReport::summary() const
 {
     QStringList lines;
-    for (const auto kind :
-         {Loss::Value, Loss::Item, Loss::File, Loss::AsPicture, Loss::NotShown, Loss::Otherwise, Loss::Kept, Loss::Note}) {
+    for (const auto kind : {Loss::Value, Loss::Item, Loss::File, Loss::AsPicture, Loss::NotShown, Loss::Otherwise,
+                            Loss::Kept, Loss::Note}) {
         QVector<Loss> losses;
         std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
                      [kind](const Loss &loss) { return loss.kind == kind; });

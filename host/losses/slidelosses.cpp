@@ -62,8 +62,9 @@ bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) cons
 {
     return m_report
         && std::any_of(m_report->entries().cbegin() + m_first, m_report->entries().cend(), [&](const Loss &loss) {
-               return (loss.kind == Loss::File || loss.kind == Loss::Otherwise) && loss.slide == m_slide && loss.itemType == owner.type
-                   && loss.key == reference && (owner.id.isEmpty() || loss.itemId.isEmpty() || loss.itemId == owner.id);
+               return (loss.kind == Loss::File || loss.kind == Loss::Otherwise) && loss.slide == m_slide
+                   && loss.itemType == owner.type && loss.key == reference
+                   && (owner.id.isEmpty() || loss.itemId.isEmpty() || loss.itemId == owner.id);
            });
 }
 

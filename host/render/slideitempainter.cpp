@@ -63,8 +63,8 @@ SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plug
 // First where it is, in an area larger than the page, then what it is.
 std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, const QSizeF &page)
 {
-    m_pages.start({{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}},
-                  {});
+    m_pages.start(
+        {{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}}, {});
     PlainSvg plain(page, m_media, m_store, Qt::transparent);
     Drawings(plain, m_pages, m_media).draw(item);
     SlidePicture drawn;

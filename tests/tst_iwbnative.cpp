@@ -1,0 +1,155 @@
+#include "hostfixture.h"
+#include "testtable.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QtTest>
+
+/*!
+ * The lesson itself in IWB packages, and what other programs do to the elements that stand for it.
+ */
+class TestIwbNative : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    // Through the command, which knows how to paint items.
+    QString convert(const QString &from, const QString &to)
+    {
+        const QStringList format = to.contains('.') ? QStringList() : QStringList{"--to", "iwb"};
+        const auto outcome = runCommand(QStringList{"convert", from, to, "--json"} + format, m_folder.path());
+        if (outcome.exitCode != 0) {
+            qFatal("%s", qPrintable(outcome.errors));
+        }
+        return outcome.output;
+    }
+
+    // "Type ID" of each item.
+    QStringList items(const QString &lesson)
+    {
+        QStringList texts;
+        const QJsonArray slides = QJsonDocument::fromJson(fileContent(path(lesson))).object().value("Slides").toArray();
+        for (const QJsonValue &item : slides.first().toObject().value("Items").toArray()) {
+            texts.append(item.toObject().value("Type").toString() + ' ' + item.toObject().value("ID").toString());
+        }
+        return texts;
+    }
+
+    void edit(const QString &from, const QString &to)
+    {
+        const QString file = path("there/content.xml");
+        QByteArray text = fileContent(file);
+        QVERIFY2(from.isEmpty() || text.contains(from.toUtf8()), qPrintable(from));
+        QFile::remove(file);
+        putFile(file, text.replace(from.toUtf8(), to.toUtf8()));
+    }
+
+private slots:
+    void comesBackAsItWas_data()
+    {
+        QTest::addColumn<QString>("example");
+        const QStringList examples =
+            QDir(EXAMPLES_DIR).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Files, QDir::Name);
+        for (const QString &name : examples) {
+            if (QFile::exists(EXAMPLES_DIR "/" + name + "/index.xml") || name.endsWith(".json")) {
+                QTest::addRow("%s", qPrintable(name)) << QString(EXAMPLES_DIR "/" + name);
+            }
+        }
+    }
+
+    void comesBackAsItWas()
+    {
+        QFETCH(QString, example);
+        convert(example, "given.json");
+        const QJsonObject report = json(convert("given.json", "there.iwb").toUtf8().replace('\'', ' '));
+        convert("there.iwb", "back.json");
+        QVERIFY(fileContent(path("back.json")) == fileContent(path("given.json")));
+        // What files name and the lesson lacks stays as it is, too.
+        QCOMPARE(report.value("losses").toInt(), 0);
+        if (!example.endsWith("tools")) {
+            return;
+        }
+        // The same bytes each time.
+        convert("given.json", "one");
+        convert("given.json", "other");
+        QVERIFY(filesBelow(path("one")) == filesBelow(path("other")));
+        QVERIFY(filesBelow(path("one")).contains("additional/native/lesson.json"));
+    }
+
+    void editsWin_data()
+    {
+        const Table<QString, QString, QString, QString> row("from", "to", "items", "note");
+        const QString all = "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s"_s;
+        row("nothing", "", "", all, "");
+        row("written anew", " version=\"1.0\" ", "  version='1.0' ", all, "");
+        row("other digits and blanks", "stroke-width=\"3\"", "stroke-width=' 3.0 '", all, "");
+        row("a colour", "rgb(1,2,3)", "rgb(200,2,3)",
+            "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQSmoothStroke s", "1 thing changed");
+        row("moved picture", "ref-r", "", "ZQImagePic r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s",
+            "1 thing changed");
+        row("one of a group", "rgb(4,5,6)", "rgb(4,5,60)",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DCircle a, ZQMath2DCircle b, ZQSmoothStroke s",
+            "2 things changed");
+        row("removed", "<svg:circle", "<svg:removed", "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQSmoothStroke s",
+            "changed");
+        row("added", "<svg:circle id=\"a\"",
+            "<svg:line id='new' x1='1' y1='2' x2='3' y2='9' stroke='red'/><svg:circle id=\"a\"",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DSegment new, ZQGroupItem g, ZQSmoothStroke s",
+            "1 added");
+        row("locked by a record", "</iwb>", "<iwb:element ref='s' locked='true'/></iwb>",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQMath2DPolyline s", "1 thing changed");
+    }
+
+    void editsWin()
+    {
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QFETCH(QString, note);
+        QDir(path("there")).removeRecursively();
+        putFile(
+            path("in.json"),
+            "{\"Width\":\"800\",\"Height\":\"600\",\"Slides\":[{\"ID\":\"1\",\"Items\":["
+            "{\"Type\":\"ZQPhysicsDianZu\",\"ID\":\"r\",\"BoundingBox\":\"10,10,110,60\"},"
+            "{\"Type\":\"ZQMath2DNormalHexagon\",\"ID\":\"h\",\"BoundingBox\":\"200,10,300,110\",\"ArtObj_Ln\":\"6\","
+            "\"LineColor\":\"255,1,2,3\",\"ArtObj_Width\":\"3\"},"
+            "{\"Type\":\"ZQGroupItem\",\"ID\":\"g\",\"Children\":["
+            "{\"Type\":\"ZQMath2DCircle\",\"ID\":\"a\",\"BoundingBox\":\"400,10,450,60\",\"ArtObj_Color\":\"255,4,5,"
+            "6\"},"
+            "{\"Type\":\"ZQMath2DCircle\",\"ID\":\"b\",\"BoundingBox\":\"460,10,510,60\"}]},"
+            "{\"Type\":\"ZQSmoothStroke\",\"ID\":\"s\",\"XY\":\"10,300,20,5,20,-5\",\"Width\":\"4\"}]}]}");
+        convert("in.json", "there");
+        if (from == "ref-r") {
+            const QString text = QString::fromUtf8(fileContent(path("there/content.xml")));
+            const QString element = QRegularExpression("<svg:image id=\"r\"[^>]*>").match(text).captured();
+            QVERIFY(!element.isEmpty());
+            edit(element, QString(element).replace(QRegularExpression(" x=\"[^\"]*\""), " x=\"300\""));
+        } else {
+            edit(from, to);
+        }
+        const QString told = convert("there", "back.json");
+        QTEST(items("back.json").join(", "), "items");
+        QVERIFY2(note.isEmpty() ? !told.contains("another program") : told.contains(note), qPrintable(told));
+        // A changed picture of an item is a file of the lesson from now on.
+        const QJsonObject files =
+            QJsonDocument::fromJson(fileContent(path("back.json"))).object().value("Resources").toObject();
+        QCOMPARE(files.size(), from == "ref-r" ? 1 : 0);
+    }
+
+    void damagedPartsCountAsNone()
+    {
+        for (const QByteArray &text : {QByteArray("{"), QByteArray("{\"form\":99}"), QByteArray()}) {
+            QDir(path("there")).removeRecursively();
+            convert(EXAMPLES_DIR "/geometry", "there");
+            QFile::remove(path("there/additional/native/lesson.json"));
+            putFile(path("there/additional/native/lesson.json"), text);
+            convert("there", "back.json");
+            QVERIFY(items("back.json").contains("ZQMath2DPolyline hexagon"));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestIwbNative)
+#include "tst_iwbnative.moc"
