@@ -19,25 +19,27 @@ qint64 areaOf(const QSize &size)
 
 QString PictureStore::add(const QString &file, PixelBudget &budget)
 {
-    const Picture picture(file);
-    auto print = m_fingerprints.constFind(file);
-    if (print == m_fingerprints.constEnd()) {
-        print = m_fingerprints.insert(file, picture.fingerprint());
+    auto known = m_known.constFind(file);
+    if (known == m_known.constEnd()) {
+        const Picture picture(file);
+        known = m_known.insert(file, {picture.fingerprint(), picture.unpackedPixels()});
     }
-    const qint64 pixels = picture.unpackedPixels();
+    const QByteArray print = known->fingerprint;
+    const qint64 pixels = known->pixels;
     const qint64 most = budget.shareFor(pixels);
-    int index = m_indices.value({*print, 0}, none);
+    int index = m_indices.value({print, 0}, none);
     if (most <= 0) {
         return {};
     }
     if (index == none || areaOf(m_entries.at(index).size) > most) {
-        index = m_indices.value({*print, most}, none);
+        index = m_indices.value({print, most}, none);
     }
     if (index == none) {
+        const Picture picture(file);
         index = m_entries.size();
         const bool isWhole = areaOf(picture.size()) <= most;
         m_entries.append({file, picture.shown(most, budget).size, most, picture.format() == "svg"});
-        m_indices.insert({*print, isWhole ? 0 : most}, index);
+        m_indices.insert({print, isWhole ? 0 : most}, index);
     }
     if (m_entries.at(index).size.isEmpty()) {
         return {};
@@ -79,11 +81,17 @@ QByteArray PictureStore::drawing(const QString &name) const
 QByteArray PictureStore::text(const QDomElement &svg) const
 {
     const QDomElement copy = svg.cloneNode().toElement();
+    QHash<QString, QString> addresses; // by name
     for (QDomElement &image : imagesIn(copy)) {
         const QString name = pictureOf(image);
-        if (!name.isEmpty()) {
-            image.setAttribute(reference, addressOf(shown(name)));
+        if (name.isEmpty()) {
+            continue;
         }
+        auto address = addresses.constFind(name);
+        if (address == addresses.constEnd()) {
+            address = addresses.insert(name, addressOf(shown(name)));
+        }
+        image.setAttribute(reference, *address);
     }
     return xmlNodeText(copy).toUtf8();
 }

@@ -45,10 +45,16 @@ private:
         bool isDrawing = false;
     };
 
+    struct Known
+    {
+        QByteArray fingerprint;
+        qint64 pixels = 0; // unpacked
+    };
+
     int indexOf(const QString &name) const;
 
     QVector<Entry> m_entries;
-    QHash<QString, QByteArray> m_fingerprints; // by file
+    QHash<QString, Known> m_known; // by file
     QHash<QPair<QByteArray, qint64>, int> m_indices; // by fingerprint, and how many pixels it may have if it has more
 };
 
