@@ -79,8 +79,11 @@ bool mayBeOutOfBounds(const QString &text)
 
 QString boundedNumbers(const QString &text)
 {
-    if (text.contains(QLatin1String("nan"), Qt::CaseInsensitive)
-        || text.contains(QLatin1String("inf"), Qt::CaseInsensitive)) {
+    // Most texts have no such letter.
+    const bool mayBeNone = text.contains(QLatin1Char('n')) || text.contains(QLatin1Char('N'));
+    if (mayBeNone
+        && (text.contains(QLatin1String("nan"), Qt::CaseInsensitive)
+            || text.contains(QLatin1String("inf"), Qt::CaseInsensitive))) {
         return {};
     }
     if (!mayBeOutOfBounds(text)) {

@@ -24,9 +24,24 @@ QString factor(double value)
 
 } // namespace
 
+// Two digits behind the point. A drawing is mostly numbers, and these are quick to write.
 QString drawnNumber(double value)
 {
-    return QString::number(bounded(value), 'f', 2);
+    constexpr int mostLetters = 16;
+    QChar letters[mostLetters];
+    int first = mostLetters;
+    const auto hundredths = qRound64(bounded(value) * 100);
+    auto rest = qAbs(hundredths);
+    for (int digit = 0; digit < 3 || rest > 0; ++digit, rest /= 10) {
+        if (digit == 2) {
+            letters[--first] = QLatin1Char('.');
+        }
+        letters[--first] = QLatin1Char(char('0' + rest % 10));
+    }
+    if (hundredths < 0) {
+        letters[--first] = QLatin1Char('-');
+    }
+    return QString(letters + first, mostLetters - first);
 }
 
 QString drawnTransform(const QTransform &transform)
