@@ -261,7 +261,8 @@ private slots:
         const QStringList arguments{"a.json", "b.json", "c.json", "--to", "zqtx", "--jobs", "1", "--resume"};
         CommandProcess process;
         begin(process, arguments);
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("out/a.zqtx")), 20000);
+        // Noted as done, not only there.
+        QTRY_VERIFY_WITH_TIMEOUT(fileContent(path("out/.lessonconv-done")).contains("a.zqtx"), 20000);
         signalWorker(process, SIGSTOP);
         QTest::qWait(200);
         kill(pid_t(process.processId()), SIGINT);
