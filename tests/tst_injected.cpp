@@ -231,6 +231,7 @@ private slots:
         }
         QVERIFY(QDir().mkpath(path("before/many/new")));
         QVERIFY(QFile::copy(path("before/p1.png"), path("before/many/new/slide001.png")));
+        QVERIFY(QFile::copy(path("before/p.html"), path("before/d.html")));
         putFile(path("before/r.json"), "{}");
     }
 
@@ -250,6 +251,7 @@ private slots:
                  "out/r.json"},
                 {"new.json"}});
         row("page", Run{{"render", "in/new", "out/p.html"}, {"p.html"}});
+        row("difference", Run{{"render", "--diff", "in/new", "in/old.json", "out/d.html"}, {"d.html"}});
         row("paper", Run{{"render", "in/new.zqtx", "out/p.pdf"}, {"p.pdf"}});
         row("drawings", Run{{"render", "in/new", "out/p%d.svg"}, {"p1.svg", "p2.svg"}});
         row("pictures", Run{{"render", "in/new", "out/p%d.png"}, {"p1.png", "p2.png"}});

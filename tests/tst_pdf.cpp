@@ -112,6 +112,25 @@ private slots:
                  fileContent(path("p.jpg")));
     }
 
+    // Letters keep their distances where a group stretches them.
+    void drawsWhatIsStretched()
+    {
+        putFile(path("stretched.json"), R"({"Width":"400","Height":"300","Slides":[{"Items":[
+            {"Type":"ZQTextBoard","BoundingBox":"10,10,300,60","TextHtml":"plain"},
+            {"Type":"ZQGroupItem","BoundingBox":"0,0,9,9","Matrix":"2,0,0,1,0,0","Children":[
+                {"Type":"ZQTextBoard","BoundingBox":"10,100,180,160","TextHtml":"plain"}]}]}]})");
+        QCOMPARE(runCommand({"render", path("stretched.json"), path("stretched.pdf")}).exitCode, 0);
+        QVector<double> widths;
+        const QRegularExpression word("xMin=\"([0-9.]+)\".*xMax=\"([0-9.]+)\".*>plain<");
+        const QString words = told({"pdftotext", "-bbox", path("stretched.pdf"), "-"});
+        for (auto it = word.globalMatch(words); it.hasNext();) {
+            const QRegularExpressionMatch match = it.next();
+            widths.append(match.captured(2).toDouble() - match.captured(1).toDouble());
+        }
+        QCOMPARE(widths.size(), 2);
+        QVERIFY2(qAbs(widths.at(1) / widths.at(0) - 2) < 0.05, qPrintable(words));
+    }
+
     void tellsAboutItself()
     {
         QPDF pdf;

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
 #include <QtTest>
 
 #include <sys/resource.h>
@@ -238,7 +239,12 @@ private slots:
         const QImage page(path("drawn.png"));
         QCOMPARE(runCommand({"convert", path("drawn.json"), path("drawn"), "--to", "iwb"}).exitCode, 0);
         const QImage background(path("drawn/images/1_bgd.png"));
-        for (const QColor &color : {page.pixelColor(100, 250), page.pixelColor(300, 250),
+        QFile::remove(path("paper.png"));
+        QCOMPARE(runCommand({"render", path("drawn.json"), path("drawn.pdf")}).exitCode, 0);
+        QCOMPARE(QProcess::execute("pdftoppm", {"-png", "-singlefile", "-r", "96", path("drawn.pdf"), path("paper")}),
+                 0);
+        const QImage paper(path("paper.png"));
+        for (const QColor &color : {page.pixelColor(100, 250), page.pixelColor(300, 250), paper.pixelColor(100, 250),
                                     background.isNull() ? QColor() : background.pixelColor(9, 9)}) {
             QVERIFY2(isShown ? color == QColor(Qt::green) : color != QColor(Qt::red), qPrintable(color.name()));
         }

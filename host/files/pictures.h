@@ -37,7 +37,7 @@ private:
  */
 struct ShownPicture
 {
-    QByteArray type; //!< "png", "jpeg" or "gif"; empty for what can't be drawn
+    QByteArray type; //!< "png", "jpeg", "gif" or "svg+xml"; empty for what can't be drawn
     QByteArray bytes;
     QSize size; //!< pixels
 };

@@ -8,6 +8,7 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <cmath>
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
@@ -22,6 +23,7 @@ namespace {
 struct Release
 {
     void operator()(cairo_t *context) const { cairo_destroy(context); }
+    void operator()(cairo_pattern_t *pattern) const { cairo_pattern_destroy(pattern); }
     void operator()(cairo_surface_t *surface) const { cairo_surface_destroy(surface); }
     void operator()(RsvgHandle *drawing) const { g_object_unref(drawing); }
     void operator()(GInputStream *stream) const { g_object_unref(stream); }
@@ -53,6 +55,15 @@ cairo_matrix_t matrixOf(const QTransform &transform)
 QTransform stretch(const QSizeF &size, const QRectF &box)
 {
     return {box.width() / size.width(), 0, 0, box.height() / size.height(), box.x(), box.y()};
+}
+
+// True for what a circle stays one under.
+bool isUniform(const QTransform &transform)
+{
+    constexpr double nearly = 1e-3;
+    const double across = std::hypot(transform.m11(), transform.m12());
+    const double down = std::hypot(transform.m21(), transform.m22());
+    return qAbs(across - down) < nearly * qMax(across, down);
 }
 
 // The bytes live as long as the surface has them.
@@ -121,6 +132,7 @@ public:
 
     void beginPage(const QSizeF &size, const QString &line) override
     {
+        m_pageSize = size;
         cairo_pdf_surface_set_size(m_surface.get(), size.width(), size.height());
         m_context.reset(cairo_create(m_surface.get()));
         ++m_page;
@@ -144,12 +156,18 @@ public:
         if (box.isEmpty() || size.isEmpty()) {
             return;
         }
-        enter(stretch(size, box) * transform, opacity);
-        const RsvgRectangle whole{0, 0, size.width(), size.height()};
-        const bool isDrawn = rsvg_handle_render_document(drawing.get(), m_context.get(), &whole, &error);
-        leave(opacity);
-        if (!isDrawn) {
-            fail(error);
+        // A failure spoils what it is drawn on, so it is first drawn where nobody sees it.
+        const cairo_rectangle_t extent{0, 0, size.width(), size.height()};
+        const Held<cairo_surface_t> trial(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extent));
+        const Held<cairo_t> trialContext(cairo_create(trial.get()));
+        render(drawing.get(), trialContext.get(), size);
+        const QTransform toPage = stretch(size, box) * transform;
+        if (isUniform(toPage)) {
+            enter(toPage, opacity);
+            render(drawing.get(), m_context.get(), size);
+            leave(opacity);
+        } else {
+            renderStretched(drawing.get(), size, toPage, opacity);
         }
     }
 
@@ -185,6 +203,31 @@ private:
         return written == qint64(size) ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
     }
 
+    static void render(RsvgHandle *drawing, cairo_t *context, const QSizeF &size)
+    {
+        GError *error = nullptr;
+        const RsvgRectangle whole{0, 0, size.width(), size.height()};
+        if (!rsvg_handle_render_document(drawing, context, &whole, &error)) {
+            fail(error);
+        }
+        check(cairo_status(context));
+    }
+
+    // Under a transform that stretches, texts lose the distances of their letters. So all of it is drawn as large as
+    // there is room for, and then stretched as one thing.
+    void renderStretched(RsvgHandle *drawing, const QSizeF &size, const QTransform &toPage, double opacity)
+    {
+        const double scale = qMin(m_pageSize.width() / size.width(), m_pageSize.height() / size.height());
+        cairo_push_group(m_context.get());
+        cairo_scale(m_context.get(), scale, scale);
+        render(drawing, m_context.get(), size);
+        const Held<cairo_pattern_t> drawn(cairo_pop_group(m_context.get()));
+        enter(QTransform::fromScale(1 / scale, 1 / scale) * toPage, 1);
+        cairo_set_source(m_context.get(), drawn.get());
+        cairo_paint_with_alpha(m_context.get(), opacity);
+        leave(1);
+    }
+
     void enter(const QTransform &transform, double opacity)
     {
         const cairo_matrix_t matrix = matrixOf(transform);
@@ -213,6 +256,7 @@ private:
 
     Held<cairo_surface_t> m_surface;
     Held<cairo_t> m_context; // of the page
+    QSizeF m_pageSize;
     int m_page = 0;
 };
 

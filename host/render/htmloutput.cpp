@@ -16,7 +16,7 @@ const char *const pageHead = R"(<!DOCTYPE html>
 <style>
 body { margin: 2em auto; max-width: 1600px; padding: 0 1em; background: #f4f4f2; font-family: sans-serif; color: #222 }
 figure { margin: 0 0 2em } figcaption { margin: .4em 0; color: #555 }
-figure > svg { width: 100%; height: auto; box-shadow: 0 1px 6px #0004 } .pictures { position: absolute }
+figure > svg { height: auto; box-shadow: 0 1px 6px #0004 } .pictures { position: absolute }
 .pair { display: grid; grid-template-columns: 1fr 1fr; gap: 1em } .losses { color: #a00 } .none { color: #262 }
 </style></head><body>
 <h1>%1</h1>
@@ -40,7 +40,10 @@ HtmlOutput::HtmlOutput(const QString &path, const QString &title, const PictureS
 
 void HtmlOutput::add(const SlidePicture &picture)
 {
-    const QDomElement svg = referring(picture.svg.documentElement());
+    QDomElement svg = referring(picture.svg.documentElement());
+    const int width = qRound(picture.size.width());
+    m_widest = qMax(m_widest, width);
+    svg.setAttribute(QStringLiteral("style"), QStringLiteral("width:calc(100% * %1 / var(--widest))").arg(width));
     const QByteArray language = picture.language.code().toLatin1();
     addHtml("<figure id=\"slide" + QByteArray::number(picture.slide) + '"'
             + (language.isEmpty() ? QByteArray() : " lang=\"" + language + '"') + ">\n" + xmlNodeText(svg).toUtf8()
@@ -90,7 +93,7 @@ void HtmlOutput::addHtml(const QByteArray &html)
 
 QStringList HtmlOutput::finish()
 {
-    addHtml("</body></html>\n");
+    addHtml("<style>:root { --widest: " + QByteArray::number(m_widest) + " }</style>\n</body></html>\n");
     m_target.commit();
     return {m_target.target()};
 }

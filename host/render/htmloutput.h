@@ -29,6 +29,7 @@ private:
     const PictureStore &m_store;
     PackageTarget m_target;
     QSet<QString> m_written; // pictures
+    int m_widest = 1; // slide, which is as wide as there is room; others are in proportion
 };
 
 } // namespace lessonhost

@@ -40,7 +40,8 @@ void PagePrinter::paint(QPainter &painter, const SlidePicture &picture, const QR
     for (const SlideLayer &layer : layers) {
         painter.save();
         if (layer.picture.isNone()) {
-            QSvgRenderer(layer.svg).render(&painter, area);
+            painter.setTransform(layer.transform * toArea, true);
+            QSvgRenderer(layer.svg).render(&painter, layer.box);
         } else {
             painter.setTransform(layer.picture.transform * toArea, true);
             paintPicture(painter, layer.picture);

@@ -7,12 +7,15 @@
 #include "render/slidepictures.h"
 
 #include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
 
 namespace lessonhost {
 
 namespace {
 
 constexpr double pointsPerPixel = 72 / PictureSize::pageDotsPerInch;
+constexpr double largestDrawing = 2048; // in pixels, where it can't stay what it is
 const QLatin1String pagesName("/pages.pdf");
 
 } // namespace
@@ -60,16 +63,35 @@ void PdfOutput::draw(const SlidePicture &picture)
     const QTransform toPage =
         QTransform::fromScale(frame.page.width() / picture.size.width(), frame.page.height() / picture.size.height())
         * QTransform::fromTranslate(frame.page.x(), frame.page.y()) * toPoints;
-    const QRectF whole(QPointF(), picture.size);
     const QVector<SlideLayer> layers = layersOf(picture.svg.documentElement(), m_store);
     for (const SlideLayer &layer : layers) {
         if (!layer.picture.isNone()) {
             draw(layer.picture, toPage);
         } else {
-            m_pages->drawSvg(layer.svg, whole, toPage, 1);
+            drawLines(layer.svg, layer.box, layer.transform * toPage, 1);
         }
     }
     m_pages->endPage();
+}
+
+// Lines that one library has no place for, such as those of sizes beyond all numbers, are drawn as pixels by another.
+void PdfOutput::drawLines(const QByteArray &svg, const QRectF &box, const QTransform &toPage, double opacity)
+{
+    try {
+        m_pages->drawSvg(svg, box, toPage, opacity);
+    } catch (const std::exception &) {
+        m_pagesFile->check();
+        if (box.isEmpty()) {
+            return;
+        }
+        QImage image(box.size().scaled(largestDrawing, largestDrawing, Qt::KeepAspectRatio).toSize().expandedTo({1, 1}),
+                     QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        QSvgRenderer(svg).render(&painter);
+        painter.end();
+        m_pages->drawPicture({{}, image.size(), {}, image}, box, toPage, opacity);
+    }
 }
 
 void PdfOutput::draw(const PlacedPicture &picture, const QTransform &toPage)
@@ -80,7 +102,7 @@ void PdfOutput::draw(const PlacedPicture &picture, const QTransform &toPage)
         return;
     }
     if (m_store.isDrawing(picture.name)) {
-        m_pages->drawSvg(m_store.drawing(picture.name), picture.box, transform, picture.opacity);
+        drawLines(m_store.drawing(picture.name), picture.box, transform, picture.opacity);
         return;
     }
     PdfPicture shown{picture.name.toLatin1(), m_store.size(picture.name), {}, {}};

@@ -8,6 +8,8 @@
 
 #include <QSet>
 
+#include <functional>
+
 namespace lessonhost {
 
 struct PlacedPicture;
@@ -29,6 +31,7 @@ private:
     void work(const std::function<void()> &step);
     void draw(const SlidePicture &picture);
     void draw(const PlacedPicture &picture, const QTransform &toPage);
+    void drawLines(const QByteArray &svg, const QRectF &box, const QTransform &toPage, double opacity);
 
     RenderSettings m_settings;
     const PictureStore &m_store;

@@ -43,7 +43,8 @@ public:
 
     //! line: what the outline calls the page.
     virtual void beginPage(const QSizeF &size, const QString &line) = 0;
-    //! A drawing that names nothing outside of it, stretched to a box, which a transform brings to the page.
+    //! A drawing that names nothing outside of it, stretched to a box, which a transform brings to the page. One that
+    //! can't be drawn leaves the page as it was.
     virtual void drawSvg(const QByteArray &svg, const QRectF &box, const QTransform &transform, double opacity) = 0;
     virtual void drawPicture(const PdfPicture &picture, const QRectF &box, const QTransform &transform,
                              double opacity) = 0;

@@ -1,6 +1,10 @@
 #include "render/picturestore.h"
 
+#include "files/xmlloader.h"
 #include "files/xmltext.h"
+
+#include <QDomDocument>
+#include <QSvgRenderer>
 
 namespace lessonhost {
 
@@ -9,6 +13,7 @@ namespace {
 const QLatin1String namePrefix("picture");
 const QLatin1String reference("xlink:href");
 constexpr int none = -1;
+constexpr double largeEnough = 1024; // pixels
 
 qint64 areaOf(const QSize &size)
 {
@@ -63,6 +68,9 @@ QString PictureStore::pictureOf(const QDomElement &element) const
 ShownPicture PictureStore::shown(const QString &name) const
 {
     const Entry &entry = m_entries.at(indexOf(name));
+    if (entry.isDrawing) {
+        return {"svg+xml", drawing(name), entry.size};
+    }
     PixelBudget inner;
     return Picture(entry.file).shown(entry.most, inner);
 }
@@ -75,7 +83,18 @@ QImage PictureStore::image(const QString &name) const
 
 QByteArray PictureStore::drawing(const QString &name) const
 {
-    return Picture(m_entries.at(indexOf(name)).file).drawing().text;
+    const QByteArray text = Picture(m_entries.at(indexOf(name)).file).drawing().text;
+    const QDomDocument document = loadXml(text, QStringLiteral("svg"), XmlBlanks::Kept);
+    QDomElement svg = document.documentElement();
+    const QRectF view = QSvgRenderer(text).viewBoxF();
+    svg.setAttribute(QStringLiteral("viewBox"),
+                     QStringLiteral("%1 %2 %3 %4").arg(view.x()).arg(view.y()).arg(view.width()).arg(view.height()));
+    // Some viewers draw it as large as it says before they stretch it.
+    const double factor = qMax(1.0, largeEnough / qMax(view.width(), view.height()));
+    svg.setAttribute(QStringLiteral("width"), QString::number(view.width() * factor));
+    svg.setAttribute(QStringLiteral("height"), QString::number(view.height() * factor));
+    svg.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+    return xmlNodeText(svg).toUtf8();
 }
 
 QByteArray PictureStore::text(const QDomElement &svg) const

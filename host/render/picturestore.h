@@ -27,10 +27,11 @@ public:
     //! Pixels.
     QSize size(const QString &name) const { return m_entries.at(indexOf(name)).size; }
     bool isDrawing(const QString &name) const { return m_entries.at(indexOf(name)).isDrawing; }
+    //! A drawing as such, everything else in pixels.
     ShownPicture shown(const QString &name) const;
     //! Its pixels, made smaller if it has more than the budget had left for it.
     QImage image(const QString &name) const;
-    //! What it is where isDrawing() says so, as an svg.
+    //! What it is where isDrawing() says so, as an svg that leads nowhere and fills whatever it is stretched to.
     QByteArray drawing(const QString &name) const;
 
     //! A drawing as a text that needs nothing else.

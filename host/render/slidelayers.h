@@ -35,12 +35,15 @@ PlacedPicture placedPicture(const QDomElement &element, const PictureStore &stor
  */
 struct SlideLayer
 {
-    QByteArray svg; //!< of the whole page
+    QByteArray svg; //!< fills a box, which a transform brings to the page
+    QRectF box;
+    QTransform transform;
     PlacedPicture picture;
 };
 
 //! A drawing of a page taken apart from back to front, for libraries that are better handed pictures than texts that
-//! hold them. Drawings within it stay whole. Pictures within groups stay in the drawings.
+//! hold them. Drawings within it stay whole. What stands in groups that stretch it has its transform beside it.
+//! Pictures within groups stay in the drawings.
 QVector<SlideLayer> layersOf(const QDomElement &svg, const PictureStore &store);
 
 } // namespace lessonhost
