@@ -782,10 +782,10 @@ private:
             {QStringLiteral("updiagonalstrike"), "M 0 1 L 1 0"},
             {QStringLiteral("downdiagonalstrike"), "M 0 0 L 1 1"},
         };
-        for (const QString &notation : notations) {
-            if (const char *outline = outlines.value(notation)) {
+        for (auto it = outlines.constBegin(); it != outlines.constEnd(); ++it) {
+            if (notations.contains(it.key())) {
                 const QRectF area(0, -result.ascent, result.width, result.height());
-                result.add(lines(outlineIn(area, outline), style), {});
+                result.add(lines(outlineIn(area, it.value()), style), {});
             }
         }
         return result;
@@ -839,12 +839,17 @@ private:
         return grid;
     }
 
-    // The word for a row or column; the last one goes for those behind.
-    static QString wordFor(const QDomElement &element, const char *name, int index, const char *missing)
+    // Words for rows or columns; the last one goes for those behind.
+    static QStringList wordsOf(const QDomElement &element, const char *name, const char *missing)
     {
         const QStringList words =
-            element.attribute(QLatin1String(name), QLatin1String(missing)).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        return words.isEmpty() ? QString() : words.at(qMin(index, words.size() - 1));
+            element.attribute(QLatin1String(name)).split(QLatin1Char(' '), Qt::SkipEmptyParts).mid(0, mostElements);
+        return words.isEmpty() ? QStringList{QLatin1String(missing)} : words;
+    }
+
+    static const QString &wordFor(const QStringList &words, int index)
+    {
+        return words.at(qMin(index, words.size() - 1));
     }
 
     FormulaBox table(const QDomElement &element, const Style &tableStyle)
@@ -852,6 +857,7 @@ private:
         Style style = tableStyle;
         style.isDisplayed = element.attribute(QStringLiteral("displaystyle")) == QLatin1String("true");
         const Grid grid = gridOf(element, style);
+        const QStringList aligns = wordsOf(element, "columnalign", "center");
         const double across = 0.8 * style.size;
         const double down = 0.35 * style.size;
         FormulaBox result;
@@ -862,7 +868,7 @@ private:
             for (int c = 0; c < grid.rows.at(r).size(); ++c) {
                 const FormulaBox &cell = grid.rows.at(r).at(c);
                 const double left = grid.widths.at(c) - cell.width;
-                const QString align = wordFor(element, "columnalign", c, "center");
+                const QString &align = wordFor(aligns, c);
                 const double share = align == QLatin1String("left") ? 0 : align == QLatin1String("right") ? 1 : 0.5;
                 result.add(cell, QPointF(x + left * share, y));
                 x += grid.widths.at(c) + across;
@@ -885,17 +891,19 @@ private:
     static void addTableLines(FormulaBox &result, const QDomElement &element, const Grid &grid, double height,
                               double across, double down, const Style &style)
     {
+        const QStringList columns = wordsOf(element, "columnlines", "none");
+        const QStringList rows = wordsOf(element, "rowlines", "none");
         double x = -across / 2;
         for (int c = 0; c + 1 < grid.widths.size(); ++c) {
             x += grid.widths.at(c) + across;
-            if (wordFor(element, "columnlines", c, "none") != QLatin1String("none")) {
+            if (wordFor(columns, c) != QLatin1String("none")) {
                 result.add(rule({x, 0}, {x, height}, style), {});
             }
         }
         double y = -down / 2;
         for (int r = 0; r + 1 < grid.rows.size(); ++r) {
             y += grid.ascents.at(r) + grid.descents.at(r) + down;
-            if (wordFor(element, "rowlines", r, "none") != QLatin1String("none")) {
+            if (wordFor(rows, r) != QLatin1String("none")) {
                 result.add(rule({0, y}, {result.width, y}, style), {});
             }
         }

@@ -12,8 +12,8 @@ namespace lessonhost {
 namespace {
 
 // A drawing may use its parts in parts that it uses.
-constexpr int mostElements = 50000;
 constexpr int mostUses = 16;
+constexpr double lettersOfElement = 100;
 
 QString withoutPrefix(const QString &name)
 {
@@ -54,9 +54,10 @@ QTransform fitting(const QRectF &view, const QRectF &box, double share)
 class InnerSvg
 {
 public:
-    InnerSvg(const QDomDocument &document, const QString &prefix)
+    InnerSvg(const QDomDocument &document, const QString &prefix, InnerSvgBudget &budget)
         : m_document(document)
         , m_prefix(prefix)
+        , m_budget(budget)
     {
     }
 
@@ -101,6 +102,7 @@ private:
             if (node.isElement()) {
                 copy(node.toElement(), to);
             } else if (node.isText()) {
+                m_budget.elements -= node.nodeValue().size() / lettersOfElement;
                 to.appendChild(m_document.createTextNode(node.nodeValue()));
             }
         }
@@ -108,9 +110,10 @@ private:
 
     void copy(const QDomElement &from, QDomElement &parent)
     {
-        if (++m_elements > mostElements) {
+        if (m_budget.elements < 1) {
             return;
         }
+        m_budget.elements -= 1;
         const QString tag = withoutPrefix(from.tagName());
         if (tag == QLatin1String("use")) {
             copyUsed(from, parent);
@@ -199,6 +202,7 @@ private:
             const QString name = attributes.item(i).nodeName();
             const QString bare = withoutPrefix(name);
             const QString value = attributes.item(i).nodeValue();
+            m_budget.elements -= value.size() / lettersOfElement;
             if (bare == QLatin1String("href")) {
                 setReference(to, value);
             } else if (bare == QLatin1String("id")) {
@@ -264,6 +268,10 @@ private:
             }
             QStringList scoped;
             const QStringList all = selectors.split(QLatin1Char(','));
+            m_budget.rules -= all.size();
+            if (m_budget.rules < 0) {
+                break;
+            }
             for (const QString &selector : all) {
                 scoped.append(QLatin1Char('#') + m_prefix + QLatin1Char(' ') + selector.trimmed());
             }
@@ -289,17 +297,17 @@ private:
     QDomDocument m_document;
     QString m_prefix;
     QHash<QString, QDomElement> m_named;
-    int m_elements = 0;
+    InnerSvgBudget &m_budget;
     int m_uses = 0; // in each other
 };
 
 } // namespace
 
 QDomElement innerSvg(QDomDocument document, const QDomElement &drawing, const QRectF &box, const QSizeF &usualSize,
-                     const QString &prefix)
+                     const QString &prefix, InnerSvgBudget &budget)
 {
     const QRectF view = viewOf(drawing, usualSize.isEmpty() ? box.size() : usualSize);
-    return InnerSvg(document, prefix).part(drawing, view.isEmpty() ? QTransform() : fitting(view, box, 0));
+    return InnerSvg(document, prefix, budget).part(drawing, view.isEmpty() ? QTransform() : fitting(view, box, 0));
 }
 
 } // namespace lessonhost

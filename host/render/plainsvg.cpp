@@ -220,7 +220,7 @@ bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF
         const QByteArray name = QCryptographicHash::hash(closed, QCryptographicHash::Md5).toHex().left(8);
         const QString prefix = QLatin1Char('d') + QString::fromLatin1(name) + QString::number(++m_drawings);
         QDomElement part = append(QStringLiteral("g"));
-        part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix));
+        part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix, m_innerBudget));
         return true;
     } catch (const LessonError &) {
         return false;

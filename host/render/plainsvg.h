@@ -2,6 +2,7 @@
 #define PLAINSVG_H
 
 #include "files/pictures.h"
+#include "render/innersvg.h"
 
 #include <QColor>
 #include <QDomDocument>
@@ -118,6 +119,7 @@ private:
     QTransform m_transform;
     QDomElement m_scope; // holds what was added last under a transform
     QTransform m_scopeTransform;
+    InnerSvgBudget m_innerBudget;
     int m_drawings = 0;
 };
 
