@@ -97,7 +97,7 @@ private slots:
                 + "<svg viewBox=`0 10 400 200`><style>text,.a{fill:red}@media print{b{c:d}}</style>"
                   "<linearGradient id=`g`/><path id=`p` d=`M0 0L9 9` fill=`url( #g )`/><use href=`#p` x=`7`/>"
                   "<script>x()</script><a xlink:href=`http://x.y`><text onclick=`x()`>Why?</text></a></svg>'}",
-            "matrix(0.5 0 0 0.5 100 45)|1-g\"/>|url(#d|1-g)\"|matrix(1 0 0 1 7 0)\"><path d=\"M0 0L9 9\"|1 text,#d|1 "
+            "matrix(0.5 0 0 0.5 100 45)|1-g\"/>|url(#s1d|1-g)\"|matrix(1 0 0 1 7 0)\"><path d=\"M0 0L9 9\"|1 text,#s1d|1 "
             ".a{fill:red}|"
             ">Why?<|!script|!x()|!x.y|!@media|!Question");
         row("question of no size",

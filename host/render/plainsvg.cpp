@@ -216,9 +216,9 @@ bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF
     try {
         const QByteArray closed = closedSvg(svg, QStringLiteral("svg"), addressOf).text;
         const QDomDocument drawing = loadXml(closed, QStringLiteral("svg"), XmlBlanks::Kept);
-        // Slides stand in one page, where no two names may be the same.
+        // By its content, too: two lessons may stand side by side.
         const QByteArray name = QCryptographicHash::hash(closed, QCryptographicHash::Md5).toHex().left(8);
-        const QString prefix = QLatin1Char('d') + QString::fromLatin1(name) + QString::number(++m_drawings);
+        const QString prefix = m_names + QLatin1Char('d') + QString::fromLatin1(name) + QString::number(++m_drawings);
         QDomElement part = append(QStringLiteral("g"));
         part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix, m_innerBudget));
         return true;

@@ -45,6 +45,8 @@ public:
     PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pictures, const QColor &paper = Qt::white);
 
     QSizeF size() const { return m_size; }
+    //! What the names of its parts begin with, so that pages can stand in one document.
+    void setNames(const QString &prefix) { m_names = prefix; }
 
     /*!
      * As long as it lives, what is added stands under a transform, and under those of the scopes around it: lines,
@@ -120,6 +122,7 @@ private:
     QDomElement m_scope; // holds what was added last under a transform
     QTransform m_scopeTransform;
     InnerSvgBudget m_innerBudget;
+    QString m_names;
     int m_drawings = 0;
 };
 

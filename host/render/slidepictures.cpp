@@ -128,6 +128,7 @@ SlidePicture SlidePictures::picture(int index)
     result.size = QSizeF(qBound(1.0, size.width(), longestSide), qBound(1.0, size.height(), longestSide));
 
     PlainSvg plain(result.size, m_media, m_store, m_ground.value_or(Qt::white));
+    plain.setNames(QLatin1Char('s') + QString::number(result.slide));
     const QDomElement page = m_pages.addPage(slide.properties, 1, {});
     for (QDomElement e = page.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
         const bool isColor = e.tagName() == QLatin1String("svg:rect");
