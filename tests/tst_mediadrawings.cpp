@@ -35,7 +35,7 @@ private slots:
             "matrix(0 2 -2 0 280 20)");
         row("slanted picture",
             "{'Type':'ZQImagePic','BoundingBox':'0,0,9,9','resource':'a.svg','Matrix':'1,0,2,1,0,5'}",
-            "matrix(1 0 2 1 0 5)|width=\"9.00\"|data:image/png");
+            "matrix(1 0 2 1 0 5)|width=\"9.00\"|data:image/");
         row("group that is turned about its middle",
             "{'Type':'ZQGroupItem','Angle':'3.14159265358979','Children':["
             "{'Type':'ZQMath2DRectangle','BoundingBox':'0,0,20,20'},"
@@ -85,19 +85,20 @@ private slots:
             "'Width':'10'}]},{'Type':'ZQStrokesDeletePixel','XY':'200,0,0,200','Width':'20'}",
             "matrix(1 0 0 1 100 0)|90.00 45.00|110.00 55.00|evenodd");
         row("texture", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','Width':'20','DrawTexture':'a.svg'}",
-            "x=\"0.00\" xlink:href=\"data:image/png|width=\"100.00\"|height=\"20.00\"|!<path");
+            "x=\"0.00\" xlink:href=\"data:image/|width=\"100.00\"|height=\"20.00\"|!<path");
         row("texture that is missing", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','DrawTexture':'b.svg'}", "<path");
         row("stamps", "{'Type':'ZQStrokesStamp','XY':'50,50,80,10','Width':'30','Stamp':'a.svg','DrawTexture':'a.svg'}",
-            "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/png");
+            "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/");
         row("stamp in a box", "{'Type':'ZQStrokesStamp','BoundingBox':'5,6,12,16','Stamp':'a.svg'}",
-            "height=\"10.00\"|width=\"7.00\"|data:image/png");
+            "height=\"10.00\"|width=\"7.00\"|data:image/");
         const QByteArray question = "{'Type':'ZQQuestionItem','BoundingBox':'100,50,300,150','R_Content_svg':'";
         row("question",
             question
                 + "<svg viewBox=`0 10 400 200`><style>text,.a{fill:red}@media print{b{c:d}}</style>"
                   "<linearGradient id=`g`/><path id=`p` d=`M0 0L9 9` fill=`url( #g )`/><use href=`#p` x=`7`/>"
                   "<script>x()</script><a xlink:href=`http://x.y`><text onclick=`x()`>Why?</text></a></svg>'}",
-            "matrix(0.5 0 0 0.5 100 45)|1-g\"/>|url(#s1d|1-g)\"|matrix(1 0 0 1 7 0)\"><path d=\"M0 0L9 9\"|1 text,#s1d|1 "
+            "matrix(0.5 0 0 0.5 100 45)|1-g\"/>|url(#s1d|1-g)\"|matrix(1 0 0 1 7 0)\"><path d=\"M0 0L9 9\"|1 "
+            "text,#s1d|1 "
             ".a{fill:red}|"
             ">Why?<|!script|!x()|!x.y|!@media|!Question");
         row("question of no size",
@@ -159,7 +160,7 @@ private slots:
             ">a.ggb<|>Moving worksheet, GGB<");
         row("worksheet with its picture",
             "{'Type':'ZQDyCoursewareItem','BoundingBox':'0,0,200,150','document':['a.svg','w/a.ggb']}",
-            "data:image/png|!<text");
+            "data:image/|!<text");
         row("picture that is missing", "{'Type':'ZQImagePic','BoundingBox':'0,0,200,90','resource':'b.png'}",
             ">Picture that|>missing<");
     }
