@@ -1,6 +1,7 @@
 #include "lesson/fontshere.h"
 
 #include "lesson/fontvalues.h"
+#include "lesson/isoneof.h"
 
 #include <QFont>
 #include <QFontInfo>
@@ -22,9 +23,13 @@ QString familyThatStandsInFor(const QString &family)
     return QFontInfo(QFont(family)).family();
 }
 
+// As svg calls them, and as Qt does.
+constexpr const char *genericFamilies[] = {"serif", "sans-serif", "sans", "monospace", "cursive", "fantasy"};
+
 bool isGeneric(const QString &family)
 {
-    return withGenericFamily({family}).size() == 1;
+    const QString name = family.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    return isOneOf(genericFamilies, name);
 }
 
 } // namespace
