@@ -34,17 +34,16 @@ bool Canvas::addAsIwb(const QJsonObject &item)
 
 bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &placed, const TextPlace &place)
 {
-    LessonText laidOut(text, place.look);
-    if (laidOut.isEmpty()) {
-        return true;
-    }
     // A box that is only turned and larger has letters as wide as they are, one that is stretched more room for them.
     const auto parts = scaleAndTurn(placed);
     const bool isUpright = parts && parts->scaleY > 0;
     const ItemPlace onPage = isUpright ? placeUnder(placed, area) : ItemPlace{area, 0};
     const QSizeF room = onPage.box.size();
     double scale = isUpright ? qMax(meanScale(placed), smallestScale) : 1;
-    laidOut.setWidth(room.width() / scale, place.isFitted);
+    LessonText laidOut(text, room.width() / scale, place.look, place.isFitted);
+    if (laidOut.isEmpty()) {
+        return true;
+    }
     if (place.isFitted) {
         const double smallest = qMin(1.0, m_svg.readableSize() / laidOut.smallestPixels());
         const auto isTooLarge = [&] {
@@ -55,7 +54,7 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
             if (scale < smallest) {
                 return false;
             }
-            laidOut.setWidth(room.width() / scale, place.isFitted);
+            laidOut.setWidth(room.width() / scale);
         }
     }
     const double space = place.isInMiddle ? room.height() - laidOut.size().height() * scale : 0;

@@ -5,6 +5,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -23,7 +24,12 @@ constexpr double largestPoints = largestPixels * 72 / SvgPaintDevice::dotsPerInc
 // The one that is here before the list that is asked for.
 QStringList families(const QStringList &asked)
 {
-    return QStringList(familyHere(asked)) + withGenericFamily(asked);
+    static QHash<QStringList, QStringList> known;
+    auto found = known.constFind(asked);
+    if (found == known.cend()) {
+        found = known.insert(asked, QStringList(familyHere(asked)) + withGenericFamily(asked));
+    }
+    return *found;
 }
 
 // In a font that is here and a size that can be drawn, with the widths that letters have in every size.
@@ -79,13 +85,15 @@ QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
 
 } // namespace
 
-LessonText::LessonText(const QString &text, const TextLook &look)
+// A document lays itself out after each change, so there is only one: of an empty document, whose layout is there.
+LessonText::LessonText(const QString &text, double width, const TextLook &look, bool keepsWords)
     : m_screen(1, 1, QImage::Format_RGB32)
     , m_color(look.color)
 {
     constexpr double inchesInMeter = 1 / 0.0254;
     m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
     m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
+    m_document.documentLayout()->setPaintDevice(&m_screen);
     QFont font;
     font.setFamilies(families({look.family}));
     font.setPointSizeF(qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints));
@@ -96,15 +104,18 @@ LessonText::LessonText(const QString &text, const TextLook &look)
     m_document.setUseDesignMetrics(true);
     QTextOption option = m_document.defaultTextOption();
     option.setAlignment(look.alignment);
+    option.setWrapMode(keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_document.setDefaultTextOption(option);
+    setWidth(width);
+    QTextCursor change(&m_document);
+    change.beginEditBlock();
     if (text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'))) {
         m_document.setLessonHtml(text);
     } else {
         m_document.setPlainText(text);
     }
     prepareFonts();
-    // Only now, since a layout follows every change.
-    m_document.documentLayout()->setPaintDevice(&m_screen);
+    change.endEditBlock();
 }
 
 void LessonText::prepareFonts()
@@ -118,7 +129,6 @@ void LessonText::prepareFonts()
     QVector<Part> parts;
     m_smallestPixels = pixelsOf(m_document.defaultFont());
     QTextCursor cursor(&m_document);
-    cursor.beginEditBlock();
     for (QTextBlock block = m_document.begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
@@ -134,17 +144,10 @@ void LessonText::prepareFonts()
         cursor.setPosition(part.position + part.length, QTextCursor::KeepAnchor);
         cursor.setCharFormat(part.format);
     }
-    cursor.endEditBlock();
 }
 
-void LessonText::setWidth(double width, bool keepsWords)
+void LessonText::setWidth(double width)
 {
-    QTextOption option = m_document.defaultTextOption();
-    const auto mode = keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere;
-    if (option.wrapMode() != mode) {
-        option.setWrapMode(mode);
-        m_document.setDefaultTextOption(option);
-    }
     m_document.setTextWidth(qMax(1.0, width));
 }
 

@@ -31,12 +31,12 @@ struct TextLook
 class LessonText
 {
 public:
-    explicit LessonText(const QString &text, const TextLook &look = {});
+    //! width: in pixels; lines are broken to be no longer, between words or, unless they are to stay whole, within.
+    LessonText(const QString &text, double width, const TextLook &look, bool keepsWords);
 
     bool isEmpty() const { return m_document.isEmpty(); }
 
-    //! In pixels; lines are broken to be no longer, between words or, unless they are to stay whole, within.
-    void setWidth(double width, bool keepsWords = false);
+    void setWidth(double width);
 
     //! Of all lines. A word that is longer than the width, or a table, makes it wider.
     QSizeF size() const { return m_document.size(); }

@@ -70,10 +70,13 @@ QString titleOf(const QVector<ShownItem> &items)
         if (!place) {
             continue;
         }
+        const double own = shown.placed.mapRect(place->extent()).top();
+        if (!title.isEmpty() && own >= top) {
+            continue;
+        }
         const QString html = view.text(ItemKeys::html);
         const QString words = html.isEmpty() ? view.text(ItemKeys::text).simplified() : plainWords(html);
-        const double own = shown.placed.mapRect(place->extent()).top();
-        if (!words.isEmpty() && (title.isEmpty() || own < top)) {
+        if (!words.isEmpty()) {
             title = words;
             top = own;
         }

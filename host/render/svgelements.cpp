@@ -4,6 +4,8 @@
 #include "lesson/fontshere.h"
 #include "lesson/fontvalues.h"
 
+#include <QHash>
+
 #include <cmath>
 
 namespace lessonhost {
@@ -83,9 +85,19 @@ void setDrawnColor(QDomElement &element, const char *name, const QColor &color)
 // Qt takes a list for one name and the attribute before the style; svg wants it the other way round.
 void setDrawnFamilies(QDomElement &element, const QStringList &families)
 {
-    element.setAttribute(QStringLiteral("font-family"), familyHere(families));
-    element.setAttribute(QStringLiteral("style"),
-                         QLatin1String("font-family:") + svgFamilies(withGenericFamily(families)));
+    struct Texts
+    {
+        QString here;
+        QString style;
+    };
+    static QHash<QStringList, Texts> known;
+    auto found = known.constFind(families);
+    if (found == known.cend()) {
+        const QString style = QLatin1String("font-family:") + svgFamilies(withGenericFamily(families));
+        found = known.insert(families, {familyHere(families), style});
+    }
+    element.setAttribute(QStringLiteral("font-family"), found->here);
+    element.setAttribute(QStringLiteral("style"), found->style);
 }
 
 QStringList labelFamilies()
