@@ -9,6 +9,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 /*!
  * Draws lessons through the command, as a teacher does.
@@ -58,7 +59,7 @@ private slots:
         }
         QCOMPARE(html.count("<line "), 2);
         QVERIFY(!html.contains("unseen"));
-        QVERIFY(!html.contains("<script"));
+        QVERIFY(!html.contains("<script>alert"));
     }
 
     // Few files are open at a time, however many pictures there are.
@@ -163,6 +164,32 @@ private slots:
         QCOMPARE(page.pixelColor(90, 150), QColor(Qt::white));
     }
 
+    // Files lie beside the page in a folder of its own; where that can't be, there is neither.
+    void putsFilesBesideThePage()
+    {
+        putFile(path("heard.json"), R"({"Resources":{"m/a.wav":"QUJD","n/A.wav":"REVG","x.html":"PGI+"},"Slides":[{"Items":[
+            {"Type":"ZQMediaAudio","resource":"m/a.wav"},{"Type":"ZQMediaVideo","resource":"n/A.wav"},
+            {"Type":"ZQMediaDoc","resource":"x.html"},{"Type":"ZQMediaAudio","resource":"m/a.wav"}]}]})");
+        const auto render = [this](const QStringList &more) {
+            return runCommand(QStringList{"render", path("heard.json"), path("heard.html")} + more).exitCode;
+        };
+        QCOMPARE(render({}), 0);
+        const auto beside = [this] { return QDir(path("heard_files")).entryList(QDir::Files, QDir::Name); };
+        QCOMPARE(beside(), QStringList({"a.wav", "file2.wav", "x.html.txt"}));
+        QCOMPARE(fileContent(path("heard_files/file2.wav")), QByteArray("DEF"));
+        QCOMPARE(render({"--no-clobber"}), 2);
+        QVERIFY(QFile::remove(path("heard.html")));
+        QCOMPARE(render({"--no-clobber"}), 2); // the sounds are there still
+        QVERIFY(!QFile::exists(path("heard.html")));
+        QVERIFY(QDir(path("heard_files")).removeRecursively() && QDir().mkdir(path("elsewhere")));
+        QCOMPARE(::symlink("elsewhere", QFile::encodeName(path("heard_files")).constData()), 0);
+        QCOMPARE(render({}), 2);
+        QVERIFY(!QFile::exists(path("heard.html")) && QDir(path("elsewhere")).isEmpty());
+        QCOMPARE(render({"--embed"}), 0);
+        QVERIFY(fileContent(path("heard.html")).contains("<script type=\"text/plain\" id=\"file1\">REVG</script>"));
+        QVERIFY(QFile::remove(path("heard_files")));
+    }
+
     void comparesLessons()
     {
         // A slide lacks a text and its first item, so that the others stand at other places.
@@ -170,14 +197,18 @@ private slots:
             fileContent(path("lesson.json")).replace("\"Text\":\"<script>alert(1)</script>\"", "\"Text\":\"\"");
         changed.replace(R"({"ID":"3","Type":"General:spotlight","BoundingBox":"10,10,110,60"},)", "");
         putFile(path("other.json"), changed);
+        // A value that nobody sees.
+        putFile(path("given.json"),
+                fileContent(path("lesson.json")).replace(R"("ID":"1","Type")", R"("ID":"1","LockIn":"1","Type")"));
         const CommandProcess::Outcome result =
-            runCommand({"render", "--diff", path("lesson.json"), path("other.json"), path("diff.html"), "--json"});
+            runCommand({"render", "--diff", path("given.json"), path("other.json"), path("diff.html"), "--json"});
         QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
         const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
-        QCOMPARE(json.value("losses").toObject().value("losses").toInt(), 2);
+        QCOMPARE(json.value("losses").toObject().value("losses").toInt(), 3);
         const QByteArray html = fileContent(path("diff.html"));
         QCOMPARE(html.count("<svg "), 4);
-        QCOMPARE(html.count("Nothing is lost"), 1);
+        QCOMPARE(html.count("Both look the same. Missing or other values: 1"), 1);
+        QCOMPARE(html.count("id=\"slide"), 0);
         QVERIFY(html.contains("Missing: Spotlight"));
         QVERIFY(html.contains("<li><b>Text</b> <small>5</small>: <span title=\"&lt;script"));
     }

@@ -578,7 +578,9 @@ int Command::render(const QStringList &files) const
 {
     const QString &input = files.first();
     const QString &output = files.last();
-    const RenderSettings settings = renderSettings(pictureForm(output), {input});
+    RenderSettings settings = renderSettings(pictureForm(output), {input});
+    // Nothing lies beside what is printed.
+    settings.isEmbedded |= StandardStreams::isStandardOutput(output);
     const LessonFormat &format = inputFormat(input);
     tellName(input, format);
     checkOutput(output);

@@ -57,6 +57,8 @@ const std::vector<CommandOption> &commandOptions()
          "With render: dots per inch of pictures; 96 is the size of the slide."},
         {"background", "colour", Option::OnResults, "render: render:out-dir",
          "With render: this colour in place of the slides' own, such as \"#ffffe0\", or transparent."},
+        {"embed", nullptr, Option::OnResults, "render: render:out-dir",
+         "With render: sounds, films and other files go into the page, not into a folder beside it."},
         {"diff", nullptr, Option::OnTheRun, "render:diff",
          "With render: two lessons side by side, with the values that the second lacks."},
         {"json", nullptr, Option::OnTheRun, "", "Print JSON, also for a failure."},

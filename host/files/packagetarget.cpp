@@ -11,6 +11,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -155,6 +156,48 @@ private:
     const Folder &m_to;
     const Folder &m_aside;
     QVector<QByteArray> m_begun;
+};
+
+/*!
+ * The files that go into a folder beside the target, which is made for them if it isn't there.
+ */
+class PlacingBeside
+{
+public:
+    // name: the folder's, in the package and beside it.
+    PlacingBeside(const Folder &package, const Folder &parent, const Folder &replaced, const QByteArray &name)
+        : m_parent(parent)
+        , m_name(name)
+        , m_isMade(::mkdirat(parent.descriptor(), name.constData(), 0777) == 0)
+        , m_isAsideMade(::mkdirat(replaced.descriptor(), name.constData(), 0700) == 0)
+        , m_from(package, name)
+        , m_to(parent, name)
+        , m_aside(replaced, name)
+    {
+        m_placing.emplace(m_from, m_to, m_aside);
+    }
+    ~PlacingBeside()
+    {
+        m_placing.reset();
+        if (m_isMade) {
+            ::unlinkat(m_parent.descriptor(), m_name.constData(), AT_REMOVEDIR); // only if it is empty
+        }
+    }
+    PlacingBeside(const PlacingBeside &) = delete;
+    PlacingBeside &operator=(const PlacingBeside &) = delete;
+
+    bool place(const QByteArray &name) { return m_to.isOpen() && m_isAsideMade && m_placing->place(name); }
+    void keep() { m_placing->keep(); }
+
+private:
+    const Folder &m_parent;
+    QByteArray m_name;
+    bool m_isMade;
+    bool m_isAsideMade;
+    Folder m_from;
+    Folder m_to;
+    Folder m_aside;
+    std::optional<Placing> m_placing;
 };
 
 // What a killed run had moved aside to make place goes back, if nothing took its place since.
@@ -304,7 +347,7 @@ QString PackageTarget::makePlace(const QString &relativePath)
     }
     m_paths.insert(relativePath);
     expectFiles(m_paths.size());
-    if (m_kind == Files) {
+    if (m_kind == Files || m_kind == OneFile) {
         checkPlace(QFileInfo(m_target).path() + QLatin1Char('/') + relativePath, shownPlace(relativePath));
     }
     const QString place = directory() + QLatin1Char('/') + relativePath;
@@ -412,15 +455,37 @@ void PackageTarget::commit()
     }
 }
 
+// What lies beside it comes first, so that nobody finds the file without.
 void PackageTarget::commitFile()
 {
     checkPlace(m_target, m_shownTarget);
     OutputFile &written = file();
     keepPermissions(m_staging + filePart, m_target);
     written.finish(m_isKept);
+    if (m_kind != OneFile || m_paths.isEmpty()) {
+        if (!renameOver(m_staging + filePart, m_target)) {
+            throw systemError(m_shownTarget);
+        }
+        return;
+    }
+    const Folder staging(*m_parent, QFile::encodeName(QFileInfo(m_staging).fileName()));
+    const Folder package(staging, "package");
+    if (::mkdirat(staging.descriptor(), replacedName, 0700) != 0) {
+        throw systemError(m_shownTarget);
+    }
+    const Folder replaced(staging, replacedName);
+    waitForDisk();
+    const QString folder = m_paths.constBegin()->section(QLatin1Char('/'), 0, 0);
+    PlacingBeside placing(package, *m_parent, replaced, QFile::encodeName(folder));
+    for (const QString &path : qAsConst(m_paths)) {
+        if (!placing.place(QFile::encodeName(path.mid(folder.size() + 1)))) {
+            throw systemError(shownPlace(path));
+        }
+    }
     if (!renameOver(m_staging + filePart, m_target)) {
         throw systemError(m_shownTarget);
     }
+    placing.keep();
 }
 
 void PackageTarget::commitFiles()

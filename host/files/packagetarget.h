@@ -24,7 +24,7 @@ class PackageTarget
 {
 public:
     enum Kind {
-        OneFile,
+        OneFile, //!< and, if any are written, files in one folder beside it
         Files, //!< several in the target's folder; the target is what all of them are called together
         Directory,
         Archive

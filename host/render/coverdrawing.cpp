@@ -7,6 +7,8 @@
 
 #include <QHash>
 
+#include <cmath>
+
 namespace lessonhost {
 
 namespace {
@@ -92,8 +94,16 @@ double darkness(const ItemView &item)
     return told <= 1 ? qMax(told, 0.0) : qMin(told / 255, 1.0);
 }
 
+struct SpotCanvas
+{
+    QRectF area;
+    QPointF center;
+    double radius = 0;
+    QTransform fit; //!< to the page
+};
+
 // SpotCenter and SpotRadius are told on a canvas that covers the item's box.
-bool drawSpotlight(Canvas &canvas, const ItemView &item)
+std::optional<SpotCanvas> spotCanvas(const ItemView &item)
 {
     const auto box = boxWithArea(item);
     const QVector<double> size = item.numbers(canvasSize);
@@ -104,16 +114,28 @@ bool drawSpotlight(Canvas &canvas, const ItemView &item)
     const QPolygonF center = item.points(spotCenter);
     const double radius = qMin(item.number(spotRadius), largestInDrawing);
     if (center.size() != 1 || !(radius > 0) || told.isEmpty()) {
+        return {};
+    }
+    SpotCanvas spot;
+    spot.area = QRectF(QPointF(), told.boundedTo(QSizeF(largestInDrawing, largestInDrawing)));
+    spot.center = QPointF(qBound(-largestInDrawing, center.first().x(), largestInDrawing),
+                          qBound(-largestInDrawing, center.first().y(), largestInDrawing));
+    spot.radius = radius;
+    spot.fit = box ? fitInto(spot.area, *box) * placeOnPage(item) : item.matrix().value_or(QTransform());
+    return spot;
+}
+
+bool drawSpotlight(Canvas &canvas, const ItemView &item)
+{
+    const auto spot = spotCanvas(item);
+    if (!spot) {
         return false;
     }
-    const QRectF area(QPointF(), told.boundedTo(QSizeF(largestInDrawing, largestInDrawing)));
     QPainterPath hole;
-    hole.addEllipse(QPointF(qBound(-largestInDrawing, center.first().x(), largestInDrawing),
-                            qBound(-largestInDrawing, center.first().y(), largestInDrawing)),
-                    radius, radius);
+    hole.addEllipse(spot->center, spot->radius, spot->radius);
     QPainterPath dark;
-    dark.addRect(area);
-    if (area.contains(hole.boundingRect())) {
+    dark.addRect(spot->area);
+    if (spot->area.contains(hole.boundingRect())) {
         dark.addPath(hole.toReversed());
     } else {
         dark = dark.subtracted(hole);
@@ -121,12 +143,20 @@ bool drawSpotlight(Canvas &canvas, const ItemView &item)
     SvgPaint paint;
     paint.line = Qt::transparent;
     paint.fill = QColor(0, 0, 0, qRound(darkness(item) * 255));
-    const QTransform fit = box ? fitInto(area, *box) * placeOnPage(item) : item.matrix().value_or(QTransform());
-    canvas.svg().addPath(fit.map(dark), paint);
+    canvas.svg().addPath(spot->fit.map(dark), paint);
     return true;
 }
 
 } // namespace
+
+std::optional<Spot> spotOn(const ItemView &item)
+{
+    const auto spot = spotCanvas(item);
+    if (!spot) {
+        return {};
+    }
+    return Spot{spot->fit.map(spot->center), spot->radius * std::sqrt(std::abs(spot->fit.determinant()))};
+}
 
 SvgDrawing coverDrawing(const QString &type)
 {

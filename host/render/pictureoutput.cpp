@@ -1,7 +1,7 @@
 #include "render/pictureoutput.h"
 
 #include "files/lessonerror.h"
-#include "render/htmloutput.h"
+#include "render/lessonpage.h"
 #include "render/pdfoutput.h"
 #include "render/slidefiles.h"
 
@@ -57,11 +57,12 @@ QString numberedName(const QString &name, int slide)
 }
 
 std::unique_ptr<PictureOutput> pictureOutput(const QString &path, const QString &title, const RenderSettings &settings,
-                                             const PictureStore &store, const QVector<int> &slides)
+                                             const PictureStore &store, const PageFiles &files,
+                                             const QVector<int> &slides)
 {
     switch (settings.form->kind) {
     case PictureForm::Html:
-        return std::make_unique<HtmlOutput>(path, title, store);
+        return std::make_unique<LessonPage>(path, title, settings, store, files);
     case PictureForm::Pdf:
         return std::make_unique<PdfOutput>(path, title, settings, store);
     default:

@@ -9,6 +9,7 @@
 
 namespace lessonhost {
 
+class PageFiles;
 class PictureStore;
 struct SlidePicture;
 
@@ -28,10 +29,12 @@ public:
 //! A name with the number of a slide, counted from 1, in the place of %d, or of %03d with zeros before it.
 QString numberedName(const QString &name, int slide);
 
-//! The output of that name in settings.form. store: where the pictures on the slides lie. slides: those that will come,
+//! The output of that name in settings.form. store: where the pictures on the slides lie. files: what a
+//! page plays and opens, complete when the last slide is added. slides: those that will come,
 //! counted from 0. Throws LessonError for a name that can't hold them.
 std::unique_ptr<PictureOutput> pictureOutput(const QString &path, const QString &title, const RenderSettings &settings,
-                                             const PictureStore &store, const QVector<int> &slides);
+                                             const PictureStore &store, const PageFiles &files,
+                                             const QVector<int> &slides);
 
 } // namespace lessonhost
 

@@ -123,18 +123,43 @@ PlainSvg::Scope::~Scope()
     m_svg.m_transform = m_before;
 }
 
+PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden)
+    : m_svg(svg)
+{
+    m_svg.m_group = m_svg.m_document.createElement(QStringLiteral("g"));
+    m_svg.m_svg.appendChild(m_svg.m_group);
+    m_svg.m_group.setAttribute(QStringLiteral("data-item"), id);
+    if (!label.isEmpty()) {
+        m_svg.m_group.setAttribute(QStringLiteral("role"), QStringLiteral("img"));
+        m_svg.m_group.setAttribute(QStringLiteral("aria-label"), label);
+    }
+    if (isHidden) {
+        m_svg.m_group.setAttribute(QStringLiteral("display"), QStringLiteral("none"));
+    }
+}
+
+PlainSvg::ItemGroup::~ItemGroup()
+{
+    if (!m_svg.m_group.hasChildNodes()) {
+        m_svg.m_svg.removeChild(m_svg.m_group);
+    }
+    m_svg.m_group.clear();
+    m_svg.m_scope.clear();
+}
+
 // Scopes in each other are written side by side, so that none is deeper than another.
 QDomElement PlainSvg::append(const QString &tag)
 {
     QDomElement element = m_document.createElement(tag);
+    QDomElement &parent = m_group.isNull() ? m_svg : m_group;
     if (m_transform.isIdentity()) {
-        m_svg.appendChild(element);
+        parent.appendChild(element);
         return element;
     }
-    if (m_scope.isNull() || m_svg.lastChild() != m_scope || m_scopeTransform != m_transform) {
+    if (m_scope.isNull() || parent.lastChild() != m_scope || m_scopeTransform != m_transform) {
         m_scopeTransform = m_transform;
         m_scope = m_document.createElement(QStringLiteral("g"));
-        m_svg.appendChild(m_scope);
+        parent.appendChild(m_scope);
         m_scope.setAttribute(QStringLiteral("transform"), drawnTransform(m_transform));
     }
     m_scope.appendChild(element);

@@ -64,6 +64,23 @@ public:
         PlainSvg &m_svg;
         QTransform m_before;
     };
+    /*!
+     * As long as it lives, what is added stands in a group of its own, which tells whose it is. One at a time; a group
+     * that nothing is added to isn't there.
+     */
+    class ItemGroup
+    {
+    public:
+        //! id: the item's, for who works on it later. label: what is read aloud. isHidden: not drawn until it is shown.
+        ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden);
+        ~ItemGroup();
+        ItemGroup(const ItemGroup &) = delete;
+        ItemGroup &operator=(const ItemGroup &) = delete;
+
+    private:
+        PlainSvg &m_svg;
+    };
+
     //! From what is added now to the page.
     QTransform transform() const { return m_transform; }
 
@@ -119,6 +136,7 @@ private:
     QDomElement m_svg;
     QVector<QRectF> m_labels; // where they are
     QTransform m_transform;
+    QDomElement m_group; // of the item that is added
     QDomElement m_scope; // holds what was added last under a transform
     QTransform m_scopeTransform;
     InnerSvgBudget m_innerBudget;

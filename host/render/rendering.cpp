@@ -2,10 +2,13 @@
 
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
+#include "files/xmltext.h"
 #include "lesson/itemkeys.h"
 #include "lesson/pageplace.h"
 #include "losses/lossreport.h"
-#include "render/htmloutput.h"
+#include "render/differencepage.h"
+#include "render/pagefiles.h"
+#include "render/pictureoutput.h"
 #include "render/picturestore.h"
 #include "render/slidedifference.h"
 #include "render/slidepictures.h"
@@ -69,8 +72,12 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
         }
     }
     PictureStore store;
-    const auto target = pictureOutput(output, titleOf(reader.presentation()), settings, store, slides);
+    PageFiles files;
+    const auto target = pictureOutput(output, titleOf(reader.presentation()), settings, store, files, slides);
     SlidePictures pictures(reader, context, store, settings.ground);
+    if (settings.form->kind == PictureForm::Html) {
+        pictures.play(files);
+    }
     QJsonArray named;
     for (int i = 0; i < slides.size(); ++i) {
         const SlidePicture picture = pictures.picture(slides.at(i));
@@ -104,16 +111,19 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         refuseToReplace(output);
     }
     PictureStore store;
-    HtmlOutput html(output, firstName + QLatin1String(" and ") + secondName, store);
+    DifferencePage html(output, firstName + QLatin1String(" and ") + secondName, store);
     SlidePictures firstPictures(first, context, store);
     SlidePictures secondPictures(second, context, store);
     LossReport losses;
     for (int i = 0; i < slides.size(); ++i) {
         const int slide = slides.at(i);
         html.addHtml("<h2>Slide " + QByteArray::number(slide + 1) + "</h2>\n<div class=\"pair\">\n");
+        QString drawn[2];
         for (const bool isFirst : {true, false}) {
             if (slide < (isFirst ? first : second).slideCount()) {
-                html.add((isFirst ? firstPictures : secondPictures).picture(slide));
+                const SlidePicture picture = (isFirst ? firstPictures : secondPictures).picture(slide);
+                drawn[isFirst] = xmlNodeText(picture.svg.documentElement());
+                html.add(picture);
             } else {
                 html.addHtml("<p>This lesson has no such slide.</p>\n");
             }
@@ -126,7 +136,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
                 given = slideInPageForm(given, pluginOutlines(context.plugin));
                 found = slideInPageForm(found, pluginOutlines(context.plugin));
             }
-            html.addHtml(slideDifference(given, found, slide + 1, losses));
+            html.addHtml(slideDifference(given, found, slide + 1, drawn[0] != drawn[1], losses));
         }
         progress(i + 1, slides.size());
     }

@@ -260,6 +260,11 @@ RenderSettings renderSettings(const PictureForm &form, const OptionValue &valueO
     settings.size = sizeFrom(form, valueOf);
     settings.ground = groundFrom(form, valueOf("background"));
     settings.slides = slidesFrom(valueOf("slides"));
+    settings.isEmbedded = !valueOf("embed").isNull();
+    if (settings.isEmbedded && form.kind != PictureForm::Html) {
+        throw LessonError(QStringLiteral("--embed changes nothing about %1").arg(form.name),
+                          QStringLiteral("Leave it out; it is for html"));
+    }
     return settings;
 }
 

@@ -79,6 +79,7 @@ struct RenderSettings
     QVector<int> slides; //!< counted from 0; empty for all
     InputGuard inputs; //!< what is read, which no output may touch
     bool isKept = false; //!< what is there already, and nothing is drawn then
+    bool isEmbedded = false; //!< a page has all files in it
     bool isFolder = false; //!< several files go into a folder of the output's name
 };
 
@@ -88,7 +89,7 @@ bool isPictureName(const QString &path);
 //! The value of an option, or a null text where it isn't given.
 using OptionValue = std::function<QString(const char *option)>;
 
-//! What options say: slides, width, height, size, pad, scale, dpi and background. Throws LessonError for values that
+//! What options say: slides, width, height, size, pad, scale, dpi, background and embed. Throws LessonError for values that
 //! are none, and for options that can't change anything about pictures of that form.
 RenderSettings renderSettings(const PictureForm &form, const OptionValue &valueOf);
 

@@ -54,47 +54,66 @@ QTransform placeOfChildren(const ItemView &group)
     return turnAndFlips(group, (box ? *box : extentOfChildren(group)).center());
 }
 
-void addCover(const ItemView &item, const QTransform &placed, QVector<ShownItem> &result)
+void addCover(const ItemView &item, ShownItem cover, QVector<ShownItem> &result)
 {
     const auto place = item.place();
+    cover.item = {};
+    cover.cover = place ? place->box : toldExtent(item);
     if (place) {
-        result.append({{}, place->box, turnAbout(place->box.center(), place->angle) * placed});
-    } else if (!toldExtent(item).isEmpty()) {
-        result.append({{}, toldExtent(item), placed});
+        cover.placed = turnAbout(place->box.center(), place->angle) * cover.placed;
+    }
+    if (place || !cover.cover.isEmpty()) {
+        result.append(cover);
     }
 }
 
-void takeApart(const QJsonObject &item, const QTransform &placed, QVector<ShownItem> &result)
+void takeApart(ShownItem shown, const QSet<QString> &brought, QVector<ShownItem> &result)
 {
-    const ItemView view(item);
-    if (!view.isVisible()) {
+    shown.id = ItemView(shown.item).id();
+    if (!ItemView(shown.item).isVisible()) {
+        if (!brought.contains(shown.id)) {
+            return;
+        }
+        shown.item.insert(ItemKeys::visible, true);
+        shown.isHidden = true;
+    }
+    const ItemView view(shown.item);
+    const QVector<QJsonObject> children = view.looseChildren();
+    if (children.isEmpty()) {
+        result.append(shown);
+        if (view.flag(coverKey)) {
+            addCover(view, shown, result);
+        }
         return;
     }
-    const QVector<QJsonObject> children = view.looseChildren();
-    const QTransform inside = children.isEmpty() ? placed : placeOfChildren(view) * placed;
-    for (QJsonObject child : children) {
+    ShownItem inner = shown;
+    inner.placed = placeOfChildren(view) * shown.placed;
+    inner.groups.append(shown.id);
+    for (const QJsonObject &child : children) {
+        inner.item = child;
         if (view.flag(ItemKeys::ignoresEraser)) {
-            child.insert(ItemKeys::ignoresEraser, true);
+            inner.item.insert(ItemKeys::ignoresEraser, true);
         }
-        takeApart(child, inside, result);
+        takeApart(inner, brought, result);
     }
-    if (children.isEmpty()) {
-        result.append({item, {}, placed});
-    }
-    if (view.flag(coverKey) && children.isEmpty()) {
-        addCover(view, placed, result);
-    } else if (view.flag(coverKey)) {
-        result.append({{}, extentOfChildren(view), inside});
+    if (view.flag(coverKey)) {
+        ShownItem cover = shown;
+        cover.item = {};
+        cover.cover = extentOfChildren(view);
+        cover.placed = inner.placed;
+        result.append(cover);
     }
 }
 
 } // namespace
 
-QVector<ShownItem> shownItems(const QJsonArray &items)
+QVector<ShownItem> shownItems(const QJsonArray &items, const QSet<QString> &brought)
 {
     QVector<ShownItem> shown;
     for (const QJsonValue &item : items) {
-        takeApart(item.toObject(), {}, shown);
+        ShownItem whole;
+        whole.item = item.toObject();
+        takeApart(whole, brought, shown);
     }
     return shown;
 }

@@ -4,6 +4,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QRectF>
+#include <QSet>
+#include <QStringList>
 #include <QTransform>
 #include <QVector>
 
@@ -17,12 +19,16 @@ struct ShownItem
     QJsonObject item; //!< empty for a cover
     QRectF cover;
     QTransform placed; //!< from where it says that it is to the page: what the groups around it do with it
+    QString id; //!< of the item, or of what is covered
+    QStringList groups; //!< identifiers of the groups around it, from outside
+    bool isHidden = false; //!< until it is brought in
 
     bool isCover() const { return item.isEmpty(); }
 };
 
 //! The items of a slide that are to be seen, from back to front: groups taken apart, each cover behind what it covers.
-QVector<ShownItem> shownItems(const QJsonArray &items);
+//! brought: identifiers of hidden ones that are brought in later.
+QVector<ShownItem> shownItems(const QJsonArray &items, const QSet<QString> &brought = {});
 
 } // namespace lessonhost
 

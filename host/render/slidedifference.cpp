@@ -87,7 +87,7 @@ QString countedNames(const QStringList &names)
     return parts.join(QLatin1String(", "));
 }
 
-QByteArray asHtml(const QVector<Loss> &losses)
+QByteArray asHtml(const QVector<Loss> &losses, bool isSeen)
 {
     QStringList missing;
     QString rows;
@@ -120,21 +120,23 @@ QByteArray asHtml(const QVector<Loss> &losses)
             + QLatin1String("</p>\n");
     }
     if (!rows.isEmpty()) {
-        html += QStringLiteral("<details class=\"losses\"><summary>Missing or other values: %1</summary>\n<ul>%2</li>\n"
-                               "</ul></details>\n")
-                    .arg(losses.size() - missing.size())
-                    .arg(rows);
+        html += QStringLiteral("<details%1><summary>%2: %3</summary>\n<ul>%4</li>\n</ul></details>\n")
+                    .arg(isSeen ? QStringLiteral(" class=\"losses\"") : QString(),
+                         isSeen ? QStringLiteral("Missing or other values")
+                                : QStringLiteral("Both look the same. Missing or other values"),
+                         QString::number(losses.size() - missing.size()), rows);
     }
     return html.toUtf8();
 }
 
 } // namespace
 
-QByteArray slideDifference(const LessonSlide &given, const LessonSlide &found, int slide, LossReport &losses)
+QByteArray slideDifference(const LessonSlide &given, const LessonSlide &found, int slide, bool isSeen,
+                           LossReport &losses)
 {
     const int before = losses.entries().size();
     SlideDifference(SlideLosses(&losses, slide)).compare(given, found);
-    return asHtml(losses.entries().mid(before));
+    return asHtml(losses.entries().mid(before), isSeen);
 }
 
 } // namespace lessonhost

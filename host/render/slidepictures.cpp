@@ -6,9 +6,12 @@
 #include "render/activitydrawing.h"
 #include "render/drawings.h"
 #include "render/inkdrawing.h"
+#include "render/itemlabel.h"
 #include "render/itemoutline.h"
 #include "render/plainsvg.h"
+#include "render/playsteps.h"
 #include "render/shownitems.h"
+#include "render/slideplay.h"
 
 namespace lessonhost {
 
@@ -139,7 +142,11 @@ SlidePicture SlidePictures::picture(int index)
             plain.add(e);
         }
     }
-    const QVector<ShownItem> items = shownItems(slide.items);
+    PlaySteps steps;
+    if (m_files) {
+        steps = playSteps(slide, m_media, *m_files);
+    }
+    const QVector<ShownItem> items = shownItems(slide.items, steps.brought());
     Drawings drawings(plain, m_pages, m_media);
     if (slide.properties.contains(QLatin1String("activity"))) {
         QRectF occupied;
@@ -158,6 +165,11 @@ SlidePicture SlidePictures::picture(int index)
         }
     }
     for (const ShownItem &shown : items) {
+        std::optional<PlainSvg::ItemGroup> group;
+        if (m_files) {
+            const QString label = shown.isCover() ? QStringLiteral("Cover") : itemLabel(ItemView(shown.item));
+            group.emplace(plain, shown.id, label, shown.isHidden);
+        }
         const PlainSvg::Scope scope(plain, shown.placed);
         if (shown.isCover()) {
             drawings.drawCover(shown.cover);
@@ -169,6 +181,9 @@ SlidePicture SlidePictures::picture(int index)
     result.svg = plain.finished();
     lookAtTexts(result.svg.documentElement(), result.slide, m_missing);
     result.title = titleOf(items);
+    if (m_files) {
+        result.play = slidePlay(slide, items, steps, m_media, *m_files);
+    }
     result.language = languageOf(result.svg.documentElement());
     return result;
 }

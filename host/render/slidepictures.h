@@ -16,6 +16,7 @@
 
 namespace lessonhost {
 
+class PageFiles;
 class PictureStore;
 
 /*!
@@ -36,6 +37,7 @@ struct SlidePicture
     QString title; //!< what its uppermost text says; may be empty
     TextLanguage language;
     QVector<Told> named; //!< shown by their names alone
+    QJsonObject play; //!< of slidePlay(), where the slide is drawn to be played
 
     //! "Slide 3: What plants live on"
     QString outlineLine() const;
@@ -53,6 +55,10 @@ public:
     SlidePictures(LessonReader &reader, const LessonContext &context, PictureStore &store,
                   const std::optional<QColor> &ground = {});
 
+    //! From now on slides are drawn to be played: each item stands in a group that tells which it is, also one that is
+    //! hidden until a step brings it in. files takes those that play or open, and has to live as long.
+    void play(PageFiles &files) { m_files = &files; }
+
     //! The picture of a slide, counted from 0. Throws LessonError.
     SlidePicture picture(int index);
 
@@ -63,6 +69,7 @@ private:
     LessonReader &m_reader;
     PictureStore &m_store;
     std::optional<QColor> m_ground;
+    PageFiles *m_files = nullptr;
     IwbMedia m_media;
     IwbPageWriter m_pages;
     MissingFonts m_missing;

@@ -1,0 +1,79 @@
+/** What is turned over: cards to flip, flash cards, and questions that have an answer. */
+const Cards = (() => {
+  /** A click turns the card; its other side lies over it. */
+  function flip(slide, element, item) {
+    const box = element.getBBox();
+    const back = Stage.make('div', { className: 'card back', hidden: true, set: { 'aria-hidden': 'true' } }, item.tool.back);
+    Stage.place(back, slide, box);
+    const say = () => {
+      const isBack = !back.hidden;
+      element.setAttribute('aria-pressed', isBack);
+      element.setAttribute('aria-label', `${item.label}${isBack ? `. ${item.tool.back}` : ''}`);
+      Stage.say(isBack ? item.tool.back : item.tool.front);
+    };
+    Stage.enliven(element, 'button', item.label);
+    Stage.onActivate(element, () => { back.hidden = !back.hidden; say(); });
+    back.addEventListener('click', (event) => { event.stopPropagation(); back.hidden = true; say(); });
+    return () => { back.hidden = true; element.setAttribute('aria-pressed', 'false'); };
+  }
+
+  /** A button below the question shows its answer and hides it again. */
+  function question(slide, element, item) {
+    const box = element.getBBox();
+    const height = slide.height * 0.06;
+    const answer = Stage.make('div', { className: 'card answer', hidden: true }, item.tool.answer);
+    const button = Stage.button('Answer', 'Show the answer', (event) => {
+      event.stopPropagation();
+      answer.hidden = !answer.hidden;
+      button.setAttribute('aria-expanded', !answer.hidden);
+      Stage.say(answer.hidden ? '' : item.tool.answer);
+    }, { className: 'reveal', set: { 'aria-expanded': 'false', 'aria-label': 'Show the answer' } });
+    const bottom = Math.min(box.y + box.height, slide.height - 2 * height);
+    Stage.place(button, slide, { x: box.x, y: bottom, width: slide.width * 0.1, height: height * 0.8 }, [element]);
+    Stage.place(answer, slide, {
+      x: box.x + slide.width * 0.11, y: bottom, width: Math.max(box.width - slide.width * 0.11, slide.width * 0.3), height,
+    });
+    return () => { answer.hidden = true; button.setAttribute('aria-expanded', 'false'); };
+  }
+
+  /** One card after the other: a click turns it. */
+  function flashCards(item) {
+    const { cards } = item.tool;
+    let at = 0;
+    let isBack = false;
+    const face = Stage.button('', 'Turn the card', () => { isBack = !isBack; show(); }, { className: 'card face' });
+    const count = Stage.make('p', {});
+    const show = () => {
+      face.textContent = cards[at][isBack ? 1 : 0];
+      face.classList.toggle('back', isBack);
+      face.setAttribute('aria-label', `${face.textContent}. Turn the card`);
+      count.textContent = `Card ${at + 1} of ${cards.length}${isBack ? ', back' : ', front'}`;
+    };
+    const go = (step) => { at = (at + step + cards.length) % cards.length; isBack = false; show(); };
+    const moves = Stage.make('div', { className: 'buttons' },
+      Stage.button('Previous', 'Previous card', () => go(-1)), Stage.button('Next', 'Next card', () => go(1)));
+    show();
+    Stage.tell(item.tool.title || item.label, [face, count, moves]).classList.add('game');
+    face.focus();
+  }
+
+  const onSlide = { flip, question };
+
+  /** Called when a slide is there for the first time. Returns what takes everything back. */
+  function prepare(slide) {
+    const resets = [];
+    slide.items.filter((item) => item.tool).forEach((item) => {
+      slide.elements(item.id).forEach((element) => {
+        if (onSlide[item.tool.kind]) {
+          resets.push(onSlide[item.tool.kind](slide, element, item));
+        } else if (item.tool.kind === 'cards') {
+          Stage.enliven(element, 'button', item.label);
+          Stage.onActivate(element, () => flashCards(item));
+        }
+      });
+    });
+    return resets;
+  }
+
+  return { prepare };
+})();

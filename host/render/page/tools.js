@@ -1,0 +1,227 @@
+/** The tools of a board: a curtain, a spotlight, instruments to measure with, and pieces to move. */
+const Tools = (() => {
+  const clamp = (value, least, most) => Math.min(Math.max(value, least), most);
+
+  /** Has arrow keys and others do something with an element: actions by the name of the key. */
+  function onKeys(element, actions) {
+    element.addEventListener('keydown', (event) => {
+      const action = actions[event.key];
+      if (action && !event.ctrlKey && !event.altKey && !event.metaKey) {
+        event.preventDefault();
+        event.stopPropagation();
+        action(event.shiftKey);
+      }
+    });
+  }
+
+  /** Each edge of a curtain can be drawn to the opposite one; Enter opens and closes it. */
+  function curtain(slide, element, item) {
+    const open = { top: 0, right: 0, bottom: 0, left: 0 }; // parts of its size
+    const box = () => element.getBBox();
+    const show = () => {
+      const sides = ['top', 'right', 'bottom', 'left'].map((side) => `${open[side] * 100}%`);
+      element.style.clipPath = `inset(${sides.join(' ')})`;
+      const width = 1 - open.left - open.right;
+      const height = 1 - open.top - open.bottom;
+      const part = Math.round((1 - Math.max(width, 0) * Math.max(height, 0)) * 100);
+      element.setAttribute('aria-valuenow', part);
+      element.setAttribute('aria-valuetext', `${part} % open`);
+    };
+    const pull = (side, part) => {
+      const opposite = { top: 'bottom', bottom: 'top', left: 'right', right: 'left' }[side];
+      open[side] = clamp(part, 0, 1 - open[opposite]);
+      show();
+    };
+    const openOrClose = () => {
+      const isOpen = open.bottom + open.top >= 1 || open.left + open.right >= 1;
+      Object.assign(open, { top: 0, right: 0, bottom: isOpen ? 0 : 1, left: 0 });
+      show();
+    };
+    Stage.enliven(element, 'slider', item.label);
+    element.setAttribute('aria-valuemin', '0');
+    element.setAttribute('aria-valuemax', '100');
+    const step = 0.1;
+    onKeys(element, {
+      ArrowUp: () => pull('bottom', open.bottom + step),
+      ArrowDown: () => pull('bottom', open.bottom - step),
+      ArrowLeft: () => pull('right', open.right + step),
+      ArrowRight: () => pull('right', open.right - step),
+      Enter: openOrClose,
+      ' ': openOrClose,
+    });
+    let side = null;
+    let before = 0;
+    Stage.drag(element, slide, {
+      begin: (point) => {
+        const { x, y, width, height } = box();
+        const far = {
+          top: (point.y - y) / height - open.top, bottom: (y + height - point.y) / height - open.bottom,
+          left: (point.x - x) / width - open.left, right: (x + width - point.x) / width - open.right,
+        };
+        side = Object.keys(far).reduce((best, one) => (far[one] < far[best] ? one : best));
+        before = open[side];
+        return true;
+      },
+      move: (point, by) => {
+        const { width, height } = box();
+        const parts = { top: by.y / height, bottom: -by.y / height, left: by.x / width, right: -by.x / width };
+        pull(side, before + parts[side]);
+      },
+      end: () => {},
+    });
+    element.addEventListener('click', (event) => event.stopPropagation());
+    show();
+    return () => { Object.assign(open, { top: 0, right: 0, bottom: 0, left: 0 }); show(); };
+  }
+
+  /** The light goes with the pointer; arrows move it, plus and minus make it larger and smaller. */
+  function spotlight(slide, element, item) {
+    const dark = element.querySelector('path');
+    const area = element.getBBox();
+    const spot = { x: item.tool.center[0], y: item.tool.center[1], radius: item.tool.radius };
+    const first = { ...spot };
+    const show = () => {
+      const { x, y, radius: r } = spot;
+      const around = `M${area.x} ${area.y}h${area.width}v${area.height}h${-area.width}z`;
+      dark.setAttribute('d', `${around}M${x - r} ${y}a${r} ${r} 0 1 0 ${2 * r} 0a${r} ${r} 0 1 0 ${-2 * r} 0z`);
+      dark.setAttribute('fill-rule', 'evenodd');
+    };
+    const moveTo = (x, y) => {
+      spot.x = clamp(x, area.x + spot.radius, Math.max(area.x + area.width - spot.radius, area.x + spot.radius));
+      spot.y = clamp(y, area.y + spot.radius, Math.max(area.y + area.height - spot.radius, area.y + spot.radius));
+      show();
+    };
+    const grow = (factor) => {
+      spot.radius = clamp(spot.radius * factor, 10, Math.min(area.width, area.height) / 2);
+      moveTo(spot.x, spot.y);
+    };
+    const step = 20;
+    Stage.enliven(element, 'group', `${item.label}. Arrows move it, plus and minus change its size.`);
+    onKeys(element, {
+      ArrowUp: () => moveTo(spot.x, spot.y - step),
+      ArrowDown: () => moveTo(spot.x, spot.y + step),
+      ArrowLeft: () => moveTo(spot.x - step, spot.y),
+      ArrowRight: () => moveTo(spot.x + step, spot.y),
+      '+': () => grow(1.1),
+      '-': () => grow(1 / 1.1),
+    });
+    element.addEventListener('wheel', (event) => {
+      event.preventDefault();
+      grow(event.deltaY < 0 ? 1.1 : 1 / 1.1);
+    });
+    Stage.drag(element, slide, { begin: (point) => { moveTo(point.x, point.y); return true; }, move: (point) => moveTo(point.x, point.y) });
+    element.addEventListener('click', (event) => event.stopPropagation());
+    show();
+    return () => { Object.assign(spot, first); show(); };
+  }
+
+  /**
+   * An item that is moved and turned about its middle. Returns its place, and what takes it back. onTurn is called
+   * with the angle after each turn by its handle.
+   */
+  function movable(slide, element, item, { canTurn, onTurn, onDrop, center }) {
+    const place = { x: 0, y: 0, angle: 0 };
+    const middle = () => {
+      const box = element.getBBox();
+      return center ? center(box) : { x: box.x + box.width / 2, y: box.y + box.height / 2 };
+    };
+    const original = middle();
+    const show = () => {
+      element.setAttribute('transform',
+        `translate(${place.x} ${place.y}) rotate(${place.angle} ${original.x} ${original.y})`);
+    };
+    const move = (x, y) => { Object.assign(place, { x, y }); show(); };
+    const turn = (angle) => { place.angle = angle; show(); if (onTurn) { onTurn(angle); } };
+    const keys = canTurn ? 'Arrows move it, square brackets turn it.' : 'Arrows move it.';
+    Stage.enliven(element, 'group', `${item.label}. ${keys}`);
+    const far = (isFar) => (isFar ? 1 : 10);
+    const actions = {
+      ArrowUp: (isFar) => move(place.x, place.y - far(isFar)),
+      ArrowDown: (isFar) => move(place.x, place.y + far(isFar)),
+      ArrowLeft: (isFar) => move(place.x - far(isFar), place.y),
+      ArrowRight: (isFar) => move(place.x + far(isFar), place.y),
+    };
+    if (canTurn) {
+      actions['['] = () => turn(place.angle - 5);
+      actions[']'] = () => turn(place.angle + 5);
+    }
+    onKeys(element, actions);
+    let before = null;
+    Stage.drag(element, slide, {
+      begin: () => { before = { ...place }; return true; },
+      move: (point, by) => move(before.x + by.x, before.y + by.y),
+      end: (moved, point) => moved && onDrop && onDrop(place, point),
+    });
+    element.addEventListener('click', (event) => event.stopPropagation());
+    if (canTurn) {
+      addHandle(slide, element, item, place, original, turn);
+    }
+    return { place, original, show, reset: () => { Object.assign(place, { x: 0, y: 0, angle: 0 }); show(); } };
+  }
+
+  /** A knob at the right end of an instrument, to turn it by. */
+  function addHandle(slide, element, item, place, middle, turn) {
+    const box = element.getBBox();
+    const size = Math.max(slide.height * 0.016, 8);
+    const knob = Stage.makeSvg('circle', {
+      cx: box.x + box.width, cy: box.y + box.height / 2, r: size, class: 'knob', role: 'button', tabindex: '-1',
+      'aria-label': `Turn ${item.label}`,
+    });
+    element.append(knob);
+    let offset = 0;
+    const angleTo = (point) => {
+      const x = point.x - middle.x - place.x;
+      const y = point.y - middle.y - place.y;
+      return (Math.atan2(y, x) * 180) / Math.PI;
+    };
+    Stage.drag(knob, slide, {
+      begin: (point) => { offset = place.angle - angleTo(point); return true; },
+      move: (point) => turn(angleTo(point) + offset),
+    });
+  }
+
+  function instrument(slide, element, item) {
+    return movable(slide, element, item, { canTurn: true }).reset;
+  }
+
+  /** Turned about its needle, on the left below, compasses draw with the other leg. */
+  function compasses(slide, element, item) {
+    let points = [];
+    let arc = null;
+    const arcs = [];
+    const onTurn = () => {
+      const box = element.getBBox();
+      const tip = new DOMPoint(box.x + box.width, box.y + box.height)
+        .matrixTransform(element.transform.baseVal.consolidate().matrix);
+      if (!arc) {
+        arc = Stage.makeSvg('polyline', { class: 'arc' });
+        arcs.push(arc);
+        slide.svg.append(arc);
+      }
+      points.push(`${tip.x.toFixed(1)},${tip.y.toFixed(1)}`);
+      arc.setAttribute('points', points.join(' '));
+    };
+    const moved = movable(slide, element, item, {
+      canTurn: true, onTurn, center: (box) => ({ x: box.x, y: box.y + box.height }),
+      onDrop: () => { arc = null; points = []; },
+    });
+    return () => { arcs.splice(0).forEach((one) => one.remove()); arc = null; points = []; moved.reset(); };
+  }
+
+  function piece(slide, element, item) {
+    return movable(slide, element, item, { canTurn: false, onDrop: () => slide.svg.append(element) }).reset;
+  }
+
+  const kinds = { curtain, spotlight, instrument, compasses, piece };
+
+  /** Called when a slide is there for the first time. Returns what takes all of its tools back. */
+  function prepare(slide) {
+    const resets = [];
+    slide.items.filter((item) => item.tool && kinds[item.tool.kind]).forEach((item) => {
+      slide.elements(item.id).forEach((element) => resets.push(kinds[item.tool.kind](slide, element, item)));
+    });
+    return resets;
+  }
+
+  return { prepare, onKeys };
+})();
