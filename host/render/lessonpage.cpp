@@ -80,12 +80,13 @@ void LessonPage::add(const SlidePicture &picture)
     const QByteArray number = QByteArray::number(picture.slide);
     const QByteArray language = picture.language.code().toLatin1();
     const QDomElement svg = picture.svg.documentElement();
+    const QByteArray size = "--width:" + QByteArray::number(qRound(picture.size.width()))
+        + ";--height:" + QByteArray::number(qRound(picture.size.height()));
     m_slides.put("<section class=\"slide\" id=\"slide" + number + "\" data-slide=\"" + number + "\" aria-label=\"Slide "
                  + number + "\"" + (language.isEmpty() ? QByteArray() : " lang=\"" + language + "\"")
-                 + ">\n<h2 lang=\"en\">" + escaped(captionOf(picture)) + "</h2>\n<div class=\"stage\" style=\"--width:" + QByteArray::number(qRound(picture.size.width())) + ";--height:"
-                 + QByteArray::number(qRound(picture.size.height())) + "\">\n"
-                 + m_pictures.html(svg) + "\n</div>\n" + jsonHtml(QJsonDocument(picture.play), " class=\"play\"")
-                 + "</section>\n");
+                 + ">\n<h2 lang=\"en\">" + escaped(captionOf(picture)) + "</h2>\n<div class=\"stage\" style=\"" + size
+                 + "\">\n" + m_pictures.html(svg) + "\n</div>\n"
+                 + jsonHtml(QJsonDocument(picture.play), " class=\"play\"") + "</section>\n");
     m_widest = qMax(m_widest, qRound(picture.size.width()));
     const QDomNodeList styles = svg.elementsByTagName(QStringLiteral("style"));
     for (int i = 0; i < styles.size(); ++i) {

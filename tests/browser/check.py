@@ -95,7 +95,7 @@ class Page(unittest.TestCase):
     def is_seen(self, identifier):
         """Whether the middle of where an item was drawn shows it."""
         return self.js("""const item = document.querySelector(`.shown [data-item="${arguments[0]}"]`);
-            if (!item.checkVisibility()) { return false; }
+            if (getComputedStyle(item).display === 'none') { return false; }
             const box = item.getBoundingClientRect();
             const top = document.elementFromPoint(box.x + box.width / 2, box.y + box.height / 2);
             return item.contains(top);""", identifier)
@@ -371,6 +371,27 @@ class Working(Page):
             button(number).click()
             button(name).click()
         self.assertIn("Right: 2 of 3. Wrong: 1.", self.dialog().text)
+
+
+class Example(Page):
+    def test_a_whole_lesson_is_given(self):
+        page = self.folder / "sounds.html"
+        example = pathlib.Path(__file__).parent.parent.parent / "examples" / "playing"
+        subprocess.run([LESSONCONV, "render", example, page, "--quiet"], check=True,
+                       env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+        self.pages["sounds"] = page
+        self.open(name="sounds")
+        steps = []
+        for _ in range(20):
+            steps.append((self.shown()[0], len(self.js(
+                "return [...document.querySelectorAll('.shown [data-item]')].filter((one) => getComputedStyle(one).display != 'none')"))))
+            if self.shown() == [2] and steps[-2][0] == 1:
+                self.js("document.querySelector('.shown video').play()")
+                self.wait(lambda: self.js("return document.querySelector('.shown video').currentTime > 0.05"))
+            self.press(Keys.PAGE_DOWN)
+        self.assertEqual([count for slide, count in steps if slide == 1], [4, 5, 7, 7])
+        self.assertEqual(sorted({slide for slide, _ in steps}), [1, 2, 3, 4, 5, 6, 7])
+        self.assertEqual(self.errors(), [])
 
 
 class Hostile(Page):

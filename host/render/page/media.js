@@ -27,7 +27,7 @@ const Media = (() => {
     return element;
   }
 
-  /** The place of a player: the item's, but never so low that its controls can't be reached. */
+  /** The place of a player: of a film the item's, of a sound below it, so that its name is seen. */
   function placeOf(slide, item, box) {
     const least = slide.height * 0.055;
     if (item.media.kind === 'video') {
@@ -36,7 +36,7 @@ const Media = (() => {
     const height = Math.min(Math.max(least, box.height * 0.3), least * 1.5);
     const width = Math.max(box.width, slide.width * 0.18);
     const x = Math.min(box.x, slide.width - width);
-    return { x, y: Math.min(box.y + box.height - height, slide.height - height), width, height };
+    return { x, y: Math.min(box.y + box.height, slide.height - height), width, height };
   }
 
   /** Called when a slide is there for the first time, since only then its items have a size. */

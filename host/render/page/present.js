@@ -198,8 +198,6 @@ const Present = (() => {
     const main = document.querySelector('main');
     slides.forEach((slide) => {
       slide.section.tabIndex = -1;
-      slide.stage.style.setProperty('--width', slide.width);
-      slide.stage.style.setProperty('--height', slide.height);
       slide.svg.setAttribute('role', 'group');
       slide.section.append(Stage.button('', `Slide ${slide.number}`, (event) => {
         event.stopPropagation();
