@@ -193,14 +193,16 @@ struct Form
     double width; //!< of an item without a box, in pixels
     double height;
     void (*draw)(const Instrument &instrument);
+    QPointF middle; //!< of turns, and below where it is taken to turn it: parts of its size
+    QPointF handle;
 };
 
 constexpr Form forms[] = {
-    {"Math:ruler", 800, 90, &drawRuler},
-    {"Math:triangle3060", 400, 231, &drawLongSetSquare},
-    {"Math:triangle4545", 300, 300, &drawEvenSetSquare},
-    {"Math:protractor", 500, 265, &drawProtractor},
-    {"Math:compasses", 200, 240, &drawCompasses},
+    {"Math:ruler", 800, 90, &drawRuler, {.5, .5}, {1, .5}},
+    {"Math:triangle3060", 400, 231, &drawLongSetSquare, {.5, .5}, {1, 1}},
+    {"Math:triangle4545", 300, 300, &drawEvenSetSquare, {.5, .5}, {1, 1}},
+    {"Math:protractor", 500, 265, &drawProtractor, {.5, 1}, {1, 1}},
+    {"Math:compasses", 200, 240, &drawCompasses, {.04, 1}, {.96, 1}},
 };
 
 const Form *formOf(const QString &type)
@@ -234,24 +236,34 @@ std::optional<QRectF> boxOf(const ItemView &item, const Form &form)
     return box;
 }
 
-bool drawInstrument(Canvas &canvas, const ItemView &item)
+// Its box and where that lies; nothing where it says neither.
+std::optional<PlacedBox> placeOf(const ItemView &item, const Form &form)
 {
-    const Form *const form = formOf(item.type());
-    const auto box = form ? boxOf(item, *form) : std::nullopt;
+    const auto box = boxOf(item, form);
     if (!box) {
-        return false;
+        return std::nullopt;
     }
     const QTransform turned = turnAbout(box->center(), qDegreesToRadians(item.number(rotateAngle)));
     const QTransform page =
         item.box() ? placeOnPage(item) : item.matrix().value_or(turnAbout(box->center(), item.angle()));
     const PlacedBox placed(*box, turned * page);
-    if (placed.isEmpty()) {
-        return false;
+    return placed.isEmpty() ? std::nullopt : std::optional<PlacedBox>(placed);
+}
+
+// From pixels of the instrument, beginning at its upper left corner.
+QTransform fromPixels(const PlacedBox &placed)
+{
+    return QTransform::fromTranslate(-placed.width / 2, -placed.height / 2) * placed.inPixels();
+}
+
+bool drawInstrument(Canvas &canvas, const ItemView &item)
+{
+    const Form *const form = formOf(item.type());
+    const auto placed = form ? placeOf(item, *form) : std::nullopt;
+    if (placed) {
+        form->draw({canvas.svg(), {placed->width, placed->height}, fromPixels(*placed)});
     }
-    form->draw({canvas.svg(),
-                {placed.width, placed.height},
-                QTransform::fromTranslate(-placed.width / 2, -placed.height / 2) * placed.inPixels()});
-    return true;
+    return placed.has_value();
 }
 
 } // namespace
@@ -259,6 +271,17 @@ bool drawInstrument(Canvas &canvas, const ItemView &item)
 SvgDrawing instrumentDrawing(const QString &type)
 {
     return formOf(type) ? &drawInstrument : nullptr;
+}
+
+std::optional<InstrumentHandle> instrumentHandle(const ItemView &item)
+{
+    const Form *const form = formOf(item.type());
+    const auto placed = form ? placeOf(item, *form) : std::nullopt;
+    if (!placed) {
+        return std::nullopt;
+    }
+    const QTransform fromParts = QTransform::fromScale(placed->width, placed->height) * fromPixels(*placed);
+    return InstrumentHandle{fromParts.map(form->middle), fromParts.map(form->handle)};
 }
 
 } // namespace lessonhost

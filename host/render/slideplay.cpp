@@ -5,6 +5,7 @@
 #include "lesson/itemview.h"
 #include "lesson/listentries.h"
 #include "render/coverdrawing.h"
+#include "render/instrumentdrawing.h"
 #include "render/itemlabel.h"
 #include "render/pagefiles.h"
 #include "render/pagelinks.h"
@@ -61,6 +62,11 @@ QJsonObject mediaOf(const ItemView &item, IwbMedia &media, PageFiles &files)
     return {};
 }
 
+QJsonArray pointOf(const QPointF &point)
+{
+    return {point.x(), point.y()};
+}
+
 QJsonObject spotlight(const ItemView &item, const QTransform &placed)
 {
     const auto spot = spotOn(item);
@@ -69,7 +75,7 @@ QJsonObject spotlight(const ItemView &item, const QTransform &placed)
     }
     const QPointF center = placed.map(spot->center);
     return {{QStringLiteral("kind"), QStringLiteral("spotlight")},
-            {QStringLiteral("center"), QJsonArray{center.x(), center.y()}},
+            {QStringLiteral("center"), pointOf(center)},
             {QStringLiteral("radius"), spot->radius}};
 }
 
@@ -136,11 +142,12 @@ QJsonObject toolOf(const ItemView &item, const QTransform &placed)
     if (type == QLatin1String("General:connection")) {
         return exercise(item, "pairs", "ConnectionList", "pairs");
     }
-    if (type == QLatin1String("Math:compasses")) {
-        return kind("compasses");
-    }
-    if (type.startsWith(QLatin1String("Math:"))) {
-        return kind("instrument");
+    if (const auto handle = instrumentHandle(item)) {
+        QJsonObject tool =
+            kind(type == QLatin1String("Math:compasses") ? "compasses" : "instrument");
+        tool.insert(QStringLiteral("middle"), pointOf(placed.map(handle->middle)));
+        tool.insert(QStringLiteral("handle"), pointOf(placed.map(handle->handle)));
+        return tool;
     }
     if (type == QLatin1String("ZQQuestionItem")) {
         return question(item);

@@ -299,7 +299,7 @@ class Working(Page):
         self.press(Keys.ARROW_UP * 7)
         self.assertTrue(self.is_seen("under"))
 
-    def test_spotlight_and_ruler(self):
+    def test_spotlight_ruler_and_compasses(self):
         self.open("#7")
         stage = self.box(self.driver.find_element(By.CSS_SELECTOR, ".shown .stage"))
         scale = stage[2] / 400
@@ -316,6 +316,12 @@ class Working(Page):
         self.press("]" * 18)
         turned = self.box(self.item("q"))
         self.assertGreater(turned[3], turned[2] * 4)
+        for place in (0, 1):
+            self.assertAlmostEqual(turned[place] + turned[place + 2] / 2, after[place] + after[place + 2] / 2, delta=20)
+        self.drag(at(388, 290), at(342, 240))
+        arc = self.js("return [...document.querySelector('.arc').points].map((one) => [one.x, one.y])")
+        self.assertTrue(all(abs(((x - 342) ** 2 + (y - 290) ** 2) ** 0.5 - 46) < 1 for x, y in arc), arc)
+        self.assertLess(abs(arc[-1][0] - 342), 2)
 
     def test_cards_questions_and_ink(self):
         self.open("#8")

@@ -75,7 +75,8 @@ def playing():
         {"ID": "7", "Items": [
             {"ID": "l", "Type": "General:spotlight", "BoundingBox": "0,0,400,200", "CanvasSize": "400,200",
              "SpotCenter": "100,100", "SpotRadius": "40"},
-            {"ID": "q", "Type": "Math:ruler", "BoundingBox": "50,220,350,260", "Length": "300"}]},
+            {"ID": "q", "Type": "Math:ruler", "BoundingBox": "50,220,330,260", "Length": "280"},
+            {"ID": "x", "Type": "Math:compasses", "BoundingBox": "340,210,390,290"}]},
         {"ID": "8", "Items": [
             {"ID": "f", "Type": "ZQActivityFlipItem", "BoundingBox": "20,20,180,140", "frontContent": "7 x 8",
              "TextHtml": "<p>fifty-six</p>"},

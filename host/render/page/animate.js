@@ -79,7 +79,7 @@ const Animate = (() => {
       this.slide.drawn.forEach((element) => {
         const isHidden = this.hiddenFirst.includes(element) || this.enterFirst.includes(element);
         show(element, !isHidden);
-        element.classList.remove('scaled');
+        element.classList.remove('scaled', 'growing');
         element.style.removeProperty('--scale');
       });
     }
@@ -174,10 +174,12 @@ const Animate = (() => {
           options.iterations = Infinity;
           options.direction = 'alternate';
         }
+        element.classList.toggle('growing', step.effect === 'zoom');
         const animation = element.animate(keyframes, options);
         this.running.add(animation);
         const done = () => {
           this.running.delete(animation);
+          element.classList.remove('growing');
           this.settle(step);
           animation.cancel();
         };

@@ -116,16 +116,13 @@ const Tools = (() => {
   }
 
   /**
-   * An item that is moved and turned about its middle. Returns its place, and what takes it back. onTurn is called
+   * An item that is moved, and turned about its middle. Returns its place, and what takes it back. onTurn is called
    * with the angle after each turn by its handle.
    */
-  function movable(slide, element, item, { canTurn, onTurn, onDrop, center }) {
+  function movable(slide, element, item, { canTurn, onTurn, onDrop }) {
     const place = { x: 0, y: 0, angle: 0 };
-    const middle = () => {
-      const box = element.getBBox();
-      return center ? center(box) : { x: box.x + box.width / 2, y: box.y + box.height / 2 };
-    };
-    const original = middle();
+    const [x0, y0] = item.tool.middle || [0, 0];
+    const original = { x: x0, y: y0 };
     const show = () => {
       element.setAttribute('transform',
         `translate(${place.x} ${place.y}) rotate(${place.angle} ${original.x} ${original.y})`);
@@ -159,12 +156,11 @@ const Tools = (() => {
     return { place, original, show, reset: () => { Object.assign(place, { x: 0, y: 0, angle: 0 }); show(); } };
   }
 
-  /** A knob at the right end of an instrument, to turn it by. */
+  /** A knob on an instrument, to turn it by. */
   function addHandle(slide, element, item, place, middle, turn) {
-    const box = element.getBBox();
     const size = Math.max(slide.height * 0.016, 8);
     const knob = Stage.makeSvg('circle', {
-      cx: box.x + box.width, cy: box.y + box.height / 2, r: size, class: 'knob', role: 'button', tabindex: '-1',
+      cx: item.tool.handle[0], cy: item.tool.handle[1], r: size, class: 'knob', role: 'button', tabindex: '-1',
       'aria-label': `Turn ${item.label}`,
     });
     element.append(knob);
@@ -184,15 +180,13 @@ const Tools = (() => {
     return movable(slide, element, item, { canTurn: true }).reset;
   }
 
-  /** Turned about its needle, on the left below, compasses draw with the other leg. */
+  /** Compasses draw with their lead when they are turned about the needle. */
   function compasses(slide, element, item) {
     let points = [];
     let arc = null;
     const arcs = [];
     const onTurn = () => {
-      const box = element.getBBox();
-      const tip = new DOMPoint(box.x + box.width, box.y + box.height)
-        .matrixTransform(element.transform.baseVal.consolidate().matrix);
+      const tip = new DOMPoint(...item.tool.handle).matrixTransform(element.transform.baseVal.consolidate().matrix);
       if (!arc) {
         arc = Stage.makeSvg('polyline', { class: 'arc' });
         arcs.push(arc);
@@ -202,8 +196,7 @@ const Tools = (() => {
       arc.setAttribute('points', points.join(' '));
     };
     const moved = movable(slide, element, item, {
-      canTurn: true, onTurn, center: (box) => ({ x: box.x, y: box.y + box.height }),
-      onDrop: () => { arc = null; points = []; },
+      canTurn: true, onTurn, onDrop: () => { arc = null; points = []; },
     });
     return () => { arcs.splice(0).forEach((one) => one.remove()); arc = null; points = []; moved.reset(); };
   }
