@@ -19,7 +19,7 @@ double pixelsOf(const QFont &font)
     return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * SvgPaintDevice::dotsPerInch / 72;
 }
 
-// Letters in the case in which the font draws them. Of small capitals, those that are small come by themselves.
+// Letters in the case in which the font draws them. Small capitals come by themselves, in their size.
 QString drawnLetters(const QString &text, const QFont &font)
 {
     switch (font.capitalization()) {
@@ -31,13 +31,6 @@ QString drawnLetters(const QString &text, const QFont &font)
     default:
         return text;
     }
-}
-
-double drawnPixels(const QString &text, const QFont &font)
-{
-    constexpr double smallCapitals = 0.7;
-    const bool isSmall = font.capitalization() == QFont::SmallCaps && text != text.toUpper();
-    return pixelsOf(font) * (isSmall ? smallCapitals : 1);
 }
 
 // One that was found before stands before the list that was asked for.
@@ -234,8 +227,7 @@ public:
     {
         const QFont font = item.font();
         const QString text = drawnLetters(item.text(), font);
-        const double pixels = drawnPixels(item.text(), font);
-        const bool isNext = continuesText(position, pixels);
+        const bool isNext = continuesText(position, pixelsOf(font));
         if (text.trimmed().isEmpty() && !isNext) {
             return;
         }
@@ -244,7 +236,7 @@ public:
             return;
         }
         if (isRightToLeft || !isNext) {
-            startText(position, font, pixels);
+            startText(position, font);
         }
         addSpan(text, font);
         m_textEnd = position.x() + item.width();
@@ -313,14 +305,14 @@ private:
             && qFuzzyCompare(pixels, m_pixels);
     }
 
-    void startText(const QPointF &position, const QFont &font, double pixels)
+    void startText(const QPointF &position, const QFont &font)
     {
         finishText();
         m_text = appendPlaced(QStringLiteral("text"));
         m_text.setAttribute(QStringLiteral("x"), drawnNumber(position.x()));
         m_text.setAttribute(QStringLiteral("y"), drawnNumber(position.y()));
         m_text.setAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
-        m_pixels = pixels;
+        m_pixels = pixelsOf(font);
         m_text.setAttribute(QStringLiteral("font-size"), drawnNumber(m_pixels));
         m_letters = std::make_unique<Letters>(font, faded(m_pen.color()));
         m_letters->set(m_text, nullptr);
@@ -372,7 +364,7 @@ private:
             if (!isEnd) {
                 continue;
             }
-            startText({position.x() + natural.at(start) + moved, position.y()}, font, pixelsOf(font));
+            startText({position.x() + natural.at(start) + moved, position.y()}, font);
             addSpan(text.mid(start, i - start), font);
             m_text = QDomElement();
             moved += isByLetter ? step : step * text.midRef(start, i - start).count(QLatin1Char(' '));
