@@ -107,6 +107,8 @@ private slots:
         row("drawing that uses itself",
             question + "<svg><g id=`a`><rect/><use xlink:href=`#b`/></g><g id=`b`><use xlink:href=`#a`/></g></svg>'}",
             "<rect/>|matrix(1 0 0 1 100 50)|!<use");
+        row("question in a font", question + "<svg><text font-family=`SimSun` textLength=`9`>a</text></svg>'}",
+            "style=\"font-family:SimSun, serif\"|!textLength");
         row("question in words", question + "1 < 2 & 3'}", ">1 &lt; 2 &amp; 3<");
         row("question that is broken", question + "<svg><text>Why?'}", ">Why?<");
         row("empty question", question + "'}", ">Question<");

@@ -131,6 +131,18 @@ QStringList withGenericFamily(QStringList families)
     return families;
 }
 
+QStringList familiesIn(const QString &list)
+{
+    QStringList families;
+    for (QString name : list.split(QLatin1Char(','))) {
+        name = name.remove(QLatin1Char('\'')).remove(QLatin1Char('"')).simplified();
+        if (!name.isEmpty()) {
+            families.append(name);
+        }
+    }
+    return families;
+}
+
 // Words of letters and digits need no quotes. What names of fonts don't have stays out, for a style ends at a
 // semicolon.
 QString svgFamilies(const QStringList &families)

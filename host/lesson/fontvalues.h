@@ -29,7 +29,10 @@ QLatin1String htmlAlignment(Qt::Alignment alignment);
 //! "sans-serif" or "monospace", as the names tell.
 QStringList withGenericFamily(QStringList families);
 
-//! The same list as svg writes it.
+//! The families of a list as svg and style sheets write it, without quotes.
+QStringList familiesIn(const QString &list);
+
+//! The list as svg writes it.
 QString svgFamilies(const QStringList &families);
 
 } // namespace lessonhost

@@ -1,7 +1,9 @@
 #include "render/innersvg.h"
 
 #include "files/drawingbounds.h"
+#include "lesson/fontvalues.h"
 #include "lesson/itemvalues.h"
+#include "render/svgelements.h"
 #include "svg/svgvalues.h"
 
 #include <QHash>
@@ -213,6 +215,12 @@ private:
                        || name == QLatin1String("xml:space")) {
                 to.setAttribute(name, withOwnNames(value));
             }
+        }
+        // Letters are as wide as their font has them, in every viewer.
+        to.removeAttribute(QStringLiteral("textLength"));
+        const QString families = to.attribute(QStringLiteral("font-family"));
+        if (!families.isEmpty() && !to.hasAttribute(QStringLiteral("style"))) {
+            setDrawnFamilies(to, familiesIn(families));
         }
     }
 
