@@ -37,15 +37,15 @@ constexpr AlignmentName alignments[] = {
 // A part of a font's name, and what it tells. The first that fits counts.
 struct FamilyKind
 {
-    const char *part;
+    QStringView part;
     const char *generic;
 };
 constexpr FamilyKind familyKinds[] = {
-    {"mono", "monospace"}, {"courier", "monospace"}, {"consolas", "monospace"}, {"sans", "sans-serif"},
-    {"serif", "serif"},    {"times", "serif"},       {"georgia", "serif"},      {"cambria", "serif"},
-    {"garamond", "serif"}, {"palatino", "serif"},    {"song", "serif"},         {"simsun", "serif"},
-    {"ming", "serif"},     {"mincho", "serif"},      {"kai", "serif"},          {"batang", "serif"},
-    {"宋", "serif"},       {"明", "serif"},          {"楷", "serif"},
+    {u"mono", "monospace"}, {u"courier", "monospace"}, {u"consolas", "monospace"}, {u"sans", "sans-serif"},
+    {u"serif", "serif"},    {u"times", "serif"},       {u"georgia", "serif"},      {u"cambria", "serif"},
+    {u"garamond", "serif"}, {u"palatino", "serif"},    {u"song", "serif"},         {u"simsun", "serif"},
+    {u"ming", "serif"},     {u"mincho", "serif"},      {u"kai", "serif"},          {u"batang", "serif"},
+    {u"宋", "serif"},       {u"明", "serif"},          {u"楷", "serif"},
 };
 
 const AlignmentName &alignmentName(Qt::Alignment alignment)
@@ -122,9 +122,8 @@ QLatin1String htmlAlignment(Qt::Alignment alignment)
 QStringList withGenericFamily(QStringList families)
 {
     const QString first = families.value(0).toLower();
-    const auto *const kind =
-        std::find_if(std::begin(familyKinds), std::end(familyKinds),
-                     [&first](const FamilyKind &row) { return first.contains(QString::fromUtf8(row.part)); });
+    const auto *const kind = std::find_if(std::begin(familyKinds), std::end(familyKinds),
+                                          [&first](const FamilyKind &row) { return first.contains(row.part); });
     const QString generic = QLatin1String(kind == std::end(familyKinds) ? "sans-serif" : kind->generic);
     families.removeAll(generic);
     families.append(generic);

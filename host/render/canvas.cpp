@@ -50,7 +50,8 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
             return laidOut.size().height() * scale > room.height() || laidOut.idealWidth() * scale > room.width();
         };
         while (isTooLarge()) {
-            scale *= 0.9;
+            // At once as small as a word needs that is longer than a line.
+            scale = qMin(scale * 0.9, room.width() / laidOut.idealWidth());
             if (scale < smallest) {
                 return false;
             }

@@ -257,7 +257,8 @@ void PlainSvg::addImage(const QImage &image, const QRectF &box)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
+    constexpr int quick = 85; // packs little: what is painted has few colours or none that repeat
+    image.save(&buffer, "png", quick);
     m_pixels.take(1, qint64(image.width()) * image.height());
     QDomElement element = append(QStringLiteral("image"));
     setBox(element, box);
