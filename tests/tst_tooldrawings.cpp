@@ -204,13 +204,13 @@ private slots:
         const Table<QJsonObject, QString, QString> row("item", "words", "look");
         const QString look = "'defaultTextSize':'24','defaultTextColor':'#80ff0000','defaultTextFamily':'Serif'"_s;
         row("piece", json("{'Type':'ZQActiveMaterialItem','TextHtml':'<p>Otter</p>'," + look + '}'), "Otter",
-            "24.00 #ff0000 0.50 serif middle");
+            "24.00 #ff0000 0.50 Serif middle");
         row("gap", json("{'Type':'ZQActiveContainerGapFillingItem','TextHtml':'Water','GapFillingContent':'A _'}"_s),
             "A _", "28.00 #000000  Arial middle");
         row("front of a card",
             json("{'Type':'ZQActivityFlipItem','TextHtml':'back','frontContent':'7 < 11','defaultFrontFontFormat':"
                  "'Serif,15,-1'}"_s),
-            "7 < 11", "20.00 #000000  serif middle");
+            "7 < 11", "20.00 #000000  Serif middle");
         row("player", json("{'Type':'ZQActiveMaterialStudent7','TextHtml':'Ada'}"_s), "Ada",
             "28.00 #000000  Arial middle");
     }
