@@ -100,7 +100,7 @@ private slots:
             "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DSegment new, ZQGroupItem g, ZQSmoothStroke s",
             "1 added");
         row("locked by a record", "</iwb>", "<iwb:element ref='s' locked='true'/></iwb>",
-            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQMath2DPolyline s", "1 thing changed");
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s", "1 thing changed");
     }
 
     void editsWin()

@@ -112,6 +112,12 @@ bool holdsText(const QDomElement &element)
     return false;
 }
 
+// Blanks between its children would be letters to others.
+bool keepsBlanks(const QString &tag)
+{
+    return tag == QLatin1String("svg:textarea");
+}
+
 template <typename Out> void startLine(Out &out, int depth)
 {
     out += QLatin1Char('\n') + QString(depth, QLatin1Char(' '));
@@ -133,7 +139,7 @@ template <typename Out> void appendElement(Out &out, const QDomElement &element,
         return;
     }
     out += QLatin1Char('>');
-    const int childDepth = depth < 0 || holdsText(element) ? -1 : depth + 1;
+    const int childDepth = depth < 0 || holdsText(element) || keepsBlanks(element.tagName()) ? -1 : depth + 1;
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
         if (child.isCDATASection()) {
             out += QLatin1String("<![CDATA[") + escapedForCData(child.nodeValue()) + QLatin1String("]]>");

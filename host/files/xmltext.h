@@ -10,7 +10,7 @@ namespace lessonhost {
 // XML as text. The same tree always gives the same bytes, and every character that XML can hold comes back.
 
 //! A document in UTF-8 with its declaration, or a node alone. Attributes stand in ascending order behind id and type;
-//! elements that hold only elements are indented, those with text are left as they are.
+//! elements that hold only elements are indented, those with text are left as they are, and so are text areas of svg.
 QByteArray xmlDocumentText(const QDomElement &root);
 //! An element as it stands in xmlDocumentText() below so many others: the line break and blanks before it, and itself.
 QByteArray xmlLines(const QDomElement &element, int depth);

@@ -1,5 +1,6 @@
 #include "iwb/elementmark.h"
 
+#include "svg/iwbpage.h"
 #include "svg/svgnames.h"
 
 #include <QCryptographicHash>
@@ -78,6 +79,19 @@ QString wholeText(const QDomElement &element, const QHash<QString, QString> &rec
 }
 
 } // namespace
+
+QDomElement itemElement(QDomElement element)
+{
+    while (svgName(element) == QLatin1String("a")) {
+        const QDomElement inner = element.firstChildElement();
+        const QString id = element.attribute(QStringLiteral("id"));
+        if (inner.isNull() || inner.attribute(QStringLiteral("id")) == id + QLatin1String(soundSign)) {
+            break;
+        }
+        element = inner;
+    }
+    return element;
+}
 
 QHash<QString, QString> recordTexts(const QDomElement &root)
 {

@@ -10,6 +10,9 @@ namespace lessonhost {
 //! What the records of an IWB document say of each element, by its identifier. root: the document element.
 QHash<QString, QString> recordTexts(const QDomElement &root);
 
+//! What stands for an item on a page, within the links around it. A sound is its link.
+QDomElement itemElement(QDomElement element);
+
 //! Tells an element with all that is in it, its place and what records say of it, from any other. It stays the same
 //! where a program writes the document anew: with other prefixes, another order of attributes, other blanks and digits
 //! beyond the fifth.

@@ -13,6 +13,8 @@
 #include "svg/svggeometry.h"
 #include "svg/svgstyle.h"
 
+#include <QFileInfo>
+
 #include <cmath>
 
 namespace lessonhost {
@@ -232,8 +234,7 @@ QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
     }
     QJsonObject prepared = commonKeys(item);
     if (!source.isEmpty()) {
-        prepared.insert(ItemKeys::mediaFiles,
-                        m_setting.media->place(QLatin1String(mediaFolder(type)), {source, false, {}}));
+        prepared.insert(ItemKeys::mediaFiles, placeMedia(source, QLatin1String(mediaFolder(type))));
     }
     const auto place = view.place();
     if (place) {
@@ -256,6 +257,27 @@ QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
         media.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
     }
     return element;
+}
+
+// The format has no drawings in svg: they go as pictures of pixels.
+QString IwbItemWriter::placeMedia(const QString &source, const QString &folder)
+{
+    IwbMedia::File file;
+    file.source = source;
+    QString name;
+    if (m_setting.convertsDrawings) {
+        const Picture picture(source);
+        file.isConverted = picture.format() == "svg";
+        if (file.isConverted) {
+            file.picture = picture.image();
+            name = QFileInfo(source).completeBaseName() + QLatin1String(".png");
+        }
+        if (file.isConverted && file.picture.isNull()) {
+            file.isConverted = false;
+            name.clear();
+        }
+    }
+    return m_setting.media->place(folder, file, name);
 }
 
 // What every item hands over. Nothing else of an item reaches the plug-in by itself: what a file says under keys that
@@ -300,7 +322,7 @@ QString IwbItemWriter::linkedFile(const QString &reference)
         m_missingFile = reference;
         return {};
     }
-    m_linkedFile = m_setting.media->place(QStringLiteral("additional"), {source, false, {}});
+    m_linkedFile = m_setting.media->place(QStringLiteral("additional"), {source, false, {}, false});
     return source;
 }
 

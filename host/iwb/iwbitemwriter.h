@@ -24,6 +24,7 @@ public:
         IZQTransformation *plugin = nullptr;
         IwbMedia *media = nullptr;
         bool keepsInk = true; //!< writes strokes as polylines
+        bool convertsDrawings = false; //!< pictures in svg become pictures of pixels
         bool keepsLinks = true; //!< writes what items open
         bool isStored = true; //!< files go into a package, in the forms that it takes
     };
@@ -55,6 +56,7 @@ private:
     QDomElement writeText(const QJsonObject &item);
     QDomElement writeMedia(const QJsonObject &item);
 
+    QString placeMedia(const QString &source, const QString &folder);
     QJsonObject commonKeys(const QJsonObject &item);
     void addLink(const QJsonObject &item, QJsonObject &prepared);
     QString linkedFile(const QString &reference);

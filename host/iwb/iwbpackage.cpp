@@ -76,6 +76,7 @@ QStringList IwbPackage::resources() const
 {
     QStringList paths = m_files;
     paths.removeOne(contentName);
+    paths.removeOne(QLatin1String(thumbnailFile));
     paths += m_embedded.keys();
     paths.sort();
     return paths;

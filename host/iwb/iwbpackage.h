@@ -55,6 +55,9 @@ private:
     QHash<QString, QString> m_embedded; // file on disk by path in the package
 };
 
+//! The picture of the first page, for programs that show lists of lessons.
+constexpr char thumbnailFile[] = "thumbnails/thumbnail.png";
+
 //! True for a folder that holds the content of an IWB package. Throws LessonError if its content can't be read.
 bool isIwbFolder(const QString &path);
 

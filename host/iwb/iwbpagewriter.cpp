@@ -8,6 +8,7 @@
 #include "lesson/itemview.h"
 #include "lesson/pagesize.h"
 #include "lesson/textruns.h"
+#include "svg/iwbpage.h"
 
 namespace lessonhost {
 
@@ -187,6 +188,9 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         row.isPicture = !element.isNull();
         row.isPicture ? losses.picture(given) : losses.item(given, m_items.whyNot());
     }
+    if (m_painter && element.tagName() == QLatin1String("svg:a") && element.firstChildElement().isNull()) {
+        addSign(element, item);
+    }
     if (element.isNull()) {
         m_ids.giveBack(row.id);
         row.id.clear();
@@ -226,6 +230,18 @@ QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id)
     const QString name = QStringLiteral("item%1_%2.png").arg(m_number).arg(++m_pictures);
     const QString reference = m_media->place(QStringLiteral("images"), file, name);
     return m_items.writePicture(m_document, item, id, reference, picture->box);
+}
+
+// Others see a sound only where its link holds something.
+void IwbPageWriter::addSign(QDomElement &link, const QJsonObject &item)
+{
+    QJsonObject sound = item;
+    sound.remove(ItemKeys::linkType);
+    sound.remove(ItemKeys::locked);
+    const QDomElement sign = pictureOf(sound, link.attribute(QStringLiteral("id")) + QLatin1String(soundSign));
+    if (!sign.isNull() && sign.tagName() == QLatin1String("svg:image")) {
+        link.appendChild(sign);
+    }
 }
 
 // Of an identifier that two items have, the second gets one of its own: records know elements by it.

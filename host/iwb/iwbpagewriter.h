@@ -58,6 +58,7 @@ private:
     void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
                  QVector<WrittenItem> &written);
     QDomElement pictureOf(const QJsonObject &item, const QString &id);
+    void addSign(QDomElement &link, const QJsonObject &item);
     QString idOf(const QJsonObject &item);
     QString background(const QJsonObject &slide, const QString &id, const SlideLosses &losses);
     void fillPage(QDomElement &page, const QString &picture) const;

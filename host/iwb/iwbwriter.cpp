@@ -6,6 +6,8 @@
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
+#include "lesson/itemtypes.h"
+#include "lesson/itemview.h"
 
 #include <QFileInfo>
 
@@ -15,6 +17,7 @@ namespace {
 
 const QLatin1String contentFile("content.xml");
 const QLatin1String svgTag("svg:svg");
+constexpr int thumbnailWidth = 320;
 // How many elements stand around a page and around a record about an item.
 constexpr int pageDepth = 3;
 constexpr int recordDepth = 1;
@@ -24,9 +27,22 @@ IwbItemWriter::Setting itemSetting(const LessonContext &context, IwbMedia *media
     IwbItemWriter::Setting setting;
     setting.plugin = context.plugin;
     setting.media = media;
+    setting.convertsDrawings = true;
     setting.keepsInk =
         context.options.value(QStringLiteral("ink"), QStringLiteral("polyline")) != QLatin1String("drop");
     return setting;
+}
+
+QHash<QString, bool> inkOf(const QVector<IwbPageWriter::WrittenItem> &items)
+{
+    QHash<QString, bool> ink;
+    for (const IwbPageWriter::WrittenItem &written : items) {
+        const QString type = ItemView(written.item).type();
+        if (isInk(type)) {
+            ink.insert(written.id, type == QLatin1String("ZQFluorescentStroke"));
+        }
+    }
+    return ink;
 }
 
 QString counted(int count, const char *one, const char *more)
@@ -46,6 +62,7 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     , m_losses(context.losses)
     , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isIwbFolder)
     , m_pages(itemSetting(context, &m_media))
+    , m_dress(!context.options.contains(QStringLiteral("plain")))
 {
     m_losses.setFormat(QStringLiteral("IWB"));
     m_target.setKept(context.isKept);
@@ -83,6 +100,7 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
         failWithoutPages();
     }
     const QVector<IwbPageWriter::WrittenItem> items = m_pages.addItems(page, slide.items, losses);
+    m_dress.dress(page, inkOf(items));
     if (m_check) {
         m_check->compare(m_pages.document(), slide, items, m_slides, losses);
     }
@@ -106,6 +124,8 @@ void IwbWriter::lookAtTexts(const QDomElement &page)
 void IwbWriter::start(const QJsonObject &firstSlide)
 {
     m_pages.start(m_presentation, firstSlide);
+    BoardDress::startDocument(m_pages.document(), valueText(m_presentation.value(HostKeys::title)),
+                              valueText(m_presentation.value(QLatin1String("Author"))));
     if (m_check) {
         const SlideLosses losses = m_losses.presentation();
         m_check->comparePresentation(m_pages.document(), m_presentation, m_native ? losses.elsewhere() : losses);
@@ -202,6 +222,12 @@ void IwbWriter::finish()
     const QStringList missing = m_missing.sentences();
     for (const QString &sentence : missing) {
         losses.note(QStringLiteral("fonts"), sentence);
+    }
+    const QImage thumbnail = m_context.painter ? m_context.painter->thumbnail(thumbnailWidth) : QImage();
+    if (!thumbnail.isNull()) {
+        const auto output = m_target.newFile(QLatin1String(thumbnailFile));
+        thumbnail.save(output.get(), "png");
+        output->finish();
     }
     if (m_native) {
         m_native->finish(m_presentation, m_pages.pageSize(), m_media, m_contentHash.result());

@@ -2,6 +2,7 @@
 #define IWBWRITER_H
 
 #include "files/packagetarget.h"
+#include "iwb/boarddress.h"
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagecheck.h"
 #include "iwb/iwbpagewriter.h"
@@ -43,6 +44,7 @@ private:
     PackageTarget m_target;
     IwbMedia m_media;
     IwbPageWriter m_pages;
+    BoardDress m_dress;
     std::unique_ptr<NativePartWriter> m_native; // null where the lesson doesn't travel along
     std::unique_ptr<IwbPageCheck> m_check; // null where nobody asks for one
     QJsonObject m_presentation;

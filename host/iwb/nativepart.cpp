@@ -50,11 +50,7 @@ QHash<QString, QDomElement> elementsOf(const QDomElement &page)
 {
     QHash<QString, QDomElement> elements;
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        QDomElement inner = child;
-        while (inner.tagName() == QLatin1String("svg:a") && !inner.firstChildElement().isNull()) {
-            inner = inner.firstChildElement();
-        }
-        elements.insert(inner.attribute(QStringLiteral("id")), child);
+        elements.insert(itemElement(child).attribute(QStringLiteral("id")), child);
     }
     return elements;
 }

@@ -3,7 +3,6 @@
 #include "iwb/elementmark.h"
 #include "iwb/uniqueids.h"
 #include "lesson/itemkeys.h"
-#include "svg/svgnames.h"
 
 #include <QSet>
 
@@ -16,14 +15,6 @@ namespace {
 // What a page's background shows of a slide.
 const QLatin1String backgroundKeys[] = {SlideKeys::color, SlideKeys::backColor, SlideKeys::document, SlideKeys::files,
                                         SlideKeys::texture};
-
-QString innerId(QDomElement element)
-{
-    while (svgName(element) == QLatin1String("a") && !element.firstChildElement().isNull()) {
-        element = element.firstChildElement();
-    }
-    return element.attribute(QStringLiteral("id"));
-}
 
 QString counted(int count, const char *one, const char *more)
 {
@@ -60,7 +51,7 @@ void PageRestorer::lookAtPage(int index)
 {
     for (const QDomElement &layer : m_content.layers(index)) {
         for (QDomElement child = layer.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-            const QString id = innerId(child);
+            const QString id = itemElement(child).attribute(QStringLiteral("id"));
             // Of two, neither is surely the one.
             m_byId.insert(id, m_byId.contains(id) ? -1 : m_children.size());
             m_children.append(child);

@@ -93,6 +93,8 @@ public:
     virtual ~ItemPainter() = default;
     //! page: pixels. Nothing for an item that shows nothing. Throws LessonError.
     virtual std::optional<PaintedItem> paint(const QJsonObject &item, const QSizeF &page) = 0;
+    //! The lesson's first slide, so many pixels wide; null for a lesson without slides. Throws LessonError.
+    virtual QImage thumbnail(int width) = 0;
 };
 
 /*!

@@ -51,13 +51,32 @@ QRect paintedRect(const QImage &image)
 } // namespace
 
 SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plugin)
-    : m_printer(m_store)
+    : m_reader(reader)
+    , m_plugin(plugin)
+    , m_printer(m_store)
     , m_pages(drawnSetting(plugin, &m_media))
 {
     const QStringList files = reader.resources();
     for (const QString &file : files) {
         m_media.add(file, reader.resourceFile(file));
     }
+}
+
+QImage SlideItemPainter::thumbnail(int width)
+{
+    if (m_reader.slideCount() == 0) {
+        return {};
+    }
+    LessonContext context;
+    context.plugin = m_plugin;
+    const SlidePicture picture = SlidePictures(m_reader, context, m_store).picture(0);
+    QImage image(width, qBound(1, qRound(width * picture.size.height() / picture.size.width()), 4 * width),
+                 QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    m_printer.paint(painter, picture, QRectF(QPointF(), image.size()));
+    return image;
 }
 
 // First where it is, in an area larger than the page, then what it is.

@@ -19,8 +19,11 @@ public:
     SlideItemPainter(LessonReader &reader, IZQTransformation *plugin);
 
     std::optional<PaintedItem> paint(const QJsonObject &item, const QSizeF &page) override;
+    QImage thumbnail(int width) override;
 
 private:
+    LessonReader &m_reader;
+    IZQTransformation *m_plugin;
     IwbMedia m_media;
     PictureStore m_store;
     PagePrinter m_printer;

@@ -10,6 +10,9 @@
 
 namespace lessonhost {
 
+//! What the identifier of the picture ends in that shows a sound, behind that of the sound's link.
+constexpr char soundSign[] = "_sign";
+
 /*!
  * Something of a page that could not be brought over, or only otherwise than it was.
  */
@@ -86,6 +89,7 @@ struct IwbDocumentRules
     QHash<QString, int> groups; //!< the number of the group of each identifier that is in one
     QRectF viewBox;
     bool isIwb = false; //!< a document of IWB, where lines of points are never filled
+    bool hasPlainTurns = false; //!< rotate(a,x,y) is in degrees although isNative
     bool isNative = false; //!< written by this system or the plug-in, with its own conventions
 };
 

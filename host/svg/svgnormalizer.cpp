@@ -61,6 +61,7 @@ SvgNormalizer::SvgNormalizer(const QDomElement &root)
     if (root != m_svg) {
         readRecords(root);
     }
+    m_rules.hasPlainTurns = m_meta.value(QStringLiteral("creator")).startsWith(QLatin1String("lessonconv "));
     // Some programs write a section for each layer of the pages.
     for (QDomElement section = m_svg; !section.isNull(); section = section.nextSiblingElement()) {
         if (svgName(section) == QLatin1String("svg")) {

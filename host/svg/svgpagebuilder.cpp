@@ -191,7 +191,7 @@ QString SvgPageBuilder::nativeTransform(const QDomElement &element) const
 {
     const QString transform = element.attribute(QStringLiteral("transform")).trimmed();
     const QLatin1String rotate("rotate(");
-    if (!m_rules.isNative || !transform.startsWith(rotate) || transform.count(QLatin1Char(',')) != 2) {
+    if (!m_rules.isNative || m_rules.hasPlainTurns || !transform.startsWith(rotate) || transform.count(QLatin1Char(',')) != 2) {
         return transform;
     }
     const QVector<double> numbers = svgNumbers(transform.mid(rotate.size()));
@@ -246,7 +246,14 @@ void SvgPageBuilder::alternatives(const QDomElement &element, const Place &place
 
 void SvgPageBuilder::link(const QDomElement &element, const Place &place)
 {
-    if (element.firstChildElement().isNull()) {
+    const QString id = element.attribute(QStringLiteral("id"));
+    const QDomElement only = element.firstChildElement();
+    if (!only.isNull() && only.nextSiblingElement().isNull() && !id.isEmpty()
+        && only.attribute(QStringLiteral("id")) == id + QLatin1String(soundSign)) {
+        media(element, place, QStringLiteral("svg:a"));
+        return;
+    }
+    if (only.isNull()) {
         if (!element.text().trimmed().isEmpty()) {
             remark(element, QStringLiteral("it links a text that stands in no text element"));
             return;
