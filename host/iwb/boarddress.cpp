@@ -1,6 +1,7 @@
 #include "iwb/boarddress.h"
 
 #include "lesson/itemvalues.h"
+#include "lesson/textruns.h"
 #include "svg/svggeometry.h"
 #include "svg/svgvalues.h"
 
@@ -13,6 +14,10 @@ namespace {
 
 const QLatin1String recordTag("iwb:element");
 const QLatin1String polylineTag("svg:polyline");
+
+// The first name is one of the format's own.
+constexpr std::pair<const char *, const char *> metaKeys[] = {
+    {"owner", "Author"}, {"title", "Title"}, {"date", "Date"}, {"modified", "Date_modified"}};
 
 void addMeta(QDomDocument document, QDomNode before, const QString &name, const QString &content)
 {
@@ -31,7 +36,8 @@ QDomElement recordOf(const QDomElement &element)
     QDomDocument document = element.ownerDocument();
     const QString id = element.attribute(QStringLiteral("id"));
     QDomElement root = document.documentElement();
-    for (QDomElement row = root.lastChildElement(recordTag); !row.isNull(); row = row.previousSiblingElement(recordTag)) {
+    for (QDomElement row = root.lastChildElement(recordTag); !row.isNull();
+         row = row.previousSiblingElement(recordTag)) {
         if (row.attribute(QStringLiteral("ref")) == id) {
             return row;
         }
@@ -46,7 +52,8 @@ QString pairs(const QPolygonF &points)
 {
     QStringList texts;
     for (const QPointF &point : points) {
-        texts.append(svgCoordinate(point.x(), pluginDigits) + QLatin1Char(',') + svgCoordinate(point.y(), pluginDigits));
+        texts.append(svgCoordinate(point.x(), pluginDigits) + QLatin1Char(',')
+                     + svgCoordinate(point.y(), pluginDigits));
     }
     return texts.join(QLatin1Char(' '));
 }
@@ -101,13 +108,27 @@ BoardDress::BoardDress(bool marksInk)
 {
 }
 
-void BoardDress::startDocument(QDomDocument document, const QString &title, const QString &author)
+void BoardDress::startDocument(QDomDocument document, const QJsonObject &presentation)
 {
     const QDomNode first = document.documentElement().firstChild();
     addMeta(document, first, QStringLiteral("creator"),
             QLatin1String(creatorName) + QLatin1Char(' ') + QCoreApplication::applicationVersion());
-    addMeta(document, first, QStringLiteral("owner"), author);
-    addMeta(document, first, QStringLiteral("title"), title);
+    for (const auto &[name, key] : metaKeys) {
+        addMeta(document, first, QLatin1String(name),
+                withoutControlCharacters(valueText(presentation.value(QLatin1String(key)))));
+    }
+}
+
+QJsonObject presentationInMeta(const QHash<QString, QString> &meta)
+{
+    QJsonObject presentation;
+    for (const auto &[name, key] : metaKeys) {
+        const QString text = meta.value(QLatin1String(name));
+        if (!text.isEmpty()) {
+            presentation.insert(QLatin1String(key), text);
+        }
+    }
+    return presentation;
 }
 
 void BoardDress::dress(QDomElement page, const QHash<QString, bool> &ink) const
@@ -152,7 +173,8 @@ void BoardDress::dressElement(QDomElement element, const QHash<QString, bool> &i
 void BoardDress::dressBackground(QDomElement page) const
 {
     const QDomElement color = page.firstChildElement();
-    if (color.tagName() != QLatin1String("svg:rect") || !color.attribute(QStringLiteral("id")).endsWith(QLatin1String("_rect"))) {
+    if (color.tagName() != QLatin1String("svg:rect")
+        || !color.attribute(QStringLiteral("id")).endsWith(QLatin1String("_rect"))) {
         return;
     }
     recordOf(color).setAttribute(QStringLiteral("background"), QStringLiteral("true"));

@@ -1,5 +1,6 @@
 #include "iwb/iwbpagecheck.h"
 
+#include "iwb/boarddress.h"
 #include "iwb/drawnplace.h"
 #include "izqtransformation.h"
 #include "lesson/itemview.h"
@@ -243,8 +244,12 @@ void IwbPageCheck::comparePresentation(const QDomDocument &document, const QJson
                                        const SlideLosses &losses) const
 {
     QDomDocument size;
-    const QJsonObject found =
-        m_plugin->tranPresIWB2JSON(SvgNormalizer(document.documentElement()).sizeElement(size), {});
+    const SvgNormalizer content(document.documentElement());
+    QJsonObject found = m_plugin->tranPresIWB2JSON(content.sizeElement(size), {});
+    const QJsonObject meta = presentationInMeta(content.meta());
+    for (auto it = meta.constBegin(); it != meta.constEnd(); ++it) {
+        found.insert(it.key(), it.value());
+    }
     const QString range = found.value(PresentationKeys::width).toString() + QLatin1Char(',')
         + found.value(PresentationKeys::height).toString();
     Comparison::Rules rules;

@@ -1,6 +1,7 @@
 #include "iwb/iwbreader.h"
 
 #include "files/lessonerror.h"
+#include "iwb/boarddress.h"
 #include "iwb/elementmark.h"
 #include "iwb/pagerestorer.h"
 #include "iwb/slidenames.h"
@@ -10,14 +11,6 @@
 #include "lesson/slidelimits.h"
 
 namespace lessonhost {
-
-namespace {
-
-// What documents say about themselves, and the lesson's keys for it.
-constexpr std::pair<const char *, const char *> metaKeys[] = {
-    {"owner", "Author"}, {"title", "Title"}, {"date", "Date"}, {"modified", "Date_modified"}};
-
-} // namespace
 
 IwbReader::IwbReader(const QString &path, const LessonContext &context)
     : m_plugin(context.plugin)
@@ -112,11 +105,9 @@ QJsonObject IwbReader::presentation()
         }
         return presentation;
     }
-    for (const auto &[name, key] : metaKeys) {
-        const QString text = m_content.meta().value(QLatin1String(name));
-        if (!text.isEmpty()) {
-            presentation.insert(QLatin1String(key), text);
-        }
+    const QJsonObject meta = presentationInMeta(m_content.meta());
+    for (auto it = meta.constBegin(); it != meta.constEnd(); ++it) {
+        presentation.insert(it.key(), it.value());
     }
     return presentation;
 }

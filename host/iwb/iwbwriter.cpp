@@ -124,8 +124,7 @@ void IwbWriter::lookAtTexts(const QDomElement &page)
 void IwbWriter::start(const QJsonObject &firstSlide)
 {
     m_pages.start(m_presentation, firstSlide);
-    BoardDress::startDocument(m_pages.document(), valueText(m_presentation.value(HostKeys::title)),
-                              valueText(m_presentation.value(QLatin1String("Author"))));
+    BoardDress::startDocument(m_pages.document(), m_presentation);
     if (m_check) {
         const SlideLosses losses = m_losses.presentation();
         m_check->comparePresentation(m_pages.document(), m_presentation, m_native ? losses.elsewhere() : losses);

@@ -191,7 +191,8 @@ QString SvgPageBuilder::nativeTransform(const QDomElement &element) const
 {
     const QString transform = element.attribute(QStringLiteral("transform")).trimmed();
     const QLatin1String rotate("rotate(");
-    if (!m_rules.isNative || m_rules.hasPlainTurns || !transform.startsWith(rotate) || transform.count(QLatin1Char(',')) != 2) {
+    if (!m_rules.isNative || m_rules.hasPlainTurns || !transform.startsWith(rotate)
+        || transform.count(QLatin1Char(',')) != 2) {
         return transform;
     }
     const QVector<double> numbers = svgNumbers(transform.mid(rotate.size()));
