@@ -287,7 +287,7 @@ private slots:
         QByteArray lesson = R"({"Slides":[{"ID":"1","Items":[
             {"ID":"1","Type":"ZQMindMapItem","mindMapData":[{},{},{"nodeHtml":"LOAD"}]},
             {"ID":"2","Type":"ZQQuestionItem","R_Content_svg":"LOAD"},
-            {"ID":"3","Type":"ZQTextBoard","BoundingBox":"0,0,90,9","TextHtml":"LOAD"}]}]})";
+            {"ID":"3","Type":"ZQTextBoard","BoundingBox":"0,0,300,9","TextHtml":"LOAD"}]}]})";
         lesson.replace("LOAD",
                        "<link rel='stylesheet' type='text/css' href='PIPE'/><style>@import url(PIPE)</style>"
                        "<body background='PIPE'>shown<img src='PIPE'/>");
