@@ -233,6 +233,10 @@ private slots:
         QVERIFY(QFile::copy(path("before/p1.png"), path("before/many/new/slide001.png")));
         QVERIFY(QFile::copy(path("before/p.html"), path("before/d.html")));
         putFile(path("before/r.json"), "{}");
+        putFile(path("in/heard.json"), R"({"Resources":{"a.wav":"QUJD","b.wav":"REVG"},"Slides":[{"Items":[
+            {"Type":"ZQMediaAudio","resource":"a.wav"},{"Type":"ZQMediaAudio","resource":"b.wav"}]}]})");
+        QVERIFY(QDir().mkpath(path("before/p_files")));
+        putFile(path("before/p_files/a.wav"), "old");
     }
 
     void failsWhileWriting_data()
@@ -251,6 +255,8 @@ private slots:
                  "out/r.json"},
                 {"new.json"}});
         row("page", Run{{"render", "in/new", "out/p.html"}, {"p.html"}});
+        row("page with sounds",
+            Run{{"render", "in/heard.json", "out/p.html"}, {"p.html", "p_files/a.wav", "p_files/b.wav"}});
         row("difference", Run{{"render", "--diff", "in/new", "in/old.json", "out/d.html"}, {"d.html"}});
         row("paper", Run{{"render", "in/new.zqtx", "out/p.pdf"}, {"p.pdf"}});
         row("drawings", Run{{"render", "in/new", "out/p%d.svg"}, {"p1.svg", "p2.svg"}});

@@ -137,7 +137,7 @@ public:
     {
         const bool isAside =
             ::linkat(m_to.descriptor(), name.constData(), m_aside.descriptor(), name.constData(), 0) == 0
-            || errno == ENOENT || move(m_to, m_aside, name);
+            || errno == ENOENT || move(m_to, m_aside, name) || errno == ENOENT;
         if (isAside) {
             m_begun.append(name);
         }
@@ -169,7 +169,9 @@ public:
         : m_parent(parent)
         , m_name(name)
         , m_isMade(::mkdirat(parent.descriptor(), name.constData(), 0777) == 0)
+        , m_error(m_isMade || errno == EEXIST ? 0 : errno)
         , m_isAsideMade(::mkdirat(replaced.descriptor(), name.constData(), 0700) == 0)
+        , m_asideError(m_isAsideMade ? 0 : errno)
         , m_from(package, name)
         , m_to(parent, name)
         , m_aside(replaced, name)
@@ -186,14 +188,24 @@ public:
     PlacingBeside(const PlacingBeside &) = delete;
     PlacingBeside &operator=(const PlacingBeside &) = delete;
 
-    bool place(const QByteArray &name) { return m_to.isOpen() && m_isAsideMade && m_placing->place(name); }
+    // False with errno where it can't be.
+    bool place(const QByteArray &name)
+    {
+        if (m_error || m_asideError || !m_to.isOpen()) {
+            errno = m_error ? m_error : m_asideError ? m_asideError : ENOTDIR;
+            return false;
+        }
+        return m_placing->place(name);
+    }
     void keep() { m_placing->keep(); }
 
 private:
     const Folder &m_parent;
     QByteArray m_name;
     bool m_isMade;
+    int m_error;
     bool m_isAsideMade;
+    int m_asideError;
     Folder m_from;
     Folder m_to;
     Folder m_aside;
