@@ -135,4 +135,20 @@ SvgDrawing activityDrawing(const QString &type)
     return kindOf(type) ? &drawActivityItem : nullptr;
 }
 
+QJsonObject backOfCard(const QJsonObject &card)
+{
+    const ItemView view(card);
+    const QString picture =
+        card.value(ItemKeys::attachments).toObject().value(QLatin1String("back")).toString();
+    if (view.type() != QLatin1String("ZQActivityFlipItem") || (picture.isEmpty() && !view.has(ItemKeys::html))) {
+        return {};
+    }
+    QJsonObject back = card;
+    back.insert(QStringLiteral("frontContent"), card.value(ItemKeys::html));
+    back.insert(QStringLiteral("defaultFrontFontFormat"), card.value(QLatin1String("defaultBackFontFormat")));
+    back.insert(ItemKeys::document, picture);
+    back.remove(ItemKeys::attachments);
+    return back;
+}
+
 } // namespace lessonhost

@@ -9,6 +9,9 @@ namespace lessonhost {
 //! without one, and its text on it. Of a card to turn the front is seen.
 SvgDrawing activityDrawing(const QString &type);
 
+//! A card to turn as an item that looks like its back. Empty for other items, and for a card with nothing on its back.
+QJsonObject backOfCard(const QJsonObject &card);
+
 } // namespace lessonhost
 
 #endif // ACTIVITYDRAWING_H

@@ -123,12 +123,12 @@ PlainSvg::Scope::~Scope()
     m_svg.m_transform = m_before;
 }
 
-PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden)
+PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden, Side side)
     : m_svg(svg)
 {
     m_svg.m_group = m_svg.m_document.createElement(QStringLiteral("g"));
     m_svg.m_svg.appendChild(m_svg.m_group);
-    m_svg.m_group.setAttribute(QStringLiteral("data-item"), id);
+    m_svg.m_group.setAttribute(side == Back ? QStringLiteral("data-back") : QStringLiteral("data-item"), id);
     if (!label.isEmpty()) {
         m_svg.m_group.setAttribute(QStringLiteral("role"), QStringLiteral("img"));
         m_svg.m_group.setAttribute(QStringLiteral("aria-label"), label);

@@ -71,8 +71,10 @@ public:
     class ItemGroup
     {
     public:
+        enum Side { Front, Back };
+
         //! id: the item's, for who works on it later. label: what is read aloud. isHidden: not drawn until it is shown.
-        ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden);
+        ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden, Side side = Front);
         ~ItemGroup();
         ItemGroup(const ItemGroup &) = delete;
         ItemGroup &operator=(const ItemGroup &) = delete;

@@ -177,6 +177,12 @@ SlidePicture SlidePictures::picture(int index)
             const ItemView view(shown.item);
             result.named.append({view.type(), view.id()});
         }
+        group.reset();
+        const QJsonObject back = m_files ? backOfCard(shown.item) : QJsonObject();
+        if (!back.isEmpty()) {
+            const PlainSvg::ItemGroup side(plain, shown.id, QString(), true, PlainSvg::ItemGroup::Back);
+            drawings.draw(back);
+        }
     }
     result.svg = plain.finished();
     lookAtTexts(result.svg.documentElement(), result.slide, m_missing);

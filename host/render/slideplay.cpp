@@ -4,6 +4,7 @@
 #include "lesson/closedtext.h"
 #include "lesson/itemview.h"
 #include "lesson/listentries.h"
+#include "render/activitydrawing.h"
 #include "render/coverdrawing.h"
 #include "render/instrumentdrawing.h"
 #include "render/itemlabel.h"
@@ -89,10 +90,12 @@ QJsonObject question(const ItemView &item)
 
 QJsonObject flipCard(const ItemView &item)
 {
-    const QString text = item.text(ItemKeys::html);
+    if (backOfCard(item.json()).isEmpty()) {
+        return {};
+    }
     return {{QStringLiteral("kind"), QStringLiteral("flip")},
             {QStringLiteral("front"), item.text(QLatin1String("frontContent"))},
-            {QStringLiteral("back"), plainWords(text)}};
+            {QStringLiteral("back"), plainWords(item.text(ItemKeys::html))}};
 }
 
 // Exercises are told by lists that say what belongs together. An entry alone is no card, and a box without anything to

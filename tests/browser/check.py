@@ -326,7 +326,9 @@ class Working(Page):
     def test_cards_questions_and_ink(self):
         self.open("#8")
         self.item("f").click()
-        self.assertEqual(self.driver.find_element(By.CSS_SELECTOR, ".card.back").text, "fifty-six")
+        back = self.driver.find_element(By.CSS_SELECTOR, "[data-back=f]")
+        self.assertEqual((back.text, back.value_of_css_property("display")), ("fifty-six", "inline"))
+        self.assertEqual(self.item("f").value_of_css_property("opacity"), "0")
         self.assertIn("fifty-six", self.item("f").accessible_name)
         self.driver.find_element(By.CSS_SELECTOR, ".shown .reveal").click()
         self.assertEqual(self.driver.find_element(By.CSS_SELECTOR, ".card.answer").text, "Because")

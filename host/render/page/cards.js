@@ -1,20 +1,19 @@
 /** What is turned over: cards to flip, flash cards, and questions that have an answer. */
 const Cards = (() => {
-  /** A click turns the card; its other side lies over it. */
+  /** A click turns the card: its back, which is drawn behind it, takes the place of its front. */
   function flip(slide, element, item) {
-    const box = element.getBBox();
-    const back = Stage.make('div', { className: 'card back', hidden: true, set: { 'aria-hidden': 'true' } }, item.tool.back);
-    Stage.place(back, slide, box);
-    const say = () => {
-      const isBack = !back.hidden;
+    const back = [...slide.svg.querySelectorAll(':scope > g[data-back]')].find((one) => one.dataset.back === item.id);
+    let isBack = false;
+    const turn = (wanted) => {
+      isBack = wanted;
+      element.style.opacity = isBack ? '0' : '';
+      back.setAttribute('display', isBack ? 'inline' : 'none');
       element.setAttribute('aria-pressed', isBack);
       element.setAttribute('aria-label', `${item.label}${isBack ? `. ${item.tool.back}` : ''}`);
-      Stage.say(isBack ? item.tool.back : item.tool.front);
     };
     Stage.enliven(element, 'button', item.label);
-    Stage.onActivate(element, () => { back.hidden = !back.hidden; say(); });
-    back.addEventListener('click', (event) => { event.stopPropagation(); back.hidden = true; say(); });
-    return () => { back.hidden = true; element.setAttribute('aria-pressed', 'false'); };
+    Stage.onActivate(element, () => { turn(!isBack); Stage.say(isBack ? item.tool.back : item.tool.front); });
+    return () => turn(false);
   }
 
   /** A button below the question shows its answer and hides it again. */
