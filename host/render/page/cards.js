@@ -32,6 +32,7 @@ const Cards = (() => {
     Stage.place(answer, slide, {
       x: box.x + slide.width * 0.11, y: bottom, width: Math.max(box.width - slide.width * 0.11, slide.width * 0.3), height,
     });
+    answer.style.height = 'auto'; // as long as the answer is
     return () => { answer.hidden = true; button.setAttribute('aria-expanded', 'false'); };
   }
 
