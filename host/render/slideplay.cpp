@@ -158,9 +158,15 @@ QJsonObject toolOf(const ItemView &item, const QTransform &placed)
     if (type == QLatin1String("ZQActivityFlipItem")) {
         return flipCard(item);
     }
+    const bool isBasket = type.contains(QLatin1String("container"), Qt::CaseInsensitive);
     const bool isPiece = type.contains(QLatin1String("material"), Qt::CaseInsensitive)
         && !type.contains(QLatin1String("Student")) && !type.contains(QLatin1String("Mark"));
-    return isPiece ? kind("piece") : QJsonObject();
+    if (!isBasket && !isPiece) {
+        return {};
+    }
+    QJsonObject tool = kind(isBasket ? "basket" : "piece");
+    tool.insert(QStringLiteral("text"), plainWords(item.text(ItemKeys::html)));
+    return tool;
 }
 
 // Without how it looks.

@@ -358,6 +358,19 @@ class Working(Page):
         self.assertEqual(self.errors(), [])
 
 
+    def test_pieces_are_put_into_baskets(self):
+        self.open("#8")
+        middle = lambda name: [a + b / 2 for a, b in zip(self.box(self.item(name))[:2], self.box(self.item(name))[2:])]
+        score = lambda: self.driver.find_element(By.CSS_SELECTOR, ".shown .score").text
+        place = middle("whale")
+        self.drag(place, middle("land"))
+        self.assertEqual((score(), middle("whale")), ("Right: 0 of 1. Wrong: 1.", place))
+        self.drag(place, middle("water"))
+        self.assertEqual(score(), "Right: 1 of 1. Wrong: 1.")
+        self.assertAlmostEqual(middle("whale")[0], middle("water")[0], delta=3)
+        self.press("r")
+        self.assertEqual((score(), middle("whale")), ("Right: 0 of 1. Wrong: 0.", place))
+
     def test_exercises_open_where_they_stand(self):
         self.open("#9")
         button = lambda text: self.dialog().find_element(By.XPATH, f".//button[text()='{text}']")

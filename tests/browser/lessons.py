@@ -81,7 +81,10 @@ def playing():
             {"ID": "f", "Type": "ZQActivityFlipItem", "BoundingBox": "20,20,180,140", "frontContent": "7 x 8",
              "TextHtml": "<p>fifty-six</p>"},
             {"ID": "u", "Type": "ZQQuestionItem", "BoundingBox": "200,20,380,100", "R_Content_svg": "Why?",
-             "R_Answer_svg": "Because"}],
+             "R_Answer_svg": "Because"},
+            {"ID": "water", "Type": "ZQActiveContainerItem", "BoundingBox": "20,180,120,290", "TextHtml": "<p>Water</p>"},
+            {"ID": "land", "Type": "ZQActiveContainerItem", "BoundingBox": "280,180,380,290", "TextHtml": "<p>Land</p>"},
+            {"ID": "whale", "Type": "ZQActiveMaterialItem", "BoundingBox": "160,200,240,260", "TextHtml": "Whale"}],
          "activity": {"type": "Match", "title": "Where?", "matchs": [
              {"container": {"id": "c1", "txt": "Water"}, "materials": [{"id": "m1", "txt": "Whale"}],
               "answers": [{"c1": ["m1"]}]},

@@ -241,14 +241,17 @@ const Games = (() => {
     };
   }
 
+  const texts = (entry) => (entry.materials || []).map((one) => ({ id: one.id, text: one.txt }));
+
+  /** The box of an entry, and the identifiers of what belongs into it. */
+  function boxOf(entry) {
+    const { id, txt } = entry.container || {};
+    const told = (entry.answers || []).flatMap((group) => group[id] || []);
+    return { name: txt || id, right: told.length > 0 ? told : texts(entry).map((piece) => piece.id) };
+  }
+
   function matching(activity) {
-    const texts = (entry) => (entry.materials || []).map((one) => ({ id: one.id, text: one.txt }));
-    const boxes = activity.matchs.map((entry) => {
-      const { id, txt } = entry.container || {};
-      const told = (entry.answers || []).flatMap((group) => group[id] || []);
-      return { name: txt || id, right: told.length > 0 ? told : texts(entry).map((piece) => piece.id) };
-    });
-    return sorting({ boxes, pieces: [...activity.matchs, ...(activity.unmatchs || [])].flatMap(texts) });
+    return sorting({ boxes: activity.matchs.map(boxOf), pieces: [...activity.matchs, ...(activity.unmatchs || [])].flatMap(texts) });
   }
 
   /** The game of a slide's activity, by the form of its entries; null for one that says nothing. */
@@ -296,11 +299,42 @@ const Games = (() => {
     });
   }
 
+  const scores = new Map(); // of slides whose pieces are put into baskets
+
+  /**
+   * Whether a piece of a slide belongs into a basket, as its game tells by their texts, and counts it. Null where the
+   * game doesn't know the basket.
+   */
+  function judge(slide, pieceText, basketText) {
+    const activity = slide.play.activity || {};
+    const entries = (activity.matchs || []).filter((entry) => entry.container && entry.container.txt === basketText);
+    if (entries.length === 0) {
+      return null;
+    }
+    const pieces = [...activity.matchs, ...(activity.unmatchs || [])].flatMap((entry) => entry.materials || []);
+    const right = entries.flatMap((entry) => boxOf(entry).right);
+    const isRight = pieces.some((one) => one.txt === pieceText && right.includes(one.id));
+    if (!scores.has(slide)) {
+      const score = new Score(slide.items.filter((one) => one.tool && one.tool.kind === 'piece').length);
+      scores.set(slide, score);
+      const height = slide.height * 0.07;
+      Stage.place(score.element, slide, { x: slide.width * 0.62, y: 0, width: slide.width * 0.38, height });
+    }
+    scores.get(slide).count(isRight);
+    return isRight;
+  }
+
+  function resetScore(slide) {
+    if (scores.has(slide)) {
+      scores.get(slide).reset();
+    }
+  }
+
   /** What opens the game of a slide, or null where it has none. */
   function ofSlide(slide) {
     const game = gameOf(slide.play.activity);
     return game ? () => open(slide.play.activity.title || 'Game', game) : null;
   }
 
-  return { prepare, ofSlide };
+  return { prepare, ofSlide, judge, resetScore };
 })();

@@ -201,8 +201,27 @@ const Tools = (() => {
     return () => { arcs.splice(0).forEach((one) => one.remove()); arc = null; points = []; moved.reset(); };
   }
 
+  /** A piece of a game: in a basket it is judged, and goes back where it is wrong. Enter lets it go where it is. */
   function piece(slide, element, item) {
-    return movable(slide, element, item, { canTurn: false, onDrop: () => slide.svg.append(element) }).reset;
+    let moved = null;
+    const drop = () => {
+      slide.svg.append(element);
+      element.focus({ preventScroll: true });
+      const box = element.getBBox();
+      const x = box.x + box.width / 2 + moved.place.x;
+      const y = box.y + box.height / 2 + moved.place.y;
+      const holds = (one) => x > one.x && y > one.y && x < one.x + one.width && y < one.y + one.height;
+      const basket = slide.items.filter((one) => one.tool && one.tool.kind === 'basket')
+        .find((one) => slide.elements(one.id).some((drawn) => holds(drawn.getBBox())));
+      const isRight = basket ? Games.judge(slide, item.tool.text, basket.tool.text) : null;
+      element.classList.toggle('fits', isRight === true);
+      if (isRight === false) {
+        moved.reset();
+      }
+    };
+    moved = movable(slide, element, item, { canTurn: false, onDrop: drop });
+    onKeys(element, { Enter: drop });
+    return () => { element.classList.remove('fits'); moved.reset(); Games.resetScore(slide); };
   }
 
   const kinds = { curtain, spotlight, instrument, compasses, piece };
