@@ -96,18 +96,25 @@ private slots:
         const int reach = 2 + int(qMax(view.number(ItemKeys::lineWidth), view.number(ItemKeys::width)) / 2);
         QVERIFY2(box.toAlignedRect().adjusted(-reach, -reach, reach, reach).contains(plain.ink), plain.svg);
 
-        if (plain.isNamed || view.type() == "ZQMindMapItem" || view.type() == "ZQStrokesDeletePixel") {
+        if (plain.isNamed || view.type() == "ZQStrokesDeletePixel") {
             return;
         }
 
-        // A quarter turn of the item is one of the picture. Items with points of their own may have it from a matrix.
+        // A quarter turn of the item is one of the picture, and a flip a flip. Items with points of their own may be
+        // turned by a matrix.
         const QTransform turn = turnAbout(box.center(), M_PI_2);
-        const QRectF there = turn.mapRect(QRectF(plain.ink));
+        const QTransform flip = QTransform(-1, 0, 0, 1, 2 * box.center().x(), 0);
+        QVector<std::tuple<const char *, QString, QTransform>> changes{{"Angle", "1.5707963", turn},
+                                                                       {"HorizonFlip", "1", flip}};
         QFETCH(QJsonObject, keys);
-        for (const char *key : {"Angle", keys.isEmpty() ? "Angle" : "Matrix"}) {
-            QJsonObject turned = item;
-            turned.insert(key, *key == 'A' ? "1.5707963"_s : transformText(turn));
-            const QRectF found(look(turned).ink);
+        if (!keys.isEmpty()) {
+            changes.append({"Matrix", transformText(turn), turn});
+        }
+        for (const auto &[key, value, change] : qAsConst(changes)) {
+            QJsonObject changed = item;
+            changed.insert(key, value);
+            const QRectF there = change.mapRect(QRectF(plain.ink));
+            const QRectF found(look(changed).ink);
             QVERIFY2(there.adjusted(-3, -3, 3, 3).contains(found) && found.adjusted(-3, -3, 3, 3).contains(there), key);
         }
 

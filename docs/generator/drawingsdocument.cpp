@@ -42,7 +42,7 @@ QVector<QJsonValue> otherValues(const QJsonValue &typical)
             QStringLiteral("Other"),
             QStringLiteral("128,1,2,3"),
             QStringLiteral("#ff010203"),
-            QStringLiteral("80,90,160,200,100,180,200,100"),
+            QStringLiteral("80,90,80,90,80,90,160,200,160,200,160,200,100,180,100,180,100,180"),
             QStringLiteral("0,0,5,5,20,30"),
             QStringLiteral("images/card.png"),
             QStringLiteral("images/picture.png")};

@@ -1,5 +1,6 @@
 #include "render/drawings.h"
 
+#include "lesson/planegeometry.h"
 #include "render/activitydrawing.h"
 #include "render/coverdrawing.h"
 #include "render/exercisedrawing.h"
@@ -77,7 +78,7 @@ void Drawings::drawGame(const QJsonObject &slide, const QRectF &occupied, bool h
 bool Drawings::draw(const QJsonObject &json)
 {
     const ItemView item(json);
-    if (drawFromFamilies(m_canvas, item) || m_canvas.addAsIwb(json)) {
+    if (drawFromFamilies(m_canvas, item) || drawAsIwb(item)) {
         return true;
     }
     m_boxes.drawBox(json, addPictureOn(item));
@@ -92,6 +93,18 @@ void Drawings::drawCover(const QRectF &box)
     QPainterPath path;
     path.addRect(box);
     m_canvas.svg().addPath(path, paint);
+}
+
+// IWB knows no flips: what it has of an item is turned already.
+bool Drawings::drawAsIwb(const ItemView &item)
+{
+    QTransform flipped;
+    const auto box = item.box();
+    if (box && !item.matrix() && (item.flag(ItemKeys::flippedAcross) || item.flag(ItemKeys::flippedDown))) {
+        flipped = turnAbout(box->center(), item.angle()).inverted() * turnAndFlips(item, box->center());
+    }
+    const PlainSvg::Scope scope(m_canvas.svg(), flipped);
+    return m_canvas.addAsIwb(item.json());
 }
 
 // The picture on an item that has no drawing, in the item's box.

@@ -31,6 +31,7 @@ public:
     void drawCover(const QRectF &box);
 
 private:
+    bool drawAsIwb(const ItemView &item);
     bool addPictureOn(const ItemView &item);
 
     Canvas m_canvas;

@@ -1,6 +1,7 @@
 #include "render/mindmapdrawing.h"
 
 #include "lesson/closedtext.h"
+#include "lesson/planegeometry.h"
 #include "render/labellines.h"
 
 #include <QJsonArray>
@@ -68,9 +69,11 @@ bool drawMindMap(Canvas &canvas, const ItemView &item)
     }
     const QRectF page = QRectF(QPointF(), svg.size());
     const auto place = item.place();
-    const QRectF area = place && place->box.width() > 40 && place->box.height() > 20
+    const bool isPlaced = place && place->box.width() > 40 && place->box.height() > 20;
+    const QRectF area = isPlaced
         ? place->box
         : page.adjusted(page.width() * 0.05, page.height() * 0.1, -page.width() * 0.05, -page.height() * 0.1);
+    const PlainSvg::Scope scope(svg, isPlaced ? turnAbout(area.center(), place->angle) : QTransform());
     const QSizeF cell(area.width() / (depth + 1), area.height() / qMax(rows, 1.0));
     constexpr double highest = 90;
     for (Node &node : nodes) {
