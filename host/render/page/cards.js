@@ -30,7 +30,10 @@ const Cards = (() => {
     const bottom = Math.min(box.y + box.height, slide.height - 2 * height);
     Stage.place(button, slide, { x: box.x, y: bottom, width: slide.width * 0.1, height: height * 0.8 }, [element]);
     Stage.place(answer, slide, {
-      x: box.x + slide.width * 0.11, y: bottom, width: Math.max(box.width - slide.width * 0.11, slide.width * 0.3), height,
+      x: box.x + slide.width * 0.11,
+      y: bottom,
+      width: Math.max(box.width - slide.width * 0.11, slide.width * 0.3),
+      height,
     });
     answer.style.height = 'auto'; // as long as the answer is
     return () => { answer.hidden = true; button.setAttribute('aria-expanded', 'false'); };

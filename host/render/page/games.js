@@ -237,7 +237,9 @@ const Games = (() => {
   function comparison(rows) {
     const right = (rows.find((row) => row.symbol) || {}).symbol;
     return {
-      text: rows.map((row) => row.condition || '…').join('  '), answers: ['<', '=', '>'], right: String(right || '').trim(),
+      text: rows.map((row) => row.condition || '…').join('  '),
+      answers: ['<', '=', '>'],
+      right: String(right || '').trim(),
     };
   }
 
@@ -251,7 +253,8 @@ const Games = (() => {
   }
 
   function matching(activity) {
-    return sorting({ boxes: activity.matchs.map(boxOf), pieces: [...activity.matchs, ...(activity.unmatchs || [])].flatMap(texts) });
+    const entries = [...activity.matchs, ...(activity.unmatchs || [])];
+    return sorting({ boxes: activity.matchs.map(boxOf), pieces: entries.flatMap(texts) });
   }
 
   /** The game of a slide's activity, by the form of its entries; null for one that says nothing. */
@@ -294,7 +297,8 @@ const Games = (() => {
     slide.items.filter((item) => item.tool && exercises[item.tool.kind]).forEach((item) => {
       slide.elements(item.id).forEach((element) => {
         Stage.enliven(element, 'button', item.label);
-        Stage.onActivate(element, () => open(item.tool.title || item.label, () => exercises[item.tool.kind](item.tool)));
+        const make = () => exercises[item.tool.kind](item.tool);
+        Stage.onActivate(element, () => open(item.tool.title || item.label, make));
       });
     });
   }

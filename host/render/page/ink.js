@@ -17,7 +17,9 @@ const Ink = (() => {
     mode = mode === wanted ? null : wanted;
     document.body.classList.toggle('inking', Boolean(mode));
     document.body.classList.toggle('erasing', mode === 'eraser');
-    document.querySelectorAll('[data-ink]').forEach((one) => one.setAttribute('aria-pressed', one.dataset.ink === mode));
+    document.querySelectorAll('[data-ink]').forEach((one) => {
+      one.setAttribute('aria-pressed', one.dataset.ink === mode);
+    });
     Stage.say(mode ? `${mode === 'pen' ? 'Pen' : 'Eraser'} on` : 'Pen and eraser off');
   }
 

@@ -66,7 +66,7 @@ const Media = (() => {
   }
 
   function stop(slide) {
-    slide.stage.querySelectorAll('audio, video').forEach((player) => player.pause());
+    slide.stage.querySelectorAll('audio, video').forEach((one) => one.pause());
   }
 
   return { prepare, start, stop };

@@ -180,7 +180,8 @@ const Present = (() => {
   function listenToSwipes(main) {
     let from = null;
     main.addEventListener('pointerdown', (event) => {
-      from = event.pointerType === 'touch' && !Ink.isOn() && !isOverview() ? { x: event.clientX, y: event.clientY } : null;
+      const isSwipe = event.pointerType === 'touch' && !Ink.isOn() && !isOverview();
+      from = isSwipe ? { x: event.clientX, y: event.clientY } : null;
     });
     main.addEventListener('pointerup', (event) => {
       if (!from) {

@@ -25,7 +25,8 @@ const Stage = (() => {
   }
 
   function button(text, label, action, options = {}) {
-    return make('button', { type: 'button', title: label, onclick: action, set: { 'aria-label': label }, ...options }, text);
+    const usual = { type: 'button', title: label, onclick: action, set: { 'aria-label': label } };
+    return make('button', { ...usual, ...options }, text);
   }
 
   /** Where an event is on a slide, in its own pixels. */
@@ -59,7 +60,7 @@ const Stage = (() => {
     slide.stage.append(element);
   }
 
-  /** Calls begin(point), then move(point) until the pointer is let go, then end(moved). Without begin's true it doesn't. */
+  /** Calls begin(point) and, if that is true, move(point) until the pointer is let go, then end(moved). */
   function drag(target, slide, { begin, move, end }) {
     target.addEventListener('pointerdown', (event) => {
       if (event.button !== 0 || document.body.classList.contains('inking')) {

@@ -109,7 +109,10 @@ const Tools = (() => {
       event.preventDefault();
       grow(event.deltaY < 0 ? 1.1 : 1 / 1.1);
     });
-    Stage.drag(element, slide, { begin: (point) => { moveTo(point.x, point.y); return true; }, move: (point) => moveTo(point.x, point.y) });
+    Stage.drag(element, slide, {
+      begin: (point) => { moveTo(point.x, point.y); return true; },
+      move: (point) => moveTo(point.x, point.y),
+    });
     element.addEventListener('click', (event) => event.stopPropagation());
     show();
     return () => { Object.assign(spot, first); show(); };
