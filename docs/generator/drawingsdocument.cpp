@@ -40,6 +40,8 @@ QVector<QJsonValue> otherValues(const QJsonValue &typical)
             QStringLiteral("3"),
             QStringLiteral("25"),
             QStringLiteral("Other"),
+            QStringLiteral("dash"),
+            QStringLiteral("square"),
             QStringLiteral("128,1,2,3"),
             QStringLiteral("#ff010203"),
             QStringLiteral("80,90,80,90,80,90,160,200,160,200,160,200,100,180,100,180,100,180"),
@@ -164,6 +166,86 @@ QStringList takeCommon(QVector<Shown> &types, QStringList Shown::*list)
     return common;
 }
 
+struct FamilyText
+{
+    const char *title;
+    const char *text;
+};
+
+// What isn't plain from the names of the keys.
+constexpr FamilyText familyTexts[] = {
+    {"Strokes",
+     "Ink along its points: smooth, dashed, and as wide at each point as it says; stamps and textures by their "
+     "pictures. "
+     "Ink that is rubbed out takes away what lies under it; what a stroke keeps of deleted pixels is left out. "
+     "Handwritten formulas are the strokes within them."},
+    {"Text boards",
+     "The text with its fonts, sizes, colours, lists and tables in the width of its box, on its background where that "
+     "is "
+     "to be seen."},
+    {"Pictures, films, sounds and documents",
+     "A picture fills its box. What can't be seen on paper is a card with a sign, its name and the kind of its file."},
+    {"Groups", "What is in it, turned, flipped and stretched with the group."},
+    {"Mathematics",
+     "Plane figures from their points or in their box, bodies with their hidden edges dashed, axes with arrows and "
+     "ticks. "
+     "What items don't tell is left out: the units of axes, and with them functions; measures of lengths and angles."},
+    {"Physics",
+     "The symbol of the type (`host/render/symbols`) in the item's box, with its colours, states and texts. Keys whose "
+     "meaning neither their name nor their label tells change nothing."},
+    {"Chemistry",
+     "The symbol of the type (`host/render/symbols`) in the item's box, with its colours, states and texts. Liquids "
+     "stay "
+     "level in vessels that are turned. Keys whose meaning neither their name nor their label tells change nothing."},
+    {"Vector shapes",
+     "The paths that the item holds, each with its edge and its fill. An item without a path shows what its type "
+     "usually "
+     "looks like, where that is known."},
+    {"Figures",
+     "An outline in the box, or the lines through the item's points. Brackets and arrows of a direction or kind that "
+     "nobody "
+     "knows are boxes with their names."},
+    {"Literature", "Characters in squares and words between lines, as large as they fit."},
+    {"General tools",
+     "Instruments with scales in pixels of the page, covers over what they hide, cards and exercises with their lists "
+     "laid "
+     "out in the order that the lesson has them in."},
+    {"Mind maps", "A tree of boxes with the texts of its nodes, in the item's box or on the whole page."},
+    {"Basic graphs",
+     "An outline in the box with the item's text in it; segments and free drawings along their points."},
+    {"Activity items",
+     "The item's picture, and the text on it in its font, size, colour and alignment. Of a card the front."},
+    {"Words and letters", "Characters in squares, pinyin between lines, as large as they fit."},
+    {"Mathematics subject", "A formula as its MathML is laid out, or its picture; a worksheet by its picture."},
+    {"Questions", "The content of the question, not its answer."},
+};
+
+QString textOf(const QString &title)
+{
+    for (const FamilyText &family : familyTexts) {
+        if (title == QLatin1String(family.title)) {
+            return QString::fromUtf8(family.text);
+        }
+    }
+    return {};
+}
+
+// Words broken into lines.
+QString wrapped(const QString &text)
+{
+    constexpr int longest = 120;
+    QString result;
+    int length = 0;
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        const bool isBroken = length > 0 && length + 1 + word.size() > longest;
+        result += isBroken ? QStringLiteral("\n") : length > 0 ? QStringLiteral(" ") : QString();
+        length = (isBroken ? 0 : length + (length > 0 ? 1 : 0)) + word.size();
+        result += word;
+    }
+    return result + QLatin1Char('\n');
+}
+
 QString section(Effects &effects, const TitledTypes &family)
 {
     QVector<Shown> types;
@@ -172,14 +254,14 @@ QString section(Effects &effects, const TitledTypes &family)
             types.append(shownOf(effects, type));
         }
     }
-    QString text = QLatin1String("## ") + family.title + QLatin1String("\n\n");
+    QString told = textOf(family.title);
     if (types.size() > 1) {
         const QStringList with = takeCommon(types, &Shown::with);
         const QStringList without = takeCommon(types, &Shown::without);
-        text += with.isEmpty() ? QString() : QLatin1String("All show ") + codes(with) + QLatin1String(".\n");
-        text += without.isEmpty() ? QString() : QLatin1String("None shows ") + codes(without) + QLatin1String(".\n");
-        text += with.isEmpty() && without.isEmpty() ? QString() : QStringLiteral("\n");
+        told += with.isEmpty() ? QString() : QLatin1String(" All show ") + codes(with) + QLatin1Char('.');
+        told += without.isEmpty() ? QString() : QLatin1String(" None shows ") + codes(without) + QLatin1Char('.');
     }
+    QString text = QLatin1String("## ") + family.title + QLatin1String("\n\n") + wrapped(told) + QLatin1Char('\n');
     text += QLatin1String("| Type | Plain name | Shown | Not shown |\n|---|---|---|---|\n");
     for (const Shown &shown : qAsConst(types)) {
         text += QStringLiteral("| `%1` | %2 | %3 | %4 |\n")
