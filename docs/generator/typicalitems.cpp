@@ -68,9 +68,10 @@ QString colorByLabel(const QString &label)
     return {};
 }
 
+// Other keys tell whether a colour is shown.
 bool isColorKey(const QString &key)
 {
-    return key.contains(QLatin1String("Color"), Qt::CaseInsensitive);
+    return key.contains(QLatin1String("Color"), Qt::CaseInsensitive) && key != QLatin1String("SHOWBACKCOLOR");
 }
 
 QJsonObject colorObject(const QColor &color)
