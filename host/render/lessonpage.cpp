@@ -113,7 +113,7 @@ void LessonPage::putSlides()
     m_slides.finish(false);
     InputFile slides(m_target.workFolder() + QLatin1String("/slides"), m_path);
     put("<main style=\"--widest:" + QByteArray::number(m_widest) + "\">\n");
-    constexpr qint64 chunk = 256 * 1024;
+    constexpr qint64 chunk = qint64(256) * 1024;
     for (qint64 at = 0; at < slides.size(); at += chunk) {
         put(slides.bytes(at, qMin(chunk, slides.size() - at)));
     }
@@ -131,7 +131,7 @@ void LessonPage::putFile(int number)
     const PageFiles::File &told = m_files.all().at(number);
     InputFile file(told.source, told.name);
     put("<script type=\"text/plain\" id=\"file" + QByteArray::number(number) + "\">");
-    constexpr qint64 chunk = 3 * 64 * 1024; // without anything left over in base64
+    constexpr qint64 chunk = qint64(3) * 64 * 1024; // without anything left over in base64
     for (qint64 at = 0; at < file.size(); at += chunk) {
         put(file.bytes(at, qMin(chunk, file.size() - at)).toBase64());
     }

@@ -117,7 +117,8 @@ void addListed(const LessonSlide &slide, QJsonArray &steps)
 {
     QStringList ids;
     const QJsonObject list = slide.properties.value(ItemKeys::animations).toObject();
-    for (const QJsonValue &id : list.value(QLatin1String("animation")).toArray()) {
+    const QJsonArray named = list.value(QLatin1String("animation")).toArray();
+    for (const QJsonValue &id : named) {
         ids.append(valueText(id));
     }
     if (ids.isEmpty()) {
