@@ -136,6 +136,8 @@ private slots:
         QPDF pdf;
         pdf.processFile(QFile::encodeName(path("lesson.pdf")).constData());
         QCOMPARE(pdf.getRoot().getKey("/Lang").getUTF8Value(), std::string("zh"));
+        QCOMPARE(runCommand({"render", path("lesson.json"), path("lesson.html")}).exitCode, 0);
+        QVERIFY(fileContent(path("lesson.html")).contains(" lang=\"zh\">"));
         QCOMPARE(pdf.getTrailer().getKey("/Info").getKey("/Title").getUTF8Value(), std::string("植物"));
         QStringList lines;
         for (QPDFOutlineObjectHelper line : QPDFOutlineDocumentHelper(pdf).getTopLevelOutlines()) {

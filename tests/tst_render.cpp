@@ -44,10 +44,11 @@ private slots:
     void drawsEveryItem()
     {
         const CommandProcess::Outcome result =
-            runCommand({"render", path("lesson.json"), path("lesson.html"), "--json"});
+            runCommand({"render", path("lesson.json"), path("lesson.html"), "--json", "--report", path("told.json")});
         QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
         const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
         QCOMPARE(json.value("slides").toInt(), 2);
+        QCOMPARE(QJsonDocument::fromJson(fileContent(path("told.json"))).object(), json);
         QCOMPARE(json.value("named"),
                  QJsonValue(QJsonArray{QJsonObject{{"slide", 2}, {"type", "General:spotlight"}, {"id", "3"}},
                                        QJsonObject{{"slide", 2}, {"type", "ZQNewPart"}, {"id", "6"}}}));
