@@ -90,10 +90,11 @@ LabelLines linesThatFit(const QString &text, const QSizeF &box, double largestSi
     constexpr double usedWidth = 0.94;
     constexpr double usedHeight = 0.96;
     constexpr double step = 0.9;
+    constexpr double mostLines = 1e6; // of boxes without bounds
     LabelLines label;
     for (label.size = qMax(largestSize, smallestSize);; label.size = qMax(label.size * step, smallestSize)) {
         const double width = box.width() * usedWidth * measuredSize / label.size;
-        const int count = int(box.height() * usedHeight / (label.size * LabelLines::lineHeight));
+        const int count = int(qMin(box.height() * usedHeight / (label.size * LabelLines::lineHeight), mostLines));
         label.lines = brokenIntoLines(text, width);
         label.isWhole = longestOf(label.lines) <= width && label.lines.size() <= count;
         if (!label.isWhole && label.size <= smallestSize) {
