@@ -9,6 +9,8 @@
 #include <QFontMetricsF>
 #include <QtTest>
 
+#include <ctime>
+
 /*!
  * Draws texts on a page of 1280 by 720 pixels.
  */
@@ -202,6 +204,33 @@ private slots:
             QVERIFY2((middle - last).manhattanLength() < 0.1, qPrintable(matrix.join(' ')));
             QVERIFY(qAbs(number(elements(svg, "text").constLast(), "x")) < 0.1);
         }
+    }
+
+    // However long, deep and large a text says it is.
+    void comesToAnEnd_data()
+    {
+        const Table<QString> row("html");
+        row("lengths",
+            "<table cellpadding='99999999' width='1000000000'><tr><td>y</td></tr></table>"
+            "<img width='99999999999' height='99999999999' src='a'/><p style='line-height:1e9%'>x</p>");
+        row("margins", QString("<p style='margin-top:9999px'>x</p>").repeated(8000));
+        row("letters", "<p style='font-size:1e9pt'>" + QString("x").repeated(100000) + "</p>");
+        row("tables in tables", QString("<table><tr><td>").repeated(99) + 'x');
+        row("lines", QString("x<br>").repeated(100000));
+        QString fonts;
+        for (int i = 0; i < 2000; ++i) {
+            fonts += "<span style='font-family:Font %1'>x</span>"_s.arg(i);
+        }
+        row("fonts", fonts);
+    }
+
+    void comesToAnEnd()
+    {
+        QFETCH(QString, html);
+        const std::clock_t start = std::clock();
+        const QByteArray svg = drawnSvg([&](Canvas &canvas) { canvas.addText(html, {0, 0, 400, 300}); });
+        QVERIFY(svg.contains(">x") && !svg.contains("nan"));
+        QVERIFY(std::clock() - start < 20 * CLOCKS_PER_SEC);
     }
 
     // No smaller than can be read, cut where they don't fit, beside what is too small, and never one over the other.

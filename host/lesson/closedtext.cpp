@@ -18,6 +18,7 @@ namespace {
 constexpr int mostDepth = 100;
 constexpr int mostPictures = 1000;
 constexpr int mostListItems = 2000; // what follows begins a line, without its mark
+constexpr int mostOpenTables = 8; // each takes twice the time of that within
 constexpr int mostTables = 2000; // a row or cell that is in none makes one
 constexpr int widestCell = 100;
 constexpr qint64 mostCells = 100000; // of all tables, the empty places in their grids among them
@@ -179,7 +180,8 @@ private:
         const bool isTable =
             name == QLatin1String("table") || (m_tables.isEmpty() && isAnyOf(name, {"tr", "td", "th"}));
         m_tableCount += isTable ? 1 : 0;
-        if (m_open.size() >= mostDepth || (isTable && m_tableCount > mostTables) || !countCell(name, attributes)) {
+        const bool isTooMuch = isTable && (m_tableCount > mostTables || m_tables.size() >= mostOpenTables);
+        if (m_open.size() >= mostDepth || isTooMuch || !countCell(name, attributes)) {
             ++m_leftOutOpen[name];
             return false;
         }

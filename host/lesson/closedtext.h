@@ -15,9 +15,9 @@ class ClosedTextDocument : public QTextDocument
 public:
     ClosedTextDocument();
 
-    //! Takes HTML without the tags that would take too long, and returns their number: tags nested in 100 others, cells
-    //! of tables far larger than what stands in them, thousands of pictures, style sheets of too many rules. What is no
-    //! tag, such as the sign in "1 < 2", is text.
+    //! Takes HTML without the tags that would take too long, and returns their number: tags nested in 100 others,
+    //! tables in eight, cells of tables far larger than what stands in them, thousands of pictures, style sheets of too
+    //! many rules. What is no tag, such as the sign in "1 < 2", is text.
     int setLessonHtml(const QString &html);
 
 protected:

@@ -37,7 +37,7 @@ bool isGeneric(const QString &family)
 // Another font of the same widths is one that isn't taken for just any name.
 bool hasFamily(const QString &family)
 {
-    if (!hasFonts()) {
+    if (!hasFonts() || isGeneric(family)) {
         return true;
     }
     static QHash<QString, bool> known;
@@ -45,8 +45,12 @@ bool hasFamily(const QString &family)
     if (found != known.cend()) {
         return *found;
     }
+    constexpr int mostFamilies = 500; // to look for one takes a millisecond
+    if (known.size() >= mostFamilies) {
+        return false;
+    }
     const QString standsIn = familyThatStandsInFor(family);
-    bool isHere = isGeneric(family) || standsIn.compare(family, Qt::CaseInsensitive) == 0;
+    bool isHere = standsIn.compare(family, Qt::CaseInsensitive) == 0;
     if (!isHere) {
         isHere = true;
         for (const char *generic : {"serif", "sans-serif", "monospace"}) {

@@ -2,6 +2,7 @@
 
 #include "lesson/fontshere.h"
 #include "render/svgpaintdevice.h"
+#include "render/textbounds.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
@@ -18,8 +19,7 @@ namespace lessonhost {
 
 namespace {
 
-constexpr double largestPixels = 2000;
-constexpr double largestPoints = largestPixels * 72 / SvgPaintDevice::dotsPerInch;
+constexpr double largestPoints = largestLetters * 72 / SvgPaintDevice::dotsPerInch;
 
 // The one that is here before the list that is asked for.
 QStringList families(const QStringList &asked)
@@ -48,15 +48,10 @@ QTextCharFormat prepared(QTextCharFormat format)
     }
     if (format.hasProperty(QTextFormat::FontPixelSize)) {
         format.setProperty(QTextFormat::FontPixelSize,
-                           qBound(1, format.intProperty(QTextFormat::FontPixelSize), int(largestPixels)));
+                           qBound(1, format.intProperty(QTextFormat::FontPixelSize), int(largestLetters)));
     }
     format.setFontHintingPreference(QFont::PreferNoHinting);
     return format;
-}
-
-double pixelsOf(const QFont &font)
-{
-    return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * SvgPaintDevice::dotsPerInch / 72;
 }
 
 // The lines that begin elsewhere than at the left.
@@ -85,15 +80,11 @@ QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
 
 } // namespace
 
-// A document lays itself out after each change, so there is only one: of an empty document, whose layout is there.
+// A document that has a layout lays itself out after each change, so it gets one when nothing changes any more.
 LessonText::LessonText(const QString &text, double width, const TextLook &look, bool keepsWords)
     : m_screen(1, 1, QImage::Format_RGB32)
     , m_color(look.color)
 {
-    constexpr double inchesInMeter = 1 / 0.0254;
-    m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
-    m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
-    m_document.documentLayout()->setPaintDevice(&m_screen);
     QFont font;
     font.setFamilies(families({look.family}));
     font.setPointSizeF(qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints));
@@ -106,16 +97,22 @@ LessonText::LessonText(const QString &text, double width, const TextLook &look, 
     option.setAlignment(look.alignment);
     option.setWrapMode(keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_document.setDefaultTextOption(option);
-    setWidth(width);
-    QTextCursor change(&m_document);
-    change.beginEditBlock();
     if (text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'))) {
         m_document.setLessonHtml(text);
     } else {
         m_document.setPlainText(text);
     }
+    boundText(m_document);
     prepareFonts();
-    change.endEditBlock();
+    setWidth(width);
+    QAbstractTextDocumentLayout *const layout = m_document.documentLayout();
+    if (!QCoreApplication::testAttribute(Qt::AA_Use96Dpi)) {
+        constexpr double inchesInMeter = 1 / 0.0254;
+        m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
+        m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
+        layout->setPaintDevice(&m_screen);
+        setWidth(width);
+    }
 }
 
 void LessonText::prepareFonts()

@@ -2,6 +2,7 @@
 
 #include "lesson/fontvalues.h"
 #include "render/svgelements.h"
+#include "render/textbounds.h"
 
 #include <QFont>
 #include <QPaintEngine>
@@ -13,11 +14,6 @@
 namespace lessonhost {
 
 namespace {
-
-double pixelsOf(const QFont &font)
-{
-    return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * SvgPaintDevice::dotsPerInch / 72;
-}
 
 // Letters in the case in which the font draws them. Small capitals come by themselves, in their size.
 QString drawnLetters(const QString &text, const QFont &font)

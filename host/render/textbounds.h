@@ -1,0 +1,22 @@
+#ifndef TEXTBOUNDS_H
+#define TEXTBOUNDS_H
+
+#include <QFont>
+#include <QTextDocument>
+
+namespace lessonhost {
+
+//! The size of the largest letters in a text, in pixels.
+constexpr double largestLetters = 2000;
+
+//! The size of a font in pixels, of which an inch has 96.
+double pixelsOf(const QFont &font);
+
+//! Makes the lengths that a text tells such that its layout comes to an end, which text documents don't where a sum of
+//! them is larger than they can count. Of a text that would be higher than any page nevertheless, the beginning of its
+//! words is left. To be done before there is a layout.
+void boundText(QTextDocument &document);
+
+} // namespace lessonhost
+
+#endif // TEXTBOUNDS_H
