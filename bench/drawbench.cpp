@@ -26,7 +26,8 @@ QJsonArray slideOf(const QStringList &types)
     QJsonArray items;
     for (int i = 0; i < itemsOfSlide; ++i) {
         const QString &type = types.at(i % types.size());
-        const QRectF box(QPointF(i % columns * cell.width() + 5, i / columns * cell.height() + 5), typicalSize(type));
+        const int row = i / columns;
+        const QRectF box(QPointF(i % columns * cell.width() + 5, row * cell.height() + 5), typicalSize(type));
         items.append(typicalItem(type, box));
     }
     return items;

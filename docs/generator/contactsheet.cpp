@@ -57,8 +57,9 @@ public:
                 slide.families.append(family.title);
             }
             const int cell = m_cells % perPage;
+            const int row = cell / columns;
             addItem(slide, family.types.at(i),
-                    {cell % columns * cellSize.width(), headHeight + cell / columns * cellSize.height()});
+                    {cell % columns * cellSize.width(), headHeight + row * cellSize.height()});
         }
     }
 

@@ -171,7 +171,8 @@ bool PlainSvg::add(const QDomElement &element)
     const QString tag = withoutPrefix(element.tagName());
     if (tag == QLatin1String("image")) {
         return addPicture(element);
-    } else if (isOneOf(keptTags, tag)) {
+    }
+    if (isOneOf(keptTags, tag)) {
         QDomElement copy = append(tag);
         copyAttributes(element, copy);
         // The boxes that IWB gives such shapes mean nothing to svg.
