@@ -53,6 +53,7 @@ std::function<void()> painting(ItemPictures &pictures, const QJsonArray &items)
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // as lessonconv does
     const QGuiApplication application(argc, argv);
     ItemPictures pictures(plugin(), page);
     const QJsonArray shapes = slideOf({QStringLiteral("ZQBasicRectangleItem"), QStringLiteral("ZQBasicEllipseItem"),

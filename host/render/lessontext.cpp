@@ -5,6 +5,7 @@
 #include "render/textbounds.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPainter>
@@ -32,7 +33,7 @@ QStringList families(const QStringList &asked)
     return *found;
 }
 
-// In a font that is here and a size that can be drawn, with the widths that letters have in every size.
+// In a font that is here and a size that can be drawn.
 QTextCharFormat prepared(QTextCharFormat format)
 {
     QStringList asked = format.fontFamilies().toStringList();
@@ -50,7 +51,6 @@ QTextCharFormat prepared(QTextCharFormat format)
         format.setProperty(QTextFormat::FontPixelSize,
                            qBound(1, format.intProperty(QTextFormat::FontPixelSize), int(largestLetters)));
     }
-    format.setFontHintingPreference(QFont::PreferNoHinting);
     return format;
 }
 
@@ -82,8 +82,7 @@ QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
 
 // A document that has a layout lays itself out after each change, so it gets one when nothing changes any more.
 LessonText::LessonText(const QString &text, double width, const TextLook &look, bool keepsWords)
-    : m_screen(1, 1, QImage::Format_RGB32)
-    , m_color(look.color)
+    : m_color(look.color)
 {
     QFont font;
     font.setFamilies(families({look.family}));
@@ -108,6 +107,7 @@ LessonText::LessonText(const QString &text, double width, const TextLook &look, 
     QAbstractTextDocumentLayout *const layout = m_document.documentLayout();
     if (!QCoreApplication::testAttribute(Qt::AA_Use96Dpi)) {
         constexpr double inchesInMeter = 1 / 0.0254;
+        m_screen = QImage(1, 1, QImage::Format_RGB32);
         m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
         m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
         layout->setPaintDevice(&m_screen);
@@ -130,11 +130,16 @@ void LessonText::prepareFonts()
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const QTextCharFormat format = prepared(fragment.charFormat());
-            parts.append({fragment.position(), fragment.length(), format});
+            if (format != fragment.charFormat()) {
+                parts.append({fragment.position(), fragment.length(), format});
+            }
             m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document.defaultFont())));
         }
-        cursor.setPosition(block.position());
-        cursor.setBlockCharFormat(prepared(block.charFormat()));
+        const QTextCharFormat blockFormat = prepared(block.charFormat());
+        if (blockFormat != block.charFormat()) {
+            cursor.setPosition(block.position());
+            cursor.setBlockCharFormat(blockFormat);
+        }
     }
     for (const Part &part : qAsConst(parts)) {
         cursor.setPosition(part.position);

@@ -52,7 +52,7 @@ public:
 private:
     void prepareFonts();
 
-    QImage m_screen; // tells how large a point is
+    QImage m_screen; // tells how large a point is, where the application doesn't
     ClosedTextDocument m_document;
     QColor m_color;
     double m_smallestPixels = 0;
