@@ -98,32 +98,47 @@ void drawCharacter(const Sheet &sheet, const QRectF &square, const QString &lett
 }
 
 /*!
- * Squares in rows, as large as an area lets them be.
+ * Squares in rows, as large as an area lets them be, and with room for pinyin above each row or without.
  */
 struct Squares
 {
+    static constexpr double strip = 0.5; // for pinyin, of the side of a square
+    static constexpr double gap = 0.08;
+
     //! count: at least one.
-    Squares(const QRectF &area, int count)
+    Squares(const QRectF &area, int count, bool hasPinyin = false)
+        : height(hasPinyin ? 1 + strip + gap : 1)
     {
         for (int inRow = 1; inRow <= count; ++inRow) {
-            const int rows = (count + inRow - 1) / inRow;
-            const double fitting = qMin(area.width() / inRow, area.height() / rows);
+            const int needed = (count + inRow - 1) / inRow;
+            const double fitting = qMin(area.width() / inRow, area.height() / (needed * height));
             if (fitting > side) {
                 side = fitting;
                 columns = inRow;
+                rows = needed;
             }
         }
-        const int rows = (count + columns - 1) / columns;
-        corner = area.center() - QPointF(columns * side, rows * side) / 2;
+        corner = area.center() - QPointF(columns * side, rows * side * height) / 2;
     }
 
     QRectF at(int i) const
     {
-        return {corner.x() + (i % columns) * side, corner.y() + int(i / columns) * side, side, side};
+        return {corner.x() + (i % columns) * side, corner.y() + (int(i / columns) + 1) * side * height - side, side,
+                side};
+    }
+    QRectF pinyinOf(int row) const
+    {
+        return {corner.x(), corner.y() + row * side * height, columns * side, side * strip};
+    }
+    QRectF pinyinAt(int i) const
+    {
+        return {corner.x() + (i % columns) * side, corner.y() + int(i / columns) * side * height, side, side * strip};
     }
 
+    double height; // of a row, of the side of a square
     double side = 0;
     int columns = 1;
+    int rows = 1;
     QPointF corner;
 };
 
@@ -214,50 +229,23 @@ void drawRows(const Sheet &sheet, const QString &text)
     }
 }
 
-// The part of a card for pinyin, above that for the characters.
-struct Card
-{
-    explicit Card(const QRectF &area, int characters)
-    {
-        constexpr double pinyinPart = 0.5; // of the side of a square
-        constexpr double gap = 0.08;
-        side = qMin(area.width() / characters, area.height() / (1 + pinyinPart + gap));
-        const QPointF corner = area.center() - QPointF(side * characters, side * (1 + pinyinPart + gap)) / 2;
-        pinyin = QRectF(corner, QSizeF(side * characters, side * pinyinPart));
-        squares = QRectF(pinyin.left(), pinyin.bottom() + side * gap, pinyin.width(), side);
-    }
-
-    QRectF pinyinAt(int i) const { return {pinyin.left() + i * side, pinyin.top(), side, pinyin.height()}; }
-    QRectF squareAt(int i) const { return {squares.left() + i * side, squares.top(), side, side}; }
-
-    double side;
-    QRectF pinyin;
-    QRectF squares;
-};
-
 // A character on its background, which is a picture or a square with a cross, and its pinyin.
 void drawCharacterCard(const Sheet &sheet, const ItemView &item)
 {
     const QString pinyin = wordsOf(item.text(QLatin1String("current_pinyin")));
-    const QString text = wordsOf(item.text(QLatin1String("current_text")));
-    const QStringList letters = lettersOf(text);
+    const QStringList letters = lettersOf(wordsOf(item.text(QLatin1String("current_text"))));
     const int count = qMax(1, letters.size());
-    Card card(sheet.area, count);
-    if (pinyin.isEmpty()) {
-        card.side = qMin(sheet.area.width() / count, sheet.area.height());
-        card.squares = QRectF(0, 0, card.side * count, card.side);
-        card.squares.moveCenter(sheet.area.center());
-    } else {
-        drawFourLines(sheet, card.pinyin);
-        drawBetweenLines(sheet, card.pinyin, pinyin);
+    const Squares squares(sheet.area, count, !pinyin.isEmpty());
+    if (!pinyin.isEmpty()) {
+        drawFourLines(sheet, squares.pinyinOf(0));
+        drawBetweenLines(sheet, squares.pinyinOf(0), pinyin);
     }
-    const bool hasPicture = sheet.canvas.addPicture(item.text(ItemKeys::document).section(QLatin1Char(','), 0, 0),
-                                                    card.squares, sheet.place);
+    const QString picture = item.text(ItemKeys::document).section(QLatin1Char(','), 0, 0);
     for (int i = 0; i < count; ++i) {
-        if (!hasPicture) {
-            drawSquare(sheet, card.squareAt(i), Grid::Field);
+        if (!sheet.canvas.addPicture(picture, squares.at(i), sheet.place)) {
+            drawSquare(sheet, squares.at(i), Grid::Field);
         }
-        drawCharacter(sheet, card.squareAt(i), letters.value(i));
+        drawCharacter(sheet, squares.at(i), letters.value(i));
     }
 }
 
@@ -274,20 +262,22 @@ void drawPinyinCard(const Sheet &sheet, const ItemView &item)
     const QColor letterColor = firstColor(item, {"ArtObj_HZcolor"}, Qt::black);
     const QColor pinyinColor = firstColor(item, {"ArtObj_Color"}, Qt::black);
     const int count = qMax(1, letters.size());
-    const Card card(sheet.area, count);
-    drawFourLines(sheet, card.pinyin);
+    const Squares squares(sheet.area, count, true);
+    for (int row = 0; row < squares.rows; ++row) {
+        drawFourLines(sheet, squares.pinyinOf(row));
+    }
     if (syllables.size() != letters.size()) {
-        drawBetweenLines(sheet, card.pinyin, pinyin, pinyinColor);
+        drawBetweenLines(sheet, squares.pinyinOf(0), pinyin, pinyinColor);
     }
     for (int i = 0; i < count; ++i) {
         if (item.flag(QLatin1String("DispGrid"), true)) {
-            drawSquare(sheet, card.squareAt(i), Grid::Field);
+            drawSquare(sheet, squares.at(i), Grid::Field);
         }
         if (item.flag(QLatin1String("ArtObj_DispHanzi"), true)) {
-            drawCharacter(sheet, card.squareAt(i), letters.value(i), letterColor);
+            drawCharacter(sheet, squares.at(i), letters.value(i), letterColor);
         }
         if (syllables.size() == letters.size()) {
-            drawBetweenLines(sheet, card.pinyinAt(i), syllables.value(i), pinyinColor);
+            drawBetweenLines(sheet, squares.pinyinAt(i), syllables.value(i), pinyinColor);
         }
     }
 }
