@@ -19,6 +19,7 @@ namespace lessonhost {
 
 namespace {
 
+constexpr double mostDecimals = 6; // of the numbers on a scale
 constexpr double usualLine = 2; // of the files
 constexpr int mostRepeats = 100;
 
@@ -268,7 +269,7 @@ private:
             stepLength > 0 ? placed.length() / stepLength : (values.at(1) - values.at(0)) / qMax(values.at(2), 1e-9);
         scale.last = scale.first + steps * scale.step;
         scale.parts = qRound(values.at(3));
-        scale.decimals = qRound(numberOf(part, "data-decimals", -1));
+        scale.decimals = qRound(qBound(-1.0, numberOf(part, "data-decimals", -1), mostDecimals));
         scale.tickLength = part.attribute(QStringLiteral("data-tick")).toDouble() * m_scale;
         scale.numberSize = part.hasAttribute(QStringLiteral("font-size")) ? scalePart.fontPixels * m_scale : 0;
         scale.color = paint.line;
