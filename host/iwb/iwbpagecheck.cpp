@@ -213,8 +213,14 @@ void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const 
         return isFileKey(key) ? isSameFile(given, value, back, losses) : isInvisible(value) && isInvisible(back);
     };
     Comparison(losses, rules).compareProperties(given, own, back);
-    if (own.contains(ItemKeys::linkType) && found.value(ItemKeys::linkType) == QLatin1String("ACTION_GOTOSLIDE")) {
-        m_pageLinks.append({given, losses, valueText(found.value(ItemKeys::linkValue)).toInt()});
+    if (found.value(ItemKeys::linkType) == QLatin1String("ACTION_GOTOSLIDE")) {
+        const int page = valueText(found.value(ItemKeys::linkValue)).toInt();
+        // The link may be that of a group around the item, which may have a part of one itself.
+        for (const QLatin1String key : {ItemKeys::linkType, ItemKeys::linkValue}) {
+            if (!isNothing(given.value(key)) && isSameValue(key, given.value(key), found.value(key))) {
+                m_pageLinks.append({given, losses, key, valueText(given.value(key)), page});
+            }
+        }
     }
 }
 
@@ -234,8 +240,7 @@ void IwbPageCheck::finish(int pageCount) const
 {
     for (const PageLink &link : m_pageLinks) {
         if (link.page > pageCount) {
-            link.losses.value(link.owner, ItemKeys::linkType, QStringLiteral("ACTION_GOTOSLIDE"));
-            link.losses.value(link.owner, ItemKeys::linkValue, QString::number(link.page));
+            link.losses.value(link.owner, link.key, link.value);
         }
     }
 }

@@ -31,11 +31,13 @@ public:
     void finish(int pageCount) const;
 
 private:
-    // A link to a page behind those that are written so far.
+    // A value of a link to a page behind those that are written so far.
     struct PageLink
     {
         LossOwner owner;
         SlideLosses losses;
+        QLatin1String key;
+        QString value;
         int page;
     };
 

@@ -57,6 +57,15 @@ bool looksLike(const QDomElement &element, const QDomElement &other)
     });
 }
 
+// False for an element that looks like every other one.
+bool saysAnything(const QDomElement &element)
+{
+    const auto attributes = attributesOf(element);
+    return !textOf(element).isEmpty()
+        || std::any_of(attributes.cbegin(), attributes.cend(),
+                       [](const QPair<QString, QString> &attribute) { return !attribute.second.isEmpty(); });
+}
+
 /*!
  * One element and what was written of it, with the way from the outermost element to where the two are compared.
  */
@@ -294,7 +303,8 @@ private:
             return false;
         }
         for (int i = 1; i <= qMin(missing, furthestPartner); ++i) {
-            if (looksLike(line.read.at(place + i).element, partner)) {
+            const QDomElement later = line.read.at(place + i).element;
+            if (saysAnything(later) && looksLike(later, partner)) {
                 return true;
             }
         }

@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <cmath>
 
 namespace lessonhost {
 
@@ -144,7 +145,7 @@ QJsonObject withOpacityInColor(QJsonObject item, const QJsonObject &found)
     const auto opacity = wholeNumbers(item.value(ItemKeys::opacity));
     const auto color = wholeColor(item.value(ItemKeys::color));
     const bool isAlpha = opacity && opacity->size() == 1 && opacity->first() >= 0 && opacity->first() <= 255
-        && !found.contains(ItemKeys::opacity);
+        && opacity->first() == std::floor(opacity->first()) && !found.contains(ItemKeys::opacity);
     if (color && isAlpha
         && wholeColor(found.value(ItemKeys::color)) == ((*color & 0xffffff) | QRgb(opacity->first()) << 24)) {
         item.remove(ItemKeys::opacity);
