@@ -9,94 +9,37 @@
 
 namespace {
 
-const char *const flagKeys[] = {"Visible", "LockIn", "InfiniteClone", "HorizonFlip", "VerticalFlip", "ArtObj_Fill"};
+// Texts with bars between.
+QStringList listOf(const char *texts)
+{
+    return QString::fromUtf8(texts).split('|');
+}
 
-const char *const references[] = {"images/picture.png", "images/other.pbm", "notes/text.txt", "images/missing.png"};
-
-const char *const referenceKeys[] = {"AudioPath", "DrawTexture", "MultiMediaFile", "Stamp",
-                                     "document",  "picture",     "resource",       "AttachFile"};
-
-const char *const slideKeys[] = {"AttachFile",    "BackColor",        "EffectType",       "SlideSourceRect",
-                                 "SlideTagsInfo", "TextureLineType",  "activity",         "animations",
-                                 "color",         "document",         "effect_direction", "effect_time",
-                                 "effect_type",   "objAnimationData", "KeepRatio"};
-
-const char *const presentationKeys[] = {"Author", "Date",  "Date_modified", "Height", "ID",    "Range",
-                                        "Title",  "Width", "Version_app",   "Other",  "Delete"};
-
-const char *const oddTexts[] = {
-    "",
-    " ",
-    "0",
-    "1",
-    "-1",
-    "2",
-    "+1",
-    " 1 ",
-    "true",
-    "false",
-    "1.50",
-    "1e1",
-    "0x10",
-    "007",
-    "nan",
-    "inf",
-    "1e39",
-    "1e-7",
-    "abc",
-    "1,2",
-    "1,2,3,",
-    "1,abc",
-    ",",
-    "1;2",
-    "#f00",
-    "red",
-    "crimson",
-    "#12345678",
-    "300,-1,2,3",
-    "1.5,2,3,4",
-    "a < b & c",
-    "<b>bold</b>",
-    "]]>",
-    "\"'",
-    "a\nb",
-    "\tx ",
-    "\x01",
-    "\xc3\xa9\xe6\xbc\xa2\xf0\x9f\x99\x82",
-    "&amp;",
-    "\\u0041",
-    "%1",
-    "../x.png",
-    "null",
-    "1,2,3,4,5,6,7,8,9",
-    "0.1234567890123",
-    "16777217",
-    "9007199254740993",
-};
-
-const char *const linkKinds[] = {"ACTION_OPENWEB", "ACTION_OPENFILE",  "ACTION_GOTOSLIDE", "ACTION_OPENTOOL",
-                                 "ACTION_SHOWTIP", "ACTION_PLAYAUDIO", "ACTION_ODD"};
-const char *const linkValues[] = {"https://www.example.org/?a=1&b=2",
-                                  "www.example.org",
-                                  "notes/text.txt",
-                                  "2",
-                                  "99",
-                                  "A tip: a < b",
-                                  "",
-                                  "ftp://example.org/x",
-                                  "images/missing.png"};
-
-const char *const htmlTexts[] = {
-    "<p>Text</p>",
-    "plain",
-    "<p>One <b>bold</b> and <i>slanted</i></p><p>Two</p>",
-    "<p align=\"center\"><span style=\"font-size:30px; color:#123456\">Large</span></p>",
-    "<p><span style=\"background-color:#ffff00\">marked</span> x<sub>2</sub></p>",
-    "<p><a href=\"https://example.org\">link</a> <u>line</u></p>",
-    "<table><tr><td>1</td></tr></table>",
-    "",
-    "  ",
-};
+const QStringList flagKeys = listOf("Visible|LockIn|InfiniteClone|HorizonFlip|VerticalFlip|ArtObj_Fill");
+const QStringList references = listOf("images/picture.png|images/other.pbm|notes/text.txt|images/missing.png");
+const QStringList referenceKeys =
+    listOf("AudioPath|DrawTexture|MultiMediaFile|Stamp|document|picture|resource|AttachFile");
+const QStringList slideKeys = listOf(
+    "AttachFile|BackColor|EffectType|SlideSourceRect|SlideTagsInfo|TextureLineType|activity|animations|color|document|"
+    "effect_direction|effect_time|effect_type|objAnimationData|KeepRatio");
+const QStringList presentationKeys =
+    listOf("Author|Date|Date_modified|Height|ID|Range|Title|Width|Version_app|Other|Delete");
+const QStringList oddTexts = listOf(
+    "| |0|1|-1|2|+1| 1 |true|false|1.50|1e1|0x10|007|nan|inf|1e39|1e-7|abc|1,2|1,2,3,|1,abc|,|1;2|#f00|red|crimson|"
+    "#12345678|300,-1,2,3|1.5,2,3,4|a < b & c|<b>bold</b>|]]>|\"'|a\nb|\tx |\x01|\xc3\xa9\xe6\xbc\xa2\xf0\x9f\x99\x82|"
+    "&amp;|\\u0041|%1|../x.png|null|1,2,3,4,5,6,7,8,9|0.1234567890123|16777217|9007199254740993");
+const QStringList linkKinds = listOf("ACTION_OPENWEB|ACTION_OPENFILE|ACTION_GOTOSLIDE|ACTION_OPENTOOL|ACTION_SHOWTIP|"
+                                     "ACTION_PLAYAUDIO|ACTION_ODD");
+const QStringList linkValues =
+    listOf("https://www.example.org/?a=1&b=2|www.example.org|notes/text.txt|2|99|A tip: a < b||ftp://example.org/x|"
+           "images/missing.png");
+const QStringList htmlTexts =
+    listOf("<p>Text</p>|plain|<p>One <b>bold</b> and <i>slanted</i></p><p>Two</p>|"
+           "<p align=\"center\"><span style=\"font-size:30px; color:#123456\">Large</span></p>|"
+           "<p><span style=\"background-color:#ffff00\">marked</span> x<sub>2</sub></p>|"
+           "<p><a href=\"https://example.org\">link</a> <u>line</u></p>|<table><tr><td>1</td></tr></table>||  ");
+const QStringList matrices =
+    listOf("1,0,0,1,0,0|1,0,0,1,10,20|2,0,0,2,5,5|0,1,-1,0,300,0|1,0,0.5,1,0,0|-1,0,0,1,100,0");
 
 // A black point.
 const char *const otherPicture = "P1 1 1 1\n";
@@ -139,20 +82,6 @@ QJsonValue parsed(const char *text)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text);
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-}
-
-template <std::size_t size> bool isOneOf(const char *const (&names)[size], const QString &text)
-{
-    return std::any_of(std::begin(names), std::end(names), [&text](const char *name) { return text == name; });
-}
-
-template <std::size_t size> QStringList listOf(const char *const (&names)[size])
-{
-    QStringList list;
-    for (const char *name : names) {
-        list.append(name);
-    }
-    return list;
 }
 
 struct Vocabulary
@@ -301,7 +230,7 @@ QJsonValue RandomLesson::color()
 
 QString RandomLesson::oddText()
 {
-    return QString::fromUtf8(anyOf(oddTexts));
+    return anyOf(oddTexts);
 }
 
 QJsonValue RandomLesson::oddValue(int depth)
@@ -337,11 +266,11 @@ QJsonValue RandomLesson::oddValue(int depth)
 
 QJsonValue RandomLesson::goodValue(const QString &type, const QString &key)
 {
-    const auto path = [this] { return QString(anyOf(references)); };
-    if (isOneOf(flagKeys, key)) {
+    const auto path = [this] { return anyOf(references); };
+    if (flagKeys.contains(key)) {
         return key == "Visible" ? QJsonValue(!oneIn(3)) : QJsonValue(oneIn(2) ? "1" : "0");
     }
-    if (isOneOf(referenceKeys, key)) {
+    if (referenceKeys.contains(key)) {
         if (type == "ZQDyCoursewareItem" && key == "document") {
             return QJsonArray{path(), path()};
         }
@@ -356,8 +285,6 @@ QJsonValue RandomLesson::goodValue(const QString &type, const QString &key)
             .arg(top + 1 + m_random.bounded(400));
     }
     if (key.endsWith("Matrix")) {
-        const char *const matrices[] = {"1,0,0,1,0,0",    "1,0,0,1,10,20", "2,0,0,2,5,5",
-                                        "0,1,-1,0,300,0", "1,0,0.5,1,0,0", "-1,0,0,1,100,0"};
         return anyOf(matrices);
     }
     if (key == "Control") {
@@ -459,7 +386,7 @@ void RandomLesson::addKeys(QJsonObject &object, const QString &type, const QStri
     }
     if (m_isOdd && oneIn(40) && !object.isEmpty()) {
         const QString key = anyOf(object.keys());
-        if (key != "ID" && key != "Type") {
+        if (key != "ID" && key != "Type" && key != "Children") {
             object.insert(key + sameKeyMark, value(type, key));
         }
     }
@@ -541,7 +468,7 @@ QJsonObject RandomLesson::item(bool isForIwb, int depth)
 QJsonObject RandomLesson::slide(bool isForIwb, int number)
 {
     QJsonObject slide{{"ID", QString::number(number)}};
-    addKeys(slide, "slide", listOf(slideKeys), 5);
+    addKeys(slide, "slide", slideKeys, 5);
     QJsonArray items;
     for (int i = 1 + m_random.bounded(7); i > 0; --i) {
         items.append(item(isForIwb, 0));
@@ -553,16 +480,16 @@ QJsonObject RandomLesson::slide(bool isForIwb, int number)
 QJsonObject RandomLesson::lesson(bool isForIwb)
 {
     QJsonObject lesson{{"Version", goodValue({}, "Version")}, {"Width", "1920"}, {"Height", "1080"}};
-    addKeys(lesson, "presentation", listOf(presentationKeys), 4);
+    addKeys(lesson, "presentation", presentationKeys, 4);
     QJsonArray slides;
     for (int i = 1 + m_random.bounded(2); i > 0; --i) {
         slides.append(slide(isForIwb, slides.size() + 1));
     }
     lesson.insert("Slides", slides);
     lesson.insert("Resources",
-                  QJsonObject{{references[0], base64(redPicture())},
-                              {references[1], base64(QByteArray(otherPicture))},
-                              {references[2], base64("Text")}});
+                  QJsonObject{{references.at(0), base64(redPicture())},
+                              {references.at(1), base64(QByteArray(otherPicture))},
+                              {references.at(2), base64("Text")}});
     return lesson;
 }
 

@@ -3,6 +3,7 @@
 #include "randomlesson.h"
 
 #include "formats/conversion.h"
+#include "lesson/itemvalues.h"
 
 #include <QDirIterator>
 #include <QElapsedTimer>
@@ -91,8 +92,8 @@ public:
         if (!isWhole) {
             context.options.insert("plain", {});
         }
-        convertLesson(lessonFormatOfInput(input), input, lessonFormatByName(isWhole ? "iwb" : format), folder() + '/' + to, context,
-                      [](int, int) {});
+        convertLesson(lessonFormatOfInput(input), input, lessonFormatByName(isWhole ? "iwb" : format),
+                      folder() + '/' + to, context, [](int, int) {});
         return losses;
     }
 
@@ -140,7 +141,7 @@ bool isLoss(const Loss &loss)
     return isLoss(loss.kind);
 }
 
-// The key of the item that holds a value, or the place of a value in XML but for the numbers of its steps.
+// The key of the item that holds a value, or the place of a value in XML but for labels and numbers of its steps.
 QString keyOf(const QString &way)
 {
     static const QRegularExpression numbers(
@@ -149,57 +150,48 @@ QString keyOf(const QString &way)
     return isPlace ? QString(way).remove(numbers) : way.section('.', 0, 0).section('[', 0, 0);
 }
 
-bool isOfSameItem(const Loss &loss, const Difference &difference)
+bool isOfSameItem(const Loss &loss, const Owner &owner)
 {
-    const bool isSameItem = loss.itemId.isEmpty() || difference.id.isEmpty()
-        ? loss.itemType == difference.type || (difference.type.isEmpty() && loss.itemId.isEmpty())
-        : loss.itemId == difference.id;
-    return loss.slide == difference.slide && isSameItem;
-}
-
-// Whether a file is named in what was given, which is shown as XML has it or as JSON.
-bool names(const QString &given, const QString &file)
-{
-    const QByteArray json = QJsonDocument(QJsonArray{file}).toJson(QJsonDocument::Compact);
-    return given.contains(file) || given.contains(QString::fromUtf8(json.mid(2).chopped(2)));
+    const bool isSameItem = loss.itemId.isEmpty() || owner.id.isEmpty()
+        ? loss.itemType == owner.type || (owner.type.isEmpty() && loss.itemId.isEmpty())
+        : QString(loss.itemId).remove('\x01') == owner.id;
+    return loss.slide == owner.slide && isSameItem;
 }
 
 // Whether an entry of a report tells of a difference.
 bool tells(const Loss &loss, const Difference &difference)
 {
-    if (!isLoss(loss) || !isOfSameItem(loss, difference)) {
+    if (!isLoss(loss) || !isOfSameItem(loss, difference.owner)) {
         return false;
     }
-    if (loss.kind == Loss::Item || loss.key.isEmpty()) {
-        return true;
-    }
-    if (loss.kind == Loss::File && names(difference.given, loss.key)) {
-        return true;
-    }
+    // A file is named in what was given, which is shown as XML has it or as JSON.
+    const QByteArray file = QJsonDocument(QJsonArray{loss.key}).toJson(QJsonDocument::Compact).mid(2).chopped(2);
+    const bool isNamed = difference.given.contains(loss.key) || difference.given.contains(QString::fromUtf8(file));
     // A container that is taken apart is told by what it was or held.
     const bool isWhole = difference.key.isEmpty() && (loss.key == "Type" || loss.key == "Children");
-    return isWhole || keyOf(loss.key) == keyOf(difference.key);
+    return loss.kind == Loss::Item || loss.key.isEmpty() || (loss.kind == Loss::File && isNamed) || isWhole
+        || keyOf(loss.key) == keyOf(difference.key) || loss.key.startsWith(difference.key + '/');
 }
 
-Difference asDifference(const Loss &loss)
+bool isToldIn(const LossReport &report, const std::function<bool(const Loss &loss)> &isTold)
 {
-    return {loss.slide, loss.itemType, loss.itemId, loss.key, loss.detail, {}};
+    return std::any_of(report.entries().begin(), report.entries().end(), isTold);
 }
 
 const char *const notTheSame = "not the same twice";
 
-using Told = std::function<bool(const Difference &difference)>;
-
-// What differs and isn't told, and what is told and doesn't differ. isToldElsewhere: of differences only.
-QVector<Failure> disagreements(const QString &step, const QVector<Difference> &differences, const LossReport &report,
-                               const Told &isToldElsewhere = {})
+// What differs and isn't told, and what is told and doesn't differ. elsewhere: what also tells of items, or null.
+QVector<Failure> disagreements(const QString &step, const Differences &differences, const LossReport &report,
+                               const LossReport *elsewhere = nullptr)
 {
     QVector<Failure> failures;
     for (const Difference &difference : differences) {
-        const auto &entries = report.entries();
-        const bool isTold = std::any_of(entries.begin(), entries.end(),
-                                        [&difference](const Loss &loss) { return tells(loss, difference); });
-        if (!isTold && !difference.isMinor && !(isToldElsewhere && isToldElsewhere(difference))) {
+        const bool isTold = difference.isMinor
+            || isToldIn(report, [&](const Loss &loss) { return tells(loss, difference); })
+            || (elsewhere && isToldIn(*elsewhere, [&](const Loss &loss) {
+                                return isLoss(loss) && isOfSameItem(loss, difference.owner);
+                            }));
+        if (!isTold) {
             failures.append({step + "lost in silence", difference, report});
         }
     }
@@ -207,10 +199,11 @@ QVector<Failure> disagreements(const QString &step, const QVector<Difference> &d
         const bool isTrue = std::any_of(differences.begin(), differences.end(), [&loss](const Difference &difference) {
             // Of an item that isn't there, everything is lost.
             const bool isGone = difference.key.isEmpty() && difference.found == "nothing";
-            return tells(loss, difference) || (isGone && isOfSameItem(loss, difference));
+            return tells(loss, difference) || (isGone && isOfSameItem(loss, difference.owner));
         });
         if (isLoss(loss) && !isTrue) {
-            failures.append({step + "false alarm", asDifference(loss), report});
+            failures.append(
+                {step + "false alarm", {{loss.slide, loss.itemType, loss.itemId}, loss.key, loss.detail, {}}, report});
         }
     }
     return failures;
@@ -218,20 +211,9 @@ QVector<Failure> disagreements(const QString &step, const QVector<Difference> &d
 
 QVector<Failure> twice(Way &way, const QString &input, const QString &first, const QString &format)
 {
-    QVector<Failure> failures;
     const LossReport report = way.convert(input, "again", format);
-    const auto content = [](const QString &name) {
-        const QString path = Way::folder() + '/' + name;
-        return QFileInfo(path).isDir() ? filesBelow(path) : QMap<QString, QByteArray>{{QString(), fileContent(path)}};
-    };
-    const auto one = content(first);
-    const auto other = content("again");
-    for (auto it = one.begin(); it != one.end(); ++it) {
-        if (other.value(it.key()) != it.value()) {
-            failures.append({notTheSame, {0, {}, {}, it.key(), {}, {}}, report});
-        }
-    }
-    return failures;
+    const bool isSame = contentOfTarget(Way::folder() + '/' + first) == contentOfTarget(Way::folder() + "/again");
+    return isSame ? QVector<Failure>() : QVector<Failure>{{notTheSame, {{}, first, {}, {}}, report}};
 }
 
 // ---- Roads ---------------------------------------------------------------------------------------------------------
@@ -251,18 +233,20 @@ QVector<Failure> judgeModel(const Given &given, const QString &format, Road road
     return failures + disagreements({}, lessonDifferences(given.model, way.model(back), road), report);
 }
 
-QVector<Difference> packageDifferences(const Given &given, const Given &found, const QJsonObject &model)
+Differences packageDifferences(const Given &given, const Given &found, const QJsonObject &model)
 {
-    QVector<Difference> differences = documentDifferences(0, given.documents.value("index.xml").documentElement(),
-                                                          found.documents.value("index.xml").documentElement());
+    const auto root = [](const Given &package, const QString &path) {
+        return package.documents.value(path).documentElement();
+    };
+    const QDomElement index = root(given, "index.xml");
+    Differences differences = documentDifferences(0, index, root(found, "index.xml"));
     const QJsonArray slides = model.value("Slides").toArray();
     int number = 0;
-    for (QDomElement file =
-             given.documents.value("index.xml").documentElement().firstChildElement("slides").firstChildElement("file");
-         !file.isNull(); file = file.nextSiblingElement("file")) {
+    for (QDomElement file = index.firstChildElement("slides").firstChildElement("file"); !file.isNull();
+         file = file.nextSiblingElement("file")) {
         const QString id = slides.at(number++).toObject().value("ID").toString();
-        differences += documentDifferences(number, given.documents.value(file.attribute("href")).documentElement(),
-                                           found.documents.value("slides/" + id + ".xml").documentElement());
+        differences +=
+            documentDifferences(number, root(given, file.attribute("href")), root(found, "slides/" + id + ".xml"));
     }
     return differences;
 }
@@ -281,14 +265,7 @@ QVector<Failure> judgePackage(const Given &given, const QString &format, bool is
         "written: ", lessonDifferences(model, way.model("back.json"), format == "iwb" ? Road::Drawn : Road::Packed),
         writing);
     if (format == "zqtx") {
-        const auto isLostInWriting = [&writing](const Difference &difference) {
-            const auto &entries = writing.entries();
-            return std::any_of(entries.begin(), entries.end(), [&difference](const Loss &loss) {
-                return isLoss(loss) && isOfSameItem(loss, difference);
-            });
-        };
-        failures +=
-            disagreements("read: ", packageDifferences(given, way.package("there"), model), reading, isLostInWriting);
+        failures += disagreements("read: ", packageDifferences(given, way.package("there"), model), reading, &writing);
     }
     return failures;
 }
@@ -322,114 +299,52 @@ Given randomRaw(quint32 seed)
     return given;
 }
 
-// A place of raw XML and what it says.
-struct RawPlace
+// What the model says otherwise than a raw element, whose texts become values by their ways.
+void compareRaw(const Owner &owner, const QDomElement &element,
+                const std::function<bool(const QDomElement &child)> &isOther,
+                const std::function<QJsonValue(const QString &way, const QString &text)> &valueOf,
+                const QStringList &guessedWays, Differences &differences)
 {
-    QJsonArray path;
-    QString text;
-    bool isText; // of the element, else of its attribute
-
-    // "data/rect@points" of an attribute, "data/note" of a text.
-    QString way() const
-    {
-        QStringList steps;
-        for (const QJsonValue &step : path) {
-            steps.append(step.toString());
-        }
-        const QString last = (isText ? "" : "@") + (isText ? QString() : steps.takeLast());
-        return steps.join('/') + last;
-    }
-};
-
-QJsonArray stepTo(QJsonArray path, const QString &name)
-{
-    path.append(name);
-    return path;
-}
-
-void collectPlaces(const QDomElement &element, const QJsonArray &path, QVector<RawPlace> &places)
-{
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        places.append({stepTo(path, attributes.item(i).nodeName()), attributes.item(i).nodeValue(), false});
-    }
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QJsonArray inner = stepTo(path, child.tagName());
-        // What is in a group's first is looked at item by item.
-        const bool holdsItems = path.isEmpty() && child == element.firstChildElement("GroupSonItems");
-        collectPlaces(holdsItems ? child.cloneNode(false).toElement() : child, inner, places);
-        if (!holdsItems && child.firstChildElement().isNull()
-            && (child.hasChildNodes() || child.attributes().isEmpty())) {
-            places.append({inner, child.text(), true});
+    Texts texts;
+    collectTexts(element, {}, isOther, texts);
+    for (auto it = texts.begin(); it != texts.end(); ++it) {
+        const QString way = withoutNumbers(it.key());
+        const QString text = it.value().first();
+        const QJsonValue value = valueOf(way, text);
+        const QString key = way.section('@', -1);
+        const Rest rest = restOf(key, text, value, Road::Packed);
+        // What is there twice may be told once, and a group has a list, be it empty.
+        if (rest != Rest::All || way != it.key() || (text.isEmpty() && way != "GroupSonItems")) {
+            const bool isMinor = rest != Rest::Less || text.isEmpty() || guessedWays.contains(way);
+            differences.append({owner, way, text, toText(QJsonObject{{key, value}}), isMinor});
         }
     }
 }
 
-QString keyOfPlace(const QJsonObject &keyPlaces, const QJsonArray &place)
+// Attributes of a raw slide or presentation bear the names of their keys; elements that are no slides have none.
+void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonObject &found, Differences &differences)
 {
-    for (auto it = keyPlaces.constBegin(); it != keyPlaces.constEnd(); ++it) {
-        if (it.value().toArray() == place) {
-            return it.key();
-        }
-    }
-    return {};
-}
-
-QVector<double> numbersIn(const QString &text)
-{
-    QVector<double> numbers;
-    const QStringList parts = text.split(',');
-    for (const QString &part : parts) {
-        bool isNumber = false;
-        numbers.append(part.toDouble(&isNumber));
-        if (!isNumber || !std::isfinite(numbers.last())) {
-            return {};
-        }
-    }
-    return numbers;
-}
-
-// The alpha of a raw page's colour doesn't count.
-QString withoutAlpha(const QString &color)
-{
-    return numbersIn(color).size() == 4 ? color.section(',', 1) : color;
-}
-
-// What the model says otherwise than the attributes of a raw slide or presentation of the same names, and elements of
-// the presentation that are no slides.
-void rawPropertyDifferences(int slide, const QDomElement &element, const QJsonObject &found,
-                            QVector<Difference> &differences)
-{
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QString name = attributes.item(i).nodeName();
-        const QString key = name == "NetID" ? "ID" : name;
-        const QString text = attributes.item(i).nodeValue();
-        const QString meant = key == "BackColor" ? withoutAlpha(text) : text;
-        if (!isSameInModel(key, meant, found.value(key), Road::Kept)) {
-            // References get the lesson's own folder.
-            differences.append({slide, element.tagName(), element.attribute("NetID"), '@' + name, text,
-                                toText(QJsonObject{{key, found.value(key)}}), name == "AttachFile"});
-        }
-    }
-    QVector<RawPlace> places;
-    for (QDomElement child = element.firstChildElement(); slide == 0 && !child.isNull();
-         child = child.nextSiblingElement()) {
-        if (child.tagName() != "slide") {
-            collectPlaces(child, {child.tagName()}, places);
-            places.append({{child.tagName()}, child.text(), true});
-        }
-    }
-    for (const RawPlace &place : qAsConst(places)) {
-        differences.append({slide, element.tagName(), {}, place.way(), place.text, {}, place.text.isEmpty()});
-    }
+    const auto isPart = [](const QDomElement &child) {
+        return child.tagName() == "slide" || child.parentNode().toElement().tagName() == "slide";
+    };
+    const auto valueOf = [&found](const QString &way, const QString &text) -> QJsonValue {
+        const QString key = way == "@NetID" ? QString("ID") : way.section('@', 1);
+        const QJsonValue value = found.value(key);
+        // The alpha of a raw page's colour doesn't count.
+        const bool isOpaque =
+            key == "BackColor" && restOf(key, text.section(',', -3), value, Road::Packed) != Rest::Less;
+        return isOpaque ? QJsonValue(text) : way.startsWith('@') ? value : QJsonValue(QJsonValue::Undefined);
+    };
+    // References get the lesson's own folder.
+    compareRaw({slide, element.tagName(), element.attribute("NetID")}, element, isPart, valueOf, {"@AttachFile"},
+               differences);
 }
 
 // The number of a list that a control point goes into, in single precision, or what the item has under the same name.
-bool isSameControl(const QString &name, const QString &text, const QJsonObject &item)
+bool isSameControl(const QString &way, const QString &text, const QJsonObject &item)
 {
-    static const QRegularExpression control("^Discipline_([xy])Control(0|[1-9][0-9]*)$");
-    const QRegularExpressionMatch match = control.match(name);
+    static const QRegularExpression control("^@Discipline_([xy])Control(0|[1-9][0-9]*)$");
+    const QRegularExpressionMatch match = control.match(way);
     bool isNumber = false;
     const float number = text.toFloat(&isNumber);
     const int place = 2 * match.captured(2).toInt() + (match.captured(1) == "y" ? 1 : 0);
@@ -439,112 +354,100 @@ bool isSameControl(const QString &name, const QString &text, const QJsonObject &
 
 std::optional<QTransform> matrixIn(const QString &text)
 {
-    const QVector<double> n = numbersIn(text.isNull() ? "1,0,0,1,0,0" : text);
-    return n.size() == 6 ? std::optional<QTransform>({n[0], n[1], n[2], n[3], n[4], n[5]}) : std::nullopt;
+    const auto n = wholeNumbers(text.isNull() ? QString("1,0,0,1,0,0") : text);
+    return n && n->size() == 6 ? std::optional<QTransform>({n->at(0), n->at(1), n->at(2), n->at(3), n->at(4), n->at(5)})
+                               : std::nullopt;
 }
 
-bool isNear(const QTransform &one, const QTransform &other)
+bool areNear(const QPolygonF &one, const QPolygonF &other, double tolerance)
 {
-    const QVector<QPointF> corners{{0, 0}, {1000, 0}, {0, 1000}};
-    for (const QPointF &corner : corners) {
-        if (QLineF(one.map(corner), other.map(corner)).length() > 0.05) {
-            return false;
-        }
-    }
-    return true;
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [tolerance](QPointF a, QPointF b) {
+        return QLineF(a, b).length() <= tolerance * (1 + qAbs(a.x()) + qAbs(a.y()));
+    });
 }
 
 // The attribute by which an item stands elsewhere than the raw one did; empty where it stands where it stood, or where
 // its place is no box under a matrix.
 QString misplacedBy(const QDomElement &element, const QJsonObject &keyPlaces, const QJsonObject &item)
 {
-    const QVector<double> bound = numbersIn(element.attribute("Bound"));
-    const QVector<double> box = numbersIn(item.value("BoundingBox").toString());
+    const auto bound = wholeNumbers(element.attribute("Bound"));
+    const auto box = wholeNumbers(item.value("BoundingBox").toString());
     const auto own = matrixIn(element.attribute("TransformMatrix", QString()));
     const auto fit = matrixIn(item.value("SlideMatrix").toString(QString()));
     const auto matrix = matrixIn(item.value("Matrix").toString(QString()));
     // Vector shapes and figures have a matrix of their own in many attributes.
     const bool hasInner = element.tagName().startsWith("ZQVector") || element.tagName().startsWith("ZQShape");
     if (hasInner || keyPlaces.value("Matrix").toArray() != QJsonArray{"TransformMatrix"} || !own || !fit || !matrix
-        || bound.size() != 6 || bound[2] != 0 || bound[3] != 0) {
+        || !bound || bound->size() != 6 || bound->at(2) != 0 || bound->at(3) != 0) {
         return {};
     }
     const QTransform onPage = *own * *fit;
-    if (!isNear(onPage, *matrix) && (!matrix->isIdentity() || box.size() != 4)) {
+    const QPolygonF page(QRectF(0, 0, 1000, 1000));
+    const bool isFolded = !areNear(onPage.map(page), matrix->map(page), 2e-5);
+    const bool hasBox = box && box->size() == 4;
+    const QPolygonF given(QRectF({bound->at(4), bound->at(5)}, QPointF(bound->at(0), bound->at(1))));
+    const QPolygonF found(hasBox ? QRectF({box->at(0), box->at(1)}, QPointF(box->at(2), box->at(3))) : QRectF());
+    if (isFolded && (!matrix->isIdentity() || !hasBox)) {
         return "@TransformMatrix";
     }
-    const QRectF given({bound[4], bound[5]}, QPointF(bound[0], bound[1]));
-    const QRectF found = box.size() == 4 ? QRectF({box[0], box[1]}, QPointF(box[2], box[3])) : QRectF();
-    const bool isFolded = !isNear(onPage, *matrix);
-    const QPolygonF before = isFolded ? onPage.map(QPolygonF(given)) : QPolygonF(given);
-    const QPolygonF after(found);
-    for (int i = 0; i < before.size(); ++i) {
-        const double size = 1 + qAbs(before[i].x()) + qAbs(before[i].y());
-        if (QLineF(before[i], after[i]).length() > 1e-4 * size) {
-            return isFolded ? "@TransformMatrix" : "@Bound";
-        }
-    }
-    return {};
-}
-
-// The last value of a key in a list of records.
-QJsonValue valueInList(const QJsonValue &list, const QString &key)
-{
-    QJsonValue value;
-    const QJsonArray records = list.toArray();
-    for (const QJsonValue &record : records) {
-        value = record.toObject().contains(key) ? record.toObject().value(key) : value;
-    }
-    return value;
+    const bool isThere = areNear(isFolded ? onPage.map(given) : given, found, 1e-4);
+    return isThere ? QString() : isFolded ? "@TransformMatrix" : "@Bound";
 }
 
 // What the model says otherwise than the raw item did. Where an item stands is worked out from several values.
 void rawDifferences(int slide, const QDomElement &element, const QMultiHash<QString, QJsonObject> &items,
-                    QVector<Difference> &differences)
+                    Differences &differences)
 {
     static const QStringList workedOut{"BoundingBox",        "Matrix",     "SlideMatrix",    "Control",
                                        "Discipline_xCreate", "Angle",      "MultiMediaFile", "Discipline_yCreate",
                                        "StartAngle",         "SweepAngle", "WordHide"};
-    const QString id = element.attribute("NetID");
+    const Owner owner{slide, element.tagName(), element.attribute("NetID")};
     QVector<QJsonObject> found;
-    for (const QJsonObject &other : items.values(id)) {
-        if (other.value("Type") == element.tagName()) {
+    for (const QJsonObject &other : items.values(owner.id)) {
+        if (other.value("Type") == owner.type) {
             found.append(other);
         }
     }
     const QJsonObject item = found.value(0);
-    QVector<RawPlace> places;
-    collectPlaces(element, {}, places);
-    const bool isKept = item.isEmpty() || item.contains("KeptXml");
-    QVector<QJsonArray> seen;
-    const QJsonObject keyPlaces = isKept ? QJsonObject() : rawPlacesOf(element.tagName());
-    for (const RawPlace &place : qAsConst(places)) {
-        const QString known = keyOfPlace(keyPlaces, place.path);
-        const QString last = place.path.last().toString();
-        const QString list = place.path.first().toString();
-        // An attribute of the item that is no place bears the name of a key or none.
-        const QString key = known.isEmpty() ? last : known;
-        // What the list's element itself says is in none of its records.
-        const bool isInList = list == "PixelDeleteInfos" && place.path.size() > 2;
-        const QJsonValue value = isInList              ? valueInList(item.value(list), key)
-            : known.isEmpty() && place.path.size() > 1 ? QJsonValue(QJsonValue::Undefined)
-                                                       : item.value(key);
-        const bool isSame = isSameInModel(key, place.text, value, known.isEmpty() ? Road::Kept : Road::Packed)
-            || (place.path.size() == 1 && isSameControl(last, place.text, item));
-        // What is there twice may be told once.
-        const bool isRepeated = seen.contains(place.path);
-        const bool isMinor = isSame || place.text.isEmpty() || workedOut.contains(key) || found.size() > 1;
-        seen.append(place.path);
-        if (!isKept && (!isSame || isRepeated || place.text.isEmpty())) {
-            differences.append(
-                {slide, element.tagName(), id, place.way(), place.text, toText(QJsonObject{{key, value}}), isMinor});
+    const QDomElement sons = element.firstChildElement("GroupSonItems");
+    if (!item.isEmpty() && !item.contains("KeptXml")) {
+        const QJsonObject keyPlaces = rawPlacesOf(owner.type);
+        QHash<QString, QString> keys; // by their ways
+        QStringList guessed;
+        for (auto it = keyPlaces.begin(); it != keyPlaces.end(); ++it) {
+            QStringList steps = it.value().toVariant().toStringList();
+            const QString name = '@' + steps.takeLast();
+            keys.insert(steps.join('/') + name, it.key());
+        }
+        for (const QString &key : workedOut) {
+            guessed.append(keys.key(key));
+            guessed.append('@' + key);
+        }
+        const auto isSon = [&sons](const QDomElement &child) { return child.parentNode() == sons; };
+        // An attribute of the item that is no place bears the name of a key or none. What the element of a list itself
+        // says is in none of its records.
+        const auto valueOf = [&](const QString &way, const QString &text) -> QJsonValue {
+            const QString name = way.section('@', -1);
+            const QJsonArray records = item.value("PixelDeleteInfos").toArray();
+            QJsonValue value(QJsonValue::Undefined);
+            if (keys.contains(way) || way.startsWith('@')) {
+                value = isSameControl(way, text, item) ? QJsonValue(text) : item.value(keys.value(way, name));
+            } else if (way.startsWith("PixelDeleteInfos/") && !records.isEmpty()) {
+                for (const QJsonValue &record : records) {
+                    value = record.toObject().contains(name) ? record.toObject().value(name) : value;
+                }
+            }
+            return value;
+        };
+        const int before = differences.size();
+        compareRaw(owner, element, isSon, valueOf, guessed, differences);
+        const QString misplaced = misplacedBy(element, keyPlaces, item);
+        if (found.size() > 1) {
+            std::for_each(differences.begin() + before, differences.end(), [](Difference &d) { d.isMinor = true; });
+        } else if (!misplaced.isEmpty()) {
+            differences.append({owner, misplaced, "a place", "another"});
         }
     }
-    const QString misplaced = isKept || found.size() > 1 ? QString() : misplacedBy(element, keyPlaces, item);
-    if (!misplaced.isEmpty()) {
-        differences.append({slide, element.tagName(), id, misplaced, "a place", "another"});
-    }
-    const QDomElement sons = element.firstChildElement("GroupSonItems");
     for (QDomElement son = sons.firstChildElement(); !son.isNull(); son = son.nextSiblingElement()) {
         rawDifferences(slide, son, items, differences);
     }
@@ -565,7 +468,7 @@ QVector<Failure> judgeRaw(const Given &given, bool isTwice)
     const LossReport reading = way.convert(input, "model.json", "json");
     QVector<Failure> failures = isTwice ? twice(way, input, "model.json", "json") : QVector<Failure>();
     const QJsonObject model = way.model("model.json");
-    QVector<Difference> differences;
+    Differences differences;
     const QJsonArray slides = model.value("Slides").toArray();
     int number = 0;
     rawPropertyDifferences(0, given.documents.first().documentElement(), model, differences);
@@ -593,8 +496,7 @@ QVector<Failure> judgeRawPackage(const Given &given, bool isTwice)
     way.convertBack("there", "back.json", "json");
     LossReport writing;
     for (const Loss &loss : both.entries()) {
-        const auto &entries = reading.entries();
-        const bool isOfReading = std::any_of(entries.begin(), entries.end(), [&loss](const Loss &other) {
+        const bool isOfReading = isToldIn(reading, [&loss](const Loss &other) {
             return loss.slide == other.slide && loss.itemId == other.itemId && loss.key == other.key;
         });
         if (!isOfReading) {
@@ -633,40 +535,22 @@ const QVector<Road_> &roads()
 // value is within is counted before it.
 bool takeAway(QJsonValue &value, int &number)
 {
-    const auto inner = [&number](QJsonValueRef part) {
-        QJsonValue changed = part;
-        const bool isDone = takeAway(changed, number);
-        part = changed;
-        return isDone;
-    };
-    if (value.isObject()) {
-        QJsonObject object = value.toObject();
-        const QStringList keys = object.keys();
-        for (const QString &key : keys) {
-            // Without these, failures are hard to place.
-            if (key != "ID" && key != "Type" && number-- == 0) {
-                object.remove(key);
-                value = object;
-                return true;
-            }
-            if (inner(object[key])) {
-                value = object;
-                return true;
-            }
+    QJsonObject object = value.toObject();
+    QJsonArray array = value.toArray();
+    const QStringList keys = object.keys();
+    for (int i = 0; i < keys.size() + array.size(); ++i) {
+        const QString key = keys.value(i);
+        QJsonValue inner = value.isArray() ? array.at(i) : object.value(key);
+        // Without these, failures are hard to place.
+        if (key != "ID" && key != "Type" && number-- == 0) {
+            value.isArray() ? array.removeAt(i) : object.remove(key);
+        } else if (takeAway(inner, number)) {
+            value.isArray() ? array.replace(i, inner) : void(object.insert(key, inner));
+        } else {
+            continue;
         }
-    } else if (value.isArray()) {
-        QJsonArray array = value.toArray();
-        for (int i = 0; i < array.size(); ++i) {
-            if (number-- == 0) {
-                array.removeAt(i);
-                value = array;
-                return true;
-            }
-            if (inner(array[i])) {
-                value = array;
-                return true;
-            }
-        }
+        value = value.isArray() ? QJsonValue(array) : object;
+        return true;
     }
     return false;
 }
@@ -737,18 +621,8 @@ QVector<Failure> judged(const Road_ &road, const Given &given, bool isTwice)
     } catch (const LessonError &) {
         return {};
     } catch (const std::runtime_error &error) {
-        return {{"what was written can't be read", {0, {}, {}, {}, error.what(), {}}, {}}};
+        return {{"what was written can't be read", {{}, {}, error.what(), {}}, {}}};
     }
-}
-
-std::optional<Failure> failureLike(const QString &signature, const QVector<Failure> &failures)
-{
-    for (const Failure &failure : failures) {
-        if (signatureOf(failure) == signature) {
-            return failure;
-        }
-    }
-    return std::nullopt;
 }
 
 Given smallest(const Road_ &road, Given given, Failure &failure)
@@ -760,8 +634,10 @@ Given smallest(const Road_ &road, Given given, Failure &failure)
         if (!takeAway(smaller, number)) {
             break;
         }
-        const auto found = failureLike(signature, judged(road, smaller, failure.kind == notTheSame));
-        if (found) {
+        const QVector<Failure> failures = judged(road, smaller, failure.kind == notTheSame);
+        const auto found = std::find_if(failures.begin(), failures.end(),
+                                        [&](const Failure &other) { return signatureOf(other) == signature; });
+        if (found != failures.end()) {
             given = smaller;
             failure = *found;
         } else {
@@ -783,20 +659,11 @@ QString textOf(const Given &given)
 QString described(const Failure &failure, const Given &given)
 {
     const Difference &difference = failure.difference;
-    QString text = failure.kind + ": slide " + QString::number(difference.slide) + ", " + difference.type + ' '
-        + difference.id + ", key \"" + difference.key + "\": given " + difference.given + ", found " + difference.found
-        + "\nreport:";
-    for (const Loss &loss : failure.report.entries()) {
-        text += "\n  "
-            + QString::fromUtf8(QJsonDocument(QJsonObject{{"kind", loss.kind},
-                                                          {"slide", loss.slide},
-                                                          {"type", loss.itemType},
-                                                          {"id", loss.itemId},
-                                                          {"key", loss.key},
-                                                          {"detail", loss.detail}})
-                                    .toJson(QJsonDocument::Compact));
-    }
-    return text + "\nlesson: " + textOf(given);
+    const Owner &owner = difference.owner;
+    const QByteArray report = QJsonDocument(failure.report.toJson()).toJson(QJsonDocument::Compact);
+    return failure.kind + ": slide " + QString::number(owner.slide) + ", " + owner.type + ' ' + owner.id + ", key \""
+        + difference.key + "\": given " + difference.given + ", found " + difference.found
+        + "\nreport: " + QString::fromUtf8(report) + "\nlesson: " + textOf(given);
 }
 
 int setting(const char *name, int usual)
@@ -841,13 +708,9 @@ private slots:
         int seed = first;
         for (; !timer.hasExpired(time) && found.size() < most; ++seed) {
             Given given;
-            try {
-                given = way.begin(quint32(seed));
-            } catch (const LessonError &) {
-                continue;
-            }
             QVector<Failure> failures;
             try {
+                given = way.begin(quint32(seed));
                 failures = way.judge(given, seed % 8 == 0);
                 ++converted;
             } catch (const LessonError &) {
