@@ -12,6 +12,13 @@
 
 namespace {
 
+// Sanitizers take many times as long: a part of what is large will do for them, which meets none of the bounds.
+#ifdef WITH_SANITIZERS
+constexpr int part = 50;
+#else
+constexpr int part = 1;
+#endif
+
 const QByteArray goodIndex = "<main version=\"3.0\" width=\"800\" height=\"600\" title=\"Good\"><slides>"
                              "<file href=\"slides/1.xml\"/></slides></main>";
 const QByteArray goodSlide = "<slide id=\"1\"><items/></slide>";
@@ -127,19 +134,15 @@ private slots:
             {{"a.png", "x", false, 0, {}, 0x7fffffff, 0x7fffffff},
              {"b.png", "x", false, 0, {}, 0x7fffffff, 0x7fffffff}},
             "more than 2 GiB");
-        QVector<ZipEntry> many(100001, {QByteArray(), QByteArray(), false});
-        for (int i = 0; i < many.size(); ++i) {
-            many[i].name = 'a' + QByteArray::number(i);
-        }
-        row("100,001 entries", many, "");
+        row("100,001 entries", QVector<ZipEntry>(100001 / part, {"a", {}, false}),
+            part == 1 ? "more than 100000 entries" : "twice");
         archive("nothing", "", "no zip archive");
         archive("only an end", zipText({}), "no such file");
     }
 
     void refusesArchives()
     {
-        QFETCH(QByteArray, archive);
-        QFETCH(QString, words);
+        const auto [archive, words] = Table<QByteArray, QString>::cells();
         putFile(path("in.zqtx"), archive);
         const QString message = read(path("in.zqtx"));
         QVERIFY(!message.isEmpty());
@@ -156,18 +159,18 @@ private slots:
         row("64 bits", zipText(entries, true), 0);
         row("64 bits behind a program", program + zipText(entries, true), 0);
         // Pictures that are white, and silence.
-        entries.append({"images/white.bmp", QByteArray(6 * 1024 * 1024, '\xff')});
+        entries.append({"images/white.bmp", QByteArray(6 * 1024 * 1024 / part, '\xff')});
         row("white picture", zipText(entries), 1);
-        for (int i = 0; i < 0x10000; ++i) {
+        const int many = 0x10000 / part;
+        for (int i = 0; i < many; ++i) {
             entries.append({"x/" + QByteArray::number(i), {}, false});
         }
-        row("more than 65,535 entries", zipText(entries, true), 0x10001);
+        row("more than 65,535 entries", zipText(entries, true), many + 1);
     }
 
     void readsUnusualArchives()
     {
-        QFETCH(QByteArray, archive);
-        QFETCH(int, files);
+        const auto [archive, files] = Table<QByteArray, int>::cells();
         putFile(path("in.zqtx"), archive);
         const auto reader = openLesson(path("in.zqtx"));
         QCOMPARE(reader->presentation().value("Title").toString(), "Good");
@@ -220,8 +223,7 @@ private slots:
 
     void resolvesNothing()
     {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, content);
+        const auto [file, content] = Table<QString, QByteArray>::cells();
         putFile(path("in/index.xml"), goodIndex);
         putFile(path("in/slides/1.xml"), goodSlide);
         putFile(path("in-secret.txt"), "secret");
@@ -255,8 +257,7 @@ private slots:
 
     void readsEncodings()
     {
-        QFETCH(QByteArray, index);
-        QFETCH(bool, isRead);
+        const auto [index, isRead] = Table<QByteArray, bool>::cells();
         putFile(path("in/index.xml"), index);
         putFile(path("in/slides/1.xml"), goodSlide);
         QJsonObject presentation;
@@ -271,14 +272,10 @@ private slots:
 
     void boundsWhatADocumentHolds_data()
     {
-#ifdef WITH_SANITIZERS
-        QSKIP("documents of this size are read without sanitizers");
-#endif
         const Table<QString, QByteArray, QString> row("file", "content", "words");
         const auto many = [](const char *before, const char *behind, int count) {
             QByteArray text;
-            text.reserve(count * (qstrlen(before) + qstrlen(behind) + 8)); // sanitizers move what grows each time
-            for (int i = 0; i < count; ++i) {
+            for (int i = 0; i < count / part; ++i) {
                 text += before + QByteArray::number(i) + behind;
             }
             return text;
@@ -293,7 +290,7 @@ private slots:
         row("deep JSON objects", "in.json", QByteArray("{\"Slides\": [{\"a\": " + nested("{\"a\":", "}", deep) + "}]}"),
             "deeper");
 
-        const QByteArray large(30 * 1024 * 1024, 'a');
+        const QByteArray large(30 * 1024 * 1024 / part, 'a');
         row("attribute of 30 MiB", "in/slides/1.xml",
             QByteArray("<slide id=\"1\" name=\"" + large + "\"><items/></slide>"), "");
         row("30 MiB of an item", "in/slides/1.xml",
@@ -306,8 +303,8 @@ private slots:
             QByteArray("{\"Slides\": [{\"a\": \"") + QByteArray(33 * 1024 * 1024, ' ') + "\"}]}",
             "no slide may take more");
         row("100,001 items in a slide", "in/slides/1.xml",
-            QByteArray("<slide><items>" + QByteArray("<a/>").repeated(100001) + "</items></slide>"),
-            "no slide may have more");
+            QByteArray("<slide><items>" + QByteArray("<a/>").repeated(100001 / part) + "</items></slide>"),
+            part == 1 ? "no slide may have more" : "");
         row("100,001 items in a group", "in.json",
             QByteArray("{\"Slides\": [{\"Items\": [{\"Children\": [" + QByteArray("{},").repeated(99999) + "{}]}]}]}"),
             "no slide may have more");
@@ -317,10 +314,12 @@ private slots:
         row("300,000 keys of a presentation", "in.json", QByteArray("{" + keys + "\"Slides\": []}"), "");
         row("300,000 keys around something deep", "in.json",
             QByteArray("{\"Slides\": [{\"a\": {" + keys + "\"d\": " + nested("[", "]", 1200) + "}}]}"), "");
+        const char *const memory = part == 1 ? "memory" : "";
         row("a million elements with values", "in/slides/1.xml",
-            QByteArray("<slide>" + QByteArray("<a b=\"\"/>").repeated(1000000) + "</slide>"), "memory");
+            QByteArray("<slide>" + QByteArray("<a b=\"\"/>").repeated(1000000 / part) + "</slide>"), memory);
         row("a million values in a raw lesson", "in.xml",
-            QByteArray("<presentation>" + QByteArray("<a b='' c=''/>").repeated(500000) + "</presentation>"), "memory");
+            QByteArray("<presentation>" + QByteArray("<a b='' c=''/>").repeated(500000 / part) + "</presentation>"),
+            memory);
 
         const QByteArray values = many(" a", "=\"\"", 1000000);
         const QByteArray wide = "<slide id=\"1\"><b" + values + "/></slide>";
@@ -338,7 +337,7 @@ private slots:
         row("attributes declared", "in/slides/1.xml", QByteArray("<!DOCTYPE slide [" + declarations + "]><slide/>"),
             "document type");
         row("a million elements", "in/slides/1.xml",
-            QByteArray("<slide>" + QByteArray("<a/>").repeated(1000000) + "</slide>"), "");
+            QByteArray("<slide>" + QByteArray("<a/>").repeated(1000000 / part) + "</slide>"), "");
         // What is carried is looked for name by name, place by place and level by level.
         const auto stroke = [](const QByteArray &attributes, const QByteArray &children) -> QByteArray {
             return "<slide id=\"1\"><items><stroke type=\"Curve\" id=\"1\"" + attributes + ">" + children
@@ -363,9 +362,7 @@ private slots:
 
     void boundsWhatADocumentHolds()
     {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, words);
+        const auto [file, content, words] = Table<QString, QByteArray, QString>::cells();
         putFile(path("in/index.xml"), goodIndex);
         putFile(path("in/slides/1.xml"), goodSlide);
         putFile(m_folder->filePath(file), content);

@@ -1,16 +1,15 @@
 #include "ziptext.h"
 
+#include <QtEndian>
+
 namespace {
 
 constexpr qint64 elsewhere = 0xffffffff; // the number stands in another place, with 64 bits
 
 QByteArray number(qint64 value, int size)
 {
-    QByteArray bytes;
-    for (int i = 0; i < size; ++i) {
-        bytes.append(char(value >> (8 * i)));
-    }
-    return bytes;
+    const qint64 bytes = qToLittleEndian(value);
+    return QByteArray(reinterpret_cast<const char *>(&bytes), size);
 }
 
 quint32 checksum(const QByteArray &bytes)
