@@ -67,6 +67,15 @@ QString toText(const QDomElement &element)
 
 QJsonObject json(const QByteArray &text)
 {
+    if (!text.startsWith('{')) {
+        QJsonObject members;
+        const QStringList parts = QString::fromUtf8(text).split(' ');
+        for (const QString &part : parts) {
+            const QString value = part.section('=', 1);
+            members.insert(part.section('=', 0, 0), value == "null" ? QJsonValue() : value);
+        }
+        return members;
+    }
     QJsonParseError error{};
     const auto document = QJsonDocument::fromJson(QByteArray(text).replace('\'', '"'), &error);
     if (!document.isObject()) {

@@ -86,9 +86,7 @@ private slots:
     }
     void readsPictures()
     {
-        QFETCH(QString, templet);
-        QFETCH(QString, key);
-        QFETCH(QString, expected);
+        const auto [templet, key, expected] = Table<QString, QString, QString>::cells();
         const QJsonObject activity = readActivity("<activity><templet %1</templet></activity>"_s.arg(templet));
         QJsonValue value = activity.value("templet");
         const QStringList keys = key.split('/');
@@ -104,7 +102,7 @@ private slots:
         QDir::setSearchPaths("imageDir"_s, {});
         const QJsonObject activity = readActivity("<activity><templet><board pic='a'/></templet></activity>");
         QCOMPARE(toText(activity.value("templet").toObject()),
-                 toText(json("{'index':'','background':'','backgroundx2':'','board':'a'}")));
+                 toText(json("index= background= backgroundx2= board=a")));
     }
 
     void writesPictures_data()
@@ -131,9 +129,7 @@ private slots:
     }
     void writesPictures()
     {
-        QFETCH(QString, activity);
-        QFETCH(QString, path);
-        QFETCH(QString, expected);
+        const auto [activity, path, expected] = Table<QString, QString, QString>::cells();
         const QDomElement templet = writtenActivity(json(withData("{" + activity + "}"))).firstChildElement();
         const QDomElement element = templet.firstChildElement(path.section('@', 0, 0));
         const QString attribute = path.section('@', 1);
@@ -187,10 +183,7 @@ private slots:
     }
     void convertsEntries()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, read);
-        QFETCH(QJsonObject, entries);
-        QFETCH(QString, written);
+        const auto [type, read, entries, written] = Table<QString, QString, QJsonObject, QString>::cells();
         const QJsonObject activity =
             readActivity("<activity type='%1'><matchs>%2</matchs></activity>"_s.arg(type, read));
         const QString matchs = "matchs"_s;

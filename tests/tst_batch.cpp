@@ -292,8 +292,7 @@ private slots:
 
     void refuses()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, message);
+        const auto [arguments, message] = Table<QStringList, QString>::cells();
         putLesson("in/a.json");
         putLesson("other/a.json", "Another");
         QDir().mkpath(path("empty"));

@@ -109,8 +109,7 @@ private slots:
 
     void completionIsReadByTheShells()
     {
-        QFETCH(QString, shell);
-        QFETCH(QString, option);
+        const auto [shell, option] = Table<QString, QString>::cells();
         if (QStandardPaths::findExecutable(shell).isEmpty()) {
             QSKIP("The shell isn't installed");
         }

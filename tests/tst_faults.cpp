@@ -164,8 +164,7 @@ private slots:
 
     void missesInputsThatGo()
     {
-        QFETCH(QString, input);
-        QFETCH(QString, named);
+        const auto [input, named] = Table<QString, QString>::cells();
         QCOMPARE(convert("old.json", input).exitCode, 0);
         const auto reader = openLesson(path(input));
         QCOMPARE(reader->slideCount(), 3);

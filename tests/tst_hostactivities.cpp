@@ -84,9 +84,7 @@ private slots:
     // Three trips, each into a document that is the same.
     void picturesDontDrift()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, templet);
-        QFETCH(QString, written);
+        const auto [type, templet, written] = Table<QString, QString, QString>::cells();
         QJsonObject look = json(withData("{" + templet + "}"));
         look.insert("backgroundx2", "");
         QString file = lessonWith({{"type", type}, {"templet", look}});

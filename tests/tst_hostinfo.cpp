@@ -34,8 +34,7 @@ private slots:
 
     void counts()
     {
-        QFETCH(QString, lesson);
-        QFETCH(QJsonObject, expected);
+        const auto [lesson, expected] = Table<QString, QJsonObject>::cells();
         const CommandProcess::Outcome outcome = runCommand({"info", EXAMPLES_DIR "/"_s + lesson, "--json"});
         QCOMPARE(outcome.exitCode, 0);
         const QJsonObject told = QJsonDocument::fromJson(outcome.output.toUtf8()).object();

@@ -99,9 +99,7 @@ private slots:
 
     void saysWhatIsWrong()
     {
-        QFETCH(QString, input);
-        QFETCH(QStringList, words);
-        QFETCH(Files, files);
+        const auto [input, words, files] = Table<QString, QStringList, Files>::cells();
         putFile(path("out.zqtx"), "the lesson of yesterday");
         for (const auto &file : qAsConst(files)) {
             putFile(path(file.first), file.second);
@@ -131,9 +129,7 @@ private slots:
 
     void refusesStrangersInAFolder()
     {
-        QFETCH(QString, document);
-        QFETCH(QByteArray, stranger);
-        QFETCH(QString, words);
+        const auto [document, stranger, words] = Table<QString, QByteArray, QString>::cells();
         putFile(path("secret.png"), "secret");
         putFile(path("in/index.xml"), "<main/>");
         putFile(path("in/content.xml"),
@@ -271,8 +267,7 @@ private slots:
 
     void refusesTargets()
     {
-        QFETCH(QString, output);
-        QFETCH(QString, words);
+        const auto [output, words] = Table<QString, QString>::cells();
         putFile(path("in.json"), R"({"Slides": []})");
         putFile(path("folder.json/keep.txt"), "keep");
         putFile(path("mine/diary.txt"), "keep");

@@ -41,17 +41,16 @@ private slots:
         row("nested items that nobody knows",
             "{'Type':'ZQGroupItem','Children':[{'Type':'x','KeptXml':'<a type=\\'x\\'><b>c</b></a>'},"
             "{'Type':'ZQSmoothStroke','ID':'2'},{'Type':'ZQFuture','ID':'3','Wings':[1,2]}]}");
-        row("box of a version 2 group", "{'Version':'2.0','Type':'ZQGroupItem','BoundingBox':'1,2,3,4'}");
-        row("steps of an old stroke",
-            "{'Version':'2.9','Type':'ZQSmoothStroke','XY':'1000.12,-3,0.333313,0.25,-0.666687,1e+06'}");
+        row("box of a version 2 group", "Version=2.0 Type=ZQGroupItem BoundingBox=1,2,3,4");
+        row("steps of an old stroke", "Version=2.9 Type=ZQSmoothStroke XY=1000.12,-3,0.333313,0.25,-0.666687,1e+06");
         row("blanks alone",
             "{'Type':'ZQQuestionItem','R_Content_svg':'  ','R_Answer_svg':'\\n','page_state':'\u00a0'}");
         row("wrong answer of a flip card",
             "{'Type':'ZQActivityFlipItem','attachments':{'back':'<&','front':'f','error':'e'}}");
-        row("a type that is only written", "{'Type':'ZQChemistryExpressions','ArtObj_Mh':'5'}");
-        row("points of a figure", "{'Type':'ZQShapeFeiji','IgnoredControl':'1,2'}");
-        row("text of a circle, angle of a card", "{'Type':'ZQMath2DCircle','TextHtml':'<b>x</b>'}");
-        row("angle of a card", "{'Type':'ZQLiteraturePinyin','Angle':'0.5','ChineseWord':'<'}");
+        row("a type that is only written", "Type=ZQChemistryExpressions ArtObj_Mh=5");
+        row("points of a figure", "Type=ZQShapeFeiji IgnoredControl=1,2");
+        row("text of a circle, angle of a card", "Type=ZQMath2DCircle TextHtml=<b>x</b>");
+        row("angle of a card", "Type=ZQLiteraturePinyin Angle=0.5 ChineseWord=<");
         row("flags, link and animations of other names",
             "{'Type':'ZQSmoothStroke','Visible':false,'InteractiveValue':'<&>\\t\\n\\r','InteractiveType':'ACTION_"
             "TOOLTIP',"
@@ -135,6 +134,10 @@ private slots:
                   "<vertex points='1,2'/></data><element><property pixelDeleteInfos='[ {&quot;a&quot;: "
                   "1.0} ]'/></element></stroke>",
             "");
+        row("values beside bare elements",
+            "<activity_item type='ZQActiveMaterialStudent1Item'><data><content width='5' text='a'/>"
+                + QString("<content/>").repeated(6) + "</data></activity_item>",
+            "data/content@width=5 data/content[7]=");
         row("a second row of a label",
             meter("", "<property name='Font color' value='1,2,3'/><property name='Font color' value='4,5,6'/>", "1,2"),
             "properties/property[Font color][2]@name=Font color properties/property[Font color][2]@value=4,5,6");
@@ -153,8 +156,7 @@ private slots:
 
     void findsWhatIsNotCarried()
     {
-        QFETCH(QString, items);
-        QFETCH(QString, lost);
+        auto [items, lost] = Table<QString, QString>::cells();
         LossReport losses;
         const CarriedCheck check(SlideLosses(&losses, 1));
         const ZqtxItems reader(plugin(), {{"Version", "3.0"}});

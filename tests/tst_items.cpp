@@ -62,9 +62,7 @@ private slots:
     }
     void readsCommonRawKeys()
     {
-        QFETCH(QString, attributes);
-        QFETCH(QString, key);
-        QFETCH(QJsonValue, value);
+        const auto [attributes, key, value] = Table<QString, QString, QJsonValue>::cells();
         const QDomElement element = xml("<ZQSmoothStroke %1/>"_s.arg(attributes));
         QCOMPARE(plugin()->tranItemXML2JSON(element, context()).value(key), value);
     }
@@ -83,8 +81,7 @@ private slots:
     }
     void fitsTheSourceRectangleIntoThePage()
     {
-        QFETCH(QString, source);
-        QFETCH(QString, fit);
+        const auto [source, fit] = Table<QString, QString>::cells();
         const QDomElement element = xml("<ZQSmoothStroke/>");
         const QJsonObject item = plugin()->tranItemXML2JSON(element, context(source));
         QCOMPARE(item.value("SlideMatrix").toString(), fit);
@@ -108,29 +105,28 @@ private slots:
     void readsZqtx_data()
     {
         const Table<QString, QJsonObject> row("element", "expected");
-        row("defaults", "<stroke type='Curve'/>", "{'Color':'#ffff0000','Width':'5.0'}");
+        row("defaults", "<stroke type='Curve'/>", "Color=#ffff0000 Width=5.0");
         row("opacity goes into the colour", "<stroke type='Curve' color='#ff102030' opacity='128' width='[ ,]3'/>",
-            "{'Color':'#80102030','Width':'3'}");
+            "Color=#80102030 Width=3");
         row("children of a tag answer by whether they have content",
             "<stroke type='Curve'><data/><property stroke_type='2'/><data><rect points='1,2,3,4'/></data>"
             "<properties><property name='link_type' value='ACTION_OPENWEB'/><property name='link_value'/></properties>"
             "</stroke>",
-            "{'Color':'#ffff0000','Width':'5.0','DashStyle':'2','BoundingBox':'1,2,3,4',"
-            "'InteractiveType':'ACTION_OPENWEB','InteractiveValue':''}");
+            "Color=#ffff0000 Width=5.0 DashStyle=2 BoundingBox=1,2,3,4 InteractiveType=ACTION_OPENWEB "
+            "InteractiveValue=");
         row("one href fills texture and stamp", "<stroke type='Stamp'><element href='a.png'/></stroke>",
-            "{'Color':'#ffff0000','Width':'5.0','DrawTexture':'a.png','Stamp':'a.png'}");
+            "Color=#ffff0000 Width=5.0 DrawTexture=a.png Stamp=a.png");
         row("animations", "<stroke type='Curve'><animations><appearance type='fade'/></animations></stroke>",
             "{'Color':'#ffff0000','Width':'5.0','animations':{'appearance':{'type':'fade'}}}");
         row("unknown type", "<stroke type='Crayon'/>", "{}");
     }
     void readsZqtx()
     {
-        QFETCH(QString, element);
-        QFETCH(QJsonObject, expected);
+        const auto [element, expected] = Table<QString, QJsonObject>::cells();
         const QJsonObject item = plugin()->tranItemZQTX2JSON(xml(element), withVersion("3"));
         QCOMPARE(toText(ownKeys(item)), toText(expected));
         QCOMPARE(differences(item,
-                             expected.isEmpty() ? json("{'Visible':null,'LockIn':null}")
+                             expected.isEmpty() ? json("Visible=null LockIn=null")
                                                 : json("{'Visible':true,'LockIn':'0','InfiniteClone':'0'}")),
                  QString());
     }
@@ -149,45 +145,40 @@ private slots:
     }
     void rewritesThePointsOfOldLessons()
     {
-        QFETCH(QString, version);
-        QFETCH(QString, points);
+        const auto [version, points, expected] = Table<QString, QString, QString>::cells();
         const QString text = "<stroke type='Curve'><data><vertex points='%1'/></data></stroke>"_s.arg(points);
         const QJsonObject stroke = plugin()->tranItemZQTX2JSON(xml(text), withVersion(version));
-        QTEST(stroke.value("XY").toString(), "expected");
+        QCOMPARE(stroke.value("XY").toString(), expected);
     }
 
     void writesZqtx_data()
     {
         const Table<QString, QJsonObject, QString, QString> row("given", "item", "path", "expected");
-        row("type becomes the ZQTX type", "", "{'Type':'ZQSmoothStroke'}", "@type", "Curve");
+        row("type becomes the ZQTX type", "", "Type=ZQSmoothStroke", "@type", "Curve");
         row("visible true", "", "{'Type':'ZQSmoothStroke','Visible':true}", "@visible", "1");
-        row("visible as a text", "", "{'Type':'ZQSmoothStroke','Visible':'true'}", "@visible", "0");
+        row("visible as a text", "", "Type=ZQSmoothStroke Visible=true", "@visible", "0");
         row("a number gives an empty attribute", "", "{'Type':'ZQSmoothStroke','Cap':3}", "@cap", "");
-        row("angle", "", "{'Type':'ZQSmoothStroke','Angle':'0.5'}", "transform/rotate@angle", "0.5");
-        row("a missing child is made", "", "{'Type':'ZQSmoothStroke','DashStyle':'2'}", "property@stroke_type", "2");
-        row("a missing inner element is not", "", "{'Type':'ZQChalkStroke','Weight':'1,2'}", "data/weight@points",
-            nullptr);
-        row("without children nothing is made", "<stroke type='Curve'/>",
-            "{'Type':'ZQSmoothStroke','DashStyle':'2','Angle':'1'}", "property@stroke_type", nullptr);
-        row("the type of a given element counts", "<stroke type='Curve'/>", "{'Type':'ZQGroupItem'}", "@type", "Curve");
-        row("an element without a type stays", "<stroke/>", "{'Type':'ZQSmoothStroke','Cap':'1'}", "@cap", nullptr);
+        row("angle", "", "Type=ZQSmoothStroke Angle=0.5", "transform/rotate@angle", "0.5");
+        row("a missing child is made", "", "Type=ZQSmoothStroke DashStyle=2", "property@stroke_type", "2");
+        row("a missing inner element is not", "", "Type=ZQChalkStroke Weight=1,2", "data/weight@points", nullptr);
+        row("without children nothing is made", "<stroke type='Curve'/>", "Type=ZQSmoothStroke DashStyle=2 Angle=1",
+            "property@stroke_type", nullptr);
+        row("the type of a given element counts", "<stroke type='Curve'/>", "Type=ZQGroupItem", "@type", "Curve");
+        row("an element without a type stays", "<stroke/>", "Type=ZQSmoothStroke Cap=1", "@cap", nullptr);
         row("a nameless row is claimed",
-            "<stroke type='Curve'><properties><property value='' name=''/></properties></stroke>",
-            "{'InteractiveType':'T'}", "properties/property@name", "link_type");
+            "<stroke type='Curve'><properties><property value='' name=''/></properties></stroke>", "InteractiveType=T",
+            "properties/property@name", "link_type");
         row("an empty value takes its row away",
             "<stroke type='Curve'><properties><property value='x' name='link_type'/></properties></stroke>",
-            "{'InteractiveType':''}", "properties/property@name", nullptr);
+            "InteractiveType=", "properties/property@name", nullptr);
         row("emphasis without attributes", "", "{'Type':'ZQSmoothStroke','animations':{'emphasis':{}}}",
             "animations/disappearance@x", nullptr);
-        row("no place for strokes of a formula", "", "{'Type':'ZQStrokesMathFormula','Formula_Strokes':'x'}",
+        row("no place for strokes of a formula", "", "Type=ZQStrokesMathFormula Formula_Strokes=x",
             "element/property@Formula_Strokes", nullptr);
     }
     void writesZqtx()
     {
-        QFETCH(QString, given);
-        QFETCH(QJsonObject, item);
-        QFETCH(QString, path);
-        QFETCH(QString, expected);
+        const auto [given, item, path, expected] = Table<QString, QJsonObject, QString, QString>::cells();
         QDomElement element = plugin()->tranItemJSON2ZQTX(given.isEmpty() ? QDomElement() : xml(given), item);
         QVERIFY(!element.isNull());
         const QString attribute = path.section('@', 1);

@@ -69,11 +69,10 @@ private:
     static QJsonArray manyItems(const QString &kind)
     {
         const QJsonObject common = json(
-            "{'BoundingBox':'10,20,110,80','Visible':'1','LockIn':'1','InfiniteClone':'1',"
-            "'Control':'10,20,110,20,60,80,10,80','XYValue':'1,2,3,4,5,9,7,7,','XY':'100,110,20,30,-5,2.5','Width':'3',"
-            "'Color':'128,1,2,3','ArtObj_Width':'7','ArtObj_Fill':'0','ArtObj_Mode':'2','ArtObj_Style':'3',"
-            "'LineColor':'255,10,20,30','ArtObj_Color':'100,40,50,60','ArtObj_Color1':'255,7,8,9','Text':'42',"
-            "'ArtObj_FillColor':'200,70,80,90','InteractiveType':'ACTION_GOTOSLIDE','InteractiveValue':'1'}");
+            "BoundingBox=10,20,110,80 Visible=1 LockIn=1 InfiniteClone=1 Control=10,20,110,20,60,80,10,80 "
+            "XYValue=1,2,3,4,5,9,7,7, XY=100,110,20,30,-5,2.5 Width=3 Color=128,1,2,3 ArtObj_Width=7 ArtObj_Fill=0 "
+            "ArtObj_Mode=2 ArtObj_Style=3 LineColor=255,10,20,30 ArtObj_Color=100,40,50,60 ArtObj_Color1=255,7,8,9 "
+            "Text=42 ArtObj_FillColor=200,70,80,90 InteractiveType=ACTION_GOTOSLIDE InteractiveValue=1");
         QJsonArray items;
         int id = 1000;
         for (const QString &type : allTypes()) {
@@ -148,27 +147,26 @@ private slots:
     {
         const Table<QJsonObject, QString> row("item", "color");
         row("four parts", "{'c':' 128, 1,2,3'}", "#80010203");
-        row("three parts", "{'c':'1,2,3'}", "#ff010203");
-        row("name", "{'c':'red'}", "#ffff0000");
-        row("name with alpha", "{'c':'#80ff0000'}", "#80ff0000");
+        row("three parts", "c=1,2,3", "#ff010203");
+        row("name", "c=red", "#ffff0000");
+        row("name with alpha", "c=#80ff0000", "#80ff0000");
         row("list", "{'c':[128,1,2,3]}", "#80010203");
         row("object", "{'c':{'Solid':66051,'Alpha':0.5}}", "#80010203");
         row("object without alpha", "{'c':{'Solid':66051}}", "#ff010203");
         row("alpha before the red", "{'c':{'Solid':4278255873}}", "#ff010101");
         row("alpha in the sign", "{'c':{'Solid':-16711423}}", "#ff010101");
         row("beyond every number", "{'c':{'Solid':1e300,'Alpha':-1e300}}", "#00ffffff");
-        row("parts beyond", "{'c':'255,-3e9,3e9,256'}", "#ff00ffff");
-        row("parts that are no numbers", "{'c':'nan,inf,,x'}", "#00ff0000");
-        row("too few parts", "{'c':'1,2'}", nullptr);
+        row("parts beyond", "c=255,-3e9,3e9,256", "#ff00ffff");
+        row("parts that are no numbers", "c=nan,inf,,x", "#00ff0000");
+        row("too few parts", "c=1,2", nullptr);
         row("number", "{'c':66051}", nullptr);
-        row("nothing", "{'c':''}", nullptr);
+        row("nothing", "c=", nullptr);
         row("object of something else", "{'c':{'Alpha':1}}", nullptr);
     }
 
     void readsColors()
     {
-        QFETCH(QJsonObject, item);
-        QFETCH(QString, color);
+        const auto [item, color] = Table<QJsonObject, QString>::cells();
         const auto found = ItemView(item).color(QLatin1String("c"));
         QCOMPARE(found ? found->name(QColor::HexArgb) : QString(), color);
         if (found) {
@@ -190,16 +188,16 @@ private slots:
     {
         const Table<QJsonObject, bool, double> row("item", "flag", "number"); // of v, where true and 7 are missing
         row("missing", "{}", true, 7);
-        row("null", "{'v':null}", true, 7);
-        row("empty", "{'v':''}", true, 7);
-        row("zero", "{'v':'0'}", false, 0);
+        row("null", "v=null", true, 7);
+        row("empty", "v=", true, 7);
+        row("zero", "v=0", false, 0);
         row("false", "{'v':false}", false, 0);
         row("true", "{'v':true}", true, 1);
         row("with blanks and sign", "{'v':' +1 '}", true, 1);
         row("part of one", "{'v':0.5}", false, 0.5);
-        row("text of it", "{'v':'0.5'}", false, 0.5);
-        row("word", "{'v':'true'}", false, 0);
-        row("endless", "{'v':'inf'}", false, 0);
+        row("text of it", "v=0.5", false, 0.5);
+        row("word", "v=true", false, 0);
+        row("endless", "v=inf", false, 0);
     }
 
     void readsFlagsAndNumbers()
@@ -342,8 +340,7 @@ private slots:
     // Each value that the plug-in reads of them comes back where it is given as a number, a flag or a text.
     void mapsAndQuestionsAreWrittenInEveryKind()
     {
-        QFETCH(QString, lesson);
-        QFETCH(QString, type);
+        const auto [lesson, type] = Table<QString, QString>::cells();
         const auto reader = openLesson(lesson);
         const QJsonObject presentation = reader->presentation();
         const ZqtxItems items(plugin(), presentation);

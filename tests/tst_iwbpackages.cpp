@@ -330,8 +330,7 @@ private slots:
 
     void refusesReferencesThatLeaveThePackage()
     {
-        QFETCH(QByteArray, item);
-        QFETCH(QString, problem);
+        const auto [item, problem] = Table<QByteArray, QString>::cells();
         putFile(path("a/b/in/content.xml"), foreignPage(item));
         putFile(path("a/b/in/images/a.png"), redPicture());
         putFile(path("a/b/in/images/text.png"), "not a picture");
@@ -408,7 +407,7 @@ private slots:
     void tellsWhatComesBackOtherwise()
     {
         QFETCH(QString, item);
-        QJsonObject given = json("{'ID':'i','BoundingBox':'100,50,200,110'}");
+        QJsonObject given = json("ID=i BoundingBox=100,50,200,110");
         const QJsonObject own = json('{' + item + '}');
         for (auto it = own.begin(); it != own.end(); ++it) {
             given.insert(it.key(), it.value());

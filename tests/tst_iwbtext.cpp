@@ -71,8 +71,7 @@ private slots:
 
     void htmlBecomesRuns()
     {
-        QFETCH(QString, html);
-        QFETCH(QStringList, expected);
+        const auto [html, expected] = Table<QString, QStringList>::cells();
         const IwbTextInfoList runs = textRunsFromHtml(html).runs;
         QCOMPARE(lines(runs), expected);
         // Three trips give the same.
@@ -108,8 +107,7 @@ private slots:
 
     void namesWhatRunsCantHold()
     {
-        QFETCH(QString, html);
-        QFETCH(QString, loss);
+        const auto [html, loss] = Table<QString, QString>::cells();
         QCOMPARE(textRunsFromHtml(html).losses.join("; "_s), loss);
     }
 
@@ -137,8 +135,7 @@ private slots:
 
     void takesLittleTime()
     {
-        QFETCH(QString, html);
-        QFETCH(bool, isLimited);
+        const auto [html, isLimited] = Table<QString, bool>::cells();
         const std::clock_t start = std::clock();
         const TextRuns text = textRunsFromHtml(html);
         const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;

@@ -32,12 +32,11 @@ private slots:
     void keepsKeysInZqtx()
     {
         QFETCH(QString, type);
-        QJsonObject item = json("{'name':'n','resource':'r','loop':'1','outlinetype':'2','clipShape':'3',"
-                                "'BoundingBox':'1,2,3,4'}");
+        QJsonObject item = json("name=n resource=r loop=1 outlinetype=2 clipShape=3 BoundingBox=1,2,3,4");
         item.insert("Type", type);
         const QDomElement media = plugin()->tranItemJSON2ZQTX({}, item);
         QCOMPARE(media.tagName(), "media");
-        QCOMPARE(differences(attributesOf(media), json("{'name':'n','resource':'r','locked':'0','id':''}")), QString());
+        QCOMPARE(differences(attributesOf(media), json("name=n resource=r locked=0 id=")), QString());
         QTEST(media.attribute("type"), "txType");
         QCOMPARE(media.firstChildElement("property").attribute("loop"), "1");
         QCOMPARE(differences(plugin()->tranItemZQTX2JSON(media, {}), item), QString());
@@ -75,12 +74,11 @@ private slots:
 
     void exportsFiles()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, directory);
+        const auto [type, tag, directory] = Table<QString, QString, QString>::cells();
         const QString target = m_directory->path() + '/' + directory + "a.bin"_s;
         putFile(file("source/a.bin"), "new");
         const QDomElement element = exported(type, "file:///"_s + file("source/a.bin"));
-        QTEST(element.tagName(), "tag");
+        QCOMPARE(element.tagName(), tag);
         QCOMPARE(element.attribute("xlink:href"), QString(directory + "a.bin"_s));
         QCOMPARE(element.attribute("width"), "10");
         QCOMPARE(fileContent(target), QByteArray("new"));
@@ -125,23 +123,19 @@ private slots:
         const Table<QString, QJsonObject, bool> row("svg", "expected", "copies");
         row("picture: 20 + 100 and 1.5 + 2",
             "<svg:image xlink:href='images/a.SWF' x='20' y='1.5' width='100' height='2'/>",
-            "{'Type':'ZQImagePic','MultiMediaFile':'a.SWF','saveType':'local','path':null,"
-            "'BoundingBox':'20,1.5,120,3.5'}",
-            true);
-        row("flash", "<svg:video xlink:href='images/a.SWF'/>", "{'Type':'ZQMediaFlash','BoundingBox':',,0,0'}", true);
+            "Type=ZQImagePic MultiMediaFile=a.SWF saveType=local path=null BoundingBox=20,1.5,120,3.5", true);
+        row("flash", "<svg:video xlink:href='images/a.SWF'/>", "Type=ZQMediaFlash BoundingBox=,,0,0", true);
         row("video that isn't there", "<svg:video xlink:href='videos/b.mp4'/>",
-            "{'Type':'ZQMediaVideo','MultiMediaFile':'b.mp4','saveType':'local'}", false);
+            "Type=ZQMediaVideo MultiMediaFile=b.mp4 saveType=local", false);
         row("audio", "<svg:a xlink:href='images/a.SWF' transform='rotate(2,3,4)'/>",
-            "{'Type':'ZQMediaAudio','Angle':'2','InteractiveType':null}", true);
+            "Type=ZQMediaAudio Angle=2 InteractiveType=null", true);
         row("from the web", "<svg:image xlink:href='http://b.example/a.SWF'/>",
-            "{'Type':'ZQImagePic','MultiMediaFile':'http://b.example/a.SWF','saveType':null,'path':null}", false);
+            "Type=ZQImagePic MultiMediaFile=http://b.example/a.SWF saveType=null path=null", false);
     }
 
     void importsFiles()
     {
-        QFETCH(QString, svg);
-        QFETCH(QJsonObject, expected);
-        QFETCH(bool, copies);
+        const auto [svg, expected, copies] = Table<QString, QJsonObject, bool>::cells();
         putFile(file("package/images/a.SWF"), "film");
         QDir().mkpath(file("filelibrary"));
         const QJsonObject item = plugin()->tranItemIWB2JSON(xml(svg), {{"path", file("package/")}});
@@ -154,13 +148,13 @@ private slots:
         QTest::addColumn<QString>("href");
         QTest::addColumn<QJsonObject>("expected");
         const auto row = [](const char *href, const char *expected) { QTest::newRow(href) << href << json(expected); };
-        row("https://b.example/", "{'InteractiveType':'ACTION_OPENWEB','InteractiveValue':'https://b.example/'}");
-        row("txt://http", "{'InteractiveType':'ACTION_TOOLTIP','InteractiveValue':'http'}");
-        row("#page12", "{'InteractiveType':'ACTION_GOTOSLIDE','InteractiveValue':'12'}");
-        row("ab#page12", "{'InteractiveType':'ACTION_GOTOSLIDE','InteractiveValue':'ge12'}");
-        row("tool://clock", "{'InteractiveType':'ACTION_OPENTOOL','InteractiveValue':'clock'}");
-        row("additional/a.txt", "{'InteractiveType':'ACTION_OPENFILE','InteractiveValue':'p/additional/a.txt'}");
-        row("additional/a.pdf", "{'InteractiveType':null,'InteractiveValue':null}");
+        row("https://b.example/", "InteractiveType=ACTION_OPENWEB InteractiveValue=https://b.example/");
+        row("txt://http", "InteractiveType=ACTION_TOOLTIP InteractiveValue=http");
+        row("#page12", "InteractiveType=ACTION_GOTOSLIDE InteractiveValue=12");
+        row("ab#page12", "InteractiveType=ACTION_GOTOSLIDE InteractiveValue=ge12");
+        row("tool://clock", "InteractiveType=ACTION_OPENTOOL InteractiveValue=clock");
+        row("additional/a.txt", "InteractiveType=ACTION_OPENFILE InteractiveValue=p/additional/a.txt");
+        row("additional/a.pdf", "InteractiveType=null InteractiveValue=null");
     }
 
     void readsLinksAroundItems()
@@ -168,7 +162,7 @@ private slots:
         QFETCH(QJsonObject, expected);
         const QString href = QTest::currentDataTag();
         const QDomElement link = xml("<svg:a xlink:href='%1'>text<svg:circle cx='1'/><svg:line/></svg:a>"_s.arg(href));
-        QJsonObject item = plugin()->tranItemIWB2JSON(link, json("{'path':'p/'}"));
+        QJsonObject item = plugin()->tranItemIWB2JSON(link, json("path=p/"));
         QCOMPARE(differences(item, expected), QString());
         QCOMPARE(item.value("Type").toString(), "ZQMath2DCircle");
 
@@ -191,13 +185,15 @@ private slots:
                                                              {"tmpFilePath", m_directory->path()},
                                                              {"InteractiveType", "ACTION_GOTOSLIDE"},
                                                              {"InteractiveValue", "3"}});
-        QCOMPARE(toText(attributesOf(link)), toText(json("{'id':'5_link','xlink:href':'#page3'}")));
+        QCOMPARE(toText(attributesOf(link)), toText(json("id=5_link xlink:href=#page3")));
         QCOMPARE(toText(attributesOf(document.documentElement().firstChildElement("iwb:link"))),
-                 toText(json("{'ref':'5_link','file':'internal'}")));
-        QCOMPARE(differences(plugin()->tranItemIWB2JSON(link, {}),
-                             json("{'Type':'ZQMediaAudio','ID':'5','MultiMediaFile':'a.mp3',"
-                                  "'InteractiveType':'ACTION_GOTOSLIDE','InteractiveValue':'3'}")),
-                 QString());
+                 toText(json("ref=5_link file=internal")));
+        QCOMPARE(
+            differences(
+                plugin()->tranItemIWB2JSON(link, {}),
+                json(
+                    "Type=ZQMediaAudio ID=5 MultiMediaFile=a.mp3 InteractiveType=ACTION_GOTOSLIDE InteractiveValue=3")),
+            QString());
     }
 
 private:

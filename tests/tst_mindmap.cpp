@@ -89,8 +89,7 @@ private slots:
 
     void writesTheTree()
     {
-        QFETCH(QString, tree);
-        QFETCH(QString, data);
+        const auto [tree, data] = Table<QString, QString>::cells();
         const QJsonObject item{{"Type", "ZQMindMapItem"}, {"mindMapData", array(tree)}};
         const QDomElement element = written(item, item);
         QCOMPARE(toText(element), toText(mapElement(data)));
@@ -119,8 +118,7 @@ private slots:
 
     void readsTheTree()
     {
-        QFETCH(QString, data);
-        QFETCH(QString, tree);
+        const auto [data, tree] = Table<QString, QString>::cells();
         const QJsonObject item = plugin()->tranItemZQTX2JSON(mapElement(data), {});
         QVERIFY(item.value("mindMapData").isArray());
         QCOMPARE(item.value("mindMapData").toArray(), array(tree));
@@ -147,7 +145,7 @@ private slots:
         plugin()->tranItemZQTX2JSON({}, {});
         plugin()->tranItemZQTX2JSON(mapElement("<mapItemInfo><node/></mapItemInfo>"_s), {});
         plugin()->tranItemXML2JSON(xml("<ZQMindMapItem Bound='1' TransformMatrix='2'/>"), {});
-        plugin()->tranItemJSON2ZQTX({}, json("{'Type':'ZQQuestionItem','R_Answer_svg':'<'}"));
+        plugin()->tranItemJSON2ZQTX({}, json("Type=ZQQuestionItem R_Answer_svg=<"));
         plugin()->tranSlideJSON2ZQTX({}, json("{'activity':{'templet':{'no name':'x'}}}"));
         qInstallMessageHandler(usual);
 

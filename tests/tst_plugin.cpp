@@ -44,7 +44,7 @@ private slots:
             row(type.toUtf8(), QJsonObject{{"Type", type}});
         }
         row("with attachments", "{'Type':'ZQActivityFlipItem','attachments':{'back':'a'}}");
-        row("with a question", "{'Type':'ZQQuestionItem','R_Content_svg':'a'}");
+        row("with a question", "Type=ZQQuestionItem R_Content_svg=a");
     }
 
     void newElementsShareNoDocument()

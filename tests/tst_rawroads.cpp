@@ -32,18 +32,17 @@ private slots:
     {
         const Table<QByteArray, QJsonObject> row("item", "expected");
         row("a file", R"(<ZQImagePic MultiMediaFile='C:\pics\tree.png'/>)",
-            "{'resource':'resources/tree.png','MultiMediaFile':null}");
+            "resource=resources/tree.png MultiMediaFile=null");
         row("files, one behind the other", R"(<ZQMediaVideo MultiMediaFile='a;b\tree.png|tone.wav||'/>)",
-            "{'resource':'resources/tree.png','MultiMediaFile':'resources/tree.png,resources/tone.wav'}");
+            "resource=resources/tree.png MultiMediaFile=resources/tree.png,resources/tone.wav");
         row("ink: the alpha of its colour doesn't count, its opacity does",
             "<ZQSmoothStroke Color='9,1,2,255' Opacity='128' Width='7[ ,]' DashStyle='2'/>",
-            "{'Color':'#800102ff','Width':'7','DashStyle':'2','Opacity':null}");
-        row("ink that says nothing", "<ZQSmoothStroke/>", "{'Color':'#ffff0000','Width':'5.0'}");
-        row("a texture", R"(<ZQStrokeTexture DrawTexture='D:\brush\chalk.png'/>)",
-            "{'DrawTexture':'resources/chalk.png'}");
-        row("a text board's HTML", "<ZQTextBoard TextHtml='x' Fragrance='y'/>", "{'TextHtml':'x','Fragrance':null}");
+            "Color=#800102ff Width=7 DashStyle=2 Opacity=null");
+        row("ink that says nothing", "<ZQSmoothStroke/>", "Color=#ffff0000 Width=5.0");
+        row("a texture", R"(<ZQStrokeTexture DrawTexture='D:\brush\chalk.png'/>)", "DrawTexture=resources/chalk.png");
+        row("a text board's HTML", "<ZQTextBoard TextHtml='x' Fragrance='y'/>", "TextHtml=x Fragrance=null");
         row("and which way round it is", "<ZQImagePic TransformMatrix='2,0,0,-2,0,0' Bound='2,1,0,0,0,0'/>",
-            "{'BoundingBox':'0,0,2,1','Matrix':'2.8125,0,0,-2.8125,0,0'}");
+            "BoundingBox=0,0,2,1 Matrix=2.8125,0,0,-2.8125,0,0");
     }
 
     // Sanitizers see what goes wrong where such numbers become whole ones.
@@ -60,8 +59,7 @@ private slots:
 
     void attributesReachTheModel()
     {
-        QFETCH(QByteArray, item);
-        QFETCH(QJsonObject, expected);
+        const auto [item, expected] = Table<QByteArray, QJsonObject>::cells();
         const auto reader = openLesson(putLesson(item));
         const QJsonObject found = reader->slide(0).items.first().toObject();
         QCOMPARE(differences(found, expected), QString());
@@ -104,8 +102,7 @@ private slots:
 
     void whatDoesNotReachTheModelIsTold()
     {
-        QFETCH(QByteArray, item);
-        QFETCH(QString, lost);
+        const auto [item, lost] = Table<QByteArray, QString>::cells();
         LossReport losses;
         openLesson(putLesson(item), &losses)->slide(0);
         QStringList found;
@@ -165,8 +162,7 @@ private slots:
 
     void matricesAreWorkedIn()
     {
-        QFETCH(QByteArray, shape);
-        QFETCH(QString, lost);
+        const auto [shape, lost] = Table<QByteArray, QString>::cells();
         const QString raw = putLesson(shape);
         QVERIFY(!convertedLesson(raw, path("direct"), "iwb").summary().contains("no IWB form"));
         const QString report = convertedLesson(raw, path("package"), "zqtx").summary();

@@ -120,10 +120,7 @@ private slots:
 
     void drawsInSizes()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, name);
-        QFETCH(QSize, size);
-        QFETCH(QColor, corner);
+        const auto [arguments, name, size, corner] = Table<QStringList, QString, QSize, QColor>::cells();
         const QString file = m_folder.filePath(name);
         QCOMPARE(runCommand(QStringList{"render", path("lesson.json"), file, "--slides", "1"} + arguments).exitCode, 0);
         QImage picture;
@@ -247,9 +244,7 @@ private slots:
 
     void drawingsOpenNothing()
     {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, drawing);
-        QFETCH(bool, isShown);
+        auto [file, drawing, isShown] = Table<QString, QByteArray, bool>::cells();
         QImage picture(4, 4, QImage::Format_RGB32);
         picture.fill(Qt::red);
         QVERIFY(picture.save(path("private.png")));
@@ -413,8 +408,7 @@ private slots:
 
     void refuses()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, message);
+        auto [arguments, message] = Table<QStringList, QString>::cells();
         arguments[0] = m_folder.filePath(arguments.at(0));
         const CommandProcess::Outcome result = runCommand(QStringList{"render", path("lesson.json")} + arguments);
         QCOMPARE(result.exitCode, 2);

@@ -49,39 +49,34 @@ private slots:
     void readsTheHeaderOfAPackage_data()
     {
         const Table<QString, QJsonObject> row("index", "expected");
-        row("both sizes", "<main width='4' height='3' version='3.0'/>",
-            "{'Width':'4','Height':'3','Version':'3.0','Range':'4,3'}");
-        row("one size", "<main width='4' title='x'/>", "{'Width':'4'}");
+        row("both sizes", "<main width='4' height='3' version='3.0'/>", "Width=4 Height=3 Version=3.0 Range=4,3");
+        row("one size", "<main width='4' title='x'/>", "Width=4");
     }
     void readsTheHeaderOfAPackage()
     {
-        QFETCH(QString, index);
-        QFETCH(QJsonObject, expected);
+        const auto [index, expected] = Table<QString, QJsonObject>::cells();
         QCOMPARE(plugin()->tranPresZQTX2JSON(xml(index), {}), expected);
     }
 
     void readsRawSlides_data()
     {
         const Table<QString, QJsonObject> row("attributes", "expected");
-        row("nothing", "", "{'ID':'1','SlideSourceRect':'0,0,1024,768'}");
-        row("own source rectangle", "SlideSourceRect='0,0,1280,720'", "{'ID':'1','SlideSourceRect':'0,0,1280,720'}");
+        row("nothing", "", "ID=1 SlideSourceRect=0,0,1024,768");
+        row("own source rectangle", "SlideSourceRect='0,0,1280,720'", "ID=1 SlideSourceRect=0,0,1280,720");
         // (1 * 256 + 2) * 256 + 3
         row("colour", "BackColor='255,1,2,3'", "{'ID':'1','BackColor':66051,'SlideSourceRect':'0,0,1024,768'}");
-        row("short colour", "BackColor='1,2,3'", "{'ID':'1','BackColor':'1,2,3','SlideSourceRect':'0,0,1024,768'}");
+        row("short colour", "BackColor='1,2,3'", "ID=1 BackColor=1,2,3 SlideSourceRect=0,0,1024,768");
         row("files", "AttachFile='x\\a.png|b.png||' TextureLineType='1'",
-            "{'ID':'1','AttachFile':'/p/a.png,/p/l.xmlb.png','TextureLineType':'1','SlideSourceRect':'0,0,1024,768'}");
+            "ID=1 AttachFile=/p/a.png,/p/l.xmlb.png TextureLineType=1 SlideSourceRect=0,0,1024,768");
         row("paper", "TextureLineType='6'",
-            "{'ID':'1','TextureLineType':'6','AttachFile':'ID_SLIDE_NOTEBOOK_PINYIN.png',"
-            "'SlideSourceRect':'0,0,1024,768'}");
-        row("unknown paper", "TextureLineType='10'",
-            "{'ID':'1','TextureLineType':'10','SlideSourceRect':'0,0,1024,768'}");
+            "ID=1 TextureLineType=6 AttachFile=ID_SLIDE_NOTEBOOK_PINYIN.png SlideSourceRect=0,0,1024,768");
+        row("unknown paper", "TextureLineType='10'", "ID=1 TextureLineType=10 SlideSourceRect=0,0,1024,768");
     }
     void readsRawSlides()
     {
-        QFETCH(QString, attributes);
-        QFETCH(QJsonObject, expected);
+        const auto [attributes, expected] = Table<QString, QJsonObject>::cells();
         const QDomElement slide = xml("<slide NetID='1' %1/>"_s.arg(attributes));
-        QCOMPARE(toText(plugin()->tranSlideXML2JSON(slide, json("{'path':'/p/l.xml'}"))), toText(expected));
+        QCOMPARE(toText(plugin()->tranSlideXML2JSON(slide, json("path=/p/l.xml"))), toText(expected));
     }
 
     void readsThePageEffectOfATag_data()
@@ -97,8 +92,7 @@ private slots:
     }
     void readsThePageEffectOfATag()
     {
-        QFETCH(QString, tags);
-        QFETCH(QString, effect);
+        const auto [tags, effect] = Table<QString, QString>::cells();
         const QJsonObject read = readTags(tags);
         QCOMPARE(read.contains("EffectType"), !effect.isNull());
         QCOMPARE(read.value("EffectType").toString(), effect);
@@ -130,8 +124,7 @@ private slots:
     }
     void numbersTriggersAndActions()
     {
-        QFETCH(QString, script);
-        QFETCH(QJsonObject, expected);
+        const auto [script, expected] = Table<QString, QJsonObject>::cells();
         const QString tags = "<x/>|$|<interactive>" + script
             + "</interactive><a value='late'/>|$|<interactive><activeItem value='second'/></interactive>";
         QVERIFY(readTags(tags).value("iszqt").toBool());

@@ -33,12 +33,11 @@ private slots:
         const Table<QJsonObject, QString> row("presentation", "attributes");
         row("both sizes", "{'ID':'7','Width':'1440','Height':'1080','Visible':true,'Author':'a'}",
             "id='7' width='1440' height='1080' visible='1' viewbox='0 0 1440 1080'");
-        row("one size", "{'Width':'1440','Visible':'1'}", "width='1440' visible='0'");
+        row("one size", "Width=1440 Visible=1", "width='1440' visible='0'");
     }
     void writesTheRoot()
     {
-        QFETCH(QJsonObject, presentation);
-        QFETCH(QString, attributes);
+        const auto [presentation, attributes] = Table<QJsonObject, QString>::cells();
         const QDomElement iwb = plugin()->tranPresJSON2IWB({}, presentation).documentElement();
         const QString expected = "<iwb version='1.0' xmlns:iwb='http://www.becta.org.uk/iwb' "
                                  "xmlns:svg='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'>"
@@ -49,15 +48,14 @@ private slots:
     void readsTheRoot_data()
     {
         const Table<QString, QJsonObject> row("attributes", "expected");
-        row("sizes", "width='4' height='3' viewbox='0 0 8 6'", "{'Width':'4','Height':'3'}");
-        row("viewbox", "viewbox='1 2 8 6 9'", "{'Width':'8','Height':'6'}");
-        row("one size", "width='4' viewbox='0 0 8 6'", "{'Width':'4'}");
+        row("sizes", "width='4' height='3' viewbox='0 0 8 6'", "Width=4 Height=3");
+        row("viewbox", "viewbox='1 2 8 6 9'", "Width=8 Height=6");
+        row("one size", "width='4' viewbox='0 0 8 6'", "Width=4");
         row("short viewbox", "viewbox='0 0 8'", "{}");
     }
     void readsTheRoot()
     {
-        QFETCH(QString, attributes);
-        QFETCH(QJsonObject, expected);
+        const auto [attributes, expected] = Table<QString, QJsonObject>::cells();
         QCOMPARE(toText(plugin()->tranPresIWB2JSON(xml("<svg:svg %1/>"_s.arg(attributes)), {})), toText(expected));
     }
 
@@ -73,8 +71,7 @@ private slots:
     }
     void writesColours()
     {
-        QFETCH(QString, fill);
-        QFETCH(QString, opacity);
+        const auto [fill, opacity] = Table<QString, QString>::cells();
         QDomDocument root = iwbRoot();
         QJsonObject slide = json("{'index':3,'ID':'s','x':'0','y':'1','Width':'1440','Height':'1080','AttachFile':''}");
         slide.insert("BackColor", QTest::currentDataTag());
@@ -106,7 +103,7 @@ private slots:
             xml("<svg:page><g><svg:rect %1/><svg:rect fill='x'/></g></svg:page>"_s.arg(QTest::currentDataTag()));
         const QDomElement rectangle = page.firstChildElement().firstChildElement();
         for (const QDomElement &given : {page, rectangle}) {
-            const QJsonObject slide = plugin()->tranSlideIWB2JSON({}, given, json("{'ID':'old','path':'/p/'}"));
+            const QJsonObject slide = plugin()->tranSlideIWB2JSON({}, given, json("ID=old path=/p/"));
             QCOMPARE(slide.value("BackColor"), QJsonValue(color));
             QCOMPARE(slide.value("EffectType"), QJsonValue(QString()));
             QVERIFY(slide.value("ID").toString().toLongLong() > 0);
@@ -139,18 +136,17 @@ private slots:
     void measuresADrawingByItsRoot_data()
     {
         const Table<QString, QJsonObject> row("root", "expected");
-        row("pixels", "width='40.9' height='30px' viewBox='0 0 4 3'", "{'width':'40','height':'30'}");
-        row("millimetres and inches", "width='10mm' height='1in'", "{'width':'35','height':'90'}");
-        row("shares of the view", "width='50%' height='100%' viewBox='0,0,12,20'", "{'width':'6','height':'20'}");
-        row("the view alone", "viewBox='0 0 12.6 20.4'", "{'width':'13','height':'20'}");
-        row("nothing", "", "{'width':'0','height':'0'}");
-        row("beyond all pictures", "width='1e300' height='1'", "{'width':'0','height':'0'}");
-        row("no number", "width='nan' height='1'", "{'width':'0','height':'0'}");
+        row("pixels", "width='40.9' height='30px' viewBox='0 0 4 3'", "width=40 height=30");
+        row("millimetres and inches", "width='10mm' height='1in'", "width=35 height=90");
+        row("shares of the view", "width='50%' height='100%' viewBox='0,0,12,20'", "width=6 height=20");
+        row("the view alone", "viewBox='0 0 12.6 20.4'", "width=13 height=20");
+        row("nothing", "", "width=0 height=0");
+        row("beyond all pictures", "width='1e300' height='1'", "width=0 height=0");
+        row("no number", "width='nan' height='1'", "width=0 height=0");
     }
     void measuresADrawingByItsRoot()
     {
-        QFETCH(QString, root);
-        QFETCH(QJsonObject, expected);
+        const auto [root, expected] = Table<QString, QJsonObject>::cells();
         putFile(path("lesson/filelibrary/a.png"),
                 "<svg xmlns='http://www.w3.org/2000/svg' %1><text y='9'>a</text></svg>"_s.arg(root).toUtf8());
         QDir(m_folder->path()).mkdir("lesson.iwb");
@@ -170,8 +166,7 @@ private slots:
     }
     void measuresWhatIsNoPictureAsNothing()
     {
-        QFETCH(QString, id);
-        QFETCH(QString, file);
+        const auto [id, file] = Table<QString, QString>::cells();
         putFile(path("lesson/filelibrary/text.png"), "no picture");
         putFile(path("lesson/filelibrary/a.png"), "no picture");
         const QDir root(m_folder->path());
@@ -179,7 +174,7 @@ private slots:
         QDomDocument document = iwbRoot();
         const QDomElement page =
             plugin()->tranSlideJSON2IWB(document, {{"ID", id}, {"AttachFile", file}, {"filePath", path("lesson.iwb")}});
-        QJsonObject expected = json("{'width':'0','height':'0'}");
+        QJsonObject expected = json("width=0 height=0");
         expected.insert("xlink:href", "images/%1_bgd.png"_s.arg(id));
         QCOMPARE(differences(attributesOf(page.lastChildElement()), expected), QString());
         QCOMPARE(root.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 2);
@@ -200,10 +195,7 @@ private slots:
     }
     void choosesThePicture()
     {
-        QFETCH(QString, records);
-        QFETCH(QString, rectangle);
-        QFETCH(QString, image);
-        QFETCH(bool, isTaken);
+        const auto [records, rectangle, image, isTaken] = Table<QString, QString, QString, bool>::cells();
         putFile(path("p/a.png"), {});
         QDir(m_folder->path()).mkdir("filelibrary");
         const QDomElement iwb = xml("<iwb>%1</iwb>"_s.arg(records));
@@ -229,8 +221,7 @@ private slots:
     }
     void writesLinks()
     {
-        QFETCH(QString, kind);
-        QFETCH(QString, href);
+        const auto [kind, href] = Table<QString, QString>::cells();
         putFile(path("a.txt"), "text");
         QDir(m_folder->path()).mkdir("export");
         QDomDocument document = iwbRoot();
@@ -251,14 +242,14 @@ private slots:
     {
         const auto calls = [] {
             QDomDocument noRoot;
-            plugin()->tranSlideJSON2IWB(noRoot, json("{'BackColor':'#12','AttachFile':'a.png'}"));
+            plugin()->tranSlideJSON2IWB(noRoot, json("BackColor=#12 AttachFile=a.png"));
             plugin()->tranSlideIWB2JSON({}, {}, {});
             plugin()->tranSlideIWB2JSON({}, xml("<svg:rect fill='rgb(999,-1,x)' fill-opacity='7e9'/>"), {});
             QDomDocument empty("slide");
             plugin()->tranSlideJSON2ZQTX(empty,
                                          json("{'animations':{'animation':['1']},'activity':{'templet':{'<':''}}}"));
             plugin()->tranPresJSON2ZQTX(empty, json("{'Slides':[{'ID':'1'}]}"));
-            plugin()->tranPresJSON2IWB(empty, json("{'Width':'1','Height':'2'}"));
+            plugin()->tranPresJSON2IWB(empty, json("Width=1 Height=2"));
         };
         QCOMPARE(messagesOf(calls), 0);
     }

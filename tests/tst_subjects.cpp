@@ -97,13 +97,13 @@ private slots:
             R"(<ZQPhysicsLaBa ArtObj_Color="51,1,2,3" LineColor="51,1,2,3"><x><ArtObj_Color r="255"/></x></ZQPhysicsLaBa>)",
             "{'ArtObj_Color': {'Alpha': 1, 'Solid': 16711680}, 'LineColor': {'Alpha': 0.2, 'Solid': 66051}}");
         row("a colour attribute that is too short", R"(<ZQPhysicsLaBa ArtObj_Color10="1,2,3"/>)",
-            "{'ArtObj_Color10': '1,2,3'}");
+            "ArtObj_Color10=1,2,3");
         row("points under names of their own",
             R"(<ZQPhysicsDianHe ArtObj_Prop="1" ArtObj_Sound="2"><ArtObj_Point x="3" y="4"/></ZQPhysicsDianHe>)",
-            "{'ArtObj_PointX': '3', 'ArtObj_PointY': '4', 'ArtObj_Prop': '1'}");
+            "ArtObj_PointX=3 ArtObj_PointY=4 ArtObj_Prop=1");
         row("ranges of points",
             R"(<ZQPhysicsLi><ArtObj_Point9 x="1" y="2"/><ArtObj_Point10 x="3" y="4"/></ZQPhysicsLi>)",
-            "{'ArtObj_Point9x': '1', 'ArtObj_Point9y': '2'}");
+            "ArtObj_Point9x=1 ArtObj_Point9y=2");
         row("a colour that is also plain", R"(<ZQChemistryQiPao ArtObj_Color="255,0,1,0"/>)",
             "{'ArtObj_Color': {'Alpha': 1, 'Solid': 256}}");
         row("control points that are also plain",
@@ -115,16 +115,15 @@ private slots:
             "{'ArtObj_InterPoint19x': '3', 'ArtObj_InterPoint19y': '4', 'ArtObj_InterpointNumber': '1',"
             " 'Control': [1, 2]}");
         row("a word that is always hidden", R"(<ZQLiteratureYinbiao ArtObj_WriteDanci="0" ArtObj_DanciPos="0"/>)",
-            "{'WordAtLeft': '0', 'WordHide': '1'}");
-        row("a word that isn't told", R"(<ZQLiteratureYinbiao ArtObj_English="cat"/>)", "{'ArtObj_English': 'cat'}");
+            "WordAtLeft=0 WordHide=1");
+        row("a word that isn't told", R"(<ZQLiteratureYinbiao ArtObj_English="cat"/>)", "ArtObj_English=cat");
         row("art text keeps its bound", R"(<ZQCommonYishuzi Bound="3,4,0,0,1,2" ArtObj_Height="7"/>)",
-            "{'ArtObj_Height': '7', 'BoundingBox': '1,2,3,4'}");
+            "ArtObj_Height=7 BoundingBox=1,2,3,4");
     }
 
     void readsRaw()
     {
-        QFETCH(QString, raw);
-        QFETCH(QJsonObject, expected);
+        const auto [raw, expected] = Table<QString, QJsonObject>::cells();
         QCOMPARE(toText(ownKeys(readRaw(raw))), toText(expected));
     }
 
@@ -159,35 +158,29 @@ private slots:
         row("liquids of a round funnel", "Chemistry:qiuxingfenyeloudou",
             property("Color of underlayer liquid", "0,0,1") + property("Color of liquid", "0,0,1"),
             "{'ArtObj_Color0': {'Alpha': 1, 'Solid': 1}}");
-        row("a figure has no control points", "Shape:feiji", rect("1,2"), "{'BoundingBox': '1,2,3,4'}");
+        row("a figure has no control points", "Shape:feiji", rect("1,2"), "BoundingBox=1,2,3,4");
         row("a card's texts", "Chinese:pinyin", rect("1,2") + property("Chinese word", "ma"),
-            "{'BoundingBox': '1,2,3,4', 'ChineseWord': 'ma', 'Control': '1,2', 'InitBound': '1,2,3,4'}");
-        row("a shape without outline", "Vector:juxing", "", "{'manager': ''}");
+            "BoundingBox=1,2,3,4 ChineseWord=ma Control=1,2 InitBound=1,2,3,4");
+        row("a shape without outline", "Vector:juxing", "", "manager=");
     }
 
     void readsZqtx()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, content);
-        QFETCH(QJsonObject, expected);
+        const auto [type, content, expected] = Table<QString, QString, QJsonObject>::cells();
         QCOMPARE(toText(ownKeys(readZqtx(discipline(type, content)))), toText(expected));
     }
 
     void writesProperties_data()
     {
         const Table<QJsonObject, QString> row("item", "rows");
-        row("the later key of one label",
-            "{'Type': 'ZQPhysicsAotoujing', 'ArtObj_Color0': '1,2,3', 'ArtObj_Color1': '4,5,6'}", "Fill color=4,5,6");
-        row("a key that only the raw form has", "{'Type': 'ZQPhysicsDianHe', 'ArtObj_Prop': '1', 'ArtObj_Width': '2'}",
-            "width=2");
+        row("the later key of one label", "Type=ZQPhysicsAotoujing ArtObj_Color0=1,2,3 ArtObj_Color1=4,5,6",
+            "Fill color=4,5,6");
+        row("a key that only the raw form has", "Type=ZQPhysicsDianHe ArtObj_Prop=1 ArtObj_Width=2", "width=2");
         row("renamed common rows",
-            "{'Type': 'ZQChemistryJiujingdeng', 'ArtObj_LiquidColor': '1,2,3', 'ArtObj_DisplayLiquid': '1', "
-            "'ArtObj_Mw': '4'}",
+            "Type=ZQChemistryJiujingdeng ArtObj_LiquidColor=1,2,3 ArtObj_DisplayLiquid=1 ArtObj_Mw=4",
             "Alohol color=1,2,3|With alcohol inside=1|m_x=4");
-        row("all common rows taken out", "{'Type': 'ZQChemistryJian', 'ArtObj_Type': '1', 'ArtObj_Mh': '4'}", "Type=1");
-        row("twenty corners",
-            "{'Type': 'ZQShapeYiduiduoshu', 'ArtObj_InterPoint19y': '1', 'ArtObj_InterPoint20x': '2', "
-            "'ArtObj_Point3x': '3'}",
+        row("all common rows taken out", "Type=ZQChemistryJian ArtObj_Type=1 ArtObj_Mh=4", "Type=1");
+        row("twenty corners", "Type=ZQShapeYiduiduoshu ArtObj_InterPoint19y=1 ArtObj_InterPoint20x=2 ArtObj_Point3x=3",
             "ArtObj_InterPoint19y=1|Point3x=3");
         row("only texts", "{'Type': 'ZQShapeFeiji', 'ArtObj_Color0': {'Solid': 1, 'Alpha': 1}, 'ArtObj_Fill': '1'}",
             "isFill=1");
@@ -203,14 +196,12 @@ private slots:
     void cardsAreWrittenWithoutTransform()
     {
         const QDomElement card = plugin()->tranItemJSON2ZQTX(
-            {},
-            json("{'Type': 'ZQLiteratureYinbiao', 'Angle': '1', 'BoundingBox': '0,0,1,1', 'InitBound': '0,0,2,2',"
-                 " 'Control': '5,6'}"));
+            {}, json("Type=ZQLiteratureYinbiao Angle=1 BoundingBox=0,0,1,1 InitBound=0,0,2,2 Control=5,6"));
         QCOMPARE(toText(card.firstChildElement("transform")), "<transform/>");
         const QDomElement rect = card.firstChildElement("data").firstChildElement();
         QCOMPARE(rect.attribute("points"), "0,0,2,2");
         QCOMPARE(rect.attribute("controlpoints"), "5,6");
-        const QDomElement apparatus = plugin()->tranItemJSON2ZQTX({}, json("{'Type': 'ZQPhysicsLaBa', 'Angle': '1'}"));
+        const QDomElement apparatus = plugin()->tranItemJSON2ZQTX({}, json("Type=ZQPhysicsLaBa Angle=1"));
         QCOMPARE(toText(apparatus.firstChildElement("transform")), R"(<transform><rotate angle="1"/></transform>)"_s);
     }
 
@@ -232,9 +223,7 @@ private slots:
 
     void placesByInnerMatrix()
     {
-        QFETCH(QString, attributes);
-        QFETCH(QString, sourceRect);
-        QFETCH(QVector<double>, matrix);
+        const auto [attributes, sourceRect, matrix] = Table<QString, QString, QVector<double>>::cells();
         QJsonObject slide{{"SlideSourceRect", sourceRect}};
         const QJsonObject context{{"slide", slide}};
         for (const char *type : {"ZQVectorJuxing", "ZQShapeFeiji"}) {
@@ -268,8 +257,7 @@ private slots:
 
     void readsOutlines()
     {
-        QFETCH(QString, paths);
-        QFETCH(QJsonObject, expected);
+        const auto [paths, expected] = Table<QString, QJsonObject>::cells();
         const QString manager = "<ArtVectObj_Manager>%1</ArtVectObj_Manager>"_s.arg(paths);
         for (const QString &text : {"<ZQVectorJuxing><x>%1</x></ZQVectorJuxing>"_s.arg(manager),
                                     discipline("Vector:juxing"_s, "<x>%1</x>"_s.arg(manager))}) {

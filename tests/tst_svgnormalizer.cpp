@@ -177,8 +177,7 @@ private slots:
 
     void nothingIsDroppedSilently()
     {
-        QFETCH(QString, svg);
-        QFETCH(QString, remark);
+        const auto [svg, remark] = Table<QString, QString>::cells();
         const IwbPage page = firstPage(svg);
         QVERIFY(!page.remarks.isEmpty());
         const SvgRemark &first = page.remarks.first();

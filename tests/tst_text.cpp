@@ -54,16 +54,14 @@ class TestText : public QObject
 private slots:
     void keepsHtmlInZqtx()
     {
-        const QJsonObject item = json("{'Type':'ZQTextBoard','ID':'3','TextHtml':'<b>x</b>','InitialScale':'1.5',"
-                                      "'BoundingBox':'1,2,3,4','AudioPath':'a.mp3','document':'d'}");
+        const QJsonObject item = json(
+            "Type=ZQTextBoard ID=3 TextHtml=<b>x</b> InitialScale=1.5 BoundingBox=1,2,3,4 AudioPath=a.mp3 document=d");
         const QDomElement text = plugin()->tranItemJSON2ZQTX({}, item);
         QCOMPARE(text.tagName(), "text");
-        QCOMPARE(differences(attributesOf(text), json("{'type':'ZQTextBoard','id':'3','visible':'1','document':'d'}")),
-                 QString());
+        QCOMPARE(differences(attributesOf(text), json("type=ZQTextBoard id=3 visible=1 document=d")), QString());
         const QDomElement content = text.firstChildElement("data").firstChildElement();
-        QCOMPARE(toText(attributesOf(content)), toText(json("{'text':'<b>x</b>','type':'html','InitialScale':'1.5'}")));
-        QCOMPARE(toText(attributesOf(content.nextSiblingElement())),
-                 toText(json("{'points':'1,2,3,4','controlpoints':''}")));
+        QCOMPARE(toText(attributesOf(content)), toText(json("text=<b>x</b> type=html InitialScale=1.5")));
+        QCOMPARE(toText(attributesOf(content.nextSiblingElement())), toText(json("points=1,2,3,4 controlpoints=")));
         QCOMPARE(differences(plugin()->tranItemZQTX2JSON(text, {}), item), QString());
     }
 
@@ -90,8 +88,8 @@ private slots:
     void readsRuns()
     {
         QFETCH(QString, svg);
-        const QJsonObject item = plugin()->tranItemIWB2JSON(xml(svg), json("{'path':'p/'}"));
-        QCOMPARE(differences(item, json("{'Type':'ZQTextBoard','path':'p/','x':null,'Angle':null}")), QString());
+        const QJsonObject item = plugin()->tranItemIWB2JSON(xml(svg), json("path=p/"));
+        QCOMPARE(differences(item, json("Type=ZQTextBoard path=p/ x=null Angle=null")), QString());
 
         auto *list = addressIn<IwbTextInfoList *>(item, listKey);
         QStringList read;
@@ -105,28 +103,25 @@ private slots:
     void placesTheArea_data()
     {
         const Table<QJsonObject, QJsonObject> row("item", "attributes");
-        row("no matrix, default run", "{'BoundingBox':'1,2,101,52','ID':'7'}",
-            "{'x':'1','y':'2','width':'100','height':'50','id':'7','fill':'#000000','font-weight':'bold',"
-            "'font-stretch':'normal','font-style':'italic','font-family':'Arial','font-size':'28',"
-            "'text-decoration':'underline','text-align':'start'}");
+        row("no matrix, default run", "BoundingBox=1,2,101,52 ID=7",
+            "x=1 y=2 width=100 height=50 id=7 fill=#000000 font-weight=bold font-stretch=normal font-style=italic "
+            "font-family=Arial font-size=28 text-decoration=underline text-align=start");
         // The mapped box would be 50 wide and 100 high.
-        row("a quarter turn keeps the sides", "{'BoundingBox':'0,0,100,50','Matrix':'0,1,-1,0,0,0'}",
-            "{'x':'0','y':'0','width':'100','height':'50'}");
+        row("a quarter turn keeps the sides", "BoundingBox=0,0,100,50 Matrix=0,1,-1,0,0,0",
+            "x=0 y=0 width=100 height=50");
         // (1, 2) goes to (2 x 1 + 5, 3 x 2 + 6); sides 2 x 10 and 3 x 20
-        row("stretched", "{'BoundingBox':'1,2,11,22','Matrix':'2,0,0,3,5,6','Angle':'0.5'}",
-            "{'x':'7','y':'12','width':'20','height':'60','transform':'rotate(0.5,17,42)'}");
-        row("no box", "{'Matrix':'2,0,0,3,5,6','x':'9'}", "{'x':'9','width':null,'fill':null,'font-size':null}");
-        row("a short box", "{'BoundingBox':'1,2,3'}", "{'x':null,'width':null,'fill':null}");
-        row("a short matrix", "{'BoundingBox':'1,2,3,4','Matrix':'1,0,0'}", "{'x':null,'width':null}");
-        row("no list at the address 0", "{'BoundingBox':'1,2,3,4','IWB_TEXTINFO-VECTOR':'0','id':'low','ID':'7'}",
-            "{'fill':'#000000','id':'low'}");
-        row("no list at words", "{'BoundingBox':'1,2,3,4','IWB_TEXTINFO-VECTOR':'none'}", "{'fill':'#000000'}");
+        row("stretched", "BoundingBox=1,2,11,22 Matrix=2,0,0,3,5,6 Angle=0.5",
+            "x=7 y=12 width=20 height=60 transform=rotate(0.5,17,42)");
+        row("no box", "Matrix=2,0,0,3,5,6 x=9", "x=9 width=null fill=null font-size=null");
+        row("a short box", "BoundingBox=1,2,3", "x=null width=null fill=null");
+        row("a short matrix", "BoundingBox=1,2,3,4 Matrix=1,0,0", "x=null width=null");
+        row("no list at the address 0", "BoundingBox=1,2,3,4 IWB_TEXTINFO-VECTOR=0 id=low ID=7", "fill=#000000 id=low");
+        row("no list at words", "BoundingBox=1,2,3,4 IWB_TEXTINFO-VECTOR=none", "fill=#000000");
     }
 
     void placesTheArea()
     {
-        QFETCH(QJsonObject, item);
-        QFETCH(QJsonObject, attributes);
+        auto [item, attributes] = Table<QJsonObject, QJsonObject>::cells();
         item.insert("Type", "ZQTextBoard"_s);
         const QDomElement area = toSvg(item);
         QCOMPARE(area.tagName(), "svg:textarea");
@@ -147,8 +142,7 @@ private slots:
         QCOMPARE(area.attribute("fill"), "red");
         QCOMPARE(area.childNodes().count(), 2);
         const QDomElement first = area.firstChildElement("svg:tspan");
-        QCOMPARE(differences(attributesOf(first), json("{'fill':'red','id':'low','font-size':'28','x':null}")),
-                 QString());
+        QCOMPARE(differences(attributesOf(first), json("fill=red id=low font-size=28 x=null")), QString());
         QVERIFY(first.firstChild().isCDATASection());
         QCOMPARE(first.text(), "a<b");
         const QDomElement second = first.nextSiblingElement();
