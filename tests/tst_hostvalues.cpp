@@ -89,14 +89,33 @@ private slots:
 
     void knowsWhatIsTheSame()
     {
-        QVERIFY(isSameValue("Control"_s, "1.50,02", "1.5,2"));
-        QVERIFY(!isSameValue("Control"_s, "1,abc", "1,0"));
-        QVERIFY(isSameValue("XY"_s, "1e1,3", "10,3"));
-        QVERIFY(!isSameValue("XY"_s, "10,3", "10,3,4"));
-        QVERIFY(!isSameValue("Title"_s, "1.50", "1.5"));
-        QVERIFY(isSameValue("Color"_s, "red", "#ffff0000"));
-        QVERIFY(isSameValue("ArtObj_Color"_s, "1,2,3", "255,1,2,3"));
-        QVERIFY(!isSameValue("ArtObj_Color"_s, "1,2,3", "254,1,2,3"));
+        const struct
+        {
+            const char *key;
+            QJsonValue one;
+            QJsonValue other;
+            bool isSame;
+        } pairs[] = {
+            {"Control", "1.50,02", "1.5,2", true},
+            {"Control", "1,abc", "1,0", false},
+            {"XY", "1e1,3", "10,3", true},
+            {"XY", "10,3", "10,3,4", false},
+            {"Title", "1.50", "1.5", false},
+            {"Title", 1.5, "1.50", true},
+            {"Visible", true, " +1", true},
+            {"Visible", "2", "1", false},
+            {"Color", "red", "#ffff0000", true},
+            {"Color", "300,1,2,3", "255,1,2,3", false},
+            {"ArtObj_Color", "1,2,3", "255,1,2,3", true},
+            {"ArtObj_Color", "1,2,3", "254,1,2,3", false},
+            {"LineColor", QJsonObject{{"Solid", 66051}, {"Alpha", 0.5}}, "128,1,2,3", true},
+            {"LineColor", QJsonObject{{"Solid", 66051}, {"More", 1}}, "1,2,3", false},
+            {"manager", "<a b='1' c='2'/>", "<a c='2' b='1'></a>", true},
+            {"TextHtml", "<a b='1'/>", "<a b='1'></a>", false},
+        };
+        for (const auto &pair : pairs) {
+            QVERIFY2(isSameValue(pair.key, pair.one, pair.other) == pair.isSame, pair.key);
+        }
     }
 
     // Old lessons store points relative to the first one.
