@@ -576,14 +576,16 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     item.link = place.link;
     item.isVisible = place.style.isVisible();
     // A record is of every item of its identifier, on whatever page; the item's own word is of itself.
-    const QString locked = source.attribute(QStringLiteral("lockin"));
-    item.isLocked =
-        locked == QLatin1String("1") || (locked != QLatin1String("0") && m_rules.records.value(item.id).isLocked);
+    const auto isSet = [&source](const QString &attribute, bool isRecorded) {
+        const QString own = source.attribute(attribute);
+        return own == QLatin1String("1") || (own != QLatin1String("0") && isRecorded);
+    };
     const IwbRecord record = recordOf(source);
+    item.isLocked = isSet(QStringLiteral("lockin"), m_rules.records.value(item.id).isLocked);
     if (tag == QLatin1String("svg:image") && record.isBackground) {
         item.isLocked = true;
     }
-    item.isEndless = source.attribute(QStringLiteral("infiniteclone")) == QLatin1String("1") || record.isEndless;
+    item.isEndless = isSet(QStringLiteral("infiniteclone"), record.isEndless);
     item.isRevealer = record.isRevealer && tag == QLatin1String("svg:rect");
     item.isFreehand = record.isFreehand;
     item.isHighlight = record.isHighlight;
