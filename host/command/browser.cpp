@@ -53,7 +53,7 @@ void openInBrowser(const QString &page)
     const bool isStarted = opener->waitForStarted();
     // Some desktops' programs stay until the browser is closed, which the object would do when it goes.
     if (isStarted && !opener->waitForFinished(mostOpeningMilliseconds)) {
-        opener.release();
+        static_cast<void>(opener.release());
         return;
     }
     if (!isStarted || opener->exitStatus() != QProcess::NormalExit || opener->exitCode() != 0) {

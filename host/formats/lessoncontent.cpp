@@ -12,7 +12,7 @@ namespace lessonhost {
 namespace {
 
 // Enough for what stands before a document's root.
-constexpr qint64 mostBytes = 64 * 1024;
+constexpr qint64 mostBytes = qint64(64) * 1024;
 
 QStringList namesIn(const QString &archive)
 {

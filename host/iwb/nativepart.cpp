@@ -174,7 +174,8 @@ NativePart::NativePart(const IwbPackage &package)
     m_presentation = lesson.value(Keys::presentation).toObject();
     const QJsonArray size = lesson.value(Keys::size).toArray();
     m_size = QSizeF(size.at(0).toDouble(), size.at(1).toDouble());
-    for (const QJsonValue &path : lesson.value(Keys::made).toArray()) {
+    const QJsonArray made = lesson.value(Keys::made).toArray();
+    for (const QJsonValue &path : made) {
         m_made.insert(path.toString());
     }
     QCryptographicHash document(QCryptographicHash::Sha1);
@@ -207,13 +208,16 @@ std::optional<NativePage> NativePart::page(const QString &pageId) const
     NativePage page;
     page.slide = json.value(Keys::slide).toObject();
     page.backgroundMark = background.value(Keys::mark).toString();
-    for (const QJsonValue &id : background.value(Keys::ids).toArray()) {
+    const QJsonArray ids = background.value(Keys::ids).toArray();
+    for (const QJsonValue &id : ids) {
         page.backgroundIds.append(id.toString());
     }
-    for (const QJsonValue &value : json.value(Keys::items).toArray()) {
+    const QJsonArray items = json.value(Keys::items).toArray();
+    for (const QJsonValue &value : items) {
         NativePage::Entry entry;
         entry.item = value.toObject().value(Keys::item).toObject();
-        for (const QJsonValue &part : value.toObject().value(Keys::parts).toArray()) {
+        const QJsonArray parts = value.toObject().value(Keys::parts).toArray();
+        for (const QJsonValue &part : parts) {
             entry.parts.append(readPart(part.toObject()));
         }
         if (!entry.item.isEmpty()) {
