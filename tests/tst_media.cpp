@@ -1,5 +1,6 @@
 #include "pluginfixture.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
@@ -95,6 +96,9 @@ private slots:
     void staysSilentAboutOddNames()
     {
         const QStringList names{{}, "..", "a/", QChar(QChar::Null), "file:///", "/dev/null"};
+        // A package without a name isn't the root of the machine. What others left there is none of our business.
+        const auto videosOfTheMachine = [] { return QFileInfo("/videos"_s).birthTime(); };
+        const QDateTime before = videosOfTheMachine();
         for (const QString &name : names) {
             for (const QString &package : {m_directory->path(), QString(), QString(QChar::Null)}) {
                 QDomDocument document;
@@ -110,7 +114,7 @@ private slots:
                 QCOMPARE(element.attribute("xlink:href"), QString());
             }
         }
-        QVERIFY(!QDir("/videos"_s).exists());
+        QCOMPARE(videosOfTheMachine(), before);
         QCOMPARE(QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
                  QStringList("videos"_s));
         QVERIFY(QDir(file("videos")).isEmpty());
