@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Builds the benchmarks and runs them: items, growth, drawings, whole lessons. Takes some minutes. With a word: runs only
 # the benchmark of that name, and hands it the other arguments.
 set -euo pipefail

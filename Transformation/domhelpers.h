@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DOMHELPERS_H
 #define DOMHELPERS_H
 

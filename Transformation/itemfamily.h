@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMFAMILY_H
 #define ITEMFAMILY_H
 

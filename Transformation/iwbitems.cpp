@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwbitems.h"
 
 #include "links.h"

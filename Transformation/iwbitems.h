@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBITEMS_H
 #define IWBITEMS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "keypaths.h"
 
 #include <QJsonArray>

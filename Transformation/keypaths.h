@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef KEYPATHS_H
 #define KEYPATHS_H
 

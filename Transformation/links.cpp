@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "links.h"
 
 #include "packagefiles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LINKS_H
 #define LINKS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "markupbuilder.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MARKUPBUILDER_H
 #define MARKUPBUILDER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mathsvg.h"
 
 #include "numbertext.h"

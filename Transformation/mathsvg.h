@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MATHSVG_H
 #define MATHSVG_H
 

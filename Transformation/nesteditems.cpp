@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "nesteditems.h"
 
 #include "xmlplaces.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef NESTEDITEMS_H
 #define NESTEDITEMS_H
 

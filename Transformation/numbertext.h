@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef NUMBERTEXT_H
 #define NUMBERTEXT_H
 

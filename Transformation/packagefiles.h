@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PACKAGEFILES_H
 #define PACKAGEFILES_H
 

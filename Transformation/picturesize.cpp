@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "picturesize.h"
 
 #include "packagefiles.h"

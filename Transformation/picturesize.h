@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PICTURESIZE_H
 #define PICTURESIZE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "slideactivity.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDEACTIVITY_H
 #define SLIDEACTIVITY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transformationplugin.h"
 
 #include "iwbitems.h"

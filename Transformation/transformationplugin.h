@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TRANSFORMATIONPLUGIN_H
 #define TRANSFORMATIONPLUGIN_H
 

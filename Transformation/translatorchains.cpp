@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "translatorchains.h"
 
 #include "zqactivityitemtran.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TRANSLATORCHAINS_H
 #define TRANSLATORCHAINS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "xmlplaces.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef XMLPLACES_H
 #define XMLPLACES_H
 

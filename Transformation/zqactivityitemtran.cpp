@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqactivityitemtran.h"
 
 #include "domhelpers.h"

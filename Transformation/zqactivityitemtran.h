@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQACTIVITYITEMTRAN_H
 #define ZQACTIVITYITEMTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqbasicgraphitemtran.h"
 
 #include "domhelpers.h"

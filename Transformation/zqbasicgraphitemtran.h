@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQBASICGRAPHITEMTRAN_H
 #define ZQBASICGRAPHITEMTRAN_H
 

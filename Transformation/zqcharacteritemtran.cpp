@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqcharacteritemtran.h"
 
 #include "domhelpers.h"

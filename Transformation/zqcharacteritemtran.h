@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQCHARACTERITEMTRAN_H
 #define ZQCHARACTERITEMTRAN_H
 

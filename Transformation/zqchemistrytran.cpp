@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqchemistrytran.h"
 
 const FamilyVocabulary &ZQChemistryTran::vocabulary()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQCHEMISTRYTRAN_H
 #define ZQCHEMISTRYTRAN_H
 

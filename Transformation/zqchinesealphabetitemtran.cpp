@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqchinesealphabetitemtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqcomitemcontroltran.h"
 
 #include "domhelpers.h"

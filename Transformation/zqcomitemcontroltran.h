@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQCOMITEMCONTROLTRAN_H
 #define ZQCOMITEMCONTROLTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqcomplexortran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQCOMPLEXORTRAN_H
 #define ZQCOMPLEXORTRAN_H
 

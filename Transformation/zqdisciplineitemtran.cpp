@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqdisciplineitemtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQDISCIPLINEITEMTRAN_H
 #define ZQDISCIPLINEITEMTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqfiguretran.h"
 
 #include "zqcomplexortran.h"

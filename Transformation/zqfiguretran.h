@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQFIGURETRAN_H
 #define ZQFIGURETRAN_H
 

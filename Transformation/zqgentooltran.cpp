@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqgentooltran.h"
 
 #include "domhelpers.h"

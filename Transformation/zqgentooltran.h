@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQGENTOOLTRAN_H
 #define ZQGENTOOLTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqgroupitemtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQGROUPITEMTRAN_H
 #define ZQGROUPITEMTRAN_H
 

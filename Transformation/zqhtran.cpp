@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqhtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQHTRAN_H
 #define ZQHTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqinkstroketran.h"
 
 ZQInkStrokeTran::ZQInkStrokeTran(const QString &type)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQINKSTROKETRAN_H
 #define ZQINKSTROKETRAN_H
 

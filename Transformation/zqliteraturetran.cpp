@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqliteraturetran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQLITERATURETRAN_H
 #define ZQLITERATURETRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqmathematicstran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQMATHEMATICSTRAN_H
 #define ZQMATHEMATICSTRAN_H
 

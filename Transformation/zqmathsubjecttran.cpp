@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqmathsubjecttran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQMATHSUBJECTTRAN_H
 #define ZQMATHSUBJECTTRAN_H
 

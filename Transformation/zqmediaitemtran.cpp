@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqmediaitemtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQMEDIAITEMTRAN_H
 #define ZQMEDIAITEMTRAN_H
 

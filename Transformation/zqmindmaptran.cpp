@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqmindmaptran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQMINDMAPTRAN_H
 #define ZQMINDMAPTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqphoneticitemtran.h"
 
 #include "domhelpers.h"

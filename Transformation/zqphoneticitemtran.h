@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQPHONETICITEMTRAN_H
 #define ZQPHONETICITEMTRAN_H
 

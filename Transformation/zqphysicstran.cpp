@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqphysicstran.h"
 
 const FamilyVocabulary &ZQPhysicsTran::vocabulary()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQPHYSICSTRAN_H
 #define ZQPHYSICSTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqprestran.h"
 
 #include "domhelpers.h"

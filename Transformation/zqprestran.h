@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQPRESTRAN_H
 #define ZQPRESTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqquestionsitemtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQQUESTIONSITEMTRAN_H
 #define ZQQUESTIONSITEMTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqslidetran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQSLIDETRAN_H
 #define ZQSLIDETRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqstrokestran.h"
 
 #include "domhelpers.h"

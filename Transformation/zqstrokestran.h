@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQSTROKESTRAN_H
 #define ZQSTROKESTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqtextboxtran.h"
 
 #include "domhelpers.h"

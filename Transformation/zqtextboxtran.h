@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQTEXTBOXTRAN_H
 #define ZQTEXTBOXTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zqwordlatticeitemtran.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQWORDLATTICEITEMTRAN_H
 #define ZQWORDLATTICEITEMTRAN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itemfamilies.h"
 #include "itempictures.h"
 #include "ratiobench.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ratiobench.h"
 
 // Conversions of single items against parsing the XML of the very same item.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ratiobench.h"
 
 #include <QDomDocument>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RATIOBENCH_H
 #define RATIOBENCH_H
 

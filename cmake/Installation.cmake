@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What an editor's developer and an administrator get: headers, a CMake package, a pkg-config file, the manual page, the
 # completion of shells, what file managers know of lessons, and a package for Debian. The plug-in and the command install
 # themselves.

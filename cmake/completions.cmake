@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Has the command write the completion of each shell into FOLDER.
 file(MAKE_DIRECTORY ${FOLDER})
 foreach(shell bash zsh fish)

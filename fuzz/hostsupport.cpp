@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hostsupport.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef HOSTSUPPORT_H
 #define HOSTSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzzsupport.h"
 
 // Any XML as an svg item to import, with and without a package, and what comes out exported and imported again.

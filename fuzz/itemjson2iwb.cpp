@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "domhelpers.h"
 #include "fuzzsupport.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mutation.h"
 
 #include "domhelpers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MUTATION_H
 #define MUTATION_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzzsupport.h"
 
 // Slides and presentations in all five directions: any XML as one to read, any object as one to write, and back.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Takes every word out of the plug-in's sources: the types, keys, tags and attributes of its tables, and the texts that
 # its conversions look for. Writes them as a dictionary of libFuzzer and as rows of a table for the mutations.
 #

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WRITEWATCH_H
 #define WRITEWATCH_H
 

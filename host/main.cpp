@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/command.h"
 #include "command/terminal.h"
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBTEXTINFO_H
 #define IWBTEXTINFO_H
 

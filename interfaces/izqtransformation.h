@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IZQTRANSFORMATION_H
 #define IZQTRANSFORMATION_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef HOSTFIXTURE_H
 #define HOSTFIXTURE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lessondifference.h"
 
 #include "lesson/itemtypes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONDIFFERENCE_H
 #define LESSONDIFFERENCE_H
 

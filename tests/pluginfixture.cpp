@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pluginfixture.h"
 
 #include <QBuffer>

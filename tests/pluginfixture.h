@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLUGINFIXTURE_H
 #define PLUGINFIXTURE_H
 

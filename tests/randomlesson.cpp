@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "randomlesson.h"
 
 #include "itemfamilies.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RANDOMLESSON_H
 #define RANDOMLESSON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTTABLE_H
 #define TESTTABLE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hostfixture.h"
 #include "testtable.h"
 

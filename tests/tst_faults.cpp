@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/workfolder.h"
 #include "hostfixture.h"
 #include "ziptext.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/ziparchive.h"
 #include "hostfixture.h"
 #include "ziptext.h"

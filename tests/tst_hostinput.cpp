@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/folder.h"
 #include "hostfixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "formats/zqtxitems.h"

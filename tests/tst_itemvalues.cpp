@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/zqtxitems.h"
 #include "hostfixture.h"
 #include "lesson/fontvalues.h"

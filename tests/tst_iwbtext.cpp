@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/textrunloan.h"
 #include "lesson/textruns.h"
 #include "pluginfixture.h"

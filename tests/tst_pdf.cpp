@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hostfixture.h"
 
 #define POINTERHOLDER_TRANSITION 4

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwbtextinfo.h"
 #include "pluginfixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hostfixture.h"
 #include "iwb/iwbmedia.h"
 #include "render/activitydrawing.h"

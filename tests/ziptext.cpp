@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ziptext.h"
 
 #include <QtEndian>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZIPTEXT_H
 #define ZIPTEXT_H
 

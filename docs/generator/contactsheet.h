@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CONTACTSHEET_H
 #define CONTACTSHEET_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itemfamilies.h"
 
 #include "translatorchains.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMFAMILIES_H
 #define ITEMFAMILIES_H
 

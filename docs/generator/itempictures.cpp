@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itempictures.h"
 
 #include "typicalitems.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMPICTURES_H
 #define ITEMPICTURES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "sampleitems.h"
 
 #include "itemfamilies.h"

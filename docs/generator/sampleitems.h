@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SAMPLEITEMS_H
 #define SAMPLEITEMS_H
 

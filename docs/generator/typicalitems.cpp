@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "typicalitems.h"
 
 #include "itemfamilies.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TYPICALITEMS_H
 #define TYPICALITEMS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The least a host does: load the plug-in, write an item as ZQTX, read it back.
 #include <izqtransformation.h>
 

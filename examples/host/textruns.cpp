@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text boards in IWB: the texts travel beside the item, as a list of runs in memory.
 #include <iwbtextinfo.h>
 #include <izqtransformation.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/batchjournal.h"
 
 #include "files/inputfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BATCHJOURNAL_H
 #define BATCHJOURNAL_H
 

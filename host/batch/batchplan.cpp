@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/batchplan.h"
 
 #include "files/folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BATCHPLAN_H
 #define BATCHPLAN_H
 

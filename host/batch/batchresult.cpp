@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/batchresult.h"
 
 #include "batch/batchplan.h"

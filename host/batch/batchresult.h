@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BATCHRESULT_H
 #define BATCHRESULT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/interruptions.h"
 
 #include <pthread.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INTERRUPTIONS_H
 #define INTERRUPTIONS_H
 

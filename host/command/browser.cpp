@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/browser.h"
 
 #include "files/lessonerror.h"

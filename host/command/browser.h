@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BROWSER_H
 #define BROWSER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/command.h"
 
 #include "batch/batch.h"

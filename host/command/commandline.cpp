@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/commandline.h"
 
 #include "files/lessonerror.h"

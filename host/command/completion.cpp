@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/completion.h"
 
 #include "command/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef COMPLETION_H
 #define COMPLETION_H
 

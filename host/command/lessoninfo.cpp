@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/lessoninfo.h"
 
 #include "files/packagenames.h"

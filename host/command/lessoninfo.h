@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONINFO_H
 #define LESSONINFO_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/pluginhost.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLUGINHOST_H
 #define PLUGINHOST_H
 

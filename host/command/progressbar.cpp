@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/progressbar.h"
 
 #include <QByteArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PROGRESSBAR_H
 #define PROGRESSBAR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command/standardstreams.h"
 
 #include "command/terminal.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef STANDARDSTREAMS_H
 #define STANDARDSTREAMS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CHECKSUM_H
 #define CHECKSUM_H
 

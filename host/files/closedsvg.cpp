@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/closedsvg.h"
 
 #include "files/drawingbounds.h"

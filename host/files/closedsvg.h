@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CLOSEDSVG_H
 #define CLOSEDSVG_H
 

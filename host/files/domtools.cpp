@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/domtools.h"
 
 #include <QDomDocument>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DOMTOOLS_H
 #define DOMTOOLS_H
 

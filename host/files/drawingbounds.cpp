@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/drawingbounds.h"
 
 #include <QRegularExpression>

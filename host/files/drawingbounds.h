@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DRAWINGBOUNDS_H
 #define DRAWINGBOUNDS_H
 

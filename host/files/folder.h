@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FOLDER_H
 #define FOLDER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INPUTFILE_H
 #define INPUTFILE_H
 

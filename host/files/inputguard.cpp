@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/inputguard.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INPUTGUARD_H
 #define INPUTGUARD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONERROR_H
 #define LESSONERROR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/lessonfiles.h"
 
 #include "files/packagenames.h"

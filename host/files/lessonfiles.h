@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONFILES_H
 #define LESSONFILES_H
 

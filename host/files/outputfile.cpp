@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/outputfile.h"
 
 #include "files/inputfile.h"

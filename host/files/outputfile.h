@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef OUTPUTFILE_H
 #define OUTPUTFILE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/packagenames.h"
 
 #include <QStringList>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PACKAGENAMES_H
 #define PACKAGENAMES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/packagesource.h"
 
 #include "files/folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PACKAGESOURCE_H
 #define PACKAGESOURCE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/packagetarget.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PACKAGETARGET_H
 #define PACKAGETARGET_H
 

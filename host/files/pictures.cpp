@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/pictures.h"
 
 #include "files/checksum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PICTURES_H
 #define PICTURES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/workfolder.h"
 
 #include "files/folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WORKFOLDER_H
 #define WORKFOLDER_H
 

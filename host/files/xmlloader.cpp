@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/xmlloader.h"
 
 #include "files/inputfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef XMLLOADER_H
 #define XMLLOADER_H
 

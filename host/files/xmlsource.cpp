@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/xmlsource.h"
 
 #include "files/xmlloader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef XMLSOURCE_H
 #define XMLSOURCE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/xmltext.h"
 
 #include <QDomElement>

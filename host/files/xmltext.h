@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef XMLTEXT_H
 #define XMLTEXT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/ziparchive.h"
 
 #include "files/checksum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZIPARCHIVE_H
 #define ZIPARCHIVE_H
 

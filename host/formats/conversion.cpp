@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/conversion.h"
 
 #include "files/inputguard.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CONVERSION_H
 #define CONVERSION_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/lessonformats.h"
 
 #include "files/inputfile.h"

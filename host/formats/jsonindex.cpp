@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/jsonindex.h"
 
 #include "files/lessonerror.h"

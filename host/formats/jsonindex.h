@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef JSONINDEX_H
 #define JSONINDEX_H
 

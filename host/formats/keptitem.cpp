@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/keptitem.h"
 
 #include "files/xmltext.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef KEPTITEM_H
 #define KEPTITEM_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/lessoncontent.h"
 
 #include "files/inputfile.h"

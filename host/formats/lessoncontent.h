@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONCONTENT_H
 #define LESSONCONTENT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONFORMATS_H
 #define LESSONFORMATS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/rawattributes.h"
 
 #include "izqtransformation.h"

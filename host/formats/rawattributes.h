@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RAWATTRIBUTES_H
 #define RAWATTRIBUTES_H
 

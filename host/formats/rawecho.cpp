@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/rawecho.h"
 
 #include "files/domtools.h"

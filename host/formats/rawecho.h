@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RAWECHO_H
 #define RAWECHO_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "formats/zqtxitems.h"
 
 #include "files/domtools.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ZQTXITEMS_H
 #define ZQTXITEMS_H
 

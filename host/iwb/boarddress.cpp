@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/boarddress.h"
 
 #include "lesson/itemvalues.h"

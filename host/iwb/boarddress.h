@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BOARDDRESS_H
 #define BOARDDRESS_H
 

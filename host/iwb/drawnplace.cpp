@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/drawnplace.h"
 
 #include "iwb/shapeplacing.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DRAWNPLACE_H
 #define DRAWNPLACE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/elementmark.h"
 
 #include "svg/iwbpage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ELEMENTMARK_H
 #define ELEMENTMARK_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbitemreader.h"
 
 #include "iwb/textrunloan.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBITEMREADER_H
 #define IWBITEMREADER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbitemwriter.h"
 
 #include "files/pictures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBITEMWRITER_H
 #define IWBITEMWRITER_H
 

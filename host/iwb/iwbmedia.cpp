@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbmedia.h"
 
 namespace lessonhost {

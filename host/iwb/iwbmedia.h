@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBMEDIA_H
 #define IWBMEDIA_H
 

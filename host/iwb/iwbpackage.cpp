@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbpackage.h"
 
 #include "files/inputfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBPACKAGE_H
 #define IWBPACKAGE_H
 

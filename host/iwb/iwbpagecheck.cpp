@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbpagecheck.h"
 
 #include "iwb/boarddress.h"

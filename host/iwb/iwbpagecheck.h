@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBPAGECHECK_H
 #define IWBPAGECHECK_H
 

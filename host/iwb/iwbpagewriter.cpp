@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbpagewriter.h"
 
 #include "files/packagenames.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBPAGEWRITER_H
 #define IWBPAGEWRITER_H
 

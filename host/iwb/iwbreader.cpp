@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbreader.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBREADER_H
 #define IWBREADER_H
 

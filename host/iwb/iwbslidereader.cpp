@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbslidereader.h"
 
 #include "files/pictures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBSLIDEREADER_H
 #define IWBSLIDEREADER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/iwbwriter.h"
 
 #include "files/inputfile.h"

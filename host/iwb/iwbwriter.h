@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBWRITER_H
 #define IWBWRITER_H
 

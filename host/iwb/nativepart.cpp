@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/nativepart.h"
 
 #include "files/inputfile.h"

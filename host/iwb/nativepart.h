@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef NATIVEPART_H
 #define NATIVEPART_H
 

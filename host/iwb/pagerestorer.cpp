@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/pagerestorer.h"
 
 #include "iwb/elementmark.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PAGERESTORER_H
 #define PAGERESTORER_H
 

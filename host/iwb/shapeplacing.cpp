@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/shapeplacing.h"
 
 #include "lesson/planegeometry.h"

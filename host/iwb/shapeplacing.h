@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SHAPEPLACING_H
 #define SHAPEPLACING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/slidenames.h"
 
 #include "files/packagenames.h"

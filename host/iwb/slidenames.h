@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDENAMES_H
 #define SLIDENAMES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iwb/textrunloan.h"
 
 #include <QSet>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TEXTRUNLOAN_H
 #define TEXTRUNLOAN_H
 

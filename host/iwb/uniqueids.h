@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef UNIQUEIDS_H
 #define UNIQUEIDS_H
 

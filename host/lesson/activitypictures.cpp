@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/activitypictures.h"
 
 #include "files/packagenames.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ACTIVITYPICTURES_H
 #define ACTIVITYPICTURES_H
 

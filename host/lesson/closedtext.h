@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CLOSEDTEXT_H
 #define CLOSEDTEXT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/fontshere.h"
 
 #include "lesson/fontvalues.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FONTSHERE_H
 #define FONTSHERE_H
 

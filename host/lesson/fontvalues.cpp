@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/fontvalues.h"
 
 #include <QRegularExpression>

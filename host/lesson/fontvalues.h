@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FONTVALUES_H
 #define FONTVALUES_H
 

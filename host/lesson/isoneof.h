@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ISONEOF_H
 #define ISONEOF_H
 

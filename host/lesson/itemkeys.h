@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMKEYS_H
 #define ITEMKEYS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/itemplace.h"
 
 #include "lesson/planegeometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMPLACE_H
 #define ITEMPLACE_H
 

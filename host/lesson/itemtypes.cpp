@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/itemtypes.h"
 
 #include "lesson/isoneof.h"

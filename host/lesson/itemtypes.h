@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMTYPES_H
 #define ITEMTYPES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/itemvalues.h"
 
 #include "lesson/itemkeys.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMVALUES_H
 #define ITEMVALUES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/itemview.h"
 
 #include "lesson/planegeometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMVIEW_H
 #define ITEMVIEW_H
 

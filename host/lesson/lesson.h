@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSON_H
 #define LESSON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/listentries.h"
 
 #include "lesson/itemvalues.h"

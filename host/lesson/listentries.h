@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LISTENTRIES_H
 #define LISTENTRIES_H
 

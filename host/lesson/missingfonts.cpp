@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/missingfonts.h"
 
 #include "lesson/fontshere.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MISSINGFONTS_H
 #define MISSINGFONTS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/pageplace.h"
 
 #include "lesson/itemtypes.h"

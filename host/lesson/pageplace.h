@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PAGEPLACE_H
 #define PAGEPLACE_H
 

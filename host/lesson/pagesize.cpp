@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/pagesize.h"
 
 #include "lesson/itemvalues.h"

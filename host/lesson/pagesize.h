@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PAGESIZE_H
 #define PAGESIZE_H
 

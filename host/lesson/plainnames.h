@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLAINNAMES_H
 #define PLAINNAMES_H
 

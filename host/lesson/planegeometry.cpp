@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/planegeometry.h"
 
 #include <cmath>

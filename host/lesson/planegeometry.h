@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLANEGEOMETRY_H
 #define PLANEGEOMETRY_H
 

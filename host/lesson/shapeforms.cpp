@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/shapeforms.h"
 
 #include "lesson/itemkeys.h"

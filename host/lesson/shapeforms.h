@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SHAPEFORMS_H
 #define SHAPEFORMS_H
 

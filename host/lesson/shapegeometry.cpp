@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/shapegeometry.h"
 
 #include "lesson/planegeometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SHAPEGEOMETRY_H
 #define SHAPEGEOMETRY_H
 

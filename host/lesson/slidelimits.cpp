@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/slidelimits.h"
 
 #include "files/lessonerror.h"

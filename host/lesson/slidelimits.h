@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDELIMITS_H
 #define SLIDELIMITS_H
 

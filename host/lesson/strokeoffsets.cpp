@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/strokeoffsets.h"
 
 #include "lesson/itemvalues.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef STROKEOFFSETS_H
 #define STROKEOFFSETS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/textruns.h"
 
 #include "files/xmltext.h"

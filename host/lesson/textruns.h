@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TEXTRUNS_H
 #define TEXTRUNS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lesson/writableforms.h"
 
 #include "files/xmltext.h"

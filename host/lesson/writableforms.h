@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WRITABLEFORMS_H
 #define WRITABLEFORMS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/attributes.h"
 
 namespace lessonhost {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ATTRIBUTES_H
 #define ATTRIBUTES_H
 

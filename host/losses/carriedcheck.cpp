@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/carriedcheck.h"
 
 #include "losses/attributes.h"

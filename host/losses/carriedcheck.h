@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CARRIEDCHECK_H
 #define CARRIEDCHECK_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/comparison.h"
 
 #include "lesson/itemkeys.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef COMPARISON_H
 #define COMPARISON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef EQUIVALENCE_H
 #define EQUIVALENCE_H
 

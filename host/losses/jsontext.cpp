@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/jsontext.h"
 
 #include "losses/comparison.h"

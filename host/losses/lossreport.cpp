@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/lossreport.h"
 
 #include <QHash>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOSSREPORT_H
 #define LOSSREPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/modelvalues.h"
 
 #include "files/lessonerror.h"

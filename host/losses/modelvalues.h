@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MODELVALUES_H
 #define MODELVALUES_H
 

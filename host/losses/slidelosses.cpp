@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "losses/slidelosses.h"
 
 #include "lesson/itemkeys.h"

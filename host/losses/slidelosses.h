@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDELOSSES_H
 #define SLIDELOSSES_H
 

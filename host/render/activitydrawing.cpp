@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/activitydrawing.h"
 
 #include "render/chips.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ACTIVITYDRAWING_H
 #define ACTIVITYDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/arrowhead.h"
 
 namespace lessonhost {

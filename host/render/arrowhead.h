@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ARROWHEAD_H
 #define ARROWHEAD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pdfpages.h"
 
 #include <cairo-pdf.h>

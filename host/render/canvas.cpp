@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/canvas.h"
 
 #include "lesson/planegeometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/chips.h"
 
 #include "lesson/closedtext.h"

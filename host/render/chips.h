@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CHIPS_H
 #define CHIPS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/coverdrawing.h"
 
 #include "files/drawingbounds.h"

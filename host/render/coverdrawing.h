@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef COVERDRAWING_H
 #define COVERDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/differencepage.h"
 
 #include "render/slidepictures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DIFFERENCEPAGE_H
 #define DIFFERENCEPAGE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/drawings.h"
 
 #include "lesson/planegeometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DRAWINGS_H
 #define DRAWINGS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/exercisedrawing.h"
 
 #include "lesson/listentries.h"

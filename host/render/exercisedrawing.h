@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef EXERCISEDRAWING_H
 #define EXERCISEDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/formulabox.h"
 
 #include "lesson/fontshere.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FORMULABOX_H
 #define FORMULABOX_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/formuladrawing.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FORMULADRAWING_H
 #define FORMULADRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/formulalayout.h"
 
 #include "render/outline.h"

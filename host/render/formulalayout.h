@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FORMULALAYOUT_H
 #define FORMULALAYOUT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef FORMULASIGNS_H
 #define FORMULASIGNS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/gamedrawing.h"
 
 #include "lesson/activitypictures.h"

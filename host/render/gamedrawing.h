@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef GAMEDRAWING_H
 #define GAMEDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/graphdrawing.h"
 
 #include "lesson/planegeometry.h"

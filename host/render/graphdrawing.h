@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef GRAPHDRAWING_H
 #define GRAPHDRAWING_H
 

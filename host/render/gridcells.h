@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef GRIDCELLS_H
 #define GRIDCELLS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/htmlpictures.h"
 
 #include "files/xmltext.h"

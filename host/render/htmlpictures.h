@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef HTMLPICTURES_H
 #define HTMLPICTURES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/inkdrawing.h"
 
 #include "lesson/itemtypes.h"

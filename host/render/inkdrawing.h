@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INKDRAWING_H
 #define INKDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/inkpath.h"
 
 #include "files/drawingbounds.h"

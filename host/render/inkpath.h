@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INKPATH_H
 #define INKPATH_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/innersvg.h"
 
 #include "files/drawingbounds.h"

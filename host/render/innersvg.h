@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INNERSVG_H
 #define INNERSVG_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INSTRUMENTDRAWING_H
 #define INSTRUMENTDRAWING_H
 

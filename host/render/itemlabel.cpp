@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/itemlabel.h"
 
 #include "lesson/closedtext.h"

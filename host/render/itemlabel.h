@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMLABEL_H
 #define ITEMLABEL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef ITEMOUTLINE_H
 #define ITEMOUTLINE_H
 

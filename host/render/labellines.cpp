@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/labellines.h"
 
 #include "lesson/fontshere.h"

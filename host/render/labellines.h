@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LABELLINES_H
 #define LABELLINES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/languagedrawing.h"
 
 #include "lesson/closedtext.h"

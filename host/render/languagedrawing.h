@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LANGUAGEDRAWING_H
 #define LANGUAGEDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/lessonpage.h"
 
 #include "files/inputfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONPAGE_H
 #define LESSONPAGE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/lessontext.h"
 
 #include "lesson/fontshere.h"

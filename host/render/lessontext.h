@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LESSONTEXT_H
 #define LESSONTEXT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/levelliquid.h"
 
 #include <QPolygonF>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LEVELLIQUID_H
 #define LEVELLIQUID_H
 

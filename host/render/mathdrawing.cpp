@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/mathdrawing.h"
 
 #include "render/itemoutline.h"

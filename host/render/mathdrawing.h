@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MATHDRAWING_H
 #define MATHDRAWING_H
 

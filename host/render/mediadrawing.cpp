@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/mediadrawing.h"
 
 #include "lesson/plainnames.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MEDIADRAWING_H
 #define MEDIADRAWING_H
 

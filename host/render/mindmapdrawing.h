@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef MINDMAPDRAWING_H
 #define MINDMAPDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef NAMEDBOXES_H
 #define NAMEDBOXES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/outline.h"
 
 #include <QByteArrayList>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pagefiles.h"
 
 #include "files/inputfile.h"

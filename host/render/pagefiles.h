@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PAGEFILES_H
 #define PAGEFILES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pagelinks.h"
 
 #include "iwb/iwbmedia.h"

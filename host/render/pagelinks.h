@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PAGELINKS_H
 #define PAGELINKS_H
 

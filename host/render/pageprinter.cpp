@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pageprinter.h"
 
 #include "render/picturestore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PAGEPRINTER_H
 #define PAGEPRINTER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pdflibrary.h"
 
 #include "files/lessonerror.h"

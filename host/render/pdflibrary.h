@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PDFLIBRARY_H
 #define PDFLIBRARY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pdfoutput.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PDFOUTPUT_H
 #define PDFOUTPUT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PDFPAGES_H
 #define PDFPAGES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/pictureoutput.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PICTUREOUTPUT_H
 #define PICTUREOUTPUT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/picturestore.h"
 
 #include "files/xmlloader.h"

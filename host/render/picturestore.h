@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PICTURESTORE_H
 #define PICTURESTORE_H
 

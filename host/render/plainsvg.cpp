@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/plainsvg.h"
 
 #include "files/closedsvg.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLAINSVG_H
 #define PLAINSVG_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/playsteps.h"
 
 #include "lesson/itemview.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLAYSTEPS_H
 #define PLAYSTEPS_H
 

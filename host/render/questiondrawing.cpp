@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/questiondrawing.h"
 
 #include "lesson/closedtext.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef QUESTIONDRAWING_H
 #define QUESTIONDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/rendering.h"
 
 #include "files/lessonerror.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RENDERING_H
 #define RENDERING_H
 

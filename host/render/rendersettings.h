@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RENDERSETTINGS_H
 #define RENDERSETTINGS_H
 

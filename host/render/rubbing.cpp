@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/rubbing.h"
 
 #include <algorithm>

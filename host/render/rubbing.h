@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef RUBBING_H
 #define RUBBING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/scale.h"
 
 #include "lesson/planegeometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCALE_H
 #define SCALE_H
 

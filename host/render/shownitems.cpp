@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/shownitems.h"
 
 #include "lesson/itemview.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SHOWNITEMS_H
 #define SHOWNITEMS_H
 

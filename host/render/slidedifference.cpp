@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/slidedifference.h"
 
 #include "lesson/itemtypes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDEDIFFERENCE_H
 #define SLIDEDIFFERENCE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDEFILES_H
 #define SLIDEFILES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/slideitempainter.h"
 
 #include "lesson/itemkeys.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDEITEMPAINTER_H
 #define SLIDEITEMPAINTER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/slidelayers.h"
 
 #include "render/picturestore.h"

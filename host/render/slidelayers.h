@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDELAYERS_H
 #define SLIDELAYERS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDEPICTURES_H
 #define SLIDEPICTURES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/slideplay.h"
 
 #include "iwb/iwbmedia.h"

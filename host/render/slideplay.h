@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SLIDEPLAY_H
 #define SLIDEPLAY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGELEMENTS_H
 #define SVGELEMENTS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/svgpaintdevice.h"
 
 #include "lesson/fontvalues.h"

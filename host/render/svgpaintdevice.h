@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGPAINTDEVICE_H
 #define SVGPAINTDEVICE_H
 

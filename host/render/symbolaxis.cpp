@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/symbolaxis.h"
 
 namespace lessonhost {

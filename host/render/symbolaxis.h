@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SYMBOLAXIS_H
 #define SYMBOLAXIS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/symboldrawing.h"
 
 #include "render/itemoutline.h"

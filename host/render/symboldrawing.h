@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SYMBOLDRAWING_H
 #define SYMBOLDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/symbolfile.h"
 
 #include "files/xmlloader.h"

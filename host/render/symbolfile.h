@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SYMBOLFILE_H
 #define SYMBOLFILE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/symbolrules.h"
 
 #include "render/arrowhead.h"

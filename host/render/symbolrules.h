@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SYMBOLRULES_H
 #define SYMBOLRULES_H
 

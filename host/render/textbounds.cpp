@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/textbounds.h"
 
 #include "render/svgpaintdevice.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TEXTBOUNDS_H
 #define TEXTBOUNDS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/textdrawing.h"
 
 #include "lesson/itemtypes.h"

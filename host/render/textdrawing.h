@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TEXTDRAWING_H
 #define TEXTDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TEXTLANGUAGE_H
 #define TEXTLANGUAGE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "render/vectordrawing.h"
 
 #include "files/drawingbounds.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef VECTORDRAWING_H
 #define VECTORDRAWING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef IWBPAGE_H
 #define IWBPAGE_H
 

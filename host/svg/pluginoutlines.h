@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef PLUGINOUTLINES_H
 #define PLUGINOUTLINES_H
 

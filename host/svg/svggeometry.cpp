@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svggeometry.h"
 
 #include "lesson/itemvalues.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGGEOMETRY_H
 #define SVGGEOMETRY_H
 

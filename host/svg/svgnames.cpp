@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgnames.h"
 
 namespace lessonhost {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGNAMES_H
 #define SVGNAMES_H
 

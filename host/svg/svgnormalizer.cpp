@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgnormalizer.h"
 
 #include "svg/svgnames.h"

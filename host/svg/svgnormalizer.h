@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGNORMALIZER_H
 #define SVGNORMALIZER_H
 

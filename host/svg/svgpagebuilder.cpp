@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgpagebuilder.h"
 
 #include "lesson/isoneof.h"

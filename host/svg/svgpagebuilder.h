@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGPAGEBUILDER_H
 #define SVGPAGEBUILDER_H
 

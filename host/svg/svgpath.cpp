@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgpath.h"
 
 #include "svg/svgnames.h"

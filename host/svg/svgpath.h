@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGPATH_H
 #define SVGPATH_H
 

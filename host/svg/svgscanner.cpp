@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgscanner.h"
 
 #include <cmath>

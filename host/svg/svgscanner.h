@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGSCANNER_H
 #define SVGSCANNER_H
 

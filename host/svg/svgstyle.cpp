@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgstyle.h"
 
 #include "lesson/planegeometry.h"

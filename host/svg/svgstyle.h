@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGSTYLE_H
 #define SVGSTYLE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgtext.h"
 
 #include "lesson/fontvalues.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGTEXT_H
 #define SVGTEXT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "svg/svgvalues.h"
 
 #include "svg/svgscanner.h"

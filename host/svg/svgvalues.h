@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SVGVALUES_H
 #define SVGVALUES_H
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Gives lessons in a browser, as a teacher does, and looks at what is seen.
 
   check.py LESSONCONV

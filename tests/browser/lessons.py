@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Lessons for the tests in a browser."""
 
 import base64

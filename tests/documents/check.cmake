@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Makes the documents anew and compares them with those of the tree.
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes one call of the system fail, as a full or broken disk does. Loaded into the command by LD_PRELOAD.
 //
 //   FAULT_FOLDER   calls that change something below this folder are counted, those of worker processes as well

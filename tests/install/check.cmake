@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Installs into a fresh folder, builds the example hosts against what is there and runs them.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK})

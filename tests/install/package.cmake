@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Makes the package for Debian, unpacks it, builds the example hosts against it and runs its command.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK})

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What the checks of an installation share.
 
 # step(COMMAND...): runs it and stops with its output if it fails; leaves the output in "output".

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs what README.md shows behind "$", in its order and in one shell, and compares what comes with what stands there.
 # For that, what was built is installed as the README tells.
 #

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # No file of the host includes a room above its own or beside it.
 #
 #   cmake -DHOST=folder -P check.cmake

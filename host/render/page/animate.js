@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** What moves on a slide: its steps in their order, and those that items start when they are clicked. */
 const Animate = (() => {
   const duration = 600;

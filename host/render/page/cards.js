@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** What is turned over: cards to flip, flash cards, and questions that have an answer. */
 const Cards = (() => {
   /** A click turns the card: its back, which is drawn behind it, takes the place of its front. */

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** How one slide takes the place of another: plain equivalents of the effects that slides have. */
 const Changes = (() => {
   const duration = 500;

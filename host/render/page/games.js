@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** Exercises and the games of slides: sorting, connecting, judging, comparing and reading aloud. */
 const Games = (() => {
   function shuffled(list) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** Drawing over slides, and rubbing it out. What was drawn stays while the page is open. */
 const Ink = (() => {
   const colors = [['#c62828', 'red'], ['#1f3a93', 'blue'], ['#1b7a34', 'green'], ['#111111', 'black']];

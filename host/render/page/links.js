@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** Where items lead: to a page, to the web, to a file, or to a hint. */
 const Links = (() => {
   /** A link that is opened apart, by the browser. */

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** Sounds and films in their places, and other files to open. */
 const Media = (() => {
   /** In the place of what the browser can't play. */

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** Shows one slide after the other, and is what everything else is started from. */
 const Present = (() => {
   const { slides } = Lesson;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** What all parts of the page work with: elements, places on a slide, the pointer, and messages. */
 const Stage = (() => {
   const svgSpace = 'http://www.w3.org/2000/svg';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** The tools of a board: a curtain, a spotlight, instruments to measure with, and pieces to move. */
 const Tools = (() => {
   const clamp = (value, least, most) => Math.min(Math.max(value, least), most);
