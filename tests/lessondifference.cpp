@@ -161,6 +161,16 @@ Rest restOfTree(const QString &key, const QJsonValue &given, const QJsonValue &f
     return rest;
 }
 
+// Names of what isn't there, in lists or not.
+bool holdsNothing(const QJsonValue &value)
+{
+    const QJsonObject object = value.toObject();
+    const QJsonArray array = value.toArray();
+    return isNothing(value)
+        || ((value.isObject() || value.isArray()) && std::all_of(object.begin(), object.end(), holdsNothing)
+            && std::all_of(array.begin(), array.end(), holdsNothing));
+}
+
 QString shown(const QJsonValue &value)
 {
     if (value.isUndefined()) {
@@ -346,6 +356,7 @@ struct Item
     bool isLocked;
     bool isWhole = false; // holds items and nothing else
     bool isAroundPlaced = false; // around items with a matrix, which its own box follows
+    int around = -1; // the number of the item that holds it; -1 on the slide
     QStringList childIds = {};
 
     QString id() const { return idText(keys.value("ID")); }
@@ -380,6 +391,7 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
             item.childIds.append(idText(parsed(child.toObject()).value("ID")));
         }
         item.isAroundPlaced = haveMatrix(children);
+        item.around = around;
         all.append(item);
         collect(children, all.size() - 1, road, all);
     }
@@ -451,7 +463,9 @@ private:
             itemKeys(owner, item, back);
         }
         for (int i = 0; i < foundItems.size(); ++i) {
-            if (!places.contains(i)) {
+            const int holder = places.indexOf(foundItems.at(i).around);
+            // What was beside values that are no items is a part of its key.
+            if (!places.contains(i) && (holder < 0 || givenItems.at(holder).isWhole)) {
                 differences.append(
                     {{number, foundItems.at(i).type(), foundItems.at(i).id()}, {}, "nothing", "an item"});
             }
@@ -758,6 +772,28 @@ Rest takeRest(const QString &way, const QString &text, QStringList &others)
     return rest;
 }
 
+// Of several elements of one identifier, any may be the one whose colour has it.
+void removeOpacityInColor(Texts &texts, const QStringList &colorsBack)
+{
+    const QStringList opacities = texts.value("@opacity");
+    for (const QString &opacity : opacities) {
+        for (const QString &back : colorsBack) {
+            const QStringList own = texts.value("@color");
+            const auto color = std::find_if(own.begin(), own.end(), [&](const QString &text) {
+                return QColor(text).isValid() && isOpacityInColor(opacity, text, back);
+            });
+            const bool isColorless = std::none_of(own.begin(), own.end(), [](const QString &text) {
+                return QColor(text).isValid();
+            });
+            if (color != own.end() || (isColorless && isOpacityInColor(opacity, back, back))) {
+                texts["@opacity"].removeOne(opacity);
+                color != own.end() ? texts["@color"].removeOne(*color) : false;
+                break;
+            }
+        }
+    }
+}
+
 void compareTexts(const Said &given, const Said &found, Differences &differences)
 {
     QVector<QPair<QString, QString>> left; // with its way
@@ -808,7 +844,7 @@ Rest restOf(const QString &key, const QJsonValue &given, const QJsonValue &found
     }
     if (isNothing(found)) {
         const bool isImplied = !isNothing(implied) && restOf(key, given, implied, road) != Rest::Less;
-        return isImplied ? Rest::Alike : Rest::Less;
+        return isImplied || holdsNothing(given) ? Rest::Alike : Rest::Less;
     }
     if (key == "TextHtml" && road == Road::Drawn && one && other && isSameHtml(*one, *other)) {
         return Rest::All;
@@ -829,6 +865,9 @@ Rest restOf(const QString &key, const QJsonValue &given, const QJsonValue &found
         return Rest::Alike;
     }
     const Rest rest = restOfTree(key, unfolded(given), unfolded(found), road);
+    if (rest == Rest::Less && holdsNothing(given)) {
+        return Rest::Alike;
+    }
     return given.type() == found.type() ? rest : std::max(rest, Rest::Alike);
 }
 
@@ -846,13 +885,8 @@ Differences documentDifferences(int slide, const QDomElement &given, const QDomE
     Differences differences;
     for (auto it = all.begin(); it != all.end(); ++it) {
         const Said other = others.value(it.key());
-        const auto text = [&it](const char *way) { return it->texts.value(way).value(0); };
-        const QString color = other.texts.value("@color").value(0);
-        const bool hasColor = QColor(text("@color")).isValid();
-        if (other.texts.value("@opacity").isEmpty()
-            && isOpacityInColor(text("@opacity"), hasColor ? text("@color") : color, color)) {
-            it->texts.remove("@opacity");
-            hasColor ? it->texts.remove("@color") : 0;
+        if (other.texts.value("@opacity").isEmpty()) {
+            removeOpacityInColor(it->texts, other.texts.value("@color"));
         }
         compareTexts(*it, other, differences);
     }

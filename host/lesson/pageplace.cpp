@@ -268,10 +268,14 @@ QJsonObject itemInPageForm(QJsonObject item, Placing &placing)
     nameMediaFile(item);
     makeHtml(item);
     item = withoutDoubledWidth(item);
-    const bool isGroup = isContainer(item.value(ItemKeys::type).toString());
-    if (isGroup ? !ItemView(item).children().isEmpty() : !ItemView(item).childObjects().isEmpty()) {
-        placeGroup(item, placing);
-        return item;
+    if (isContainer(item.value(ItemKeys::type).toString())) {
+        if (!ItemView(item).children().isEmpty()) {
+            placeGroup(item, placing);
+            return item;
+        }
+    } else if (!ItemView(item).childObjects().isEmpty()) {
+        // No group, whatever it holds: its box is its own.
+        item.insert(HostKeys::children, itemsInPageForm(item.value(HostKeys::children).toArray(), placing));
     }
     const auto matrix = itemTransform(item.value(ItemKeys::matrix));
     item.remove(ItemKeys::slideMatrix); // its part in the matrix
