@@ -2,12 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Gives lessons in a browser, as a teacher does, and looks at what is seen.
 
-  check.py LESSONCONV
+  check.py LESSONCONV [TEST...]
 
-Ends with 77 where Chromium, its driver or their Python library isn't installed.
+The browser is Chromium, or Firefox with BROWSER=firefox in the environment. Ends with 77 where it, its driver or their
+Python library isn't installed.
 """
 
-import base64
 import json
 import os
 import pathlib
@@ -21,17 +21,15 @@ import unittest
 import lessons
 
 try:
-    from selenium import webdriver
-    from selenium.webdriver.chrome.service import Service
+    import browsers
     from selenium.webdriver.common.action_chains import ActionChains
     from selenium.webdriver.common.actions.action_builder import ActionBuilder
     from selenium.webdriver.common.actions.pointer_input import PointerInput
     from selenium.webdriver.common.by import By
     from selenium.webdriver.common.keys import Keys
+    BROWSER = {"chromium": browsers.Chromium, "firefox": browsers.Firefox}[os.environ.get("BROWSER", "chromium")]
 except ImportError:
-    webdriver = None
-
-BROWSER, DRIVER = shutil.which("chromium"), shutil.which("chromedriver")
+    BROWSER = None
 
 
 class Page(unittest.TestCase):
@@ -40,20 +38,14 @@ class Page(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.folder = pathlib.Path(tempfile.mkdtemp())
-        options = webdriver.ChromeOptions()
-        options.binary_location = BROWSER
-        for word in ("headless=new", "no-sandbox", "disable-gpu", "no-first-run", "disable-background-networking",
-                     "disable-component-update", "disable-sync", "mute-audio", "window-size=800,600",
-                     "autoplay-policy=no-user-gesture-required", f"user-data-dir={cls.folder}/profile"):
-            options.add_argument(f"--{word}")
-        options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
-        cls.driver = webdriver.Chrome(options=options, service=Service(DRIVER))
+        cls.browser = BROWSER(f"{cls.folder}/profile")
+        cls.driver = cls.browser.driver
         cls.pages = {name: cls.render(name, make()) for name, make in
                      (("playing", lessons.playing), ("hostile", lessons.hostile))}
 
     @classmethod
     def tearDownClass(cls):
-        cls.driver.quit()
+        cls.browser.quit()
         shutil.rmtree(cls.folder, ignore_errors=True)
 
     @classmethod
@@ -65,19 +57,17 @@ class Page(unittest.TestCase):
         return page
 
     def tearDown(self):
-        self.driver.execute_cdp_cmd("Emulation.setScriptExecutionDisabled", {"value": False})
+        self.browser.run_scripts(True)
 
     def open(self, address="", name="playing", is_calm=True):
-        features = [{"name": "prefers-reduced-motion", "value": "reduce" if is_calm else "no-preference"}]
-        self.driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": features})
+        self.browser.be_calm(is_calm)
         self.resize(800, 600)
         self.driver.get("about:blank")
-        self.driver.get_log("browser"), self.driver.get_log("performance")
+        self.errors(), self.browser.requests()
         self.driver.get(self.pages[name].as_uri() + address)
 
     def resize(self, width, height):
-        self.driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {
-            "width": width, "height": height, "deviceScaleFactor": 1, "mobile": width < 400})
+        self.browser.resize(width, height)
 
     def js(self, script, *arguments):
         return self.driver.execute_script(script, *arguments)
@@ -109,6 +99,11 @@ class Page(unittest.TestCase):
         mouse.pointer_action.move_to_location(int(x), int(y)).click()
         mouse.perform()
 
+    def click(self, identifier):
+        """Clicks the middle of where an item was drawn."""
+        x, y, width, height = self.box(self.item(identifier))
+        self.click_at(x + width / 2, y + height / 2)
+
     def drag(self, start, end, kind="mouse"):
         hand = ActionBuilder(self.driver, mouse=PointerInput(kind, "hand"), duration=20)
         hand.pointer_action.move_to_location(*map(int, start)).pointer_down()
@@ -126,11 +121,7 @@ class Page(unittest.TestCase):
         return self.driver.find_element(By.TAG_NAME, "dialog")
 
     def errors(self):
-        return [entry["message"] for entry in self.driver.get_log("browser") if entry["level"] in ("SEVERE", "WARNING")]
-
-    def requests(self):
-        events = (json.loads(entry["message"])["message"] for entry in self.driver.get_log("performance"))
-        return [event["params"]["request"]["url"] for event in events if event["method"] == "Network.requestWillBeSent"]
+        return self.browser.errors()
 
 
 class Presenting(Page):
@@ -142,7 +133,8 @@ class Presenting(Page):
                             (("9", "9", Keys.ENTER), 5), (("0", "4", Keys.ENTER), 4)):
             self.press(*keys)
             self.assertEqual(self.shown(), [slide], keys)
-            self.assertEqual(self.js("return location.hash"), f"#{slide}" if slide > 1 or keys != Keys.ARROW_LEFT else "")
+            address = f"#{slide}" if slide > 1 or keys != Keys.ARROW_LEFT else ""
+            self.assertEqual(self.js("return location.hash"), address)
         self.assertEqual(self.driver.title, "4 – A <lesson> & more")
         self.assertEqual(self.errors(), [])
 
@@ -183,7 +175,8 @@ class Presenting(Page):
 
     def test_full_screen(self):
         self.open()
-        for press in (lambda: self.press("f"), self.driver.find_element(By.CSS_SELECTOR, "[title^='Full screen']").click):
+        button = self.driver.find_element(By.CSS_SELECTOR, "[title^='Full screen']")
+        for press in (lambda: self.press("f"), button.click):
             press()
             self.wait(lambda: self.js("return Boolean(document.fullscreenElement)"))
             self.press("f")
@@ -191,11 +184,11 @@ class Presenting(Page):
 
     def test_paper_and_no_script(self):
         self.open("#3")
-        pdf = self.driver.execute_cdp_cmd("Page.printToPDF", {"preferCSSPageSize": True})["data"]
-        self.assertIn(b"/Count 9", base64.b64decode(pdf))
-        self.driver.execute_cdp_cmd("Emulation.setScriptExecutionDisabled", {"value": True})
+        paper = subprocess.run(["pdfinfo", "-"], input=self.browser.paper(), capture_output=True, check=True).stdout
+        self.assertRegex(paper, rb"Pages: +9\n")
+        self.browser.run_scripts(False)
         self.open()
-        self.driver.execute_cdp_cmd("Emulation.setScriptExecutionDisabled", {"value": False})
+        self.browser.run_scripts(True)
         self.assertEqual(self.shown(), list(range(1, 10)))
         tops = [self.box(one)[1] for one in self.driver.find_elements(By.CLASS_NAME, "slide")]
         self.assertTrue(all(a + 300 < b for a, b in zip(tops, tops[1:])), tops)
@@ -236,7 +229,7 @@ class Animating(Page):
 
     def test_items_start_what_they_trigger(self):
         self.open("#3")
-        self.item("k").click()
+        self.click("k")
         self.wait(lambda: not self.is_seen("g1"))
         self.press("r")
         self.assertTrue(self.is_seen("g1"))
@@ -257,7 +250,7 @@ class Animating(Page):
 class Working(Page):
     def test_links(self):
         self.open("#4")
-        self.item("web").click()
+        self.click("web")
         link = self.dialog().find_element(By.TAG_NAME, "a")
         self.assertIn("https://example.org/a?b=c", self.dialog().text)
         self.assertEqual([link.get_attribute(one) for one in ("href", "target", "rel")],
@@ -267,9 +260,9 @@ class Working(Page):
         self.assertEqual(self.dialog().find_element(By.TAG_NAME, "a").get_attribute("href"),
                          (self.folder / "playing_files/page.html.txt").as_uri())
         self.press(Keys.ESCAPE)
-        self.item("evil").click()
+        self.click("evil")
         self.assertEqual(self.driver.find_elements(By.TAG_NAME, "dialog"), [])
-        self.item("next").click()
+        self.click("next")
         self.assertEqual(self.shown(), [6])
         self.assertEqual(self.errors(), [])
 
@@ -299,6 +292,8 @@ class Working(Page):
         self.assertFalse(self.is_seen("under"))
         self.press(Keys.ARROW_UP * 7)
         self.assertTrue(self.is_seen("under"))
+        self.press("4", Keys.ENTER)
+        self.assertEqual(self.shown(), [4])
 
     def test_spotlight_ruler_and_compasses(self):
         self.open("#7")
@@ -326,7 +321,7 @@ class Working(Page):
 
     def test_cards_questions_and_ink(self):
         self.open("#8")
-        self.item("f").click()
+        self.click("f")
         back = self.driver.find_element(By.CSS_SELECTOR, "[data-back=f]")
         self.assertEqual((back.text, back.value_of_css_property("display")), ("fifty-six", "inline"))
         self.assertEqual(self.item("f").value_of_css_property("opacity"), "0")
@@ -375,7 +370,7 @@ class Working(Page):
     def test_exercises_open_where_they_stand(self):
         self.open("#9")
         button = lambda text: self.dialog().find_element(By.XPATH, f".//button[text()='{text}']")
-        self.item("e").click()
+        self.click("e")
         self.press(Keys.ENTER)
         self.assertIn("56\nCard 1 of 2, back", self.dialog().text)
         button("Next").click()
@@ -388,7 +383,7 @@ class Working(Page):
         self.assertIn("Right: 2 of 2. Wrong: 1.", self.dialog().text)
         self.assertEqual(len(self.dialog().find_elements(By.TAG_NAME, "line")), 2)
         self.press(Keys.ESCAPE)
-        self.item("i").click()
+        self.click("i")
         for number, name in (("1", "odd"), ("2", "odd"), ("4", "even")):
             button(number).click()
             button(name).click()
@@ -405,8 +400,8 @@ class Example(Page):
         self.open(name="sounds")
         steps = []
         for _ in range(20):
-            steps.append((self.shown()[0], len(self.js(
-                "return [...document.querySelectorAll('.shown [data-item]')].filter((one) => getComputedStyle(one).display != 'none')"))))
+            steps.append((self.shown()[0], self.js("""return [...document.querySelectorAll('.shown [data-item]')]
+                .filter((one) => getComputedStyle(one).display != 'none').length""")))
             if self.shown() == [2] and steps[-2][0] == 1:
                 self.js("document.querySelector('.shown video').play()")
                 self.wait(lambda: self.js("return document.querySelector('.shown video').currentTime > 0.05"))
@@ -431,14 +426,15 @@ class Hostile(Page):
         self.assertEqual(self.js("""return [...document.querySelectorAll('*')].filter((one) =>
             ['foreignobject', 'iframe', 'link', 'object', 'embed'].includes(one.localName.toLowerCase())
             || [...one.attributes].some((it) => it.name.startsWith('on') || /^\\s*(javascript|file):/i.test(it.value)
-                || (/href|src/.test(it.name) && /^http/.test(it.value)))).map((one) => one.outerHTML.slice(0, 99))"""), [])
-        self.assertEqual([one for one in self.requests() if not one.startswith(("file:", "data:image/"))], [])
+                || (/href|src/.test(it.name) && /^http/.test(it.value))))
+            .map((one) => one.outerHTML.slice(0, 99))"""), [])
+        self.assertEqual([one for one in self.browser.requests() if not one.startswith(("file:", "data:image/"))], [])
         self.assertEqual(self.errors(), [])
 
 
 if __name__ == "__main__":
     LESSONCONV = sys.argv.pop(1)
-    if not (webdriver and BROWSER and DRIVER):
+    if not (BROWSER and all(map(shutil.which, BROWSER.programs))):
         print("Skipped: install chromium, chromium-driver and python3-selenium to see lessons in a browser.")
         sys.exit(77)
     unittest.main(verbosity=2)

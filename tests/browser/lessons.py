@@ -31,7 +31,8 @@ def text(identifier, words, top, **keys):
 
 
 def action(target, mode, kind, **keys):
-    return {"targetID": target, "activeMode": mode, "interactiveType": kind, "activeItem": "slide", "valid": True, **keys}
+    return {"targetID": target, "activeMode": mode, "interactiveType": kind, "activeItem": "slide", "valid": True,
+            **keys}
 
 
 def script(*triggers):
@@ -51,8 +52,9 @@ def playing():
         {"ID": "1", "Items": [text("t", "First slide", 20), box("r", 150, "255,255,0,0")]},
         {"ID": "2", "EffectType": "ID_SLIDE_EFFECT_XZTJ",
          "animations": {"animation": ["a", "b", "a"]},
-         "Items": [box("a", 20, "255,0,0,255", animations={"appearance": {"e": enter + "FLYIN"}, "emphasis": {"e": "blink"},
-                                                          "disappearance": {"e": "ID_OBJANIMATION_OUT_ZOOM"}}),
+         "Items": [box("a", 20, "255,0,0,255", animations={
+                       "appearance": {"e": enter + "FLYIN"}, "emphasis": {"e": "blink"},
+                       "disappearance": {"e": "ID_OBJANIMATION_OUT_ZOOM"}}),
                    box("b", 150, "255,0,128,0")]},
         {"ID": "3", "objAnimationData": script(
             [action("s", "from_previous", enter + "FADE"), action("h", "click", enter + "CIRCLE", scale="1.5"),
@@ -66,7 +68,8 @@ def playing():
             text("next", "Onwards", 10, InteractiveType="ACTION_GOTOSLIDE", InteractiveValue="6"),
             text("web", "Web", 60, InteractiveType="ACTION_OPENWEB", InteractiveValue="https://example.org/a?b=c"),
             text("file", "File", 110, InteractiveType="ACTION_OPENFILE", InteractiveValue="n/page.html"),
-            text("evil", "Evil", 160, InteractiveType="ACTION_OPENWEB", InteractiveValue="javascript:alert(1)//http://x")]},
+            text("evil", "Evil", 160, InteractiveType="ACTION_OPENWEB",
+                 InteractiveValue="javascript:alert(1)//http://x")]},
         {"ID": "5", "Items": [
             {"ID": "m", "Type": "ZQMediaAudio", "resource": "n/tone.wav", "BoundingBox": "20,20,200,100"},
             {"ID": "w", "Type": "ZQMediaVideo", "resource": "n/odd.mpg", "BoundingBox": "210,20,390,140"}]},
@@ -83,8 +86,10 @@ def playing():
              "TextHtml": "<p>fifty-six</p>"},
             {"ID": "u", "Type": "ZQQuestionItem", "BoundingBox": "200,20,380,100", "R_Content_svg": "Why?",
              "R_Answer_svg": "Because"},
-            {"ID": "water", "Type": "ZQActiveContainerItem", "BoundingBox": "20,180,120,290", "TextHtml": "<p>Water</p>"},
-            {"ID": "land", "Type": "ZQActiveContainerItem", "BoundingBox": "280,180,380,290", "TextHtml": "<p>Land</p>"},
+            {"ID": "water", "Type": "ZQActiveContainerItem", "BoundingBox": "20,180,120,290",
+             "TextHtml": "<p>Water</p>"},
+            {"ID": "land", "Type": "ZQActiveContainerItem", "BoundingBox": "280,180,380,290",
+             "TextHtml": "<p>Land</p>"},
             {"ID": "whale", "Type": "ZQActiveMaterialItem", "BoundingBox": "160,200,240,260", "TextHtml": "Whale"}],
          "activity": {"type": "Match", "title": "Where?", "matchs": [
              {"container": {"id": "c1", "txt": "Water"}, "materials": [{"id": "m1", "txt": "Whale"}],
@@ -108,9 +113,11 @@ HOSTILE = [
     "<iframe src='https://example.org/'></iframe>", "<link rel=stylesheet href='https://example.org/s.css'>",
     "\" onclick=\"alert(1)", "<style>@import 'https://example.org/s.css'; * { display: none !important }</style>",
     "<p style='background:url(https://example.org/p.png)'>x</p>", "<a href='javascript:alert(1)'>x</a>",
-    "<svg xmlns='http://www.w3.org/2000/svg'><foreignObject><script xmlns='http://www.w3.org/1999/xhtml'>alert(1)</script>"
-    "</foreignObject><image href='https://example.org/p.png' width='9' height='9'/><script>alert(1)</script>"
-    "<style>rect { fill: url(https://example.org/f.svg#f) }</style><rect width='9' height='9' onclick='alert(1)'/></svg>",
+    "<svg xmlns='http://www.w3.org/2000/svg'><foreignObject>"
+    "<script xmlns='http://www.w3.org/1999/xhtml'>alert(1)</script></foreignObject>"
+    "<image href='https://example.org/p.png' width='9' height='9'/><script>alert(1)</script>"
+    "<style>rect { fill: url(https://example.org/f.svg#f) }</style>"
+    "<rect width='9' height='9' onclick='alert(1)'/></svg>",
 ]
 
 
@@ -129,12 +136,14 @@ def hostile():
              "\tjavascript:alert(1)//https://example.org", "https://example.org/\"onclick=\"alert(1)"]
     for number, address in enumerate(links):
         for kind in ("ACTION_OPENWEB", "ACTION_OPENFILE", "ACTION_TOOLTIP", "ACTION_GOTOSLIDE"):
-            items.append(text(f"l{number}{kind}", f"link {number}", 250, InteractiveType=kind, InteractiveValue=address))
-    picture = (b"<svg xmlns='http://www.w3.org/2000/svg' width='50' height='50' onload='alert(1)'><script>alert(1)</script>"
-               b"<image href='https://example.org/p.png' width='50' height='50'/></svg>")
+            items.append(text(f"l{number}{kind}", f"link {number}", 250, InteractiveType=kind,
+                              InteractiveValue=address))
+    picture = (b"<svg xmlns='http://www.w3.org/2000/svg' width='50' height='50' onload='alert(1)'>"
+               b"<script>alert(1)</script><image href='https://example.org/p.png' width='50' height='50'/></svg>")
     items.append({"ID": "svg", "Type": "ZQImagePic", "resource": "a.svg", "BoundingBox": "0,0,50,50"})
     items.append({"ID": "doc", "Type": "ZQMediaDoc", "resource": "a.svg", "BoundingBox": "300,0,390,50"})
-    items.append({"ID": "film", "Type": "ZQMediaVideo", "resource": "https://example.org/v.mp4", "BoundingBox": "0,0,9,9"})
+    items.append({"ID": "film", "Type": "ZQMediaVideo", "resource": "https://example.org/v.mp4",
+                  "BoundingBox": "0,0,9,9"})
     words = HOSTILE[0]
     slide = {"ID": words, "EffectType": words, "Items": items, "animations": {"animation": [words, "__proto__"]},
              "objAnimationData": script([action(words, "click", words, effectoption=words)],

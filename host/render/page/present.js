@@ -145,21 +145,32 @@ const Present = (() => {
     f: toggleFullScreen, o: () => setOverview(!isOverview()),
     p: () => Ink.setMode('pen'), e: () => Ink.setMode('eraser'), r: startAgain,
     Escape: () => { setOverview(false); if (Ink.isOn()) { Ink.setMode(null); } },
-    Enter: () => { if (digits) { goTo(digits); setOverview(false); } },
   };
 
+  /** Keys that something else has no use for. */
   function onKey(event) {
-    const isWorked = event.target.closest('audio, video') || document.querySelector('dialog[open]');
-    const isPressed = event.target.closest('button, a') && (event.key === ' ' || (event.key === 'Enter' && !digits));
-    if (event.ctrlKey || event.altKey || event.metaKey || isWorked || isPressed) {
-      return;
-    }
+    const isPressed = event.target.closest('button, a') && (event.key === ' ' || event.key === 'Enter');
     const action = Object.hasOwn(keys, event.key) ? keys[event.key] : null;
-    if (action) {
+    if (action && isForLesson(event) && !isPressed) {
       event.preventDefault();
       action();
     }
-    digits = /^\d$/.test(event.key) ? digits + event.key : '';
+  }
+
+  function isForLesson(event) {
+    const isWorked = event.target.closest('audio, video') || document.querySelector('dialog[open]');
+    return !isWorked && !event.ctrlKey && !event.altKey && !event.metaKey;
+  }
+
+  /** A number and Enter lead to a slide, whatever Enter does where the keyboard is. */
+  function onNumber(event) {
+    if (event.key === 'Enter' && digits && isForLesson(event)) {
+      event.preventDefault();
+      event.stopPropagation();
+      goTo(digits);
+      setOverview(false);
+    }
+    digits = /^\d$/.test(event.key) && isForLesson(event) ? digits + event.key : '';
   }
 
   /** Left and right margins lead back and forward; elsewhere a click plays what comes next on the slide. */
@@ -211,6 +222,7 @@ const Present = (() => {
     makeBar();
     main.addEventListener('click', onClick);
     listenToSwipes(main);
+    document.addEventListener('keydown', onNumber, true);
     document.addEventListener('keydown', onKey);
     document.addEventListener('dragstart', (event) => event.preventDefault());
     window.addEventListener('hashchange', () => show(fromAddress()));
