@@ -191,25 +191,40 @@ private slots:
 
     void comparesLessons()
     {
-        // A slide lacks a text and its first item, so that the others stand at other places.
+        // A slide lacks a text, its first item, so that the others stand at other places, and one that is hidden.
         QByteArray changed =
             fileContent(path("lesson.json")).replace("\"Text\":\"<script>alert(1)</script>\"", "\"Text\":\"\"");
         changed.replace(R"({"ID":"3","Type":"General:spotlight","BoundingBox":"10,10,110,60"},)", "");
+        changed.replace(
+            R"({"ID":"4","Type":"ZQTextBoard","BoundingBox":"10,70,390,100","Text":"unseen","Visible":"0"},)", "");
         putFile(path("other.json"), changed);
-        // A value that nobody sees.
-        putFile(path("given.json"),
-                fileContent(path("lesson.json")).replace(R"("ID":"1","Type")", R"("ID":"1","LockIn":"1","Type")"));
+        // Values that nobody sees on either slide, and a link, which nobody sees either.
+        QByteArray given = fileContent(path("lesson.json"));
+        given.replace(R"("ID":"1","Type")", R"("ID":"1","LockIn":"1","Type")");
+        given.replace(R"("ID":"6",)", R"("ID":"6","LockIn":"1",)");
+        given.replace(R"("ID":"2","Type")",
+                      R"("ID":"2","InteractiveType":"ACTION_GOTOSLIDE","InteractiveValue":"2","Type")");
+        putFile(path("given.json"), given);
         const CommandProcess::Outcome result =
             runCommand({"render", "--diff", path("given.json"), path("other.json"), path("diff.html"), "--json"});
         QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
         const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
-        QCOMPARE(json.value("losses").toObject().value("losses").toInt(), 3);
+        QCOMPARE(json.value("losses").toObject().value("losses").toInt(), 7);
         const QByteArray html = fileContent(path("diff.html"));
         QCOMPARE(html.count("<svg "), 4);
-        QCOMPARE(html.count("Both look the same. Missing or other values: 1"), 1);
         QCOMPARE(html.count("id=\"slide"), 0);
-        QVERIFY(html.contains("Missing: Spotlight"));
-        QVERIFY(html.contains("<li><b>Text</b> <small>5</small>: <span title=\"&lt;script"));
+        const int second = html.indexOf("<h2>", html.indexOf("<h2>") + 1);
+        const QByteArray told[] = {html.left(second), html.mid(second)};
+        for (const char *words : {"class=\"losses\"><summary>Both look the same and work otherwise: 2",
+                                  "<details><summary>Both look the same. Missing or other values: 1"}) {
+            QVERIFY2(told[0].contains(words), words);
+        }
+        for (const char *words : {"Missing: Spotlight<", "Missing, and not shown in the first one: Text<",
+                                  "<details><summary>Both look the same. Missing or other values: 1",
+                                  "class=\"losses\"><summary>Missing or other values: 1",
+                                  "<li><b>Text</b> <small>5</small>: <span title=\"&lt;script"}) {
+            QVERIFY2(told[1].contains(words), words);
+        }
     }
 
     // Drawings may show what lies with them, and open nothing else.

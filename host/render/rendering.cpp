@@ -3,7 +3,6 @@
 
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
-#include "files/xmltext.h"
 #include "lesson/itemkeys.h"
 #include "lesson/pageplace.h"
 #include "losses/lossreport.h"
@@ -12,6 +11,7 @@
 #include "render/pictureoutput.h"
 #include "render/picturestore.h"
 #include "render/slidedifference.h"
+#include "render/slidenotice.h"
 #include "render/slidepictures.h"
 #include "svg/pluginoutlines.h"
 
@@ -115,15 +115,19 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
     DifferencePage html(output, firstName + QLatin1String(" and ") + secondName, store);
     SlidePictures firstPictures(first, context, store);
     SlidePictures secondPictures(second, context, store);
+    PageFiles firstFiles;
+    PageFiles secondFiles;
+    firstPictures.play(firstFiles);
+    secondPictures.play(secondFiles);
     LossReport losses;
     for (int i = 0; i < slides.size(); ++i) {
         const int slide = slides.at(i);
         html.addHtml("<h2>Slide " + QByteArray::number(slide + 1) + "</h2>\n<div class=\"pair\">\n");
-        QString drawn[2];
+        SlideNotice notices[2];
         for (const bool isFirst : {true, false}) {
             if (slide < (isFirst ? first : second).slideCount()) {
                 const SlidePicture picture = (isFirst ? firstPictures : secondPictures).picture(slide);
-                drawn[isFirst] = xmlNodeText(picture.svg.documentElement());
+                notices[isFirst] = SlideNotice(picture, isFirst ? firstFiles : secondFiles);
                 html.add(picture);
             } else {
                 html.addHtml("<p>This lesson has no such slide.</p>\n");
@@ -137,7 +141,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
                 given = slideInPageForm(given, pluginOutlines(context.plugin));
                 found = slideInPageForm(found, pluginOutlines(context.plugin));
             }
-            html.addHtml(slideDifference(given, found, slide + 1, drawn[0] != drawn[1], losses));
+            html.addHtml(slideDifference(given, notices[true], found, notices[false], slide + 1, losses));
         }
         progress(i + 1, slides.size());
     }

@@ -6,23 +6,49 @@
 #include "lesson/plainnames.h"
 #include "losses/comparison.h"
 #include "losses/lossreport.h"
+#include "render/slidenotice.h"
 
 #include <QHash>
+#include <QMap>
 
 namespace lessonhost {
 
 namespace {
 
-// All items, those of groups behind their group, which stands without them.
-void collectItems(const QJsonArray &items, QVector<QJsonObject> &result)
+/*!
+ * All items of a slide, those of groups behind their group, which stands without them.
+ */
+class FlatItems
 {
-    for (const QJsonValue &value : items) {
-        QJsonObject item = value.toObject();
-        const QJsonArray children = item.take(HostKeys::children).toArray();
-        result.append(item);
-        collectItems(children, result);
+public:
+    explicit FlatItems(const QJsonArray &items) { collect(items); }
+
+    const QVector<QJsonObject> &all() const { return m_all; }
+    //! The identifier of an item and those of all that are in it.
+    QStringList within(const QString &id) const { return m_within.value(id, {id}); }
+
+private:
+    QStringList collect(const QJsonArray &items)
+    {
+        QStringList ids;
+        for (const QJsonValue &value : items) {
+            QJsonObject item = value.toObject();
+            const QJsonArray children = item.take(HostKeys::children).toArray();
+            const QString id = ItemView(item).id();
+            m_all.append(item);
+            ids.append(id);
+            if (!children.isEmpty()) {
+                const QStringList inner = collect(children);
+                m_within.insert(id, QStringList(id) + inner);
+                ids += inner;
+            }
+        }
+        return ids;
     }
-}
+
+    QVector<QJsonObject> m_all;
+    QHash<QString, QStringList> m_within; // of groups
+};
 
 // Without what says nothing about the item: an angle of zero, and a mark that the plug-in sets by the type.
 QJsonObject withoutDefaults(QJsonObject item)
@@ -43,16 +69,14 @@ public:
     {
     }
 
-    void compare(const LessonSlide &given, const LessonSlide &found)
+    void compare(const LessonSlide &given, const QVector<QJsonObject> &givenItems, const LessonSlide &found)
     {
         m_comparison.compareProperties({QStringLiteral("slide"), given.properties.value(SlideKeys::id).toString()},
                                        given.properties, found.properties);
-        QVector<QJsonObject> givenItems;
-        collectItems(given.items, givenItems);
-        QVector<QJsonObject> foundItems;
-        collectItems(found.items, foundItems);
+        const FlatItems flat(found.items);
+        const QVector<QJsonObject> &foundItems = flat.all();
         QHash<QString, QJsonObject> byId;
-        for (const QJsonObject &item : qAsConst(foundItems)) {
+        for (const QJsonObject &item : foundItems) {
             byId.insert(ItemView(item).id(), item);
         }
         for (int i = 0; i < givenItems.size(); ++i) {
@@ -88,18 +112,14 @@ QString countedNames(const QStringList &names)
     return parts.join(QLatin1String(", "));
 }
 
-QByteArray asHtml(const QVector<Loss> &losses, bool isSeen)
+// The values of items and the slide, an item a line.
+QString rowsOf(const QVector<Loss> &losses)
 {
-    QStringList missing;
     QString rows;
     QString item; // whose keys the last row holds
     for (const Loss &loss : losses) {
         const QString name =
             loss.itemType == QLatin1String("slide") ? QStringLiteral("Slide") : plainName(loss.itemType);
-        if (loss.kind == Loss::Item) {
-            missing.append(name);
-            continue;
-        }
         const QString owner = loss.itemType + QLatin1Char(' ') + loss.itemId;
         if (owner != item) {
             rows += (rows.isEmpty() ? QString() : QStringLiteral("</li>\n"))
@@ -112,32 +132,62 @@ QByteArray asHtml(const QVector<Loss> &losses, bool isSeen)
         rows += QStringLiteral("<span title=\"%2\">%1</span>")
                     .arg(loss.key.left(200).toHtmlEscaped(), loss.detail.toHtmlEscaped());
     }
-    if (missing.isEmpty() && rows.isEmpty()) {
-        return QByteArrayLiteral("<p class=\"none\">Nothing is lost.</p>\n");
+    return rows.isEmpty() ? rows : QString(rows + QLatin1String("</li>"));
+}
+
+// What is lost, by what people notice of it.
+struct NoticedLosses
+{
+    QStringList items; // which aren't there
+    QVector<Loss> values;
+};
+
+void addHtml(const NoticedLosses &losses, Notice notice, QString &html)
+{
+    const QString mark = notice == Notice::Nothing ? QString() : QStringLiteral(" class=\"losses\"");
+    if (!losses.items.isEmpty()) {
+        html += QStringLiteral("<p%1>%2: %3</p>\n")
+                    .arg(mark,
+                         notice == Notice::Nothing ? QStringLiteral("Missing, and not shown in the first one")
+                                                   : QStringLiteral("Missing"),
+                         countedNames(losses.items).toHtmlEscaped());
     }
-    QString html;
-    if (!missing.isEmpty()) {
-        html += QLatin1String("<p class=\"losses\">Missing: ") + countedNames(missing).toHtmlEscaped()
-            + QLatin1String("</p>\n");
+    if (!losses.values.isEmpty()) {
+        const QString title = notice == Notice::Look ? QStringLiteral("Missing or other values")
+            : notice == Notice::Deed                 ? QStringLiteral("Both look the same and work otherwise")
+                                                     : QStringLiteral("Both look the same. Missing or other values");
+        html += QStringLiteral("<details%1><summary>%2: %3</summary>\n<ul>%4</ul></details>\n")
+                    .arg(mark, title, QString::number(losses.values.size()), rowsOf(losses.values));
     }
-    if (!rows.isEmpty()) {
-        html += QStringLiteral("<details%1><summary>%2: %3</summary>\n<ul>%4</li>\n</ul></details>\n")
-                    .arg(isSeen ? QStringLiteral(" class=\"losses\"") : QString(),
-                         isSeen ? QStringLiteral("Missing or other values")
-                                : QStringLiteral("Both look the same. Missing or other values"),
-                         QString::number(losses.size() - missing.size()), rows);
-    }
-    return html.toUtf8();
 }
 
 } // namespace
 
-QByteArray slideDifference(const LessonSlide &given, const LessonSlide &found, int slide, bool isSeen,
-                           LossReport &losses)
+QByteArray slideDifference(const LessonSlide &given, const SlideNotice &givenNotice, const LessonSlide &found,
+                           const SlideNotice &foundNotice, int slide, LossReport &losses)
 {
     const int before = losses.entries().size();
-    SlideDifference(SlideLosses(&losses, slide)).compare(given, found);
-    return asHtml(losses.entries().mid(before), isSeen);
+    const FlatItems items(given.items);
+    SlideDifference(SlideLosses(&losses, slide)).compare(given, items.all(), found);
+    QMap<Notice, NoticedLosses> noticed;
+    for (const Loss &loss : losses.entries().mid(before)) {
+        const bool isSlide = loss.itemType == QLatin1String("slide");
+        const Notice notice = isSlide ? givenNotice.ofSlide(foundNotice)
+                                      : givenNotice.ofItems(items.within(loss.itemId), foundNotice);
+        if (loss.kind == Loss::Item) {
+            noticed[notice].items.append(plainName(loss.itemType));
+        } else {
+            noticed[notice].values.append(loss);
+        }
+    }
+    if (noticed.isEmpty()) {
+        return QByteArrayLiteral("<p class=\"none\">Nothing is lost.</p>\n");
+    }
+    QString html;
+    for (const Notice notice : {Notice::Look, Notice::Deed, Notice::Nothing}) {
+        addHtml(noticed.value(notice), notice, html);
+    }
+    return html.toUtf8();
 }
 
 } // namespace lessonhost
