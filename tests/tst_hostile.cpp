@@ -8,8 +8,9 @@
 #include <QtTest>
 
 #include <ctime>
-
 #include <random>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -373,6 +374,49 @@ private slots:
         } else {
             QVERIFY2(message.contains(words), qPrintable(message.left(1000)));
         }
+    }
+
+    void holdsAPageAtATime_data()
+    {
+        const Table<QString, QByteArray, QByteArray, QByteArray> row("file", "page", "item", "record");
+        row("IWB", "in.iwb", "<svg:page>%1</svg:page>",
+            "<svg:line id='line%1' x1='1' y1='2' x2='30' y2='4' stroke='red' stroke-width='2'/>",
+            "<iwb:element ref='line%1' locked='true'/>");
+        row("raw lesson", "in.xml", "<slide SlideSourceRect='0,0,1024,768'>%1</slide>",
+            "<ZQMath2DCircle NetID='5%1' ArtObj_Width='2' Discipline_xControl0='80' Discipline_yControl0='5'/>", "");
+    }
+
+    // 100,000 elements on 1000 pages: a DOM of them would take some hundred megabytes.
+    void holdsAPageAtATime()
+    {
+#ifdef WITH_SANITIZERS
+        QSKIP("Sanitizers take memory of their own.");
+#endif
+        const auto [file, page, item, record] = Table<QString, QByteArray, QByteArray, QByteArray>::cells();
+        QByteArray pages;
+        QByteArray records;
+        for (int i = 0; i < 1000; ++i) {
+            QByteArray items;
+            for (int k = 0; k < 100; ++k) {
+                const QByteArray id = QByteArray::number(i * 100 + k);
+                items += QByteArray(item).replace("%1", id);
+                records += QByteArray(record).replace("%1", id);
+            }
+            pages += QByteArray(page).replace("%1", items);
+        }
+        const bool isRaw = file.endsWith(".xml");
+        putFile(m_folder->filePath(file),
+                isRaw ? QByteArray("<presentation>" + pages + "</presentation>")
+                      : QByteArray("<iwb xmlns:svg='http://www.w3.org/2000/svg' xmlns:iwb='http://www.becta.org.uk/iwb'><svg:svg "
+                        "viewbox='0 0 800 600'><svg:pageset>"
+                    + pages + "</svg:pageset></svg:svg>" + records + "</iwb>"));
+        const auto outcome = runCommand({"info", file}, m_folder->path(), [] {
+            const rlimit limit{50 << 20, 50 << 20};
+            ::setrlimit(RLIMIT_DATA, &limit);
+        });
+        QCOMPARE(outcome.errors, QString());
+        QVERIFY2(outcome.output.contains(QRegularExpression("Slides +1000\n(.*\n)*Items +100000\n")),
+                 qPrintable(outcome.output));
     }
 };
 

@@ -3,187 +3,11 @@
 
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
-#include "files/xmlsource.h"
+#include "files/xmlbuilder.h"
 
 #include <QBuffer>
-#include <QDomElement>
-#include <QXmlStreamReader>
-
-#include <algorithm>
 
 namespace lessonhost {
-
-namespace {
-
-// What the nodes of a DOM take, each with its share of lists and of the texts' administration, in bytes.
-constexpr qint64 elementMemory = 300;
-constexpr qint64 attributeMemory = 400;
-constexpr qint64 textMemory = 200;
-
-/*!
- * Builds the DOM from a stream, so that the text is looked through once and everything that is refused is refused
- * before a node is made for it.
- */
-class DocumentBuilder
-{
-public:
-    DocumentBuilder(QIODevice *text, const QString &name, XmlBlanks blanks)
-        : m_source(text)
-        , m_reader(&m_source)
-        , m_name(name)
-        , m_blanks(blanks)
-    {
-        m_reader.setNamespaceProcessing(false);
-    }
-
-    QDomDocument build()
-    {
-        while (!m_reader.atEnd()) {
-            switch (m_reader.readNext()) {
-            case QXmlStreamReader::StartElement:
-                startElement();
-                break;
-            case QXmlStreamReader::EndElement:
-                flushText();
-                m_current = m_current.parentNode();
-                --m_depth;
-                break;
-            case QXmlStreamReader::Characters:
-                characters();
-                break;
-            default:
-                break;
-            }
-        }
-        refuseSource();
-        if (m_reader.hasError()) {
-            QString reason = m_reader.errorString();
-            while (reason.endsWith(QLatin1Char('.'))) {
-                reason.chop(1);
-            }
-            throw LessonError(
-                QStringLiteral("This is not well-formed XML: %1 (column %2)").arg(reason).arg(m_reader.columnNumber()),
-                QStringLiteral("Check that the file is complete"))
-                .in(m_name, line());
-        }
-        return m_document;
-    }
-
-private:
-    int line() const { return int(m_reader.lineNumber()); }
-
-    void refuseSource() const
-    {
-        const QString check = QStringLiteral("Check that this is a lesson");
-        switch (m_source.problem()) {
-        case XmlProblem::None:
-            return;
-        case XmlProblem::TooLarge:
-            throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024), check)
-                .in(m_name);
-        case XmlProblem::TooManyAttributes:
-            throw LessonError(QStringLiteral("An element has more than %1 attributes").arg(maximumXmlAttributes), check)
-                .in(m_name, m_source.line());
-        case XmlProblem::DocumentType:
-            throw LessonError(QStringLiteral("The document has a document type declaration, which lessons don't use"),
-                              QStringLiteral("Remove the <!DOCTYPE ...> part"))
-                .in(m_name, m_source.line());
-        case XmlProblem::OddEncoding:
-            throw LessonError(
-                QStringLiteral("This is not well-formed XML: it isn't in the encoding that it says it is in"),
-                QStringLiteral("Save it in UTF-8"))
-                .in(m_name);
-        case XmlProblem::Unreadable:
-            throw LessonError(QStringLiteral("The file can't be read to its end"),
-                              QStringLiteral("Check the disk that it is on"))
-                .in(m_name);
-        }
-    }
-
-    // Before a node is made that takes so much.
-    void takeMemory(qint64 bytes)
-    {
-        m_memory += bytes;
-        if (m_memory > maximumXmlMemory) {
-            throw LessonError(
-                QStringLiteral("The document is too large: what is in it would take more than %1 MiB of memory")
-                    .arg(maximumXmlMemory / 1024 / 1024),
-                QStringLiteral("Divide it into smaller ones, or check that this is a lesson"))
-                .in(m_name, line());
-        }
-    }
-
-    void takeMemoryFor(const QXmlStreamAttributes &attributes)
-    {
-        qint64 bytes = elementMemory + attributes.size() * attributeMemory;
-        for (const QXmlStreamAttribute &attribute : attributes) {
-            bytes += (attribute.value().size() + attribute.qualifiedName().size()) * qint64(sizeof(QChar));
-        }
-        takeMemory(bytes + m_reader.qualifiedName().size() * qint64(sizeof(QChar)));
-    }
-
-    void startElement()
-    {
-        flushText();
-        if (++m_depth > maximumXmlDepth) {
-            throw LessonError(QStringLiteral("Elements are nested deeper than %1 levels").arg(maximumXmlDepth),
-                              QStringLiteral("Take some groups apart, or check that this is a lesson"))
-                .in(m_name, line());
-        }
-        const QXmlStreamAttributes attributes = m_reader.attributes();
-        takeMemoryFor(attributes);
-        QDomElement element = m_document.createElement(m_reader.qualifiedName().toString());
-        for (const QXmlStreamAttribute &attribute : attributes) {
-            element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-        }
-        if (m_depth == 1) {
-            m_document.appendChild(element);
-        } else {
-            m_current.appendChild(element);
-        }
-        m_current = element;
-    }
-
-    void characters()
-    {
-        if (m_depth == 0) {
-            return;
-        }
-        if (m_reader.isCDATA()) {
-            flushText();
-            if (m_reader.text().isEmpty()) {
-                return;
-            }
-            takeMemory(textMemory + m_reader.text().size() * qint64(sizeof(QChar)));
-            m_current.appendChild(m_document.createCDATASection(m_reader.text().toString()));
-        } else {
-            m_text += m_reader.text();
-        }
-    }
-
-    // Blanks between elements are no nodes, as with every DOM that the plug-in's operations are used to.
-    void flushText()
-    {
-        const bool isBlank = std::all_of(m_text.cbegin(), m_text.cend(), [](QChar c) { return c.unicode() <= 0x20; });
-        if (!isBlank || (m_blanks == XmlBlanks::Kept && !m_text.isEmpty())) {
-            takeMemory(textMemory + m_text.size() * qint64(sizeof(QChar)));
-            m_current.appendChild(m_document.createTextNode(m_text));
-        }
-        m_text.clear();
-    }
-
-    XmlSource m_source;
-    QXmlStreamReader m_reader;
-    QString m_name;
-    XmlBlanks m_blanks;
-    QDomDocument m_document;
-    QDomNode m_current;
-    QString m_text;
-    int m_depth = 0;
-    qint64 m_memory = 0; // that the document takes
-};
-
-} // namespace
 
 void checkXmlSize(qint64 size, const QString &displayName)
 {
@@ -200,20 +24,16 @@ QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlan
     QBuffer buffer;
     buffer.setData(text);
     buffer.open(QIODevice::ReadOnly);
-    return DocumentBuilder(&buffer, displayName, blanks).build();
+    return XmlBuilder(&buffer, displayName, blanks).build();
 }
 
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
 {
     const QString name = displayName.isEmpty() ? fileName : displayName;
     InputFile file(fileName, name);
-    if (file.size() > maximumXmlSize) {
-        throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024),
-                          QStringLiteral("Check that this is a lesson"))
-            .in(name);
-    }
+    checkXmlFileSize(file.size(), name);
     try {
-        const QDomDocument document = DocumentBuilder(&file, name, XmlBlanks::Dropped).build();
+        const QDomDocument document = XmlBuilder(&file, name).build();
         file.check();
         return document;
     } catch (const LessonError &) {

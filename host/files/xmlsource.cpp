@@ -37,23 +37,27 @@ QTextCodec *firstCodec(const QByteArray &head)
 
 } // namespace
 
-template <typename Char> XmlProblem XmlScan::take(const Char *begin, const Char *end)
+XmlProblem XmlScan::take(const QByteArray &piece)
 {
-    for (const Char *c = begin; c != end; ++c) {
-        const XmlProblem problem = takeCharacter(*c);
+    for (const char c : piece) {
+        const XmlProblem problem = takeByte(uchar(c));
         if (problem != XmlProblem::None) {
             return problem;
         }
+        ++m_at;
     }
     return XmlProblem::None;
 }
 
-inline XmlProblem XmlScan::takeCharacter(ushort c)
+inline XmlProblem XmlScan::takeByte(uchar c)
 {
     m_line += c == '\n' ? 1 : 0;
     switch (m_place) {
     case Text:
-        m_place = c == '<' ? Open : Text;
+        if (c == '<') {
+            m_place = Open;
+            m_tag.begin = m_at;
+        }
         break;
     case Open:
         takeOpen(c);
@@ -71,12 +75,14 @@ inline XmlProblem XmlScan::takeCharacter(ushort c)
         break;
     case Tag:
         if (c == '>') {
-            m_place = Text;
+            endTag();
         } else if (c == '"' || c == '\'') {
             m_place = Value;
             m_quote = c;
+            m_last = c;
             return ++m_values > maximumXmlAttributes ? XmlProblem::TooManyAttributes : XmlProblem::None;
         }
+        m_last = c;
         break;
     case Value:
         m_place = c == m_quote ? Tag : Value;
@@ -85,15 +91,27 @@ inline XmlProblem XmlScan::takeCharacter(ushort c)
     return XmlProblem::None;
 }
 
-void XmlScan::takeOpen(ushort c)
+void XmlScan::takeOpen(uchar c)
 {
     m_place = c == '!' ? Mark : c == '?' ? Instruction : Tag;
+    m_tag.kind = c == '/' ? XmlTag::End : XmlTag::Start;
+    m_last = c;
     m_run = 0;
     m_values = 0;
 }
 
+void XmlScan::endTag()
+{
+    m_place = Text;
+    if (m_keepsTags) {
+        m_tag.kind = m_tag.kind == XmlTag::Start && m_last == '/' ? XmlTag::Empty : m_tag.kind;
+        m_tag.end = m_at + 1;
+        m_tags.enqueue(m_tag);
+    }
+}
+
 // Behind "<!" or "<!-".
-XmlProblem XmlScan::takeMark(ushort c)
+XmlProblem XmlScan::takeMark(uchar c)
 {
     if (m_run == 1) {
         m_place = Comment;
@@ -108,7 +126,7 @@ XmlProblem XmlScan::takeMark(ushort c)
     return XmlProblem::None;
 }
 
-void XmlScan::takeUntilEnd(ushort c, ushort repeated, int times)
+void XmlScan::takeUntilEnd(uchar c, uchar repeated, int times)
 {
     if (c == repeated) {
         m_run = qMin(m_run + 1, times);
@@ -149,17 +167,26 @@ void XmlSource::findEncoding()
     }
     if (codec->mibEnum() != utf8) {
         m_decoder.reset(codec->makeDecoder());
+        m_encoder.reset(QTextCodec::codecForMib(utf8)->makeEncoder(QTextCodec::IgnoreHeader));
     }
+}
+
+void XmlSource::keepTags(QIODevice *copy)
+{
+    m_scan.keepTags();
+    m_copy = copy;
 }
 
 XmlProblem XmlSource::scan(const char *data, qint64 size)
 {
     if (!m_decoder) {
-        const auto *bytes = reinterpret_cast<const uchar *>(data);
-        return m_scan.take(bytes, bytes + size);
+        return m_scan.take(QByteArray::fromRawData(data, int(size)));
     }
-    const QString text = m_decoder->toUnicode(data, int(size));
-    return m_scan.take(text.utf16(), text.utf16() + text.size());
+    const QByteArray piece = m_encoder->fromUnicode(m_decoder->toUnicode(data, int(size)));
+    if (m_copy && m_copy->write(piece) != piece.size()) {
+        return XmlProblem::Unreadable;
+    }
+    return m_scan.take(piece);
 }
 
 qint64 XmlSource::readData(char *data, qint64 maximum)

@@ -5,7 +5,7 @@
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagesource.h"
-#include "files/xmlloader.h"
+#include "files/xmlparts.h"
 #include "formats/keptitem.h"
 #include "formats/rawattributes.h"
 #include "formats/rawecho.h"
@@ -71,15 +71,38 @@ QJsonObject withStableActions(QJsonObject slide)
     return slide;
 }
 
-void collectIds(const QDomElement &element, QSet<QString> &ids)
+/*!
+ * Goes through a raw lesson: its slides are the parts.
+ */
+class RawVisitor : public XmlVisitor
 {
-    if (element.hasAttribute(netId)) {
-        ids.insert(element.attribute(netId));
+public:
+    Way begin(const QDomElement &element) override
+    {
+        takeId(element.attribute(netId));
+        const bool isSlide = element.tagName() == slideTag && element.parentNode().parentNode().isDocument();
+        if (isSlide && firstSlide.isNull()) {
+            firstSlide = element.cloneNode(false).toElement();
+        }
+        return isSlide ? Part : Inside;
     }
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        collectIds(child, ids);
+
+    Fate end(const QDomElement &) override { return Kept; }
+
+    void pass(const Passed &passed) override { takeId(passed.attributes.value(netId).toString()); }
+
+    QDomElement firstSlide; // without what it holds
+    QSet<qint64> ids; // of all elements, as far as they are numbers
+
+private:
+    void takeId(const QString &id)
+    {
+        const qint64 number = id.toLongLong();
+        if (QString::number(number) == id) {
+            ids.insert(number);
+        }
     }
-}
+};
 
 /*!
  * A lesson in raw XML: <presentation> with <slide> elements, whose children are the items; files in the folder
@@ -91,25 +114,17 @@ public:
     RawXmlReader(const QString &path, const LessonContext &context)
         : m_context(context)
         , m_path(path)
-        , m_document(loadXmlFile(path))
+        , m_parts(path, path, m_visitor)
         , m_losses(context.losses)
         , m_echo(context.plugin)
         , m_attributes(context.plugin, resourceFolder + QLatin1Char('/'))
     {
-        QDomElement root = m_document.documentElement();
+        const QDomElement root = m_parts.outline();
         if (root.tagName() != rootTag) {
             throw LessonError(QStringLiteral("The document begins with <%1> where a raw lesson has <%2>")
                                   .arg(root.tagName(), rootTag),
                               QStringLiteral("Check that this is a lesson in raw XML"))
                 .in(path);
-        }
-        collectIds(root, m_ids);
-        const QDomElement first = root.firstChildElement(slideTag);
-        for (QDomElement slide = first; !slide.isNull(); slide = slide.nextSiblingElement(slideTag)) {
-            m_slides.append(slide);
-        }
-        for (const QDomElement &slide : qAsConst(m_slides)) {
-            root.removeChild(slide);
         }
         // Reading gives an element without an identifier one.
         m_presentation = readPresentation(root.cloneNode(true).toElement());
@@ -122,7 +137,7 @@ public:
     }
 
     QJsonObject presentation() override { return m_presentation; }
-    int slideCount() override { return m_slides.size(); }
+    int slideCount() override { return m_parts.count(); }
 
     LessonSlide slide(int index) override
     {
@@ -130,8 +145,10 @@ public:
         const CarriedCheck slideCheck(losses, CarriedCheck::InOwnWords);
         const CarriedCheck *check = m_context.verify && losses.isHeard() ? &slideCheck : nullptr;
 
-        // Reading changes elements.
-        const QDomElement element = m_slides.at(index).cloneNode(true).toElement();
+        // It stands alone: reading changes elements.
+        const XmlPart part = m_parts.part(index);
+        const QDomElement element = part.element;
+        element.parentNode().removeChild(element);
         const QVector<QDomElement> items = takeElements(element, element.firstChildElement());
         LessonSlide slide;
         m_nextId = (index + 1) * idsOfSlide;
@@ -178,11 +195,10 @@ private:
         if (element.hasAttribute(netId)) {
             return;
         }
-        QString id;
-        do {
-            id = QString::number(m_nextId++);
-        } while (m_ids.contains(id));
-        object.insert(ItemKeys::id, id);
+        while (m_visitor.ids.contains(m_nextId)) {
+            ++m_nextId;
+        }
+        object.insert(ItemKeys::id, QString::number(m_nextId++));
     }
 
     // References to files get the folder as their only directory, wherever they pointed to on the machine they are
@@ -208,12 +224,12 @@ private:
     // A raw lesson says how large its slides were; the model wants the page that they are fitted into.
     void addPageSize()
     {
-        if (m_slides.isEmpty() || m_presentation.contains(PresentationKeys::width)
+        if (m_visitor.firstSlide.isNull() || m_presentation.contains(PresentationKeys::width)
             || m_presentation.contains(PresentationKeys::height)) {
             return;
         }
         const QJsonObject slide =
-            m_context.plugin->tranSlideXML2JSON(m_slides.first().cloneNode(false).toElement(), context());
+            m_context.plugin->tranSlideXML2JSON(m_visitor.firstSlide, context());
         const QSize size = pageOfSourceRect(valueText(slide.value(SlideKeys::sourceRect)));
         m_presentation.insert(PresentationKeys::width, QString::number(size.width()));
         m_presentation.insert(PresentationKeys::height, QString::number(size.height()));
@@ -276,13 +292,12 @@ private:
 
     LessonContext m_context;
     QString m_path;
-    QDomDocument m_document;
+    RawVisitor m_visitor;
+    XmlParts m_parts;
     LessonLosses m_losses;
     RawEcho m_echo;
     RawAttributes m_attributes;
-    QSet<QString> m_ids; // that the lesson has
     qint64 m_nextId = 1;
-    QVector<QDomElement> m_slides;
     QJsonObject m_presentation;
 };
 

@@ -94,20 +94,42 @@ QDomElement itemElement(QDomElement element)
     return element;
 }
 
+void RecordTexts::add(const QDomElement &element)
+{
+    const QDomElement holder = element.parentNode().toElement();
+    if (holder.isNull()) {
+        return;
+    }
+    const bool isInRoot = holder.parentNode().isDocument();
+    if (!isInRoot && iwbName(holder) == QLatin1String("group") && holder.parentNode().parentNode().isDocument()) {
+        add(element.attribute(QStringLiteral("ref")), QLatin1String(" group") + attributesOf(element));
+        return;
+    }
+    const QString name = isInRoot ? iwbName(element) : QString();
+    if (isInRoot && name != QLatin1String("group") && svgName(element) != QLatin1String("svg")
+        && element.hasAttribute(QStringLiteral("ref"))) {
+        add(element.attribute(QStringLiteral("ref")), QLatin1Char(' ') + name + attributesOf(element));
+    }
+}
+
+void RecordTexts::add(const QString &id, const QString &text)
+{
+    QString &known = m_texts[id];
+    known = *m_shared.insert(known + text);
+}
+
 QHash<QString, QString> recordTexts(const QDomElement &root)
 {
-    QHash<QString, QString> texts;
+    RecordTexts records;
     for (QDomElement row = root.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
-        const QString name = iwbName(row);
-        if (name == QLatin1String("group")) {
+        records.add(row);
+        if (iwbName(row) == QLatin1String("group")) {
             for (QDomElement member = row.firstChildElement(); !member.isNull(); member = member.nextSiblingElement()) {
-                texts[member.attribute(QStringLiteral("ref"))] += QLatin1String(" group") + attributesOf(member);
+                records.add(member);
             }
-        } else if (svgName(row) != QLatin1String("svg") && row.hasAttribute(QStringLiteral("ref"))) {
-            texts[row.attribute(QStringLiteral("ref"))] += QLatin1Char(' ') + name + attributesOf(row);
         }
     }
-    return texts;
+    return records.texts();
 }
 
 QString elementMark(const QDomElement &element, const QHash<QString, QString> &records)

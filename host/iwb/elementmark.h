@@ -4,11 +4,30 @@
 
 #include <QDomElement>
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 namespace lessonhost {
 
-//! What the records of an IWB document say of each element, by its identifier. root: the document element.
+/*!
+ * What the records of an IWB document say of each element, by its identifier.
+ */
+class RecordTexts
+{
+public:
+    //! Takes what the element says, if it is a record. The elements of a document come in their order, each in its place.
+    void add(const QDomElement &element);
+
+    const QHash<QString, QString> &texts() const { return m_texts; }
+
+private:
+    void add(const QString &id, const QString &text);
+
+    QHash<QString, QString> m_texts;
+    QSet<QString> m_shared; // each text once
+};
+
+//! The same of a document that is there whole. root: its element.
 QHash<QString, QString> recordTexts(const QDomElement &root);
 
 //! What stands for an item on a page, within the links around it. A sound is its link.

@@ -5,18 +5,34 @@
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
 #include "files/packagenames.h"
-#include "files/xmlloader.h"
+#include "iwb/nativepart.h"
 #include "svg/svgnames.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace lessonhost {
 
 namespace {
 
 const QLatin1String contentName("content.xml");
+
+const QLatin1String embeddedScheme("data:");
+constexpr qint64 pieceSize = qint64(64) * 1024;
+
+template <typename Text> bool isReference(const Text &attribute)
+{
+    return attribute.endsWith(QLatin1String("href"));
+}
+
+// Whether there is something behind the head of a "data:" reference.
+bool hasContent(const QString &uri)
+{
+    return uri.contains(QLatin1Char(','));
+}
 
 bool hasScheme(const QString &reference)
 {
@@ -46,21 +62,90 @@ QString suffixOfMediaType(const QString &type)
 
 } // namespace
 
+/*!
+ * Goes through the document for all that has to be known before the first page is read.
+ */
+class IwbPackage::Visitor : public XmlVisitor
+{
+public:
+    Visitor(IwbPackage &package, bool readsRecords)
+        : m_package(package)
+        , m_readsRecords(readsRecords)
+    {
+    }
+
+    Way begin(const QDomElement &element) override
+    {
+        const int embedded = m_package.m_embeddedPaths.size();
+        const QDomNamedNodeMap attributes = element.attributes();
+        for (int i = 0; i < attributes.size(); ++i) {
+            if (isReference(attributes.item(i).nodeName())) {
+                m_package.takeReference(attributes.item(i).nodeValue());
+            }
+        }
+        if (m_readsRecords) {
+            m_package.m_records.add(element);
+        }
+        const Way way = m_package.m_outline.begin(element);
+        if (way == Part) {
+            m_package.m_embeddedBefore.append(embedded);
+        } else if (way == Inside) {
+            m_before.append(embedded);
+        }
+        return way;
+    }
+
+    Fate end(const QDomElement &element) override
+    {
+        const Fate fate = m_package.m_outline.end(element);
+        const int embedded = m_before.takeLast();
+        if (fate == LatePart) {
+            m_package.m_embeddedBefore.append(embedded);
+        }
+        return fate;
+    }
+
+    void pass(const Passed &passed) override
+    {
+        for (const QXmlStreamAttribute &attribute : passed.attributes) {
+            if (isReference(attribute.qualifiedName())) {
+                m_package.takeReference(attribute.value().toString());
+            }
+        }
+        m_package.m_outline.pass(passed);
+    }
+
+private:
+    IwbPackage &m_package;
+    bool m_readsRecords;
+    QVector<int> m_before; // pictures within the document before each open element
+};
+
 IwbPackage::IwbPackage(const QString &path)
     : m_source(path, contentName)
 {
-    m_document = loadXmlFile(m_source.file(contentName), displayName());
-    if (iwbName(root()) != QLatin1String("iwb") && svgName(root()) != QLatin1String("svg")) {
-        throw LessonError(
-            QStringLiteral("The document begins with <%1> where an IWB file has <iwb>").arg(root().tagName()),
-            QStringLiteral("Check that this is an IWB lesson"))
-            .in(displayName());
-    }
+    const QString content = m_source.file(contentName);
     m_files = m_source.files();
     for (const QString &name : qAsConst(m_files)) {
         m_folded.insert(name.toCaseFolded(), name);
     }
-    extractEmbedded(root());
+    const bool hasOwnFiles = std::any_of(m_files.cbegin(), m_files.cend(), NativePart::isPart);
+    Visitor visitor(*this, hasOwnFiles);
+    m_parts = std::make_unique<XmlParts>(content, displayName(), visitor);
+    m_outline.finish();
+    if (!m_outline.hasKnownRoot()) {
+        throw LessonError(
+            QStringLiteral("The document begins with <%1> where an IWB file has <iwb>").arg(m_outline.rootTag()),
+            QStringLiteral("Check that this is an IWB lesson"))
+            .in(displayName());
+    }
+}
+
+XmlPart IwbPackage::part(int index) const
+{
+    const XmlPart part = m_parts->part(index);
+    findReferences(part.element, m_embeddedBefore.at(index));
+    return part;
 }
 
 QString IwbPackage::displayName() const
@@ -112,26 +197,40 @@ QString IwbPackage::resolve(const QString &reference, QString *problem) const
     return {};
 }
 
-// Pictures within the document become files, and their references the names of these.
-void IwbPackage::extractEmbedded(QDomElement element)
+// Pictures within the document become files.
+void IwbPackage::takeReference(const QString &reference)
+{
+    if (reference.startsWith(embeddedScheme)) {
+        saveEmbedded(reference);
+        return;
+    }
+    const QString other = otherName(reference);
+    if (!other.isEmpty()) {
+        m_remarks.append(QStringLiteral("%1 was found as %2").arg(reference.left(200), other));
+    }
+}
+
+// Makes references to what is there. embedded: how many pictures within the document there are before the element; gives
+// those before what follows it.
+int IwbPackage::findReferences(QDomElement element, int embedded) const
 {
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
         QDomAttr attribute = attributes.item(i).toAttr();
-        if (!attribute.name().endsWith(QLatin1String("href"))) {
+        if (!isReference(attribute.name())) {
             continue;
         }
         const QString other = otherName(attribute.value());
-        if (attribute.value().startsWith(QLatin1String("data:"))) {
-            attribute.setValue(saveEmbedded(attribute.value()));
+        if (attribute.value().startsWith(embeddedScheme)) {
+            attribute.setValue(hasContent(attribute.value()) ? m_embeddedPaths.at(embedded++) : QString());
         } else if (!other.isEmpty()) {
-            m_remarks.append(QStringLiteral("%1 was found as %2").arg(attribute.value().left(200), other));
             attribute.setValue(other);
         }
     }
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        extractEmbedded(child);
+        embedded = findReferences(child, embedded);
     }
+    return embedded;
 }
 
 // A file that isn't there by its name, but compressed beside it or with other capitals, as some programs leave it.
@@ -146,17 +245,17 @@ QString IwbPackage::otherName(const QString &reference) const
     return m_folded.value(compressed.toCaseFolded(), m_folded.value(path.toCaseFolded()));
 }
 
-QString IwbPackage::saveEmbedded(const QString &uri)
+void IwbPackage::saveEmbedded(const QString &uri)
 {
+    if (!hasContent(uri)) {
+        return;
+    }
     const int comma = uri.indexOf(QLatin1Char(','));
-    const QStringList head = uri.mid(5, qMax(0, comma - 5)).split(QLatin1Char(';'));
+    const QStringList head = uri.mid(5, comma - 5).split(QLatin1Char(';'));
     const QByteArray data = QByteArray::fromPercentEncoding(uri.mid(comma + 1).toUtf8());
     const QString name =
         QStringLiteral("embedded-%1.%2").arg(m_embedded.size() + 1).arg(suffixOfMediaType(head.first()));
     const QByteArray content = head.contains(QLatin1String("base64")) ? QByteArray::fromBase64(data) : data;
-    if (comma < 0) {
-        return {};
-    }
     const QString file = m_work.filePath(name);
     writeFile(file, content, m_source.path(), OutputFile::Temporary);
     QString path = QLatin1String("images/") + name;
@@ -164,20 +263,37 @@ QString IwbPackage::saveEmbedded(const QString &uri)
         path.insert(path.lastIndexOf(QLatin1Char('.')), QLatin1Char('_'));
     }
     m_embedded.insert(path, file);
-    return path;
+    m_embeddedPaths.append(path);
 }
 
 bool isIwbFolder(const QString &path)
 {
+    // Only its first element counts, but the rest has to be XML as well.
+    class Root : public XmlVisitor
+    {
+    public:
+        Way begin(const QDomElement &element) override
+        {
+            isIwb = iwbName(element) == QLatin1String("iwb");
+            return Past;
+        }
+        Fate end(const QDomElement &) override { return Dropped; }
+
+        bool isIwb = false;
+    };
     const QString file = path + QLatin1Char('/') + contentName;
     if (!QFileInfo(file).isFile()) {
         return false;
     }
-    // A disk that fails says nothing about the folder.
-    const QByteArray text = InputFile(file).all();
+    Root root;
     try {
-        return iwbName(loadXml(text, file).documentElement()) == QLatin1String("iwb");
+        const XmlParts document(file, file, root);
+        return root.isIwb;
     } catch (const LessonError &) {
+        // A disk that fails says nothing about the folder.
+        InputFile input(file);
+        while (!input.read(pieceSize).isEmpty()) { }
+        input.check();
         return false;
     }
 }

@@ -4,9 +4,12 @@
 
 #include "files/packagesource.h"
 #include "files/workfolder.h"
-#include "svg/iwbpage.h"
+#include "files/xmlparts.h"
+#include "iwb/elementmark.h"
+#include "svg/iwboutline.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -25,7 +28,12 @@ public:
     //! What was found otherwise than the document or the archive has it, as sentences without a full stop.
     QStringList remarks() const { return m_source.remarks() + m_remarks; }
 
-    QDomElement root() const { return m_document.documentElement(); }
+    //! What the document says outside of its pages.
+    const IwbOutline &outline() const { return m_outline; }
+    //! A part of the document, which is a layer of a page. Throws LessonError.
+    XmlPart part(int index) const;
+    //! What records say of each element, if the package has files beside those of the format.
+    const QHash<QString, QString> &recordTexts() const { return m_records.texts(); }
     QString displayName() const;
 
     //! Files but the content, and the pictures of the document itself, as paths in the package.
@@ -43,17 +51,24 @@ public:
     QString workFolder() const { return m_work.path(); }
 
 private:
-    void extractEmbedded(QDomElement element);
+    class Visitor;
+
+    void takeReference(const QString &reference);
+    int findReferences(QDomElement element, int embedded) const;
     QString otherName(const QString &reference) const;
-    QString saveEmbedded(const QString &uri);
+    void saveEmbedded(const QString &uri);
 
     PackageSource m_source;
     WorkFolder m_work;
-    QDomDocument m_document;
+    IwbOutline m_outline;
+    RecordTexts m_records;
+    std::unique_ptr<XmlParts> m_parts;
     QStringList m_files; // of the source
     QHash<QString, QString> m_folded; // the same by their names without capitals
     QStringList m_remarks;
     QHash<QString, QString> m_embedded; // file on disk by path in the package
+    QVector<QString> m_embeddedPaths; // in the order of the document
+    QVector<int> m_embeddedBefore; // how many there are before each part
 };
 
 //! The picture of the first page, for programs that show lists of lessons.

@@ -144,7 +144,7 @@ void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slid
 {
     const SvgNormalizer content(document.documentElement());
     IwbSlideReader::Slide found = m_reader.read(content.page(0), number, {});
-    found.slide.properties.insert(ItemKeys::id, m_names.next(content.backgroundName(0), content.pageId(0)));
+    found.slide.properties.insert(ItemKeys::id, m_names.next(content.outline().backgroundName(0), content.outline().pageId(0)));
     compareSlide(slide.properties, found.slide.properties, losses);
     int next = 0;
     for (const IwbPageWriter::WrittenItem &written : items) {
@@ -251,8 +251,8 @@ void IwbPageCheck::comparePresentation(const QDomDocument &document, const QJson
 {
     QDomDocument size;
     const SvgNormalizer content(document.documentElement());
-    QJsonObject found = m_plugin->tranPresIWB2JSON(content.sizeElement(size), {});
-    const QJsonObject meta = presentationInMeta(content.meta());
+    QJsonObject found = m_plugin->tranPresIWB2JSON(content.outline().sizeElement(size), {});
+    const QJsonObject meta = presentationInMeta(content.outline().meta());
     for (auto it = meta.constBegin(); it != meta.constEnd(); ++it) {
         found.insert(it.key(), it.value());
     }

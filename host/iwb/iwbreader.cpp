@@ -3,7 +3,6 @@
 
 #include "files/lessonerror.h"
 #include "iwb/boarddress.h"
-#include "iwb/elementmark.h"
 #include "iwb/pagerestorer.h"
 #include "iwb/slidenames.h"
 #include "izqtransformation.h"
@@ -17,29 +16,27 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     : m_plugin(context.plugin)
     , m_losses(context.losses)
     , m_package(path)
-    , m_content(m_package.root())
+    , m_content(m_package.outline(), [this](int part) { return m_package.part(part); })
     , m_slides(context.plugin, this)
     , m_native(m_package)
 {
-    if (!m_content.hasSvg()) {
+    const IwbOutline &outline = m_package.outline();
+    if (!outline.hasSvg()) {
         throw LessonError(QStringLiteral("The document has no svg element with pages"),
                           QStringLiteral("Check that this is an IWB lesson"))
             .in(m_package.displayName());
     }
-    if (m_native.isThere()) {
-        m_records = recordTexts(m_package.root());
-    }
     SlideNames names;
-    for (int i = 0; i < m_content.pageCount(); ++i) {
-        const QString id = m_content.pageId(i);
+    for (int i = 0; i < outline.pageCount(); ++i) {
+        const QString id = outline.pageId(i);
         if (!id.isEmpty() && !m_pageNumbers.contains(id)) {
             m_pageNumbers.insert(id, i + 1);
         }
-        m_slideIds.append(names.next(m_content.backgroundName(i), id));
+        m_slideIds.append(names.next(outline.backgroundName(i), id));
     }
     nameResources();
     const SlideLosses losses = m_losses.presentation();
-    const auto &meta = m_content.meta();
+    const auto &meta = outline.meta();
     if (!meta.value(QStringLiteral("description")).isEmpty()) {
         losses.value({QStringLiteral("iwb:meta"), {}}, QStringLiteral("description"),
                      meta.value(QStringLiteral("description")));
@@ -47,7 +44,7 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     for (const QString &remark : m_package.remarks()) {
         losses.note({QStringLiteral("presentation"), {}}, remark);
     }
-    for (const SvgRemark &remark : m_content.remarks()) {
+    for (const SvgRemark &remark : outline.remarks()) {
         const LossOwner owner(remark.tag, remark.id);
         remark.isLoss ? losses.value(owner, {}, remark.text) : losses.note(owner, remark.text);
     }
@@ -60,7 +57,7 @@ QSet<QString> IwbReader::madePicturesInUse()
         return {};
     }
     m_asked.clear();
-    for (int i = 0; i < m_content.pageCount(); ++i) {
+    for (int i = 0; i < m_package.outline().pageCount(); ++i) {
         slide(i, {});
     }
     return m_asked;
@@ -93,7 +90,7 @@ void IwbReader::nameResources()
 QJsonObject IwbReader::presentation()
 {
     QDomDocument document;
-    const QJsonObject shown = m_plugin->tranPresIWB2JSON(m_content.sizeElement(document), {});
+    const QJsonObject shown = m_plugin->tranPresIWB2JSON(m_package.outline().sizeElement(document), {});
     QJsonObject presentation = shown;
     if (m_native.isThere()) {
         presentation = m_native.presentation();
@@ -106,7 +103,7 @@ QJsonObject IwbReader::presentation()
         }
         return presentation;
     }
-    const QJsonObject meta = presentationInMeta(m_content.meta());
+    const QJsonObject meta = presentationInMeta(m_package.outline().meta());
     for (auto it = meta.constBegin(); it != meta.constEnd(); ++it) {
         presentation.insert(it.key(), it.value());
     }
@@ -120,10 +117,10 @@ LessonSlide IwbReader::slide(int index)
 
 LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
 {
-    const auto native = m_native.page(m_content.pageId(index));
+    const auto native = m_native.page(m_package.outline().pageId(index));
     LessonSlide slide;
     if (native) {
-        slide = PageRestorer(m_content, m_slides, m_records).restore(index, *native, losses);
+        slide = PageRestorer(m_content, m_slides, m_package.recordTexts()).restore(index, *native, losses);
     } else {
         slide = m_slides.read(m_content.page(index), index + 1, losses).slide;
         slide.properties.insert(SlideKeys::id, m_slideIds.at(index));

@@ -18,7 +18,7 @@ public:
     IwbReader(const QString &path, const LessonContext &context);
 
     QJsonObject presentation() override;
-    int slideCount() override { return m_content.pageCount(); }
+    int slideCount() override { return m_package.outline().pageCount(); }
     LessonSlide slide(int index) override;
     QStringList resources() override { return m_resources.keys(); }
     QString resourceFile(const QString &relativePath) override
@@ -45,7 +45,6 @@ private:
     SvgNormalizer m_content;
     IwbSlideReader m_slides;
     NativePart m_native;
-    QHash<QString, QString> m_records; // what they say of each element
     QMap<QString, QString> m_resources; // paths in the package by those in the lesson
     QHash<QString, QString> m_lessonPaths; // the other way round
     QSet<QString> m_asked; // paths that the pages show

@@ -33,8 +33,8 @@ PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader,
 
 LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses)
 {
-    m_index = index;
-    lookAtPage(index);
+    m_layers = m_content.layers(index);
+    lookAtPage();
     LessonSlide slide;
     slide.properties = properties(native, index + 1, losses);
     placeEntries(native);
@@ -48,10 +48,10 @@ LessonSlide PageRestorer::restore(int index, const NativePage &native, const Sli
     return slide;
 }
 
-void PageRestorer::lookAtPage(int index)
+void PageRestorer::lookAtPage()
 {
-    for (const QDomElement &layer : m_content.layers(index)) {
-        for (QDomElement child = layer.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+    for (const XmlPart &layer : qAsConst(m_layers)) {
+        for (QDomElement child = layer.element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             const QString id = itemElement(child).attribute(QStringLiteral("id"));
             // Of two, neither is surely the one.
             m_byId.insert(id, m_byId.contains(id) ? -1 : m_children.size());
@@ -90,7 +90,7 @@ QJsonObject PageRestorer::properties(const NativePage &native, int number, const
         properties.remove(key);
     }
     // The whole page, since another element may be the background now.
-    const QJsonObject shown = m_reader.read(m_content.page(m_index), number, {}).slide.properties;
+    const QJsonObject shown = m_reader.read(m_content.page(m_layers), number, {}).slide.properties;
     for (auto it = shown.constBegin(); it != shown.constEnd(); ++it) {
         properties.insert(it.key(), it.value());
     }
@@ -153,7 +153,7 @@ void PageRestorer::placeOthers(int number, const SlideLosses &losses)
         }
         if (end > i) {
             const IwbSlideReader::Slide found =
-                m_reader.read(m_content.page(m_index, m_children.mid(i, end - i)), number, losses);
+                m_reader.read(m_content.page(m_layers, m_children.mid(i, end - i)), number, losses);
             for (const QJsonValue &value : found.slide.items) {
                 QJsonObject item = value.toObject();
                 item.insert(ItemKeys::id, ids.take(item.value(ItemKeys::id).toString()));

@@ -28,7 +28,7 @@ private:
         QJsonObject item;
     };
 
-    void lookAtPage(int index);
+    void lookAtPage();
     bool isIntact(const NativePage::Part &part) const;
     void placeEntries(const NativePage &native);
     void placeOthers(int number, const SlideLosses &losses);
@@ -39,8 +39,8 @@ private:
     IwbSlideReader &m_reader;
     const QHash<QString, QString> &m_records;
 
-    int m_index = 0;
-    QVector<QDomElement> m_children; // of the page's layers
+    QVector<XmlPart> m_layers; // of the page
+    QVector<QDomElement> m_children; // of these
     QHash<QString, int> m_byId; // the child in which an element stands
     QSet<int> m_taken; // children that need not be read
     QVector<Placed> m_placed;

@@ -2,7 +2,9 @@
 #ifndef SVGNORMALIZER_H
 #define SVGNORMALIZER_H
 
-#include "svg/iwbpage.h"
+#include "svg/iwboutline.h"
+
+#include <functional>
 
 namespace lessonhost {
 
@@ -17,44 +19,24 @@ namespace lessonhost {
 class SvgNormalizer
 {
 public:
-    //! root: the document element. A document without an svg element has no pages.
+    //! A document that is there whole. root: the document element. A document without an svg element has no pages.
     explicit SvgNormalizer(const QDomElement &root);
+    //! A document of which pages are read when they are asked for. outline: has to live as long.
+    SvgNormalizer(const IwbOutline &outline, std::function<XmlPart(int)> part);
 
-    //! False where the document has no svg element.
-    bool hasSvg() const { return !m_svg.isNull(); }
+    const IwbOutline &outline() const { return m_outline; }
 
-    //! The attributes of the svg element that the plug-in reads the size of the lesson from.
-    QDomElement sizeElement(QDomDocument &document) const;
-
-    //! What the document says about itself, by the names that it uses: "owner", "description", "creator".
-    const QHash<QString, QString> &meta() const { return m_meta; }
-
-    int pageCount() const { return m_pages.size(); }
-    //! The identifier of a page in the file.
-    QString pageId(int index) const;
-    //! What a page was made of by the plug-in, which names the rectangle of its background so; empty for others.
-    QString backgroundName(int index) const;
     //! The elements that lie over each other on a page, from back to front.
-    const QVector<QDomElement> &layers(int index) const { return m_pages.at(index); }
-    IwbPage page(int index) const;
+    QVector<XmlPart> layers(int index) const;
+    IwbPage page(int index) const { return page(layers(index)); }
+    IwbPage page(const QVector<XmlPart> &layers) const;
     //! The page with some of its children alone.
-    IwbPage page(int index, const QVector<QDomElement> &children) const;
-
-    //! About the document as a whole.
-    const QVector<SvgRemark> &remarks() const { return m_remarks; }
+    IwbPage page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children) const;
 
 private:
-    void readSize();
-    void addLayer(const QDomElement &section);
-    void readRecords(const QDomElement &holder);
-    void readRecord(const QDomElement &row);
-
-    QDomElement m_svg; // the first section, whose size is that of all
-    QVector<QVector<QDomElement>> m_pages; // each with the elements of its layers, from back to front
-    QHash<QString, QString> m_meta;
-    IwbDocumentRules m_rules;
-    int m_groupCount = 0;
-    QVector<SvgRemark> m_remarks;
+    IwbOutline m_ownOutline; // of a document that is there whole
+    const IwbOutline &m_outline;
+    std::function<XmlPart(int)> m_part;
 };
 
 } // namespace lessonhost

@@ -116,10 +116,10 @@ bool SvgPageBuilder::isDrawn(const QString &svgName)
     return !svgName.isEmpty() && !isOneOf(silentElements, svgName);
 }
 
-IwbPage SvgPageBuilder::build(const QVector<QDomElement> &layers)
+IwbPage SvgPageBuilder::build(const QVector<XmlPart> &layers)
 {
-    for (const QDomElement &page : layers) {
-        children(page, placeOn(page));
+    for (const XmlPart &layer : layers) {
+        children(layer.element, placeOn(layer.element));
     }
     finishBackground();
     return m_result;

@@ -2,6 +2,7 @@
 #ifndef SVGPAGEBUILDER_H
 #define SVGPAGEBUILDER_H
 
+#include "files/xmlparts.h"
 #include "svg/iwbpage.h"
 #include "svg/svgstyle.h"
 
@@ -18,7 +19,7 @@ public:
     explicit SvgPageBuilder(const IwbDocumentRules &rules);
 
     //! layers: the page elements that lie over each other, from back to front.
-    IwbPage build(const QVector<QDomElement> &layers);
+    IwbPage build(const QVector<XmlPart> &layers);
     //! chosen: some of the page's children, which are all that is looked at.
     IwbPage build(const QDomElement &page, const QVector<QDomElement> &chosen);
 

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include "svg/iwboutline.h"
+
+#include "svg/svgnames.h"
+#include "svg/svgpagebuilder.h"
+#include "svg/svgvalues.h"
+
+namespace lessonhost {
+
+namespace {
+
+// A page that tells no size is as large as the editor's page for lessons in the shape 4:3.
+const QSizeF usualPage(1440, 1080);
+
+bool isTrue(const QString &text)
+{
+    return text == QLatin1String("true") || text == QLatin1String("1");
+}
+
+bool isPageSet(const QString &name)
+{
+    return name == QLatin1String("pageSet") || name == QLatin1String("pageset");
+}
+
+QString idOf(const QDomElement &element)
+{
+    return element.attribute(QStringLiteral("id"));
+}
+
+QString refOf(const QDomElement &row)
+{
+    return row.attribute(QStringLiteral("ref"));
+}
+
+} // namespace
+
+XmlVisitor::Way IwbOutline::begin(const QDomElement &element)
+{
+    m_isInPage = false;
+    if (m_root.isNull()) {
+        m_root = element;
+        m_rootTag = element.tagName();
+        m_rules.isIwb = iwbName(element) == QLatin1String("iwb");
+        m_hasKnownRoot = m_rules.isIwb || svgName(element) == QLatin1String("svg");
+    }
+    if (!m_section.isNull()) {
+        return beginInSection(element);
+    }
+    if (beginsSection(element)) {
+        beginSection(element);
+        return Inside;
+    }
+    const QDomElement holder = element.parentNode().toElement();
+    if (element == m_root) {
+        return Inside;
+    }
+    if (holder == m_root || (!m_groups.isEmpty() && m_groups.last() == holder)) {
+        return beginRecord(element);
+    }
+    // The first svg element may stand anywhere.
+    return m_hasSvg ? Past : Inside;
+}
+
+XmlVisitor::Fate IwbOutline::end(const QDomElement &element)
+{
+    if (!m_groups.isEmpty() && m_groups.last() == element) {
+        m_groups.removeLast();
+        m_groupNumbers.removeLast();
+    }
+    if (element == m_section) {
+        m_section.clear();
+        if (m_layersInSection == 0) {
+            for (const QString &id : qAsConst(m_strayRectangles)) {
+                m_rectangles.append({m_partCount, id});
+            }
+            addLayer(element);
+            return LatePart;
+        }
+        m_layerRemarks += m_strays;
+        return Kept;
+    }
+    const bool isAroundParts = element == m_root || element == m_sectionHolder || !m_section.isNull();
+    return isAroundParts || element.hasChildNodes() ? Kept : Dropped;
+}
+
+void IwbOutline::pass(const Passed &passed)
+{
+    if (m_isInPage && passed.level == 1 && passed.name.endsWith(QLatin1String("rect"))) {
+        lookAtChild(passed.node());
+    }
+}
+
+// Which of a page's rectangles is its background is known when all records are.
+void IwbOutline::lookAtChild(const QDomElement &child)
+{
+    if (svgName(child) == QLatin1String("rect") && !idOf(child).isEmpty()) {
+        m_rectangles.append({m_partCount - 1, idOf(child)});
+    }
+}
+
+void IwbOutline::finish()
+{
+    m_rules.hasPlainTurns = m_meta.value(QStringLiteral("creator")).startsWith(QLatin1String("lessonconv "));
+    QHash<int, QString> backgrounds;
+    for (const Rectangle &rectangle : qAsConst(m_rectangles)) {
+        const auto record = m_rules.records.constFind(rectangle.id);
+        if (record != m_rules.records.constEnd() && record->isBackground && !backgrounds.contains(rectangle.part)) {
+            backgrounds.insert(rectangle.part, rectangle.id);
+        }
+    }
+    m_rectangles = {};
+    m_strays = {};
+    m_strayRectangles = {};
+    m_root.clear();
+    m_sectionHolder.clear();
+    const QLatin1String ending("_rect");
+    for (Page &page : m_pages) {
+        for (const int part : qAsConst(page.layers)) {
+            const auto id = backgrounds.constFind(part);
+            if (id != backgrounds.constEnd()) {
+                page.backgroundName = id->endsWith(ending) ? id->chopped(ending.size()) : QString();
+                break;
+            }
+        }
+    }
+}
+
+// Some programs write a section for each layer of the pages.
+bool IwbOutline::beginsSection(const QDomElement &element) const
+{
+    return svgName(element) == QLatin1String("svg")
+        && (!m_hasSvg || element.parentNode().toElement() == m_sectionHolder);
+}
+
+void IwbOutline::beginSection(const QDomElement &section)
+{
+    if (!m_hasSvg) {
+        m_hasSvg = true;
+        m_sectionHolder = section.parentNode().toElement();
+        m_svgId = idOf(section);
+        m_rules.isNative = section.attribute(QStringLiteral("version")) == QLatin1String("tesselmark");
+        readSize(section);
+    }
+    m_section = section;
+    m_layersInSection = 0;
+    m_strays.clear();
+    m_strayRectangles.clear();
+}
+
+XmlVisitor::Way IwbOutline::beginInSection(const QDomElement &element)
+{
+    const QString name = svgName(element);
+    if (name == QLatin1String("page")) {
+        addLayer(element);
+        m_isInPage = true;
+        return Part;
+    }
+    if (isPageSet(name)) {
+        return Inside;
+    }
+    if (element.parentNode() == m_section) {
+        if (SvgPageBuilder::isDrawn(name)) {
+            m_strays.append({name, idOf(element), QStringLiteral("it stands on no page and is left out")});
+        }
+        if (name == QLatin1String("rect")) {
+            m_strayRectangles.append(idOf(element));
+        }
+    }
+    return Past;
+}
+
+void IwbOutline::addLayer(const QDomElement &page)
+{
+    if (m_layersInSection == m_pages.size()) {
+        m_pages.append({idOf(page), {}, {}});
+    }
+    m_pages[m_layersInSection].layers.append(m_partCount);
+    ++m_layersInSection;
+    ++m_partCount;
+}
+
+void IwbOutline::readSize(const QDomElement &svg)
+{
+    QVector<double> box = svgNumbers(svg.attribute(QStringLiteral("viewBox")));
+    if (box.size() != 4) {
+        box = svgNumbers(svg.attribute(QStringLiteral("viewbox")));
+    }
+    if (box.size() == 4 && box.at(2) > 0 && box.at(3) > 0) {
+        m_rules.viewBox = QRectF(box.at(0), box.at(1), box.at(2), box.at(3));
+        return;
+    }
+    const auto width = svgLength(svg.attribute(QStringLiteral("width")));
+    const auto height = svgLength(svg.attribute(QStringLiteral("height")));
+    if (width && height && *width > 0 && *height > 0) {
+        m_rules.viewBox = QRectF(0, 0, *width, *height);
+        return;
+    }
+    m_rules.viewBox = QRectF(QPointF(), usualPage);
+    m_sizeRemarks.append(
+        {QStringLiteral("svg"), {}, QStringLiteral("the file tells no page size; 1440 x 1080 was taken"), false});
+}
+
+XmlVisitor::Way IwbOutline::beginRecord(const QDomElement &row)
+{
+    if (!m_groups.isEmpty()) {
+        m_rules.groups.insert(refOf(row), m_groupNumbers.last());
+    }
+    const QString name = iwbName(row);
+    if (name == QLatin1String("element")) {
+        readRecord(row);
+    } else if (name == QLatin1String("group")) {
+        m_groups.append(row);
+        m_groupNumbers.append(m_groupCount++);
+        return Inside;
+    } else if (name == QLatin1String("meta")) {
+        m_meta.insert(row.attribute(QStringLiteral("name")), row.attribute(QStringLiteral("content")));
+    } else if (name != QLatin1String("link") && svgName(row) != QLatin1String("svg")) {
+        m_recordRemarks.append({row.tagName(), row.attribute(QStringLiteral("ref"), idOf(row)),
+                                QStringLiteral("lessons have no such record"), false});
+    }
+    return m_hasSvg ? Past : Inside;
+}
+
+// Of two records of one element, the later says what it says.
+void IwbOutline::readRecord(const QDomElement &row)
+{
+    IwbRecord &record = m_rules.records[row.attribute(QStringLiteral("ref"))];
+    const auto readFlag = [&row](const char *name, bool &flag) {
+        const QString text = row.attribute(QLatin1String(name));
+        flag = text.isEmpty() ? flag : isTrue(text);
+    };
+    const auto readText = [&row](const char *name, QString &text) { text = row.attribute(QLatin1String(name), text); };
+    // The plug-in writes the attribute with a slip of the pen.
+    readFlag("backgorund", record.isBackground);
+    readFlag("background", record.isBackground);
+    record.refusesPicture = row.attribute(QStringLiteral("background")) == QLatin1String("false")
+        || (record.refusesPicture && !row.hasAttribute(QStringLiteral("background")));
+    readFlag("locked", record.isLocked);
+    readFlag("replicate", record.isEndless);
+    readFlag("revealer", record.isRevealer);
+    readFlag("freehand", record.isFreehand);
+    readFlag("highlight", record.isHighlight);
+    readText("stroke-lineshape-start", record.startShape);
+    readText("stroke-lineshape-end", record.endShape);
+    readText("background-posture", record.posture);
+    readText("background-fill", record.textFill);
+    const QString flip = row.attribute(QStringLiteral("flip"));
+    if (!flip.isEmpty()) {
+        record.flipsAcross = flip == QLatin1String("horizontal") || flip == QLatin1String("both");
+        record.flipsDown = flip == QLatin1String("vertical") || flip == QLatin1String("both");
+    }
+}
+
+QDomElement IwbOutline::sizeElement(QDomDocument &document) const
+{
+    QDomElement element = document.createElement(QStringLiteral("svg:svg"));
+    document.appendChild(element);
+    element.setAttribute(QStringLiteral("width"), QString::number(m_rules.viewBox.width(), 'g', 10));
+    element.setAttribute(QStringLiteral("height"), QString::number(m_rules.viewBox.height(), 'g', 10));
+    if (!m_svgId.isEmpty()) {
+        element.setAttribute(QStringLiteral("id"), m_svgId);
+    }
+    return element;
+}
+
+} // namespace lessonhost
