@@ -31,6 +31,16 @@ bool removeEmptyFolder(const Folder &folder, const QByteArray &name)
     return ::unlinkat(folder.descriptor(), name.constData(), AT_REMOVEDIR) == 0;
 }
 
+// Most file systems tell the kind with the name; the others are asked about each.
+mode_t kindOf(int folder, const dirent &entry)
+{
+    if (entry.d_type != DT_UNKNOWN) {
+        return DTTOIF(entry.d_type);
+    }
+    struct stat there = {};
+    return ::fstatat(folder, entry.d_name, &there, AT_SYMLINK_NOFOLLOW) == 0 ? there.st_mode & S_IFMT : 0;
+}
+
 } // namespace
 
 QString Folder::Entry::text() const
@@ -84,11 +94,9 @@ QVector<Folder::Entry> Folder::entries(int *error) const
             failure = errno;
             break;
         }
-        struct stat there = {};
         const bool isSelf = std::strcmp(next->d_name, ".") == 0 || std::strcmp(next->d_name, "..") == 0;
         if (!isSelf) {
-            const bool isThere = ::fstatat(m_descriptor, next->d_name, &there, AT_SYMLINK_NOFOLLOW) == 0;
-            found.append({next->d_name, isThere ? there.st_mode : 0});
+            found.append({next->d_name, kindOf(m_descriptor, *next)});
         }
     }
     if (list) {

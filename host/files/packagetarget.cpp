@@ -245,6 +245,16 @@ void PackageTarget::sweep(const QString &folder)
     }
 }
 
+// A run over many lessons would look through all its results again for each of them.
+void PackageTarget::sweepOnce(const QString &folder)
+{
+    static QSet<QString> swept;
+    if (!swept.contains(folder)) {
+        swept.insert(folder);
+        sweep(folder);
+    }
+}
+
 PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isReplaceable)
     : m_shownTarget(target)
     , m_kind(kind)
@@ -263,7 +273,7 @@ PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isR
     } else if (m_kind != Files) {
         checkPlace(m_target, m_shownTarget);
     }
-    sweep(parent.filePath());
+    sweepOnce(parent.filePath());
     makeStaging(parent.filePath());
 }
 

@@ -74,6 +74,7 @@ public:
     void commit();
 
 private:
+    static void sweepOnce(const QString &folder);
     QString makePlace(const QString &relativePath);
     void count(qint64 bytes);
     void makeStaging(const QString &parent);
