@@ -216,12 +216,113 @@ private slots:
         QCOMPARE(drawn.value("named").toArray().size(), 1);
 
         QFile::remove(path("in/d.json"));
-        QCOMPARE(draw({"--to", "jpeg"}).output, "3 lessons: 0 drawn, 3 done before.\n");
+        QCOMPARE(draw({"--to", "jpeg"}).output,
+                 "3 lessons: 0 drawn, 3 done before.\n1 item is shown by name; the report names each.\n");
         putFile(path("out/c/notes.txt"), "not of this command");
         QVERIFY(draw({"--to", "jpeg"}).errors.contains("out/c: There is a folder of this name already"));
         QCOMPARE(draw({"--to", "pdf"}).output.section('\n', 0, 0), "3 lessons: 3 drawn.");
         QCOMPARE(draw({"--to", "png", "--slides", "1", "--width", "20"}).exitCode, 0);
         QVERIFY(QFile::exists(path("out/a/b.pdf")) && QFile::exists(path("out/a.png")));
+    }
+
+    // Three runs at the same time into one folder do what one run does, and know what runs in other parts have done.
+    void shardsMakeAWhole()
+    {
+        for (int i = 0; i < 20; ++i) {
+            putLesson("in/%1lesson%2.json"_s.arg(i % 3 ? "term%1/"_s.arg(i % 3) : QString()).arg(i));
+        }
+        putLesson("in/lesson1.json");
+        putFile(path("in/lesson1.xml"), "<presentation><slide/></presentation>");
+        putFile(path("in/term1/lesson1.xml"), "<notes/>");
+        putFile(path("in/term2/a.json"), R"({"Slides":[{"Items":[{"Type":"ZQSmoothStroke","Mood":"good"}]}]})");
+        putFile(path("in/term2/b.json"), "{");
+        QVERIFY(QFile::link("term2/a.json", path("in/z.json")));
+        QCOMPARE(convert({"in", "--to", "zqtx", "--report", "report.json"}).exitCode, 2);
+        const QJsonObject whole = report();
+        QStringList expected = results();
+        QVERIFY(expected.removeOne(".lessonconv-done"));
+        QVERIFY(QDir(path("out")).removeRecursively());
+
+        CommandProcess shards[3];
+        for (int i = 0; i < 3; ++i) {
+            const QString number = QString::number(i + 1);
+            begin(
+                shards[i],
+                {"in", "--to", "zqtx", "--shard", number + "/3", "--report", "r%1.json"_s.arg(number), "--jobs", "1"});
+            expected.append(".lessonconv-done-%1of3"_s.arg(number));
+        }
+        for (CommandProcess &shard : shards) {
+            QVERIFY(shard.outcome().exitCode != -1);
+        }
+        expected.sort();
+        QCOMPARE(results(), expected);
+        const auto merge = [this](const QStringList &reports) {
+            return runCommand(QStringList{"report", "--report", "report.json"} + reports, m_folder->path());
+        };
+        const CommandProcess::Outcome all = merge({"r3.json", "r1.json", "r2.json"});
+        QCOMPARE(all.exitCode, 2);
+        QCOMPARE(all.output,
+                 "24 lessons: 23 converted, 1 not converted.\n"
+                 "1 lesson lost something, 1 value, item or file in all; the report of its run names each.\n"
+                 "1 file is called like a lesson and is none: in/term1/lesson1.xml.\n"
+                 "1 value lost: 1 ZQSmoothStroke.Mood in 1 lesson\nNot converted:\n"
+                 "in/term2/b.json, line 1: This is not JSON: the file ends too early. Check that the file is complete "
+                 "and is a lesson in JSON.\n");
+        QJsonObject merged = report();
+        const QJsonObject shares = merged.take("shards").toObject();
+        QCOMPARE(shares.value("found").toInt(), 26); // with the file that is none and the link
+        QCOMPARE(shares.value("taken").toInt(), 26);
+        QJsonArray lessons = whole.value("lessons").toArray();
+        for (QJsonValueRef lesson : lessons) {
+            QJsonObject entry = lesson.toObject();
+            QJsonObject losses = entry.take("losses").toObject();
+            losses.remove("entries"); // which stay in the reports of the shards
+            if (!losses.isEmpty()) {
+                entry.insert("losses", losses);
+            }
+            lesson = entry;
+        }
+        QCOMPARE(merged.take("lessons").toArray(), lessons);
+        QJsonObject counts = whole.value("counts").toObject();
+        counts.insert("not taken", 0);
+        QCOMPARE(merged.take("counts").toObject(), counts);
+        QCOMPARE(merged.value("kinds"), whole.value("kinds"));
+
+        QFile::remove(path("report.json"));
+        const CommandProcess::Outcome some = merge({"r1.json", "r3.json"});
+        QCOMPARE(some.exitCode, 2);
+        QVERIFY2(some.output.contains("There is no report of shard 2 of 3"), qPrintable(some.output));
+        const int left = 26 - report().value("shards").toObject().value("taken").toInt();
+        QVERIFY(left > 0);
+        QCOMPARE(report().value("counts").toObject().value("not taken").toInt(), left);
+        QVERIFY(merge({"r1.json", "r1.json"}).errors.contains("is in this report and in r1.json"));
+        QVERIFY(merge({"r1.json", "in/lesson0.json"}).errors.contains("no report on many lessons"));
+
+        QFile::remove(path("in/term2/b.json"));
+        int before = 0;
+        for (const char *shard : {"1/2", "2/2"}) {
+            const CommandProcess::Outcome again =
+                convert({"in", "--to", "zqtx", "--resume", "--shard", shard, "--report", "r9.json", "--quiet"});
+            QCOMPARE(again.exitCode, 0);
+            const QJsonObject done = QJsonDocument::fromJson(fileContent(path("r9.json"))).object();
+            before += done["counts"].toObject().value("done before").toInt();
+            QVERIFY(merge({"r1.json", "r9.json"}).errors.contains("another number of shards"));
+        }
+        QCOMPARE(before, 23);
+    }
+
+    void shardHasOneRun()
+    {
+        putSlowLesson("0.json");
+        const QStringList arguments{"0.json", "--to", "zqtx", "--shard", "1/1"};
+        CommandProcess process;
+        begin(process, arguments);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("out/.lessonconv-done-1of1")), 20000);
+        const CommandProcess::Outcome second = convert(arguments);
+        QCOMPARE(second.exitCode, 2);
+        QVERIFY2(second.errors.contains("Another run is at work on shard 1 of 1"), qPrintable(second.errors));
+        QCOMPARE(process.outcome().exitCode, 0);
+        QCOMPARE(convert(arguments).exitCode, 0);
     }
 
     void crashFailsOneLesson()
@@ -286,6 +387,7 @@ private slots:
         row("among the lessons", {"in", "--to", "iwb", "--out-dir", "in"}, "among the lessons");
         row("itself", {"in/a.json", "--to", "json", "--out-dir", "in"}, "place of the lesson");
         row("same name", {"in/a.json", "other/a.json", "--to", "iwb"}, "both be written as a.json.iwb");
+        row("shard", {"in", "--to", "iwb", "--shard", "4/3"}, "is no shard");
         row("jobs", {"in", "--to", "iwb", "--jobs", "none"}, "number of jobs");
         row("time", {"in", "--to", "iwb", "--lesson-timeout", "0"}, "number of seconds");
         row("no folder can be made", {"in", "--to", "iwb", "--out-dir", "other/a.json/x"}, "can't be made");

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <vector>
 
 namespace lessonhost {
@@ -35,15 +36,21 @@ public:
         : m_plan(plan)
         , m_settings(settings)
         , m_watcher(watcher)
-        , m_journal(settings.outputFolder, settings.fingerprint)
+        , m_journal(settings.outputFolder, settings.fingerprint, plan, settings.resume)
         , m_result(*settings.work)
         , m_states(plan.lessons.size())
     {
-        m_result.lessons.resize(plan.lessons.size());
+        m_result.totals.setPlan(plan);
+        for (const QString &file : plan.passedOver) {
+            m_result.totals.passOver(file);
+        }
     }
 
     BatchResult run()
     {
+        if (m_plan.lessons.isEmpty()) {
+            return m_result;
+        }
         Interruptions interruptions;
         QSocketNotifier notifier(interruptions.descriptor(), QSocketNotifier::Read);
         QObject::connect(&notifier, &QSocketNotifier::activated, [this, &notifier] {
@@ -71,6 +78,12 @@ public:
         m_loop.exec();
         for (Worker &worker : m_workers) {
             end(worker);
+        }
+        for (int open = m_done; open < m_plan.lessons.size(); ++open) {
+            m_result.totals.add(BatchTotals::Open);
+        }
+        if (m_failure) {
+            throw LessonError(*m_failure);
         }
         if (!m_problem.isEmpty()) {
             throw LessonError(QStringLiteral("A worker process can't be started: %1").arg(m_problem),
@@ -154,9 +167,7 @@ private:
         if (result.isEmpty()) {
             return false;
         }
-        m_result.lessons[index].state = BatchResult::DoneBefore;
-        m_result.lessons[index].result = result;
-        ++m_done;
+        tell(index, BatchTotals::DoneBefore, result);
         return true;
     }
 
@@ -229,7 +240,7 @@ private:
         rest(worker);
         // It is the one who is speaking.
         worker.process.release()->deleteLater();
-        if (worker.lesson < 0 || m_result.isInterrupted) {
+        if (worker.lesson < 0 || m_result.totals.isInterrupted) {
             return;
         }
         PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
@@ -260,9 +271,7 @@ private:
 
     void succeed(int index, const QJsonObject &result)
     {
-        BatchResult::Lesson &lesson = m_result.lessons[index];
-        lesson.state = BatchResult::Done;
-        lesson.result = result;
+        tell(index, BatchTotals::Done, result);
         QJsonObject remembered = result;
         for (const QString &detail : m_settings.work->details) {
             remembered.remove(detail);
@@ -275,20 +284,33 @@ private:
             }
             m_result.hasJournalFailed = true;
         }
-        ++m_done;
     }
 
     void fail(int index, const QString &message)
     {
-        m_result.lessons[index].state = BatchResult::Failed;
-        m_result.lessons[index].message = message;
-        ++m_done;
+        tell(index, BatchTotals::Failed, {}, message);
         m_watcher.failure(message);
+    }
+
+    void tell(int index, BatchTotals::State state, const QJsonObject &result, const QString &message = {})
+    {
+        ++m_done;
+        m_result.totals.add(state, result);
+        if (!m_watcher.told || m_failure) {
+            return;
+        }
+        try {
+            m_watcher.told(index, state, result, message);
+        } catch (const LessonError &error) {
+            // Not through the event loop.
+            m_failure = std::make_unique<LessonError>(error);
+            interrupt();
+        }
     }
 
     void interrupt()
     {
-        m_result.isInterrupted = true;
+        m_result.totals.isInterrupted = true;
         for (Worker &worker : m_workers) {
             if (worker.process) {
                 worker.process->kill();
@@ -320,6 +342,7 @@ private:
     QVector<QString> m_states; // of the lessons before their conversion
     QString m_name;
     QString m_problem;
+    std::unique_ptr<LessonError> m_failure; // of whoever is told what becomes of the lessons
     QEventLoop m_loop;
     std::vector<Worker> m_workers;
     int m_next = 0;

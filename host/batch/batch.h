@@ -30,6 +30,8 @@ struct BatchWatcher
     //! name: the lesson that a worker took last.
     std::function<void(int done, int total, const QString &name)> progress;
     std::function<void(const QString &message)> failure;
+    //! What became of a lesson of the plan, by its index; may be empty. May throw LessonError.
+    std::function<void(int index, BatchTotals::State state, const QJsonObject &result, const QString &message)> told;
 };
 
 /*!

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "batch/batchjournal.h"
 
+#include "files/folder.h"
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
@@ -11,10 +12,14 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QSet>
 
+#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace lessonhost {
@@ -25,6 +30,9 @@ const QLatin1String outputKey("output");
 const QLatin1String lessonKey("lesson");
 const QLatin1String madeKey("made");
 const QLatin1String resultKey("result");
+const QLatin1String journalName(".lessonconv-done");
+
+constexpr qint64 pieceSize = qint64(256) * 1024;
 
 QByteArray sizeAndTime(const QFileInfo &file)
 {
@@ -48,6 +56,37 @@ QByteArray stateOfPath(const QString &path)
     return files.join('\n');
 }
 
+// Another run may have put a new file in its place.
+bool isAt(int descriptor, const QString &file)
+{
+    struct stat opened = {};
+    struct stat there = {};
+    return ::fstat(descriptor, &opened) == 0 && ::lstat(QFile::encodeName(file).constData(), &there) == 0
+        && opened.st_ino == there.st_ino && opened.st_dev == there.st_dev;
+}
+
+template <typename Take> void eachLine(const QString &file, const Take &take)
+{
+    InputFile input(file);
+    QByteArray text;
+    for (qint64 at = 0; at < input.size();) {
+        const qint64 count = qMin(pieceSize, input.size() - at);
+        text += input.bytes(at, count);
+        at += count;
+        int begin = 0;
+        for (int end = text.indexOf('\n'); end >= 0; end = text.indexOf('\n', begin)) {
+            if (end > begin) {
+                take(QJsonDocument::fromJson(text.mid(begin, end - begin)).object());
+            }
+            begin = end + 1;
+        }
+        text.remove(0, begin);
+    }
+    if (!text.isEmpty()) {
+        take(QJsonDocument::fromJson(text).object());
+    }
+}
+
 QString shortened(const QByteArray &text)
 {
     return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex());
@@ -55,36 +94,67 @@ QString shortened(const QByteArray &text)
 
 } // namespace
 
-QString BatchJournal::fileIn(const QString &outputFolder)
+QString BatchJournal::fileIn(const QString &outputFolder, const BatchShard &shard)
 {
-    return outputFolder + QLatin1String("/.lessonconv-done");
+    const QString part = shard.isWhole() ? QString() : QString(QLatin1Char('-') + shard.fileName());
+    return outputFolder + QLatin1Char('/') + journalName + part;
 }
 
-BatchJournal::BatchJournal(const QString &outputFolder, const QByteArray &settings)
+BatchJournal::BatchJournal(const QString &outputFolder, const QByteArray &settings, const BatchPlan &plan,
+                           bool readsOthers)
     : m_folder(outputFolder)
+    , m_shard(plan.shard)
+    , m_file(fileIn(outputFolder, plan.shard))
     , m_settings(settings)
 {
-    const QString file = fileIn(outputFolder);
-    const QFileInfo info(file);
+    const QFileInfo info(m_file);
     // Whoever may write in the folder could lead these lines into any file of this user.
     if (info.isSymLink() || (info.exists() && !info.isFile())) {
         throw LessonError(QStringLiteral("This is no file that lessonconv has made"), QStringLiteral("Remove it"))
-            .in(file);
+            .in(m_file);
+    }
+    hold();
+    if (readsOthers) {
+        readOthers(plan);
     }
     if (info.exists()) {
         read();
         dropOldLines();
     }
-    m_descriptor = ::open(QFile::encodeName(file).constData(),
-                          O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
-    if (m_descriptor < 0) {
-        throw LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(systemReason(errno)),
-                          QStringLiteral("Check that you may write there and that there is room"))
-            .in(outputFolder);
-    }
     // The next line must not be taken for the end of one that was cut off.
     if (info.size() > 0) {
         write("\n");
+    }
+}
+
+int BatchJournal::opened() const
+{
+    const int descriptor = ::open(QFile::encodeName(m_file).constData(),
+                                  O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (descriptor < 0) {
+        throw LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(systemReason(errno)),
+                          QStringLiteral("Check that you may write there and that there is room"))
+            .in(m_folder);
+    }
+    return descriptor;
+}
+
+// The system gives the lock up when the run ends, at whatever moment that is. Where the file system knows no locks, the
+// batch engine alone sees to it that a shard has one run.
+void BatchJournal::hold()
+{
+    const int descriptor = opened();
+    const bool isHeld = m_shard.isWhole()
+        || ((::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) && isAt(descriptor, m_file));
+    if (m_descriptor >= 0) {
+        ::close(m_descriptor);
+    }
+    m_descriptor = descriptor;
+    if (!isHeld) {
+        throw LessonError(
+            QStringLiteral("Another run is at work on shard %1 of %2").arg(m_shard.number).arg(m_shard.count),
+            QStringLiteral("Wait for its end, or end it"))
+            .in(m_folder);
     }
 }
 
@@ -103,7 +173,7 @@ void BatchJournal::write(const QByteArray &text) const
         if (count < 0 && errno != EINTR) {
             throw LessonError(QStringLiteral("What is done can't be noted for --resume: %1").arg(systemReason(errno)),
                               QStringLiteral("Check that there is room"))
-                .in(fileIn(m_folder));
+                .in(m_file);
         }
         done += qMax<ssize_t>(count, 0);
     }
@@ -111,14 +181,33 @@ void BatchJournal::write(const QByteArray &text) const
 
 void BatchJournal::read()
 {
-    const QByteArrayList lines = InputFile(fileIn(m_folder)).all().split('\n');
-    for (const QByteArray &text : lines) {
-        if (text.isEmpty()) {
-            continue;
-        }
-        const QJsonObject line = QJsonDocument::fromJson(text).object();
+    eachLine(m_file, [this](const QJsonObject &line) {
         m_lines.insert(line.value(outputKey).toString(), line);
         ++m_lineCount;
+    });
+}
+
+// Shards of the same number have other lessons; those of another one may have had the same.
+void BatchJournal::readOthers(const BatchPlan &plan)
+{
+    QSet<QString> outputs;
+    for (const BatchPlan::Lesson &lesson : plan.lessons) {
+        outputs.insert(lesson.output);
+    }
+    const QString own = QFileInfo(m_file).fileName();
+    const QString sameNumber = QStringLiteral("of%1").arg(m_shard.count);
+    const QVector<Folder::Entry> entries = Folder(m_folder).entries();
+    for (const Folder::Entry &entry : entries) {
+        const QString name = entry.text();
+        if (!entry.isFile() || !name.startsWith(journalName) || name == own || name.endsWith(sameNumber)) {
+            continue;
+        }
+        eachLine(m_folder + QLatin1Char('/') + name, [this, &outputs](const QJsonObject &line) {
+            const QString output = line.value(outputKey).toString();
+            if (outputs.contains(output)) {
+                m_lines.insert(output, line);
+            }
+        });
     }
 }
 
@@ -128,11 +217,12 @@ void BatchJournal::dropOldLines()
     if (m_lineCount < 2 * m_lines.size() + 100) {
         return;
     }
-    PackageTarget target(fileIn(m_folder));
+    PackageTarget target(m_file);
     for (const QJsonObject &line : qAsConst(m_lines)) {
         target.file().put(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
     }
     target.commit();
+    hold();
 }
 
 QString BatchJournal::pathOf(const BatchPlan::Lesson &lesson) const

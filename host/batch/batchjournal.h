@@ -13,15 +13,18 @@ namespace lessonhost {
  * What runs over many lessons have done in a folder, kept there in the file ".lessonconv-done": a line of JSON a
  * lesson, written when its result is in place. A run that is killed loses at most its last line, and with it the
  * knowledge that one lesson is done. Of several lines about a result the last one counts.
+ *
+ * Each shard has a journal of its own, which no two runs hold at the same time.
  */
 class BatchJournal
 {
 public:
     //! Where the journal of a folder is.
-    static QString fileIn(const QString &outputFolder);
+    static QString fileIn(const QString &outputFolder, const BatchShard &shard = {});
 
-    //! settings: whatever makes the same lesson give another result, such as the version. Throws LessonError.
-    BatchJournal(const QString &outputFolder, const QByteArray &settings);
+    //! settings: whatever makes the same lesson give another result, such as the version. readsOthers: what was done
+    //! in another number of shards is known as well. Throws LessonError, also where another run has this shard.
+    BatchJournal(const QString &outputFolder, const QByteArray &settings, const BatchPlan &plan, bool readsOthers);
     ~BatchJournal();
     BatchJournal(const BatchJournal &) = delete;
     BatchJournal &operator=(const BatchJournal &) = delete;
@@ -40,10 +43,15 @@ public:
 private:
     void write(const QByteArray &text) const;
     QString pathOf(const BatchPlan::Lesson &lesson) const;
+    int opened() const;
+    void hold(); // opens the file, and locks that of a shard
+    void readOthers(const BatchPlan &plan);
     void read();
     void dropOldLines();
 
     QString m_folder;
+    BatchShard m_shard;
+    QString m_file;
     QByteArray m_settings;
     int m_descriptor = -1; // of the file, to write at its end
     QHash<QString, QJsonObject> m_lines; // by output

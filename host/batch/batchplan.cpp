@@ -4,10 +4,12 @@
 #include "files/folder.h"
 #include "files/lessonerror.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
 #include <QSet>
+#include <QtEndian>
 
 #include <algorithm>
 #include <tuple>
@@ -15,9 +17,6 @@
 namespace lessonhost {
 
 namespace {
-
-// Of archives that don't say what is in them.
-const QLatin1String archiveEnding("zip");
 
 const LessonFormat *formatOf(const QFileInfo &entry)
 {
@@ -49,43 +48,30 @@ bool isSomethingElse(const QString &file)
     }
 }
 
-// The name without its ending, if that is the one of a format: "Lesson 1.2" keeps its number.
-QString stemOf(const QString &path)
-{
-    const QString extension = QFileInfo(path).suffix();
-    const auto &formats = lessonFormats();
-    const bool isKnown = std::any_of(formats.cbegin(), formats.cend(), [&extension](const LessonFormat &format) {
-        return format.extensions.contains(extension.toLower());
-    });
-    return isKnown || extension.toLower() == archiveEnding ? path.chopped(extension.size() + 1) : path;
-}
-
 class Planner
 {
 public:
-    Planner(const LessonFormat *from, const QString &extension, const QString &outputFolder)
+    Planner(const LessonFormat *from, const QString &extension, const QString &outputFolder, const BatchShard &shard)
         : m_from(from)
         , m_extension(extension.isEmpty() ? QString() : QString(QLatin1Char('.') + extension))
         , m_output(QFileInfo(outputFolder).absoluteFilePath())
         , m_shownOutput(outputFolder)
     {
+        m_plan.shard = shard;
         const QString canonical = QFileInfo(outputFolder).canonicalFilePath();
         if (!canonical.isEmpty()) {
             m_output = canonical;
         }
     }
 
-    void addLesson(const QString &input, const QString &place, const LessonFormat *format)
+    // A lesson that the user named.
+    void addNamed(const QString &input, const QString &place)
     {
-        const QString canonical = QFileInfo(input).canonicalFilePath();
-        if (!canonical.isEmpty()) {
-            if (m_seen.contains(canonical)) {
-                return;
-            }
-            m_seen.insert(canonical);
+        if (count(place)) {
+            addLesson(input, place, m_from ? m_from : formatOf(QFileInfo(input)));
+        } else {
+            addElsewhere(QFileInfo(input).canonicalFilePath(), place);
         }
-        m_plan.lessons.append({input, place, format, {}});
-        m_plan.inputs.addLesson(input, format ? format->folderBeside : QString());
     }
 
     void searchFolder(const QString &folder, const QString &place)
@@ -97,13 +83,20 @@ public:
                 .in(m_shownOutput);
         }
         // A stack of its own: folders may lie in each other deeper than calls may.
-        QVector<QPair<QString, QString>> waiting{{folder, place}};
+        struct Waiting
+        {
+            QString path;
+            QString place;
+            QString canonical;
+        };
+        QVector<Waiting> waiting{{folder, place, own == QLatin1String("/") ? QString() : own}};
         while (!waiting.isEmpty()) {
-            const auto [path, placeOfPath] = waiting.takeLast();
+            const auto [path, placeOfPath, canonical] = waiting.takeLast();
             int error = 0;
             const QVector<Folder::Entry> entries = Folder(path).entries(&error);
             if (error) {
-                addProblem(path, QStringLiteral("The folder can't be searched: %1").arg(systemReason(error)),
+                addProblem(path, placeOfPath,
+                           QStringLiteral("The folder can't be searched: %1").arg(systemReason(error)),
                            QStringLiteral("Check that you may read it"));
             }
             for (const Folder::Entry &found : entries) {
@@ -111,13 +104,16 @@ public:
                     continue;
                 }
                 if (found.text().isEmpty()) {
-                    addUnnamed(path, found);
+                    addUnnamed(path, placeOfPath, found);
                     continue;
                 }
                 const QFileInfo entry(path + QLatin1Char('/') + found.text());
                 const QString entryPlace = placeOfPath + found.text();
-                if (!isTakenCareOf(entry, entryPlace) && found.isFolder() && entry.canonicalFilePath() != m_output) {
-                    waiting.append({entry.filePath(), entryPlace + QLatin1Char('/')});
+                const QString entryCanonical = canonical + QLatin1Char('/') + found.text();
+                if (!found.isFolder()) {
+                    addFile(entry, entryPlace, found.isFile() ? entryCanonical : QString());
+                } else if (!isTakenCareOf(entry, entryPlace) && entryCanonical != m_output) {
+                    waiting.append({entry.filePath(), entryPlace + QLatin1Char('/'), entryCanonical});
                 }
             }
         }
@@ -135,18 +131,85 @@ public:
     }
 
 private:
-    void addProblem(const QString &input, const QString &problem, const QString &remedy)
+    using Key = QPair<quint64, quint64>;
+
+    // Of a path, in little space: an archive has many.
+    static Key keyOf(const QString &path)
     {
-        m_plan.lessons.append({input, {}, nullptr, LessonError(problem, remedy).in(input).message()});
+        const QByteArray hash = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1);
+        return {qFromBigEndian<quint64>(hash.constData()), qFromBigEndian<quint64>(hash.constData() + sizeof(quint64))};
+    }
+
+    // Whether what is called like a lesson falls to this shard.
+    bool count(const QString &place)
+    {
+        const bool isOwn = m_plan.shard.has(place);
+        ++m_plan.found;
+        m_plan.taken += isOwn ? 1 : 0;
+        return isOwn;
+    }
+
+    // False for one that was met before, by another way. What doesn't exist has no way.
+    bool isNew(const QString &canonical)
+    {
+        const Key key = keyOf(canonical);
+        if (canonical.isEmpty() || !m_seen.contains(key)) {
+            m_seen.insert(key);
+            return true;
+        }
+        return false;
+    }
+
+    void addLesson(const QString &input, const QString &place, const LessonFormat *format)
+    {
+        if (isNew(QFileInfo(input).canonicalFilePath())) {
+            m_plan.lessons.append({input, place, format, {}});
+            m_plan.inputs.addLesson(input, format ? format->folderBeside : QString());
+        }
+    }
+
+    // What another shard takes is neither opened nor looked at, or each would read the whole archive.
+    void addElsewhere(const QString &canonical, const QString &place)
+    {
+        if (isNew(canonical)) {
+            m_foldersElsewhere.insert(folderOf(place));
+        }
+    }
+
+    static QString folderOf(const QString &place)
+    {
+        return place.left(place.lastIndexOf(QLatin1Char('/')) + 1).toCaseFolded();
+    }
+
+    void addProblem(const QString &input, const QString &place, const QString &problem, const QString &remedy)
+    {
+        if (count(place)) {
+            m_plan.lessons.append({input, {}, nullptr, LessonError(problem, remedy).in(input).message()});
+        }
     }
 
     // Its letters are in another encoding, but its ending tells whether it may be a lesson.
-    void addUnnamed(const QString &folder, const Folder::Entry &entry)
+    void addUnnamed(const QString &folder, const QString &place, const Folder::Entry &entry)
     {
-        const QFileInfo shown(folder + QLatin1Char('/') + entry.shown());
-        if (entry.isFolder() || stemOf(shown.fileName()) != shown.fileName()) {
-            addProblem(shown.filePath(), QStringLiteral("This name is no UTF-8, so that it can't be looked into"),
+        const QString shown = entry.shown();
+        if (entry.isFolder() || lessonStem(shown) != shown) {
+            addProblem(folder + QLatin1Char('/') + shown, place + shown,
+                       QStringLiteral("This name is no UTF-8, so that it can't be looked into"),
                        QStringLiteral("Give it another name"));
+        }
+    }
+
+    // canonical: empty for a link or what is neither file nor folder.
+    void addFile(const QFileInfo &entry, const QString &place, const QString &canonical)
+    {
+        const QString name = entry.fileName();
+        if (lessonStem(name) == name) {
+            return;
+        }
+        if (count(place)) {
+            isTakenCareOf(entry, place);
+        } else {
+            addElsewhere(canonical.isEmpty() ? entry.canonicalFilePath() : canonical, place);
         }
     }
 
@@ -155,7 +218,9 @@ private:
         try {
             return addIfLesson(entry, place);
         } catch (const LessonError &error) {
-            m_plan.lessons.append({entry.filePath(), {}, nullptr, error.message()});
+            if (!entry.isDir() || entry.isSymLink() || count(place)) {
+                m_plan.lessons.append({entry.filePath(), {}, nullptr, error.message()});
+            }
             return true;
         }
     }
@@ -163,17 +228,27 @@ private:
     bool addIfLesson(const QFileInfo &entry, const QString &place)
     {
         const LessonFormat *format = formatOf(entry);
-        if (!format && !entry.isDir() && !entry.isFile() && stemOf(entry.fileName()) != entry.fileName()) {
-            entry.exists() ? m_plan.passedOver.append(entry.filePath())
-                           : addProblem(entry.filePath(), QStringLiteral("This is a link to nothing"),
-                                        QStringLiteral("Remove it, or put the lesson in its place"));
+        if (!format && !entry.isDir() && !entry.isFile()) {
+            entry.exists()
+                ? m_plan.passedOver.append(entry.filePath())
+                : m_plan.lessons.append({entry.filePath(),
+                                         {},
+                                         nullptr,
+                                         LessonError(QStringLiteral("This is a link to nothing"),
+                                                     QStringLiteral("Remove it, or put the lesson in its place"))
+                                             .in(entry.filePath())
+                                             .message()});
             return true;
         }
         if (!format || (m_from && format != m_from) || (entry.isDir() && entry.isSymLink())) {
             return false;
         }
-        if (entry.isFile() && format->isCommonEnding && isSomethingElse(entry.filePath())) {
+        if (entry.isDir() && !count(place)) {
+            m_plan.inputs.addLesson(entry.filePath(), {});
+            addElsewhere(entry.canonicalFilePath(), place);
+        } else if (entry.isFile() && format->isCommonEnding && isSomethingElse(entry.filePath())) {
             m_plan.passedOver.append(entry.filePath());
+            m_foldersElsewhere.insert(folderOf(place));
         } else {
             addLesson(entry.filePath(), place, format);
         }
@@ -183,19 +258,25 @@ private:
     // Until here the results are called like the lessons.
     void nameResults()
     {
-        const auto resultOf = [this](const QString &place) { return QString(stemOf(place) + m_extension); };
+        const auto resultOf = [this](const QString &place) { return QString(lessonStem(place) + m_extension); };
         // Some file systems don't tell small letters from capitals.
         QHash<QString, int> counts;
         QSet<QString> folders;
+        const auto addFolders = [&folders](const QString &path) {
+            for (int end = path.indexOf(QLatin1Char('/')); end > 0; end = path.indexOf(QLatin1Char('/'), end + 1)) {
+                folders.insert(path.left(end));
+            }
+        };
+        for (const QString &folder : qAsConst(m_foldersElsewhere)) {
+            addFolders(folder);
+        }
         for (const BatchPlan::Lesson &lesson : qAsConst(m_plan.lessons)) {
             if (!lesson.problem.isEmpty()) {
                 continue;
             }
             const QString result = resultOf(lesson.output).toCaseFolded();
             ++counts[result];
-            for (int end = result.indexOf(QLatin1Char('/')); end > 0; end = result.indexOf(QLatin1Char('/'), end + 1)) {
-                folders.insert(result.left(end));
-            }
+            addFolders(result);
         }
         QHash<QString, QString> inputs;
         for (BatchPlan::Lesson &lesson : m_plan.lessons) {
@@ -219,11 +300,17 @@ private:
                     .in(lesson.input);
             }
             m_plan.inputs.check(m_shownOutput + QLatin1Char('/') + lesson.output);
+            if (m_seen.contains(keyOf(m_output + QLatin1Char('/') + lesson.output))) {
+                throw LessonError(QStringLiteral("The result would take the place of a lesson, %1").arg(lesson.output),
+                                  QStringLiteral("Give another folder with --out-dir"))
+                    .in(lesson.input);
+            }
         }
     }
 
     BatchPlan m_plan;
-    QSet<QString> m_seen; // canonical paths
+    QSet<Key> m_seen; // canonical paths of all shards' lessons
+    QSet<QString> m_foldersElsewhere; // places of folders with what other shards take, or nobody
     const LessonFormat *m_from;
     QString m_extension; // with its point, or empty
     QString m_output; // canonical, if it exists
@@ -233,9 +320,9 @@ private:
 } // namespace
 
 BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const QString &extension,
-                    const QString &outputFolder)
+                    const QString &outputFolder, const BatchShard &shard)
 {
-    Planner planner(from, extension, outputFolder);
+    Planner planner(from, extension, outputFolder, shard);
     const auto isFolderToSearch = [](const QString &input) {
         const QFileInfo info(input);
         return info.isDir() && !formatOf(info);
@@ -246,11 +333,11 @@ BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const Q
         if (isFolderToSearch(input)) {
             planner.searchFolder(QDir::cleanPath(input), isOneFolder ? QString() : QString(name + QLatin1Char('/')));
         } else {
-            planner.addLesson(input, name, from ? from : formatOf(QFileInfo(input)));
+            planner.addNamed(input, name);
         }
     }
     BatchPlan plan = planner.take();
-    if (plan.lessons.isEmpty()) {
+    if (plan.lessons.isEmpty() && (shard.isWhole() || plan.found == 0)) {
         throw LessonError(QStringLiteral("There are no lessons in it"),
                           QStringLiteral("See lessonconv formats for the names that lessons have"))
             .in(inputs.join(QLatin1String(", ")));

@@ -2,6 +2,7 @@
 #ifndef BATCHPLAN_H
 #define BATCHPLAN_H
 
+#include "batch/batchshard.h"
 #include "files/inputguard.h"
 #include "formats/lessonformats.h"
 
@@ -23,6 +24,9 @@ struct BatchPlan
     };
 
     QVector<Lesson> lessons; //!< ascending by output
+    BatchShard shard; //!< these are its lessons
+    int found = 0; //!< what is called like a lesson, in all shards
+    int taken = 0; //!< the part of it that falls to this one
     InputGuard inputs; //!< all of them
     QStringList passedOver; //!< files in folders that have the name of a lesson and are something else
 };
@@ -38,12 +42,14 @@ struct BatchPlan
  *
  * What can't be called or looked into is a lesson with a problem.
  *
+ * Of a shard, only its own lessons are opened. Names are the same as in one run over all, and there may be none.
+ *
  * from: the format of all inputs, or null to tell it from each. extension: of the results, without the point; empty for
  * results that are folders. Throws LessonError where results can't be kept apart,
  * the results would lie among the lessons, or there is no lesson.
  */
 BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const QString &extension,
-                    const QString &outputFolder);
+                    const QString &outputFolder, const BatchShard &shard = {});
 
 } // namespace lessonhost
 

@@ -2,11 +2,16 @@
 #ifndef BATCHRESULT_H
 #define BATCHRESULT_H
 
-#include <QJsonArray>
+#include "batch/batchshard.h"
+#include "losses/losstotals.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVector>
+
+#include <array>
+#include <set>
 
 namespace lessonhost {
 
@@ -20,7 +25,7 @@ struct BatchWork
     QString name; //!< "conversion"
     QString done; //!< "converted"
     QString resultKey; //!< what the report calls the result of a lesson
-    QStringList details; //!< parts of a result that aren't kept for a later run
+    QStringList details; //!< parts of a result that aren't kept for a later run, nor for a report over many runs
 
     //! Results are LossReport::toJson().
     static const BatchWork conversion;
@@ -29,53 +34,84 @@ struct BatchWork
 };
 
 /*!
- * What became of each lesson of a plan.
+ * What became of many lessons, in numbers: those of one run, or of several together.
  */
-struct BatchResult
+class BatchTotals
 {
+public:
     enum State { Open, Done, DoneBefore, Failed };
 
-    struct Lesson
-    {
-        State state = Open;
-        QJsonObject result; //!< without its details for one done before
-        QString message; //!< why it failed
-
-        int lossCount() const { return result.value(QLatin1String("losses")).toInt(); }
-        QStringList notes() const
-        {
-            QStringList notes;
-            const QJsonArray all = result.value(QLatin1String("notes")).toArray();
-            for (const QJsonValue &note : all) {
-                notes.append(note.toString());
-            }
-            return notes;
-        }
-        int namedCount() const { return result.value(QLatin1String("named")).toArray().size(); }
-    };
-
-    explicit BatchResult(const BatchWork &what)
+    explicit BatchTotals(const BatchWork &what)
         : work(&what)
     {
     }
+    //! The totals of a report, by its head. work is null where it is none.
+    static BatchTotals fromHead(const QJsonObject &head);
 
     const BatchWork *work;
-
-    QVector<Lesson> lessons; //!< in the order of the plan
+    LossTotals kinds;
     bool isInterrupted = false;
+
+    //! A lesson, with what the work made of it.
+    void add(State state, const QJsonObject &result = {});
+    //! A file that is called like a lesson and is none.
+    void passOver(const QString &file);
+    //! The plan of a run: how many lessons there are in all, and which shard this is.
+    void setPlan(const BatchPlan &plan);
+    //! Those of another run with the same work.
+    void add(const BatchTotals &other);
+
+    qint64 count(State state) const { return m_lessons.at(state); }
+    qint64 lossCount() const { return m_losses; }
+    //! Lessons of shards that aren't among the runs.
+    qint64 notTaken() const { return qMax<qint64>(0, m_found - m_taken); }
+    //! The number of all shards; 0 where there are none.
+    int shards() const { return m_shards; }
+    //! Those that aren't among the runs.
+    QVector<int> missingShards() const;
+
+    //! "12 lessons: 10 converted, 1 done before, 1 not converted." and what was lost, as sentences. whoNames: where
+    //! each loss is named.
+    QString summary(const QString &whoNames) const;
+    //! What has to be said of shards; empty where there are none, or all.
+    QString shardSummary() const;
+
+    //! What a report begins with: {"counts", "interrupted", "kinds", "shards"}.
+    QJsonObject toHead() const;
+
+    //! What a report calls a state.
+    static QString stateName(State state, const BatchWork &work);
+
+private:
+    qint64 lessons() const;
+    qint64 namedCount() const { return kinds.count(QStringLiteral("named")); }
+
+    std::array<qint64, 4> m_lessons{}; // by state
+    qint64 m_losses = 0;
+    qint64 m_lessonsWithLosses = 0;
+    qint64 m_notes = 0;
+    QString m_note; // the first one
+    qint64 m_passedOver = 0;
+    QString m_passedOverFile; // the first one
+    int m_shards = 0;
+    std::set<int> m_shardNumbers;
+    qint64 m_found = 0; // what is called like a lesson, in all shards
+    qint64 m_taken = 0; // in these
+    bool m_isSum = false; // of runs
+};
+
+/*!
+ * What became of the lessons of a plan.
+ */
+struct BatchResult
+{
+    explicit BatchResult(const BatchWork &work)
+        : totals(work)
+    {
+    }
+
+    BatchTotals totals;
     bool hasJournalFailed = false; //!< --resume will not know all that is done
-
-    int count(State state) const;
-    int lossCount() const;
-    int lessonsWithLosses() const;
-    int namedCount() const;
-
-    //! "12 lessons: 10 converted, 1 done before, 1 not converted." and what was lost, as sentences.
-    QString summary(const BatchPlan &plan, bool hasReport) const;
-
-    //! {"lessons": [{"input", "output", "state", "losses" or "drawn", "message"}], "counts", "passedOver",
-    //! "interrupted"}
-    QJsonObject toJson(const BatchPlan &plan) const;
 };
 
 } // namespace lessonhost

@@ -3,6 +3,7 @@
 
 #include "batch/batch.h"
 #include "batch/batchjournal.h"
+#include "batch/batchreport.h"
 #include "command/browser.h"
 #include "command/completion.h"
 #include "command/lessoninfo.h"
@@ -17,8 +18,8 @@
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
-#include "render/slideitempainter.h"
 #include "render/rendering.h"
+#include "render/slideitempainter.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -48,6 +49,8 @@ Examples:
   lessonconv render lesson.zqtx lesson.html
   lessonconv render lesson.zqtx slide%02d.png --slides 2-5 --width 1280
   lessonconv render lessons/ --to pdf --out-dir paper/ --resume
+  lessonconv convert lessons/ --to iwb --out-dir converted/ --shard 3/16
+  lessonconv report reports/*.json --report all.json
   lessonconv render --diff lesson.zqtx lesson.iwb difference.html
   lessonconv info lesson.zqtx
 
@@ -103,12 +106,24 @@ public:
     {
     }
 
-    void write(const QJsonObject &report)
+    void put(const QByteArray &piece)
     {
         if (m_target) {
-            m_target->file().put(QJsonDocument(report).toJson());
+            m_target->file().put(piece);
+        }
+    }
+
+    void commit()
+    {
+        if (m_target) {
             m_target->commit();
         }
+    }
+
+    void write(const QJsonObject &report)
+    {
+        put(QJsonDocument(report).toJson());
+        commit();
     }
 
 private:
@@ -129,7 +144,7 @@ void checkReport(const QString &report, const InputGuard &inputs, const QStringL
 
 QStringList outputsOf(const BatchPlan &plan, const QString &folder)
 {
-    QStringList outputs{BatchJournal::fileIn(folder)};
+    QStringList outputs{BatchJournal::fileIn(folder, plan.shard)};
     for (const BatchPlan::Lesson &lesson : plan.lessons) {
         if (lesson.problem.isEmpty()) {
             outputs.append(folder + QLatin1Char('/') + lesson.output);
@@ -153,6 +168,8 @@ const std::vector<Command::Word> &Command::words()
          anyNumber, &Command::never, &Command::renderMany},
         {"render", "diff", "--diff A B OUTPUT.html", "two lessons side by side, and what B lacks", 3, 3,
          &Command::always, &Command::renderDifference},
+        {"report", nullptr, "REPORTS...", "what became of all lessons, by the reports of many runs", 1, anyNumber,
+         &Command::never, &Command::mergeMany},
         {"show", nullptr, "INPUT", "opens a lesson in the browser", 1, 1, &Command::always, &Command::show},
         {"info", nullptr, "INPUT", "page size, slides, items, missing files", 1, 1, &Command::infoMeasuresText,
          &Command::info},
@@ -519,7 +536,7 @@ int Command::renderMany(const QStringList &inputs) const
 int Command::runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const
 {
     const LessonFormat *from = isSet("from") ? &lessonFormatByName(value("from")) : nullptr;
-    const BatchPlan plan = planBatch(inputs, from, extension, settings.outputFolder);
+    const BatchPlan plan = planBatch(inputs, from, extension, settings.outputFolder, m_line.shard());
     if (isSet("report")) {
         checkReport(value("report"), plan.inputs, outputsOf(plan, settings.outputFolder));
     }
@@ -537,18 +554,73 @@ int Command::runMany(const QStringList &inputs, const QString &extension, const 
         bar.clear();
         complain(message);
     };
+    std::unique_ptr<BatchRecords> records;
+    if (isSet("report") || isSet("json")) {
+        records = std::make_unique<BatchRecords>(plan);
+        watcher.told = [&records, &settings](int index, BatchTotals::State state, const QJsonObject &result,
+                                             const QString &message) {
+            records->put(index, state, result, message, *settings.work);
+        };
+    }
     const BatchResult result = runBatch(plan, settings, watcher);
     bar.clear();
-    report.write(result.toJson(plan));
-    if (isSet("json")) {
-        printJson(result.toJson(plan));
-    } else if (!isSet("quiet")) {
-        print(result.summary(plan, isSet("report")));
+    if (isSet("report")) {
+        records->write(result.totals, [&report](const QByteArray &piece) { report.put(piece); });
+        report.commit();
     }
-    if (result.isInterrupted || result.hasJournalFailed || result.count(BatchResult::Failed) > 0) {
+    if (isSet("json")) {
+        records->write(result.totals, [](const QByteArray &piece) { print(QString::fromUtf8(piece)); });
+    } else if (!isSet("quiet")) {
+        print(result.totals.summary(isSet("report") ? QStringLiteral("the report") : QStringLiteral("--report FILE")));
+    }
+    return result.hasJournalFailed ? NotDone : exitCodeOf(result.totals);
+}
+
+int Command::exitCodeOf(const BatchTotals &totals) const
+{
+    if (totals.isInterrupted || totals.count(BatchTotals::Failed) > 0 || totals.count(BatchTotals::Open) > 0) {
         return NotDone;
     }
-    return isSet("strict") && result.lossCount() > 0 ? DoneWithLosses : Done;
+    return isSet("strict") && totals.lossCount() > 0 ? DoneWithLosses : Done;
+}
+
+int Command::mergeMany(const QStringList &reports) const
+{
+    InputGuard inputs;
+    for (const QString &report : reports) {
+        inputs.add(report);
+    }
+    if (isSet("report")) {
+        inputs.check(value("report"));
+        checkOutput(value("report"));
+    }
+    ReportFile report(isSet("report") ? value("report") : QString());
+    QStringList failures;
+    const BatchTotals totals = mergeReports(
+        reports,
+        [this, &report](const QByteArray &piece) {
+            report.put(piece);
+            if (isSet("json")) {
+                print(QString::fromUtf8(piece));
+            }
+        },
+        &failures);
+    report.commit();
+    if (!isSet("json") && !isSet("quiet")) {
+        QString text =
+            totals.summary(QStringLiteral("the report of its run")) + totals.shardSummary() + totals.kinds.summary();
+        const qint64 failed = totals.count(BatchTotals::Failed);
+        if (failed > 0) {
+            text += failed > failures.size() ? QStringLiteral("Not %1, of %2 lessons the first %3:\n")
+                                                   .arg(totals.work->done)
+                                                   .arg(failed)
+                                                   .arg(failures.size())
+                                             : QStringLiteral("Not %1:\n").arg(totals.work->done);
+            text += failures.join(QLatin1Char('\n')) + QLatin1Char('\n');
+        }
+        print(text);
+    }
+    return totals.notTaken() > 0 || !totals.missingShards().isEmpty() ? NotDone : exitCodeOf(totals);
 }
 
 int Command::serve(const QStringList &) const

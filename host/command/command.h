@@ -14,6 +14,7 @@ struct LessonContext;
 struct LessonFormat;
 struct PictureForm;
 struct RenderSettings;
+class BatchTotals;
 class LossReport;
 class PluginHost;
 class StandardStreams;
@@ -90,6 +91,8 @@ private:
     const PictureForm &pictureForm(const QString &output) const;
     void checkIsTold(const QString &output) const;
     BatchSettings batchSettings(const PluginHost &host, const BatchWork &work) const;
+    int mergeMany(const QStringList &reports) const;
+    int exitCodeOf(const BatchTotals &totals) const;
     int runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const;
     RenderSettings renderSettings(const PictureForm &form, const QStringList &inputs) const;
     RenderSettings manyRenderSettings() const;

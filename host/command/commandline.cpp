@@ -12,6 +12,7 @@ namespace lessonhost {
 namespace {
 
 constexpr int mostJobs = 256;
+constexpr int mostShards = 100000;
 constexpr int mostSeconds = 24 * 60 * 60;
 
 } // namespace
@@ -30,12 +31,14 @@ const std::vector<CommandOption> &commandOptions()
          "Many: give up a lesson that takes longer."},
         {"resume", nullptr, Option::OnTheRun, "convert:out-dir render:out-dir",
          "Many: leave out what is done and unchanged."},
-        {"report", "file", Option::OnTheRun, "convert render: render:out-dir",
+        {"shard", "number", Option::OnTheRun, "convert:out-dir render:out-dir",
+         "Many: take a part of the lessons, such as 3/16 for the third of 16. Each falls to one by its path."},
+        {"report", "file", Option::OnTheRun, "convert render: render:out-dir report",
          "Write everything that was lost or kept aside, or how it was drawn, into this file, as JSON."},
-        {"strict", nullptr, Option::OnTheRun, "convert", "Treat losses as a failure: exit code 1."},
+        {"strict", nullptr, Option::OnTheRun, "convert report", "Treat losses as a failure: exit code 1."},
         {"no-check", nullptr, Option::OnResults, "convert",
          "Don't read back what was written. Faster, but losses stay unnoticed."},
-        {"no-clobber", nullptr, Option::OnTheRun, "convert render",
+        {"no-clobber", nullptr, Option::OnTheRun, "convert render report",
          "Replace nothing: what is there already makes the run fail, or is left out of many."},
         {"ink", "choice", Option::OnAFormat, "convert",
          "What becomes of handwriting in IWB: polyline (the default) or drop.", "polyline", "polyline drop"},
@@ -119,6 +122,19 @@ int CommandLine::lessonSeconds() const
                           QStringLiteral("Give a number from 1 to %1, such as --lesson-timeout 600").arg(mostSeconds));
     }
     return seconds;
+}
+
+BatchShard CommandLine::shard() const
+{
+    const QStringList parts = value("shard").split(QLatin1Char('/'));
+    const BatchShard shard{parts.value(0).toInt(), parts.value(1).toInt()};
+    if (isSet("shard")
+        && (parts.size() != 2 || shard.number < 1 || shard.count < shard.number || shard.count > mostShards)) {
+        throw LessonError(
+            QStringLiteral("\"%1\" is no shard").arg(value("shard")),
+            QStringLiteral("Give its number and that of all, at most %1, such as --shard 3/16").arg(mostShards));
+    }
+    return shard;
 }
 
 void CommandLine::checkChoices() const

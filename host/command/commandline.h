@@ -2,6 +2,8 @@
 #ifndef COMMANDLINE_H
 #define COMMANDLINE_H
 
+#include "batch/batchshard.h"
+
 #include <QCommandLineParser>
 #include <QHash>
 
@@ -61,6 +63,8 @@ public:
     int jobs() const;
     //! How long each of many lessons may take; 0 for as long as it does. Throws.
     int lessonSeconds() const;
+    //! The part of many lessons to take; all of them where nothing is said. Throws.
+    BatchShard shard() const;
 
     //! The options of a word that change results in lines with an option of its own, as arguments again. Throws.
     QStringList resultArguments(const QString &word, const QString &wordsOption) const;

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QMap>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -16,29 +17,6 @@ namespace {
 
 // Longer lists are cut in the summary; the JSON has every entry.
 constexpr int maximumNamed = 20;
-
-QLatin1String kindName(Loss::Kind kind)
-{
-    switch (kind) {
-    case Loss::Value:
-        return QLatin1String("value");
-    case Loss::Item:
-        return QLatin1String("item");
-    case Loss::Kept:
-        return QLatin1String("kept");
-    case Loss::File:
-        return QLatin1String("file");
-    case Loss::AsPicture:
-        return QLatin1String("asPicture");
-    case Loss::NotShown:
-        return QLatin1String("notShown");
-    case Loss::Otherwise:
-        return QLatin1String("otherwise");
-    case Loss::Note:
-        break;
-    }
-    return QLatin1String("note");
-}
 
 // Deep in a tree, the two ends of the way tell enough.
 QString shortened(const QString &key)
@@ -72,15 +50,6 @@ QString onSlides(const std::set<int> &slides)
                                      : QStringLiteral(" on %1 slides from %2 to %3").arg(count).arg(first).arg(last);
 }
 
-QString named(const QStringList &names)
-{
-    if (names.size() <= maximumNamed) {
-        return names.join(QLatin1String(", "));
-    }
-    return names.mid(0, maximumNamed).join(QLatin1String(", "))
-        + QStringLiteral(" and %1 more").arg(names.size() - maximumNamed);
-}
-
 // "9 ZQPhysicsDianZu, 3 ZQMindMapItem", the most frequent first.
 QString counted(const QMap<QString, int> &counts)
 {
@@ -93,7 +62,7 @@ QString counted(const QMap<QString, int> &counts)
     for (const auto &row : qAsConst(rows)) {
         texts.append(QString::number(-row.first) + QLatin1Char(' ') + row.second);
     }
-    return named(texts);
+    return lossNames(texts);
 }
 
 QString countedByType(const QVector<Loss> &losses)
@@ -169,7 +138,7 @@ QString listed(const QVector<Loss> &losses, Details details)
         const QString times = group.count > 1 ? QStringLiteral(" (%1 times)").arg(group.count) : QString();
         texts.append(group.name + onSlides(group.slides) + times + group.detail);
     }
-    return named(texts);
+    return lossNames(texts);
 }
 
 // "no IWB form", or "no form here" where the format has no name.
@@ -178,38 +147,102 @@ QString missingForm(const QString &format)
     return QLatin1String("no ") + (format.isEmpty() ? QStringLiteral("form here") : format + QLatin1String(" form"));
 }
 
-QString line(Loss::Kind kind, const QVector<Loss> &losses, const QString &format)
+// What a line about losses of a kind names.
+QString listedOf(Loss::Kind kind, const QVector<Loss> &losses)
 {
-    const int count = losses.size();
-    const QString number = QString::number(count);
     switch (kind) {
     case Loss::Value:
-        return number + QLatin1String(count == 1 ? " value lost: " : " values lost: ") + listed(losses);
-    case Loss::Item:
-        return number + QLatin1String(count == 1 ? " item has " : " items have ") + missingForm(format)
-            + QLatin1String(": ") + countedByType(losses);
-    case Loss::Kept:
-        return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ")
-            + countedByType(losses);
     case Loss::File:
-        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
-            + listed(losses);
-    case Loss::AsPicture:
-        return number + QLatin1String(count == 1 ? " item is a picture" : " items are pictures")
-            + QLatin1String(" on other boards: ") + countedByType(losses);
-    case Loss::NotShown:
-        return number + QLatin1String(count == 1 ? " item isn't" : " items aren't")
-            + QLatin1String(" shown by other boards: ") + countedByType(losses);
     case Loss::Otherwise:
-        return number + QLatin1String(count == 1 ? " value is" : " values are")
-            + QLatin1String(" otherwise on other boards: ") + listed(losses);
+        return listed(losses);
+    case Loss::Item:
+    case Loss::Kept:
+    case Loss::AsPicture:
+    case Loss::NotShown:
+        return countedByType(losses);
     case Loss::Note:
         break;
     }
-    return QLatin1String("Note: ") + listed(losses, Details::Shown);
+    return listed(losses, Details::Shown);
+}
+
+// Under what a loss is counted in tables over many lessons: keys that tell a place in the lesson are cut.
+QString countedName(const Loss &loss)
+{
+    static const QRegularExpression place(QStringLiteral("[./[].*"), QRegularExpression::DotMatchesEverythingOption);
+    const QString key = loss.kind == Loss::File ? QString() : QString(loss.key).remove(place);
+    return key.isEmpty() ? loss.itemType : loss.itemType + QLatin1Char('.') + key;
 }
 
 } // namespace
+
+QLatin1String lossKindName(Loss::Kind kind)
+{
+    switch (kind) {
+    case Loss::Value:
+        return QLatin1String("value");
+    case Loss::Item:
+        return QLatin1String("item");
+    case Loss::Kept:
+        return QLatin1String("kept");
+    case Loss::File:
+        return QLatin1String("file");
+    case Loss::AsPicture:
+        return QLatin1String("asPicture");
+    case Loss::NotShown:
+        return QLatin1String("notShown");
+    case Loss::Otherwise:
+        return QLatin1String("otherwise");
+    case Loss::Note:
+        break;
+    }
+    return QLatin1String("note");
+}
+
+const QVector<Loss::Kind> &lossKinds()
+{
+    static const QVector<Loss::Kind> kinds{Loss::Value,    Loss::Item,      Loss::File, Loss::AsPicture,
+                                           Loss::NotShown, Loss::Otherwise, Loss::Kept, Loss::Note};
+    return kinds;
+}
+
+QString lossNames(const QStringList &names)
+{
+    if (names.size() <= maximumNamed) {
+        return names.join(QLatin1String(", "));
+    }
+    return names.mid(0, maximumNamed).join(QLatin1String(", "))
+        + QStringLiteral(" and %1 more").arg(names.size() - maximumNamed);
+}
+
+QString lossLine(Loss::Kind kind, int count, const QString &listed, const QString &format)
+{
+    const QString number = QString::number(count);
+    switch (kind) {
+    case Loss::Value:
+        return number + QLatin1String(count == 1 ? " value lost: " : " values lost: ") + listed;
+    case Loss::Item:
+        return number + QLatin1String(count == 1 ? " item has " : " items have ") + missingForm(format)
+            + QLatin1String(": ") + listed;
+    case Loss::Kept:
+        return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ") + listed;
+    case Loss::File:
+        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
+            + listed;
+    case Loss::AsPicture:
+        return number + QLatin1String(count == 1 ? " item is a picture" : " items are pictures")
+            + QLatin1String(" on other boards: ") + listed;
+    case Loss::NotShown:
+        return number + QLatin1String(count == 1 ? " item isn't" : " items aren't")
+            + QLatin1String(" shown by other boards: ") + listed;
+    case Loss::Otherwise:
+        return number + QLatin1String(count == 1 ? " value is" : " values are")
+            + QLatin1String(" otherwise on other boards: ") + listed;
+    case Loss::Note:
+        break;
+    }
+    return QLatin1String("Note: ") + listed;
+}
 
 bool isLoss(Loss::Kind kind)
 {
@@ -234,13 +267,12 @@ QString LossReport::shared(const QString &text)
 QString LossReport::summary() const
 {
     QStringList lines;
-    for (const auto kind : {Loss::Value, Loss::Item, Loss::File, Loss::AsPicture, Loss::NotShown, Loss::Otherwise,
-                            Loss::Kept, Loss::Note}) {
+    for (const Loss::Kind kind : lossKinds()) {
         QVector<Loss> losses;
         std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
                      [kind](const Loss &loss) { return loss.kind == kind; });
         if (!losses.isEmpty()) {
-            lines.append(line(kind, losses, m_format));
+            lines.append(lossLine(kind, losses.size(), listedOf(kind, losses), m_format));
         }
     }
     return lines.join(QLatin1Char('\n'));
@@ -249,8 +281,10 @@ QString LossReport::summary() const
 QJsonObject LossReport::toJson() const
 {
     QJsonArray entries;
+    QMap<QString, QMap<QString, int>> kinds;
     for (const Loss &loss : m_entries) {
-        QJsonObject entry{{QStringLiteral("kind"), kindName(loss.kind)}, {QStringLiteral("type"), loss.itemType}};
+        ++kinds[lossKindName(loss.kind)][countedName(loss)];
+        QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)}, {QStringLiteral("type"), loss.itemType}};
         if (loss.slide > 0) {
             entry.insert(QStringLiteral("slide"), loss.slide);
         }
@@ -261,8 +295,17 @@ QJsonObject LossReport::toJson() const
         }
         entries.append(entry);
     }
+    QJsonObject counts;
+    for (auto kind = kinds.cbegin(); kind != kinds.cend(); ++kind) {
+        QJsonObject names;
+        for (auto name = kind->cbegin(); name != kind->cend(); ++name) {
+            names.insert(name.key(), name.value());
+        }
+        counts.insert(kind.key(), names);
+    }
     return {
         {QStringLiteral("losses"), m_lossCount},
+        {QStringLiteral("kinds"), counts},
         {QStringLiteral("summary"), QJsonArray::fromStringList(summary().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},
         {QStringLiteral("entries"), entries}};
 }

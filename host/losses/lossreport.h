@@ -36,6 +36,18 @@ struct Loss
 //! False for what is only named.
 bool isLoss(Loss::Kind kind);
 
+//! What reports call it.
+QLatin1String lossKindName(Loss::Kind kind);
+
+//! The kinds in the order in which they are told, the gravest first.
+const QVector<Loss::Kind> &lossKinds();
+
+//! A line about those of a kind: "2 values lost: " and the list. format: what is written, such as "IWB"; may be empty.
+QString lossLine(Loss::Kind kind, int count, const QString &listed, const QString &format);
+
+//! At most 20 names, and how many there are besides.
+QString lossNames(const QStringList &names);
+
 /*!
  * Collects losses in the order in which they are found and puts them into words and JSON.
  */
@@ -55,7 +67,8 @@ public:
     //! A line for each kind: "2 values lost: ZQChalkStroke.Weight on slide 3, ...". No text without entries.
     QString summary() const;
 
-    //! {"losses": number, "summary": lines, "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
+    //! {"losses": number, "summary": lines, "kinds": {"value": {"ZQChalkStroke.Weight": number, ...}, ...},
+    //! "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
     QJsonObject toJson() const;
 
 private:

@@ -53,6 +53,17 @@ void append(QJsonArray &list, int slide, const QVector<SlidePicture::Told> &item
     }
 }
 
+// {"named": {type: number, ...}}, for tables over many lessons.
+QJsonObject kindsOf(const QJsonArray &named)
+{
+    QJsonObject types;
+    for (const QJsonValue &item : named) {
+        const QString type = item[QLatin1String("type")].toString();
+        types.insert(type, types.value(type).toInt() + 1);
+    }
+    return types.isEmpty() ? QJsonObject() : QJsonObject{{QStringLiteral("named"), types}};
+}
+
 QStringList withoutDuplicates(QStringList texts)
 {
     texts.removeDuplicates();
@@ -92,6 +103,7 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
     return {{QStringLiteral("slides"), slides.size()},
             {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
             {QStringLiteral("named"), named},
+            {QStringLiteral("kinds"), kindsOf(named)},
             {QStringLiteral("missingFonts"), pictures.missingFonts().toJson()},
             {QStringLiteral("notes"), QJsonArray::fromStringList(pictures.missingFonts().sentences())}};
 }
