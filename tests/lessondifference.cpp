@@ -648,7 +648,9 @@ private:
             const auto points = pairsOf(given.value("Control"));
             removePlace(owner, m_road == Road::Packed && hasOwnPoints(type) && points && points->size() < 2, given,
                         found);
-        } else if ((m_road == Road::Drawn && hasWorkedOutCorners(type)) || (isShape && hasMatrix(given))) {
+        } else if ((m_road == Road::Drawn
+                    && (hasWorkedOutCorners(type) || hasWorkedOutCorners(found.value("Type").toString())))
+                   || (isShape && hasMatrix(given))) {
             // A shape under a matrix is drawn around an origin of its own.
             removePlace(owner, true, given, found);
         } else if (isUnderMatrix) {
