@@ -87,7 +87,11 @@ private slots:
     {
         const TextRuns text = textRunsFromHtml("H<sub>2</sub>O, x<sup>2</sup>"_s);
         QCOMPARE(text.shifts, QStringList({QString(), "sub", QString(), "super"}));
-        const TextRuns again = textRunsFromHtml(htmlFromTextRuns(text.runs, text.shifts));
+        QVector<RunExtras> extras;
+        for (const QString &shift : text.shifts) {
+            extras.append({shift, {}, {}});
+        }
+        const TextRuns again = textRunsFromHtml(htmlFromTextRuns(text.runs, extras));
         QCOMPARE(again.shifts, text.shifts);
         QCOMPARE(lines(again.runs), lines(text.runs));
         QVERIFY(text.losses.isEmpty());

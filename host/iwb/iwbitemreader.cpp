@@ -126,11 +126,13 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
     }
     if (runs) {
         // The first describes the area; it has a text only where the area itself holds one.
-        QStringList shifts;
+        QVector<RunExtras> extras;
         for (QDomElement span = item.element.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-            shifts.append(span.attribute(QStringLiteral("baseline-shift")));
+            extras.append({span.attribute(QStringLiteral("baseline-shift")),
+                           span.attribute(QStringLiteral("background-fill")),
+                           span.attribute(QStringLiteral("xlink:href"))});
         }
-        json.insert(ItemKeys::html, htmlFromTextRuns(runs->mid(1), shifts));
+        json.insert(ItemKeys::html, htmlFromTextRuns(runs->mid(1), extras));
     }
     for (const char *key : passingKeys) {
         json.remove(QLatin1String(key));

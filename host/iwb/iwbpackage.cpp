@@ -34,6 +34,16 @@ bool hasContent(const QString &uri)
     return uri.contains(QLatin1Char(','));
 }
 
+// The format has folders for more than one, and says "image" and "video" in its samples.
+QString pathInFolder(const QString &path)
+{
+    const QString folder = path.section(QLatin1Char('/'), 0, 0);
+    const QString rest = path.mid(folder.size());
+    return folder == QLatin1String("image") || folder == QLatin1String("video") ? folder + QLatin1Char('s') + rest
+        : folder == QLatin1String("images") || folder == QLatin1String("videos") ? folder.chopped(1) + rest
+                                                                                : path;
+}
+
 bool hasScheme(const QString &reference)
 {
     const int colon = reference.indexOf(QLatin1Char(':'));
@@ -242,7 +252,14 @@ QString IwbPackage::otherName(const QString &reference) const
     }
     const int name = path.lastIndexOf(QLatin1Char('/')) + 1;
     const QString compressed = path.left(name) + QLatin1String("compressed_") + path.mid(name);
-    return m_folded.value(compressed.toCaseFolded(), m_folded.value(path.toCaseFolded()));
+    const QString inFolder = pathInFolder(path);
+    for (const QString &other : {compressed, path, inFolder}) {
+        const QString found = m_folded.value(other.toCaseFolded());
+        if (!found.isEmpty()) {
+            return found;
+        }
+    }
+    return {};
 }
 
 void IwbPackage::saveEmbedded(const QString &uri)

@@ -38,6 +38,7 @@ private:
     }
     QString file(const QString &path) override { return resourceFile(path); }
     int pageNumber(const QString &id) override { return m_pageNumbers.value(id); }
+    int pageOfElement(const QString &id) override { return m_package.outline().pageOf(id) + 1; }
 
     IZQTransformation *m_plugin;
     LessonLosses m_losses;

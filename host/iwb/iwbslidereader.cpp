@@ -93,11 +93,6 @@ void readRecord(const IwbElement &element, QJsonObject &json)
     if (element.flipsDown) {
         json.insert(ItemKeys::flippedDown, QStringLiteral("1"));
     }
-    if (element.textFill.alpha() > 0) {
-        const QString background = QStringLiteral("<span style=\"background-color:%1;").arg(element.textFill.name());
-        json.insert(ItemKeys::html,
-                    json.value(ItemKeys::html).toString().replace(QLatin1String("<span style=\""), background));
-    }
 }
 
 } // namespace
@@ -251,10 +246,22 @@ void IwbSlideReader::readLink(const IwbElement &item, const SlideLosses &losses,
     if (item.link.isEmpty()) {
         return;
     }
-    const int page = item.link.startsWith(QLatin1Char('#')) ? m_references->pageNumber(item.link.mid(1)) : 0;
+    const bool isInside = item.link.startsWith(QLatin1Char('#'));
+    const LossOwner owner(json.value(ItemKeys::type).toString(), item.id);
+    int page = isInside ? m_references->pageNumber(item.link.mid(1)) : 0;
+    if (isInside && page == 0) {
+        page = m_references->pageOfElement(item.link.mid(1));
+        if (page > 0) {
+            losses.note(owner, QLatin1String("the link to \"") + item.link + QLatin1String("\" leads to the page of it"));
+        }
+    }
     QJsonObject link = m_items.readLink(item.link, page);
     QString problem;
-    if (link.isEmpty()) {
+    if (link.isEmpty() && isInside) {
+        problem = QStringLiteral("the lesson has no page and no element of that name");
+    } else if (link.isEmpty() && item.leadsOutside) {
+        problem = QStringLiteral("it lies outside of the package and isn't fetched");
+    } else if (link.isEmpty()) {
         const QString file = m_references->resolve(item.link, &problem);
         if (!file.isEmpty()) {
             link.insert(QLatin1String("InteractiveType"), QStringLiteral("ACTION_OPENFILE"));
@@ -262,7 +269,7 @@ void IwbSlideReader::readLink(const IwbElement &item, const SlideLosses &losses,
         }
     }
     if (link.isEmpty()) {
-        losses.value({json.value(ItemKeys::type).toString(), item.id}, ItemKeys::linkValue,
+        losses.value(owner, ItemKeys::linkValue,
                      QLatin1String("link to \"") + item.link + QLatin1String("\": ") + problem);
     }
     for (auto it = link.constBegin(); it != link.constEnd(); ++it) {

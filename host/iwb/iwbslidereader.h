@@ -24,6 +24,8 @@ public:
     virtual QString file(const QString &path) = 0;
     //! The number of the page with that identifier, from 1; 0 for none.
     virtual int pageNumber(const QString &id) = 0;
+    //! The same of the page on which the element with that identifier stands.
+    virtual int pageOfElement(const QString &) { return 0; }
 };
 
 /*!

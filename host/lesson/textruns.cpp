@@ -243,7 +243,7 @@ QString styleSafe(QString text)
     return text.trimmed();
 }
 
-QString styleOf(const IwbTextInfo &run, const QString &shift)
+QString styleOf(const IwbTextInfo &run, const RunExtras &extras)
 {
     QStringList families;
     for (const QString &family : run.fontFamily.split(QLatin1Char(','))) {
@@ -260,7 +260,10 @@ QString styleOf(const IwbTextInfo &run, const QString &shift)
         + (run.fontStyle == QLatin1String("normal") ? QLatin1String("normal") : QLatin1String("italic"))
         + QLatin1String("; text-decoration:") + styleSafe(run.textDecoration) + QLatin1String("; color:")
         + styleSafe(run.fill) + QLatin1Char(';')
-        + (shift.isEmpty() ? QString() : QLatin1String(" vertical-align:") + shift + QLatin1Char(';'));
+        + (extras.shift.isEmpty() ? QString() : QLatin1String(" vertical-align:") + extras.shift + QLatin1Char(';'))
+        + (extras.background.isEmpty()
+               ? QString()
+               : QLatin1String(" background-color:") + styleSafe(extras.background) + QLatin1Char(';'));
 }
 
 // What stands between two ends of paragraphs.
@@ -271,9 +274,9 @@ struct Paragraph
     QString spans; // empty for a paragraph without text
 };
 
-void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &shift, const QString &text)
+void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const RunExtras &extras, const QString &text)
 {
-    const QString style = styleOf(run, shift);
+    const QString style = styleOf(run, extras);
     if (paragraph.align.isEmpty()) {
         paragraph.align = run.textAlign;
         paragraph.firstStyle = style;
@@ -281,8 +284,11 @@ void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const QString &shi
     if (!text.isEmpty()) {
         QString escaped = text.toHtmlEscaped();
         escaped.replace(QChar::LineSeparator, QLatin1String("<br/>"));
-        paragraph.spans +=
+        const QString span =
             QLatin1String("<span style=\"") + style + QLatin1String("\">") + escaped + QLatin1String("</span>");
+        paragraph.spans += extras.link.isEmpty() ? span
+                                                 : QLatin1String("<a href=\"") + extras.link.toHtmlEscaped()
+                + QLatin1String("\">") + span + QLatin1String("</a>");
     }
 }
 
@@ -318,7 +324,7 @@ TextRuns textRunsFromPlainText(const QString &text)
     return runsOf(document);
 }
 
-QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts)
+QString htmlFromTextRuns(const IwbTextInfoList &runs, const QVector<RunExtras> &extras)
 {
     QVector<Paragraph> paragraphs(1);
     for (int n = 0; n < runs.size(); ++n) {
@@ -331,7 +337,7 @@ QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts)
             // What follows on a last newline belongs to the next run, which may be formatted otherwise.
             const bool isRest = i > 0 && i + 1 == parts.size() && parts.at(i).isEmpty() && n + 1 < runs.size();
             if (!isRest) {
-                appendSpan(paragraphs.last(), run, shifts.value(n), parts.at(i));
+                appendSpan(paragraphs.last(), run, extras.value(n), parts.at(i));
             }
         }
     }

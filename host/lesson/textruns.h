@@ -6,6 +6,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace lessonhost {
 
@@ -33,9 +34,17 @@ struct TextRuns
 TextRuns textRunsFromHtml(const QString &html);
 TextRuns textRunsFromPlainText(const QString &text);
 
+//! What stands beside a run.
+struct RunExtras
+{
+    QString shift; //!< "sub", "super" or nothing
+    QString background; //!< a colour behind its letters, or nothing
+    QString link; //!< the address that its letters lead to, or nothing
+};
+
 //! HTML from the runs of one text area. A newline inside ends a paragraph, which is aligned as its first run says.
-//! shifts may be shorter than runs.
-QString htmlFromTextRuns(const IwbTextInfoList &runs, const QStringList &shifts = {});
+//! extras may be shorter than runs.
+QString htmlFromTextRuns(const IwbTextInfoList &runs, const QVector<RunExtras> &extras = {});
 
 //! text without the characters that XML can't hold (most control characters, halves of surrogate pairs).
 QString withoutControlCharacters(const QString &text, int *dropped = nullptr);

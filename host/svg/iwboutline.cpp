@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "svg/iwboutline.h"
 
+#include "lesson/isoneof.h"
 #include "svg/svgnames.h"
 #include "svg/svgpagebuilder.h"
 #include "svg/svgvalues.h"
+
+#include <QMap>
 
 namespace lessonhost {
 
@@ -37,11 +40,17 @@ QString refOf(const QDomElement &row)
 XmlVisitor::Way IwbOutline::begin(const QDomElement &element)
 {
     m_isInPage = false;
+    m_passedGroup = 0;
     if (m_root.isNull()) {
         m_root = element;
         m_rootTag = element.tagName();
         m_rules.isIwb = iwbName(element) == QLatin1String("iwb");
         m_hasKnownRoot = m_rules.isIwb || svgName(element) == QLatin1String("svg");
+    }
+    const QDomElement holder = element.parentNode().toElement();
+    if (!m_groups.isEmpty() && m_groups.last() == holder) {
+        m_rules.groups.insert(refOf(element), m_groupNumbers.last());
+        return beginRecord(element);
     }
     if (!m_section.isNull()) {
         return beginInSection(element);
@@ -50,11 +59,10 @@ XmlVisitor::Way IwbOutline::begin(const QDomElement &element)
         beginSection(element);
         return Inside;
     }
-    const QDomElement holder = element.parentNode().toElement();
     if (element == m_root) {
         return Inside;
     }
-    if (holder == m_root || (!m_groups.isEmpty() && m_groups.last() == holder)) {
+    if (holder == m_root || isIwbRecord(element)) {
         return beginRecord(element);
     }
     // The first svg element may stand anywhere.
@@ -85,17 +93,47 @@ XmlVisitor::Fate IwbOutline::end(const QDomElement &element)
 
 void IwbOutline::pass(const Passed &passed)
 {
-    if (m_isInPage && passed.level == 1 && passed.name.endsWith(QLatin1String("rect"))) {
-        lookAtChild(passed.node());
+    m_passedGroup = passed.level > m_passedGroup ? m_passedGroup : 0;
+    const QString name = passed.name.mid(passed.name.indexOf(QLatin1Char(':')) + 1);
+    const bool isRectangle = m_isInPage && passed.level == 1 && name == QLatin1String("rect");
+    if (isRectangle || isOneOf(iwbRecordNames, name)) {
+        lookAt(passed.node(), passed.level);
+    }
+    rememberPage(passed.attributes.value(QLatin1String("id")));
+}
+
+// Which of a page's rectangles is its background is known when all records are. Some of these may stand within a page.
+void IwbOutline::lookAt(const QDomElement &element, int level)
+{
+    m_passedGroup = level > m_passedGroup ? m_passedGroup : 0;
+    if (m_isInPage && level == 1 && svgName(element) == QLatin1String("rect") && !idOf(element).isEmpty()) {
+        m_rectangles.append({m_partCount - 1, idOf(element)});
+    }
+    if (!isIwbRecord(element)) {
+        return;
+    }
+    if (m_passedGroup > 0) {
+        m_rules.groups.insert(refOf(element), m_groupCount - 1);
+    }
+    if (iwbName(element) == QLatin1String("group")) {
+        m_passedGroup = level;
+        ++m_groupCount;
+    } else {
+        beginRecord(element);
     }
 }
 
-// Which of a page's rectangles is its background is known when all records are.
-void IwbOutline::lookAtChild(const QDomElement &child)
+// All identifiers of a large document would take more than its largest page.
+void IwbOutline::rememberPage(const QStringRef &id)
 {
-    if (svgName(child) == QLatin1String("rect") && !idOf(child).isEmpty()) {
-        m_rectangles.append({m_partCount - 1, idOf(child)});
+    if (!id.isEmpty() && !m_section.isNull()) {
+        m_elementPages.insert(markOf(id), qMax(0, m_layersInSection - 1));
     }
+}
+
+quint64 IwbOutline::markOf(const QStringRef &id)
+{
+    return (quint64(qHash(id, 1)) << 32) | qHash(id, 2);
 }
 
 void IwbOutline::finish()
@@ -150,6 +188,10 @@ void IwbOutline::beginSection(const QDomElement &section)
 XmlVisitor::Way IwbOutline::beginInSection(const QDomElement &element)
 {
     const QString name = svgName(element);
+    const QString id = idOf(element);
+    if (isIwbRecord(element)) {
+        return beginRecord(element);
+    }
     if (name == QLatin1String("page")) {
         addLayer(element);
         m_isInPage = true;
@@ -158,13 +200,12 @@ XmlVisitor::Way IwbOutline::beginInSection(const QDomElement &element)
     if (isPageSet(name)) {
         return Inside;
     }
-    if (element.parentNode() == m_section) {
-        if (SvgPageBuilder::isDrawn(name)) {
-            m_strays.append({name, idOf(element), QStringLiteral("it stands on no page and is left out")});
-        }
-        if (name == QLatin1String("rect")) {
-            m_strayRectangles.append(idOf(element));
-        }
+    rememberPage(QStringRef(&id));
+    if (SvgPageBuilder::isDrawn(name)) {
+        m_strays.append({name, id, QStringLiteral("it stands on no page and is left out")});
+    }
+    if (element.parentNode() == m_section && name == QLatin1String("rect")) {
+        m_strayRectangles.append(id);
     }
     return Past;
 }
@@ -202,11 +243,8 @@ void IwbOutline::readSize(const QDomElement &svg)
 
 XmlVisitor::Way IwbOutline::beginRecord(const QDomElement &row)
 {
-    if (!m_groups.isEmpty()) {
-        m_rules.groups.insert(refOf(row), m_groupNumbers.last());
-    }
     const QString name = iwbName(row);
-    if (name == QLatin1String("element")) {
+    if (name == QLatin1String("element") || name == QLatin1String("tspan") || name == QLatin1String("link")) {
         readRecord(row);
     } else if (name == QLatin1String("group")) {
         m_groups.append(row);
@@ -214,11 +252,51 @@ XmlVisitor::Way IwbOutline::beginRecord(const QDomElement &row)
         return Inside;
     } else if (name == QLatin1String("meta")) {
         m_meta.insert(row.attribute(QStringLiteral("name")), row.attribute(QStringLiteral("content")));
-    } else if (name != QLatin1String("link") && svgName(row) != QLatin1String("svg")) {
+    } else if (svgName(row) != QLatin1String("svg")) {
         m_recordRemarks.append({row.tagName(), row.attribute(QStringLiteral("ref"), idOf(row)),
                                 QStringLiteral("lessons have no such record"), false});
     }
     return m_hasSvg ? Past : Inside;
+}
+
+// What a record says that no item has, and the value of each that says nothing.
+void IwbOutline::nameUnread(const QDomElement &row)
+{
+    constexpr const char *read[] = {"ref",
+                                    "locked",
+                                    "replicate",
+                                    "background",
+                                    "backgorund",
+                                    "background-posture",
+                                    "flip",
+                                    "revealer",
+                                    "freehand",
+                                    "highlight",
+                                    "background-fill",
+                                    "highlight-fill",
+                                    "type",
+                                    "list-style-type",
+                                    "list-style-type-fill",
+                                    "file"};
+    const QDomNamedNodeMap attributes = row.attributes();
+    QMap<QString, QString> unread; // in the same order each time
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QString name = attributes.item(i).nodeName();
+        const QString value = attributes.item(i).nodeValue();
+        const bool isShape = name.startsWith(QLatin1String("stroke-lineshape"));
+        const bool isPlain = value.isEmpty() || value == QLatin1String("none")
+            || (isShape ? value == QLatin1String("arrow")
+                        : name == QLatin1String("editable") && value == QLatin1String("true"));
+        if (!isOneOf(read, name) && !isPlain && !name.startsWith(QLatin1String("xmlns"))) {
+            unread.insert(name, value);
+        }
+    }
+    for (auto it = unread.cbegin(); it != unread.cend(); ++it) {
+        m_recordRemarks.append({row.tagName(), refOf(row),
+                                it.key() + QLatin1String(" \"") + it.value().left(80)
+                                    + QLatin1String("\" is left out"),
+                                false});
+    }
 }
 
 // Of two records of one element, the later says what it says.
@@ -244,6 +322,14 @@ void IwbOutline::readRecord(const QDomElement &row)
     readText("stroke-lineshape-end", record.endShape);
     readText("background-posture", record.posture);
     readText("background-fill", record.textFill);
+    readText("highlight-fill", record.highlightFill);
+    readText("list-style-type", record.listMarks);
+    readText("list-style-type-fill", record.listMarkFill);
+    const QString type = row.attribute(QStringLiteral("type"));
+    record.isList = type.isEmpty() ? record.isList : type == QLatin1String("list");
+    const QString file = row.attribute(QStringLiteral("file"));
+    record.isOutside = file.isEmpty() ? record.isOutside : file == QLatin1String("external");
+    nameUnread(row);
     const QString flip = row.attribute(QStringLiteral("flip"));
     if (!flip.isEmpty()) {
         record.flipsAcross = flip == QLatin1String("horizontal") || flip == QLatin1String("both");

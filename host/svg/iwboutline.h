@@ -17,8 +17,8 @@ public:
     Way begin(const QDomElement &element) override;
     Fate end(const QDomElement &element) override;
     void pass(const Passed &passed) override;
-    //! What pass() is told of a page, where all of it is there.
-    void lookAtChild(const QDomElement &child);
+    //! What pass() is told, where the element is there with what it holds. level: 1 for a child of the page.
+    void lookAt(const QDomElement &element, int level);
     //! Behind the last element.
     void finish();
 
@@ -41,6 +41,8 @@ public:
     QString pageId(int index) const { return m_pages.at(index).id; }
     //! What a page was made of by the plug-in, which names the rectangle of its background so; empty for others.
     QString backgroundName(int index) const { return m_pages.at(index).backgroundName; }
+    //! The page on which an element stands, or -1; of a document that is read page by page.
+    int pageOf(const QString &elementId) const { return m_elementPages.value(markOf(elementId), -1); }
     //! The parts that lie over each other on a page, from back to front.
     const QVector<int> &layers(int index) const { return m_pages.at(index).layers; }
 
@@ -62,8 +64,12 @@ private:
     Way beginInSection(const QDomElement &element);
     void addLayer(const QDomElement &page);
     Way beginRecord(const QDomElement &row);
+    void rememberPage(const QStringRef &id);
+    static quint64 markOf(const QStringRef &id);
+    static quint64 markOf(const QString &id) { return markOf(QStringRef(&id)); }
     void readSize(const QDomElement &svg);
     void readRecord(const QDomElement &row);
+    void nameUnread(const QDomElement &row);
 
     QString m_rootTag;
     bool m_hasKnownRoot = false;
@@ -75,6 +81,7 @@ private:
     QVector<SvgRemark> m_recordRemarks;
     QVector<SvgRemark> m_layerRemarks;
     QVector<Page> m_pages;
+    QHash<quint64, int> m_elementPages; // by a mark of each identifier
 
     // While it is told:
     QDomElement m_root;
@@ -86,6 +93,7 @@ private:
     int m_partCount = 0;
     int m_layersInSection = 0;
     bool m_isInPage = false;
+    int m_passedGroup = 0; // the level of a group of records in a page, or 0
     QVector<SvgRemark> m_strays; // what stands in the section and on no page
     QVector<QString> m_strayRectangles; // of these
     QVector<Rectangle> m_rectangles; // on pages

@@ -2,7 +2,6 @@
 #ifndef IWBPAGE_H
 #define IWBPAGE_H
 
-#include <QColor>
 #include <QDomDocument>
 #include <QHash>
 #include <QRectF>
@@ -35,6 +34,7 @@ struct IwbElement
     double angle = 0; //!< radians about the centre of the box; of text, media, rectangles and ellipses
     QString reference; //!< of media, as the file has it
     QString link; //!< target of the link around the item, as the file has it
+    bool leadsOutside = false; //!< to a file that is no part of the package
     bool isVisible = true;
     bool isLocked = false;
     bool isEndless = false; //!< gives copies of itself without end
@@ -43,7 +43,6 @@ struct IwbElement
     bool isHighlight = false; //!< ink of a marker
     bool flipsAcross = false; //!< left and right are exchanged
     bool flipsDown = false; //!< up and down are exchanged
-    QColor textFill = Qt::transparent; //!< what lies behind the letters of a text
     int group = -1; //!< which of the document's groups it belongs to
 };
 
@@ -79,6 +78,11 @@ struct IwbRecord
     QString endShape;
     QString posture; //!< of a background picture; empty where the record says nothing
     QString textFill; //!< what lies behind a text; empty or "none" for nothing
+    QString highlightFill; //!< the same, meant as a marker's
+    bool isList = false; //!< of a text or a part of it
+    QString listMarks; //!< how it is marked: "disc" and the like
+    QString listMarkFill; //!< the colour of its marks
+    bool isOutside = false; //!< of a link, to a file that is no part of the package
 };
 
 /*!

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "svg/svgnames.h"
 
+#include "lesson/isoneof.h"
+
 namespace lessonhost {
 
 namespace {
@@ -63,6 +65,12 @@ QString iwbName(const QDomElement &element)
         }
     }
     return {};
+}
+
+bool isIwbRecord(const QDomElement &element)
+{
+    return isOneOf(iwbRecordNames, localNameOf(element.tagName())) && !iwbName(element).isEmpty()
+        && svgName(element).isEmpty();
 }
 
 QString linkTarget(const QDomElement &element)

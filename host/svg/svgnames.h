@@ -16,6 +16,12 @@ QString svgName(const QDomElement &element);
 //! The same for the vocabulary of IWB files; an element without any namespace counts here too.
 QString iwbName(const QDomElement &element);
 
+//! What the records of IWB files are called that say something of an element.
+constexpr const char *iwbRecordNames[] = {"element", "group", "tspan", "link"};
+
+//! True for such a record, wherever it stands; svg has elements of the same names.
+bool isIwbRecord(const QDomElement &element);
+
 //! The target of an element's "href", whatever prefix it has.
 QString linkTarget(const QDomElement &element);
 

@@ -7,16 +7,23 @@ namespace lessonhost {
 
 namespace {
 
+void pass(const QDomElement &element, IwbOutline &outline, int level)
+{
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        outline.lookAt(child, level);
+        pass(child, outline, level + 1);
+    }
+}
+
 void tell(const QDomElement &element, IwbOutline &outline, QVector<QDomElement> &parts)
 {
     const XmlVisitor::Way way = outline.begin(element);
-    for (QDomElement child = element.firstChildElement(); !child.isNull() && way != XmlVisitor::Past;
-         child = child.nextSiblingElement()) {
-        if (way == XmlVisitor::Part) {
-            outline.lookAtChild(child);
-        } else {
+    if (way == XmlVisitor::Inside) {
+        for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             tell(child, outline, parts);
         }
+    } else {
+        pass(element, outline, 1);
     }
     if (way == XmlVisitor::Part || (way == XmlVisitor::Inside && outline.end(element) == XmlVisitor::LatePart)) {
         parts.append(element);

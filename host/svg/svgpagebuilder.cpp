@@ -5,6 +5,7 @@
 #include "lesson/itemvalues.h"
 #include "lesson/missingfonts.h"
 #include "lesson/planegeometry.h"
+#include "svg/inkline.h"
 #include "svg/svggeometry.h"
 #include "svg/svgnames.h"
 #include "svg/svgpath.h"
@@ -146,15 +147,94 @@ SvgPageBuilder::Place SvgPageBuilder::placeOn(const QDomElement &page)
 void SvgPageBuilder::children(const QDomElement &holder, const Place &place)
 {
     for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        convert(child, place);
+        const QVector<QDomElement> pieces = strokePieces(child);
+        if (pieces.isEmpty()) {
+            convert(child, place);
+            continue;
+        }
+        if (!stroke(pieces, place)) {
+            for (const QDomElement &piece : pieces) {
+                convert(piece, place);
+            }
+        }
+        child = pieces.last();
     }
+}
+
+// Polygons beside each other that are ink and that the writer put into one group.
+QVector<QDomElement> SvgPageBuilder::strokePieces(const QDomElement &first) const
+{
+    const auto groupOf = [this](const QDomElement &element) {
+        return m_rules.groups.value(element.attribute(QStringLiteral("id")), -1);
+    };
+    const bool isInSvgGroup = svgName(first.parentNode().toElement()) == QLatin1String("g");
+    QVector<QDomElement> pieces;
+    for (QDomElement piece = first; !piece.isNull(); piece = piece.nextSiblingElement()) {
+        const IwbRecord record = recordOf(piece);
+        const bool isOfStroke = pieces.isEmpty() || isInSvgGroup
+            || (groupOf(piece) >= 0 && groupOf(piece) == groupOf(first));
+        if (svgName(piece) != QLatin1String("polygon") || !(record.isFreehand || record.isHighlight) || !isOfStroke) {
+            break;
+        }
+        pieces.append(piece);
+    }
+    return pieces;
+}
+
+// One line for what a pen has drawn. False where that would look otherwise.
+bool SvgPageBuilder::stroke(const QVector<QDomElement> &pieces, const Place &outer)
+{
+    QVector<QPolygonF> polygons;
+    QColor color;
+    Place place = outer;
+    const auto nobody = [](const QString &) {};
+    for (const QDomElement &piece : pieces) {
+        const SvgStyle style = outer.style.child(piece, nativeTransform(piece), nobody);
+        const SvgPaint paint = svgPaint(style, m_rules.isNative, nobody);
+        if (polygons.isEmpty()) {
+            color = paint.fill;
+            place.style = style;
+        }
+        if (color.alpha() == 0 || paint.fill != color || style.isVisible() != place.style.isVisible()) {
+            return false;
+        }
+        polygons.append(style.matrix.map(pointsOf(svgNumbers(piece.attribute(QStringLiteral("points"))))));
+    }
+    const auto line = inkLineOf(polygons);
+    if (!line) {
+        return false;
+    }
+    if (pieces.size() > 1) {
+        remark(pieces.first(), QString::number(pieces.size()) + QLatin1String(" polygons became one stroke"), false);
+    } else {
+        remark(pieces.first(), QStringLiteral("the polygon became a stroke"), false);
+    }
+    QPolygonF points = line->points;
+    if (points.size() == 1) {
+        points.append(points.first());
+    }
+    IwbElement &item = addItem(pieces.first(), place, QStringLiteral("svg:polyline"));
+    item.element.setAttribute(QStringLiteral("points"), svgPoints(points));
+    SvgPaint paint;
+    paint.fill = QColor(0, 0, 0, 0);
+    paint.line = color;
+    paint.lineWidth = line->width;
+    setPluginPaint(item.element, paint);
+    for (const QDomElement &piece : pieces) {
+        remarkOnExtras(piece, svgName(piece));
+    }
+    return true;
 }
 
 void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
 {
     const QString name = svgName(element);
     if (isOneOf(silentElements, name)) {
+        nameWithoutPage(element, name);
         return;
+    }
+    if (isIwbRecord(element)) {
+        return; // which was read before
     }
     const auto conversion = conversions().constFind(name);
     if (conversion == conversions().constEnd()) {
@@ -167,6 +247,17 @@ void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
         (this->*conversion.value())(element, place);
     }
     remarkOnExtras(element, name);
+}
+
+// A set of pages that has none.
+void SvgPageBuilder::nameWithoutPage(const QDomElement &element, const QString &name)
+{
+    for (QDomElement child = element.firstChildElement(); !child.isNull() && name != QLatin1String("defs");
+         child = child.nextSiblingElement()) {
+        if (isDrawn(svgName(child))) {
+            remark(child, QStringLiteral("it stands on no page and is left out"));
+        }
+    }
 }
 
 // What elements may have about them that shows something or acts, and that no item has.
@@ -265,6 +356,7 @@ void SvgPageBuilder::link(const QDomElement &element, const Place &place)
     }
     Place inner = place;
     inner.link = linkTarget(element);
+    inner.leadsOutside = recordOf(element).isOutside;
     children(element, inner);
 }
 
@@ -285,7 +377,7 @@ void SvgPageBuilder::rectangle(const QDomElement &element, const Place &place)
     }
     IwbElement &item = addItem(element, place, QStringLiteral("svg:rect"));
     placeBox(item, box, place.style.matrix);
-    setPluginPaint(item.element, svgPaint(place.style, m_rules.isNative, remarkAbout(element)));
+    setPluginPaint(item.element, paintOf(element, place.style));
 }
 
 void SvgPageBuilder::ellipse(const QDomElement &element, const Place &place)
@@ -311,13 +403,20 @@ void SvgPageBuilder::ellipse(const QDomElement &element, const Place &place)
         item.element.setAttribute(QStringLiteral("ry"), svgCoordinate(axes.scaleY));
         item.angle = axes.angle;
     }
-    setPluginPaint(item.element, svgPaint(place.style, m_rules.isNative, remarkAbout(element)));
+    setPluginPaint(item.element, paintOf(element, place.style));
 }
 
 void SvgPageBuilder::line(const QDomElement &element, const Place &place)
 {
-    QPointF from = place.style.matrix.map(QPointF(length(element, "x1"), length(element, "y1")));
-    QPointF to = place.style.matrix.map(QPointF(length(element, "x2"), length(element, "y2")));
+    lineBetween(element, place, QPointF(length(element, "x1"), length(element, "y1")),
+                QPointF(length(element, "x2"), length(element, "y2")));
+}
+
+// from, to: before the transform.
+void SvgPageBuilder::lineBetween(const QDomElement &element, const Place &place, QPointF from, QPointF to)
+{
+    from = place.style.matrix.map(from);
+    to = place.style.matrix.map(to);
     const IwbRecord record = recordOf(element);
     bool startsWithArrow = isArrow(element.attribute(QStringLiteral("stroke-lineshape-start"), record.startShape))
         || isArrow(place.style.property(QStringLiteral("marker-start")));
@@ -341,7 +440,7 @@ void SvgPageBuilder::line(const QDomElement &element, const Place &place)
     }
     SvgStyle style = place.style;
     style.set(QStringLiteral("fill"), QStringLiteral("none"));
-    setPluginPaint(item.element, svgPaint(style, m_rules.isNative, remarkAbout(element)));
+    setPluginPaint(item.element, paintOf(element, style));
 }
 
 void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
@@ -405,15 +504,41 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
             remark(source, QLatin1String(marker) + QLatin1String(" is left out"));
         }
     }
-    const SvgPaint paint = svgPaint(place.style, m_rules.isNative, remarkAbout(source));
+    const SvgPaint paint = paintOf(source, place.style);
     const IwbRecord record = recordOf(source);
     const bool isInk = record.isFreehand || record.isHighlight;
+    if (points.size() == 2 && (isArrow(record.startShape) || isArrow(record.endShape)) && !isInk) {
+        lineBetween(source, place, points.first(), points.last());
+        return;
+    }
+    for (const QString &shape : {record.startShape, record.endShape}) {
+        if (isArrow(shape)) {
+            remark(source, QStringLiteral("an arrow at its end is left out"));
+        }
+    }
     if (points.size() == 3 && !isInk && (!m_rules.isNative || paint.fill.alpha() > 0)) {
         points.append(points.last());
     }
     IwbElement &item = addItem(source, place, QStringLiteral("svg:polyline"));
     item.element.setAttribute(QStringLiteral("points"), svgPoints(place.style.matrix.map(points)));
     setPluginPaint(item.element, paint);
+    if (isClosed && isInk) {
+        item.isFreehand = false;
+        item.isHighlight = false;
+        remark(source, QStringLiteral("it isn't drawn as a pen does, so it is no ink"), false);
+    }
+}
+
+// With a word on what lines have no form for.
+SvgPaint SvgPageBuilder::paintOf(const QDomElement &element, const SvgStyle &style)
+{
+    const SvgPaint paint = svgPaint(style, m_rules.isNative, remarkAbout(element));
+    if (!m_rules.isNative && paint.line.alpha() > 0) {
+        for (const QString &difference : lineDifferences(style, paint)) {
+            remark(element, difference, false);
+        }
+    }
+    return paint;
 }
 
 void SvgPageBuilder::image(const QDomElement &element, const Place &place)
@@ -438,14 +563,15 @@ void SvgPageBuilder::media(const QDomElement &source, const Place &place, const 
         // The box is turned with its upper side: what is upside down then is flipped.
         item.flipsDown = !item.flipsDown;
     }
-    if (place.style.opacity < 1) {
+    const double fillOpacity = svgLength(place.style.property(QStringLiteral("fill-opacity")), 1).value_or(1);
+    if (place.style.opacity < 1 || (fillOpacity < 1 && tag == QLatin1String("svg:image"))) {
         remark(source, QStringLiteral("it is no longer translucent"), false);
     }
 }
 
 void SvgPageBuilder::text(const QDomElement &element, const Place &place)
 {
-    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element));
+    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element), m_rules.records);
     IwbElement &item = addItem(element, place, QStringLiteral("svg:textarea"));
     const QDomElement firstSpan = element.firstChildElement();
     const QDomElement &anchor = element.hasAttribute(QStringLiteral("y")) || firstSpan.isNull() ? element : firstSpan;
@@ -459,12 +585,26 @@ void SvgPageBuilder::text(const QDomElement &element, const Place &place)
     if (!placeBox(item, box, place.style.matrix)) {
         remark(element, QStringLiteral("it is drawn slanted no longer"), false);
     }
+    finishText(element, content, place, item);
+}
+
+// What text and text areas have in common.
+void SvgPageBuilder::finishText(const QDomElement &source, const SvgText &content, const Place &place, IwbElement &item)
+{
     content.writeInto(item.element, meanScale(place.style.matrix));
+    for (const QString &note : content.notes()) {
+        remark(source, note, false);
+    }
+    if (item.link.isEmpty()) {
+        item.link = content.link();
+    } else if (!content.link().isEmpty()) {
+        remark(source, QLatin1String("the link of its letters to \"") + content.link() + QLatin1String("\" is left out"));
+    }
 }
 
 void SvgPageBuilder::textArea(const QDomElement &element, const Place &place)
 {
-    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element));
+    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element), m_rules.records);
     IwbElement &item = addItem(element, place, QStringLiteral("svg:textarea"));
     QRectF box(length(element, "x"), length(element, "y"), length(element, "width"), length(element, "height"));
     if (!(box.width() > 0)) {
@@ -476,7 +616,7 @@ void SvgPageBuilder::textArea(const QDomElement &element, const Place &place)
     if (!placeBox(item, box, place.style.matrix)) {
         remark(element, QStringLiteral("it is drawn slanted no longer"), false);
     }
-    content.writeInto(item.element, meanScale(place.style.matrix));
+    finishText(element, content, place, item);
 }
 
 // The page's colour and picture, which records name. The rectangle that the plug-in makes shares the beginning of its
@@ -575,6 +715,7 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     m_items.appendChild(item.element);
     item.id = source.attribute(QStringLiteral("id"));
     item.link = place.link;
+    item.leadsOutside = place.leadsOutside;
     item.isVisible = place.style.isVisible();
     // A record is of every item of its identifier, on whatever page; the item's own word is of itself.
     const auto isSet = [&source](const QString &attribute, bool isRecorded) {
@@ -592,9 +733,6 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     item.isHighlight = record.isHighlight;
     item.flipsAcross = record.flipsAcross && tag == QLatin1String("svg:image");
     item.flipsDown = record.flipsDown && tag == QLatin1String("svg:image");
-    if (tag == QLatin1String("svg:textarea")) {
-        item.textFill = svgColor(record.textFill).value_or(QColor(Qt::transparent));
-    }
     item.group = item.id.isEmpty() ? -1 : m_rules.groups.value(item.id, -1);
     m_result.items.append(item);
     return m_result.items.last();

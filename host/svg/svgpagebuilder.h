@@ -5,6 +5,7 @@
 #include "files/xmlparts.h"
 #include "svg/iwbpage.h"
 #include "svg/svgstyle.h"
+#include "svg/svgtext.h"
 
 #include <QPolygonF>
 
@@ -32,6 +33,7 @@ private:
     {
         SvgStyle style;
         QString link;
+        bool leadsOutside = false; // the link
     };
 
     using Convert = void (SvgPageBuilder::*)(const QDomElement &, const Place &);
@@ -39,7 +41,10 @@ private:
 
     Place placeOn(const QDomElement &page);
     void children(const QDomElement &holder, const Place &place);
+    QVector<QDomElement> strokePieces(const QDomElement &first) const;
+    bool stroke(const QVector<QDomElement> &pieces, const Place &outer);
     void convert(const QDomElement &element, const Place &outer);
+    void nameWithoutPage(const QDomElement &element, const QString &name);
     void remarkOnExtras(const QDomElement &element, const QString &name);
 
     void group(const QDomElement &element, const Place &place);
@@ -49,6 +54,7 @@ private:
     void rectangle(const QDomElement &element, const Place &place);
     void ellipse(const QDomElement &element, const Place &place);
     void line(const QDomElement &element, const Place &place);
+    void lineBetween(const QDomElement &element, const Place &place, QPointF from, QPointF to);
     void polyline(const QDomElement &element, const Place &place);
     void polygon(const QDomElement &element, const Place &place);
     void path(const QDomElement &element, const Place &place);
@@ -56,12 +62,14 @@ private:
     void sound(const QDomElement &element, const Place &place);
     void text(const QDomElement &element, const Place &place);
     void textArea(const QDomElement &element, const Place &place);
+    void finishText(const QDomElement &source, const SvgText &content, const Place &place, IwbElement &item);
 
     IwbRecord recordOf(const QDomElement &element) const;
     bool takeBackground(const QDomElement &element, const QString &name, const SvgStyle &style);
     bool fillsPage(const QDomElement &element, const IwbRecord &record, const SvgStyle &style);
     void finishBackground();
     void outline(const QDomElement &source, const Place &place, QPolygonF points, bool isClosed);
+    SvgPaint paintOf(const QDomElement &element, const SvgStyle &style);
     void media(const QDomElement &source, const Place &place, const QString &tag);
     bool placeBox(IwbElement &item, const QRectF &box, const QTransform &matrix);
     IwbElement &addItem(const QDomElement &source, const Place &place, const QString &tag);

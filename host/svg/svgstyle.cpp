@@ -21,6 +21,8 @@ const QSet<QString> &inheritedProperties()
         QStringLiteral("stroke-width"),
         QStringLiteral("stroke-opacity"),
         QStringLiteral("stroke-dasharray"),
+        QStringLiteral("stroke-linecap"),
+        QStringLiteral("stroke-linejoin"),
         QStringLiteral("color"),
         QStringLiteral("font-family"),
         QStringLiteral("font-size"),
@@ -30,6 +32,7 @@ const QSet<QString> &inheritedProperties()
         QStringLiteral("text-decoration"),
         QStringLiteral("text-align"),
         QStringLiteral("text-anchor"),
+        QStringLiteral("direction"),
         QStringLiteral("visibility"),
         QStringLiteral("marker-start"),
         QStringLiteral("marker-end"),
@@ -207,6 +210,32 @@ SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void
         problem(QLatin1String("stroke-dasharray \"") + dashes + QLatin1String("\" became dash dot dot"));
     }
     return paint;
+}
+
+QStringList lineDifferences(const SvgStyle &style, const SvgPaint &paint)
+{
+    // Of which the lengths are so many times the width of the line.
+    static const QVector<double> patterns[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
+    QStringList differences;
+    const QString dashes = style.property(QStringLiteral("stroke-dasharray"));
+    const QVector<double> lengths = svgNumbers(dashes);
+    const QVector<double> pattern = patterns[qBound(0, paint.dashParts, 4)];
+    const double width = svgLength(style.property(QStringLiteral("stroke-width"))).value_or(1);
+    bool isSame = lengths.size() > 4 || lengths.size() == pattern.size(); // more were told
+    for (int i = 0; i < lengths.size() && i < pattern.size(); ++i) {
+        isSame = isSame && (lengths.size() > 4 || qAbs(lengths.at(i) - pattern.at(i) * width) <= width);
+    }
+    if (!isSame) {
+        differences.append(QLatin1String("stroke-dasharray \"") + dashes + QLatin1String("\" has other lengths"));
+    }
+    constexpr const char *plain[][2] = {{"stroke-linecap", "butt"}, {"stroke-linejoin", "miter"}};
+    for (const auto &[name, usual] : plain) {
+        const QString value = style.property(QLatin1String(name));
+        if (!value.isEmpty() && value != QLatin1String(usual)) {
+            differences.append(QLatin1String(name) + QLatin1String(" \"") + value + QLatin1String("\" is left out"));
+        }
+    }
+    return differences;
 }
 
 void setPluginPaint(QDomElement &element, const SvgPaint &paint)

@@ -6,6 +6,7 @@
 #include <QDomElement>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QTransform>
 
 #include <functional>
@@ -57,6 +58,9 @@ struct SvgPaint
  * can't be kept is handed to problem.
  */
 SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void(const QString &)> &problem);
+
+//! What a style says of a line that none has here: lengths of dashes, and its ends and corners.
+QStringList lineDifferences(const SvgStyle &style, const SvgPaint &paint);
 
 //! Writes a paint in the form that the plug-in reads: colours as rgb(), a fill's alpha as "stroke-opacity" out of 255,
 //! a line's alpha before its colour.

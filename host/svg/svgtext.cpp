@@ -3,12 +3,14 @@
 
 #include "lesson/fontvalues.h"
 #include "lesson/textruns.h"
+#include "svg/listmarks.h"
 #include "svg/svgnames.h"
 #include "svg/svgvalues.h"
 
 #include <QDomDocument>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QSet>
 
 namespace lessonhost {
 
@@ -35,7 +37,56 @@ QString alignment(const SvgStyle &style)
 {
     const QString align = style.property(QStringLiteral("text-align"));
     const QString value = align.isEmpty() ? style.property(QStringLiteral("text-anchor")) : align;
-    return svgAlignment(textAlignment(value));
+    const QString leftToRight = svgAlignment(textAlignment(value));
+    if (style.property(QStringLiteral("direction")) != QLatin1String("rtl")) {
+        return leftToRight;
+    }
+    const QString start = QStringLiteral("start");
+    const QString end = QStringLiteral("end");
+    return leftToRight == start ? end : leftToRight == end ? start : leftToRight;
+}
+
+// Properties of a text and its spans that no letters of lessons have, and the value of each that says nothing.
+struct Layout
+{
+    const char *name;
+    const char *plain;
+};
+constexpr Layout layouts[] = {{"dx", "0"},
+                              {"dy", "0"},
+                              {"rotate", "0"},
+                              {"textLength", ""},
+                              {"letter-spacing", "normal"},
+                              {"word-spacing", "normal"},
+                              {"line-increment", "auto"},
+                              {"writing-mode", "lr-tb"},
+                              {"unicode-bidi", "normal"},
+                              {"stroke", "none"},
+                              {"fill-opacity", "1"}};
+
+// Names under which a style carries what isn't inherited in svg, but here.
+const QLatin1String linkProperty("xlink:href");
+const QLatin1String backgroundProperty("background-fill");
+
+bool isBlank(const QString &text)
+{
+    return text.trimmed().isEmpty();
+}
+
+void setBackground(SvgStyle &style, const IwbRecord &record)
+{
+    for (const QString &fill : {record.textFill, record.highlightFill}) {
+        const auto color = svgColor(fill);
+        if (color && color->alpha() > 0) {
+            style.set(backgroundProperty, color->name());
+        }
+    }
+}
+
+bool isAddress(const QString &link)
+{
+    return link.startsWith(QLatin1String("http://")) || link.startsWith(QLatin1String("https://"))
+        || link.startsWith(QLatin1String("mailto:"));
 }
 
 // Blanks and ends of lines in a file are one blank each, unless it says otherwise.
@@ -78,15 +129,110 @@ QFontMetricsF metrics(const SvgStyle &style)
 } // namespace
 
 SvgText::SvgText(const QDomElement &source, const SvgStyle &style, bool isNative,
-                 const std::function<void(const QString &)> &problem)
+                 const std::function<void(const QString &)> &problem, const QHash<QString, IwbRecord> &records)
     : m_style(style)
     , m_isNative(isNative)
     , m_isArea(svgName(source).toLower() == QLatin1String("textarea"))
     , m_problem(problem)
+    , m_records(records)
 {
-    read(source, style);
+    const QString id = source.attribute(QStringLiteral("id"));
+    const IwbRecord record = id.isEmpty() ? IwbRecord() : records.value(id);
+    setBackground(m_style, record);
+    if (!m_isNative) {
+        nameLayout(source, false, false);
+    }
+    if (record.isList && m_isArea) {
+        readList(source, m_style, record);
+    } else {
+        read(source, m_style);
+    }
     if (!m_runs.isEmpty() && !m_isNative && m_runs.last().text.endsWith(QLatin1Char(' '))) {
         m_runs.last().text.chop(1);
+    }
+    findLinks();
+    m_records.clear();
+}
+
+// A link around all letters is one of the item, and one of some can lead to the web.
+void SvgText::findLinks()
+{
+    QSet<QString> links;
+    for (const Run &run : qAsConst(m_runs)) {
+        if (!isBlank(run.text)) {
+            links.insert(run.style.property(linkProperty));
+        }
+    }
+    if (links.size() == 1) {
+        m_link = *links.cbegin();
+    }
+    QSet<QString> told;
+    for (Run &run : m_runs) {
+        const QString link = run.style.property(linkProperty);
+        if (link.isEmpty() || (m_link.isEmpty() && isAddress(link))) {
+            continue;
+        }
+        run.style.set(linkProperty, {});
+        if (m_link.isEmpty() && !told.contains(link) && !isBlank(run.text)) {
+            told.insert(link);
+            m_problem(QLatin1String("the link of \"") + run.text.trimmed().left(40) + QLatin1String("\" to \"") + link
+                      + QLatin1String("\" is left out"));
+        }
+    }
+}
+
+// What places or spaces letters.
+void SvgText::nameLayout(const QDomElement &element, bool isSpan, bool startsLine)
+{
+    const QHash<QString, QString> declared = svgDeclarations(element.attribute(QStringLiteral("style")));
+    for (const Layout &layout : layouts) {
+        const QString name = QLatin1String(layout.name);
+        const QString value = declared.value(name, element.attribute(name)).trimmed();
+        const bool isUsed = startsLine && name == QLatin1String("dy");
+        if (!value.isEmpty() && value != QLatin1String(layout.plain) && !isUsed) {
+            m_problem(name + QLatin1String(" \"") + value.left(40) + QLatin1String("\" is left out"));
+        }
+    }
+    for (const char *place : {"x", "y"}) {
+        const QString value = element.attribute(QLatin1String(place));
+        const bool isUsed = !isSpan || startsLine || m_runs.isEmpty();
+        if (!value.isEmpty() && (!isUsed || svgNumbers(value).size() > 1)) {
+            m_problem(QLatin1String(place) + QLatin1String(" \"") + value.left(40)
+                      + QLatin1String("\" of letters is left out"));
+        }
+    }
+    if (declared.value(QStringLiteral("direction"), element.attribute(QStringLiteral("direction")))
+        == QLatin1String("rtl")) {
+        m_notes.append(QStringLiteral("it runs from right to left where its letters do"));
+    }
+}
+
+// Each line is an entry.
+void SvgText::readList(const QDomElement &holder, const SvgStyle &style, const IwbRecord &record)
+{
+    if (!m_runs.isEmpty() && !endsLine()) {
+        m_needsLine = true;
+    }
+    const List outer = m_list;
+    m_list = {record.listMarks.isEmpty() ? QStringLiteral("circle") : record.listMarks, record.listMarkFill, 0};
+    m_needsMark = true;
+    m_notes.append(QStringLiteral("it is a list, whose marks became letters"));
+    read(holder, style);
+    m_list = outer;
+    m_needsLine = !endsLine();
+    m_needsMark = !m_list.kind.isEmpty();
+}
+
+void SvgText::addMark(const SvgStyle &style)
+{
+    const QString mark = listMark(m_list.kind, ++m_list.count);
+    SvgStyle markStyle = style;
+    if (!m_list.fill.isEmpty()) {
+        markStyle.set(QStringLiteral("fill"), m_list.fill);
+    }
+    m_needsMark = false;
+    if (!mark.isEmpty()) {
+        m_runs.append({markStyle, mark + QLatin1Char(' ')});
     }
 }
 
@@ -115,6 +261,7 @@ void SvgText::readSpan(const QDomElement &span, const SvgStyle &outer)
         if (!m_isNative || !endsLine()) {
             endLine(outer);
         }
+        m_needsMark = !m_list.kind.isEmpty();
         return;
     }
     if (name != QLatin1String("tspan") && name != QLatin1String("a")) {
@@ -123,11 +270,24 @@ void SvgText::readSpan(const QDomElement &span, const SvgStyle &outer)
     }
     SvgStyle base = m_isNative ? SvgStyle() : outer;
     base.matrix = outer.matrix;
-    const SvgStyle style = base.child(span, {}, m_problem);
+    SvgStyle style = base.child(span, {}, m_problem);
+    const QString id = span.attribute(QStringLiteral("id"));
+    const IwbRecord record = id.isEmpty() ? IwbRecord() : m_records.value(id);
+    setBackground(style, record);
+    if (name == QLatin1String("a")) {
+        style.set(linkProperty, linkTarget(span));
+    }
     const bool startsLine = span.hasAttribute(QStringLiteral("y"))
         || svgLength(span.attribute(QStringLiteral("dy")), 0, outer.fontPixels()).value_or(0) > outer.fontPixels() / 2;
     if (!m_isArea && startsLine && !m_runs.isEmpty() && !endsLine()) {
         endLine(outer);
+    }
+    if (!m_isNative) {
+        nameLayout(span, true, startsLine && !m_isArea);
+    }
+    if (record.isList && m_isArea) {
+        readList(span, style, record);
+        return;
     }
     if (m_isNative && !span.hasChildNodes()) {
         append(style, {});
@@ -138,11 +298,17 @@ void SvgText::readSpan(const QDomElement &span, const SvgStyle &outer)
 void SvgText::append(const SvgStyle &style, const QString &text)
 {
     QString clean = withoutControlCharacters(text);
-    const bool atLineStart = m_runs.isEmpty() || endsLine();
+    const bool atLineStart = m_runs.isEmpty() || endsLine() || m_needsLine || m_needsMark;
     if (!m_isNative && atLineStart) {
         while (clean.startsWith(QLatin1Char(' '))) {
             clean.remove(0, 1);
         }
+    }
+    if (!clean.isEmpty() && m_needsLine) {
+        endLine(style);
+    }
+    if (!clean.isEmpty() && m_needsMark) {
+        addMark(style);
     }
     if (!clean.isEmpty() || m_isNative) {
         m_runs.append({style, clean});
@@ -155,6 +321,7 @@ void SvgText::endLine(const SvgStyle &style)
         m_runs.append({style, QString()});
     }
     m_runs.last().text += QLatin1Char('\n');
+    m_needsLine = false;
 }
 
 bool SvgText::endsLine() const
@@ -188,6 +355,11 @@ void SvgText::writeInto(QDomElement &area, double scale) const
     for (const Run &run : m_runs) {
         QDomElement span = document.createElement(QStringLiteral("svg:tspan"));
         setFont(span, run.style, scale);
+        for (const QLatin1String name : {linkProperty, backgroundProperty}) {
+            if (!run.style.property(name).isEmpty()) {
+                span.setAttribute(name, run.style.property(name));
+            }
+        }
         if (!run.text.isEmpty()) {
             span.appendChild(document.createCDATASection(run.text));
         }

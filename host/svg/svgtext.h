@@ -2,6 +2,7 @@
 #ifndef SVGTEXT_H
 #define SVGTEXT_H
 
+#include "svg/iwbpage.h"
 #include "svg/svgstyle.h"
 
 #include <QDomElement>
@@ -19,8 +20,9 @@ class SvgText
 {
 public:
     //! isNative: what isn't said means bold, italic and underlined, and spans inherit nothing.
+    //! records: what is said of the text and its spans.
     SvgText(const QDomElement &source, const SvgStyle &style, bool isNative,
-            const std::function<void(const QString &)> &problem);
+            const std::function<void(const QString &)> &problem, const QHash<QString, IwbRecord> &records = {});
 
     //! Puts font attributes and spans into area, sizes multiplied by scale.
     void writeInto(QDomElement &area, double scale) const;
@@ -33,6 +35,11 @@ public:
     //! All its letters.
     QString plainText() const;
 
+    //! Where all of its letters lead to; empty where they don't.
+    const QString &link() const { return m_link; }
+    //! What became otherwise, and loses nothing.
+    const QStringList &notes() const { return m_notes; }
+
 private:
     struct Run
     {
@@ -40,8 +47,20 @@ private:
         QString text;
     };
 
+    //! How the entries of a list are marked.
+    struct List
+    {
+        QString kind; // empty outside of lists
+        QString fill;
+        int count = 0; // of the marks so far
+    };
+
     void read(const QDomElement &holder, const SvgStyle &style);
     void readSpan(const QDomElement &span, const SvgStyle &outer);
+    void readList(const QDomElement &holder, const SvgStyle &style, const IwbRecord &record);
+    void addMark(const SvgStyle &style);
+    void nameLayout(const QDomElement &element, bool isSpan, bool startsLine);
+    void findLinks();
     void append(const SvgStyle &style, const QString &text);
     void endLine(const SvgStyle &style);
     bool endsLine() const;
@@ -52,6 +71,12 @@ private:
     bool m_isNative;
     bool m_isArea;
     std::function<void(const QString &)> m_problem;
+    QHash<QString, IwbRecord> m_records;
+    List m_list;
+    bool m_needsMark = false; // before the next letter
+    bool m_needsLine = false; // the same
+    QString m_link;
+    QStringList m_notes;
 };
 
 } // namespace lessonhost
