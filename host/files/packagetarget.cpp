@@ -291,8 +291,7 @@ void PackageTarget::makeStaging(const QString &parent)
     if (!error) {
         // Nobody else has anything to do in it.
         const bool isMade = m_lock->isHeld() && ::mkdirat(m_parent->descriptor(), name.constData(), 0700) == 0
-            && ::mkdir(QFile::encodeName(directory()).constData(), 0777) == 0
-            && ::mkdir(QFile::encodeName(workFolder()).constData(), 0700) == 0;
+            && (m_kind == OneFile || ::mkdir(QFile::encodeName(directory()).constData(), 0777) == 0);
         error = isMade ? 0 : errno;
     }
     if (error) {
@@ -324,7 +323,11 @@ QString PackageTarget::directory() const
 
 QString PackageTarget::workFolder() const
 {
-    return m_staging + workPart;
+    const QString folder = m_staging + workPart;
+    if (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST) {
+        throw systemError(m_shownTarget);
+    }
+    return folder;
 }
 
 OutputFile &PackageTarget::file()

@@ -423,7 +423,8 @@ void packZip(const QString &directory, OutputFile &archive, const QString &shown
         InputFile file(directory + QLatin1Char('/') + name, shownName);
         const QFileInfo info(directory + QLatin1Char('/') + name);
         const QDateTime time = info.lastModified();
-        isGood = isGood && zip.prepareWriting(name, info.owner(), info.group(), file.size(), 0100644, time, time, time);
+        // Whose file it is doesn't go into the archive, and takes a look into the list of users.
+        isGood = isGood && zip.prepareWriting(name, {}, {}, file.size(), 0100644, time, time, time);
         for (qint64 at = 0; isGood && at < file.size(); at += chunkSize) {
             const QByteArray chunk = file.bytes(at, qMin(chunkSize, file.size() - at));
             isGood = zip.writeData(chunk.constData(), chunk.size());

@@ -28,7 +28,7 @@ JsonIndex::JsonIndex(const QString &path)
 
 QByteArray JsonIndex::text(const Range &range)
 {
-    const QByteArray text = bytes(range.begin, range.end - range.begin);
+    const QByteArray text = source(range);
     if (!text.startsWith('"')) {
         fail(QStringLiteral("A file of the lesson is no base64 text"), range.begin);
     }

@@ -31,8 +31,6 @@ public:
     //! The members of "Resources".
     QVector<QPair<QString, Range>> resources;
 
-    //! A value as it stands in the file.
-    QByteArray source(const Range &range) { return bytes(range.begin, range.end - range.begin); }
     //! The bytes of a text.
     QByteArray text(const Range &range);
 

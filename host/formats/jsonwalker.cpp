@@ -79,6 +79,13 @@ inline int JsonWalker::next()
     return uchar(m_piece.at(int(m_at - m_pieceBegin)));
 }
 
+QByteArray JsonWalker::source(const Range &range)
+{
+    const bool isHeld = range.begin >= m_pieceBegin && range.end <= m_pieceBegin + m_piece.size();
+    return isHeld ? m_piece.mid(int(range.begin - m_pieceBegin), int(range.end - range.begin))
+                  : bytes(range.begin, range.end - range.begin);
+}
+
 QJsonValue JsonWalker::value(const Range &range)
 {
     if (range.depth <= maximumParsedDepth) {
@@ -110,7 +117,7 @@ QJsonValue JsonWalker::nextValue(int levels)
 QJsonValue JsonWalker::parsedValue(const Range &range)
 {
     // In brackets, so that texts and numbers can be parsed like everything else.
-    const QByteArray text = '[' + bytes(range.begin, range.end - range.begin) + ']';
+    const QByteArray text = '[' + source(range) + ']';
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {

@@ -34,6 +34,8 @@ public:
     JsonWalker &operator=(const JsonWalker &) = delete;
 
     QJsonValue value(const Range &range);
+    //! A value as it stands in the text.
+    QByteArray source(const Range &range);
     [[noreturn]] void fail(const QString &problem, qint64 position);
 
 protected:
