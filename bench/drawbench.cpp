@@ -7,7 +7,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QSvgRenderer>
 
 #include <benchmark/benchmark.h>
 
@@ -45,7 +44,7 @@ std::function<void()> painting(ItemPictures &pictures, const QJsonArray &items)
         QImage image(QSize(1280, 720), QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        QSvgRenderer(pictures.draw(items).svg).render(&painter);
+        pictures.paint(painter, image.rect(), items);
     };
 }
 

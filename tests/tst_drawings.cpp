@@ -9,7 +9,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <QtTest>
 
 /*!
@@ -40,7 +39,7 @@ private:
         Look look{picture.svg, !picture.named.isEmpty(), {}, {}};
         QImage page(ItemPictures::pageSize().toSize(), QImage::Format_RGB32);
         QPainter painter(&page);
-        QSvgRenderer(picture.svg).render(&painter, page.rect());
+        m_pictures.paint(painter, page.rect(), withGround(item));
         painter.end();
         double weight = 0;
         for (int y = 0; y < page.height(); ++y) {

@@ -85,8 +85,12 @@ private slots:
             "{'Type':'ZQGroupItem','Matrix':'1,0,0,1,100,0','Children':[{'Type':'stroke','XY':'10,50,200,0',"
             "'Width':'10'}]},{'Type':'ZQStrokesDeletePixel','XY':'200,0,0,200','Width':'20'}",
             "matrix(1 0 0 1 100 0)|90.00 45.00|110.00 55.00|evenodd");
-        row("texture", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','Width':'20','DrawTexture':'a.svg'}",
-            "x=\"0.00\" xlink:href=\"data:image/|width=\"100.00\"|height=\"20.00\"|!<path");
+        row("texture that two strokes show",
+            "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','Width':'20','DrawTexture':'a.svg'},"
+            "{'Type':'ZQStrokeTexture','XY':'10,90,80,0','DrawTexture':'a.svg','Opacity':'51'},"
+            "{'Type':'ZQStrokesDeletePixel','XY':'70,0,0,99','Width':'20'}",
+            "<pattern|patternUnits=\"userSpaceOnUse\"|xlink:href=\"data:image/|fill=\"url(#s1t1) #ff0000\" "
+            "fill-rule=\"evenodd\"|fill-opacity=\"0.20\"|60.00 40.00|!s1t2|!\"#picture");
         row("texture that is missing", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','DrawTexture':'b.svg'}", "<path");
         row("stamps", "{'Type':'ZQStrokesStamp','XY':'50,50,80,10','Width':'30','Stamp':'a.svg','DrawTexture':'a.svg'}",
             "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/");

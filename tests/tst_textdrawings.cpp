@@ -234,6 +234,31 @@ private slots:
         QVERIFY(std::clock() - start < 20 * CLOCKS_PER_SEC);
     }
 
+    // Letters that all look alike stand where a document would have them, which a tag asks for.
+    void laysPlainTextsOutAsDocumentsDo()
+    {
+        for (const QString &text : {"Even or odd?"_s, "a  b "_s, "Extraordinary things that happen"_s,
+                                    QString::fromUtf8("水 fährt… “so”"), QString::fromUtf8("ש ab")}) {
+            for (const QSizeF &room : {QSizeF(400, 90), QSizeF(70, 200), QSizeF(12, 300)}) {
+                for (const char *family : {"Arial", "serif", "Sans Serif"}) {
+                    for (const Qt::Alignment alignment : {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignJustify}) {
+                        TextPlace place;
+                        place.isFitted = alignment == Qt::AlignHCenter;
+                        place.look.family = family;
+                        place.look.pixels = room.width() < 100 ? 13.3 : 42;
+                        place.look.alignment = alignment;
+                        const auto svgOf = [&](const QString &content) {
+                            return drawnSvg([&](Canvas &canvas) {
+                                canvas.addText(content, {{10, 10}, room}, {}, place);
+                            });
+                        };
+                        QCOMPARE(svgOf(text), svgOf("<span style='white-space:pre-wrap'>" + text + "</span>"));
+                    }
+                }
+            }
+        }
+    }
+
     // No smaller than can be read, cut where they don't fit, beside what is too small, and never one over the other.
     void placesLabels()
     {

@@ -62,6 +62,12 @@ QRectF ItemPictures::boxOf(const QString &type)
     return {QPointF((pageSize().width() - size.width()) / 2, (pageSize().height() - size.height()) / 2), size};
 }
 
+void ItemPictures::paint(QPainter &painter, const QRectF &area, const QJsonArray &items)
+{
+    m_lesson->items = items;
+    m_printer.paint(painter, m_pictures->picture(0), area);
+}
+
 ItemPicture ItemPictures::draw(const QJsonArray &items)
 {
     m_lesson->items = items;

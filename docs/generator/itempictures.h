@@ -2,6 +2,7 @@
 #ifndef ITEMPICTURES_H
 #define ITEMPICTURES_H
 
+#include "render/pageprinter.h"
 #include "render/picturestore.h"
 #include "render/slidepictures.h"
 
@@ -36,11 +37,14 @@ public:
 
     //! Throws LessonError.
     ItemPicture draw(const QJsonArray &items);
+    //! The same as pixels.
+    void paint(QPainter &painter, const QRectF &area, const QJsonArray &items);
 
 private:
     class Lesson;
     std::unique_ptr<Lesson> m_lesson;
     lessonhost::PictureStore m_store;
+    lessonhost::PagePrinter m_printer{m_store};
     std::unique_ptr<lessonhost::SlidePictures> m_pictures;
 };
 

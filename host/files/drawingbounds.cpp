@@ -65,13 +65,22 @@ const QRegularExpression &numberPattern()
     return pattern;
 }
 
-// False for what can't hold a number out of bounds, which is most.
+// False for what can hold neither a number out of bounds nor one that is none, which is most.
 bool mayBeOutOfBounds(const QString &text)
 {
+    constexpr ushort lowerCase = 0x20;
     int digits = 0;
     for (const QChar c : text) {
-        digits = c.isDigit() ? digits + 1 : 0;
-        if (digits > 6 || c == QLatin1Char('e') || c == QLatin1Char('E')) {
+        const ushort code = c.unicode();
+        if (code >= '0' && code <= '9') {
+            ++digits;
+            if (digits > 6) {
+                return true;
+            }
+            continue;
+        }
+        digits = 0;
+        if ((code | lowerCase) == 'e' || (code | lowerCase) == 'n') {
             return true;
         }
     }
@@ -80,15 +89,12 @@ bool mayBeOutOfBounds(const QString &text)
 
 QString boundedNumbers(const QString &text)
 {
-    // Most texts have no such letter.
-    const bool mayBeNone = text.contains(QLatin1Char('n')) || text.contains(QLatin1Char('N'));
-    if (mayBeNone
-        && (text.contains(QLatin1String("nan"), Qt::CaseInsensitive)
-            || text.contains(QLatin1String("inf"), Qt::CaseInsensitive))) {
-        return {};
-    }
     if (!mayBeOutOfBounds(text)) {
         return text;
+    }
+    if (text.contains(QLatin1String("nan"), Qt::CaseInsensitive)
+        || text.contains(QLatin1String("inf"), Qt::CaseInsensitive)) {
+        return {};
     }
     QString bounded;
     int end = 0;
@@ -155,32 +161,64 @@ public:
     // dashes: the pattern that the element inherits.
     void apply(QDomElement element, QString dashes)
     {
-        const QDomNamedNodeMap attributes = element.attributes();
-        for (int i = attributes.size() - 1; i >= 0; --i) {
-            QDomAttr attribute = attributes.item(i).toAttr();
+        QVector<QDomAttr> attributes = attributesOf(element);
+        for (QDomAttr &attribute : attributes) {
             if (attribute.name() == styleName) {
-                attribute.setValue(boundedStyle(element, attribute.value()));
+                boundStyle(element, attribute);
+                attributes = attributesOf(element);
+                break;
             }
         }
-        for (int i = attributes.size() - 1; i >= 0; --i) {
-            QDomAttr attribute = attributes.item(i).toAttr();
-            if (hasNumbers(attribute.name())) {
-                const QString value = boundedNumbers(attribute.value());
-                if (value.isEmpty()) {
-                    element.removeAttributeNode(attribute);
-                } else if (value != attribute.value()) {
-                    attribute.setValue(value);
-                }
+        for (QDomAttr &attribute : attributes) {
+            const QString name = attribute.name();
+            if (!hasNumbers(name)) {
+                continue;
+            }
+            const QString value = attribute.value();
+            const QString bounded = boundedNumbers(value);
+            if (bounded.isEmpty()) {
+                element.removeAttributeNode(attribute);
+            } else if (bounded != value) {
+                attribute.setValue(bounded);
+            }
+            if (name == dashesName) {
+                dashes = bounded.isEmpty() ? dashes : bounded;
             }
         }
-        dashes = element.attribute(dashesName, dashes);
-        countDashes(element, dashes);
+        if (!dashes.isEmpty()) {
+            countDashes(element, dashes);
+        }
         for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             apply(child, dashes);
         }
     }
 
 private:
+    static QVector<QDomAttr> attributesOf(const QDomElement &element)
+    {
+        QVector<QDomAttr> all;
+        const QDomNamedNodeMap attributes = element.attributes();
+        const int count = attributes.count();
+        all.reserve(count);
+        for (int i = 0; i < count; ++i) {
+            all.append(attributes.item(i).toAttr());
+        }
+        return all;
+    }
+
+    static void boundStyle(QDomElement &element, QDomAttr &attribute)
+    {
+        const QString style = attribute.value();
+        // Most only name fonts.
+        if (style.startsWith(QLatin1String("font-family:")) && !style.contains(QLatin1Char(';'))) {
+            return;
+        }
+        const QString bounded = boundedStyle(element, style);
+        if (bounded != style) {
+            attribute.setValue(bounded);
+        }
+    }
+
     // The dashes become an attribute.
     static QString boundedStyle(QDomElement &element, const QString &style)
     {

@@ -3,7 +3,6 @@
 
 #include <QDomElement>
 #include <QRegularExpression>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -25,6 +24,13 @@ public:
         }
     }
     void operator+=(QLatin1String text) { m_piece += text; }
+    void append(const QChar *letters, int count)
+    {
+        m_piece.append(letters, count);
+        if (m_piece.size() >= pieceSize) {
+            endPiece();
+        }
+    }
     void operator+=(const QString &text)
     {
         m_piece += text;
@@ -52,55 +58,77 @@ private:
     QByteArray m_bytes;
 };
 
-// Line breaks and tabs are only kept by parsers where they are written as references: all of them in attributes, in
-// texts the carriage return.
-template <typename Out> void appendEscaped(Out &out, const QString &text, bool isAttribute)
+// What stands for a character in a text; null for those that stand for themselves. Line breaks and tabs are only kept
+// by parsers where they are written as references: all of them in attributes, in texts the carriage return.
+const char *referenceTo(ushort code, bool isAttribute)
 {
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        switch (c.unicode()) {
-        case '&':
-            out += QLatin1String("&amp;");
-            break;
-        case '<':
-            out += QLatin1String("&lt;");
-            break;
-        case '>':
-            out += QLatin1String("&gt;");
-            break;
-        case '"':
-            out += isAttribute ? QStringLiteral("&quot;") : QStringLiteral("\"");
-            break;
-        case '\r':
-            out += QLatin1String("&#13;");
-            break;
-        case '\n':
-            out += isAttribute ? QStringLiteral("&#10;") : QStringLiteral("\n");
-            break;
-        case '\t':
-            out += isAttribute ? QStringLiteral("&#9;") : QStringLiteral("\t");
-            break;
-        default:
-            if (isXmlCharacter(text, i)) {
-                out += c;
-            }
-        }
+    switch (code) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return isAttribute ? "&quot;" : nullptr;
+    case '\r':
+        return "&#13;";
+    case '\n':
+        return isAttribute ? "&#10;" : nullptr;
+    case '\t':
+        return isAttribute ? "&#9;" : nullptr;
+    default:
+        return nullptr;
     }
 }
 
-QStringList orderedNames(const QDomNamedNodeMap &attributes)
+// Plain letters, which are most, go into the text in one piece.
+template <typename Out> void appendEscaped(Out &out, const QString &text, bool isAttribute)
 {
-    QStringList names;
-    for (int i = 0; i < attributes.count(); ++i) {
-        names.append(attributes.item(i).nodeName());
+    int start = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        const ushort code = text.at(i).unicode();
+        constexpr ushort firstSurrogate = 0xd800;
+        if (code >= ' ' && code < firstSurrogate && code != '&' && code != '<' && code != '>' && code != '"') {
+            continue;
+        }
+        const char *const reference = referenceTo(code, isAttribute);
+        if (!reference && isXmlCharacter(text, i)) {
+            continue;
+        }
+        out.append(text.constData() + start, i - start);
+        if (reference) {
+            out += QLatin1String(reference);
+        }
+        start = i + 1;
     }
-    const auto rank = [](const QString &name) {
-        return name == QLatin1String("id") ? 0 : name == QLatin1String("type") ? 1 : 2;
-    };
-    std::sort(names.begin(), names.end(), [&rank](const QString &one, const QString &other) {
-        return std::make_pair(rank(one), one) < std::make_pair(rank(other), other);
+    out.append(text.constData() + start, text.size() - start);
+}
+
+QVector<XmlAttribute> attributesOf(const QDomElement &element)
+{
+    QVector<XmlAttribute> all;
+    const QDomNamedNodeMap attributes = element.attributes();
+    const int count = attributes.count();
+    all.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        const QDomNode attribute = attributes.item(i);
+        all.append({attribute.nodeName(), attribute.nodeValue()});
+    }
+    return all;
+}
+
+int rankOf(const QString &name)
+{
+    return name == QLatin1String("id") ? 0 : name == QLatin1String("type") ? 1 : 2;
+}
+
+void sortByName(QVector<XmlAttribute> &attributes)
+{
+    std::sort(attributes.begin(), attributes.end(), [](const XmlAttribute &one, const XmlAttribute &other) {
+        const int difference = rankOf(one.name) - rankOf(other.name);
+        return difference == 0 ? one.name < other.name : difference < 0;
     });
-    return names;
 }
 
 bool holdsText(const QDomElement &element)
@@ -125,14 +153,22 @@ template <typename Out> void startLine(Out &out, int depth)
 }
 
 // depth below 0: no line breaks, as within an element that holds text.
-template <typename Out> void appendElement(Out &out, const QDomElement &element, int depth)
+template <typename Out>
+void appendElement(Out &out, const QDomElement &element, int depth, const XmlAttributeChange &change = {})
 {
-    out += QLatin1Char('<') + element.tagName();
-    const QDomNamedNodeMap attributes = element.attributes();
-    const QStringList names = orderedNames(attributes);
-    for (const QString &name : names) {
-        out += QLatin1Char(' ') + name + QLatin1String("=\"");
-        appendEscaped(out, attributes.namedItem(name).nodeValue(), true);
+    const QString tag = element.tagName();
+    out += QLatin1Char('<');
+    out += tag;
+    QVector<XmlAttribute> attributes = attributesOf(element);
+    if (change) {
+        change(element, attributes);
+    }
+    sortByName(attributes);
+    for (const XmlAttribute &attribute : qAsConst(attributes)) {
+        out += QLatin1Char(' ');
+        out += attribute.name;
+        out += QLatin1String("=\"");
+        appendEscaped(out, attribute.value, true);
         out += QLatin1Char('"');
     }
     if (!element.hasChildNodes()) {
@@ -140,7 +176,7 @@ template <typename Out> void appendElement(Out &out, const QDomElement &element,
         return;
     }
     out += QLatin1Char('>');
-    const int childDepth = depth < 0 || holdsText(element) || keepsBlanks(element.tagName()) ? -1 : depth + 1;
+    const int childDepth = depth < 0 || holdsText(element) || keepsBlanks(tag) ? -1 : depth + 1;
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
         if (child.isCDATASection()) {
             out += QLatin1String("<![CDATA[") + escapedForCData(child.nodeValue()) + QLatin1String("]]>");
@@ -150,13 +186,15 @@ template <typename Out> void appendElement(Out &out, const QDomElement &element,
             if (childDepth >= 0) {
                 startLine(out, childDepth);
             }
-            appendElement(out, child.toElement(), childDepth);
+            appendElement(out, child.toElement(), childDepth, change);
         }
     }
     if (childDepth >= 0) {
         startLine(out, depth);
     }
-    out += QLatin1String("</") + element.tagName() + QLatin1Char('>');
+    out += QLatin1String("</");
+    out += tag;
+    out += QLatin1Char('>');
 }
 
 } // namespace
@@ -193,8 +231,13 @@ QByteArray xmlLines(const QDomElement &element, int depth)
 
 QString xmlNodeText(const QDomElement &element)
 {
+    return xmlNodeText(element, {});
+}
+
+QString xmlNodeText(const QDomElement &element, const XmlAttributeChange &change)
+{
     QString out;
-    appendElement(out, element, -1);
+    appendElement(out, element, -1, change);
     return out;
 }
 

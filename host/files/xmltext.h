@@ -5,6 +5,9 @@
 #include <QByteArray>
 #include <QDomNode>
 #include <QString>
+#include <QVector>
+
+#include <functional>
 
 namespace lessonhost {
 
@@ -16,6 +19,16 @@ QByteArray xmlDocumentText(const QDomElement &root);
 //! An element as it stands in xmlDocumentText() below so many others: the line break and blanks before it, and itself.
 QByteArray xmlLines(const QDomElement &element, int depth);
 QString xmlNodeText(const QDomElement &element);
+
+struct XmlAttribute
+{
+    QString name;
+    QString value;
+};
+//! Changes attributes on their way into a text, while the element keeps its own.
+using XmlAttributeChange = std::function<void(const QDomElement &element, QVector<XmlAttribute> &attributes)>;
+//! The same with changes, for which no copy of the tree is needed.
+QString xmlNodeText(const QDomElement &element, const XmlAttributeChange &change);
 
 //! For pasting into the text of an element or an attribute between double quotes. What XML can't hold is left out.
 QString escapedForXml(const QString &text);

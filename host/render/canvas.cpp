@@ -48,7 +48,7 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
     if (place.isFitted) {
         const double smallest = qMin(1.0, m_svg.readableSize() / laidOut.smallestPixels());
         const auto isTooLarge = [&] {
-            return laidOut.size().height() * scale > room.height() || laidOut.idealWidth() * scale > room.width();
+            return laidOut.height() * scale > room.height() || laidOut.idealWidth() * scale > room.width();
         };
         while (isTooLarge()) {
             // At once as small as a word needs that is longer than a line.
@@ -59,7 +59,7 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
             laidOut.setWidth(room.width() / scale);
         }
     }
-    const double space = place.isInMiddle ? room.height() - laidOut.size().height() * scale : 0;
+    const double space = place.isInMiddle ? room.height() - laidOut.height() * scale : 0;
     const QTransform inArea = QTransform::fromScale(scale, scale)
         * QTransform::fromTranslate(onPage.box.left(), onPage.box.top() + qMax(0.0, space / 2));
     laidOut.draw(m_svg.addGroup(inArea * (isUpright ? turnAbout(onPage.box.center(), onPage.angle) : placed)));
@@ -94,6 +94,12 @@ bool Canvas::addPicture(const QString &reference, const QRectF &box, const QTran
     const QString file = m_files.find(reference);
     const PlainSvg::Scope scope(m_svg, placed);
     return !file.isEmpty() && m_svg.addPicture(file, box);
+}
+
+QDomElement Canvas::addTexture(const QPainterPath &area, const QString &reference, const QColor &color)
+{
+    const QString file = m_files.find(reference);
+    return file.isEmpty() ? QDomElement() : m_svg.addTexture(area, file, color);
 }
 
 bool Canvas::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize)

@@ -59,6 +59,10 @@ public:
     //! hasn't, or that can't be drawn.
     bool addPicture(const QString &reference, const QRectF &box, const QTransform &placed = {});
 
+    //! An area that a picture of the lesson fills side by side, as PlainSvg::addTexture() does it. Null for a file that
+    //! the lesson hasn't, or that can't be drawn.
+    QDomElement addTexture(const QPainterPath &area, const QString &reference, const QColor &color);
+
     //! A drawing in svg in its proportion, from a box's upper left corner on. What it shows of pictures is in it or in
     //! the lesson. usualSize: of one that tells none. False for what is no drawing.
     bool addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize);

@@ -4,7 +4,9 @@
 #include "lesson/fontshere.h"
 #include "render/outline.h"
 
+#include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QTransform>
 
 namespace lessonhost {
@@ -58,20 +60,21 @@ double FormulaStyle::axis() const
     return axisHeight * size;
 }
 
-FormulaBoxes::FormulaBoxes()
-    : m_font(familyHere(formulaFamilies()))
-{
-    m_font.setPixelSize(int(formulaLetters));
-}
-
 FormulaBoxes::Measure FormulaBoxes::measure(const QString &text, bool isItalic, bool isBold)
 {
-    auto &known = m_known[2 * int(isItalic) + int(isBold)];
+    constexpr int mostKnown = 10000;
+    static QHash<QString, Measure> knownWords[4]; // upright and slanted, each light and bold
+    auto &known = knownWords[2 * int(isItalic) + int(isBold)];
     const auto seen = known.constFind(text);
     if (seen != known.constEnd()) {
         return *seen;
     }
-    QFont font = m_font;
+    if (known.size() >= mostKnown) {
+        known.clear();
+    }
+    static const QString family = familyHere(formulaFamilies());
+    QFont font(family);
+    font.setPixelSize(int(formulaLetters));
     font.setItalic(isItalic);
     font.setBold(isBold);
     const QFontMetricsF metrics(font);

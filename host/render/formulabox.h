@@ -5,8 +5,6 @@
 #include "render/formulasigns.h"
 
 #include <QColor>
-#include <QFont>
-#include <QHash>
 #include <QPainterPath>
 #include <QPointF>
 #include <QString>
@@ -74,15 +72,13 @@ struct FormulaStyle
 class FormulaBoxes
 {
 public:
-    FormulaBoxes();
-
-    FormulaBox word(const QString &text, const FormulaStyle &style, bool isItalic = false, bool isBold = false);
+    static FormulaBox word(const QString &text, const FormulaStyle &style, bool isItalic = false, bool isBold = false);
     //! In the middle of the axis.
-    FormulaBox largeSign(const QString &text, const FormulaStyle &style);
+    static FormulaBox largeSign(const QString &text, const FormulaStyle &style);
     //! As high as what it stands at.
-    FormulaBox fence(const QString &text, const FormulaBox &content, const FormulaStyle &style);
+    static FormulaBox fence(const QString &text, const FormulaBox &content, const FormulaStyle &style);
     //! A sign without the empty room between it and the line that it stands on.
-    FormulaBox onLine(const FormulaBox &sign);
+    static FormulaBox onLine(const FormulaBox &sign);
 
     static FormulaBox lines(const QPainterPath &path, const FormulaStyle &style);
     static FormulaBox rule(const QPointF &from, const QPointF &to, const FormulaStyle &style);
@@ -105,10 +101,7 @@ private:
         double xHeight = 0;
         QRectF ink;
     };
-    Measure measure(const QString &text, bool isItalic = false, bool isBold = false);
-
-    QFont m_font;
-    QHash<QString, Measure> m_known[4]; // upright and slanted, each light and bold
+    static Measure measure(const QString &text, bool isItalic = false, bool isBold = false);
 };
 
 } // namespace lessonhost

@@ -14,7 +14,8 @@ constexpr int mostElements = 5000;
 
 QString tagOf(const QDomElement &element)
 {
-    return element.tagName().section(QLatin1Char(':'), -1);
+    const QString tag = element.tagName();
+    return tag.mid(tag.lastIndexOf(QLatin1Char(':')) + 1);
 }
 
 QVector<QDomElement> childrenOf(const QDomElement &element)
@@ -122,9 +123,9 @@ private:
         const bool isItalic = variant.isEmpty() ? isVariable : variant.contains(QLatin1String("italic"));
         const bool isBold = variant.contains(QLatin1String("bold"));
         if (tagOf(element) == QLatin1String("mo") && isLargeSign(text)) {
-            return m_boxes.largeSign(text, style);
+            return FormulaBoxes::largeSign(text, style);
         }
-        return m_boxes.word(text, style, isItalic, isBold);
+        return FormulaBoxes::word(text, style, isItalic, isBold);
     }
 
     FormulaBox space(const QDomElement &element, const FormulaStyle &style)
@@ -161,7 +162,7 @@ private:
     {
         const QVector<QDomElement> children = childrenOf(element);
         if (children.isEmpty()) {
-            return m_boxes.word(element.text().simplified(), style);
+            return FormulaBoxes::word(element.text().simplified(), style);
         }
         QVector<FormulaBox> boxes;
         for (const QDomElement &child : children) {
@@ -199,7 +200,7 @@ private:
                 content.ascent = qMax(content.ascent, boxes.at(i).ascent);
                 content.descent = qMax(content.descent, boxes.at(i).descent);
             }
-            boxes[fenceAt] = m_boxes.fence(textOf(children.at(fenceAt)), content, style);
+            boxes[fenceAt] = FormulaBoxes::fence(textOf(children.at(fenceAt)), content, style);
         };
         QVector<int> open;
         for (int i = 0; i < children.size(); ++i) {
@@ -341,8 +342,8 @@ private:
         if (tag == QLatin1String("mo")) {
             const FormulaSpan *span = formulaSpan(textOf(element));
             const double shortest = 0.5 * style.size;
-            return m_boxes.onLine(span ? FormulaBoxes::spanning(*span, qMax(base.width, shortest), style)
-                                       : box(element, style));
+            return FormulaBoxes::onLine(span ? FormulaBoxes::spanning(*span, qMax(base.width, shortest), style)
+                                             : box(element, style));
         }
         const QVector<QDomElement> children = childrenOf(element);
         const bool isPair = (tag == QLatin1String("munder") || tag == QLatin1String("mover")) && children.size() == 2;
@@ -371,7 +372,7 @@ private:
         };
         for (int i = 0; i < children.size(); ++i) {
             if (i > 0 && !separators.isEmpty()) {
-                append(m_boxes.word(separators.mid(qMin(i, separators.size()) - 1, 1), style), 0.17 * style.size);
+                append(FormulaBoxes::word(separators.mid(qMin(i, separators.size()) - 1, 1), style), 0.17 * style.size);
             }
             append(box(children.at(i), style), 0);
         }
@@ -382,9 +383,9 @@ private:
             result.ascent = qMax(result.ascent, box.ascent);
             result.descent = qMax(result.descent, box.descent);
         };
-        put(formulaFence(open) ? m_boxes.fence(open, content, style) : m_boxes.word(open, style));
+        put(formulaFence(open) ? FormulaBoxes::fence(open, content, style) : FormulaBoxes::word(open, style));
         put(content);
-        put(formulaFence(close) ? m_boxes.fence(close, content, style) : m_boxes.word(close, style));
+        put(formulaFence(close) ? FormulaBoxes::fence(close, content, style) : FormulaBoxes::word(close, style));
         return result;
     }
 
@@ -544,7 +545,6 @@ private:
         }
     }
 
-    FormulaBoxes m_boxes;
     int m_elements = 0;
 };
 

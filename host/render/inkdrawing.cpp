@@ -232,12 +232,30 @@ bool drawLine(Canvas &canvas, const ItemView &item)
     return true;
 }
 
+// What is left of a stroke that shows a texture. False where that has to be found by painting it.
+bool addTexture(Canvas &canvas, const ItemView &item, const Ink &ink)
+{
+    std::optional<QPainterPath> area = areaOf(ink);
+    const bool isRubbed = isRubbedOut(canvas, item, boundsOf(ink));
+    if (isRubbed) {
+        area = canvas.rubbing().rest(*area, canvas.svg().transform());
+    }
+    QDomElement shape = area ? canvas.addTexture(*area, item.text(textureKey), ink.color) : QDomElement();
+    if (isRubbed && !shape.isNull()) {
+        shape.setAttribute(QStringLiteral("fill-rule"), QStringLiteral("evenodd"));
+    }
+    return !shape.isNull();
+}
+
 // The stroke shows its texture, side by side from the page's corner on.
 bool drawTexture(Canvas &canvas, const ItemView &item)
 {
     const Ink ink = inkOf(item);
+    if (!ink.track.points.isEmpty() && addTexture(canvas, item, ink)) {
+        return true;
+    }
     const QImage texture = canvas.picture(item.text(textureKey), mostPixelsOfTexture);
-    if (ink.track.points.isEmpty() || texture.isNull()) {
+    if (ink.track.points.isEmpty() || texture.isNull() || !canvas.rubbing().mayPaint()) {
         return drawLine(canvas, item);
     }
     const QPainterPath area = areaOf(ink);

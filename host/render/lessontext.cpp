@@ -55,6 +55,45 @@ QTextCharFormat prepared(QTextCharFormat format)
     return format;
 }
 
+// To find a font takes longer than to lay out a line, and copies share what was found. points: 0 for one of as many
+// pixels as single letters are drawn in.
+QFont fontOf(const QString &family, bool isBold, double points = 0)
+{
+    constexpr int mostFonts = 500;
+    static QHash<QPair<QString, double>, QFont> known[2]; // light and bold
+    auto &fonts = known[int(isBold)];
+    auto found = fonts.constFind({family, points});
+    if (found == fonts.cend()) {
+        if (fonts.size() >= mostFonts) {
+            fonts.clear();
+        }
+        QFont font;
+        font.setFamilies(families({family}));
+        if (points > 0) {
+            font.setPointSizeF(points);
+        } else {
+            font.setPixelSize(LetterLine::drawnSize);
+        }
+        font.setBold(isBold);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        found = fonts.insert({family, points}, font);
+    }
+    return *found;
+}
+
+constexpr Qt::Alignment placedAlignments = Qt::AlignHCenter | Qt::AlignRight | Qt::AlignJustify;
+
+void addLines(QVector<SvgPaintDevice::Line> &lines, const QTextLayout &layout, Qt::Alignment alignment,
+              const QPointF &offset)
+{
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const QRectF letters = line.naturalTextRect();
+        lines.append({offset.y() + line.y() + line.ascent(), offset.x() + letters.left(), offset.x() + letters.right(),
+                      alignment});
+    }
+}
+
 // The lines that begin elsewhere than at the left.
 QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
 {
@@ -64,55 +103,74 @@ QVector<SvgPaintDevice::Line> linesOf(const QTextDocument &document)
         const Qt::Alignment alignment = format.hasProperty(QTextFormat::BlockAlignment)
             ? format.alignment()
             : document.defaultTextOption().alignment();
-        if (!(alignment & (Qt::AlignHCenter | Qt::AlignRight | Qt::AlignJustify))
-            || block.textDirection() == Qt::RightToLeft) {
-            continue;
+        if ((alignment & placedAlignments) && block.textDirection() != Qt::RightToLeft) {
+            const QPointF offset = document.documentLayout()->blockBoundingRect(block).topLeft();
+            addLines(lines, *block.layout(), alignment, offset);
         }
-        const QPointF offset = document.documentLayout()->blockBoundingRect(block).topLeft();
-        for (int i = 0; i < block.layout()->lineCount(); ++i) {
-            const QTextLine line = block.layout()->lineAt(i);
-            const QRectF letters = line.naturalTextRect();
-            lines.append({offset.y() + line.y() + line.ascent(), offset.x() + letters.left(),
-                          offset.x() + letters.right(), alignment});
-        }
+    }
+    return lines;
+}
+
+QVector<SvgPaintDevice::Line> linesOf(const PlainParagraph &paragraph)
+{
+    QVector<SvgPaintDevice::Line> lines;
+    const Qt::Alignment alignment = paragraph.layout().textOption().alignment();
+    if (alignment & placedAlignments) {
+        addLines(lines, paragraph.layout(), alignment, {});
     }
     return lines;
 }
 
 } // namespace
 
-// A document that has a layout lays itself out after each change, so it gets one when nothing changes any more.
 LessonText::LessonText(const QString &text, double width, const TextLook &look, bool keepsWords)
     : m_color(look.color)
 {
-    QFont font;
-    font.setFamilies(families({look.family}));
-    font.setPointSizeF(qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints));
-    font.setBold(look.isBold);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    m_document.setDefaultFont(font);
-    m_document.setDocumentMargin(0);
-    m_document.setUseDesignMetrics(true);
-    QTextOption option = m_document.defaultTextOption();
+    const double points = qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints);
+    const QFont font = fontOf(look.family, look.isBold, points);
+    QTextOption option;
     option.setAlignment(look.alignment);
     option.setWrapMode(keepsWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_document.setDefaultTextOption(option);
-    if (text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'))) {
-        m_document.setLessonHtml(text);
-    } else {
-        m_document.setPlainText(text);
-    }
-    boundText(m_document);
-    prepareFonts();
-    setWidth(width);
-    QAbstractTextDocumentLayout *const layout = m_document.documentLayout();
+    option.setUseDesignMetrics(true);
     if (!QCoreApplication::testAttribute(Qt::AA_Use96Dpi)) {
         constexpr double inchesInMeter = 1 / 0.0254;
         m_screen = QImage(1, 1, QImage::Format_RGB32);
         m_screen.setDotsPerMeterX(qRound(SvgPaintDevice::dotsPerInch * inchesInMeter));
         m_screen.setDotsPerMeterY(m_screen.dotsPerMeterX());
-        layout->setPaintDevice(&m_screen);
-        setWidth(width);
+    }
+    if (PlainParagraph::canHold(text)) {
+        m_paragraph = std::make_unique<PlainParagraph>(text, font, option, m_screen.isNull() ? nullptr : &m_screen);
+        m_smallestPixels = pixelsOf(font);
+    } else {
+        makeDocument(text, font, option);
+    }
+    setWidth(width);
+}
+
+// A document that has a layout lays itself out after each change, so it gets one when nothing changes any more.
+void LessonText::makeDocument(const QString &text, const QFont &font, const QTextOption &option)
+{
+    m_document = std::make_unique<ClosedTextDocument>();
+    m_document->setDefaultFont(font);
+    m_document->setDocumentMargin(0);
+    m_document->setUseDesignMetrics(true);
+    QTextOption own = m_document->defaultTextOption();
+    own.setAlignment(option.alignment());
+    own.setWrapMode(option.wrapMode());
+    m_document->setDefaultTextOption(own);
+    if (text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'))) {
+        m_document->setLessonHtml(text);
+    } else {
+        m_document->setPlainText(text);
+    }
+    boundText(*m_document);
+    prepareFonts();
+    // Letters that were measured are drawn from what is known of them.
+    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
+        block.layout()->setCacheEnabled(true);
+    }
+    if (!m_screen.isNull()) {
+        m_document->documentLayout()->setPaintDevice(&m_screen);
     }
 }
 
@@ -125,16 +183,17 @@ void LessonText::prepareFonts()
         QTextCharFormat format;
     };
     QVector<Part> parts;
-    m_smallestPixels = pixelsOf(m_document.defaultFont());
-    QTextCursor cursor(&m_document);
-    for (QTextBlock block = m_document.begin(); block.isValid(); block = block.next()) {
+    m_smallestPixels = pixelsOf(m_document->defaultFont());
+    QTextCursor cursor(m_document.get());
+    cursor.beginEditBlock(); // a cursor finds its place in a line otherwise, wherever it goes
+    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const QTextCharFormat format = prepared(fragment.charFormat());
             if (format != fragment.charFormat()) {
                 parts.append({fragment.position(), fragment.length(), format});
             }
-            m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document.defaultFont())));
+            m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document->defaultFont())));
         }
         const QTextCharFormat blockFormat = prepared(block.charFormat());
         if (blockFormat != block.charFormat()) {
@@ -147,35 +206,52 @@ void LessonText::prepareFonts()
         cursor.setPosition(part.position + part.length, QTextCursor::KeepAnchor);
         cursor.setCharFormat(part.format);
     }
+    cursor.endEditBlock();
 }
 
 void LessonText::setWidth(double width)
 {
-    m_document.setTextWidth(qMax(1.0, width));
+    const double least = qMax(1.0, width);
+    if (m_paragraph && !m_paragraph->setWidth(least)) {
+        const QTextLayout &layout = m_paragraph->layout();
+        makeDocument(layout.text(), layout.font(), layout.textOption());
+        m_paragraph.reset();
+    }
+    if (m_document) {
+        m_document->setTextWidth(least);
+    }
 }
 
 void LessonText::draw(const QDomElement &group)
 {
     SvgPaintDevice device(group);
-    device.setLines(linesOf(m_document));
+    device.setLines(m_document ? linesOf(*m_document) : linesOf(*m_paragraph));
     QPainter painter(&device);
+    if (m_paragraph) {
+        painter.setPen(m_color);
+        m_paragraph->draw(painter);
+        return;
+    }
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, m_color);
-    m_document.documentLayout()->draw(&painter, context);
+    m_document->documentLayout()->draw(&painter, context);
 }
 
 // Letters have the same proportions in every size, so they are painted in one that can be measured well.
 LetterLine::LetterLine(const QString &text, const TextLook &look)
     : m_text(text)
     , m_color(look.color)
+    , m_font(fontOf(look.family, look.isBold))
 {
-    m_font.setFamilies(families({look.family}));
-    m_font.setPixelSize(drawnSize);
-    m_font.setBold(look.isBold);
-    m_font.setHintingPreference(QFont::PreferNoHinting);
     const QFontMetricsF metrics(m_font);
     m_width = metrics.horizontalAdvance(text) / drawnSize;
     m_xHeight = metrics.xHeight() / drawnSize;
+}
+
+QRectF LetterLine::ink() const
+{
+    const QRectF ink = QFontMetricsF(m_font).tightBoundingRect(m_text);
+    return {ink.topLeft() / drawnSize, ink.size() / drawnSize};
 }
 
 void LetterLine::draw(const QDomElement &group) const

@@ -4,12 +4,16 @@
 
 #include "lesson/closedtext.h"
 #include "lesson/fontvalues.h"
+#include "render/plainparagraph.h"
 
 #include <QColor>
 #include <QDomElement>
 #include <QFont>
 #include <QImage>
-#include <QSizeF>
+#include <QRectF>
+#include <QTextOption>
+
+#include <memory>
 
 namespace lessonhost {
 
@@ -35,14 +39,14 @@ public:
     //! width: in pixels; lines are broken to be no longer, between words or, unless they are to stay whole, within.
     LessonText(const QString &text, double width, const TextLook &look, bool keepsWords);
 
-    bool isEmpty() const { return m_document.isEmpty(); }
+    bool isEmpty() const { return m_document && m_document->isEmpty(); }
 
     void setWidth(double width);
 
-    //! Of all lines. A word that is longer than the width, or a table, makes it wider.
-    QSizeF size() const { return m_document.size(); }
-    //! The width of the longest line.
-    double idealWidth() const { return m_document.idealWidth(); }
+    //! Of all lines.
+    double height() const { return m_document ? m_document->size().height() : m_paragraph->height(); }
+    //! The width of the longest line. A word that is longer than the width, or a table, makes it wider.
+    double idealWidth() const { return m_document ? m_document->idealWidth() : m_paragraph->width(); }
 
     //! The size of its smallest letters, sub- and superscript aside.
     double smallestPixels() const { return m_smallestPixels; }
@@ -51,10 +55,12 @@ public:
     void draw(const QDomElement &group);
 
 private:
+    void makeDocument(const QString &text, const QFont &font, const QTextOption &option);
     void prepareFonts();
 
     QImage m_screen; // tells how large a point is, where the application doesn't
-    ClosedTextDocument m_document;
+    std::unique_ptr<ClosedTextDocument> m_document; // null for a plain paragraph
+    std::unique_ptr<PlainParagraph> m_paragraph;
     QColor m_color;
     double m_smallestPixels = 0;
 };
@@ -69,6 +75,8 @@ public:
 
     //! Of a size of 1.
     double width() const { return m_width; }
+    //! What is inked of it, from where it begins on its line, of a size of 1.
+    QRectF ink() const;
     //! How high its small letters are, of a size of 1.
     double xHeight() const { return m_xHeight; }
 

@@ -61,9 +61,11 @@ int PictureStore::indexOf(const QString &name) const
 
 QString PictureStore::pictureOf(const QDomElement &element) const
 {
+    if (element.tagName() != QLatin1String("image")) {
+        return {};
+    }
     const QString name = element.attribute(reference).mid(1);
-    const bool isPicture = element.tagName() == QLatin1String("image") && name.startsWith(namePrefix);
-    return isPicture && indexOf(name) < m_entries.size() ? name : QString();
+    return name.startsWith(namePrefix) && indexOf(name) < m_entries.size() ? name : QString();
 }
 
 ShownPicture PictureStore::shown(const QString &name) const
@@ -98,22 +100,27 @@ QByteArray PictureStore::drawing(const QString &name) const
     return xmlNodeText(svg).toUtf8();
 }
 
-QByteArray PictureStore::text(const QDomElement &svg) const
+QByteArray PictureStore::text(const QDomElement &svg, const QHash<QString, QString> &attributes) const
 {
-    const QDomElement copy = svg.cloneNode().toElement();
     QHash<QString, QString> addresses; // by name
-    for (QDomElement &image : imagesIn(copy)) {
-        const QString name = pictureOf(image);
-        if (name.isEmpty()) {
-            continue;
-        }
+    const auto addressOfPicture = [&](const QString &name) {
         auto address = addresses.constFind(name);
         if (address == addresses.constEnd()) {
             address = addresses.insert(name, addressOf(shown(name)));
         }
-        image.setAttribute(reference, *address);
-    }
-    return xmlNodeText(copy).toUtf8();
+        return *address;
+    };
+    const auto change = [&](const QDomElement &element, QVector<XmlAttribute> &own) {
+        const QString name = pictureOf(element);
+        for (XmlAttribute &attribute : own) {
+            if (!name.isEmpty() && attribute.name == reference) {
+                attribute.value = addressOfPicture(name);
+            } else if (!attributes.isEmpty() && element == svg) {
+                attribute.value = attributes.value(attribute.name, attribute.value);
+            }
+        }
+    };
+    return xmlNodeText(svg, change).toUtf8();
 }
 
 QVector<QDomElement> imagesIn(const QDomElement &svg)

@@ -35,8 +35,8 @@ public:
     //! What it is where isDrawing() says so, as an svg that leads nowhere and fills whatever it is stretched to.
     QByteArray drawing(const QString &name) const;
 
-    //! A drawing as a text that needs nothing else.
-    QByteArray text(const QDomElement &svg) const;
+    //! A drawing as a text that needs nothing else. attributes: of the drawing itself, in place of its own.
+    QByteArray text(const QDomElement &svg, const QHash<QString, QString> &attributes = {}) const;
 
 private:
     struct Entry

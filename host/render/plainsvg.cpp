@@ -317,6 +317,40 @@ QDomElement PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
     return shape;
 }
 
+QDomElement PlainSvg::addTexture(const QPainterPath &area, const QString &file, const QColor &color)
+{
+    auto pattern = m_textures.constFind(file);
+    if (pattern == m_textures.constEnd()) {
+        const QString picture = m_pictures.add(file, m_pixels);
+        if (picture.isEmpty()) {
+            return {};
+        }
+        const QSize size = m_pictures.size(picture);
+        pattern = m_textures.insert(file, QString(m_names + QLatin1Char('t') + QString::number(m_textures.size() + 1)));
+        QDomElement definitions = m_document.createElement(QStringLiteral("defs"));
+        m_svg.insertBefore(definitions, m_svg.firstChild());
+        QDomElement tile = m_document.createElement(QStringLiteral("pattern"));
+        definitions.appendChild(tile);
+        tile.setAttribute(QStringLiteral("id"), *pattern);
+        tile.setAttribute(QStringLiteral("patternUnits"), QStringLiteral("userSpaceOnUse"));
+        QDomElement image = m_document.createElement(QStringLiteral("image"));
+        tile.appendChild(image);
+        for (QDomElement element : {tile, image}) {
+            element.setAttribute(QStringLiteral("width"), QString::number(size.width()));
+            element.setAttribute(QStringLiteral("height"), QString::number(size.height()));
+        }
+        image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
+        image.setAttribute(QStringLiteral("xlink:href"), QString(QLatin1Char('#') + picture));
+    }
+    SvgPaint paint;
+    paint.fill = color;
+    paint.line = Qt::transparent;
+    QDomElement shape = addPath(area, paint);
+    shape.setAttribute(QStringLiteral("fill"),
+                       QString(QLatin1String("url(#") + *pattern + QLatin1String(") ") + color.name()));
+    return shape;
+}
+
 QDomElement PlainSvg::addRectangle(const QRectF &box, const QColor &line, const QColor &fill)
 {
     QDomElement rectangle = append(QStringLiteral("rect"));
@@ -450,10 +484,10 @@ void PlainSvg::addMarks(const QVector<SvgMark> &marks, double pixelSize, const Q
         element.setAttribute(QStringLiteral("x"), drawnNumber(mark.middle.x()));
         element.setAttribute(QStringLiteral("y"), drawnNumber(mark.middle.y() + pixelSize * 0.36));
         if (qAbs(mark.turn) > 0.05) {
-            element.setAttribute(
-                QStringLiteral("transform"),
-                QStringLiteral("rotate(%1 %2 %3)")
-                    .arg(drawnNumber(mark.turn), drawnNumber(mark.middle.x()), drawnNumber(mark.middle.y())));
+            element.setAttribute(QStringLiteral("transform"),
+                                 QString(QLatin1String("rotate(") + drawnNumber(mark.turn) + QLatin1Char(' ')
+                                         + drawnNumber(mark.middle.x()) + QLatin1Char(' ')
+                                         + drawnNumber(mark.middle.y()) + QLatin1Char(')')));
         }
         element.appendChild(m_document.createTextNode(mark.text));
         group.appendChild(element);

@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QDomDocument>
+#include <QHash>
 #include <QJsonObject>
 #include <QLineF>
 #include <QPainterPath>
@@ -110,6 +111,11 @@ public:
     //! With round corners and no caps, so that no tip of a line reaches further than its width does.
     QDomElement addPath(const QPainterPath &path, const SvgPaint &paint);
 
+    //! An area that shows a picture in its own size, side by side from the corner of the page on; the picture stands in
+    //! the page once. color: what is seen where patterns aren't known; its alpha counts everywhere. Null for a file
+    //! that can't be drawn.
+    QDomElement addTexture(const QPainterPath &area, const QString &file, const QColor &color);
+
     QDomElement addRectangle(const QRectF &box, const QColor &line, const QColor &fill);
     void addLine(const QLineF &line, const QColor &color, double width);
     //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
@@ -143,6 +149,7 @@ private:
     QDomElement m_scope; // holds what was added last under a transform
     QTransform m_scopeTransform;
     InnerSvgBudget m_innerBudget;
+    QHash<QString, QString> m_textures; // patterns by file
     QString m_names;
     int m_drawings = 0;
 };

@@ -98,23 +98,24 @@ void SlideFiles::refuseHuge(const SlidePicture &picture, const QSize &size) cons
 
 QByteArray SlideFiles::svgOf(const SlidePicture &picture) const
 {
-    QDomElement svg = picture.svg.documentElement().cloneNode().toElement();
     const PageFrame frame = m_settings.size.frameOf(picture.size);
-    svg.setAttribute(QStringLiteral("width"), coordinate(frame.size.width()));
-    svg.setAttribute(QStringLiteral("height"), coordinate(frame.size.height()));
-    if (m_settings.size.isFilled) {
-        const double factor = picture.size.width() / frame.page.width();
-        const QRectF seen(-frame.page.topLeft() * factor, frame.size * factor);
-        const QStringList box{coordinate(seen.x()), coordinate(seen.y()), coordinate(seen.width()),
-                              coordinate(seen.height())};
-        svg.setAttribute(QStringLiteral("viewBox"), box.join(QLatin1Char(' ')));
-        QDomElement paper = svg.firstChildElement(QStringLiteral("rect"));
-        const char *const names[] = {"x", "y", "width", "height"};
-        for (int i = 0; i < box.size() && !paper.isNull(); ++i) {
-            paper.setAttribute(QLatin1String(names[i]), box.at(i));
-        }
+    QHash<QString, QString> size{{QStringLiteral("width"), coordinate(frame.size.width())},
+                                 {QStringLiteral("height"), coordinate(frame.size.height())}};
+    if (!m_settings.size.isFilled) {
+        return m_store.text(picture.svg.documentElement(), size);
     }
-    return m_store.text(svg);
+    const double factor = picture.size.width() / frame.page.width();
+    const QRectF seen(-frame.page.topLeft() * factor, frame.size * factor);
+    const QStringList box{coordinate(seen.x()), coordinate(seen.y()), coordinate(seen.width()),
+                          coordinate(seen.height())};
+    size.insert(QStringLiteral("viewBox"), box.join(QLatin1Char(' ')));
+    const QDomElement svg = picture.svg.documentElement().cloneNode().toElement();
+    QDomElement paper = svg.firstChildElement(QStringLiteral("rect"));
+    const char *const names[] = {"x", "y", "width", "height"};
+    for (int i = 0; i < box.size() && !paper.isNull(); ++i) {
+        paper.setAttribute(QLatin1String(names[i]), box.at(i));
+    }
+    return m_store.text(svg, size);
 }
 
 void SlideFiles::draw(const SlidePicture &picture, OutputFile &file)

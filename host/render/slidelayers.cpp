@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "render/slidelayers.h"
 
+#include "lesson/planegeometry.h"
 #include "render/picturestore.h"
+#include "svg/svgpath.h"
 #include "svg/svgvalues.h"
+
+#include <QHash>
+#include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 #include <tuple>
@@ -10,6 +16,8 @@
 namespace lessonhost {
 
 namespace {
+
+const QLatin1String fillByName("url(#");
 
 double numberOf(const QDomElement &element, const char *name, double otherwise)
 {
@@ -86,6 +94,10 @@ private:
                 picture.transform *= toPage;
                 picture.opacity *= opacity;
                 m_layers.append(SlideLayer{{}, {}, {}, picture});
+            } else if (e.tagName() == QLatin1String("defs")) {
+                findTextures(e);
+            } else if (isTextured(e)) {
+                paintTexture(e, toPage, opacity);
             } else if (isOpenGroup(e) && stretches(transformOf(e)) && holdsTexts(e)) {
                 walkStretched(e, transformOf(e) * toPage, opacityOf(e) * opacity);
             } else if (isOpenGroup(e) && !imagesIn(e).isEmpty()) {
@@ -96,6 +108,67 @@ private:
                 innermost().appendChild(e.cloneNode());
             }
         }
+    }
+
+    void findTextures(const QDomElement &definitions)
+    {
+        for (QDomElement e = definitions.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+            m_textures.insert(e.attribute(QStringLiteral("id")), m_store.pictureOf(e.firstChildElement()));
+        }
+    }
+
+    static bool isTextured(const QDomElement &element)
+    {
+        return element.tagName() == QLatin1String("path")
+            && element.attribute(QStringLiteral("fill")).startsWith(fillByName);
+    }
+
+    QImage imageOf(const QString &picture)
+    {
+        auto known = m_images.constFind(picture);
+        if (known == m_images.constEnd()) {
+            known = m_images.insert(picture, m_store.image(picture));
+        }
+        return *known;
+    }
+
+    // As a picture as sharp as the page, or in the one colour that is told beside the texture if there were too many.
+    void paintTexture(const QDomElement &element, const QTransform &toPage, double opacity)
+    {
+        const QString fill = element.attribute(QStringLiteral("fill"));
+        const int nameEnd = fill.indexOf(QLatin1Char(')'));
+        const QString name = m_textures.value(fill.mid(fillByName.size(), nameEnd - fillByName.size()));
+        QPainterPath area = svgPath(element.attribute(QStringLiteral("d"))).value_or(QPainterPath());
+        const QRectF shown = area.boundingRect() & toPage.inverted().mapRect(m_page);
+        const double fitting = std::sqrt(m_pixels.shareFor(1) / qMax(1e-9, shown.width() * shown.height()));
+        const QSize size = (shown.size() * qMin(meanScale(toPage), fitting)).toSize();
+        if (shown.isEmpty()) {
+            return;
+        }
+        const QImage texture = name.isEmpty() || size.isEmpty() ? QImage() : imageOf(name);
+        if (texture.isNull()) {
+            QDomElement plain = element.cloneNode().toElement();
+            plain.setAttribute(QStringLiteral("fill"), fill.mid(nameEnd + 1).trimmed());
+            innermost().appendChild(plain);
+            return;
+        }
+        const bool isEvenOdd = element.attribute(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
+        area.setFillRule(isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+        PlacedPicture picture;
+        picture.image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        picture.image.fill(Qt::transparent);
+        QPainter painter(&picture.image);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.scale(size.width() / shown.width(), size.height() / shown.height());
+        painter.translate(-shown.topLeft());
+        painter.fillPath(area, QBrush(texture));
+        painter.end();
+        m_pixels.take(1, qint64(size.width()) * size.height());
+        picture.box = shown;
+        picture.transform = toPage;
+        picture.opacity = qBound(0.0, numberOf(element, "fill-opacity", 1), 1.0) * opacity;
+        endPart();
+        m_layers.append(SlideLayer{{}, {}, {}, picture});
     }
 
     // A part of its own, which shows as much as the page does.
@@ -158,6 +231,9 @@ private:
     }
 
     const PictureStore &m_store;
+    PixelBudget m_pixels; // of what is painted
+    QHash<QString, QString> m_textures; // pictures by the names of patterns
+    QHash<QString, QImage> m_images; // of textures
     QRectF m_page;
     QVector<QDomElement> m_around; // the drawing and the groups down to where it is
     QVector<QDomElement> m_part; // copies of them

@@ -25,10 +25,8 @@ QString factor(double value)
     return QString::number(qAbs(value) < 1 ? std::round(value * scale) / scale : value, 'g', 6);
 }
 
-} // namespace
-
 // Two digits behind the point. A drawing is mostly numbers, and these are quick to write.
-QString drawnNumber(double value)
+void appendNumber(QString &text, double value)
 {
     constexpr int mostLetters = 16;
     QChar letters[mostLetters];
@@ -44,7 +42,16 @@ QString drawnNumber(double value)
     if (hundredths < 0) {
         letters[--first] = QLatin1Char('-');
     }
-    return QString(letters + first, mostLetters - first);
+    text.append(letters + first, mostLetters - first);
+}
+
+} // namespace
+
+QString drawnNumber(double value)
+{
+    QString text;
+    appendNumber(text, value);
+    return text;
 }
 
 QString drawnTransform(const QTransform &transform)
@@ -59,13 +66,17 @@ QString drawnTransform(const QTransform &transform)
 
 QString drawnPath(const QPainterPath &path)
 {
+    constexpr int usualLetters = 16; // of a point
     QString data;
+    data.reserve(path.elementCount() * usualLetters);
     QPointF start;
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element element = path.elementAt(i);
         start = element.isMoveTo() ? QPointF(element) : start;
-        const char *letter = element.isMoveTo() ? "M" : element.isLineTo() ? "L" : element.isCurveTo() ? "C" : " ";
-        data += QLatin1String(letter) + drawnNumber(element.x) + QLatin1Char(' ') + drawnNumber(element.y);
+        data += QLatin1Char(element.isMoveTo() ? 'M' : element.isLineTo() ? 'L' : element.isCurveTo() ? 'C' : ' ');
+        appendNumber(data, element.x);
+        data += QLatin1Char(' ');
+        appendNumber(data, element.y);
         const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
         if (isLast && !element.isMoveTo() && QPointF(element) == start) {
             data += QLatin1Char('Z');
