@@ -91,11 +91,30 @@ private slots:
             "{'Type':'ZQStrokesDeletePixel','XY':'70,0,0,99','Width':'20'}",
             "<pattern|patternUnits=\"userSpaceOnUse\"|xlink:href=\"data:image/|fill=\"url(#s1t1) #ff0000\" "
             "fill-rule=\"evenodd\"|fill-opacity=\"0.20\"|60.00 40.00|!s1t2|!\"#picture");
+        row("pictures in a text",
+            "{'Type':'ZQTextBoard','BoundingBox':'0,0,300,90','TextHtml':'<p>a<img src=`a.svg` width=`30` height=`20`>"
+            "<img src=`file:///etc/hosts`></p>'}",
+            "height=\"20.00\" preserveAspectRatio=\"none\" width=\"30.00\"|data:image/|!hosts");
+        row("word art", "{'Type':'ZQCommonYishuzi','BoundingBox':'0,0,200,90','Text':'Ice','Color':'#ff00ff00'}",
+            "fill=\"#00ff00\"|>Ice<");
+        row("word art without words", "{'Type':'ZQCommonYishuzi','BoundingBox':'0,0,200,90'}", ">Word art<");
+        row("shape without corners", "{'Type':'ZQBasicNormalItem','BoundingBox':'5,6,20,90','LineColor':'#ff00ff00'}",
+            "M5.00 6.00L20.00 6.00L20.00 90.00L5.00 90.00|stroke=\"#00ff00\"");
+        row("size of an angle",
+            "{'Type':'ZQMath2DAngle','BoundingBox':'0,0,50,50','Control':'0,50,50,50','ArtObj_Display':'1'},"
+            "{'Type':'ZQMath2DAngle','Control':'90,0,90,90','Matrix':'1,0,0,1,9,9'},"
+            "{'Type':'ZQMath2DGeoTriangle','BoundingBox':'0,0,100,100','Control':'0,0,100,100,0,100',"
+            "'ArtObj_DisplayAngle':'1'}",
+            ">45\u00b0<|>90\u00b0<");
         row("texture that is missing", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','DrawTexture':'b.svg'}", "<path");
         row("stamps", "{'Type':'ZQStrokesStamp','XY':'50,50,80,10','Width':'30','Stamp':'a.svg','DrawTexture':'a.svg'}",
             "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/");
         row("stamp in a box", "{'Type':'ZQStrokesStamp','BoundingBox':'5,6,12,16','Stamp':'a.svg'}",
             "height=\"10.00\"|width=\"7.00\"|data:image/");
+        const QByteArray pictures = "{'Type':'ZQQuestionItem','BoundingBox':'0,0,80,40','R_Content_svg':'<svg><image "
+                                    "width=`80` height=`40` xlink:href=`a.svg`/></svg>'}";
+        row("questions that show the same picture", pictures + ',' + pictures,
+            "<defs><image height=|<use transform=\"|xlink:href=\"#picture0\"|!<image height=\"40.00\"");
         const QByteArray question = "{'Type':'ZQQuestionItem','BoundingBox':'100,50,300,150','R_Content_svg':'";
         row("question",
             question

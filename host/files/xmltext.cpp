@@ -154,15 +154,15 @@ template <typename Out> void startLine(Out &out, int depth)
 
 // depth below 0: no line breaks, as within an element that holds text.
 template <typename Out>
-void appendElement(Out &out, const QDomElement &element, int depth, const XmlAttributeChange &change = {})
+void appendElement(Out &out, const QDomElement &element, int depth, const XmlChange &change = {})
 {
-    const QString tag = element.tagName();
-    out += QLatin1Char('<');
-    out += tag;
+    QString tag = element.tagName();
     QVector<XmlAttribute> attributes = attributesOf(element);
     if (change) {
-        change(element, attributes);
+        change(element, tag, attributes);
     }
+    out += QLatin1Char('<');
+    out += tag;
     sortByName(attributes);
     for (const XmlAttribute &attribute : qAsConst(attributes)) {
         out += QLatin1Char(' ');
@@ -234,7 +234,7 @@ QString xmlNodeText(const QDomElement &element)
     return xmlNodeText(element, {});
 }
 
-QString xmlNodeText(const QDomElement &element, const XmlAttributeChange &change)
+QString xmlNodeText(const QDomElement &element, const XmlChange &change)
 {
     QString out;
     appendElement(out, element, -1, change);

@@ -25,10 +25,10 @@ struct XmlAttribute
     QString name;
     QString value;
 };
-//! Changes attributes on their way into a text, while the element keeps its own.
-using XmlAttributeChange = std::function<void(const QDomElement &element, QVector<XmlAttribute> &attributes)>;
+//! Changes an element's name and attributes on their way into a text, while the element keeps its own.
+using XmlChange = std::function<void(const QDomElement &element, QString &tag, QVector<XmlAttribute> &attributes)>;
 //! The same with changes, for which no copy of the tree is needed.
-QString xmlNodeText(const QDomElement &element, const XmlAttributeChange &change);
+QString xmlNodeText(const QDomElement &element, const XmlChange &change);
 
 //! For pasting into the text of an element or an attribute between double quotes. What XML can't hold is left out.
 QString escapedForXml(const QString &text);

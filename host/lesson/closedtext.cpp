@@ -324,13 +324,14 @@ ClosedTextDocument::ClosedTextDocument()
 }
 
 // A document that is laid out opens the file of a picture itself where it gets none here.
-QVariant ClosedTextDocument::loadResource(int type, const QUrl &)
+QVariant ClosedTextDocument::loadResource(int type, const QUrl &name)
 {
     if (type != ImageResource || !qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         return {};
     }
     QPixmap nothing(1, 1);
     nothing.fill(Qt::transparent);
+    m_pictures.insert(nothing.cacheKey(), name.toString());
     return nothing;
 }
 

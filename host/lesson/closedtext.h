@@ -2,6 +2,7 @@
 #ifndef CLOSEDTEXT_H
 #define CLOSEDTEXT_H
 
+#include <QHash>
 #include <QString>
 #include <QTextDocument>
 
@@ -21,8 +22,15 @@ public:
     //! many rules. What is no tag, such as the sign in "1 < 2", is text.
     int setLessonHtml(const QString &html);
 
+    //! What the HTML calls the picture in whose place a layout paints something, which is known by its key; nothing for
+    //! any other. Pictures are painted by who knows their files.
+    QString pictureName(qint64 key) const { return m_pictures.value(key); }
+
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
+
+private:
+    QHash<qint64, QString> m_pictures;
 };
 
 //! The words of a text in HTML, with one blank between them.

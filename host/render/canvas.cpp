@@ -41,7 +41,8 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
     const ItemPlace onPage = isUpright ? placeUnder(placed, area) : ItemPlace{area, 0};
     const QSizeF room = onPage.box.size();
     double scale = isUpright ? qMax(meanScale(placed), smallestScale) : 1;
-    LessonText laidOut(text, room.width() / scale, place.look, place.isFitted);
+    LessonText laidOut(text, room.width() / scale, place.look, place.isFitted,
+                       [this](const QString &name) { return pictureSize(name); });
     if (laidOut.isEmpty()) {
         return true;
     }
@@ -62,7 +63,11 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
     const double space = place.isInMiddle ? room.height() - laidOut.height() * scale : 0;
     const QTransform inArea = QTransform::fromScale(scale, scale)
         * QTransform::fromTranslate(onPage.box.left(), onPage.box.top() + qMax(0.0, space / 2));
-    laidOut.draw(m_svg.addGroup(inArea * (isUpright ? turnAbout(onPage.box.center(), onPage.angle) : placed)));
+    const QTransform onSheet = inArea * (isUpright ? turnAbout(onPage.box.center(), onPage.angle) : placed);
+    const auto pictures = laidOut.draw(m_svg.addGroup(onSheet));
+    for (const LessonText::TextPicture &picture : pictures) {
+        addPicture(picture.name, picture.box, onSheet);
+    }
     return true;
 }
 

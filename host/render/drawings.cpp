@@ -13,6 +13,7 @@
 #include "render/itemoutline.h"
 #include "render/languagedrawing.h"
 #include "render/mathdrawing.h"
+#include "render/mathmarks.h"
 #include "render/mediadrawing.h"
 #include "render/mindmapdrawing.h"
 #include "render/questiondrawing.h"
@@ -80,6 +81,7 @@ bool Drawings::draw(const QJsonObject &json)
 {
     const ItemView item(json);
     if (drawFromFamilies(m_canvas, item) || drawAsIwb(item)) {
+        addMathMarks(m_canvas.svg(), item);
         return true;
     }
     m_boxes.drawBox(json, addPictureOn(item));

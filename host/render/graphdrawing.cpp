@@ -138,9 +138,10 @@ const QLatin1String curvedArrow("ZQShapeQuxianjiantou");
 const QLatin1String connectingLine("ZQShapeLianjiexian");
 const QLatin1String branches("ZQShapeYiduiduoshu");
 
-bool isRegularPolygon(const QString &type)
+// Types that leave their outline to the item.
+bool isPolygon(const QString &type)
 {
-    return type.contains(QLatin1String("ZQBasicNormalItem"));
+    return type.contains(QLatin1String("ZQBasicNormalItem")) || type == QLatin1String("discipline");
 }
 
 bool isSegment(const QString &type)
@@ -372,8 +373,9 @@ std::optional<GraphDrawing> drawnBranches(const ItemView &item)
     return drawing;
 }
 
-// The corners of the item, or as many as the number at the end of its type's name says.
-std::optional<GraphDrawing> drawnRegularPolygon(const ItemView &item)
+// The corners of the item, or as many as the number at the end of its type's name says. Of one that tells neither, the
+// box in the item's colours, which is all that is known of its outline.
+std::optional<GraphDrawing> drawnPolygon(const ItemView &item)
 {
     constexpr int mostCorners = 100;
     const auto box = item.box();
@@ -388,6 +390,8 @@ std::optional<GraphDrawing> drawnRegularPolygon(const ItemView &item)
             corners.append(QPointF(std::cos(angle), std::sin(angle)));
         }
         corners = fitInto(extentOf(corners), *box).map(corners);
+    } else if (box && !box->isEmpty()) {
+        corners = withoutRepeatedEnd(QPolygonF(*box));
     } else {
         return std::nullopt;
     }
@@ -511,8 +515,8 @@ std::optional<GraphDrawing> drawingOf(const ItemView &item)
     if (type == connectingLine) {
         return drawnConnection(item);
     }
-    if (isRegularPolygon(type)) {
-        return drawnRegularPolygon(item);
+    if (isPolygon(type)) {
+        return drawnPolygon(item);
     }
     if (type == branches) {
         if (auto drawing = drawnBranches(item)) {
@@ -547,7 +551,7 @@ bool drawGraph(Canvas &canvas, const ItemView &item)
 SvgDrawing graphDrawing(const QString &type)
 {
     const bool isGraph = shapeOf(type) || isSegment(type) || isFreeDrawing(type) || type == straightArrow
-        || type == curvedArrow || type == connectingLine || isRegularPolygon(type);
+        || type == curvedArrow || type == connectingLine || isPolygon(type);
     return isGraph ? &drawGraph : nullptr;
 }
 

@@ -22,16 +22,13 @@ QByteArray HtmlPictures::html(const QDomElement &svg)
             pictures += pictureHtml(picture.name);
             m_written.insert(picture.name);
         }
-        const QSizeF size = m_store.size(picture.name);
-        const QTransform stretched(picture.box.width() / size.width(), 0, 0, picture.box.height() / size.height(),
-                                   picture.box.x(), picture.box.y());
+        const QTransform placed = pictureTransform(image, m_store.size(picture.name));
         image.setTagName(QStringLiteral("use"));
         for (const char *name : {"x", "y", "width", "height", "preserveAspectRatio"}) {
             image.removeAttribute(QLatin1String(name));
         }
-        image.setAttribute(
-            QStringLiteral("transform"),
-            QString(QLatin1String("matrix(") + transformText(stretched * picture.transform) + QLatin1Char(')')));
+        image.setAttribute(QStringLiteral("transform"),
+                           QString(QLatin1String("matrix(") + transformText(placed) + QLatin1Char(')')));
     }
     return pictures + xmlNodeText(copy).toUtf8();
 }

@@ -2,6 +2,7 @@
 #include "render/languagedrawing.h"
 
 #include "lesson/closedtext.h"
+#include "lesson/textruns.h"
 #include "render/itemoutline.h"
 #include "svg/svgstyle.h"
 
@@ -13,6 +14,7 @@ namespace lessonhost {
 
 namespace {
 
+const QLatin1String wordArt("ZQCommonYishuzi");
 constexpr int mostLetters = 400; // of an item, in squares
 constexpr int dashedLine = 2;
 constexpr double usedWidth = 0.96; // of lines that are full
@@ -333,6 +335,48 @@ void drawEnglishWord(const Sheet &sheet, const ItemView &item)
     }
 }
 
+// Letters that fill the item's box, in rows as the text has lines and in the colours of its letters.
+void drawWordArt(const Sheet &sheet, const ItemView &item)
+{
+    constexpr double used = 0.94; // of a row, since other viewers have other fonts
+    const QString html = item.text(ItemKeys::html);
+    const IwbTextInfoList runs =
+        (html.isEmpty() ? textRunsFromPlainText(item.text(ItemKeys::text)) : textRunsFromHtml(html)).runs;
+    TextLook look = characterLook(firstColor(item, {"Color", "ArtObj_Color"}, QColor(runs.constFirst().fill)));
+    look.family = runs.constFirst().fontFamily.section(QLatin1Char(','), 0, 0);
+    look.isBold = runs.constFirst().fontWeight == QLatin1String("bold");
+    QString text;
+    for (const IwbTextInfo &run : runs) {
+        text += run.text;
+    }
+    QStringList rows;
+    for (const QString &row :
+         text.left(mostLetters).replace(QChar::LineSeparator, QLatin1Char('\n')).split(QLatin1Char('\n'))) {
+        if (!row.simplified().isEmpty()) {
+            rows.append(row.simplified());
+        }
+    }
+    const double height = sheet.area.height() / qMax(1, rows.size());
+    for (int i = 0; i < rows.size(); ++i) {
+        const QRectF ink = LetterLine(rows.at(i), look).ink();
+        if (ink.isEmpty()) {
+            continue;
+        }
+        const double size = height * used / ink.height();
+        const double stretched = sheet.area.width() * used / (ink.width() * size);
+        const QTransform toRow = QTransform::fromScale(stretched, 1)
+            * QTransform::fromTranslate(0, sheet.area.top() + (i + 0.5) * height - ink.center().y() * size);
+        sheet.canvas.addLetters(rows.at(i), size, {}, toRow * sheet.place, look);
+    }
+}
+
+// Of word art that doesn't tell its words, nothing is known.
+bool tellsNothing(const ItemView &item)
+{
+    return item.type() == wordArt && wordsOf(item.text(ItemKeys::html)).isEmpty()
+        && wordsOf(item.text(ItemKeys::text)).isEmpty();
+}
+
 using SheetDrawing = void (*)(const Sheet &sheet, const ItemView &item);
 
 const QHash<QString, SheetDrawing> &sheetDrawings()
@@ -345,6 +389,7 @@ const QHash<QString, SheetDrawing> &sheetDrawings()
         {QStringLiteral("ZQLiteraturePinyin"), &drawPinyinCard},
         {QStringLiteral("ZQLiteratureHanzibihua"), &drawStrokeCharacter},
         {QStringLiteral("ZQLiteratureYinbiao"), &drawEnglishWord},
+        {wordArt, &drawWordArt},
     };
     return drawings;
 }
@@ -352,7 +397,7 @@ const QHash<QString, SheetDrawing> &sheetDrawings()
 bool drawLanguage(Canvas &canvas, const ItemView &item)
 {
     const PlacedBox box(item);
-    if (box.isEmpty()) {
+    if (box.isEmpty() || tellsNothing(item)) {
         return false;
     }
     const QRectF area(-box.width / 2, -box.height / 2, box.width, box.height);

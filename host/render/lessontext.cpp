@@ -123,7 +123,8 @@ QVector<SvgPaintDevice::Line> linesOf(const PlainParagraph &paragraph)
 
 } // namespace
 
-LessonText::LessonText(const QString &text, double width, const TextLook &look, bool keepsWords)
+LessonText::LessonText(const QString &text, double width, const TextLook &look, bool keepsWords,
+                       const PictureSize &sizeOf)
     : m_color(look.color)
 {
     const double points = qBound(1.0, look.pixels * 72 / SvgPaintDevice::dotsPerInch, largestPoints);
@@ -142,13 +143,14 @@ LessonText::LessonText(const QString &text, double width, const TextLook &look, 
         m_paragraph = std::make_unique<PlainParagraph>(text, font, option, m_screen.isNull() ? nullptr : &m_screen);
         m_smallestPixels = pixelsOf(font);
     } else {
-        makeDocument(text, font, option);
+        makeDocument(text, font, option, sizeOf);
     }
     setWidth(width);
 }
 
 // A document that has a layout lays itself out after each change, so it gets one when nothing changes any more.
-void LessonText::makeDocument(const QString &text, const QFont &font, const QTextOption &option)
+void LessonText::makeDocument(const QString &text, const QFont &font, const QTextOption &option,
+                              const PictureSize &sizeOf)
 {
     m_document = std::make_unique<ClosedTextDocument>();
     m_document->setDefaultFont(font);
@@ -163,6 +165,9 @@ void LessonText::makeDocument(const QString &text, const QFont &font, const QTex
     } else {
         m_document->setPlainText(text);
     }
+    if (sizeOf && text.contains(QLatin1String("<img"), Qt::CaseInsensitive)) {
+        sizePictures(sizeOf);
+    }
     boundText(*m_document);
     prepareFonts();
     // Letters that were measured are drawn from what is known of them.
@@ -171,6 +176,45 @@ void LessonText::makeDocument(const QString &text, const QFont &font, const QTex
     }
     if (!m_screen.isNull()) {
         m_document->documentLayout()->setPaintDevice(&m_screen);
+    }
+}
+
+// A layout takes a picture for as large as its file, which it isn't handed. One side that is told says the other.
+void LessonText::sizePictures(const PictureSize &sizeOf)
+{
+    struct Place
+    {
+        int position;
+        QTextImageFormat format;
+    };
+    QVector<Place> places;
+    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            QTextImageFormat format = it.fragment().charFormat().toImageFormat();
+            const bool hasWidth = format.hasProperty(QTextFormat::ImageWidth);
+            const bool hasHeight = format.hasProperty(QTextFormat::ImageHeight);
+            if (!format.isValid() || (hasWidth && hasHeight)) {
+                continue;
+            }
+            const QSizeF size = sizeOf(format.name());
+            if (size.isEmpty()) {
+                continue;
+            }
+            const double scale = hasWidth ? format.width() / size.width()
+                : hasHeight               ? format.height() / size.height()
+                                          : 1;
+            format.setWidth(size.width() * scale);
+            format.setHeight(size.height() * scale);
+            for (int i = 0; i < it.fragment().length(); ++i) {
+                places.append({it.fragment().position() + i, format});
+            }
+        }
+    }
+    QTextCursor cursor(m_document.get());
+    for (const Place &place : qAsConst(places)) {
+        cursor.setPosition(place.position);
+        cursor.setPosition(place.position + 1, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(place.format);
     }
 }
 
@@ -214,7 +258,7 @@ void LessonText::setWidth(double width)
     const double least = qMax(1.0, width);
     if (m_paragraph && !m_paragraph->setWidth(least)) {
         const QTextLayout &layout = m_paragraph->layout();
-        makeDocument(layout.text(), layout.font(), layout.textOption());
+        makeDocument(layout.text(), layout.font(), layout.textOption(), {});
         m_paragraph.reset();
     }
     if (m_document) {
@@ -222,19 +266,27 @@ void LessonText::setWidth(double width)
     }
 }
 
-void LessonText::draw(const QDomElement &group)
+QVector<LessonText::TextPicture> LessonText::draw(const QDomElement &group)
 {
+    QVector<TextPicture> pictures;
     SvgPaintDevice device(group);
     device.setLines(m_document ? linesOf(*m_document) : linesOf(*m_paragraph));
     QPainter painter(&device);
     if (m_paragraph) {
         painter.setPen(m_color);
         m_paragraph->draw(painter);
-        return;
+        return pictures;
     }
+    device.setPictures([&](qint64 key, const QRectF &box) {
+        const QString name = m_document->pictureName(key);
+        if (!name.isEmpty()) {
+            pictures.append({name, box});
+        }
+    });
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, m_color);
     m_document->documentLayout()->draw(&painter, context);
+    return pictures;
 }
 
 // Letters have the same proportions in every size, so they are painted in one that can be measured well.

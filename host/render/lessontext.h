@@ -12,7 +12,9 @@
 #include <QImage>
 #include <QRectF>
 #include <QTextOption>
+#include <QVector>
 
+#include <functional>
 #include <memory>
 
 namespace lessonhost {
@@ -36,8 +38,12 @@ struct TextLook
 class LessonText
 {
 public:
+    //! The size of a picture by what the text calls it; empty for one that isn't there.
+    using PictureSize = std::function<QSize(const QString &name)>;
+
     //! width: in pixels; lines are broken to be no longer, between words or, unless they are to stay whole, within.
-    LessonText(const QString &text, double width, const TextLook &look, bool keepsWords);
+    //! sizeOf: of pictures that the text doesn't tell the size of.
+    LessonText(const QString &text, double width, const TextLook &look, bool keepsWords, const PictureSize &sizeOf);
 
     bool isEmpty() const { return m_document && m_document->isEmpty(); }
 
@@ -51,11 +57,18 @@ public:
     //! The size of its smallest letters, sub- and superscript aside.
     double smallestPixels() const { return m_smallestPixels; }
 
-    //! Draws it into an element of an svg, from 0,0 on.
-    void draw(const QDomElement &group);
+    //! A picture that stands in the text.
+    struct TextPicture
+    {
+        QString name;
+        QRectF box;
+    };
+    //! Draws it into an element of an svg, from 0,0 on, without its pictures, which it returns.
+    QVector<TextPicture> draw(const QDomElement &group);
 
 private:
-    void makeDocument(const QString &text, const QFont &font, const QTextOption &option);
+    void makeDocument(const QString &text, const QFont &font, const QTextOption &option, const PictureSize &sizeOf);
+    void sizePictures(const PictureSize &sizeOf);
     void prepareFonts();
 
     QImage m_screen; // tells how large a point is, where the application doesn't

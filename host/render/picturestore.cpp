@@ -3,9 +3,15 @@
 
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
+#include "lesson/isoneof.h"
+#include "render/svgelements.h"
+#include "svg/svgvalues.h"
 
 #include <QDomDocument>
+#include <QSet>
 #include <QSvgRenderer>
+
+#include <cmath>
 
 namespace lessonhost {
 
@@ -13,8 +19,23 @@ namespace {
 
 const QLatin1String namePrefix("picture");
 const QLatin1String reference("xlink:href");
+constexpr const char *attributesOfBoxes[] = {"x", "y", "width", "height", "preserveAspectRatio", "transform"};
 constexpr int none = -1;
 constexpr double largeEnough = 1024; // pixels
+
+// Of a reference that stands in the place of a picture.
+QVector<XmlAttribute> usingAttributes(const QDomElement &image, const QVector<XmlAttribute> &own, const QSize &size)
+{
+    QVector<XmlAttribute> attributes{
+        {QStringLiteral("transform"), drawnTransform(pictureTransform(image, size))},
+    };
+    for (const XmlAttribute &attribute : own) {
+        if (!isOneOf(attributesOfBoxes, attribute.name)) {
+            attributes.append(attribute);
+        }
+    }
+    return attributes;
+}
 
 qint64 areaOf(const QSize &size)
 {
@@ -100,27 +121,72 @@ QByteArray PictureStore::drawing(const QString &name) const
     return xmlNodeText(svg).toUtf8();
 }
 
+// In its own size, for others to refer to.
+QString PictureStore::definition(const QString &name) const
+{
+    const QSize own = size(name);
+    return QStringLiteral(
+               "<image height=\"%1\" id=\"%2\" preserveAspectRatio=\"none\" width=\"%3\" xlink:href=\"%4\"/>")
+        .arg(QString::number(own.height()), name, QString::number(own.width()), addressOf(shown(name)));
+}
+
 QByteArray PictureStore::text(const QDomElement &svg, const QHash<QString, QString> &attributes) const
 {
-    QHash<QString, QString> addresses; // by name
-    const auto addressOfPicture = [&](const QString &name) {
-        auto address = addresses.constFind(name);
-        if (address == addresses.constEnd()) {
-            address = addresses.insert(name, addressOf(shown(name)));
-        }
-        return *address;
-    };
-    const auto change = [&](const QDomElement &element, QVector<XmlAttribute> &own) {
-        const QString name = pictureOf(element);
-        for (XmlAttribute &attribute : own) {
-            if (!name.isEmpty() && attribute.name == reference) {
-                attribute.value = addressOfPicture(name);
-            } else if (!attributes.isEmpty() && element == svg) {
+    QHash<QString, int> uses; // by name
+    for (const QDomElement &image : imagesIn(svg)) {
+        const QString name = pictureOf(image);
+        uses[name] += name.isEmpty() ? 0 : 1;
+    }
+    QString definitions;
+    QSet<QString> defined;
+    // A picture without a width or height isn't seen, and some viewers take such a reference for an error.
+    constexpr double smallest = 1e-6;
+    const auto change = [&](const QDomElement &element, QString &tag, QVector<XmlAttribute> &own) {
+        if (!attributes.isEmpty() && element == svg) {
+            for (XmlAttribute &attribute : own) {
                 attribute.value = attributes.value(attribute.name, attribute.value);
             }
+            return;
+        }
+        const QString name = pictureOf(element);
+        if (name.isEmpty()) {
+            return;
+        }
+        if (uses.value(name) > 1) {
+            const QTransform placed = pictureTransform(element, size(name));
+            if (std::hypot(placed.m11(), placed.m12()) < smallest
+                || std::hypot(placed.m21(), placed.m22()) < smallest) {
+                tag = QStringLiteral("g");
+                own.clear();
+                return;
+            }
+            tag = QStringLiteral("use");
+            if (!defined.contains(name)) {
+                defined.insert(name);
+                definitions += definition(name);
+            }
+            own = usingAttributes(element, own, size(name));
+            return;
+        }
+        for (XmlAttribute &attribute : own) {
+            attribute.value = attribute.name == reference ? addressOf(shown(name)) : attribute.value;
         }
     };
-    return xmlNodeText(svg, change).toUtf8();
+    QString text = xmlNodeText(svg, change);
+    if (!definitions.isEmpty()) {
+        // Attributes have no such letter as itself.
+        text.insert(text.indexOf(QLatin1Char('>')) + 1,
+                    QLatin1String("<defs>") + definitions + QLatin1String("</defs>"));
+    }
+    return text.toUtf8();
+}
+
+QTransform pictureTransform(const QDomElement &image, const QSize &size)
+{
+    const auto number = [&image](const char *name) { return image.attribute(QLatin1String(name)).toDouble(); };
+    const QTransform stretched(number("width") / qMax(1, size.width()), 0, 0, number("height") / qMax(1, size.height()),
+                               number("x"), number("y"));
+    return stretched * svgTransform(image.attribute(QStringLiteral("transform"))).value_or(QTransform());
 }
 
 QVector<QDomElement> imagesIn(const QDomElement &svg)

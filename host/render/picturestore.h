@@ -6,6 +6,7 @@
 
 #include <QDomElement>
 #include <QHash>
+#include <QTransform>
 #include <QVector>
 
 namespace lessonhost {
@@ -35,7 +36,8 @@ public:
     //! What it is where isDrawing() says so, as an svg that leads nowhere and fills whatever it is stretched to.
     QByteArray drawing(const QString &name) const;
 
-    //! A drawing as a text that needs nothing else. attributes: of the drawing itself, in place of its own.
+    //! A drawing as a text that needs nothing else. A picture that it shows several times is in it once. attributes: of
+    //! the drawing itself, in place of its own.
     QByteArray text(const QDomElement &svg, const QHash<QString, QString> &attributes = {}) const;
 
 private:
@@ -54,11 +56,15 @@ private:
     };
 
     int indexOf(const QString &name) const;
+    QString definition(const QString &name) const;
 
     QVector<Entry> m_entries;
     QHash<QString, Known> m_known; // by file
     QHash<QPair<QByteArray, qint64>, int> m_indices; // by fingerprint, and how many pixels it may have if it has more
 };
+
+//! From a picture of this size to where an element shows it, stretched to its box.
+QTransform pictureTransform(const QDomElement &image, const QSize &size);
 
 //! The elements below that show pictures, to change them.
 QVector<QDomElement> imagesIn(const QDomElement &svg);

@@ -13,6 +13,7 @@
 #include "render/picturestore.h"
 #include "render/svgelements.h"
 #include "svg/svgstyle.h"
+#include "svg/svgvalues.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -233,12 +234,15 @@ QDomElement PlainSvg::appendPicture(const QString &file)
 bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF &usualSize,
                           const std::function<QString(const QString &)> &fileOf)
 {
+    QHash<QString, QString> files; // by their pictures
     const auto addressOf = [&](const QString &reference) {
         if (reference.startsWith(QLatin1String("data:"))) {
             return embeddedPicture(reference, m_pixels);
         }
         const QString file = fileOf(reference);
-        return file.isEmpty() ? QString() : Picture(file).address(m_pixels);
+        const QString name = file.isEmpty() ? QString() : m_pictures.add(file, m_pixels);
+        files.insert(name, file);
+        return name.isEmpty() ? QString() : QString(QLatin1Char('#') + name);
     };
     try {
         const QByteArray closed = closedSvg(svg, QStringLiteral("svg"), addressOf).text;
@@ -248,9 +252,44 @@ bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF
         const QString prefix = m_names + QLatin1Char('d') + QString::fromLatin1(name) + QString::number(++m_drawings);
         QDomElement part = append(QStringLiteral("g"));
         part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix, m_innerBudget));
+        placePictures(part, files);
         return true;
     } catch (const LessonError &) {
         return false;
+    }
+}
+
+// Pictures of the store fill their boxes, so those of a drawing get the box that they fill of the one they are told.
+void PlainSvg::placePictures(const QDomElement &drawing, const QHash<QString, QString> &files)
+{
+    for (QDomElement &image : imagesIn(drawing)) {
+        const QString name = m_pictures.pictureOf(image);
+        if (name.isEmpty()) {
+            continue;
+        }
+        const auto length = [&image](const char *attribute) {
+            return svgLength(image.attribute(QLatin1String(attribute)));
+        };
+        const QString ratio = image.attribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("xMidYMid meet"));
+        const bool isStretched = ratio == QLatin1String("none");
+        const bool isKnown = isStretched || ratio.startsWith(QLatin1String("xMidYMid"));
+        const auto width = length("width");
+        const auto height = length("height");
+        const bool isShare = (image.attribute(QStringLiteral("width")) + image.attribute(QStringLiteral("height"))
+                              + image.attribute(QStringLiteral("x")) + image.attribute(QStringLiteral("y")))
+                                 .contains(QLatin1Char('%'));
+        if (!width || !height || isShare || !isKnown || ratio.contains(QLatin1String("slice"))) {
+            image.setAttribute(QStringLiteral("xlink:href"), Picture(files.value(name)).address(m_pixels));
+            continue;
+        }
+        QRectF box(length("x").value_or(0), length("y").value_or(0), *width, *height);
+        if (!isStretched) {
+            const QPointF middle = box.center();
+            box.setSize(QSizeF(m_pictures.size(name)).scaled(box.size(), Qt::KeepAspectRatio));
+            box.moveCenter(middle);
+        }
+        setBox(image, box);
+        image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
     }
 }
 

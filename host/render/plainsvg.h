@@ -132,6 +132,7 @@ private:
     void addHeads(const QDomElement &element, QDomElement &line);
     QDomElement appendPicture(const QString &file);
     bool addPicture(const QDomElement &element);
+    void placePictures(const QDomElement &drawing, const QHash<QString, QString> &files);
     bool isFree(const QRectF &place) const;
     QRectF freePlaceIn(const QRectF &box, const QSizeF &size) const;
     QRectF freePlaceBeside(const QRectF &box, const QSizeF &size) const;

@@ -140,7 +140,7 @@ private:
         const QString name = m_textures.value(fill.mid(fillByName.size(), nameEnd - fillByName.size()));
         QPainterPath area = svgPath(element.attribute(QStringLiteral("d"))).value_or(QPainterPath());
         const QRectF shown = area.boundingRect() & toPage.inverted().mapRect(m_page);
-        const double fitting = std::sqrt(m_pixels.shareFor(1) / qMax(1e-9, shown.width() * shown.height()));
+        const double fitting = std::sqrt(double(m_pixels.shareFor(1)) / qMax(1e-9, shown.width() * shown.height()));
         const QSize size = (shown.size() * qMin(meanScale(toPage), fitting)).toSize();
         if (shown.isEmpty()) {
             return;

@@ -6,7 +6,9 @@
 #include "render/textbounds.h"
 
 #include <QFont>
+#include <QImage>
 #include <QPaintEngine>
+#include <QPixmap>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -131,6 +133,7 @@ public:
 
     QVector<Line> lines;
     bool hasFullLines = false;
+    PictureTaker pictures;
 
     bool begin(QPaintDevice *) override { return true; }
     bool end() override
@@ -217,8 +220,14 @@ public:
     }
     using QPaintEngine::drawLines;
 
-    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
-    void drawImage(const QRectF &, const QImage &, const QRectF &, Qt::ImageConversionFlags) override { }
+    void drawPixmap(const QRectF &box, const QPixmap &pixmap, const QRectF &) override
+    {
+        takePicture(pixmap.cacheKey(), box);
+    }
+    void drawImage(const QRectF &box, const QImage &image, const QRectF &, Qt::ImageConversionFlags) override
+    {
+        takePicture(image.cacheKey(), box);
+    }
 
     void drawTextItem(const QPointF &position, const QTextItem &item) override
     {
@@ -249,6 +258,13 @@ public:
     }
 
 private:
+    void takePicture(qint64 key, const QRectF &box) const
+    {
+        if (pictures) {
+            pictures(key, m_transform.mapRect(box));
+        }
+    }
+
     // Of pictures and the like that fill something, nothing is drawn.
     QColor fill() const
     {
@@ -421,6 +437,11 @@ SvgPaintDevice::SvgPaintDevice(const QDomElement &group)
 }
 
 SvgPaintDevice::~SvgPaintDevice() = default;
+
+void SvgPaintDevice::setPictures(const PictureTaker &taker)
+{
+    m_engine->pictures = taker;
+}
 
 void SvgPaintDevice::setLines(QVector<Line> lines)
 {

@@ -6,14 +6,15 @@
 #include <QPaintDevice>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 
 namespace lessonhost {
 
 /*!
  * A paint device whose paintings become elements of an svg: letters stay text, in the words of a line as they follow
- * each other, so that no viewer has to squeeze them; all else are lines, rectangles and paths. Pictures and clips are
- * left out.
+ * each other, so that no viewer has to squeeze them; all else are lines, rectangles and paths. Pictures are
+ * handed on, and clips left out.
  */
 class SvgPaintDevice : public QPaintDevice
 {
@@ -36,6 +37,10 @@ public:
     ~SvgPaintDevice() override;
     SvgPaintDevice(const SvgPaintDevice &) = delete;
     SvgPaintDevice &operator=(const SvgPaintDevice &) = delete;
+
+    //! Takes pictures with their boxes; they are left out otherwise. key: of the pixmap or image.
+    using PictureTaker = std::function<void(qint64 key, const QRectF &box)>;
+    void setPictures(const PictureTaker &taker);
 
     //! The lines that are to be painted, as far as they don't begin at the left.
     void setLines(QVector<Line> lines);
