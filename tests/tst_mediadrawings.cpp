@@ -108,7 +108,7 @@ private slots:
             ">45\u00b0<|>90\u00b0<");
         row("texture that is missing", "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','DrawTexture':'b.svg'}", "<path");
         row("stamps", "{'Type':'ZQStrokesStamp','XY':'50,50,80,10','Width':'30','Stamp':'a.svg','DrawTexture':'a.svg'}",
-            "x=\"35.00\"|y=\"35.00\"|x=\"115.00\"|y=\"45.00\"|width=\"30.00\"|data:image/");
+            "matrix(3.33333 0 0 3.33333 35 35)|matrix(3.33333 0 0 3.33333 115 45)|data:image/");
         row("stamp in a box", "{'Type':'ZQStrokesStamp','BoundingBox':'5,6,12,16','Stamp':'a.svg'}",
             "height=\"10.00\"|width=\"7.00\"|data:image/");
         const QByteArray pictures = "{'Type':'ZQQuestionItem','BoundingBox':'0,0,80,40','R_Content_svg':'<svg><image "

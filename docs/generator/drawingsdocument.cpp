@@ -190,7 +190,10 @@ constexpr FamilyText familyTexts[] = {
     {"Mathematics",
      "Plane figures from their points or in their box, bodies with their hidden edges dashed, axes with arrows and "
      "ticks. "
-     "What items don't tell is left out: the units of axes, and with them functions; measures of lengths and angles."},
+     "Angles that are to be measured have their degrees; centres and middles a dot. What items don't tell is left out: "
+     "the units of axes, and with them functions; lengths, whose units no item names. `discipline` is the name of a "
+     "figure "
+     "that tells no type: its points or its box in its colours, and its text."},
     {"Physics",
      "The symbol of the type (`host/render/symbols`) in the item's box, with its colours, states and texts. Keys whose "
      "meaning neither their name nor their label tells change nothing."},
@@ -206,7 +209,10 @@ constexpr FamilyText familyTexts[] = {
      "An outline in the box, or the lines through the item's points. Brackets and arrows of a direction or kind that "
      "nobody "
      "knows are boxes with their names."},
-    {"Literature", "Characters in squares and words between lines, as large as they fit."},
+    {"Literature",
+     "Characters in squares and words between lines, as large as they fit. Word art fills its box with the words that "
+     "it "
+     "tells under `TextHtml` or `Text`; without any it is a box with its name."},
     {"General tools",
      "Instruments with scales in pixels of the page, covers over what they hide, cards and exercises with their lists "
      "laid "

@@ -31,6 +31,15 @@ double meanScale(const QTransform &transform)
     return std::sqrt(qAbs(transform.determinant()));
 }
 
+bool stretches(const QTransform &transform)
+{
+    constexpr double nearly = 1e-3;
+    const double across = std::hypot(transform.m11(), transform.m12());
+    const double down = std::hypot(transform.m21(), transform.m22());
+    const double slant = transform.m11() * transform.m21() + transform.m12() * transform.m22();
+    return qAbs(across - down) > nearly * qMax(across, down) || qAbs(slant) > nearly * across * down;
+}
+
 std::optional<ScaleAndTurn> scaleAndTurn(const QTransform &transform)
 {
     ScaleAndTurn result;

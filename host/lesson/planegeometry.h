@@ -22,6 +22,9 @@ QTransform turnAbout(const QPointF &center, double angle);
 //! How much larger a transform makes lengths, on the whole.
 double meanScale(const QTransform &transform);
 
+//! True for what a circle doesn't stay one under, as far as can be seen.
+bool stretches(const QTransform &transform);
+
 //! A scale along x and y and then a rotation, in radians, that take the unit vectors where the linear part of transform
 //! does. Nothing if it shears.
 struct ScaleAndTurn

@@ -64,7 +64,7 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
     const QTransform inArea = QTransform::fromScale(scale, scale)
         * QTransform::fromTranslate(onPage.box.left(), onPage.box.top() + qMax(0.0, space / 2));
     const QTransform onSheet = inArea * (isUpright ? turnAbout(onPage.box.center(), onPage.angle) : placed);
-    const auto pictures = laidOut.draw(m_svg.addGroup(onSheet));
+    const auto pictures = laidOut.draw(m_svg.addGroup(onSheet), stretches(onSheet));
     for (const LessonText::TextPicture &picture : pictures) {
         addPicture(picture.name, picture.box, onSheet);
     }
@@ -76,9 +76,9 @@ void Canvas::addLetters(const QString &text, double size, const QPointF &middle,
 {
     if (!text.isEmpty()) {
         const double scale = size / LetterLine::drawnSize;
-        LetterLine(text, look)
-            .draw(m_svg.addGroup(QTransform::fromScale(scale, scale) * QTransform::fromTranslate(middle.x(), middle.y())
-                                 * placed));
+        const QTransform onSheet =
+            QTransform::fromScale(scale, scale) * QTransform::fromTranslate(middle.x(), middle.y()) * placed;
+        LetterLine(text, look).draw(m_svg.addGroup(onSheet), stretches(onSheet));
     }
 }
 

@@ -197,6 +197,13 @@ SvgPaint paintOf(const ItemView &item, QLatin1String widthKey, const char *lineK
     return paint;
 }
 
+// Letters don't touch the lines beside them.
+QRectF withoutEdges(const QRectF &area)
+{
+    const double gap = qMin(6.0, area.width() / 12);
+    return area.adjusted(gap, 0, -gap, 0);
+}
+
 // A bracket opens to the right or, with the direction 1, to the left.
 std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape, const QRectF &box)
 {
@@ -222,8 +229,7 @@ std::optional<GraphDrawing> drawnShape(const ItemView &item, const Shape &shape,
     } else {
         path = outlineIn(box, shape.outline);
     }
-    const double gap = qMin(6.0, drawing.textArea.width() / 12);
-    drawing.textArea.adjust(gap, 0, -gap, 0);
+    drawing.textArea = withoutEdges(drawing.textArea);
     SvgPaint paint = paintOf(item, ItemKeys::lineWidth, shape.lineKey, shape.fillKey);
     if (shape.isOpen) {
         paint.fill = Qt::transparent;
@@ -400,7 +406,7 @@ std::optional<GraphDrawing> drawnPolygon(const ItemView &item)
     path.addPolygon(corners);
     path.closeSubpath();
     drawing.placed = lineTransform(item, box);
-    drawing.textArea = extentOf(corners);
+    drawing.textArea = withoutEdges(extentOf(corners));
     drawing.parts.append({drawing.placed.map(path), paintOf(item, ItemKeys::lineWidth, "LineColor", "ArtObj_Color")});
     return drawing;
 }

@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 
 #include <algorithm>
 
@@ -15,14 +16,24 @@ namespace {
 
 constexpr double measuredSize = 100;
 
-const QFontMetricsF &metrics()
+// How long a text is. The same words are tried in many sizes.
+double lengthOf(const QString &text)
 {
-    static const QFontMetricsF known = [] {
+    static const QFontMetricsF metrics = [] {
         QFont font(familyHere(labelFamilies()));
         font.setPixelSize(int(measuredSize));
         return QFontMetricsF(font);
     }();
-    return known;
+    constexpr int mostKnown = 2000;
+    static QHash<QString, double> known;
+    auto found = known.constFind(text);
+    if (found == known.cend()) {
+        if (known.size() >= mostKnown) {
+            known.clear();
+        }
+        found = known.insert(text, metrics.horizontalAdvance(text));
+    }
+    return *found;
 }
 
 // Lines of words, each as long as it fits into a width. A word that doesn't has a line of its own.
@@ -32,7 +43,7 @@ QStringList brokenIntoLines(const QString &text, double width)
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : words) {
         const QString longer = lines.isEmpty() ? word : QString(lines.constLast() + QLatin1Char(' ') + word);
-        if (!lines.isEmpty() && metrics().horizontalAdvance(longer) <= width) {
+        if (!lines.isEmpty() && lengthOf(longer) <= width) {
             lines.last() = longer;
         } else {
             lines.append(word);
@@ -45,7 +56,7 @@ QStringList brokenIntoLines(const QString &text, double width)
 int lettersThatFit(const QString &text, double width)
 {
     int fitting = 1;
-    while (fitting < text.size() && metrics().horizontalAdvance(text, fitting + 1) <= width) {
+    while (fitting < text.size() && lengthOf(text.left(fitting + 1)) <= width) {
         ++fitting;
     }
     return fitting < text.size() && text.at(fitting).isLowSurrogate() ? qMax(1, fitting - 1) : fitting;
@@ -56,7 +67,7 @@ QStringList cutToLines(const QStringList &lines, double width, int count)
 {
     QStringList cut;
     for (QString line : lines) {
-        while (metrics().horizontalAdvance(line) > width && cut.size() <= count) {
+        while (lengthOf(line) > width && cut.size() <= count) {
             const int fitting = lettersThatFit(line, width);
             cut.append(line.left(fitting));
             line = line.mid(fitting);
@@ -67,7 +78,7 @@ QStringList cutToLines(const QStringList &lines, double width, int count)
         cut = cut.mid(0, count);
         const QString sign(QChar(0x2026));
         QString &last = cut.last();
-        while (!last.isEmpty() && metrics().horizontalAdvance(last + sign) > width) {
+        while (!last.isEmpty() && lengthOf(last + sign) > width) {
             last.chop(last.size() > 1 && last.at(last.size() - 1).isLowSurrogate() ? 2 : 1);
         }
         last = last.trimmed() + sign;
@@ -79,7 +90,7 @@ double longestOf(const QStringList &lines)
 {
     double longest = 0;
     for (const QString &line : lines) {
-        longest = qMax(longest, metrics().horizontalAdvance(line));
+        longest = qMax(longest, lengthOf(line));
     }
     return longest;
 }
@@ -99,7 +110,7 @@ LabelLines linesThatFit(const QString &text, const QSizeF &box, double largestSi
         label.lines = brokenIntoLines(text, width);
         label.isWhole = longestOf(label.lines) <= width && label.lines.size() <= count;
         if (!label.isWhole && label.size <= smallestSize) {
-            const bool isTiny = count < 1 || width < metrics().horizontalAdvance(QStringLiteral("mm"));
+            const bool isTiny = count < 1 || width < lengthOf(QStringLiteral("mm"));
             label.lines = isTiny ? QStringList() : cutToLines(label.lines, width, count);
         }
         if (label.isWhole || label.size <= smallestSize) {

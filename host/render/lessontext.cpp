@@ -266,11 +266,16 @@ void LessonText::setWidth(double width)
     }
 }
 
-QVector<LessonText::TextPicture> LessonText::draw(const QDomElement &group)
+QVector<LessonText::TextPicture> LessonText::draw(const QDomElement &group, bool isStretched)
 {
     QVector<TextPicture> pictures;
     SvgPaintDevice device(group);
-    device.setLines(m_document ? linesOf(*m_document) : linesOf(*m_paragraph));
+    auto lines = m_document ? linesOf(*m_document) : linesOf(*m_paragraph);
+    if (isStretched) {
+        const auto isByEnd = [](const SvgPaintDevice::Line &line) { return !(line.alignment & Qt::AlignJustify); };
+        lines.erase(std::remove_if(lines.begin(), lines.end(), isByEnd), lines.end());
+    }
+    device.setLines(lines);
     QPainter painter(&device);
     if (m_paragraph) {
         painter.setPen(m_color);
@@ -306,11 +311,13 @@ QRectF LetterLine::ink() const
     return {ink.topLeft() / drawnSize, ink.size() / drawnSize};
 }
 
-void LetterLine::draw(const QDomElement &group) const
+void LetterLine::draw(const QDomElement &group, bool isStretched) const
 {
     const double half = m_width * drawnSize / 2;
     SvgPaintDevice device(group);
-    device.setLines({{0, -half, half, Qt::AlignHCenter}});
+    if (!isStretched) {
+        device.setLines({{0, -half, half, Qt::AlignHCenter}});
+    }
     QPainter painter(&device);
     painter.setFont(m_font);
     painter.setPen(m_color);

@@ -63,8 +63,9 @@ public:
         QString name;
         QRectF box;
     };
-    //! Draws it into an element of an svg, from 0,0 on, without its pictures, which it returns.
-    QVector<TextPicture> draw(const QDomElement &group);
+    //! Draws it into an element of an svg, from 0,0 on, without its pictures, which it returns. isStretched: more
+    //! across than down, or slanted, where some viewers set lines elsewhere that are told by their middle or end.
+    QVector<TextPicture> draw(const QDomElement &group, bool isStretched);
 
 private:
     void makeDocument(const QString &text, const QFont &font, const QTextOption &option, const PictureSize &sizeOf);
@@ -94,8 +95,8 @@ public:
     double xHeight() const { return m_xHeight; }
 
     static constexpr int drawnSize = 100;
-    //! Draws it into an element of an svg, in that size, with the middle of its line at 0,0.
-    void draw(const QDomElement &group) const;
+    //! Draws it into an element of an svg, in that size, with the middle of its line at 0,0. isStretched: as a text's.
+    void draw(const QDomElement &group, bool isStretched) const;
 
 private:
     QString m_text;

@@ -275,10 +275,11 @@ void PlainSvg::placePictures(const QDomElement &drawing, const QHash<QString, QS
         const bool isKnown = isStretched || ratio.startsWith(QLatin1String("xMidYMid"));
         const auto width = length("width");
         const auto height = length("height");
-        const bool isShare = (image.attribute(QStringLiteral("width")) + image.attribute(QStringLiteral("height"))
-                              + image.attribute(QStringLiteral("x")) + image.attribute(QStringLiteral("y")))
-                                 .contains(QLatin1Char('%'));
-        if (!width || !height || isShare || !isKnown || ratio.contains(QLatin1String("slice"))) {
+        const auto isShare = [&image](const char *attribute) {
+            return image.attribute(QLatin1String(attribute)).endsWith(QLatin1Char('%'));
+        };
+        const bool hasShares = isShare("x") || isShare("y") || isShare("width") || isShare("height");
+        if (!width || !height || hasShares || !isKnown || ratio.contains(QLatin1String("slice"))) {
             image.setAttribute(QStringLiteral("xlink:href"), Picture(files.value(name)).address(m_pixels));
             continue;
         }

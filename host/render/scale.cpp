@@ -60,12 +60,26 @@ QString numberText(double value, int decimals)
     return decimals < 0 ? QString::number(value, 'g', most) : QString::number(value, 'f', qMin(decimals, most));
 }
 
+// Of the first number or the last, whichever is longer.
+int mostLetters(const Scale &scale, const Steps &steps)
+{
+    return qMax(numberText(scale.first, scale.decimals).size(),
+                numberText(scale.first + steps.count * scale.step, scale.decimals).size());
+}
+
+// How large numbers may be, as part of what they would be: half of one reaches beyond the end of a line, and no further
+// than its instrument does.
+double shareOfRoom(const ScaleCourse &course, const Scale &scale, const Steps &steps)
+{
+    const double half = mostLetters(scale, steps) * digitWidth * scale.numberSize / 2;
+    const double room = qMax(1.3 * scale.numberSize, course.length() / 8);
+    return course.isArc() || scale.turnsNumbers ? 1 : qMin(1.0, room / half);
+}
+
 // Every so many steps there is a number.
 int stepsBetweenNumbers(const Scale &scale, const Steps &steps)
 {
-    const int letters = qMax(numberText(scale.first, scale.decimals).size(),
-                             numberText(scale.first + steps.count * scale.step, scale.decimals).size());
-    const double room = (letters * digitWidth + 0.8) * scale.numberSize;
+    const double room = (mostLetters(scale, steps) * digitWidth + 0.8) * scale.numberSize;
     for (const int every : {1, 2, 5, 10, 20, 50, 100}) {
         if (every * steps.length >= room) {
             return every;
@@ -160,11 +174,11 @@ void addScale(PlainSvg &svg, const ScaleCourse &course, const Scale &scale, cons
     paint.fill = Qt::transparent;
     paint.lineWidth = scale.lineWidth;
     svg.addPath(placed.map(ticks), paint);
-    const double size = scale.numberSize * meanScale(placed);
+    const Steps steps(course, scale);
+    const double size = scale.numberSize * meanScale(placed) * shareOfRoom(course, scale, steps);
     if (size < smallestNumber) {
         return;
     }
-    const Steps steps(course, scale);
     const int every = stepsBetweenNumbers(scale, steps);
     const QTransform linear(placed.m11(), placed.m12(), placed.m21(), placed.m22(), 0, 0);
     const bool isMirrored = placed.determinant() < 0;

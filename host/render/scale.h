@@ -23,6 +23,7 @@ public:
     static ScaleCourse arc(const QPointF &center, double radius, double start, double sweep);
 
     double length() const;
+    bool isArc() const { return m_radius > 0; }
     //! The tick at a part of the course, from 0 to 1. A negative length points the other way.
     QLineF tick(double part, double length) const;
 

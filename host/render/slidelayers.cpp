@@ -51,15 +51,6 @@ bool isOpenGroup(const QDomElement &element)
     return element.tagName() == QLatin1String("g") && !element.hasAttribute(QStringLiteral("id"));
 }
 
-// True for what a circle doesn't stay one under.
-bool stretches(const QTransform &transform)
-{
-    constexpr double nearly = 1e-3;
-    const double across = std::hypot(transform.m11(), transform.m12());
-    const double down = std::hypot(transform.m21(), transform.m22());
-    return qAbs(across - down) > nearly * qMax(across, down);
-}
-
 bool holdsTexts(const QDomElement &element)
 {
     return !element.elementsByTagName(QStringLiteral("text")).isEmpty();

@@ -22,6 +22,10 @@ double bounded(double value)
 QString factor(double value)
 {
     constexpr double scale = 1e7;
+    constexpr double largestWhole = 1e6;
+    if (value == std::trunc(value) && qAbs(value) < largestWhole) {
+        return QString::number(int(value));
+    }
     return QString::number(qAbs(value) < 1 ? std::round(value * scale) / scale : value, 'g', 6);
 }
 
@@ -56,12 +60,14 @@ QString drawnNumber(double value)
 
 QString drawnTransform(const QTransform &transform)
 {
-    QStringList numbers;
+    QString text(QLatin1String("matrix("));
     for (const double number :
          {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
-        numbers.append(factor(bounded(number)));
+        text += factor(bounded(number));
+        text += QLatin1Char(' ');
     }
-    return QStringLiteral("matrix(%1)").arg(numbers.join(QLatin1Char(' ')));
+    text[text.size() - 1] = QLatin1Char(')');
+    return text;
 }
 
 QString drawnPath(const QPainterPath &path)

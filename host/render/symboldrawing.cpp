@@ -297,8 +297,17 @@ private:
         if (room > 0) {
             QFont font(QStringLiteral("sans-serif"));
             font.setPixelSize(100);
-            const double width = QFontMetricsF(font).horizontalAdvance(word.text) / 100;
-            size = qMin(size, room / qMax(width, 0.01));
+            const QFontMetricsF metrics(font);
+            const auto width = [&metrics](const QString &text) {
+                return qMax(1.0, metrics.horizontalAdvance(text)) / 100;
+            };
+            // As small as can be read; what doesn't fit then is left out.
+            const double smallest = qMin(size, m_canvas.svg().readableSize());
+            const QString whole = word.text;
+            for (int letters = whole.size() - 1; letters > 0 && width(word.text) * smallest > room; --letters) {
+                word.text = whole.left(letters).trimmed() + QChar(0x2026);
+            }
+            size = qMin(size, room / width(word.text));
             word.turn -= m_isTurned ? 90 : 0;
         }
         if (!word.text.isEmpty()) {
