@@ -17,7 +17,7 @@ QDomElement childWithContent(const QDomElement &parent, const QString &tag, bool
 
 QDomElement looseElement(const QString &tag)
 {
-    // An element that was never attached would keep a pointer to a document that is gone.
+    // An element that was never attached would keep a pointer to a document that is gone; this one forgets it.
     QDomDocument document;
     document.appendChild(document.createElement(tag));
     return document.documentElement();

@@ -10,7 +10,8 @@ namespace lessonhost {
 //! The first direct child element of that tag that has child nodes, or that has none, or null.
 QDomElement childWithContent(const QDomElement &parent, const QString &tag, bool withChildren);
 
-//! An element that belongs to a document which it keeps alive.
+//! An element that no document holds: its ownerDocument() is null and makes nothing for it; what goes into it is loose
+//! too.
 QDomElement looseElement(const QString &tag);
 
 //! Takes child elements out of their parent, from first on.

@@ -386,8 +386,7 @@ QDomElement RawEcho::childrenOfItem(const QDomElement &element, const QJsonObjec
             open.last().echo.appendChild(managerOf(item));
             continue;
         }
-        QDomElement echo = open.last().echo.ownerDocument().createElement(tag);
-        open.last().echo.appendChild(echo);
+        QDomElement echo = open.last().echo.appendChild(looseElement(tag)).toElement();
         const auto attributes = attributesOf(child);
         for (const auto &[name, given] : attributes) {
             const QString inRow = row.value(name).toString();
@@ -429,11 +428,8 @@ QString RawEcho::keyOf(const QString &type, const QString &tag, const QString &a
     }
     const QString mark = QStringLiteral("mark");
     QDomElement probe = looseElement(type);
-    QDomElement holder = tag.isEmpty() ? probe : probe.ownerDocument().createElement(tag);
+    QDomElement holder = tag.isEmpty() ? probe : probe.appendChild(looseElement(tag)).toElement();
     holder.setAttribute(attribute, mark);
-    if (!tag.isEmpty()) {
-        probe.appendChild(holder);
-    }
     const QJsonObject found = m_plugin->tranItemXML2JSON(probe, {});
     auto silent = m_silent.constFind(type);
     if (silent == m_silent.constEnd()) {
