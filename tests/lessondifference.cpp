@@ -435,6 +435,13 @@ private:
         const Owner owner{number, "slide", idText(parsed(given).value("ID"))};
         unheldDifferences(owner, {}, given, differences);
         properties(owner, parsed(given), found);
+        // What was beside values that are no items is a part of its key.
+        for (Item &item : foundItems) {
+            const QString holder = item.around < 0 ? QString() : foundItems.at(item.around).id();
+            item.isOfKey = item.around >= 0 && std::any_of(givenItems.begin(), givenItems.end(), [&](const Item &given) {
+                               return given.id() == holder && !given.isWhole && isContainer(given.type());
+                           });
+        }
         const QVector<int> places = matched(givenItems, foundItems);
         int last = -1;
         for (int i = 0; i < givenItems.size(); ++i) {
@@ -463,9 +470,7 @@ private:
             itemKeys(owner, item, back);
         }
         for (int i = 0; i < foundItems.size(); ++i) {
-            const int holder = places.indexOf(foundItems.at(i).around);
-            // What was beside values that are no items is a part of its key.
-            if (!places.contains(i) && (holder < 0 || givenItems.at(holder).isWhole)) {
+            if (!places.contains(i) && !foundItems.at(i).isOfKey) {
                 differences.append(
                     {{number, foundItems.at(i).type(), foundItems.at(i).id()}, {}, "nothing", "an item"});
             }
@@ -486,7 +491,7 @@ private:
             QVector<int> back;
             for (int j = 0; j < found.size(); ++j) {
                 const QString id = found.at(j).id();
-                if (id == it.key() || (id.startsWith(made) && !givenOfId.contains(id))) {
+                if (!found.at(j).isOfKey && (id == it.key() || (id.startsWith(made) && !givenOfId.contains(id)))) {
                     back.append(j);
                 }
             }
@@ -506,7 +511,7 @@ private:
                 for (int j = 0; j < found.size() && places.at(i) < 0; ++j) {
                     const bool isSame = isByType ? given.at(i).type() == found.at(j).type()
                                                  : given.at(i).id().isEmpty() && found.at(j).id().isEmpty();
-                    places[i] = isSame && !places.contains(j) ? j : -1;
+                    places[i] = isSame && !found.at(j).isOfKey && !places.contains(j) ? j : -1;
                 }
             }
         }
