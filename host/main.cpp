@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "command/command.h"
 #include "command/terminal.h"
+#include "files/language.h"
 #include "files/lessonerror.h"
 
 #include <QGuiApplication>
 #include <QJsonObject>
 #include <QLoggingCategory>
 
+#include <clocale>
 #include <memory>
 
 #include <fcntl.h>
@@ -33,7 +35,7 @@ void tell(const LessonError &error, bool asJson)
         try {
             printJson({{QStringLiteral("error"), error.toJson()}});
         } catch (const LessonError &unprinted) {
-            if (unprinted.message() != error.message()) {
+            if (unprinted.message().english() != error.message().english()) {
                 complain(unprinted.message());
             }
         }
@@ -74,6 +76,8 @@ int main(int argc, char **argv)
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
     // The same lesson gives the same bytes, whichever run writes it.
     qSetGlobalQHashSeed(0);
+    takeEncodingOfEnvironment();
+    speak(languageOfEnvironment());
     // Qt's own options, "--plugin" among them, are not for it to take.
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
@@ -82,6 +86,9 @@ int main(int argc, char **argv)
     int applicationArguments = 1;
     Command command(arguments);
     const auto application = applicationFor(command, applicationArguments, argv);
+    // Which it has set as the environment says: numbers in files have points, and what libraries say goes into reports.
+    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_MESSAGES, "C");
     QCoreApplication::setApplicationName(QStringLiteral("lessonconv"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LESSONCONV_VERSION));
     const bool asJson = arguments.contains(QLatin1String("--json"));
@@ -90,8 +97,7 @@ int main(int argc, char **argv)
     } catch (const LessonError &error) {
         tell(error, asJson);
     } catch (const std::exception &error) {
-        tell(LessonError(QStringLiteral("Something unexpected happened: %1").arg(QString::fromLocal8Bit(error.what()))),
-             asJson);
+        tell(unexpected(error), asJson);
     }
     return notDone;
 }

@@ -22,6 +22,8 @@ CommandProcess::Outcome CommandProcess::outcome()
 
 void CommandProcess::setupChildProcess()
 {
+    qputenv("LC_ALL", "C.UTF-8"); // whatever the tester's is
+    qputenv("LANGUAGE", language);
     if (prepare) {
         prepare();
     }
@@ -53,7 +55,7 @@ QMap<QString, QByteArray> contentOfTarget(const QString &target)
     try {
         unpackZip(target, unpacked.path());
     } catch (const LessonError &error) {
-        return {{error.message(), {}}};
+        return {{error.message().english(), {}}};
     }
     return filesBelow(unpacked.path());
 }
@@ -78,7 +80,7 @@ LossReport convertedLesson(const QString &from, const QString &to, const QString
                       format.isEmpty() ? lessonFormatOfOutput(to) : lessonFormatByName(format), to, complete,
                       [](int, int) {});
     } catch (const LessonError &error) {
-        qFatal("%s", qPrintable(error.message()));
+        qFatal("%s", qPrintable(error.message().english()));
     }
     return losses;
 }
@@ -87,7 +89,7 @@ QStringList detailsOf(const LossReport &losses)
 {
     QStringList texts;
     for (const Loss &loss : losses.entries()) {
-        texts.append(loss.itemType + ' ' + loss.key + ": " + loss.detail);
+        texts.append(loss.itemType + ' ' + loss.key + ": " + loss.detail.english());
     }
     return texts;
 }

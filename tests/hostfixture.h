@@ -28,6 +28,7 @@ public:
     };
 
     std::function<void()> prepare;
+    QByteArray language; //!< that the command is to speak, such as "de"; English where it is empty
 
     //! Starts it in a folder, or where the test is.
     void begin(const QStringList &arguments, const QString &folder = {});
@@ -52,8 +53,8 @@ QMap<QString, QByteArray> contentOfTarget(const QString &target);
 //! The reader of a lesson, in the format that its name tells. Throws LessonError.
 std::unique_ptr<LessonReader> openLesson(const QString &path, LossReport *losses = nullptr);
 
-//! Converts a lesson through the library, without what other boards pass over, and tells its losses; format stands for that of the output's name. Fails the
-//! program if it can't be.
+//! Converts a lesson through the library, without what other boards pass over, and tells its losses; format stands for
+//! that of the output's name. Fails the program if it can't be.
 LossReport convertedLesson(const QString &from, const QString &to, const QString &format = {},
                            const LessonContext &context = {});
 

@@ -174,7 +174,7 @@ private slots:
         try {
             QCOMPARE(reader->slide(0).items.size(), 1);
         } catch (const LessonError &error) {
-            message = error.message();
+            message = error.message().english();
         }
         QVERIFY2(named.isEmpty() ? message.isEmpty() : message.contains(named), qPrintable(message));
     }

@@ -71,7 +71,7 @@ private:
                 reader->slide(i);
             }
         } catch (const LessonError &error) {
-            message = error.message();
+            message = error.message().english();
         }
         // Ten times the processor time that any takes.
         const auto seconds = int((std::clock() - start) / CLOCKS_PER_SEC);
@@ -406,10 +406,12 @@ private slots:
         }
         const bool isRaw = file.endsWith(".xml");
         putFile(m_folder->filePath(file),
-                isRaw ? QByteArray("<presentation>" + pages + "</presentation>")
-                      : QByteArray("<iwb xmlns:svg='http://www.w3.org/2000/svg' xmlns:iwb='http://www.becta.org.uk/iwb'><svg:svg "
+                isRaw
+                    ? QByteArray("<presentation>" + pages + "</presentation>")
+                    : QByteArray(
+                        "<iwb xmlns:svg='http://www.w3.org/2000/svg' xmlns:iwb='http://www.becta.org.uk/iwb'><svg:svg "
                         "viewbox='0 0 800 600'><svg:pageset>"
-                    + pages + "</svg:pageset></svg:svg>" + records + "</iwb>"));
+                        + pages + "</svg:pageset></svg:svg>" + records + "</iwb>"));
         const auto outcome = runCommand({"info", file}, m_folder->path(), [] {
             const rlimit limit{50 << 20, 50 << 20};
             ::setrlimit(RLIMIT_DATA, &limit);

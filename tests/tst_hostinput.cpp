@@ -292,8 +292,8 @@ private slots:
             reader->slide(0);
             QFAIL("a slide that is only half there");
         } catch (const LessonError &error) {
-            QVERIFY2(error.message().contains(file) && error.message().contains("cut short"),
-                     qPrintable(error.message()));
+            QVERIFY2(error.message().english().contains(file) && error.message().english().contains("cut short"),
+                     qPrintable(error.message().english()));
         }
     }
 

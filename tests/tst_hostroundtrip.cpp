@@ -15,7 +15,7 @@ class TestHostRoundTrip : public QObject
 private:
     static QString convert(const QString &input, const QString &output)
     {
-        return convertedLesson(input, output).summary();
+        return convertedLesson(input, output).summary().english();
     }
 
     // start: what the files begin with, behind their declaration and comments.

@@ -186,7 +186,7 @@ private slots:
         }
         QStringList keys;
         for (const Loss &loss : losses.entries()) {
-            keys.append(loss.key + '=' + loss.detail);
+            keys.append(loss.key + '=' + loss.detail.english());
         }
         QStringList expected = lost.split(QRegularExpression(" (?=[@a-z/]+[\\[@=/])"), Qt::SkipEmptyParts);
         keys.sort();
@@ -221,16 +221,16 @@ private slots:
     void namesTheSameLossOnce()
     {
         LossReport losses;
-        losses.add({Loss::Value, 0, "presentation", {}, "Author", "A"});
+        losses.add({Loss::Value, 0, "presentation", {}, "Author", Sentence("A")});
         for (const int slide : {2, 3, 3, 4}) {
-            losses.add({Loss::Value, slide, "ZQImagePic", {}, "Effect", QString::number(slide)});
+            losses.add({Loss::Value, slide, "ZQImagePic", {}, "Effect", Sentence(QString::number(slide))});
         }
         losses.add({Loss::Value, 4, "ZQImagePic", {}, "Other", {}});
         for (const int slide : {1, 5, 5}) {
-            losses.add({Loss::Note, slide, "ZQGroupItem", {}, {}, "taken apart"});
+            losses.add({Loss::Note, slide, "ZQGroupItem", {}, {}, Sentence("taken apart")});
         }
-        losses.add({Loss::Note, 5, "ZQGroupItem", {}, {}, "empty"});
-        QCOMPARE(losses.summary(),
+        losses.add({Loss::Note, 5, "ZQGroupItem", {}, {}, Sentence("empty")});
+        QCOMPARE(losses.summary().english(),
                  "6 values lost: presentation.Author, ZQImagePic.Effect on slides 2 to 4 (4 times), "
                  "ZQImagePic.Other on slide 4\n"
                  "Note: ZQGroupItem on 2 slides from 1 to 5 (3 times): taken apart, ZQGroupItem on slide 5: empty");

@@ -302,7 +302,7 @@ private slots:
             QVERIFY(resource.isEmpty() || QFile::exists(reader->resourceFile(resource)));
         }
         QTEST(found, "types");
-        QVERIFY2(losses.lossCount() == 0, qPrintable(losses.summary()));
+        QVERIFY2(losses.lossCount() == 0, qPrintable(losses.summary().english()));
     }
 
     void refusesReferencesThatLeaveThePackage_data()
@@ -365,10 +365,10 @@ private slots:
             "{'Type':'ZQPhysicsDianZu','ID':'q'}]}]}";
         putFile(path("in.json"), QByteArray(text).replace('\'', '"'));
         const LossReport losses = convertedLesson(path("in.json"), path("out"), "iwb");
-        QVERIFY2(losses.summary().contains(
+        QVERIFY2(losses.summary().english().contains(
                      "5 items have no IWB form: 2 ZQPhysicsDianZu, 1 ZQMath2DNormalPentagon, 1 ZQMath2DRectangle, "
                      "1 ZQMindMapItem"),
-                 qPrintable(losses.summary()));
+                 qPrintable(losses.summary().english()));
         const QStringList found = detailsOf(losses);
         QVERIFY(found.contains("ZQTextBoard Text: x\x01]]>y"));
         QVERIFY(found.contains("ZQImagePic /etc/passwd: the lesson has no such file"));
@@ -432,7 +432,7 @@ private slots:
     void inkBecomesLines()
     {
         const LossReport losses = convertedLesson(EXAMPLES_DIR "/geometry", path("a"), "iwb");
-        QVERIFY(losses.summary().contains("2 strokes became polylines"));
+        QVERIFY(losses.summary().english().contains("2 strokes became polylines"));
         // Steps of 300,6 and 300,-4 from 120,930; three points are padded to four. An alpha of 128 / 255.
         QCOMPARE(differences(attributesOf(byId(contentOf(path("a")), "marker")),
                              json("{'points':'120,930 420,936 720,932 720,932','stroke':'rgb(255,238,0)',"
@@ -442,7 +442,7 @@ private slots:
         dropping.options.insert("ink", "drop");
         const LossReport dropped = convertedLesson(EXAMPLES_DIR "/geometry", path("b"), "iwb", dropping);
         QVERIFY(byId(contentOf(path("b")), "marker").isNull());
-        QVERIFY(dropped.summary().contains("1 ZQFluorescentStroke"));
+        QVERIFY(dropped.summary().english().contains("1 ZQFluorescentStroke"));
     }
 };
 

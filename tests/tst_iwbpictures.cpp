@@ -124,7 +124,7 @@ private slots:
                     + "</iwb>");
         const QImage wanted = drawn(svgDocument(QByteArray(content).replace("PICTURE", file.toUtf8())));
 
-        const QString report = convertedLesson(work.filePath("in"), work.filePath("1"), "iwb").summary();
+        const QString report = convertedLesson(work.filePath("in"), work.filePath("1"), "iwb").summary().english();
         convertedLesson(work.filePath("1"), work.filePath("2"), "zqtx");
         convertedLesson(work.filePath("2"), work.filePath("3.json"), "json");
         convertedLesson(work.filePath("3.json"), work.filePath("4"), "iwb");

@@ -104,7 +104,7 @@ public:
         try {
             return convert(from, to, format);
         } catch (const LessonError &error) {
-            throw std::runtime_error(qPrintable(error.message()));
+            throw std::runtime_error(qPrintable(error.message().english()));
         }
     }
 
@@ -203,8 +203,9 @@ QVector<Failure> disagreements(const QString &step, const Differences &differenc
             return tells(loss, difference) || (isGone && isOfSameItem(loss, difference.owner));
         });
         if (isLoss(loss) && !isTrue) {
-            failures.append(
-                {step + "false alarm", {{loss.slide, loss.itemType, loss.itemId}, loss.key, loss.detail, {}}, report});
+            failures.append({step + "false alarm",
+                             {{loss.slide, loss.itemType, loss.itemId}, loss.key, loss.detail.english(), {}},
+                             report});
         }
     }
     return failures;

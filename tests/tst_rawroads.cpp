@@ -108,7 +108,7 @@ private slots:
         openLesson(putLesson(item), &losses)->slide(0);
         QStringList found;
         for (const Loss &loss : losses.entries()) {
-            found.append(loss.key + ": " + loss.detail);
+            found.append(loss.key + ": " + loss.detail.english());
         }
         found.sort();
         QCOMPARE(found.join(", "), lost);
@@ -165,11 +165,11 @@ private slots:
     {
         const auto [shape, lost] = Table<QByteArray, QString>::cells();
         const QString raw = putLesson(shape);
-        QVERIFY(!convertedLesson(raw, path("direct"), "iwb").summary().contains("no IWB form"));
-        const QString report = convertedLesson(raw, path("package"), "zqtx").summary();
+        QVERIFY(!convertedLesson(raw, path("direct"), "iwb").summary().english().contains("no IWB form"));
+        const QString report = convertedLesson(raw, path("package"), "zqtx").summary().english();
         convertedLesson(path("package"), path("detour"), "iwb");
         if (lost.isEmpty()) {
-            QCOMPARE(report, "Note: items: 1 had a matrix, which is worked into where they stand");
+            QCOMPARE(report, "Note: items: 1 had a matrix, which is worked into where it stands");
             QCOMPARE(drawn(path("detour")), drawn(path("direct")));
         } else {
             QVERIFY2(report.contains(lost), qPrintable(report));
@@ -223,7 +223,7 @@ private slots:
                       "<ZQImagePic MultiMediaFile='tree.png' Bound='40,30,0,0,20,10'/>"
                       "<ZQImagePic MultiMediaFile='tree.png' Bound='8,6,0,0,4,2'/></GroupSonItems></ZQGroupItem>",
                       R"(BackColor='9,10,20,30' AttachFile='C:\tree.png|')");
-        QCOMPARE(convertedLesson(raw, path("package"), "zqtx").summary(),
+        QCOMPARE(convertedLesson(raw, path("package"), "zqtx").summary().english(),
                  "Note: items: 2 had a matrix, which is worked into where they stand"_s);
         const QByteArray slide = fileContent(path("package/slides/1.xml"));
         QVERIFY2(slide.contains("<color value=\"255,10,20,30\"/>"), slide);

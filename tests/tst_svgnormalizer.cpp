@@ -182,7 +182,7 @@ private slots:
         const IwbPage page = firstPage(svg);
         QVERIFY(!page.remarks.isEmpty());
         const SvgRemark &first = page.remarks.first();
-        const QString text = first.tag + ' ' + first.id + ": "_s + first.text;
+        const QString text = first.tag + ' ' + first.id + ": "_s + first.text.english();
         QVERIFY2(text.startsWith(remark), qPrintable(text));
     }
 };

@@ -53,7 +53,7 @@ int main(int argc, char **argv)
         }
         std::fprintf(stderr, "%s can't be written.\n", qPrintable(target));
     } catch (const LessonError &error) {
-        std::fprintf(stderr, "%s\n", qPrintable(error.message()));
+        std::fprintf(stderr, "%s\n", qPrintable(error.message().english()));
     }
     return 1;
 }

@@ -25,9 +25,21 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String failureKey("failure");
+const QLatin1String notesKey("notes");
 const QLatin1String inputKey("input");
 const QLatin1String outputKey("output");
 const QLatin1String resultKey("result");
+
+QJsonArray toJson(const Sentence &sentence)
+{
+    return {sentence.english(), sentence.local()};
+}
+
+Sentence sentenceFrom(const QJsonValue &value)
+{
+    const QJsonArray pair = value.toArray();
+    return {pair.at(0).toString(), pair.at(1).toString()};
+}
 
 class BatchRun
 {
@@ -86,8 +98,8 @@ public:
             throw LessonError(*m_failure);
         }
         if (!m_problem.isEmpty()) {
-            throw LessonError(QStringLiteral("A worker process can't be started: %1").arg(m_problem),
-                              QStringLiteral("Check that there is enough memory, or give fewer --jobs"));
+            throw LessonError(say("A worker process can't be started: %1").arg(m_problem),
+                              say("Check that there is enough memory, or give fewer --jobs"));
         }
         return m_result;
     }
@@ -151,7 +163,7 @@ private:
 
     bool isImpossible(int index)
     {
-        const QString problem = m_plan.lessons.at(index).problem;
+        const Sentence problem = m_plan.lessons.at(index).problem;
         if (!problem.isEmpty()) {
             fail(index, problem);
         }
@@ -178,7 +190,7 @@ private:
         const bool isThere = m_settings.keepsOutputs && (output.exists() || output.isSymLink());
         if (isThere) {
             fail(index,
-                 LessonError(QStringLiteral("%1 is there already, and is kept").arg(output.filePath()))
+                 LessonError(say("%1 is there already, and is kept").arg(output.filePath()))
                      .in(m_plan.lessons.at(index).input)
                      .message());
         }
@@ -213,8 +225,14 @@ private:
         while (worker.lesson >= 0 && worker.process->canReadLine()) {
             const QJsonObject answer = QJsonDocument::fromJson(worker.process->readLine()).object();
             if (answer.contains(failureKey)) {
-                fail(worker.lesson, answer.value(failureKey).toString());
+                fail(worker.lesson, sentenceFrom(answer.value(failureKey)));
             } else if (answer.contains(resultKey)) {
+                Sentences notes;
+                const QJsonArray given = answer.value(notesKey).toArray();
+                for (const QJsonValue &note : given) {
+                    notes.append(sentenceFrom(note));
+                }
+                m_result.totals.addNotes(notes);
                 succeed(worker.lesson, answer.value(resultKey).toObject());
             } else {
                 continue; // something that a library printed
@@ -246,11 +264,9 @@ private:
         PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
         if (isLate) {
             fail(worker.lesson,
-                 LessonError(QStringLiteral("The %1 took longer than %2 s")
-                                 .arg(m_settings.work->name)
-                                 .arg(m_settings.lessonSeconds),
-                             QStringLiteral("The other lessons are not concerned. Give this one more time with "
-                                            "--lesson-timeout, or try it without"))
+                 LessonError(say(m_settings.work->tooLong).arg(m_settings.lessonSeconds),
+                             say("The other lessons are not concerned. Give this one more time with "
+                                 "--lesson-timeout, or try it without"))
                      .in(m_plan.lessons.at(worker.lesson).input)
                      .message());
             giveNext(worker);
@@ -262,8 +278,8 @@ private:
             return;
         }
         fail(worker.lesson,
-             LessonError(QStringLiteral("The converter broke down over this lesson"),
-                         QStringLiteral("The other lessons are not concerned. Please send this one to the makers"))
+             LessonError(say("The converter broke down over this lesson"),
+                         say("The other lessons are not concerned. Please send this one to the makers"))
                  .in(m_plan.lessons.at(worker.lesson).input)
                  .message());
         giveNext(worker);
@@ -286,13 +302,13 @@ private:
         }
     }
 
-    void fail(int index, const QString &message)
+    void fail(int index, const Sentence &message)
     {
         tell(index, BatchTotals::Failed, {}, message);
         m_watcher.failure(message);
     }
 
-    void tell(int index, BatchTotals::State state, const QJsonObject &result, const QString &message = {})
+    void tell(int index, BatchTotals::State state, const QJsonObject &result, const Sentence &message = {})
     {
         ++m_done;
         m_result.totals.add(state, result);
@@ -356,20 +372,24 @@ BatchResult runBatch(const BatchPlan &plan, const BatchSettings &settings, const
     return BatchRun(plan, settings, watcher).run();
 }
 
-void serveBatch(const std::function<QJsonObject(const QString &, const QString &)> &work)
+void serveBatch(const std::function<BatchAnswer(const QString &, const QString &)> &work)
 {
     std::string line;
     while (std::getline(std::cin, line)) {
         const QJsonObject request = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
         QJsonObject answer;
         try {
-            answer.insert(resultKey, work(request.value(inputKey).toString(), request.value(outputKey).toString()));
+            const BatchAnswer given = work(request.value(inputKey).toString(), request.value(outputKey).toString());
+            answer.insert(resultKey, given.result);
+            QJsonArray notes;
+            for (const Sentence &note : given.notes) {
+                notes.append(toJson(note));
+            }
+            answer.insert(notesKey, notes);
         } catch (const LessonError &error) {
-            answer.insert(failureKey, error.message());
+            answer.insert(failureKey, toJson(error.message()));
         } catch (const std::exception &error) {
-            answer.insert(
-                failureKey,
-                QStringLiteral("Something unexpected happened: %1").arg(QString::fromLocal8Bit(error.what())));
+            answer.insert(failureKey, toJson(unexpected(error).message()));
         }
         std::cout << QJsonDocument(answer).toJson(QJsonDocument::Compact).constData() << std::endl;
     }

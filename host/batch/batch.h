@@ -29,9 +29,9 @@ struct BatchWatcher
 {
     //! name: the lesson that a worker took last.
     std::function<void(int done, int total, const QString &name)> progress;
-    std::function<void(const QString &message)> failure;
+    std::function<void(const Sentence &message)> failure;
     //! What became of a lesson of the plan, by its index; may be empty. May throw LessonError.
-    std::function<void(int index, BatchTotals::State state, const QJsonObject &result, const QString &message)> told;
+    std::function<void(int index, BatchTotals::State state, const QJsonObject &result, const Sentence &message)> told;
 };
 
 /*!
@@ -41,9 +41,19 @@ struct BatchWatcher
  */
 BatchResult runBatch(const BatchPlan &plan, const BatchSettings &settings, const BatchWatcher &watcher);
 
+/*!
+ * What a worker process has made of a lesson.
+ */
+struct BatchAnswer
+{
+    QJsonObject result;
+    Sentences notes; //!< those of the result, to be told
+};
+
 //! What a worker process does until its input ends: reads a line {"input", "output"} for each lesson and answers with a
-//! line, either {"result": what work returns} or {"failure": sentence}.
-void serveBatch(const std::function<QJsonObject(const QString &input, const QString &output)> &work);
+//! line, either {"result": what work returns, "notes": sentences} or {"failure": sentence}. Sentences are pairs of an
+//! English text and one in the user's language.
+void serveBatch(const std::function<BatchAnswer(const QString &input, const QString &output)> &work);
 
 } // namespace lessonhost
 

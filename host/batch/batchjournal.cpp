@@ -110,8 +110,7 @@ BatchJournal::BatchJournal(const QString &outputFolder, const QByteArray &settin
     const QFileInfo info(m_file);
     // Whoever may write in the folder could lead these lines into any file of this user.
     if (info.isSymLink() || (info.exists() && !info.isFile())) {
-        throw LessonError(QStringLiteral("This is no file that lessonconv has made"), QStringLiteral("Remove it"))
-            .in(m_file);
+        throw LessonError(say("This is no file that lessonconv has made"), say("Remove it")).in(m_file);
     }
     hold();
     if (readsOthers) {
@@ -132,8 +131,8 @@ int BatchJournal::opened() const
     const int descriptor = ::open(QFile::encodeName(m_file).constData(),
                                   O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
     if (descriptor < 0) {
-        throw LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(systemReason(errno)),
-                          QStringLiteral("Check that you may write there and that there is room"))
+        throw LessonError(say("Nothing can be written in this folder: %1").arg(systemReason(errno)),
+                          say("Check that you may write there and that there is room"))
             .in(m_folder);
     }
     return descriptor;
@@ -151,9 +150,8 @@ void BatchJournal::hold()
     }
     m_descriptor = descriptor;
     if (!isHeld) {
-        throw LessonError(
-            QStringLiteral("Another run is at work on shard %1 of %2").arg(m_shard.number).arg(m_shard.count),
-            QStringLiteral("Wait for its end, or end it"))
+        throw LessonError(say("Another run is at work on shard %1 of %2").arg(m_shard.number).arg(m_shard.count),
+                          say("Wait for its end, or end it"))
             .in(m_folder);
     }
 }
@@ -171,8 +169,8 @@ void BatchJournal::write(const QByteArray &text) const
     while (done < text.size()) {
         const ssize_t count = ::write(m_descriptor, text.constData() + done, std::size_t(text.size() - done));
         if (count < 0 && errno != EINTR) {
-            throw LessonError(QStringLiteral("What is done can't be noted for --resume: %1").arg(systemReason(errno)),
-                              QStringLiteral("Check that there is room"))
+            throw LessonError(say("What is done can't be noted for --resume: %1").arg(systemReason(errno)),
+                              say("Check that there is room"))
                 .in(m_file);
         }
         done += qMax<ssize_t>(count, 0);

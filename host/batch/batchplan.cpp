@@ -78,8 +78,7 @@ public:
     {
         const QString own = QFileInfo(folder).canonicalFilePath();
         if (own == m_output || own.startsWith(m_output + QLatin1Char('/'))) {
-            throw LessonError(QStringLiteral("The results would lie among the lessons"),
-                              QStringLiteral("Give another folder with --out-dir"))
+            throw LessonError(say("The results would lie among the lessons"), say("Give another folder with --out-dir"))
                 .in(m_shownOutput);
         }
         // A stack of its own: folders may lie in each other deeper than calls may.
@@ -95,9 +94,8 @@ public:
             int error = 0;
             const QVector<Folder::Entry> entries = Folder(path).entries(&error);
             if (error) {
-                addProblem(path, placeOfPath,
-                           QStringLiteral("The folder can't be searched: %1").arg(systemReason(error)),
-                           QStringLiteral("Check that you may read it"));
+                addProblem(path, placeOfPath, say("The folder can't be searched: %1").arg(systemReason(error)),
+                           say("Check that you may read it"));
             }
             for (const Folder::Entry &found : entries) {
                 if (found.name.startsWith('.')) {
@@ -181,7 +179,7 @@ private:
         return place.left(place.lastIndexOf(QLatin1Char('/')) + 1).toCaseFolded();
     }
 
-    void addProblem(const QString &input, const QString &place, const QString &problem, const QString &remedy)
+    void addProblem(const QString &input, const QString &place, const Sentence &problem, const Sentence &remedy)
     {
         if (count(place)) {
             m_plan.lessons.append({input, {}, nullptr, LessonError(problem, remedy).in(input).message()});
@@ -194,8 +192,7 @@ private:
         const QString shown = entry.shown();
         if (entry.isFolder() || lessonStem(shown) != shown) {
             addProblem(folder + QLatin1Char('/') + shown, place + shown,
-                       QStringLiteral("This name is no UTF-8, so that it can't be looked into"),
-                       QStringLiteral("Give it another name"));
+                       say("This name is no UTF-8, so that it can't be looked into"), say("Give it another name"));
         }
     }
 
@@ -229,15 +226,14 @@ private:
     {
         const LessonFormat *format = formatOf(entry);
         if (!format && !entry.isDir() && !entry.isFile()) {
-            entry.exists()
-                ? m_plan.passedOver.append(entry.filePath())
-                : m_plan.lessons.append({entry.filePath(),
-                                         {},
-                                         nullptr,
-                                         LessonError(QStringLiteral("This is a link to nothing"),
-                                                     QStringLiteral("Remove it, or put the lesson in its place"))
-                                             .in(entry.filePath())
-                                             .message()});
+            entry.exists() ? m_plan.passedOver.append(entry.filePath())
+                           : m_plan.lessons.append({entry.filePath(),
+                                                    {},
+                                                    nullptr,
+                                                    LessonError(say("This is a link to nothing"),
+                                                                say("Remove it, or put the lesson in its place"))
+                                                        .in(entry.filePath())
+                                                        .message()});
             return true;
         }
         if (!format || (m_from && format != m_from) || (entry.isDir() && entry.isSymLink())) {
@@ -288,21 +284,21 @@ private:
             lesson.output = isFree ? result : QString(lesson.output + m_extension);
             const QString folded = lesson.output.toCaseFolded();
             if (inputs.contains(folded)) {
-                throw LessonError(QStringLiteral("This lesson and %1 would both be written as %2")
-                                      .arg(inputs.value(folded), lesson.output),
-                                  QStringLiteral("Rename one of them, or convert them into different folders"))
+                throw LessonError(
+                    say("This lesson and %1 would both be written as %2").arg(inputs.value(folded), lesson.output),
+                    say("Rename one of them, or convert them into different folders"))
                     .in(lesson.input);
             }
             inputs.insert(folded, lesson.input);
             if (QFileInfo(lesson.input).canonicalFilePath() == m_output + QLatin1Char('/') + lesson.output) {
-                throw LessonError(QStringLiteral("The result would take the place of the lesson itself"),
-                                  QStringLiteral("Give another folder with --out-dir"))
+                throw LessonError(say("The result would take the place of the lesson itself"),
+                                  say("Give another folder with --out-dir"))
                     .in(lesson.input);
             }
             m_plan.inputs.check(m_shownOutput + QLatin1Char('/') + lesson.output);
             if (m_seen.contains(keyOf(m_output + QLatin1Char('/') + lesson.output))) {
-                throw LessonError(QStringLiteral("The result would take the place of a lesson, %1").arg(lesson.output),
-                                  QStringLiteral("Give another folder with --out-dir"))
+                throw LessonError(say("The result would take the place of a lesson, %1").arg(lesson.output),
+                                  say("Give another folder with --out-dir"))
                     .in(lesson.input);
             }
         }
@@ -338,8 +334,8 @@ BatchPlan planBatch(const QStringList &inputs, const LessonFormat *from, const Q
     }
     BatchPlan plan = planner.take();
     if (plan.lessons.isEmpty() && (shard.isWhole() || plan.found == 0)) {
-        throw LessonError(QStringLiteral("There are no lessons in it"),
-                          QStringLiteral("See lessonconv formats for the names that lessons have"))
+        throw LessonError(say("There are no lessons in it"),
+                          say("See lessonconv formats for the names that lessons have"))
             .in(inputs.join(QLatin1String(", ")));
     }
     return plan;

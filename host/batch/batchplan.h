@@ -4,6 +4,7 @@
 
 #include "batch/batchshard.h"
 #include "files/inputguard.h"
+#include "files/sentence.h"
 #include "formats/lessonformats.h"
 
 #include <QVector>
@@ -20,7 +21,7 @@ struct BatchPlan
         QString input; //!< as the user called it, or the folder as the user called it and the way from there
         QString output; //!< relative to the folder for the results, with "/" between the parts
         const LessonFormat *format = nullptr; //!< null where none can be told: reading it will say so
-        QString problem; //!< why it can't be converted at all, as a sentence; then it has no output
+        Sentence problem; //!< why it can't be converted at all, as a sentence; then it has no output
     };
 
     QVector<Lesson> lessons; //!< ascending by output

@@ -82,12 +82,12 @@ QJsonObject BatchRecords::entry(int index, BatchTotals::State state, const Batch
             {QStringLiteral("state"), BatchTotals::stateName(state, work)}};
 }
 
-void BatchRecords::put(int index, BatchTotals::State state, const QJsonObject &result, const QString &message,
+void BatchRecords::put(int index, BatchTotals::State state, const QJsonObject &result, const Sentence &message,
                        const BatchWork &work)
 {
     QJsonObject told = entry(index, state, work);
     if (state == BatchTotals::Failed) {
-        told.insert(QStringLiteral("message"), message);
+        told.insert(QStringLiteral("message"), message.english());
     } else {
         told.insert(work.resultKey, result);
     }

@@ -52,7 +52,7 @@ public:
     ~BatchRecords();
 
     //! index: in the plan. result: what the work made of it, where there is something.
-    void put(int index, BatchTotals::State state, const QJsonObject &result, const QString &message,
+    void put(int index, BatchTotals::State state, const QJsonObject &result, const Sentence &message,
              const BatchWork &work);
 
     //! Writes the report, with lessons that nothing was put for as open ones.

@@ -28,44 +28,43 @@ const QLatin1String takenKey("taken");
 
 constexpr auto states = {BatchTotals::Done, BatchTotals::DoneBefore, BatchTotals::Failed, BatchTotals::Open};
 
-QString counted(qint64 count, const QString &what)
-{
-    return QString::number(count) + QLatin1Char(' ') + what;
-}
-
-// One of two words, by the number.
-QString counted(qint64 count, const char *one, const char *several)
-{
-    return counted(count, QLatin1String(count == 1 ? one : several));
-}
-
 qint64 number(const QJsonObject &object, QLatin1String key)
 {
     return qint64(object.value(key).toDouble());
 }
 
 // "3, 7 to 9"
-QString ranges(const QVector<int> &numbers)
+Sentence ranges(const QVector<int> &numbers)
 {
-    QStringList parts;
+    Sentences parts;
     for (int i = 0; i < numbers.size();) {
         int last = i;
         while (last + 1 < numbers.size() && numbers.at(last + 1) == numbers.at(last) + 1) {
             ++last;
         }
-        parts.append(last == i ? QString::number(numbers.at(i))
-                               : QStringLiteral("%1 to %2").arg(numbers.at(i)).arg(numbers.at(last)));
+        parts.append(last == i ? Sentence(QString::number(numbers.at(i)))
+                               : say("%1 to %2").arg(numbers.at(i), numbers.at(last)));
         i = last + 1;
     }
-    return parts.join(QLatin1String(", "));
+    return listed(parts);
 }
 
 } // namespace
 
-const BatchWork BatchWork::conversion{
-    QStringLiteral("conversion"), QStringLiteral("converted"), lossesKey, {QStringLiteral("entries")}};
-const BatchWork BatchWork::drawing{QStringLiteral("drawing"),
-                                   QStringLiteral("drawn"),
+const BatchWork BatchWork::conversion{QStringLiteral("converted"),
+                                      TO_SAY_NUMBER("%n converted"),
+                                      TO_SAY_NUMBER("%n not converted"),
+                                      TO_SAY("Not converted:"),
+                                      TO_SAY_NUMBER("Not converted, of %n lessons the first %1:"),
+                                      TO_SAY("The conversion took longer than %1 s"),
+                                      lossesKey,
+                                      {QStringLiteral("entries")}};
+const BatchWork BatchWork::drawing{QStringLiteral("drawn"),
+                                   TO_SAY_NUMBER("%n drawn"),
+                                   TO_SAY_NUMBER("%n not drawn"),
+                                   TO_SAY("Not drawn:"),
+                                   TO_SAY_NUMBER("Not drawn, of %n lessons the first %1:"),
+                                   TO_SAY("The drawing took longer than %1 s"),
                                    QStringLiteral("drawn"),
                                    {QStringLiteral("files"), namedKey, QStringLiteral("missingFonts"), notesKey}};
 
@@ -91,9 +90,12 @@ void BatchTotals::add(State state, const QJsonObject &result)
     m_losses += losses;
     m_lessonsWithLosses += losses > 0 ? 1 : 0;
     kinds.addLesson(result.value(kindsKey).toObject());
-    const QJsonArray notes = result.value(notesKey).toArray();
-    if (m_notes == 0) {
-        m_note = notes.first().toString();
+}
+
+void BatchTotals::addNotes(const Sentences &notes)
+{
+    if (m_notes == 0 && !notes.isEmpty()) {
+        m_note = notes.first();
     }
     m_notes += notes.size();
 }
@@ -175,57 +177,49 @@ QVector<int> BatchTotals::missingShards() const
     return missing;
 }
 
-QString BatchTotals::summary(const QString &whoNames) const
+Sentence BatchTotals::summary(const Sentence &whoNames) const
 {
-    QStringList parts{counted(count(Done), work->done)};
-    for (const auto &[state, what] : {std::pair(DoneBefore, QStringLiteral("done before")),
-                                      {Failed, QString(QLatin1String("not ") + work->done)},
-                                      {Open, QStringLiteral("not begun")}}) {
+    Sentences parts{sayNumber(work->doneCount, count(Done))};
+    for (const auto &[state, text] : {std::pair(DoneBefore, TO_SAY_NUMBER("%n done before")),
+                                      {Failed, work->undoneCount},
+                                      {Open, TO_SAY_NUMBER("%n not begun")}}) {
         if (count(state) > 0) {
-            parts.append(counted(count(state), what));
+            parts.append(sayNumber(text, count(state)));
         }
     }
-    QString text = counted(lessons(), "lesson: ", "lessons: ") + parts.join(QLatin1String(", ")) + QLatin1String(".\n");
+    Sentences lines{sayNumber("%n lessons: %1.", lessons()).arg(listed(parts))};
     if (m_lessonsWithLosses > 0) {
-        text += QStringLiteral("%1 lost something, %2 in all; %3 names each.\n")
-                    .arg(counted(m_lessonsWithLosses, "lesson", "lessons"),
-                         counted(m_losses, "value, item or file", "values, items or files"), whoNames);
+        lines.append(sayNumber("%n lessons lost something, %1 in all; %2 names each.", m_lessonsWithLosses)
+                         .arg(sayNumber("%n values, items or files", m_losses), whoNames));
     }
     if (const qint64 named = namedCount()) {
-        text +=
-            QStringLiteral("%1 shown by name; %2 names each.\n").arg(counted(named, "item is", "items are"), whoNames);
+        lines.append(sayNumber("%n items are shown by name; %1 names each.", named).arg(whoNames));
     }
     if (m_notes > 0) {
-        text += QStringLiteral("%1, such as: %2.\n")
-                    .arg(counted(m_notes, "note on a font that isn't here", "notes on fonts that aren't here"), m_note);
+        lines.append(sayNumber("%n notes on fonts that aren't here, such as: %1.", m_notes).arg(m_note));
     }
     if (m_passedOver > 0) {
-        text += m_passedOver == 1
-            ? QStringLiteral("1 file is called like a lesson and is none: %1.\n").arg(m_passedOverFile)
-            : QStringLiteral("%1 files are called like lessons and are none, such as %2.\n")
-                  .arg(m_passedOver)
-                  .arg(m_passedOverFile);
+        lines.append(sayNumber("%n files are called like lessons and are none, such as %1.", m_passedOver)
+                         .arg(m_passedOverFile));
     }
     if (isInterrupted) {
-        text += QLatin1String("Interrupted. The same command with --resume does the rest.\n");
+        lines.append(say("Interrupted. The same command with --resume does the rest."));
     }
-    return text;
+    return onLines(lines);
 }
 
-QString BatchTotals::shardSummary() const
+Sentence BatchTotals::shardSummary() const
 {
     const QVector<int> missing = missingShards();
     if (missing.isEmpty()) {
-        return notTaken() == 0 ? QString()
-                               : QStringLiteral("%1 came while the shards were at work, and no shard took what came: "
-                                                "with --resume, they do.\n")
-                                     .arg(counted(notTaken(), "lesson", "lessons"));
+        return notTaken() == 0 ? Sentence()
+                               : sayNumber("%n lessons came while the shards were at work, and no shard took what "
+                                           "came: with --resume, they do.",
+                                           notTaken());
     }
-    return (missing.size() == 1 ? QStringLiteral("There is no report of shard %1 of %2, to which %3 fell.\n")
-                                : QStringLiteral("There is no report of shards %1 of %2, to which %3 fell.\n"))
-        .arg(ranges(missing))
-        .arg(m_shards)
-        .arg(counted(notTaken(), "lesson", "lessons"));
+    return (missing.size() == 1 ? say("There is no report of shard %1 of %2, to which %3 fell.")
+                                : say("There is no report of shards %1 of %2, to which %3 fell."))
+        .arg(ranges(missing), m_shards, sayNumber("%n lessons", notTaken()));
 }
 
 QJsonObject BatchTotals::toHead() const

@@ -22,8 +22,13 @@ struct BatchPlan;
  */
 struct BatchWork
 {
-    QString name; //!< "conversion"
-    QString done; //!< "converted"
+    QString done; //!< what reports call a lesson with which all went well
+    // For sayNumber() and, with %1 for seconds, say().
+    const char *doneCount;
+    const char *undoneCount;
+    const char *undone;
+    const char *someUndone; //!< with %1 for how many are named
+    const char *tooLong;
     QString resultKey; //!< what the report calls the result of a lesson
     QStringList details; //!< parts of a result that aren't kept for a later run, nor for a report over many runs
 
@@ -54,6 +59,8 @@ public:
 
     //! A lesson, with what the work made of it.
     void add(State state, const QJsonObject &result = {});
+    //! What is to be noted of a lesson.
+    void addNotes(const Sentences &notes);
     //! A file that is called like a lesson and is none.
     void passOver(const QString &file);
     //! The plan of a run: how many lessons there are in all, and which shard this is.
@@ -72,9 +79,9 @@ public:
 
     //! "12 lessons: 10 converted, 1 done before, 1 not converted." and what was lost, as sentences. whoNames: where
     //! each loss is named.
-    QString summary(const QString &whoNames) const;
+    Sentence summary(const Sentence &whoNames) const;
     //! What has to be said of shards; empty where there are none, or all.
-    QString shardSummary() const;
+    Sentence shardSummary() const;
 
     //! What a report begins with: {"counts", "interrupted", "kinds", "shards"}.
     QJsonObject toHead() const;
@@ -90,7 +97,7 @@ private:
     qint64 m_losses = 0;
     qint64 m_lessonsWithLosses = 0;
     qint64 m_notes = 0;
-    QString m_note; // the first one
+    Sentence m_note; // the first one
     qint64 m_passedOver = 0;
     QString m_passedOverFile; // the first one
     int m_shards = 0;

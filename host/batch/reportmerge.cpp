@@ -31,8 +31,7 @@ class ReportReader final : public JsonWalker
 {
 public:
     ReportReader(const QString &path, int pieceSize)
-        : JsonWalker(path, QStringLiteral("Give files that lessonconv has written with --report about many lessons"),
-                     pieceSize)
+        : JsonWalker(path, say("Give files that lessonconv has written with --report about many lessons"), pieceSize)
         , m_path(path)
     {
         setSize(InputFile(path).size());
@@ -56,7 +55,7 @@ public:
         const Place before = m_place;
         readLesson();
         if (m_place < before) {
-            fail(QStringLiteral("The lessons of this report aren't in their order"), position());
+            fail(say("The lessons of this report aren't in their order"), position());
         }
         return true;
     }
@@ -80,7 +79,7 @@ public:
         expect('}');
         skipBlanks();
         if (position() != size()) {
-            fail(QStringLiteral("There is something behind the end of the report"), position());
+            fail(say("There is something behind the end of the report"), position());
         }
     }
 
@@ -104,7 +103,7 @@ private:
         }
         m_totals = BatchTotals::fromHead(head);
         if (!hasLessons || !m_totals.work) {
-            fail(QStringLiteral("This is no report on many lessons"), 0);
+            fail(say("This is no report on many lessons"), 0);
         }
         expect('[');
     }
@@ -143,13 +142,13 @@ using Readers = std::vector<std::unique_ptr<ReportReader>>;
 void checkBelongTogether(const ReportReader &first, const ReportReader &other)
 {
     if (other.totals().work != first.totals().work) {
-        throw LessonError(QStringLiteral("This report is on another work than %1").arg(first.path()),
-                          QStringLiteral("Put conversions and drawings together by themselves"))
+        throw LessonError(say("This report is on another work than %1").arg(first.path()),
+                          say("Put conversions and drawings together by themselves"))
             .in(other.path());
     }
     if (other.totals().shards() != first.totals().shards()) {
-        throw LessonError(QStringLiteral("This report is on another number of shards than %1").arg(first.path()),
-                          QStringLiteral("Give the reports of one run over all shards"))
+        throw LessonError(say("This report is on another number of shards than %1").arg(first.path()),
+                          say("Give the reports of one run over all shards"))
             .in(other.path());
     }
 }
@@ -170,9 +169,8 @@ template <typename Take> void eachLesson(const Readers &readers, const Take &tak
         ReportReader *reader = waiting.top();
         waiting.pop();
         if (!waiting.empty() && waiting.top()->place() == reader->place()) {
-            throw LessonError(
-                QStringLiteral("%1 is in this report and in %2").arg(reader->place().second, waiting.top()->path()),
-                QStringLiteral("Give one report of each run"))
+            throw LessonError(say("%1 is in this report and in %2").arg(reader->place().second, waiting.top()->path()),
+                              say("Give one report of each run"))
                 .in(reader->path());
         }
         take(*reader);

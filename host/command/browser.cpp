@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/browser.h"
 
+#include "files/language.h"
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
 
@@ -38,9 +39,9 @@ QString pageFolder()
     const int error = errno;
     if (!isMade || ::lstat(name.constData(), &there) != 0 || !S_ISDIR(there.st_mode) || there.st_uid != ::geteuid()
         || (there.st_mode & 077) != 0) {
-        throw LessonError(QStringLiteral("There can't be a folder for pages here: %1")
-                              .arg(isMade ? QStringLiteral("what is there isn't yours alone") : systemReason(error)),
-                          QStringLiteral("Draw the lesson with lessonconv render LESSON PAGE.html and open the page"))
+        throw LessonError(say("There can't be a folder for pages here: %1")
+                              .arg(isMade ? say("what is there isn't yours alone") : systemReason(error)),
+                          say("Draw the lesson with lessonconv render LESSON PAGE.html and open the page"))
             .in(folder);
     }
     return folder;
@@ -58,17 +59,17 @@ void openInBrowser(const QString &page)
         return;
     }
     if (!isStarted || opener->exitStatus() != QProcess::NormalExit || opener->exitCode() != 0) {
-        throw LessonError(QStringLiteral("The page is drawn, but no browser could be opened"),
-                          QStringLiteral("Open the page yourself"))
+        throw LessonError(say("The page is drawn, but no browser could be opened"), say("Open the page yourself"))
             .in(page);
     }
 }
 
-void writeFailurePage(const QString &page, const QString &message)
+void writeFailurePage(const QString &page, const Sentence &message)
 {
     PackageTarget target(page);
-    target.file().put("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>lessonconv</title></head>\n<body><p>"
-                      + message.toHtmlEscaped().toUtf8() + "</p></body></html>\n");
+    target.file().put("<!DOCTYPE html>\n<html lang=\"" + languageTag(spokenLanguage()).toUtf8()
+                      + "\"><head><meta charset=\"utf-8\"><title>lessonconv</title></head>\n<body><p>"
+                      + message.local().toHtmlEscaped().toUtf8() + "</p></body></html>\n");
     target.commit();
 }
 

@@ -2,6 +2,8 @@
 #ifndef BROWSER_H
 #define BROWSER_H
 
+#include "files/sentence.h"
+
 #include <QString>
 
 namespace lessonhost {
@@ -15,7 +17,7 @@ QString pageFolder();
 void openInBrowser(const QString &page);
 
 //! Writes a page that says why there is nothing to be seen, for people who see no terminal. Throws LessonError.
-void writeFailurePage(const QString &page, const QString &message);
+void writeFailurePage(const QString &page, const Sentence &message);
 
 } // namespace lessonhost
 

@@ -39,10 +39,9 @@ enum ExitCode { Done = 0, DoneWithLosses = 1, NotDone = 2 };
 
 constexpr int anyNumber = std::numeric_limits<int>::max();
 
-const char *const usageBegin = "Converts lessons of interactive whiteboards and tells what is in them.\n\n";
+const char *const usageBegin = TO_SAY("Converts lessons of interactive whiteboards and tells what is in them.");
 
-const char *const usageEnd = R"(
-Examples:
+const char *const usageExamples = R"(
   lessonconv convert lesson.zqtx lesson.iwb
   lessonconv convert lesson.json lesson.zqtx --report losses.json
   lessonconv convert lessons/ --to iwb --out-dir converted/ --resume
@@ -54,9 +53,11 @@ Examples:
   lessonconv render --diff lesson.zqtx lesson.iwb difference.html
   lessonconv info lesson.zqtx
 
-The lesson that is read is never changed. What the other format can't hold is
-named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
-2 not done.)";
+)";
+
+const char *const usageEnd = TO_SAY("The lesson that is read is never changed. What the other format can't hold is\n"
+                                    "named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,\n"
+                                    "2 not done.");
 
 const char *const serveWord = "serve";
 const char *const servePicturesWord = "serve-pictures";
@@ -65,25 +66,27 @@ const char *const manyOption = "out-dir";
 // What stands before a purpose in the help.
 constexpr int purposeColumn = 36;
 
-QString usage()
+Sentence usage()
 {
-    QString text = QLatin1String(usageBegin);
+    Sentence text = say(usageBegin) + Sentence(QStringLiteral("\n\n"));
     for (const Command::Word &word : Command::words()) {
         if (!word.purpose) {
             continue;
         }
         const QString call =
             QStringLiteral("  lessonconv %1 %2").arg(QLatin1String(word.word), QLatin1String(word.arguments));
-        text += call.size() < purposeColumn - 1
-            ? call.leftJustified(purposeColumn)
-            : QString(call + QLatin1Char('\n') + QString(purposeColumn, QLatin1Char(' ')));
-        text += QLatin1String(word.purpose) + QLatin1Char('\n');
+        text = text
+            + Sentence(call.size() < purposeColumn - 1
+                           ? call.leftJustified(purposeColumn)
+                           : QString(call + QLatin1Char('\n') + QString(purposeColumn, QLatin1Char(' '))))
+            + say(word.purpose) + Sentence(QStringLiteral("\n"));
     }
-    return text + QLatin1String(usageEnd);
+    return text + Sentence(QStringLiteral("\n")) + say("Examples:") + Sentence(QString::fromLatin1(usageExamples))
+        + say(usageEnd);
 }
 
 // "convert, render, info or formats"
-QString wordList()
+Sentence wordList()
 {
     QStringList words;
     for (const Command::Word &word : Command::words()) {
@@ -91,8 +94,7 @@ QString wordList()
             words.append(QLatin1String(word.word));
         }
     }
-    const QString last = words.takeLast();
-    return words.join(QLatin1String(", ")) + QLatin1String(" or ") + last;
+    return listedWithOr(words);
 }
 
 /*!
@@ -135,8 +137,7 @@ void checkReport(const QString &report, const InputGuard &inputs, const QStringL
     inputs.check(report);
     for (const QString &output : outputs) {
         if (isSamePlace(report, output) || liesIn(report, output)) {
-            throw LessonError(QStringLiteral("The report would stand where %1 does").arg(output),
-                              QStringLiteral("Give it another name"))
+            throw LessonError(say("The report would stand where %1 does").arg(output), say("Give it another name"))
                 .in(report);
         }
     }
@@ -158,22 +159,22 @@ QStringList outputsOf(const BatchPlan &plan, const QString &folder)
 const std::vector<Command::Word> &Command::words()
 {
     static const std::vector<Word> words{
-        {"convert", nullptr, "INPUT OUTPUT", "converts a lesson; the names say the formats", 1, anyNumber,
+        {"convert", nullptr, "INPUT OUTPUT", TO_SAY("converts a lesson; the names say the formats"), 1, anyNumber,
          &Command::convertMeasuresText, &Command::convertOne},
-        {"convert", "out-dir", "INPUTS... --to FORMAT --out-dir FOLDER", "converts many lessons, or all in a folder", 1,
-         anyNumber, &Command::never, &Command::convertMany},
-        {"render", nullptr, "INPUT OUTPUT", "draws the slides as .html, .pdf, .svg, .png, .jpg or .webp", 2, 2,
+        {"convert", "out-dir", "INPUTS... --to FORMAT --out-dir FOLDER",
+         TO_SAY("converts many lessons, or all in a folder"), 1, anyNumber, &Command::never, &Command::convertMany},
+        {"render", nullptr, "INPUT OUTPUT", TO_SAY("draws the slides as .html, .pdf, .svg, .png, .jpg or .webp"), 2, 2,
          &Command::always, &Command::render},
-        {"render", "out-dir", "INPUTS... --to FORM --out-dir FOLDER", "draws many lessons, or all in a folder", 1,
-         anyNumber, &Command::never, &Command::renderMany},
-        {"render", "diff", "--diff A B OUTPUT.html", "two lessons side by side, and what B lacks", 3, 3,
+        {"render", "out-dir", "INPUTS... --to FORM --out-dir FOLDER", TO_SAY("draws many lessons, or all in a folder"),
+         1, anyNumber, &Command::never, &Command::renderMany},
+        {"render", "diff", "--diff A B OUTPUT.html", TO_SAY("two lessons side by side, and what B lacks"), 3, 3,
          &Command::always, &Command::renderDifference},
-        {"report", nullptr, "REPORTS...", "what became of all lessons, by the reports of many runs", 1, anyNumber,
-         &Command::never, &Command::mergeMany},
-        {"show", nullptr, "INPUT", "opens a lesson in the browser", 1, 1, &Command::always, &Command::show},
-        {"info", nullptr, "INPUT", "page size, slides, items, missing files", 1, 1, &Command::infoMeasuresText,
+        {"report", nullptr, "REPORTS...", TO_SAY("what became of all lessons, by the reports of many runs"), 1,
+         anyNumber, &Command::never, &Command::mergeMany},
+        {"show", nullptr, "INPUT", TO_SAY("opens a lesson in the browser"), 1, 1, &Command::always, &Command::show},
+        {"info", nullptr, "INPUT", TO_SAY("page size, slides, items, missing files"), 1, 1, &Command::infoMeasuresText,
          &Command::info},
-        {"formats", nullptr, "", "the formats and their file names", 0, 0, &Command::never, &Command::formats},
+        {"formats", nullptr, "", TO_SAY("the formats and their file names"), 0, 0, &Command::never, &Command::formats},
         // For those who install the command.
         {"completion", nullptr, "SHELL", nullptr, 1, 1, &Command::never, &Command::completion},
         // What worker processes of convertMany() and renderMany() do.
@@ -234,12 +235,12 @@ bool Command::serveMeasuresText(const QStringList &) const
 int Command::run()
 {
     if (!m_line.isUnderstood()) {
-        throw LessonError(m_line.problem(), QStringLiteral("See lessonconv --help"));
+        throw LessonError(m_line.problem(), say("See lessonconv --help"));
     }
     if (m_line.isSet("version")) {
         print(QLatin1String("lessonconv ") + QCoreApplication::applicationVersion() + QLatin1Char('\n'));
         const PluginHost host(value("plugin"));
-        print(QStringLiteral("plug-in %1, %2\n").arg(host.version(), host.fileName()));
+        print(say("plug-in %1, %2").arg(host.version(), host.fileName()));
         return Done;
     }
     if (m_line.isSet("verbose")) {
@@ -277,15 +278,15 @@ void Command::tellWhatIsMissing() const
         }
     }
     if (!fitting) {
-        throw LessonError(QStringLiteral("There is no command \"%1\"").arg(given),
-                          QStringLiteral("Say %1; lessonconv --help tells more").arg(wordList()));
+        throw LessonError(say("There is no command \"%1\"").arg(given),
+                          say("Say %1; lessonconv --help tells more").arg(wordList()));
     }
     const QString call = QStringLiteral("lessonconv %1 %2").arg(given, QLatin1String(fitting->arguments)).trimmed();
-    const QString problem = files > fitting->mostFiles ? QStringLiteral("%1 takes no more files than %2")
-        : files == 0                                   ? QStringLiteral("%1 needs a lesson")
-                                                       : QStringLiteral("%1 needs a name for the result as well");
-    throw LessonError(files > fitting->mostFiles ? problem.arg(given).arg(fitting->mostFiles) : problem.arg(given),
-                      QStringLiteral("The call is: %1").arg(call));
+    const Sentence problem = files > fitting->mostFiles ? say("%1 takes no more files than %2")
+        : files == 0                                    ? say("%1 needs a lesson")
+                                                        : say("%1 needs a name for the result as well");
+    throw LessonError(files > fitting->mostFiles ? problem.arg(given, fitting->mostFiles) : problem.arg(given),
+                      say("The call is: %1").arg(call));
 }
 
 // Who gives an option expects something of it.
@@ -303,9 +304,9 @@ void Command::checkOptions(const Word &word) const
                     QStringLiteral("\"%1 %2\"").arg(QLatin1String(other.word), QLatin1String(other.arguments)));
             }
         }
-        throw LessonError(QStringLiteral("This call of %1 makes no use of --%2")
-                              .arg(QLatin1String(word.word), QLatin1String(option.name)),
-                          QStringLiteral("Leave it out; it is for %1").arg(takers.join(QStringLiteral(" and "))));
+        throw LessonError(
+            say("This call of %1 makes no use of --%2").arg(QLatin1String(word.word), QLatin1String(option.name)),
+            say("Leave it out; it is for %1").arg(listedWithAnd(takers)));
     }
 }
 
@@ -326,8 +327,8 @@ const LessonFormat &Command::outputFormat(const QString &output) const
     }
     checkIsTold(output);
     if (isPictureName(output)) {
-        throw LessonError(QStringLiteral("This is the name of a picture or a page, which convert doesn't make"),
-                          QStringLiteral("Say lessonconv render instead of lessonconv convert"))
+        throw LessonError(say("This is the name of a picture or a page, which convert doesn't make"),
+                          say("Say lessonconv render instead of lessonconv convert"))
             .in(output);
     }
     return lessonFormatOfOutput(output);
@@ -345,8 +346,8 @@ const PictureForm &Command::pictureForm(const QString &output) const
 void Command::checkIsTold(const QString &output) const
 {
     if (StandardStreams::isStandardOutput(output)) {
-        throw LessonError(QStringLiteral("It isn't said what is to come out"),
-                          QStringLiteral("Say the format, such as --to %1")
+        throw LessonError(say("It isn't said what is to come out"),
+                          say("Say the format, such as --to %1")
                               .arg(QLatin1String(word()->run == &Command::convertOne ? "json" : "pdf")));
     }
 }
@@ -356,8 +357,8 @@ void Command::checkOutput(const QString &output) const
 {
     if (StandardStreams::isStandardOutput(output)) {
         if (isSet("json")) {
-            throw LessonError(QStringLiteral("Standard output can't take the result and what --json tells of it"),
-                              QStringLiteral("Leave out --json, or give the result a name"));
+            throw LessonError(say("Standard output can't take the result and what --json tells of it"),
+                              say("Leave out --json, or give the result a name"));
         }
     } else if (isSet("no-clobber")) {
         refuseToReplace(output);
@@ -366,7 +367,7 @@ void Command::checkOutput(const QString &output) const
 
 void Command::tellName(const QString &input, const LessonFormat &format) const
 {
-    const QString remark = isSet("quiet") || isSet("from") ? QString() : remarkOnName(input, format);
+    const Sentence remark = isSet("quiet") || isSet("from") ? Sentence() : remarkOnName(input, format);
     if (!remark.isEmpty()) {
         complain(remark);
     }
@@ -381,20 +382,19 @@ int Command::formats(const QStringList &) const
                                     {QStringLiteral("extensions"), QJsonArray::fromStringList(format.extensions)},
                                     {QStringLiteral("read"), format.canRead()},
                                     {QStringLiteral("written"), format.canWrite()},
-                                    {QStringLiteral("description"), format.description}});
+                                    {QStringLiteral("description"), format.description.english()}});
         }
         printJson({{QStringLiteral("formats"), list}});
         return Done;
     }
     for (const LessonFormat &format : lessonFormats()) {
-        const QString use = format.canRead() && format.canWrite() ? QStringLiteral("read, written")
-            : format.canRead()                                    ? QStringLiteral("read")
-                                                                  : QStringLiteral("written");
+        const Sentence use = format.canRead() && format.canWrite() ? say("read, written")
+            : format.canRead()                                     ? say("read")
+                                                                   : say("written");
         print(QStringLiteral("%1 %2 %3 %4\n")
                   .arg(format.name, -8)
                   .arg(QLatin1Char('.') + format.extensions.join(QLatin1String(" .")), -8)
-                  .arg(use, -14)
-                  .arg(format.description));
+                  .arg(padded(use.local(), 14), format.description.local()));
     }
     return Done;
 }
@@ -449,9 +449,9 @@ LessonContext Command::conversionContext(const PluginHost &host, LossReport *los
 int Command::convertOne(const QStringList &files) const
 {
     if (files.size() != 2) {
-        throw LessonError(QStringLiteral("It isn't said where the result goes"),
-                          QStringLiteral("Give a lesson and the name of the result, or many lessons with --to FORMAT "
-                                         "--out-dir FOLDER"));
+        throw LessonError(say("It isn't said where the result goes"),
+                          say("Give a lesson and the name of the result, or many lessons with --to FORMAT "
+                              "--out-dir FOLDER"));
     }
     const QString &input = files.first();
     const QString &output = files.last();
@@ -512,8 +512,7 @@ BatchSettings Command::batchSettings(const PluginHost &host, const BatchWork &wo
 int Command::convertMany(const QStringList &inputs) const
 {
     if (!isSet("to")) {
-        throw LessonError(QStringLiteral("It isn't said what the lessons are to become"),
-                          QStringLiteral("Say the format, such as --to iwb"));
+        throw LessonError(say("It isn't said what the lessons are to become"), say("Say the format, such as --to iwb"));
     }
     const LessonFormat &to = lessonFormatByName(value("to"));
     checkCanWrite(to, value(manyOption));
@@ -524,8 +523,7 @@ int Command::convertMany(const QStringList &inputs) const
 int Command::renderMany(const QStringList &inputs) const
 {
     if (!isSet("to")) {
-        throw LessonError(QStringLiteral("It isn't said what the lessons are to be drawn as"),
-                          QStringLiteral("Say it, such as --to pdf"));
+        throw LessonError(say("It isn't said what the lessons are to be drawn as"), say("Say it, such as --to pdf"));
     }
     const RenderSettings settings = manyRenderSettings();
     const PluginHost host(value("plugin"));
@@ -542,15 +540,17 @@ int Command::runMany(const QStringList &inputs, const QString &extension, const 
     }
     errno = 0;
     if (!QDir().mkpath(settings.outputFolder)) {
-        throw LessonError(QStringLiteral("The folder for the results can't be made: %1").arg(systemReason(errno)),
-                          QStringLiteral("Check the path and that you may write there"))
+        throw LessonError(say("The folder for the results can't be made: %1").arg(systemReason(errno)),
+                          say("Check the path and that you may write there"))
             .in(settings.outputFolder);
     }
     ReportFile report(isSet("report") ? value("report") : QString());
     ProgressBar bar(!isSet("quiet"));
     BatchWatcher watcher;
-    watcher.progress = [&bar](int done, int total, const QString &name) { bar.show(done, total, "lessons", name); };
-    watcher.failure = [&bar](const QString &message) {
+    watcher.progress = [&bar](int done, int total, const QString &name) {
+        bar.show(done, total, TO_SAY("%1 of %2 lessons"), name);
+    };
+    watcher.failure = [&bar](const Sentence &message) {
         bar.clear();
         complain(message);
     };
@@ -558,7 +558,7 @@ int Command::runMany(const QStringList &inputs, const QString &extension, const 
     if (isSet("report") || isSet("json")) {
         records = std::make_unique<BatchRecords>(plan);
         watcher.told = [&records, &settings](int index, BatchTotals::State state, const QJsonObject &result,
-                                             const QString &message) {
+                                             const Sentence &message) {
             records->put(index, state, result, message, *settings.work);
         };
     }
@@ -571,7 +571,7 @@ int Command::runMany(const QStringList &inputs, const QString &extension, const 
     if (isSet("json")) {
         records->write(result.totals, [](const QByteArray &piece) { print(QString::fromUtf8(piece)); });
     } else if (!isSet("quiet")) {
-        print(result.totals.summary(isSet("report") ? QStringLiteral("the report") : QStringLiteral("--report FILE")));
+        print(result.totals.summary(isSet("report") ? say("the report") : say("--report FILE")));
     }
     return result.hasJournalFailed ? NotDone : exitCodeOf(result.totals);
 }
@@ -607,18 +607,20 @@ int Command::mergeMany(const QStringList &reports) const
         &failures);
     report.commit();
     if (!isSet("json") && !isSet("quiet")) {
-        QString text =
-            totals.summary(QStringLiteral("the report of its run")) + totals.shardSummary() + totals.kinds.summary();
+        Sentences lines{totals.summary(say("the report of its run"))};
+        if (const Sentence shards = totals.shardSummary(); !shards.isEmpty()) {
+            lines.append(shards);
+        }
+        lines += totals.kinds.summary();
         const qint64 failed = totals.count(BatchTotals::Failed);
         if (failed > 0) {
-            text += failed > failures.size() ? QStringLiteral("Not %1, of %2 lessons the first %3:\n")
-                                                   .arg(totals.work->done)
-                                                   .arg(failed)
-                                                   .arg(failures.size())
-                                             : QStringLiteral("Not %1:\n").arg(totals.work->done);
-            text += failures.join(QLatin1Char('\n')) + QLatin1Char('\n');
+            lines.append(failed > failures.size() ? sayNumber(totals.work->someUndone, failed).arg(failures.size())
+                                                  : say(totals.work->undone));
+            for (const QString &failure : qAsConst(failures)) {
+                lines.append(Sentence(failure));
+            }
         }
-        print(text);
+        print(onLines(lines));
     }
     return totals.notTaken() > 0 || !totals.missingShards().isEmpty() ? NotDone : exitCodeOf(totals);
 }
@@ -630,7 +632,7 @@ int Command::serve(const QStringList &) const
     serveBatch([&](const QString &input, const QString &output) {
         LossReport losses;
         convertLesson(inputFormat(input), input, to, output, conversionContext(host, &losses), [](int, int) {});
-        return losses.toJson();
+        return BatchAnswer{losses.toJson(), {}};
     });
     return Done;
 }
@@ -642,7 +644,8 @@ int Command::servePictures(const QStringList &) const
     const RenderSettings settings = manyRenderSettings();
     serveBatch([&](const QString &input, const QString &output) {
         const auto reader = inputFormat(input).open(input, context);
-        return renderLesson(*reader, context, output, settings, [](int, int) {});
+        const Rendered rendered = renderLesson(*reader, context, output, settings, [](int, int) {});
+        return BatchAnswer{rendered.report, rendered.notes};
     });
     return Done;
 }
@@ -665,14 +668,14 @@ int Command::render(const QStringList &files) const
     const LessonContext context = readingContext(host);
     ProgressBar bar(!isSet("quiet"));
     const auto reader = format.open(inputFile(input), context);
-    const QJsonObject result =
+    const Rendered rendered =
         renderLesson(*reader, context, m_streams->output(output, settings.form->extensions.first()), settings,
                      [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
-    report.write(result);
-    tellNotes(result);
+    report.write(rendered.report);
+    tellNotes(rendered.notes);
     if (!StandardStreams::isStandardOutput(output)) {
-        tellRendered(result);
+        tellRendered(rendered.report);
     }
     return Done;
 }
@@ -686,12 +689,12 @@ int Command::renderDifference(const QStringList &files) const
     checkOutput(files.last());
     const auto first = inputFormat(files.first()).open(inputFile(files.first()), context);
     const auto second = lessonFormatOfInput(files.at(1)).open(files.at(1), context);
-    const QJsonObject result =
+    const Rendered rendered =
         lessonhost::renderDifference(*first, files.first(), *second, files.at(1), context, files.last(), settings,
                                      [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
-    tellNotes(result);
-    tellRendered(result);
+    tellNotes(rendered.notes);
+    tellRendered(rendered.report);
     return Done;
 }
 
@@ -740,27 +743,26 @@ RenderSettings Command::manyRenderSettings() const
     return settings;
 }
 
-void Command::tellNotes(const QJsonObject &result) const
+void Command::tellNotes(const Sentences &notes) const
 {
-    const QJsonArray notes = result.value(QLatin1String("notes")).toArray();
-    for (const QJsonValue &note : notes) {
+    for (const Sentence &note : notes) {
         if (!isSet("quiet") && !isSet("json")) {
-            complain(QLatin1String("Note: ") + note.toString());
+            complain(say("Note: %1").arg(note));
         }
     }
 }
 
-void Command::tellRendered(const QJsonObject &result) const
+void Command::tellRendered(const QJsonObject &report) const
 {
     if (isSet("json")) {
-        printJson(result);
+        printJson(report);
     } else if (!isSet("quiet")) {
-        QString text = QStringLiteral("Slides drawn: %1.").arg(result.value(QLatin1String("slides")).toInt());
-        const int named = result.value(QLatin1String("named")).toArray().size();
+        Sentence text = say("Slides drawn: %1.").arg(report.value(QLatin1String("slides")).toInt());
+        const int named = report.value(QLatin1String("named")).toArray().size();
         if (named > 0) {
-            text += QStringLiteral(" Items shown by their name: %1.").arg(named);
+            text = say("%1 %2").arg(text, say("Items shown by their name: %1.").arg(named));
         }
-        print(text + QLatin1Char('\n'));
+        print(text);
     }
 }
 

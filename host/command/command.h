@@ -34,7 +34,7 @@ public:
         const char *word;
         const char *option; //!< the row is for lines with this option; null for those without
         const char *arguments;
-        const char *purpose; //!< null for what is not for people
+        const char *purpose; //!< for say(); null for what is not for people
         int leastFiles;
         int mostFiles;
         //! Whether it takes a QGuiApplication.
@@ -96,8 +96,8 @@ private:
     int runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const;
     RenderSettings renderSettings(const PictureForm &form, const QStringList &inputs) const;
     RenderSettings manyRenderSettings() const;
-    void tellNotes(const QJsonObject &result) const;
-    void tellRendered(const QJsonObject &result) const;
+    void tellNotes(const Sentences &notes) const;
+    void tellRendered(const QJsonObject &report) const;
 
     CommandLine m_line;
     std::unique_ptr<StandardStreams> m_streams;

@@ -4,6 +4,8 @@
 
 #include "batch/batchshard.h"
 
+#include "files/sentence.h"
+
 #include <QCommandLineParser>
 #include <QHash>
 
@@ -28,7 +30,7 @@ struct CommandOption
     //! The words of the command that take it, with blanks between; empty for all. "render:diff" is for lines with
     //! --diff only, "render:" for those without such an option.
     const char *words;
-    const char *description;
+    const char *description; //!< for say()
     const char *standard = ""; //!< the value where none is given
     const char *choices = ""; //!< all values that there are, with blanks between; empty where there is no list of them
 };
@@ -48,11 +50,13 @@ class CommandLine
 {
 public:
     //! arguments: the program's name and what follows it.
-    CommandLine(const QStringList &arguments, const QString &usage, const QString &wordList);
+    CommandLine(const QStringList &arguments, const Sentence &usage, const Sentence &wordList);
 
     bool isUnderstood() const { return m_isUnderstood; }
-    QString problem() const { return m_parser.errorText(); }
-    QString help() const { return m_parser.helpText(); }
+    //! Why it isn't.
+    Sentence problem() const;
+    //! In the user's language.
+    QString help() const;
 
     //! The command's word and its files; empty if the line isn't understood.
     QStringList words() const { return m_isUnderstood ? m_parser.positionalArguments() : QStringList(); }

@@ -225,8 +225,7 @@ QString completionScript(const QString &shell)
     if (shell == QLatin1String("fish")) {
         return fishScript();
     }
-    throw LessonError(QStringLiteral("There is no completion for \"%1\"").arg(shell),
-                      QStringLiteral("Say bash, zsh or fish"));
+    throw LessonError(say("There is no completion for \"%1\"").arg(shell), say("Say bash, zsh or fish"));
 }
 
 } // namespace lessonhost

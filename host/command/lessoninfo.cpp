@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/lessoninfo.h"
 
+#include "command/terminal.h"
 #include "files/packagenames.h"
 #include "lesson/isoneof.h"
 #include "lesson/itemkeys.h"
@@ -140,9 +141,10 @@ int sum(const QMap<QString, int> &counts)
     return std::accumulate(counts.cbegin(), counts.cend(), 0);
 }
 
-QString line(const QString &name, const QString &value)
+QString line(const Sentence &name, const QString &value)
 {
-    return name.leftJustified(16) + value + QLatin1Char('\n');
+    constexpr int valueColumn = 16;
+    return padded(name.local(), valueColumn - 2) + QLatin1String("  ") + value + QLatin1Char('\n');
 }
 
 QString countLines(const QMap<QString, int> &counts)
@@ -188,35 +190,34 @@ QString LessonInfo::toText() const
 {
     QString text;
     if (!title.isEmpty()) {
-        text += line(QStringLiteral("Title"), title);
+        text += line(say("Title"), title);
     }
     const bool hasSize = !width.isEmpty() && !height.isEmpty();
-    text += line(QStringLiteral("Page size"),
-                 hasSize ? width + QLatin1String(" x ") + height : QStringLiteral("not given"));
-    text += line(QStringLiteral("Version"), version.isEmpty() ? QStringLiteral("not given") : version);
-    text += line(QStringLiteral("Slides"), QString::number(slides));
-    const std::pair<const char *, int> counts[] = {{"Mind map nodes", mindMapNodes},
-                                                   {"Cards", cards},
-                                                   {"Questions", questions},
-                                                   {"Triggers", triggers},
-                                                   {"Animated items", animatedItems}};
+    text += line(say("Page size"), hasSize ? width + QLatin1String(" x ") + height : say("not given").local());
+    text += line(say("Version"), version.isEmpty() ? say("not given").local() : version);
+    text += line(say("Slides"), QString::number(slides));
+    const std::pair<const char *, int> counts[] = {{TO_SAY("Mind map nodes"), mindMapNodes},
+                                                   {TO_SAY("Cards"), cards},
+                                                   {TO_SAY("Questions"), questions},
+                                                   {TO_SAY("Triggers"), triggers},
+                                                   {TO_SAY("Animated items"), animatedItems}};
     for (const auto &[name, count] : counts) {
         if (count > 0) {
-            text += line(QLatin1String(name), QString::number(count));
+            text += line(say(name), QString::number(count));
         }
     }
     if (!activities.isEmpty()) {
-        text += line(QStringLiteral("Activities"), QString::number(sum(activities))) + countLines(activities);
+        text += line(say("Activities"), QString::number(sum(activities))) + countLines(activities);
     }
     text +=
-        line(QStringLiteral("Files"),
+        line(say("Files"),
              QStringLiteral("%1 (%2)").arg(QString::number(resources), QLocale::c().formattedDataSize(resourceBytes)));
     if (!missingFiles.isEmpty()) {
-        text += line(QStringLiteral("Missing files"), missingFiles.join(QLatin1String(", ")));
+        text += line(say("Missing files"), missingFiles.join(QLatin1String(", ")));
     }
-    text += line(QStringLiteral("Items"), QString::number(itemCount())) + itemLines(items);
+    text += line(say("Items"), QString::number(itemCount())) + itemLines(items);
     if (!unknownItems.isEmpty()) {
-        text += line(QStringLiteral("Unknown items"), QString::number(sum(unknownItems))) + countLines(unknownItems);
+        text += line(say("Unknown items"), QString::number(sum(unknownItems))) + countLines(unknownItems);
     }
     return text;
 }

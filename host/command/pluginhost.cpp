@@ -29,22 +29,19 @@ PluginHost::PluginHost(const QString &path)
             }
         }
         if (file.isEmpty()) {
-            throw LessonError(QStringLiteral("The plug-in %1 was not found").arg(pluginFile),
-                              QStringLiteral("Build the project, or say where the plug-in is with --plugin"));
+            throw LessonError(say("The plug-in %1 was not found").arg(pluginFile),
+                              say("Build the project, or say where the plug-in is with --plugin"));
         }
     }
     if (!QFileInfo(file).isFile()) {
-        throw LessonError(QStringLiteral("There is no such plug-in"),
-                          QStringLiteral("Check the path given to --plugin"))
-            .in(file);
+        throw LessonError(say("There is no such plug-in"), say("Check the path given to --plugin")).in(file);
     }
     m_loader.setFileName(QFileInfo(file).absoluteFilePath());
     m_plugin = qobject_cast<IZQTransformation *>(m_loader.instance());
     if (!m_plugin) {
-        throw LessonError(m_loader.isLoaded()
-                              ? QStringLiteral("This plug-in converts no lessons")
-                              : QStringLiteral("The plug-in can't be loaded: %1").arg(m_loader.errorString()),
-                          QStringLiteral("Build the plug-in again with the same Qt as the command"))
+        throw LessonError(m_loader.isLoaded() ? say("This plug-in converts no lessons")
+                                              : say("The plug-in can't be loaded: %1").arg(m_loader.errorString()),
+                          say("Build the plug-in again with the same Qt as the command"))
             .in(file);
     }
 }

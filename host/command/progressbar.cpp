@@ -43,7 +43,7 @@ ProgressBar::~ProgressBar()
     clear();
 }
 
-void ProgressBar::show(int done, int total, const char *what, const QString &name)
+void ProgressBar::show(int done, int total, const char *text, const QString &name)
 {
     if (!m_isWanted || total <= 0 || m_sinceStart.elapsed() < quickWork || m_sinceShown.elapsed() < shortestPause) {
         return;
@@ -53,8 +53,7 @@ void ProgressBar::show(int done, int total, const char *what, const QString &nam
     const int filled = int(qint64(done) * barWidth / total);
     QByteArray bar(filled, '#');
     bar.append(barWidth - filled, '.');
-    QString line =
-        QStringLiteral("[%1] %2 of %3 %4").arg(QLatin1String(bar)).arg(done).arg(total).arg(QLatin1String(what));
+    QString line = QStringLiteral("[%1] %2").arg(QLatin1String(bar), say(text).arg(done, total).local());
     if (!name.isEmpty()) {
         line += QLatin1String(": ") + name;
     }

@@ -2,6 +2,8 @@
 #ifndef PROGRESSBAR_H
 #define PROGRESSBAR_H
 
+#include "files/sentence.h"
+
 #include <QElapsedTimer>
 #include <QString>
 
@@ -18,8 +20,8 @@ public:
     ProgressBar(const ProgressBar &) = delete;
     ProgressBar &operator=(const ProgressBar &) = delete;
 
-    //! what: what is counted, such as "slides"; name: what is being worked on, cut to the width of the terminal.
-    void show(int done, int total, const char *what = "slides", const QString &name = {});
+    //! text: what is counted, for say(); name: what is being worked on, cut to the width of the terminal.
+    void show(int done, int total, const char *text = TO_SAY("%1 of %2 slides"), const QString &name = {});
     void clear();
 
 private:

@@ -73,8 +73,7 @@ public:
 private:
     [[noreturn]] void fail() const
     {
-        throw LessonError(QStringLiteral("It can't be read: %1").arg(systemReason(errno)),
-                          QStringLiteral("Check what is sent there"))
+        throw LessonError(say("It can't be read: %1").arg(systemReason(errno)), say("Check what is sent there"))
             .in(m_name);
     }
 
@@ -107,14 +106,13 @@ QString StandardStreams::input(const QString &name)
     for (QByteArray chunk = source.next(); !chunk.isEmpty(); chunk = source.next()) {
         file.put(chunk);
         if (file.size() > mostBytesInArchive) {
-            throw LessonError(QStringLiteral("More than 2 GiB came, which no lesson has"),
-                              QStringLiteral("Check what is sent there"))
+            throw LessonError(say("More than 2 GiB came, which no lesson has"), say("Check what is sent there"))
                 .in(source.name());
         }
     }
     file.finish();
     if (file.size() == 0) {
-        throw LessonError(QStringLiteral("Nothing came"), QStringLiteral("Check what is sent there")).in(source.name());
+        throw LessonError(say("Nothing came"), say("Check what is sent there")).in(source.name());
     }
     m_inputArgument = name;
     m_inputName = source.name();
@@ -159,7 +157,8 @@ LessonError StandardStreams::named(const LessonError &error) const
         }
         return text;
     };
-    return LessonError(shown(error.problem()), error.remedy()).in(shown(error.file()), error.line());
+    const Sentence problem(shown(error.problem().english()), shown(error.problem().local()));
+    return LessonError(problem, error.remedy()).in(shown(error.file()), error.line());
 }
 
 } // namespace lessonhost

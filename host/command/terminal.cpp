@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <cerrno>
+#include <numeric>
 
 #include <unistd.h>
 
@@ -33,6 +34,11 @@ void print(const QString &text)
     printBytes(printable(text).toLocal8Bit());
 }
 
+void print(const Sentence &text)
+{
+    print(text.local() + QLatin1Char('\n'));
+}
+
 void printBytes(const QByteArray &bytes)
 {
     for (int done = 0; done < bytes.size();) {
@@ -49,9 +55,23 @@ void printJson(const QJsonObject &object)
     print(QString::fromUtf8(QJsonDocument(object).toJson()));
 }
 
+QString padded(const QString &text, int columns)
+{
+    const int width = std::accumulate(text.cbegin(), text.cend(), 0, [](int sum, QChar c) {
+        const bool isWide = c.unicode() >= 0x2e80 && c.unicode() < 0xffe0;
+        return sum + (isWide ? 2 : 1);
+    });
+    return text + QString(qMax(0, columns - width), QLatin1Char(' '));
+}
+
 void complain(const QString &text)
 {
     QTextStream(stderr) << "lessonconv: " << printable(text) << '\n';
+}
+
+void complain(const Sentence &text)
+{
+    complain(text.local());
 }
 
 } // namespace lessonhost

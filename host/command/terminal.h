@@ -2,6 +2,8 @@
 #ifndef TERMINAL_H
 #define TERMINAL_H
 
+#include "files/sentence.h"
+
 #include <QString>
 
 class QJsonObject;
@@ -12,6 +14,8 @@ namespace lessonhost {
 
 //! On standard output. Throws LessonError if it is full or closed.
 void print(const QString &text);
+//! With a line break behind it.
+void print(const Sentence &text);
 
 //! The same for what is no text, as it is.
 void printBytes(const QByteArray &bytes);
@@ -19,8 +23,12 @@ void printBytes(const QByteArray &bytes);
 //! The same.
 void printJson(const QJsonObject &object);
 
+//! A text with blanks behind it until it fills so many columns; wide letters take two.
+QString padded(const QString &text, int columns);
+
 //! On standard error, as a sentence of the command.
 void complain(const QString &text);
+void complain(const Sentence &text);
 
 } // namespace lessonhost
 

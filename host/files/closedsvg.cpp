@@ -190,8 +190,7 @@ ClosedSvg closedSvg(const QByteArray &svg, const QString &displayName, const Clo
     const QDomDocument document = loadXml(withoutDocumentType(svg), displayName, XmlBlanks::Kept);
     QDomElement root = document.documentElement();
     if (withoutPrefix(root.tagName()) != QLatin1String("svg")) {
-        throw LessonError(QStringLiteral("This is no drawing in svg"), QStringLiteral("Check the file"))
-            .in(displayName);
+        throw LessonError(say("This is no drawing in svg"), say("Check the file")).in(displayName);
     }
     const QString prefix = QStringLiteral("xmlns:xlink");
     if (!root.hasAttribute(prefix)) {

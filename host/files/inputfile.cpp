@@ -19,17 +19,17 @@ constexpr qint64 largestBytes = (qint64(1) << 31) - 64; // that a byte array hol
 
 LessonError readError(const QString &name, int error)
 {
-    return LessonError(QStringLiteral("The file can't be read: %1").arg(systemReason(error)),
-                       QStringLiteral("Check that it exists and that you may read it"))
+    return LessonError(say("The file can't be read: %1").arg(systemReason(error)),
+                       say("Check that it exists and that you may read it"))
         .in(name);
 }
 
-QString kindOf(mode_t mode)
+Sentence noFile(mode_t mode)
 {
     if (S_ISDIR(mode)) {
-        return QStringLiteral("a folder");
+        return say("This is a folder, not a file");
     }
-    return S_ISFIFO(mode) || S_ISSOCK(mode) ? QStringLiteral("a pipe") : QStringLiteral("a device");
+    return S_ISFIFO(mode) || S_ISSOCK(mode) ? say("This is a pipe, not a file") : say("This is a device, not a file");
 }
 
 } // namespace
@@ -47,9 +47,7 @@ InputFile::InputFile(const QString &path, const QString &shownName)
     }
     if (!S_ISREG(there.st_mode)) {
         ::close(m_descriptor);
-        throw LessonError(QStringLiteral("This is %1, not a file").arg(kindOf(there.st_mode)),
-                          QStringLiteral("Give a file on a disk"))
-            .in(m_name);
+        throw LessonError(noFile(there.st_mode), say("Give a file on a disk")).in(m_name);
     }
     m_size = there.st_size;
     open(ReadOnly | Unbuffered);
@@ -81,7 +79,7 @@ qint64 InputFile::readAt(qint64 position, char *data, qint64 size)
     } while (count < 0 && errno == EINTR);
     if (count < 0) {
         m_error = m_error ? m_error : errno;
-        setErrorString(systemReason(m_error));
+        setErrorString(systemReason(m_error).english());
     }
     return count;
 }
@@ -89,15 +87,15 @@ qint64 InputFile::readAt(qint64 position, char *data, qint64 size)
 QByteArray InputFile::bytes(qint64 begin, qint64 size)
 {
     if (size > largestBytes) {
-        throw LessonError(QStringLiteral("The file is too large")).in(m_name);
+        throw LessonError(say("The file is too large")).in(m_name);
     }
     QByteArray bytes(int(size), Qt::Uninitialized);
     for (qint64 done = 0; done < size;) {
         const qint64 count = readAt(begin + done, bytes.data() + done, size - done);
         check();
         if (count == 0) {
-            throw LessonError(QStringLiteral("The file was cut short while it was read"),
-                              QStringLiteral("Convert it again when no other program writes to it"))
+            throw LessonError(say("The file was cut short while it was read"),
+                              say("Convert it again when no other program writes to it"))
                 .in(m_name);
         }
         done += count;

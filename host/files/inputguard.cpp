@@ -73,24 +73,21 @@ void InputGuard::addLesson(const QString &input, const QString &folderBeside)
 
 void InputGuard::check(const QString &output) const
 {
-    const QString remedy = QStringLiteral("Give another name, outside of what is read");
+    const Sentence remedy = say("Give another name, outside of what is read");
     const QString plain = plainPath(output);
     const auto identity = identityOf(plain);
     if (identity && m_inputs.contains(*identity)) {
-        throw LessonError(QStringLiteral("It would take the place of %1, which is read").arg(m_inputs.value(*identity)),
-                          remedy)
+        throw LessonError(say("It would take the place of %1, which is read").arg(m_inputs.value(*identity)), remedy)
             .in(output);
     }
     if (identity && m_parents.contains(*identity)) {
-        throw LessonError(QStringLiteral("%1, which is read, lies in it").arg(m_parents.value(*identity)), remedy)
-            .in(output);
+        throw LessonError(say("%1, which is read, lies in it").arg(m_parents.value(*identity)), remedy).in(output);
     }
     for (QString path = plain; !isTop(path);) {
         path = parentOf(path);
         const auto parent = identityOf(path);
         if (parent && m_inputs.contains(*parent)) {
-            throw LessonError(QStringLiteral("It lies in %1, which is read").arg(m_inputs.value(*parent)), remedy)
-                .in(output);
+            throw LessonError(say("It lies in %1, which is read").arg(m_inputs.value(*parent)), remedy).in(output);
         }
     }
 }

@@ -1,14 +1,76 @@
 // SPDX-License-Identifier: MIT
 #include "files/lessonerror.h"
 
+#include <cstddef>
 #include <cstring>
 
 namespace lessonhost {
 
-LessonError::LessonError(const QString &problem, const QString &remedy)
+namespace {
+
+// The words of the system's library for what goes wrong with files. It has translations of its own, but not everywhere.
+constexpr const char *reasons[] = {
+    TO_SAY("Operation not permitted"),
+    TO_SAY("No such file or directory"),
+    TO_SAY("Input/output error"),
+    TO_SAY("Bad file descriptor"),
+    TO_SAY("Cannot allocate memory"),
+    TO_SAY("Permission denied"),
+    TO_SAY("Device or resource busy"),
+    TO_SAY("File exists"),
+    TO_SAY("Invalid cross-device link"),
+    TO_SAY("Not a directory"),
+    TO_SAY("Is a directory"),
+    TO_SAY("Invalid argument"),
+    TO_SAY("Too many open files in system"),
+    TO_SAY("Too many open files"),
+    TO_SAY("Text file busy"),
+    TO_SAY("File too large"),
+    TO_SAY("No space left on device"),
+    TO_SAY("Read-only file system"),
+    TO_SAY("Too many links"),
+    TO_SAY("Broken pipe"),
+    TO_SAY("File name too long"),
+    TO_SAY("Directory not empty"),
+    TO_SAY("Too many levels of symbolic links"),
+    TO_SAY("Disk quota exceeded"),
+    TO_SAY("Stale file handle"),
+};
+
+// What stands in the place of a file's name.
+constexpr const char *streams[] = {TO_SAY("Standard output"), TO_SAY("standard input")};
+
+// The sentence for a text if it is one of those.
+template <std::size_t count> Sentence sayIfKnown(const char *const (&known)[count], const QString &text)
+{
+    for (const char *one : known) {
+        if (text == QLatin1String(one)) {
+            return say(one);
+        }
+    }
+    return Sentence(text);
+}
+
+// With a full stop. The words of a library may end with a mark of their own.
+Sentence closed(const Sentence &sentence)
+{
+    const QString english = sentence.english();
+    const bool isClosed = english.endsWith(QLatin1Char('.')) || english.endsWith(QLatin1Char('?'));
+    return isClosed ? sentence : say("%1.").arg(sentence);
+}
+
+// Names of files may hold line breaks.
+QString onOneLine(QString text)
+{
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+} // namespace
+
+LessonError::LessonError(const Sentence &problem, const Sentence &remedy)
     : m_problem(problem)
     , m_remedy(remedy)
-    , m_what(problem.toUtf8())
+    , m_what(problem.english().toUtf8())
 {
 }
 
@@ -19,31 +81,25 @@ LessonError &LessonError::in(const QString &file, int line)
     return *this;
 }
 
-QString LessonError::message() const
+Sentence LessonError::message() const
 {
-    QString text;
+    Sentence text = m_problem;
     if (!m_file.isEmpty()) {
-        text = m_file;
-        if (m_line > 0) {
-            text += QLatin1String(", line ") + QString::number(m_line);
-        }
-        text += QLatin1String(": ");
+        const Sentence name = sayIfKnown(streams, m_file);
+        const Sentence place = m_line > 0 ? say("%1, line %2").arg(name, m_line) : name;
+        text = say("%1: %2").arg(place, text);
     }
-    text += m_problem;
-    // The words of a library may end with a mark of their own.
-    if (!text.endsWith(QLatin1Char('.')) && !text.endsWith(QLatin1Char('?'))) {
-        text += QLatin1Char('.');
-    }
+    text = closed(text);
     if (!m_remedy.isEmpty()) {
-        text += QLatin1Char(' ') + m_remedy + QLatin1Char('.');
+        text = say("%1 %2").arg(text, say("%1.").arg(m_remedy));
     }
-    // Names of files may hold line breaks.
-    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return {onOneLine(text.english()), onOneLine(text.local())};
 }
 
 QJsonObject LessonError::toJson() const
 {
-    QJsonObject object{{QStringLiteral("message"), message()}, {QStringLiteral("problem"), m_problem}};
+    QJsonObject object{{QStringLiteral("message"), message().english()},
+                       {QStringLiteral("problem"), m_problem.english()}};
     if (!m_file.isEmpty()) {
         object.insert(QStringLiteral("file"), m_file);
     }
@@ -51,7 +107,7 @@ QJsonObject LessonError::toJson() const
         object.insert(QStringLiteral("line"), m_line);
     }
     if (!m_remedy.isEmpty()) {
-        object.insert(QStringLiteral("remedy"), m_remedy);
+        object.insert(QStringLiteral("remedy"), m_remedy.english());
     }
     return object;
 }
@@ -61,18 +117,23 @@ const char *LessonError::what() const noexcept
     return m_what.constData();
 }
 
-QString systemReason(int error)
+LessonError unexpected(const std::exception &error)
 {
-    return QString::fromLocal8Bit(std::strerror(error));
+    return LessonError(say("Something unexpected happened: %1").arg(QString::fromLocal8Bit(error.what())));
+}
+
+Sentence systemReason(int error)
+{
+    const char *const reason = ::strerrordesc_np(error);
+    return reason ? sayIfKnown(reasons, QString::fromLatin1(reason)) : say("Unknown error");
 }
 
 LessonError writeError(const QString &shownName, int error, bool isTemporary)
 {
-    return LessonError((isTemporary ? QStringLiteral("Its files can't be unpacked: %1")
-                                    : QStringLiteral("It can't be written: %1"))
+    return LessonError((isTemporary ? say("Its files can't be unpacked: %1") : say("It can't be written: %1"))
                            .arg(systemReason(error)),
-                       isTemporary ? QStringLiteral("Make room in the folder for temporary files")
-                                   : QStringLiteral("Check that there is room and that you may write there"))
+                       isTemporary ? say("Make room in the folder for temporary files")
+                                   : say("Check that there is room and that you may write there"))
         .in(shownName);
 }
 

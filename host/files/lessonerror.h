@@ -2,6 +2,8 @@
 #ifndef LESSONERROR_H
 #define LESSONERROR_H
 
+#include "files/sentence.h"
+
 #include <QJsonObject>
 #include <QString>
 
@@ -16,32 +18,35 @@ class LessonError : public std::exception
 {
 public:
     //! problem and remedy are whole sentences without a full stop at the end; remedy may be empty.
-    explicit LessonError(const QString &problem, const QString &remedy = {});
+    explicit LessonError(const Sentence &problem, const Sentence &remedy = {});
 
     //! Names the file and, with a line above 0, the line in it.
     LessonError &in(const QString &file, int line = 0);
 
     QString file() const { return m_file; }
     int line() const { return m_line; }
-    QString problem() const { return m_problem; }
-    QString remedy() const { return m_remedy; }
+    Sentence problem() const { return m_problem; }
+    Sentence remedy() const { return m_remedy; }
 
     //! "FILE, line N: PROBLEM. REMEDY." without the parts that aren't known.
-    QString message() const;
-    //! {"file", "line", "problem", "remedy", "message"} without the parts that aren't known.
+    Sentence message() const;
+    //! {"file", "line", "problem", "remedy", "message"} without the parts that aren't known, in English.
     QJsonObject toJson() const;
     const char *what() const noexcept override;
 
 private:
     QString m_file;
-    QString m_problem;
-    QString m_remedy;
+    Sentence m_problem;
+    Sentence m_remedy;
     QByteArray m_what;
     int m_line = 0;
 };
 
-//! Why the system refused, in its own words, for an errno.
-QString systemReason(int error);
+//! What nobody has thought of.
+LessonError unexpected(const std::exception &error);
+
+//! Why the system refused, for an errno.
+Sentence systemReason(int error);
 
 //! That a file can't be written: an output, or one among the temporary files that a lesson needs.
 LessonError writeError(const QString &shownName, int error, bool isTemporary = false);

@@ -127,7 +127,7 @@ bool OutputFile::flush()
 void OutputFile::fail()
 {
     m_error = m_error ? m_error : errno;
-    setErrorString(systemReason(m_error));
+    setErrorString(systemReason(m_error).english());
 }
 
 void OutputFile::tell() const
@@ -159,8 +159,8 @@ void makeFolders(const QString &path, const QString &shownName, OutputFile::Use 
 void refuseToReplace(const QString &path)
 {
     if (QFileInfo(path).isSymLink() || QFileInfo::exists(path)) {
-        throw LessonError(QStringLiteral("There is a file or folder of this name already"),
-                          QStringLiteral("Give another name, or leave out --no-clobber"))
+        throw LessonError(say("There is a file or folder of this name already"),
+                          say("Give another name, or leave out --no-clobber"))
             .in(path);
     }
 }

@@ -36,28 +36,28 @@ bool isDeviceName(const QString &name)
 
 } // namespace
 
-QString problemWithFileName(const QString &name)
+Sentence problemWithFileName(const QString &name)
 {
     if (name.isEmpty()) {
-        return QStringLiteral("it is empty");
+        return say("it is empty");
     }
     if (name == QLatin1String(".") || name == QLatin1String("..")) {
-        return QStringLiteral("it leads out of the package");
+        return say("it leads out of the package");
     }
     if (name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\'))) {
-        return QStringLiteral("it contains a separator of folders");
+        return say("it contains a separator of folders");
     }
     if (name.contains(QLatin1Char(':'))) {
-        return QStringLiteral("it contains a colon");
+        return say("it contains a colon");
     }
     if (hasControlCharacter(name)) {
-        return QStringLiteral("it contains control characters");
+        return say("it contains control characters");
     }
     if (isDeviceName(name)) {
-        return QStringLiteral("it is the name of a device");
+        return say("it is the name of a device");
     }
     if (name.toUtf8().size() > maximumNameBytes) {
-        return QStringLiteral("it is too long");
+        return say("it is too long");
     }
     return {};
 }
@@ -71,22 +71,22 @@ QString plainPath(QString reference)
     return reference;
 }
 
-QString problemWithPackagePath(const QString &path)
+Sentence problemWithPackagePath(const QString &path)
 {
     if (path.isEmpty()) {
-        return QStringLiteral("it is empty");
+        return say("it is empty");
     }
     if (path.size() > maximumPathLength) {
-        return QStringLiteral("it is too long");
+        return say("it is too long");
     }
     if (path.startsWith(QLatin1Char('/'))) {
-        return QStringLiteral("it is an absolute path");
+        return say("it is an absolute path");
     }
     const QStringList parts = path.split(QLatin1Char('/'));
     for (const QString &part : parts) {
-        const QString problem = problemWithFileName(part);
+        const Sentence problem = problemWithFileName(part);
         if (!problem.isEmpty()) {
-            return part.isEmpty() ? QStringLiteral("it has an empty part") : problem;
+            return part.isEmpty() ? say("it has an empty part") : problem;
         }
     }
     return {};

@@ -2,6 +2,8 @@
 #ifndef PACKAGENAMES_H
 #define PACKAGENAMES_H
 
+#include "files/sentence.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -13,10 +15,10 @@ QString plainPath(QString reference);
 //! Why a name in an archive or document can't be a path inside a package, as a clause such as "it leads out of the
 //! package"; empty for a good one. Good: relative, "/" between parts, no "." or ".." part, no backslash, drive letter,
 //! control character or name that a system keeps for devices, at most 1024 characters.
-QString problemWithPackagePath(const QString &path);
+Sentence problemWithPackagePath(const QString &path);
 
 //! The same for a single part, such as the identifier of a slide that names a file.
-QString problemWithFileName(const QString &name);
+Sentence problemWithFileName(const QString &name);
 
 //! The one folder that everything in an archive lies in, with "/" at its end; empty where there is none. Folders that
 //! some systems add for themselves don't count.

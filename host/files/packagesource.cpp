@@ -31,8 +31,7 @@ bool leadsThroughLink(const QString &directory, const QString &relativePath)
 
 LessonError linkError(const QString &shownName)
 {
-    return LessonError(QStringLiteral("This is a link, which a package must not hold"),
-                       QStringLiteral("Put the file itself in its place"))
+    return LessonError(say("This is a link, which a package must not hold"), say("Put the file itself in its place"))
         .in(shownName);
 }
 
@@ -43,13 +42,13 @@ void checkEntry(const Folder::Entry &entry, const QString &shownName)
         throw linkError(shownName);
     }
     if (entry.text().isEmpty()) {
-        throw LessonError(QStringLiteral("The name of this file is no UTF-8, so that no lesson can call it"),
-                          QStringLiteral("Give it another name"))
+        throw LessonError(say("The name of this file is no UTF-8, so that no lesson can call it"),
+                          say("Give it another name"))
             .in(shownName);
     }
     if (!entry.isFolder() && !entry.isFile()) {
-        throw LessonError(QStringLiteral("This is a pipe or a device, which a package must not hold"),
-                          QStringLiteral("Remove it from the folder"))
+        throw LessonError(say("This is a pipe or a device, which a package must not hold"),
+                          say("Remove it from the folder"))
             .in(shownName);
     }
 }
@@ -73,10 +72,10 @@ PackageSource::PackageSource(const QString &path, const QString &singleFile)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        throw LessonError(QStringLiteral("There is no such file or folder"), QStringLiteral("Check the path")).in(path);
+        throw LessonError(say("There is no such file or folder"), say("Check the path")).in(path);
     }
     if (!info.isReadable()) {
-        throw LessonError(QStringLiteral("It can't be read"), QStringLiteral("Check that you may read it")).in(path);
+        throw LessonError(say("It can't be read"), say("Check that you may read it")).in(path);
     }
     if (info.isDir()) {
         m_directory = QDir(path).absolutePath();
@@ -103,10 +102,10 @@ bool PackageSource::contains(const QString &relativePath) const
 
 QString PackageSource::file(const QString &relativePath) const
 {
-    const QString problem = problemWithPackagePath(relativePath);
+    const Sentence problem = problemWithPackagePath(relativePath);
     if (!problem.isEmpty()) {
-        throw LessonError(QStringLiteral("The path \"%1\" can't be used: %2").arg(relativePath, problem),
-                          QStringLiteral("Name a file inside the package"))
+        throw LessonError(say("The path \"%1\" can't be used: %2").arg(relativePath, problem),
+                          say("Name a file inside the package"))
             .in(m_path);
     }
     if (leadsThroughLink(m_directory, relativePath)) {
@@ -114,7 +113,7 @@ QString PackageSource::file(const QString &relativePath) const
     }
     const QString file = m_directory + QLatin1Char('/') + relativePath;
     if (!QFileInfo(file).isFile()) {
-        throw LessonError(QStringLiteral("The package has no such file"), QStringLiteral("Check that it is complete"))
+        throw LessonError(say("The package has no such file"), say("Check that it is complete"))
             .in(displayName(relativePath));
     }
     return file;
@@ -138,8 +137,8 @@ QStringList PackageSource::files() const
         int error = 0;
         const QVector<Folder::Entry> entries = Folder(m_directory + QLatin1Char('/') + place).entries(&error);
         if (error) {
-            throw LessonError(QStringLiteral("The folder can't be read: %1").arg(systemReason(error)),
-                              QStringLiteral("Check that you may read it"))
+            throw LessonError(say("The folder can't be read: %1").arg(systemReason(error)),
+                              say("Check that you may read it"))
                 .in(place.isEmpty() ? m_path : displayName(place));
         }
         for (const Folder::Entry &entry : entries) {

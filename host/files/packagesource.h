@@ -2,6 +2,7 @@
 #ifndef PACKAGESOURCE_H
 #define PACKAGESOURCE_H
 
+#include "files/sentence.h"
 #include "files/workfolder.h"
 
 #include <QString>
@@ -36,7 +37,7 @@ public:
     //! Name for messages: the package and the path inside.
     QString displayName(const QString &relativePath) const;
     //! What was read otherwise than it stands in the archive, as sentences without a full stop.
-    QStringList remarks() const { return m_remarks; }
+    Sentences remarks() const { return m_remarks; }
     //! All files, ascending, relative to the package. Throws LessonError for links, devices, and names that can't be
     //! told.
     QStringList files() const;
@@ -45,7 +46,7 @@ private:
     QString m_path;
     QString m_directory;
     QString m_singleFile; // that the file itself is
-    QStringList m_remarks;
+    Sentences m_remarks;
     QString m_outer; // the folder in an archive that holds everything, with a separator at its end
     std::unique_ptr<WorkFolder> m_unpacked;
 };

@@ -264,8 +264,8 @@ PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isR
     m_target = info.exists() && info.isSymLink() ? info.canonicalFilePath() : info.absoluteFilePath();
     const QFileInfo parent(QFileInfo(m_target).path());
     if (target.isEmpty() || !parent.isDir()) {
-        throw LessonError(QStringLiteral("The folder to write into doesn't exist"),
-                          QStringLiteral("Make the folder first, or check the path"))
+        throw LessonError(say("The folder to write into doesn't exist"),
+                          say("Make the folder first, or check the path"))
             .in(target);
     }
     if (m_kind == Directory) {
@@ -296,8 +296,8 @@ void PackageTarget::makeStaging(const QString &parent)
     }
     if (error) {
         const LessonError problem =
-            LessonError(QStringLiteral("Nothing can be written in this folder: %1").arg(systemReason(error)),
-                        QStringLiteral("Check that you may write there and that there is room"))
+            LessonError(say("Nothing can be written in this folder: %1").arg(systemReason(error)),
+                        say("Check that you may write there and that there is room"))
                 .in(parent);
         removeStaging();
         throw problem;
@@ -341,9 +341,8 @@ OutputFile &PackageTarget::file()
 void PackageTarget::expectFiles(qint64 count) const
 {
     if (m_kind == Archive && count > mostFilesInArchive) {
-        throw LessonError(
-            QStringLiteral("The lesson has more than the %1 files that an archive can hold").arg(mostFilesInArchive),
-            QStringLiteral("Write it as a folder, or divide it"))
+        throw LessonError(say("The lesson has more than the %1 files that an archive can hold").arg(mostFilesInArchive),
+                          say("Write it as a folder, or divide it"))
             .in(m_shownTarget);
     }
 }
@@ -352,23 +351,23 @@ void PackageTarget::count(qint64 bytes)
 {
     m_bytes += bytes;
     if (m_kind == Archive && m_bytes > mostBytesInArchive) {
-        throw LessonError(QStringLiteral("The lesson has more than the 2 GiB that are read from an archive"),
-                          QStringLiteral("Write it as a folder, or divide it"))
+        throw LessonError(say("The lesson has more than the 2 GiB that are read from an archive"),
+                          say("Write it as a folder, or divide it"))
             .in(m_shownTarget);
     }
 }
 
 QString PackageTarget::makePlace(const QString &relativePath)
 {
-    const QString problem = problemWithPackagePath(relativePath);
+    const Sentence problem = problemWithPackagePath(relativePath);
     if (!problem.isEmpty()) {
-        throw LessonError(QStringLiteral("The package can't hold a file \"%1\": %2").arg(relativePath, problem),
-                          QStringLiteral("Give it another name"))
+        throw LessonError(say("The package can't hold a file \"%1\": %2").arg(relativePath, problem),
+                          say("Give it another name"))
             .in(m_shownTarget);
     }
     if (m_paths.contains(relativePath)) {
-        throw LessonError(QStringLiteral("The lesson has two files \"%1\"").arg(relativePath),
-                          QStringLiteral("Give one of them another name"))
+        throw LessonError(say("The lesson has two files \"%1\"").arg(relativePath),
+                          say("Give one of them another name"))
             .in(m_shownTarget);
     }
     m_paths.insert(relativePath);
@@ -428,9 +427,9 @@ void PackageTarget::checkPlace(const QString &path, const QString &shownName) co
     if (::stat(QFile::encodeName(path).constData(), &there) != 0 || S_ISREG(there.st_mode)) {
         return;
     }
-    throw LessonError(S_ISDIR(there.st_mode) ? QStringLiteral("There is a folder of this name already")
-                                             : QStringLiteral("There is a device or a pipe of this name"),
-                      QStringLiteral("Give another name, or remove it"))
+    throw LessonError(S_ISDIR(there.st_mode) ? say("There is a folder of this name already")
+                                             : say("There is a device or a pipe of this name"),
+                      say("Give another name, or remove it"))
         .in(shownName);
 }
 
@@ -438,14 +437,13 @@ void PackageTarget::checkDirectory() const
 {
     const QFileInfo info(m_target);
     if (info.exists() && !info.isDir()) {
-        throw LessonError(QStringLiteral("There is a file of this name already"),
-                          QStringLiteral("Give another name, or remove the file"))
+        throw LessonError(say("There is a file of this name already"), say("Give another name, or remove the file"))
             .in(m_shownTarget);
     }
     if (info.exists() && !QDir(m_target).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)
         && !(m_isReplaceable && m_isReplaceable(m_target))) {
-        throw LessonError(QStringLiteral("There is a folder of this name already, and it is no lesson"),
-                          QStringLiteral("Give another name, or remove the folder"))
+        throw LessonError(say("There is a folder of this name already, and it is no lesson"),
+                          say("Give another name, or remove the folder"))
             .in(m_shownTarget);
     }
 }
@@ -567,8 +565,8 @@ void PackageTarget::commitArchive()
 {
     packZip(directory(), file(), m_shownTarget);
     if (isPackedTooTightly(m_bytes, file().size())) {
-        throw LessonError(QStringLiteral("The lesson's files pack so tightly that nobody would take it for a lesson"),
-                          QStringLiteral("Write it as a folder"))
+        throw LessonError(say("The lesson's files pack so tightly that nobody would take it for a lesson"),
+                          say("Write it as a folder"))
             .in(m_shownTarget);
     }
     commitFile();

@@ -205,7 +205,7 @@ Picture::Picture(const QByteArray &content, const QString &folder, int depth)
 void Picture::look()
 {
     if (!m_device) {
-        m_problem = QStringLiteral("it can't be read");
+        m_problem = say("it can't be read");
         return;
     }
     findProblem();
@@ -222,16 +222,16 @@ void Picture::findProblem()
     }
     if (std::none_of(std::begin(knownFormats), std::end(knownFormats),
                      [&format](const char *known) { return format == known; })) {
-        m_problem = QStringLiteral("it is no picture that can be read");
+        m_problem = say("it is no picture that can be read");
         return;
     }
     m_format = format;
     if (format == "png" && !isWholePng(*m_device)) {
-        m_problem = QStringLiteral("it is a damaged picture");
+        m_problem = say("it is a damaged picture");
         return;
     }
     if (pixelsOf(size()) > mostPixels) {
-        m_problem = QStringLiteral("it has more pixels than any screen");
+        m_problem = say("it has more pixels than any screen");
     }
 }
 
@@ -373,9 +373,8 @@ ClosedSvg Picture::drawing(PixelBudget &budget) const
 {
     const QByteArray text = drawingText();
     if (text.isEmpty() || text.size() > largestDrawing) {
-        throw LessonError(
-            QStringLiteral("This is no drawing in svg of at most %1 MiB").arg(largestDrawing / 1024 / 1024),
-            QStringLiteral("Check the file"));
+        throw LessonError(say("This is no drawing in svg of at most %1 MiB").arg(largestDrawing / 1024 / 1024),
+                          say("Check the file"));
     }
     return closedSvg(text, QStringLiteral("svg"),
                      [&](const QString &reference) { return addressOf(reference, budget); });
@@ -406,7 +405,7 @@ QString embeddedPicture(const QString &address, PixelBudget &budget)
     return Picture(embedded(address), {}, 1).address(budget);
 }
 
-QString pictureProblem(const QString &file)
+Sentence pictureProblem(const QString &file)
 {
     return Picture(file).problem();
 }

@@ -3,6 +3,7 @@
 #define PICTURES_H
 
 #include "files/closedsvg.h"
+#include "files/sentence.h"
 
 #include <QByteArray>
 #include <QIODevice>
@@ -56,7 +57,7 @@ public:
 
     //! Why it can't be shown, as a clause such as "it is a damaged picture", or nothing. Pictures of pixels are looked
     //! at without unpacking them, drawings aren't read.
-    QString problem() const { return m_problem; }
+    Sentence problem() const { return m_problem; }
     //! "png", "jpeg" and so on, "svg" for drawings; empty for what is no picture.
     QByteArray format() const { return m_format; }
     //! Pixels; empty where it tells none.
@@ -93,14 +94,14 @@ private:
     QString m_folder;
     int m_depth = 0; // drawings that it stands in
     QByteArray m_format;
-    QString m_problem;
+    Sentence m_problem;
 };
 
 //! Picture::address() of what an address "data:..." holds.
 QString embeddedPicture(const QString &address, PixelBudget &budget);
 
 //! Picture(file).problem().
-QString pictureProblem(const QString &file);
+Sentence pictureProblem(const QString &file);
 
 //! "data:image/...", or nothing for what can't be drawn.
 QString addressOf(const ShownPicture &picture);

@@ -60,8 +60,8 @@ WorkFolder::WorkFolder()
     for (int tries = 0; tries < mostTries && m_path.isEmpty(); ++tries) {
         QByteArray name = QFile::encodeName(QDir::tempPath()) + '/' + namePrefix + "XXXXXX";
         if (!::mkdtemp(name.data())) {
-            throw LessonError(QStringLiteral("No temporary folder can be made: %1").arg(systemReason(errno)),
-                              QStringLiteral("Make room in the folder for temporary files"))
+            throw LessonError(say("No temporary folder can be made: %1").arg(systemReason(errno)),
+                              say("Make room in the folder for temporary files"))
                 .in(QDir::tempPath());
         }
         m_lock = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);

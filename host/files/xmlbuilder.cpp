@@ -19,8 +19,8 @@ constexpr qint64 textMemory = 200;
 void checkXmlFileSize(qint64 size, const QString &displayName)
 {
     if (size > maximumXmlSize) {
-        throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024),
-                          QStringLiteral("Check that this is a lesson"))
+        throw LessonError(say("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024),
+                          say("Check that this is a lesson"))
             .in(displayName);
     }
 }
@@ -61,9 +61,8 @@ QDomDocument XmlBuilder::build()
         while (reason.endsWith(QLatin1Char('.'))) {
             reason.chop(1);
         }
-        throw LessonError(
-            QStringLiteral("This is not well-formed XML: %1 (column %2)").arg(reason).arg(m_reader.columnNumber()),
-            QStringLiteral("Check that the file is complete"))
+        throw LessonError(say("This is not well-formed XML: %1 (column %2)").arg(reason).arg(m_reader.columnNumber()),
+                          say("Check that the file is complete"))
             .in(m_name, line());
     }
     return m_document;
@@ -71,28 +70,25 @@ QDomDocument XmlBuilder::build()
 
 void XmlBuilder::refuseSource() const
 {
-    const QString check = QStringLiteral("Check that this is a lesson");
+    const Sentence check = say("Check that this is a lesson");
     switch (m_source.problem()) {
     case XmlProblem::None:
         return;
     case XmlProblem::TooLarge:
-        throw LessonError(QStringLiteral("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024), check)
-            .in(m_name);
+        throw LessonError(say("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024), check).in(m_name);
     case XmlProblem::TooManyAttributes:
-        throw LessonError(QStringLiteral("An element has more than %1 attributes").arg(maximumXmlAttributes), check)
+        throw LessonError(say("An element has more than %1 attributes").arg(maximumXmlAttributes), check)
             .in(m_name, m_source.line());
     case XmlProblem::DocumentType:
-        throw LessonError(QStringLiteral("The document has a document type declaration, which lessons don't use"),
-                          QStringLiteral("Remove the <!DOCTYPE ...> part"))
+        throw LessonError(say("The document has a document type declaration, which lessons don't use"),
+                          say("Remove the <!DOCTYPE ...> part"))
             .in(m_name, m_source.line());
     case XmlProblem::OddEncoding:
-        throw LessonError(QStringLiteral("This is not well-formed XML: it isn't in the encoding that it says it is in"),
-                          QStringLiteral("Save it in UTF-8"))
+        throw LessonError(say("This is not well-formed XML: it isn't in the encoding that it says it is in"),
+                          say("Save it in UTF-8"))
             .in(m_name);
     case XmlProblem::Unreadable:
-        throw LessonError(QStringLiteral("The file can't be read to its end"),
-                          QStringLiteral("Check the disk that it is on"))
-            .in(m_name);
+        throw LessonError(say("The file can't be read to its end"), say("Check the disk that it is on")).in(m_name);
     }
 }
 
@@ -101,9 +97,9 @@ void XmlBuilder::takeMemory(qint64 bytes)
 {
     m_memory += bytes;
     if (m_memory > maximumXmlMemory) {
-        throw LessonError(QStringLiteral("The document is too large: what is in it would take more than %1 MiB of memory")
+        throw LessonError(say("The document is too large: what is in it would take more than %1 MiB of memory")
                               .arg(maximumXmlMemory / 1024 / 1024),
-                          QStringLiteral("Divide it into smaller ones, or check that this is a lesson"))
+                          say("Divide it into smaller ones, or check that this is a lesson"))
             .in(m_name, line());
     }
 }
@@ -111,8 +107,8 @@ void XmlBuilder::takeMemory(qint64 bytes)
 void XmlBuilder::enterElement()
 {
     if (++m_depth > maximumXmlDepth) {
-        throw LessonError(QStringLiteral("Elements are nested deeper than %1 levels").arg(maximumXmlDepth),
-                          QStringLiteral("Take some groups apart, or check that this is a lesson"))
+        throw LessonError(say("Elements are nested deeper than %1 levels").arg(maximumXmlDepth),
+                          say("Take some groups apart, or check that this is a lesson"))
             .in(m_name, line());
     }
     m_attributes = m_reader.attributes();

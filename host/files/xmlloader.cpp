@@ -12,9 +12,9 @@ namespace lessonhost {
 void checkXmlSize(qint64 size, const QString &displayName)
 {
     if (size > maximumXmlSize) {
-        throw LessonError(QStringLiteral("It would be larger than the %1 MiB that are read from one file of XML")
+        throw LessonError(say("It would be larger than the %1 MiB that are read from one file of XML")
                               .arg(maximumXmlSize / 1024 / 1024),
-                          QStringLiteral("Divide the slide or the lesson"))
+                          say("Divide the slide or the lesson"))
             .in(displayName);
     }
 }

@@ -35,16 +35,14 @@ constexpr qint64 possibleRatio = 1100;
 constexpr qint64 smallEntry = qint64(64) * 1024;
 constexpr qint64 chunkSize = qint64(256) * 1024;
 
-[[noreturn]] void refuse(const QString &archive, const QString &problem)
+[[noreturn]] void refuse(const QString &archive, const Sentence &problem)
 {
-    throw LessonError(problem, QStringLiteral("Nothing was unpacked. Ask for a package from a source you trust"))
-        .in(archive);
+    throw LessonError(problem, say("Nothing was unpacked. Ask for a package from a source you trust")).in(archive);
 }
 
 [[noreturn]] void incomplete(const QString &archive)
 {
-    throw LessonError(QStringLiteral("This is no zip archive, or a part of it is missing"),
-                      QStringLiteral("Copy or download the file again"))
+    throw LessonError(say("This is no zip archive, or a part of it is missing"), say("Copy or download the file again"))
         .in(archive);
 }
 
@@ -87,8 +85,8 @@ public:
         List list{number16(tail, end + 10), number32(tail, end + 12), number32(tail, end + 16), tailBegin + end};
         const bool isPart = number16(tail, end + 4) != 0 && number16(tail, end + 4) != 0xffff;
         if (isPart) {
-            throw LessonError(QStringLiteral("This is one of several parts of an archive"),
-                              QStringLiteral("Put the parts together, or unpack them and give the folder"))
+            throw LessonError(say("This is one of several parts of an archive"),
+                              say("Put the parts together, or unpack them and give the folder"))
                 .in(archive);
         }
         if (const auto large = largeList(list.end)) {
@@ -153,7 +151,7 @@ private:
     void readList(const List &list)
     {
         if (list.size > largestList) {
-            refuse(m_archive, QStringLiteral("The archive has more than %1 entries").arg(maximumEntries));
+            refuse(m_archive, say("The archive has more than %1 entries").arg(maximumEntries));
         }
         for (const qint64 begin : {list.end - list.size, list.offset}) {
             const bool isInFile = list.size >= 0 && begin >= 0 && begin <= list.end - list.size;
@@ -242,35 +240,34 @@ private:
 
 void checkEntry(const QString &archive, const ZipEntry &entry, const QString &name)
 {
-    const QString problem = problemWithPackagePath(name);
+    const Sentence problem = problemWithPackagePath(name);
     if (!problem.isEmpty()) {
-        refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked: %2").arg(entry.name, problem));
+        refuse(archive, say("The entry \"%1\" can't be unpacked: %2").arg(entry.name, problem));
     }
     if (!entry.isUtf8) {
-        refuse(archive, QStringLiteral("The name of the entry \"%1\" is no UTF-8").arg(entry.name));
+        refuse(archive, say("The name of the entry \"%1\" is no UTF-8").arg(entry.name));
     }
     if (entry.isSpecial) {
-        refuse(archive, QStringLiteral("The entry \"%1\" is a link or a device").arg(entry.name));
+        refuse(archive, say("The entry \"%1\" is a link or a device").arg(entry.name));
     }
     if (entry.isEncrypted) {
-        throw LessonError(QStringLiteral("The archive is protected by a password"),
-                          QStringLiteral("Unpack it first and give the folder"))
+        throw LessonError(say("The archive is protected by a password"), say("Unpack it first and give the folder"))
             .in(archive);
     }
     if (entry.method != ZipEntry::Stored && entry.method != ZipEntry::Deflated) {
-        throw LessonError(QStringLiteral("The entry \"%1\" is packed in a way that lessons aren't").arg(entry.name),
-                          QStringLiteral("Unpack it first and give the folder"))
+        throw LessonError(say("The entry \"%1\" is packed in a way that lessons aren't").arg(entry.name),
+                          say("Unpack it first and give the folder"))
             .in(archive);
     }
     if (entry.size > smallEntry && entry.size / possibleRatio > entry.packedSize) {
-        refuse(archive, QStringLiteral("The entry \"%1\" is packed more tightly than can be").arg(entry.name));
+        refuse(archive, say("The entry \"%1\" is packed more tightly than can be").arg(entry.name));
     }
 }
 
 void checkEntries(const QString &archive, qint64 archiveSize, const QVector<ZipEntry> &entries)
 {
     if (entries.size() > maximumEntries) {
-        refuse(archive, QStringLiteral("The archive has more than %1 entries").arg(maximumEntries));
+        refuse(archive, say("The archive has more than %1 entries").arg(maximumEntries));
     }
     QSet<QString> names;
     qint64 total = 0;
@@ -278,15 +275,15 @@ void checkEntries(const QString &archive, qint64 archiveSize, const QVector<ZipE
         const QString name = entry.isDirectory ? entry.name.chopped(1) : entry.name;
         checkEntry(archive, entry, name);
         if (names.contains(name)) {
-            refuse(archive, QStringLiteral("The archive names \"%1\" twice").arg(entry.name));
+            refuse(archive, say("The archive names \"%1\" twice").arg(entry.name));
         }
         names.insert(name);
         if (entry.size > mostBytesInArchive || (total += entry.size) > mostBytesInArchive) {
-            refuse(archive, QStringLiteral("The archive unpacks to more than 2 GiB"));
+            refuse(archive, say("The archive unpacks to more than 2 GiB"));
         }
     }
     if (isPackedTooTightly(total, archiveSize)) {
-        refuse(archive, QStringLiteral("The archive is packed more tightly than any lesson"));
+        refuse(archive, say("The archive is packed more tightly than any lesson"));
     }
 }
 
@@ -322,7 +319,7 @@ private:
 qint64 contentOf(InputFile &file, const QString &archive, const ZipEntry &entry)
 {
     constexpr int localSize = 30;
-    const auto wrong = [&] { refuse(archive, QStringLiteral("The entry \"%1\" can't be unpacked").arg(entry.name)); };
+    const auto wrong = [&] { refuse(archive, say("The entry \"%1\" can't be unpacked").arg(entry.name)); };
     if (entry.header > file.size() - localSize) {
         wrong();
     }
@@ -365,8 +362,7 @@ void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry,
     output.finish();
     file.check();
     if (size != entry.size || crc != entry.crc) {
-        throw LessonError(QStringLiteral("The entry \"%1\" is damaged").arg(entry.name),
-                          QStringLiteral("Copy or download the file again"))
+        throw LessonError(say("The entry \"%1\" is damaged").arg(entry.name), say("Copy or download the file again"))
             .in(archive);
     }
 }
@@ -378,7 +374,7 @@ bool isPackedTooTightly(qint64 size, qint64 packedSize)
     return size > harmlessSize && size / maximumRatio > packedSize;
 }
 
-QStringList unpackZip(const QString &archive, const QString &directory)
+Sentences unpackZip(const QString &archive, const QString &directory)
 {
     InputFile file(archive);
     const CentralDirectory list(file, archive);
@@ -391,8 +387,7 @@ QStringList unpackZip(const QString &archive, const QString &directory)
     const auto &entries = list.entries();
     const bool hasBackslash =
         std::any_of(entries.cbegin(), entries.cend(), [](const ZipEntry &entry) { return entry.hasBackslash; });
-    return hasBackslash ? QStringList{QStringLiteral("the backslashes in the archive's names were taken for slashes")}
-                        : QStringList();
+    return hasBackslash ? Sentences{say("the backslashes in the archive's names were taken for slashes")} : Sentences();
 }
 
 QStringList namesInZip(const QString &archive)
@@ -435,8 +430,8 @@ void packZip(const QString &directory, OutputFile &archive, const QString &shown
     // The archive's file knows more exactly why.
     archive.check();
     if (!isGood) {
-        throw LessonError(QStringLiteral("The archive can't be written: %1").arg(zip.errorString()),
-                          QStringLiteral("Check that there is room"))
+        throw LessonError(say("The archive can't be written: %1").arg(zip.errorString()),
+                          say("Check that there is room"))
             .in(shownName);
     }
 }

@@ -2,6 +2,8 @@
 #ifndef ZIPARCHIVE_H
 #define ZIPARCHIVE_H
 
+#include "files/sentence.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -22,7 +24,7 @@ bool isPackedTooTightly(qint64 size, qint64 packedSize);
 //! no name twice, no encryption, at most 100,000 entries, at most mostBytesInArchive, not packed too tightly. Archives
 //! with something before their beginning and those with 64-bit sizes are read as well. Backslashes between the parts of
 //! names count as slashes, which is returned as a sentence without a full stop. Throws LessonError.
-QStringList unpackZip(const QString &archive, const QString &directory);
+Sentences unpackZip(const QString &archive, const QString &directory);
 
 //! The names of the files in an archive, as they stand there and unchecked. Throws LessonError.
 QStringList namesInZip(const QString &archive);

@@ -30,8 +30,7 @@ void reportKeptItems(const QJsonArray &items, const SlideLosses &losses)
 void checkCanWrite(const LessonFormat &format, const QString &output)
 {
     if (!format.canWrite()) {
-        throw LessonError(QStringLiteral("The format \"%1\" can't be written").arg(format.name),
-                          QStringLiteral("See lessonconv formats"))
+        throw LessonError(say("The format \"%1\" can't be written").arg(format.name), say("See lessonconv formats"))
             .in(output);
     }
 }
@@ -40,8 +39,7 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
                    const LessonContext &context, const Progress &progress)
 {
     if (!from.canRead()) {
-        throw LessonError(QStringLiteral("The format \"%1\" can't be read").arg(from.name),
-                          QStringLiteral("See lessonconv formats"))
+        throw LessonError(say("The format \"%1\" can't be read").arg(from.name), say("See lessonconv formats"))
             .in(input);
     }
     checkCanWrite(to, output);

@@ -21,8 +21,7 @@ LessonFormat iwbFormat()
     LessonFormat format;
     format.name = QStringLiteral("iwb");
     format.extensions = QStringList{QStringLiteral("iwb")};
-    format.description =
-        QStringLiteral("interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb");
+    format.description = say("interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb");
     format.recognizes = isIwbFolder;
     format.holds = holdsIwb;
     format.measuresText = true;

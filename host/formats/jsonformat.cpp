@@ -45,20 +45,19 @@ public:
                 const JsonPath place{{member.first.toUtf8(), 0}};
                 eachUnheldValue(m_index.source(member.second), [&](const JsonPath &path, const QByteArray &value) {
                     m_losses.presentation().value(QStringLiteral("presentation"), jsonPathText(place + path),
-                                                  detailOf(value));
+                                                  Sentence(detailOf(value)));
                 });
             }
         }
         m_presentation = jsonObject(members);
         for (const auto &resource : qAsConst(m_index.resources)) {
-            const QString problem = problemWithPackagePath(resource.first);
+            const Sentence problem = problemWithPackagePath(resource.first);
             if (!problem.isEmpty()) {
-                m_index.fail(QStringLiteral("The resource \"%1\" can't be used: %2").arg(resource.first, problem),
+                m_index.fail(say("The resource \"%1\" can't be used: %2").arg(resource.first, problem),
                              resource.second.begin);
             }
             if (m_resources.contains(resource.first)) {
-                m_index.fail(QStringLiteral("The resource \"%1\" is there twice").arg(resource.first),
-                             resource.second.begin);
+                m_index.fail(say("The resource \"%1\" is there twice").arg(resource.first), resource.second.begin);
             }
             m_resources.insert(resource.first, resource.second);
         }
@@ -76,12 +75,12 @@ public:
         slide.properties = value.toObject();
         const QJsonValue items = slide.properties.take(itemsKey);
         if (!value.isObject() || !(items.isArray() || items.isUndefined())) {
-            m_index.fail(QStringLiteral("Slide %1 is no object with a list of items").arg(index + 1), range.begin);
+            m_index.fail(say("Slide %1 is no object with a list of items").arg(index + 1), range.begin);
         }
         slide.items = items.toArray();
         for (const QJsonValue &item : qAsConst(slide.items)) {
             if (!item.isObject()) {
-                m_index.fail(QStringLiteral("An item of slide %1 is no object").arg(index + 1), range.begin);
+                m_index.fail(say("An item of slide %1 is no object").arg(index + 1), range.begin);
             }
         }
         checkSlideItems(slide.items, index + 1, m_path);
@@ -113,12 +112,12 @@ public:
         }
         const JsonIndex::Range range = m_resources.value(relativePath);
         if (!m_resources.contains(relativePath)) {
-            throw LessonError(QStringLiteral("The lesson has no file \"%1\"").arg(relativePath)).in(m_path);
+            throw LessonError(say("The lesson has no file \"%1\"").arg(relativePath)).in(m_path);
         }
         const auto decoded =
             QByteArray::fromBase64Encoding(m_index.text(range), QByteArray::AbortOnBase64DecodingErrors);
         if (!decoded) {
-            m_index.fail(QStringLiteral("The resource \"%1\" is no base64 text").arg(relativePath), range.begin);
+            m_index.fail(say("The resource \"%1\" is no base64 text").arg(relativePath), range.begin);
         }
         makeFolders(QFileInfo(path).path(), m_path, OutputFile::Temporary);
         writeFile(path, *decoded, m_path, OutputFile::Temporary);
@@ -149,7 +148,7 @@ private:
         const LossOwner owner = step > 0
             ? LossOwner(item)
             : LossOwner(QStringLiteral("slide"), valueText(slide.properties.value(SlideKeys::id)));
-        losses.value(owner, jsonPathText(path, step), detailOf(value));
+        losses.value(owner, jsonPathText(path, step), Sentence(detailOf(value)));
     }
 
     LessonContext m_context;
@@ -182,9 +181,9 @@ public:
     void expect(int slides, int resources) override
     {
         if (qMax(slides, resources) > maximumJsonParts) {
-            throw LessonError(QStringLiteral("The lesson has more than the %1 slides or files that are read from JSON")
-                                  .arg(maximumJsonParts),
-                              QStringLiteral("Write it as a folder, or divide it"))
+            throw LessonError(
+                say("The lesson has more than the %1 slides or files that are read from JSON").arg(maximumJsonParts),
+                say("Write it as a folder, or divide it"))
                 .in(m_target.target());
         }
     }
@@ -200,10 +199,10 @@ public:
 
     void addResource(const QString &relativePath, const QString &sourceFile) override
     {
-        const QString problem = problemWithPackagePath(relativePath);
+        const Sentence problem = problemWithPackagePath(relativePath);
         if (!problem.isEmpty()) {
-            throw LessonError(QStringLiteral("The lesson can't hold a file \"%1\": %2").arg(relativePath, problem),
-                              QStringLiteral("Give it another name"))
+            throw LessonError(say("The lesson can't hold a file \"%1\": %2").arg(relativePath, problem),
+                              say("Give it another name"))
                 .in(m_target.target());
         }
         m_resources.append({relativePath, sourceFile});
@@ -261,8 +260,8 @@ private:
     void checkSize(qint64 bytes) const
     {
         if (bytes > maximumJsonSize) {
-            throw LessonError(QStringLiteral("The lesson has more than the 1 GiB that is read from one file of JSON"),
-                              QStringLiteral("Write it as zqtx, or divide it"))
+            throw LessonError(say("The lesson has more than the 1 GiB that is read from one file of JSON"),
+                              say("Write it as zqtx, or divide it"))
                 .in(m_target.target());
         }
     }
@@ -281,7 +280,7 @@ LessonFormat jsonFormat()
     LessonFormat format;
     format.name = QStringLiteral("json");
     format.extensions = QStringList{QStringLiteral("json")};
-    format.description = QStringLiteral("the lesson model in one file, with the files that belong to it inside");
+    format.description = say("the lesson model in one file, with the files that belong to it inside");
     format.holds = [](const LessonContent &content) { return content.isJson; };
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<JsonReader>(path, context);

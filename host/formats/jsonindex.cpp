@@ -14,14 +14,12 @@ constexpr int pieceSize = 64 * 1024;
 } // namespace
 
 JsonIndex::JsonIndex(const QString &path)
-    : JsonWalker(path, QStringLiteral("Check that the file is complete and is a lesson in JSON"), pieceSize)
+    : JsonWalker(path, say("Check that the file is complete and is a lesson in JSON"), pieceSize)
     , m_file(path)
 {
     setSize(m_file.size());
     if (size() > maximumJsonSize) {
-        throw LessonError(QStringLiteral("The file is larger than 1 GiB"),
-                          QStringLiteral("Check that this is a lesson"))
-            .in(path);
+        throw LessonError(say("The file is larger than 1 GiB"), say("Check that this is a lesson")).in(path);
     }
     scan();
 }
@@ -30,7 +28,7 @@ QByteArray JsonIndex::text(const Range &range)
 {
     const QByteArray text = source(range);
     if (!text.startsWith('"')) {
-        fail(QStringLiteral("A file of the lesson is no base64 text"), range.begin);
+        fail(say("A file of the lesson is no base64 text"), range.begin);
     }
     if (text.contains('\\')) {
         return value(range).toString().toUtf8();
@@ -45,13 +43,13 @@ void JsonIndex::scan()
     QSet<QString> names;
     eachMember([this, &hasSlides, &names](const QString &name) {
         if (names.contains(name)) {
-            fail(QStringLiteral("The lesson has \"%1\" twice").arg(name), position());
+            fail(say("The lesson has \"%1\" twice").arg(name), position());
         }
         names.insert(name);
         if (name == QLatin1String("Slides")) {
             hasSlides = true;
             eachElement([this] {
-                checkCount(slides.size(), "slides");
+                checkCount(slides.size(), TO_SAY("The lesson has more than %1 slides"));
                 slides.append(skipValue());
             });
         } else if (name == QLatin1String("Resources")) {
@@ -65,18 +63,17 @@ void JsonIndex::scan()
     });
     skipBlanks();
     if (position() != size()) {
-        fail(QStringLiteral("This is not JSON: there is something behind the end of the lesson"), position());
+        fail(say("This is not JSON: there is something behind the end of the lesson"), position());
     }
     if (!hasSlides) {
-        fail(QStringLiteral("This is no lesson: it has no \"Slides\""), 0);
+        fail(say("This is no lesson: it has no \"Slides\""), 0);
     }
 }
 
-void JsonIndex::checkCount(int count, const char *what)
+void JsonIndex::checkCount(int count, const char *problem)
 {
     if (count >= maximumJsonParts) {
-        fail(QStringLiteral("The lesson has more than %1 %2").arg(maximumJsonParts).arg(QLatin1String(what)),
-             position());
+        fail(say(problem).arg(maximumJsonParts), position());
     }
 }
 

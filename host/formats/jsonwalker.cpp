@@ -37,7 +37,7 @@ QJsonObject jsonObject(QVector<QPair<QString, QJsonValue>> members)
     return object;
 }
 
-JsonWalker::JsonWalker(const QString &path, const QString &remedy, int pieceSize)
+JsonWalker::JsonWalker(const QString &path, const Sentence &remedy, int pieceSize)
     : m_path(path)
     , m_remedy(remedy)
     , m_pieceSize(pieceSize)
@@ -53,7 +53,7 @@ void JsonWalker::skipMark()
     }
 }
 
-void JsonWalker::fail(const QString &problem, qint64 position)
+void JsonWalker::fail(const Sentence &problem, qint64 position)
 {
     qint64 line = 1;
     qint64 at = 0;
@@ -121,7 +121,7 @@ QJsonValue JsonWalker::parsedValue(const Range &range)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
-        fail(QStringLiteral("This is not JSON: %1").arg(error.errorString()), range.begin + error.offset - 1);
+        fail(say("This is not JSON: %1").arg(error.errorString()), range.begin + error.offset - 1);
     }
     return document.array().at(0);
 }
@@ -152,8 +152,8 @@ bool JsonWalker::comesNext(char c)
 void JsonWalker::expect(char c)
 {
     if (!comesNext(c)) {
-        fail(m_at >= m_size ? QStringLiteral("This is not JSON: the file ends too early")
-                            : QStringLiteral("This is not JSON: \"%1\" was expected here").arg(QLatin1Char(c)),
+        fail(m_at >= m_size ? say("This is not JSON: the file ends too early")
+                            : say("This is not JSON: \"%1\" was expected here").arg(QChar::fromLatin1(c)),
              m_at);
     }
     ++m_at;
@@ -167,7 +167,7 @@ void JsonWalker::skipString()
         m_at += c == '\\' ? 2 : 1;
     }
     if (m_at >= m_size) {
-        fail(QStringLiteral("This is not JSON: a text has no end"), begin);
+        fail(say("This is not JSON: a text has no end"), begin);
     }
     ++m_at;
 }
@@ -184,7 +184,7 @@ JsonWalker::Range JsonWalker::skipValue()
             skipString();
         } else if (c == '{' || c == '[') {
             if (++depth > maximumDepth) {
-                fail(QStringLiteral("Values are nested deeper than %1 levels").arg(maximumDepth), m_at);
+                fail(say("Values are nested deeper than %1 levels").arg(maximumDepth), m_at);
             }
             range.depth = qMax(range.depth, depth);
             ++m_at;
@@ -208,8 +208,8 @@ void JsonWalker::skipLiteral()
         ++m_at;
     }
     if (m_at == begin) {
-        fail(m_at >= m_size ? QStringLiteral("This is not JSON: the file ends too early")
-                            : QStringLiteral("This is not JSON: a value was expected here"),
+        fail(m_at >= m_size ? say("This is not JSON: the file ends too early")
+                            : say("This is not JSON: a value was expected here"),
              m_at);
     }
 }

@@ -2,6 +2,8 @@
 #ifndef JSONWALKER_H
 #define JSONWALKER_H
 
+#include "files/sentence.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -36,11 +38,11 @@ public:
     QJsonValue value(const Range &range);
     //! A value as it stands in the text.
     QByteArray source(const Range &range);
-    [[noreturn]] void fail(const QString &problem, qint64 position);
+    [[noreturn]] void fail(const Sentence &problem, qint64 position);
 
 protected:
     //! path and remedy are for messages. pieceSize: how much is held.
-    JsonWalker(const QString &path, const QString &remedy, int pieceSize);
+    JsonWalker(const QString &path, const Sentence &remedy, int pieceSize);
 
     virtual QByteArray bytes(qint64 begin, qint64 size) = 0;
 
@@ -68,7 +70,7 @@ private:
     void skipLiteral();
 
     QString m_path;
-    QString m_remedy;
+    Sentence m_remedy;
     qint64 m_pieceSize;
     qint64 m_size = 0;
     qint64 m_at = 0;

@@ -45,9 +45,8 @@ const LessonFormat *formatByExtension(const QString &path)
 
 [[noreturn]] void failWithoutFormat(const QString &path, const QString &option, const QStringList &names)
 {
-    throw LessonError(
-        QStringLiteral("The format can't be told from the name"),
-        QStringLiteral("Say which it is with %1 (one of %2)").arg(option, names.join(QLatin1String(", "))))
+    throw LessonError(say("The format can't be told from the name"),
+                      say("Say which it is with %1 (one of %2)").arg(option, listed(names)))
         .in(path);
 }
 
@@ -59,9 +58,8 @@ const LessonFormat &lessonFormatByName(const QString &name)
     const auto found = std::find_if(formats.cbegin(), formats.cend(),
                                     [&name](const LessonFormat &format) { return format.name == name; });
     if (found == formats.cend()) {
-        throw LessonError(
-            QStringLiteral("There is no format \"%1\"").arg(name),
-            QStringLiteral("Use one of %1").arg(namesOfFormats(&LessonFormat::canRead).join(QLatin1String(", "))));
+        throw LessonError(say("There is no format \"%1\"").arg(name),
+                          say("Use one of %1").arg(listed(namesOfFormats(&LessonFormat::canRead))));
     }
     return *found;
 }
@@ -69,7 +67,7 @@ const LessonFormat &lessonFormatByName(const QString &name)
 const LessonFormat &lessonFormatOfInput(const QString &path)
 {
     if (!QFileInfo::exists(path)) {
-        throw LessonError(QStringLiteral("There is no such file or folder"), QStringLiteral("Check the path")).in(path);
+        throw LessonError(say("There is no such file or folder"), say("Check the path")).in(path);
     }
     const bool isFolder = QFileInfo(path).isDir();
     for (const LessonFormat &format : lessonFormats()) {
@@ -86,8 +84,8 @@ const LessonFormat &lessonFormatOfInput(const QString &path)
         return *format;
     }
     if (isFolder) {
-        throw LessonError(QStringLiteral("This folder is no lesson: it has neither index.xml nor content.xml"),
-                          QStringLiteral("To convert all lessons in a folder, say --to FORMAT --out-dir FOLDER"))
+        throw LessonError(say("This folder is no lesson: it has neither index.xml nor content.xml"),
+                          say("To convert all lessons in a folder, say --to FORMAT --out-dir FOLDER"))
             .in(path);
     }
     failWithoutFormat(path, QStringLiteral("--from"), namesOfFormats(&LessonFormat::canRead));
@@ -107,13 +105,12 @@ const LessonFormat *lessonFormatByContent(const QString &file, bool *isKnown)
     return nullptr;
 }
 
-QString remarkOnName(const QString &path, const LessonFormat &format)
+Sentence remarkOnName(const QString &path, const LessonFormat &format)
 {
     const LessonFormat *named = formatByExtension(path);
     return !named || named->name == format.name
-        ? QString()
-        : QStringLiteral("%1 is called like a lesson in the format %2 and is one in %3")
-              .arg(path, named->name, format.name);
+        ? Sentence()
+        : say("%1 is called like a lesson in the format %2 and is one in %3").arg(path, named->name, format.name);
 }
 
 const LessonFormat &lessonFormatOfOutput(const QString &path)

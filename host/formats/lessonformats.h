@@ -2,6 +2,7 @@
 #ifndef LESSONFORMATS_H
 #define LESSONFORMATS_H
 
+#include "files/sentence.h"
 #include "formats/lessoncontent.h"
 #include "lesson/lesson.h"
 
@@ -20,7 +21,7 @@ struct LessonFormat
 {
     QString name;
     QStringList extensions; //!< lower case, without the point
-    QString description; //!< a line for "lessonconv formats"
+    Sentence description; //!< a line for "lessonconv formats"
     //! True for a folder that is a lesson in this format; may be empty. Throws LessonError for what can't be read.
     std::function<bool(const QString &path)> recognizes;
     //! True for what a file in this format holds.
@@ -51,7 +52,7 @@ const LessonFormat &lessonFormatOfInput(const QString &path);
 const LessonFormat *lessonFormatByContent(const QString &file, bool *isKnown = nullptr);
 
 //! Where a file's name says another format than the one it is read in: a sentence for the user. Empty otherwise.
-QString remarkOnName(const QString &path, const LessonFormat &format);
+Sentence remarkOnName(const QString &path, const LessonFormat &format);
 
 //! The format to write, by the extension; a path without one is a ZQTX directory.
 const LessonFormat &lessonFormatOfOutput(const QString &path);

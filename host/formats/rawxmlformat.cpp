@@ -121,9 +121,9 @@ public:
     {
         const QDomElement root = m_parts.outline();
         if (root.tagName() != rootTag) {
-            throw LessonError(QStringLiteral("The document begins with <%1> where a raw lesson has <%2>")
-                                  .arg(root.tagName(), rootTag),
-                              QStringLiteral("Check that this is a lesson in raw XML"))
+            throw LessonError(
+                say("The document begins with <%1> where a raw lesson has <%2>").arg(root.tagName(), rootTag),
+                say("Check that this is a lesson in raw XML"))
                 .in(path);
         }
         // Reading gives an element without an identifier one.
@@ -228,8 +228,7 @@ private:
             || m_presentation.contains(PresentationKeys::height)) {
             return;
         }
-        const QJsonObject slide =
-            m_context.plugin->tranSlideXML2JSON(m_visitor.firstSlide, context());
+        const QJsonObject slide = m_context.plugin->tranSlideXML2JSON(m_visitor.firstSlide, context());
         const QSize size = pageOfSourceRect(valueText(slide.value(SlideKeys::sourceRect)));
         m_presentation.insert(PresentationKeys::width, QString::number(size.width()));
         m_presentation.insert(PresentationKeys::height, QString::number(size.height()));
@@ -308,7 +307,7 @@ LessonFormat rawXmlFormat()
     LessonFormat format;
     format.name = QStringLiteral("rawxml");
     format.extensions = QStringList{QStringLiteral("xml")};
-    format.description = QStringLiteral("flat XML in one file, files in the folder \"resources\" beside it; only read");
+    format.description = say("flat XML in one file, files in the folder \"resources\" beside it; only read");
     format.holds = [](const LessonContent &content) { return content.rootTag == rootTag; };
     format.isCommonEnding = true;
     format.folderBeside = resourceFolder;

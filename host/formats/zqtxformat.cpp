@@ -46,9 +46,8 @@ QDomElement rootOf(const QDomDocument &document, const QString &tag, const QStri
 {
     const QDomElement root = document.documentElement();
     if (root.tagName() != tag) {
-        throw LessonError(
-            QStringLiteral("The document begins with <%1> where a lesson has <%2>").arg(root.tagName(), tag),
-            QStringLiteral("Check that this is a ZQTX lesson"))
+        throw LessonError(say("The document begins with <%1> where a lesson has <%2>").arg(root.tagName(), tag),
+                          say("Check that this is a ZQTX lesson"))
             .in(file);
     }
     return root;
@@ -117,10 +116,9 @@ private:
     static void checkDepth(const QDomElement &element, int around, int number, const QString &name)
     {
         if (elementDepth(element) + around > maximumXmlDepth) {
-            throw LessonError(QStringLiteral("The items of slide %1 are nested deeper than %2 levels of XML")
-                                  .arg(number)
-                                  .arg(maximumXmlDepth),
-                              QStringLiteral("Take some groups or branches apart"))
+            throw LessonError(
+                say("The items of slide %1 are nested deeper than %2 levels of XML").arg(number).arg(maximumXmlDepth),
+                say("Take some groups or branches apart"))
                 .in(name);
         }
     }
@@ -232,20 +230,19 @@ private:
         for (QDomElement entry = list.firstChildElement(QStringLiteral("file")); !entry.isNull(); entry = next) {
             next = entry.nextSiblingElement(QStringLiteral("file"));
             const QString file = entry.attribute(hrefAttribute);
-            const QString problem = problemWithPackagePath(file);
+            const Sentence problem = problemWithPackagePath(file);
             if (!problem.isEmpty()) {
-                throw LessonError(QStringLiteral("The slide \"%1\" can't be opened: %2").arg(file, problem),
-                                  QStringLiteral("Name a file of the package, such as slides/1.xml"))
+                throw LessonError(say("The slide \"%1\" can't be opened: %2").arg(file, problem),
+                                  say("Name a file of the package, such as slides/1.xml"))
                     .in(name);
             }
             if (known.contains(file)) {
-                throw LessonError(QStringLiteral("The slide \"%1\" is named twice").arg(file),
-                                  QStringLiteral("Remove one of the two lines"))
+                throw LessonError(say("The slide \"%1\" is named twice").arg(file), say("Remove one of the two lines"))
                     .in(name);
             }
             if (!m_source.contains(file)) {
-                throw LessonError(QStringLiteral("The slide \"%1\" is missing from the package").arg(file),
-                                  QStringLiteral("Put the file back, or remove its line"))
+                throw LessonError(say("The slide \"%1\" is missing from the package").arg(file),
+                                  say("Put the file back, or remove its line"))
                     .in(name);
             }
             m_files.append(file);
@@ -262,10 +259,9 @@ private:
         if (slideFile(id) == m_files.at(index)) {
             return;
         }
-        losses.note(
-            QString(slideTag),
-            QStringLiteral("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id)),
-            SlideKeys::id);
+        losses.note(QString(slideTag),
+                    say("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id)),
+                    SlideKeys::id);
     }
 
     LessonContext m_context;
@@ -366,7 +362,7 @@ private:
         if (m_placedItems > 0) {
             m_losses.presentation().note(
                 QStringLiteral("items"),
-                QStringLiteral("%1 had a matrix, which is worked into where they stand").arg(m_placedItems));
+                sayNumber("%n had a matrix, which is worked into where they stand", m_placedItems));
         }
     }
 
@@ -380,19 +376,16 @@ private:
             }
             return free;
         }
-        const QString problem = problemWithFileName(id);
+        const Sentence problem = problemWithFileName(id);
         if (!problem.isEmpty()) {
-            throw LessonError(QStringLiteral("The identifier \"%1\" of slide %2 can't name a file: %3")
-                                  .arg(id)
-                                  .arg(number)
-                                  .arg(problem),
-                              QStringLiteral("Give the slide another ID"))
+            throw LessonError(
+                say("The identifier \"%1\" of slide %2 can't name a file: %3").arg(id).arg(number).arg(problem),
+                say("Give the slide another ID"))
                 .in(m_target.target());
         }
         if (m_usedIds.contains(id)) {
-            throw LessonError(
-                QStringLiteral("Slide %1 has the identifier \"%2\" of a slide before it").arg(number).arg(id),
-                QStringLiteral("Give the slide another ID"))
+            throw LessonError(say("Slide %1 has the identifier \"%2\" of a slide before it").arg(number).arg(id),
+                              say("Give the slide another ID"))
                 .in(m_target.target());
         }
         return id;
@@ -422,8 +415,7 @@ LessonFormat zqtxFormat()
     LessonFormat format;
     format.name = QStringLiteral("zqtx");
     format.extensions = QStringList{QStringLiteral("zqtx")};
-    format.description =
-        QStringLiteral("lesson package: a folder with index.xml and slides/, or the same zipped as .zqtx");
+    format.description = say("lesson package: a folder with index.xml and slides/, or the same zipped as .zqtx");
     format.recognizes = [](const QString &path) { return QFileInfo(path + QLatin1Char('/') + indexFile).isFile(); };
     format.holds = [](const LessonContent &content) { return content.names.contains(indexFile); };
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {

@@ -145,7 +145,7 @@ QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
     const QPolygonF points = matrix ? matrix->map(view.strokePoints()) : view.strokePoints();
     if (!m_setting.keepsInk || points.isEmpty()) {
         ++m_strokesLeftOut;
-        tellFormless(m_setting.keepsInk ? QStringLiteral("it has no points") : QStringLiteral("--ink drop"));
+        tellFormless(m_setting.keepsInk ? say("it has no points") : Sentence(QStringLiteral("--ink drop")));
         return {};
     }
     const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DPolyline"));
@@ -225,9 +225,9 @@ QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
     }
     QString source = m_setting.media->find(reference);
     if (source.isEmpty() && !reference.isEmpty()) {
-        m_losses.file(item, reference, QStringLiteral("the lesson has no such file"));
+        m_losses.file(item, reference, say("the lesson has no such file"));
     } else if (!source.isEmpty() && type == QLatin1String("ZQImagePic")) {
-        const QString problem = pictureProblem(source);
+        const Sentence problem = pictureProblem(source);
         if (!problem.isEmpty()) {
             m_losses.file(item, reference, problem);
             source.clear();
@@ -345,11 +345,11 @@ QDomElement IwbItemWriter::convert(const QJsonObject &prepared)
     if (root.lastChild() != lastRecord) {
         root.removeChild(root.lastChild());
     }
-    tellFormless(hasForm ? QStringLiteral("it has too few points to be drawn") : QString());
+    tellFormless(hasForm ? say("it has too few points to be drawn") : Sentence());
     return {};
 }
 
-void IwbItemWriter::tellFormless(const QString &why)
+void IwbItemWriter::tellFormless(const Sentence &why)
 {
     m_whyNot = why;
     if (m_tellsFormless) {

@@ -42,7 +42,7 @@ public:
 
     //! Whether items without a form are told to losses; if not, whyNot() has the reason for the last one.
     void setTellsFormless(bool tells) { m_tellsFormless = tells; }
-    QString whyNot() const { return m_whyNot; }
+    Sentence whyNot() const { return m_whyNot; }
 
     //! The file that the item written last would open, where the lesson has none.
     QString missingFile() const { return m_missingFile; }
@@ -61,7 +61,7 @@ private:
     QJsonObject commonKeys(const QJsonObject &item);
     void addLink(const QJsonObject &item, QJsonObject &prepared);
     QString linkedFile(const QString &reference);
-    void tellFormless(const QString &why);
+    void tellFormless(const Sentence &why);
     QDomElement convert(const QJsonObject &prepared);
     void complete(const QJsonObject &item, QDomElement element);
 
@@ -72,7 +72,7 @@ private:
     SlideLosses m_losses; // of its slide
     QString m_linkedFile; // the reference of the file that the item being written opens
     QString m_missingFile; // that it would open
-    QString m_whyNot;
+    Sentence m_whyNot;
     bool m_tellsFormless = true;
     int m_strokes = 0;
     int m_strokesLeftOut = 0;

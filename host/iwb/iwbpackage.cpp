@@ -144,9 +144,8 @@ IwbPackage::IwbPackage(const QString &path)
     m_parts = std::make_unique<XmlParts>(content, displayName(), visitor);
     m_outline.finish();
     if (!m_outline.hasKnownRoot()) {
-        throw LessonError(
-            QStringLiteral("The document begins with <%1> where an IWB file has <iwb>").arg(m_outline.rootTag()),
-            QStringLiteral("Check that this is an IWB lesson"))
+        throw LessonError(say("The document begins with <%1> where an IWB file has <iwb>").arg(m_outline.rootTag()),
+                          say("Check that this is an IWB lesson"))
             .in(displayName());
     }
 }
@@ -184,7 +183,7 @@ QString IwbPackage::file(const QString &resource) const
     return embedded.isEmpty() ? m_source.file(resource) : embedded;
 }
 
-QString IwbPackage::resolve(const QString &reference, QString *problem) const
+QString IwbPackage::resolve(const QString &reference, Sentence *problem) const
 {
     const QString asWritten = plainPath(reference.trimmed());
     const QString decoded = QUrl::fromPercentEncoding(asWritten.toUtf8());
@@ -194,14 +193,14 @@ QString IwbPackage::resolve(const QString &reference, QString *problem) const
         }
     }
     if (asWritten.isEmpty()) {
-        *problem = QStringLiteral("it names no file");
+        *problem = say("it names no file");
     } else if (hasScheme(asWritten)) {
-        *problem = QStringLiteral("it lies outside of the package and isn't fetched");
+        *problem = say("it lies outside of the package and isn't fetched");
     } else {
         *problem = problemWithPackagePath(decoded);
         if (problem->isEmpty()) {
             const bool isFolder = QFileInfo(m_source.directory() + QLatin1Char('/') + decoded).isDir();
-            *problem = isFolder ? QStringLiteral("it is a folder") : QStringLiteral("the package has no such file");
+            *problem = isFolder ? say("it is a folder") : say("the package has no such file");
         }
     }
     return {};
@@ -216,12 +215,12 @@ void IwbPackage::takeReference(const QString &reference)
     }
     const QString other = otherName(reference);
     if (!other.isEmpty()) {
-        m_remarks.append(QStringLiteral("%1 was found as %2").arg(reference.left(200), other));
+        m_remarks.append(say("%1 was found as %2").arg(reference.left(200), other));
     }
 }
 
-// Makes references to what is there. embedded: how many pictures within the document there are before the element; gives
-// those before what follows it.
+// Makes references to what is there. embedded: how many pictures within the document there are before the element;
+// gives those before what follows it.
 int IwbPackage::findReferences(QDomElement element, int embedded) const
 {
     const QDomNamedNodeMap attributes = element.attributes();

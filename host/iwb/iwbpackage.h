@@ -26,7 +26,7 @@ public:
     explicit IwbPackage(const QString &path);
 
     //! What was found otherwise than the document or the archive has it, as sentences without a full stop.
-    QStringList remarks() const { return m_source.remarks() + m_remarks; }
+    Sentences remarks() const { return m_source.remarks() + m_remarks; }
 
     //! What the document says outside of its pages.
     const IwbOutline &outline() const { return m_outline; }
@@ -45,7 +45,7 @@ public:
     QString file(const QString &resource) const;
 
     //! The resource that a reference of the document means, or nothing and the reason as a clause.
-    QString resolve(const QString &reference, QString *problem) const;
+    QString resolve(const QString &reference, Sentence *problem) const;
 
     //! A folder of the program's own to work in.
     QString workFolder() const { return m_work.path(); }
@@ -65,7 +65,7 @@ private:
     std::unique_ptr<XmlParts> m_parts;
     QStringList m_files; // of the source
     QHash<QString, QString> m_folded; // the same by their names without capitals
-    QStringList m_remarks;
+    Sentences m_remarks;
     QHash<QString, QString> m_embedded; // file on disk by path in the package
     QVector<QString> m_embeddedPaths; // in the order of the document
     QVector<int> m_embeddedBefore; // how many there are before each part

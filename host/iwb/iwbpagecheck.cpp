@@ -105,7 +105,7 @@ void compareText(QJsonObject &given, const QJsonObject &found, const SlideLosses
         return;
     }
     const TextRuns text = textRunsFromHtml(valueText(html));
-    for (const QString &loss : text.losses) {
+    for (const Sentence &loss : text.losses) {
         losses.value(given, ItemKeys::html, loss);
     }
     if (!text.losses.isEmpty() || haveSameRuns(text, back)) {
@@ -123,12 +123,12 @@ IwbPageCheck::IwbPageCheck(IZQTransformation *plugin, const IwbMedia &media)
 {
 }
 
-QString IwbPageCheck::resolve(const QString &reference, QString *problem)
+QString IwbPageCheck::resolve(const QString &reference, Sentence *problem)
 {
     if (!m_media.file(reference).source.isEmpty()) {
         return reference;
     }
-    *problem = QStringLiteral("the package has no such file");
+    *problem = say("the package has no such file");
     return {};
 }
 
@@ -144,7 +144,8 @@ void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slid
 {
     const SvgNormalizer content(document.documentElement());
     IwbSlideReader::Slide found = m_reader.read(content.page(0), number, {});
-    found.slide.properties.insert(ItemKeys::id, m_names.next(content.outline().backgroundName(0), content.outline().pageId(0)));
+    found.slide.properties.insert(ItemKeys::id,
+                                  m_names.next(content.outline().backgroundName(0), content.outline().pageId(0)));
     compareSlide(slide.properties, found.slide.properties, losses);
     int next = 0;
     for (const IwbPageWriter::WrittenItem &written : items) {
@@ -241,7 +242,7 @@ void IwbPageCheck::finish(int pageCount) const
 {
     for (const PageLink &link : m_pageLinks) {
         if (link.page > pageCount) {
-            link.losses.value(link.owner, link.key, link.value);
+            link.losses.value(link.owner, link.key, Sentence(link.value));
         }
     }
 }

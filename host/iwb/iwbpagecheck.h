@@ -42,7 +42,7 @@ private:
         int page;
     };
 
-    QString resolve(const QString &reference, QString *problem) override;
+    QString resolve(const QString &reference, Sentence *problem) override;
     QString file(const QString &path) override { return m_media.file(path).source; }
     int pageNumber(const QString &id) override;
 

@@ -107,15 +107,15 @@ QString IwbPageWriter::background(const QJsonObject &slide, const QString &id, c
         if (file.source.isEmpty()) {
             const bool isPaper = reference.startsWith(QLatin1String("ID_SLIDE_NOTEBOOK_"));
             losses.file(owner, reference,
-                        isPaper ? QStringLiteral("it is a paper of the editor, not a file of the lesson")
-                                : QStringLiteral("the lesson has no such file"));
+                        isPaper ? say("it is a paper of the editor, not a file of the lesson")
+                                : say("the lesson has no such file"));
             continue;
         }
         if (m_media->file(chosen).source == file.source) {
             continue;
         }
         if (!chosen.isEmpty()) {
-            losses.file(owner, reference, QStringLiteral("a page has one background picture"));
+            losses.file(owner, reference, say("a page has one background picture"));
             continue;
         }
         const Picture picture(file.source);
@@ -127,15 +127,14 @@ QString IwbPageWriter::background(const QJsonObject &slide, const QString &id, c
         if (file.isConverted && m_isStored) {
             file.picture = picture.image();
             if (file.picture.isNull()) {
-                losses.file(owner, reference, QStringLiteral("it can't be made a PNG picture"));
+                losses.file(owner, reference, say("it can't be made a PNG picture"));
                 continue;
             }
         }
         if (picture.format() == "svg" && m_isStored) {
             const QStringList leftOut = picture.drawing().leftOut;
             for (const QString &name : leftOut) {
-                losses.file(owner, reference,
-                            QStringLiteral("it shows \"%1\", which isn't beside it in the lesson").arg(name));
+                losses.file(owner, reference, say("it shows \"%1\", which isn't beside it in the lesson").arg(name));
             }
         }
         chosen = m_media->place(QStringLiteral("images"), file, id + QLatin1String("_bgd.png"));
@@ -175,7 +174,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
 {
     const QVector<QJsonObject> children = ItemView(item).looseChildren();
     if (!children.isEmpty()) {
-        losses.item(given, QStringLiteral("taken apart, its items stand on the page by themselves"));
+        losses.item(given, say("taken apart, its items stand on the page by themselves"));
         const QVector<QJsonObject> own = ItemView(given).childObjects();
         for (int i = 0; i < children.size(); ++i) {
             addItem(page, own.at(i), children.at(i), losses, written);
@@ -201,7 +200,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
     // What the group would open is lost with the group. A number names no file.
     if (!element.isNull() && !m_items.missingFile().isEmpty() && ItemView(given).has(ItemKeys::linkType)
         && given.value(ItemKeys::linkValue).isString()) {
-        losses.file(given, m_items.missingFile(), QStringLiteral("the lesson has no such file to open"));
+        losses.file(given, m_items.missingFile(), say("the lesson has no such file to open"));
     }
     written.append(row);
 }

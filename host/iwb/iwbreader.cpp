@@ -22,8 +22,7 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
 {
     const IwbOutline &outline = m_package.outline();
     if (!outline.hasSvg()) {
-        throw LessonError(QStringLiteral("The document has no svg element with pages"),
-                          QStringLiteral("Check that this is an IWB lesson"))
+        throw LessonError(say("The document has no svg element with pages"), say("Check that this is an IWB lesson"))
             .in(m_package.displayName());
     }
     SlideNames names;
@@ -39,9 +38,9 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     const auto &meta = outline.meta();
     if (!meta.value(QStringLiteral("description")).isEmpty()) {
         losses.value({QStringLiteral("iwb:meta"), {}}, QStringLiteral("description"),
-                     meta.value(QStringLiteral("description")));
+                     Sentence(meta.value(QStringLiteral("description"))));
     }
-    for (const QString &remark : m_package.remarks()) {
+    for (const Sentence &remark : m_package.remarks()) {
         losses.note({QStringLiteral("presentation"), {}}, remark);
     }
     for (const SvgRemark &remark : outline.remarks()) {

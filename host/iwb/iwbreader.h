@@ -30,7 +30,7 @@ private:
     LessonSlide slide(int index, const SlideLosses &losses);
     QSet<QString> madePicturesInUse();
     void nameResources();
-    QString resolve(const QString &reference, QString *problem) override
+    QString resolve(const QString &reference, Sentence *problem) override
     {
         const QString path = m_package.resolve(reference, problem);
         m_asked.insert(path);

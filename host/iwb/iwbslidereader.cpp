@@ -143,7 +143,7 @@ void IwbSlideReader::putIntoGroups(Slide &slide, const QVector<int> &groups, int
         }
         if (groups.at(i) >= 0 && begun.contains(groups.at(i))) {
             losses.note({QStringLiteral("iwb:group"), slide.elementIds.at(i)},
-                        QStringLiteral("other items stand between those of the group, which fell apart"));
+                        say("other items stand between those of the group, which fell apart"));
         }
         begun.insert(groups.at(i));
         if (end - i < 2) {
@@ -178,7 +178,7 @@ QJsonObject IwbSlideReader::readProperties(IwbPage &page, const SlideLosses &los
     if (page.backgroundReference.isEmpty()) {
         return properties;
     }
-    QString problem;
+    Sentence problem;
     const QString picture = m_references->resolve(page.backgroundReference, &problem);
     if (!picture.isEmpty()) {
         problem = pictureProblem(m_references->file(picture));
@@ -205,7 +205,7 @@ QJsonObject IwbSlideReader::readItem(IwbElement item, const SlideLosses &losses)
     }
     QJsonObject json = m_items.read(item);
     if (json.isEmpty()) {
-        losses.item({tag, item.id}, QStringLiteral("nothing is made of it"));
+        losses.item({tag, item.id}, say("nothing is made of it"));
         return {};
     }
     if (isMedia) {
@@ -222,7 +222,7 @@ QJsonObject IwbSlideReader::readItem(IwbElement item, const SlideLosses &losses)
 // The path of a media element's file, with a picture's own size where the element tells none.
 QString IwbSlideReader::mediaFile(const IwbElement &item, const SlideLosses &losses)
 {
-    QString problem;
+    Sentence problem;
     const QString resource = m_references->resolve(item.reference, &problem);
     const bool isImage = item.element.tagName() == QLatin1String("svg:image");
     if (!resource.isEmpty() && isImage) {
@@ -252,15 +252,15 @@ void IwbSlideReader::readLink(const IwbElement &item, const SlideLosses &losses,
     if (isInside && page == 0) {
         page = m_references->pageOfElement(item.link.mid(1));
         if (page > 0) {
-            losses.note(owner, QLatin1String("the link to \"") + item.link + QLatin1String("\" leads to the page of it"));
+            losses.note(owner, say("the link to \"%1\" leads to the page of it").arg(item.link));
         }
     }
     QJsonObject link = m_items.readLink(item.link, page);
-    QString problem;
+    Sentence problem;
     if (link.isEmpty() && isInside) {
-        problem = QStringLiteral("the lesson has no page and no element of that name");
+        problem = say("the lesson has no page and no element of that name");
     } else if (link.isEmpty() && item.leadsOutside) {
-        problem = QStringLiteral("it lies outside of the package and isn't fetched");
+        problem = say("it lies outside of the package and isn't fetched");
     } else if (link.isEmpty()) {
         const QString file = m_references->resolve(item.link, &problem);
         if (!file.isEmpty()) {
@@ -270,7 +270,7 @@ void IwbSlideReader::readLink(const IwbElement &item, const SlideLosses &losses,
     }
     if (link.isEmpty()) {
         losses.value(owner, ItemKeys::linkValue,
-                     QLatin1String("link to \"") + item.link + QLatin1String("\": ") + problem);
+                     say("link to \"%1\": %2").arg(item.link, problem));
     }
     for (auto it = link.constBegin(); it != link.constEnd(); ++it) {
         json.insert(it.key(), it.value());

@@ -19,7 +19,7 @@ public:
     virtual ~IwbReferences() = default;
 
     //! The path in the lesson of the file that a reference means, or nothing and the reason as a clause.
-    virtual QString resolve(const QString &reference, QString *problem) = 0;
+    virtual QString resolve(const QString &reference, Sentence *problem) = 0;
     //! Where a path in the lesson lies on disk.
     virtual QString file(const QString &path) = 0;
     //! The number of the page with that identifier, from 1; 0 for none.

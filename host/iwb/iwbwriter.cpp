@@ -46,11 +46,6 @@ QHash<QString, bool> inkOf(const QVector<IwbPageWriter::WrittenItem> &items)
     return ink;
 }
 
-QString counted(int count, const char *one, const char *more)
-{
-    return QString::number(count) + QLatin1String(count == 1 ? one : more);
-}
-
 bool isArchiveName(const QString &path)
 {
     return QFileInfo(path).suffix().compare(QLatin1String("iwb"), Qt::CaseInsensitive) == 0;
@@ -109,7 +104,7 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
     storeMedia();
     if (m_native && !m_native->writePage(m_slides, slide, items, page)) {
         told.note({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()},
-                  QStringLiteral("it is too deep to travel along, so that what other boards don't show is lost"));
+                  say("it is too deep to travel along, so that what other boards don't show is lost"));
     }
     writePage(page);
 }
@@ -192,8 +187,7 @@ void IwbWriter::storeMedia()
 
 void IwbWriter::failWithoutPages() const
 {
-    throw LessonError(QStringLiteral("The plug-in writes no IWB pages"),
-                      QStringLiteral("Use the plug-in that belongs to this command"))
+    throw LessonError(say("The plug-in writes no IWB pages"), say("Use the plug-in that belongs to this command"))
         .in(m_target.target());
 }
 
@@ -213,14 +207,14 @@ void IwbWriter::finish()
     }
     const int strokes = m_pages.items().strokesAsPolylines();
     if (strokes > 0) {
-        losses.note(QStringLiteral("ink"), counted(strokes, " stroke became a polyline", " strokes became polylines"));
+        losses.note(QStringLiteral("ink"), sayNumber("%n strokes became polylines", strokes));
     }
     const int leftOut = m_pages.items().strokesLeftOut();
     if (leftOut > 0) {
-        losses.note(QStringLiteral("ink"), counted(leftOut, " stroke left out", " strokes left out"));
+        losses.note(QStringLiteral("ink"), sayNumber("%n strokes left out", leftOut));
     }
-    const QStringList missing = m_missing.sentences();
-    for (const QString &sentence : missing) {
+    const Sentences missing = m_missing.sentences();
+    for (const Sentence &sentence : missing) {
         losses.note(QStringLiteral("fonts"), sentence);
     }
     const QImage thumbnail = m_context.painter ? m_context.painter->thumbnail(thumbnailWidth) : QImage();
@@ -234,8 +228,7 @@ void IwbWriter::finish()
     }
     const QStringList unused = m_media.unused();
     if (!m_native && !unused.isEmpty()) {
-        losses.note(QStringLiteral("files"),
-                    QLatin1String("no page shows them, so they stay behind: ") + unused.join(QLatin1String(", ")));
+        losses.note(QStringLiteral("files"), say("no page shows them, so they stay behind: %1").arg(listed(unused)));
     }
     m_target.commit();
 }

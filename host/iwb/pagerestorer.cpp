@@ -17,11 +17,6 @@ namespace {
 const QLatin1String backgroundKeys[] = {SlideKeys::color, SlideKeys::backColor, SlideKeys::document, SlideKeys::files,
                                         SlideKeys::texture};
 
-QString counted(int count, const char *one, const char *more)
-{
-    return QString::number(count) + QLatin1String(count == 1 ? one : more);
-}
-
 } // namespace
 
 PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records)
@@ -51,7 +46,8 @@ LessonSlide PageRestorer::restore(int index, const NativePage &native, const Sli
 void PageRestorer::lookAtPage()
 {
     for (const XmlPart &layer : qAsConst(m_layers)) {
-        for (QDomElement child = layer.element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        for (QDomElement child = layer.element.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement()) {
             const QString id = itemElement(child).attribute(QStringLiteral("id"));
             // Of two, neither is surely the one.
             m_byId.insert(id, m_byId.contains(id) ? -1 : m_children.size());
@@ -171,11 +167,10 @@ void PageRestorer::tell(const SlideLosses &losses) const
         return;
     }
     losses.note(QStringLiteral("page"),
-                QStringLiteral("%1, %2 and %3 by another program; %4")
-                    .arg(counted(m_changed, " thing changed", " things changed"),
-                         counted(m_gone, " item removed", " items removed"),
-                         counted(qMax(0, m_others - m_changed), " added", " added"),
-                         counted(m_restored, " item is as it was", " items are as they were")));
+                say("%1, %2 and %3 by another program; %4")
+                    .arg(sayNumber("%n things changed", m_changed), sayNumber("%n items removed", m_gone),
+                         sayNumber("%n added", qMax(0, m_others - m_changed)),
+                         sayNumber("%n items are as they were", m_restored)));
 }
 
 } // namespace lessonhost

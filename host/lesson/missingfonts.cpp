@@ -19,39 +19,39 @@ struct Letters
     const char *package;
 };
 constexpr Letters scripts[] = {
-    {QChar::Script_Han, "Chinese characters", "fonts-noto-cjk"},
-    {QChar::Script_Bopomofo, "Chinese characters", "fonts-noto-cjk"},
-    {QChar::Script_Hiragana, "Japanese letters", "fonts-noto-cjk"},
-    {QChar::Script_Katakana, "Japanese letters", "fonts-noto-cjk"},
-    {QChar::Script_Hangul, "Korean letters", "fonts-noto-cjk"},
-    {QChar::Script_Latin, "Latin letters", "fonts-dejavu-core"},
-    {QChar::Script_Greek, "Greek letters", "fonts-dejavu-core"},
-    {QChar::Script_Cyrillic, "Cyrillic letters", "fonts-dejavu-core"},
-    {QChar::Script_Armenian, "Armenian letters", "fonts-dejavu-core"},
-    {QChar::Script_Georgian, "Georgian letters", "fonts-dejavu-core"},
-    {QChar::Script_Arabic, "Arabic letters", "fonts-noto-core"},
-    {QChar::Script_Hebrew, "Hebrew letters", "fonts-noto-core"},
-    {QChar::Script_Thai, "Thai letters", "fonts-noto-core"},
-    {QChar::Script_Lao, "Lao letters", "fonts-noto-core"},
-    {QChar::Script_Khmer, "Khmer letters", "fonts-noto-core"},
-    {QChar::Script_Myanmar, "Burmese letters", "fonts-noto-core"},
-    {QChar::Script_Tibetan, "Tibetan letters", "fonts-noto-core"},
-    {QChar::Script_Mongolian, "Mongolian letters", "fonts-noto-core"},
-    {QChar::Script_Ethiopic, "Ethiopic letters", "fonts-noto-core"},
-    {QChar::Script_Devanagari, "Devanagari letters", "fonts-noto-core"},
-    {QChar::Script_Bengali, "Bengali letters", "fonts-noto-core"},
-    {QChar::Script_Gurmukhi, "Gurmukhi letters", "fonts-noto-core"},
-    {QChar::Script_Gujarati, "Gujarati letters", "fonts-noto-core"},
-    {QChar::Script_Tamil, "Tamil letters", "fonts-noto-core"},
-    {QChar::Script_Telugu, "Telugu letters", "fonts-noto-core"},
-    {QChar::Script_Kannada, "Kannada letters", "fonts-noto-core"},
-    {QChar::Script_Malayalam, "Malayalam letters", "fonts-noto-core"},
-    {QChar::Script_Sinhala, "Sinhala letters", "fonts-noto-core"},
-    {QChar::Script_Yi, "Yi letters", "fonts-noto-core"},
+    {QChar::Script_Han, TO_SAY("Chinese characters"), "fonts-noto-cjk"},
+    {QChar::Script_Bopomofo, TO_SAY("Chinese characters"), "fonts-noto-cjk"},
+    {QChar::Script_Hiragana, TO_SAY("Japanese letters"), "fonts-noto-cjk"},
+    {QChar::Script_Katakana, TO_SAY("Japanese letters"), "fonts-noto-cjk"},
+    {QChar::Script_Hangul, TO_SAY("Korean letters"), "fonts-noto-cjk"},
+    {QChar::Script_Latin, TO_SAY("Latin letters"), "fonts-dejavu-core"},
+    {QChar::Script_Greek, TO_SAY("Greek letters"), "fonts-dejavu-core"},
+    {QChar::Script_Cyrillic, TO_SAY("Cyrillic letters"), "fonts-dejavu-core"},
+    {QChar::Script_Armenian, TO_SAY("Armenian letters"), "fonts-dejavu-core"},
+    {QChar::Script_Georgian, TO_SAY("Georgian letters"), "fonts-dejavu-core"},
+    {QChar::Script_Arabic, TO_SAY("Arabic letters"), "fonts-noto-core"},
+    {QChar::Script_Hebrew, TO_SAY("Hebrew letters"), "fonts-noto-core"},
+    {QChar::Script_Thai, TO_SAY("Thai letters"), "fonts-noto-core"},
+    {QChar::Script_Lao, TO_SAY("Lao letters"), "fonts-noto-core"},
+    {QChar::Script_Khmer, TO_SAY("Khmer letters"), "fonts-noto-core"},
+    {QChar::Script_Myanmar, TO_SAY("Burmese letters"), "fonts-noto-core"},
+    {QChar::Script_Tibetan, TO_SAY("Tibetan letters"), "fonts-noto-core"},
+    {QChar::Script_Mongolian, TO_SAY("Mongolian letters"), "fonts-noto-core"},
+    {QChar::Script_Ethiopic, TO_SAY("Ethiopic letters"), "fonts-noto-core"},
+    {QChar::Script_Devanagari, TO_SAY("Devanagari letters"), "fonts-noto-core"},
+    {QChar::Script_Bengali, TO_SAY("Bengali letters"), "fonts-noto-core"},
+    {QChar::Script_Gurmukhi, TO_SAY("Gurmukhi letters"), "fonts-noto-core"},
+    {QChar::Script_Gujarati, TO_SAY("Gujarati letters"), "fonts-noto-core"},
+    {QChar::Script_Tamil, TO_SAY("Tamil letters"), "fonts-noto-core"},
+    {QChar::Script_Telugu, TO_SAY("Telugu letters"), "fonts-noto-core"},
+    {QChar::Script_Kannada, TO_SAY("Kannada letters"), "fonts-noto-core"},
+    {QChar::Script_Malayalam, TO_SAY("Malayalam letters"), "fonts-noto-core"},
+    {QChar::Script_Sinhala, TO_SAY("Sinhala letters"), "fonts-noto-core"},
+    {QChar::Script_Yi, TO_SAY("Yi letters"), "fonts-noto-core"},
 };
-constexpr Letters wideSigns{QChar::Script_Common, "Chinese signs", "fonts-noto-cjk"};
-constexpr Letters pictures{QChar::Script_Common, "emoji", "fonts-noto-color-emoji"};
-constexpr Letters others{QChar::Script_Common, "signs", "fonts-noto-core"};
+constexpr Letters wideSigns{QChar::Script_Common, TO_SAY("Chinese signs"), "fonts-noto-cjk"};
+constexpr Letters pictures{QChar::Script_Common, TO_SAY("emoji"), "fonts-noto-color-emoji"};
+constexpr Letters others{QChar::Script_Common, TO_SAY("signs"), "fonts-noto-core"};
 
 const Letters &lettersOf(uint letter)
 {
@@ -103,11 +103,6 @@ QString packageOfFamily(const QString &name)
     return {};
 }
 
-QString slidesHave(const std::set<int> &slides)
-{
-    return slides.size() == 1 ? QStringLiteral("1 slide has ") : QStringLiteral("%1 slides have ").arg(slides.size());
-}
-
 QJsonObject entry(const char *key, const QString &name, const QString &package, const std::set<int> &slides)
 {
     QJsonArray numbers;
@@ -121,12 +116,13 @@ QJsonObject entry(const char *key, const QString &name, const QString &package, 
     return entry;
 }
 
-QString listed(const QStringList &names)
+// "a, b and 3 more"
+Sentence firstOf(const QStringList &names)
 {
     constexpr int mostNamed = 5;
-    return names.size() <= mostNamed ? names.join(QLatin1String(", "))
-                                     : names.mid(0, mostNamed).join(QLatin1String(", "))
-            + QStringLiteral(" and %1 more").arg(names.size() - mostNamed);
+    return names.size() <= mostNamed
+        ? listed(names)
+        : sayNumber("%1 and %n more", names.size() - mostNamed).arg(listed(names.mid(0, mostNamed)));
 }
 
 } // namespace
@@ -164,12 +160,12 @@ void MissingFonts::lookAtFamily(const QString &family, int slide)
     }
 }
 
-QStringList MissingFonts::sentences() const
+Sentences MissingFonts::sentences() const
 {
-    QStringList sentences;
+    Sentences sentences;
     for (auto it = m_letters.cbegin(); it != m_letters.cend(); ++it) {
-        sentences.append(slidesHave(it.value()) + it.key() + QLatin1String(" and no font here has them: install ")
-                         + packageOfLetters(it.key()));
+        sentences.append(sayNumber("%n slides have %1 and no font here has them: install %2", int(it.value().size()))
+                             .arg(say(it.key().toLatin1().constData()), packageOfLetters(it.key())));
     }
     QMap<QString, QStringList> names; // by their package
     QMap<QString, std::set<int>> slides;
@@ -180,10 +176,10 @@ QStringList MissingFonts::sentences() const
     }
     for (auto it = names.cbegin(); it != names.cend(); ++it) {
         const bool isOne = it.value().size() == 1;
-        sentences.append(slidesHave(slides.value(it.key())) + QLatin1String(isOne ? "the font " : "the fonts ")
-                         + listed(it.value()) + QLatin1String(isOne ? ", which isn't here: " : ", which aren't here: ")
-                         + (it.key().isEmpty() ? QStringLiteral("letters look otherwise")
-                                               : QString(QLatin1String("install ") + it.key())));
+        const Sentence what = isOne ? say("the font %1, which isn't here").arg(it.value().first())
+                                    : say("the fonts %1, which aren't here").arg(firstOf(it.value()));
+        const Sentence remedy = it.key().isEmpty() ? say("letters look otherwise") : say("install %1").arg(it.key());
+        sentences.append(sayNumber("%n slides have %1: %2", int(slides.value(it.key()).size())).arg(what, remedy));
     }
     return sentences;
 }

@@ -2,10 +2,11 @@
 #ifndef MISSINGFONTS_H
 #define MISSINGFONTS_H
 
+#include "files/sentence.h"
+
 #include <QJsonArray>
 #include <QMap>
 #include <QString>
-#include <QStringList>
 
 #include <set>
 
@@ -26,7 +27,7 @@ public:
 
     //! "3 slides have Chinese characters and no font here has them: install fonts-noto-cjk", one for each script, and
     //! one for the fonts of each package.
-    QStringList sentences() const;
+    Sentences sentences() const;
 
     //! [{"letters" or "font", "package", "slides": [1, 2]}, ...]; no package where none has the font.
     QJsonArray toJson() const;
@@ -36,7 +37,8 @@ private:
     QMap<QString, std::set<int>> m_families;
 };
 
-//! The letters of a text that no font here has, such as "Chinese characters", and the packages that have them.
+//! The letters of a text that no font here has, such as "Chinese characters", for say(), and the packages that have
+//! them.
 QMap<QString, QString> missingLetters(const QString &text);
 
 } // namespace lessonhost

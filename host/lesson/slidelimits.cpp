@@ -10,7 +10,7 @@ namespace lessonhost {
 
 namespace {
 
-const char *const spread = "Spread its items over several slides";
+const char *const spread = TO_SAY("Spread its items over several slides");
 
 int itemCount(const QJsonArray &items)
 {
@@ -25,11 +25,11 @@ void checkSlideSize(qint64 size, int number, const QString &file)
 {
     constexpr int mebibyte = 1024 * 1024;
     if (size > maximumSlideSize) {
-        throw LessonError(QStringLiteral("Slide %1 takes %2 MiB, and no slide may take more than %3")
+        throw LessonError(say("Slide %1 takes %2 MiB, and no slide may take more than %3")
                               .arg(number)
                               .arg((size + mebibyte - 1) / mebibyte)
                               .arg(maximumSlideSize / mebibyte),
-                          QLatin1String(spread))
+                          say(spread))
             .in(file);
     }
 }
@@ -38,11 +38,11 @@ void checkSlideItems(const QJsonArray &items, int number, const QString &file)
 {
     const int count = itemCount(items);
     if (count > maximumSlideItems) {
-        throw LessonError(QStringLiteral("Slide %1 has %2 items, and no slide may have more than %3")
+        throw LessonError(say("Slide %1 has %2 items, and no slide may have more than %3")
                               .arg(number)
                               .arg(count)
                               .arg(maximumSlideItems),
-                          QLatin1String(spread))
+                          say(spread))
             .in(file);
     }
 }

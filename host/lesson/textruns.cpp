@@ -150,41 +150,43 @@ public:
     void lookAt(const QTextBlock &block)
     {
         const QTextBlockFormat format = block.blockFormat();
-        count("indented paragraphs", format.indent() > 0 || format.leftMargin() > 0 || format.textIndent() != 0);
-        count("paragraphs with a line height of their own", format.lineHeightType() != QTextBlockFormat::SingleHeight);
-        count("backgrounds of paragraphs", format.background().style() != Qt::NoBrush);
-        count("rules", format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth));
-        count("cells of tables", QTextCursor(block).currentTable() != nullptr);
+        count(TO_SAY_NUMBER("%n indented paragraphs"),
+              format.indent() > 0 || format.leftMargin() > 0 || format.textIndent() != 0);
+        count(TO_SAY_NUMBER("%n paragraphs with a line height of their own"),
+              format.lineHeightType() != QTextBlockFormat::SingleHeight);
+        count(TO_SAY_NUMBER("%n backgrounds of paragraphs"), format.background().style() != Qt::NoBrush);
+        count(TO_SAY_NUMBER("%n rules"), format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth));
+        count(TO_SAY_NUMBER("%n cells of tables"), QTextCursor(block).currentTable() != nullptr);
     }
 
     void lookAt(const QTextCharFormat &format)
     {
-        count("texts with a background", format.background().style() != Qt::NoBrush);
-        count("texts with a line above", format.fontOverline());
-        count("texts in another case or spacing",
+        count(TO_SAY_NUMBER("%n texts with a background"), format.background().style() != Qt::NoBrush);
+        count(TO_SAY_NUMBER("%n texts with a line above"), format.fontOverline());
+        count(TO_SAY_NUMBER("%n texts in another case or spacing"),
               format.fontCapitalization() != QFont::MixedCase
                   || (format.hasProperty(QTextFormat::FontLetterSpacing) && format.fontLetterSpacing() != 0));
-        count("links within the text", format.isAnchor() && !format.anchorHref().isEmpty());
+        count(TO_SAY_NUMBER("%n links within the text"), format.isAnchor() && !format.anchorHref().isEmpty());
     }
 
     void count(const char *what, int times)
     {
         if (times > 0) {
-            m_counts[QLatin1String(what)] += times;
+            m_counts[what] += times;
         }
     }
 
-    QStringList toTexts() const
+    Sentences toSentences() const
     {
-        QStringList texts;
+        Sentences sentences;
         for (auto it = m_counts.cbegin(); it != m_counts.cend(); ++it) {
-            texts.append(QString::number(it.value()) + QLatin1Char(' ') + it.key());
+            sentences.append(sayNumber(it.key().constData(), it.value()));
         }
-        return texts;
+        return sentences;
     }
 
 private:
-    QMap<QString, int> m_counts;
+    QMap<QByteArray, int> m_counts; // by a text for sayNumber()
 };
 
 QString listMarker(const QTextBlock &block)
@@ -211,8 +213,8 @@ TextRuns runsOf(const QTextDocument &document)
             const QTextFragment fragment = it.fragment();
             int characters = 0;
             QString text = withoutControlCharacters(fragment.text(), &characters);
-            losses.count("control characters", characters);
-            losses.count("pictures within the text", text.count(QChar::ObjectReplacementCharacter));
+            losses.count(TO_SAY_NUMBER("%n control characters"), characters);
+            losses.count(TO_SAY_NUMBER("%n pictures within the text"), text.count(QChar::ObjectReplacementCharacter));
             text.remove(QChar::ObjectReplacementCharacter);
             if (!text.isEmpty()) {
                 losses.lookAt(fragment.charFormat());
@@ -230,7 +232,7 @@ TextRuns runsOf(const QTextDocument &document)
     for (const Piece &piece : qAsConst(pieces)) {
         appendRuns(result, piece);
     }
-    result.losses = losses.toTexts();
+    result.losses = losses.toSentences();
     return result;
 }
 
@@ -312,7 +314,7 @@ TextRuns textRunsFromHtml(const QString &html)
     const int leftOut = document.setLessonHtml(html);
     TextRuns runs = runsOf(document);
     if (leftOut > 0) {
-        runs.losses.append(QStringLiteral("%1 tags, which are too many or nested too deep").arg(leftOut));
+        runs.losses.append(sayNumber("%n tags, which are too many or nested too deep", leftOut));
     }
     return runs;
 }

@@ -2,6 +2,7 @@
 #ifndef TEXTRUNS_H
 #define TEXTRUNS_H
 
+#include "files/sentence.h"
 #include "iwbtextinfo.h"
 
 #include <QString>
@@ -28,7 +29,7 @@ struct TextRuns
 {
     IwbTextInfoList runs; //!< never empty: an empty text is one run with an empty text
     QStringList shifts; //!< one for each run: "sub" and "super" for letters below and above the line, else empty
-    QStringList losses; //!< what runs have no form for, such as "3 control characters"
+    Sentences losses; //!< what runs have no form for, such as "3 control characters"
 };
 
 TextRuns textRunsFromHtml(const QString &html);

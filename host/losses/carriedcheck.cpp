@@ -349,7 +349,7 @@ private:
 
     void lose(const QString &attribute, const QString &value)
     {
-        m_losses.value(m_owner, placeOf(attribute), value.left(longestDetail));
+        m_losses.value(m_owner, placeOf(attribute), Sentence(value.left(longestDetail)));
     }
 
     SlideLosses m_losses;

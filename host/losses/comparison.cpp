@@ -22,7 +22,7 @@ constexpr int longestDetail = 60;
 struct Difference
 {
     QString key;
-    QString detail;
+    Sentence detail;
 };
 
 QString detailOf(const QJsonValue &value)
@@ -71,7 +71,7 @@ public:
         } else if (!isColor && given.isString() && actual.isArray() && isListText(given.toString())) {
             compareArrays(way, key, QJsonDocument::fromJson(given.toString().toUtf8()).array(), actual.toArray());
         } else {
-            m_all.append({way, detailOf(given)});
+            m_all.append({way, Sentence(detailOf(given))});
         }
     }
 
@@ -132,7 +132,7 @@ private:
             }
         }
         if (found.size() > given.size()) {
-            m_all.append({way, QStringLiteral("%1 became %2").arg(given.size()).arg(found.size())});
+            m_all.append({way, say("%1 became %2").arg(given.size(), found.size())});
         }
     }
 

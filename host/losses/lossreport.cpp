@@ -34,38 +34,39 @@ QString name(const Loss &loss)
     return text;
 }
 
-// " on slide 3", " on slides 3 to 9" or " on 5 slides from 3 to 9"; nothing for the presentation alone.
-QString onSlides(const std::set<int> &slides)
+// "ZQChalkStroke.Weight on slide 3", "... on slides 3 to 9" or "... on 5 slides from 3 to 9"; the name of what is
+// of the presentation alone.
+Sentence onSlides(const Sentence &name, const std::set<int> &slides)
 {
     if (slides.empty() || *slides.rbegin() == 0) {
-        return {};
+        return name;
     }
     const int first = *slides.begin();
     const int last = *slides.rbegin();
     const int count = int(slides.size());
     if (count == 1) {
-        return QStringLiteral(" on slide %1").arg(first);
+        return say("%1 on slide %2").arg(name, first);
     }
-    return count == last - first + 1 ? QStringLiteral(" on slides %1 to %2").arg(first).arg(last)
-                                     : QStringLiteral(" on %1 slides from %2 to %3").arg(count).arg(first).arg(last);
+    return count == last - first + 1 ? say("%1 on slides %2 to %3").arg(name, first, last)
+                                     : sayNumber("%1 on %n slides from %2 to %3", count).arg(name, first, last);
 }
 
 // "9 ZQPhysicsDianZu, 3 ZQMindMapItem", the most frequent first.
-QString counted(const QMap<QString, int> &counts)
+Sentence counted(const QMap<QString, int> &counts)
 {
     QVector<QPair<int, QString>> rows;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         rows.append({-it.value(), it.key()});
     }
     std::sort(rows.begin(), rows.end());
-    QStringList texts;
+    Sentences texts;
     for (const auto &row : qAsConst(rows)) {
-        texts.append(QString::number(-row.first) + QLatin1Char(' ') + row.second);
+        texts.append(say("%1 %2").arg(-row.first, row.second));
     }
     return lossNames(texts);
 }
 
-QString countedByType(const QVector<Loss> &losses)
+Sentence countedByType(const QVector<Loss> &losses)
 {
     QMap<QString, int> counts;
     for (const Loss &loss : losses) {
@@ -82,7 +83,7 @@ bool isOfItem(const Loss &loss)
 }
 
 // "16 Type, 12 ArtObj_Fill", the most frequent first: for keys that items of many types lose.
-QString countedByKey(const QVector<Loss> &losses)
+Sentence countedByKey(const QVector<Loss> &losses)
 {
     QMap<QString, int> counts;
     for (const Loss &loss : losses) {
@@ -92,38 +93,38 @@ QString countedByKey(const QVector<Loss> &losses)
     return counted(counts);
 }
 
-QString listed(const QVector<Loss> &losses, Details details = Details::Hidden);
+Sentence listed(const QVector<Loss> &losses, Details details = Details::Hidden);
 
 // Where there is much to name: what slides and the presentation lose as always, and the keys of items by their number.
-QString listedByKey(const QVector<Loss> &losses)
+Sentence listedByKey(const QVector<Loss> &losses)
 {
     QVector<Loss> others;
     QVector<Loss> items;
     std::partition_copy(losses.cbegin(), losses.cend(), std::back_inserter(items), std::back_inserter(others),
                         isOfItem);
-    const QString first = others.isEmpty() ? QString() : listed(others) + QLatin1String(", ");
-    return first + QLatin1String("of items ") + countedByKey(items);
+    const Sentence ofItems = say("of items %1").arg(countedByKey(items));
+    return others.isEmpty() ? ofItems : say("%1, %2").arg(listed(others), ofItems);
 }
 
 // What is the same but for its slide is named once, in the order in which it came up.
-QString listed(const QVector<Loss> &losses, Details details)
+Sentence listed(const QVector<Loss> &losses, Details details)
 {
     struct Group
     {
         QString name;
-        QString detail;
+        Sentence detail;
         std::set<int> slides;
         int count = 0;
     };
     QVector<Group> groups;
     QHash<QPair<QString, QString>, int> indexes;
     for (const Loss &loss : losses) {
-        const QPair<QString, QString> same(name(loss),
-                                           details == Details::Shown ? QLatin1String(": ") + loss.detail : QString());
+        const Sentence detail = details == Details::Shown ? loss.detail : Sentence();
+        const QPair<QString, QString> same(name(loss), detail.english());
         auto index = indexes.constFind(same);
         if (index == indexes.constEnd()) {
             index = indexes.insert(same, groups.size());
-            groups.append({same.first, same.second, {}, 0});
+            groups.append({same.first, detail, {}, 0});
         }
         Group &group = groups[*index];
         group.slides.insert(loss.slide);
@@ -133,22 +134,19 @@ QString listed(const QVector<Loss> &losses, Details details)
     if (isMuch && std::any_of(losses.cbegin(), losses.cend(), isOfItem)) {
         return listedByKey(losses);
     }
-    QStringList texts;
+    Sentences texts;
     for (const Group &group : qAsConst(groups)) {
-        const QString times = group.count > 1 ? QStringLiteral(" (%1 times)").arg(group.count) : QString();
-        texts.append(group.name + onSlides(group.slides) + times + group.detail);
+        Sentence text = onSlides(Sentence(group.name), group.slides);
+        if (group.count > 1) {
+            text = sayNumber("%1 (%n times)", group.count).arg(text);
+        }
+        texts.append(details == Details::Shown ? say("%1: %2").arg(text, group.detail) : text);
     }
     return lossNames(texts);
 }
 
-// "no IWB form", or "no form here" where the format has no name.
-QString missingForm(const QString &format)
-{
-    return QLatin1String("no ") + (format.isEmpty() ? QStringLiteral("form here") : format + QLatin1String(" form"));
-}
-
 // What a line about losses of a kind names.
-QString listedOf(Loss::Kind kind, const QVector<Loss> &losses)
+Sentence listedOf(Loss::Kind kind, const QVector<Loss> &losses)
 {
     switch (kind) {
     case Loss::Value:
@@ -206,42 +204,36 @@ const QVector<Loss::Kind> &lossKinds()
     return kinds;
 }
 
-QString lossNames(const QStringList &names)
+Sentence lossNames(const Sentences &names)
 {
     if (names.size() <= maximumNamed) {
-        return names.join(QLatin1String(", "));
+        return listed(names);
     }
-    return names.mid(0, maximumNamed).join(QLatin1String(", "))
-        + QStringLiteral(" and %1 more").arg(names.size() - maximumNamed);
+    return sayNumber("%1 and %n more", names.size() - maximumNamed).arg(listed(names.mid(0, maximumNamed)));
 }
 
-QString lossLine(Loss::Kind kind, int count, const QString &listed, const QString &format)
+Sentence lossLine(Loss::Kind kind, qint64 count, const Sentence &listed, const QString &format)
 {
-    const QString number = QString::number(count);
     switch (kind) {
     case Loss::Value:
-        return number + QLatin1String(count == 1 ? " value lost: " : " values lost: ") + listed;
+        return sayNumber("%n values lost: %1", count).arg(listed);
     case Loss::Item:
-        return number + QLatin1String(count == 1 ? " item has " : " items have ") + missingForm(format)
-            + QLatin1String(": ") + listed;
+        return format.isEmpty() ? sayNumber("%n items have no form here: %1", count).arg(listed)
+                                : sayNumber("%n items have no %1 form: %2", count).arg(format, listed);
     case Loss::Kept:
-        return number + QLatin1String(count == 1 ? " item kept as it came: " : " items kept as they came: ") + listed;
+        return sayNumber("%n items kept as they came: %1", count).arg(listed);
     case Loss::File:
-        return number + QLatin1String(count == 1 ? " file missing or of no use: " : " files missing or of no use: ")
-            + listed;
+        return sayNumber("%n files missing or of no use: %1", count).arg(listed);
     case Loss::AsPicture:
-        return number + QLatin1String(count == 1 ? " item is a picture" : " items are pictures")
-            + QLatin1String(" on other boards: ") + listed;
+        return sayNumber("%n items are pictures on other boards: %1", count).arg(listed);
     case Loss::NotShown:
-        return number + QLatin1String(count == 1 ? " item isn't" : " items aren't")
-            + QLatin1String(" shown by other boards: ") + listed;
+        return sayNumber("%n items aren't shown by other boards: %1", count).arg(listed);
     case Loss::Otherwise:
-        return number + QLatin1String(count == 1 ? " value is" : " values are")
-            + QLatin1String(" otherwise on other boards: ") + listed;
+        return sayNumber("%n values are otherwise on other boards: %1", count).arg(listed);
     case Loss::Note:
         break;
     }
-    return QLatin1String("Note: ") + listed;
+    return say("Note: %1").arg(listed);
 }
 
 bool isLoss(Loss::Kind kind)
@@ -264,9 +256,15 @@ QString LossReport::shared(const QString &text)
     return *m_texts.insert(text);
 }
 
-QString LossReport::summary() const
+Sentence LossReport::shared(const Sentence &sentence)
 {
-    QStringList lines;
+    const auto known = m_details.constFind(sentence.english());
+    return known != m_details.constEnd() ? *known : *m_details.insert(sentence.english(), sentence);
+}
+
+Sentence LossReport::summary() const
+{
+    Sentences lines;
     for (const Loss::Kind kind : lossKinds()) {
         QVector<Loss> losses;
         std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
@@ -275,7 +273,7 @@ QString LossReport::summary() const
             lines.append(lossLine(kind, losses.size(), listedOf(kind, losses), m_format));
         }
     }
-    return lines.join(QLatin1Char('\n'));
+    return onLines(lines);
 }
 
 QJsonObject LossReport::toJson() const
@@ -288,7 +286,8 @@ QJsonObject LossReport::toJson() const
         if (loss.slide > 0) {
             entry.insert(QStringLiteral("slide"), loss.slide);
         }
-        for (const auto &[name, text] : {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail}}) {
+        for (const auto &[name, text] :
+             {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail.english()}}) {
             if (!text.isEmpty()) {
                 entry.insert(QLatin1String(name), text);
             }
@@ -303,11 +302,11 @@ QJsonObject LossReport::toJson() const
         }
         counts.insert(kind.key(), names);
     }
-    return {
-        {QStringLiteral("losses"), m_lossCount},
-        {QStringLiteral("kinds"), counts},
-        {QStringLiteral("summary"), QJsonArray::fromStringList(summary().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},
-        {QStringLiteral("entries"), entries}};
+    return {{QStringLiteral("losses"), m_lossCount},
+            {QStringLiteral("kinds"), counts},
+            {QStringLiteral("summary"),
+             QJsonArray::fromStringList(summary().english().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},
+            {QStringLiteral("entries"), entries}};
 }
 
 } // namespace lessonhost

@@ -2,6 +2,9 @@
 #ifndef LOSSREPORT_H
 #define LOSSREPORT_H
 
+#include "files/sentence.h"
+
+#include <QHash>
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
@@ -30,7 +33,7 @@ struct Loss
     QString itemType; //!< item type, or "slide" or "presentation"
     QString itemId;
     QString key; //!< JSON key, XML attribute or file
-    QString detail; //!< what it was, or why; may be empty
+    Sentence detail; //!< what it was, or why; may be empty
 };
 
 //! False for what is only named.
@@ -43,10 +46,10 @@ QLatin1String lossKindName(Loss::Kind kind);
 const QVector<Loss::Kind> &lossKinds();
 
 //! A line about those of a kind: "2 values lost: " and the list. format: what is written, such as "IWB"; may be empty.
-QString lossLine(Loss::Kind kind, int count, const QString &listed, const QString &format);
+Sentence lossLine(Loss::Kind kind, qint64 count, const Sentence &listed, const QString &format);
 
 //! At most 20 names, and how many there are besides.
-QString lossNames(const QStringList &names);
+Sentence lossNames(const Sentences &names);
 
 /*!
  * Collects losses in the order in which they are found and puts them into words and JSON.
@@ -65,7 +68,7 @@ public:
     void setFormat(const QString &name) { m_format = name; }
 
     //! A line for each kind: "2 values lost: ZQChalkStroke.Weight on slide 3, ...". No text without entries.
-    QString summary() const;
+    Sentence summary() const;
 
     //! {"losses": number, "summary": lines, "kinds": {"value": {"ZQChalkStroke.Weight": number, ...}, ...},
     //! "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
@@ -73,9 +76,11 @@ public:
 
 private:
     QString shared(const QString &text);
+    Sentence shared(const Sentence &sentence);
 
     QVector<Loss> m_entries;
     QSet<QString> m_texts; //!< each text of the entries that others may have too, once
+    QHash<QString, Sentence> m_details; //!< the same by their English
     QString m_format;
     int m_lossCount = 0;
 };

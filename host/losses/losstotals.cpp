@@ -74,7 +74,7 @@ void LossTotals::add(const QJsonObject &totals)
 }
 
 // Where there is much to name, keys that items of many types lose stand for all of them.
-QString LossTotals::listed(const Kind &kind)
+Sentence LossTotals::listed(const Kind &kind)
 {
     const bool isMuch = kind.names.size() > mostListed;
     QMap<QString, Count> names;
@@ -86,28 +86,24 @@ QString LossTotals::listed(const Kind &kind)
         rows.append({-name->count, name.key()});
     }
     std::sort(rows.begin(), rows.end());
-    QStringList texts;
+    Sentences texts;
     for (const auto &[count, name] : qAsConst(rows)) {
-        QString text = QStringLiteral("%1 %2").arg(-count).arg(name);
-        if (!isMuch) {
-            const qint64 lessons = names.value(name).lessons;
-            text += lessons == 1 ? QStringLiteral(" in 1 lesson") : QStringLiteral(" in %1 lessons").arg(lessons);
-        }
-        texts.append(text);
+        const Sentence text = say("%1 %2").arg(-count, name);
+        texts.append(isMuch ? text : sayNumber("%1 in %n lessons", names.value(name).lessons).arg(text));
     }
     return lossNames(texts);
 }
 
-QString LossTotals::summary() const
+Sentences LossTotals::summary() const
 {
-    QString text;
+    Sentences lines;
     for (const Loss::Kind kind : lossKinds()) {
         const auto found = m_kinds.constFind(lossKindName(kind));
         if (found != m_kinds.cend()) {
-            text += lossLine(kind, int(found->all.count), listed(*found), {}) + QLatin1Char('\n');
+            lines.append(lossLine(kind, found->all.count, listed(*found), {}));
         }
     }
-    return text;
+    return lines;
 }
 
 QJsonObject LossTotals::toJson() const

@@ -2,6 +2,8 @@
 #ifndef LOSSTOTALS_H
 #define LOSSTOTALS_H
 
+#include "files/sentence.h"
+
 #include <QJsonObject>
 #include <QMap>
 #include <QString>
@@ -23,7 +25,7 @@ public:
     qint64 count(const QString &kind) const { return m_kinds.value(kind).all.count; }
 
     //! A line for each kind: "300 values lost: 280 ZQChalkStroke.Weight in 12 lessons, ...", the most frequent first.
-    QString summary() const;
+    Sentences summary() const;
 
     //! {"value": {"count", "lessons", "names": {"ZQChalkStroke.Weight": {"count", "lessons"}, ...}}, ...}
     QJsonObject toJson() const;
@@ -45,7 +47,7 @@ private:
         void add(const QString &name, const Count &count);
     };
 
-    static QString listed(const Kind &kind);
+    static Sentence listed(const Kind &kind);
 
     QMap<QString, Kind> m_kinds;
 };

@@ -29,19 +29,19 @@ SlideLosses SlideLosses::elsewhere() const
     return losses;
 }
 
-void SlideLosses::value(const LossOwner &owner, const QString &key, const QString &detail) const
+void SlideLosses::value(const LossOwner &owner, const QString &key, const Sentence &detail) const
 {
     add(m_isElsewhere ? Loss::Otherwise : Loss::Value, owner, key, detail);
 }
 
-void SlideLosses::item(const LossOwner &owner, const QString &why) const
+void SlideLosses::item(const LossOwner &owner, const Sentence &why) const
 {
     add(m_isElsewhere ? Loss::NotShown : Loss::Item, owner, {}, why);
 }
 
 void SlideLosses::picture(const LossOwner &owner) const
 {
-    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {}) : item(owner, QStringLiteral("it became a picture"));
+    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {}) : item(owner, say("it became a picture"));
 }
 
 void SlideLosses::kept(const LossOwner &owner) const
@@ -49,12 +49,12 @@ void SlideLosses::kept(const LossOwner &owner) const
     add(Loss::Kept, owner, {}, {});
 }
 
-void SlideLosses::file(const LossOwner &owner, const QString &reference, const QString &why) const
+void SlideLosses::file(const LossOwner &owner, const QString &reference, const Sentence &why) const
 {
     add(m_isElsewhere ? Loss::Otherwise : Loss::File, owner, reference, why);
 }
 
-void SlideLosses::note(const LossOwner &owner, const QString &detail, const QString &key) const
+void SlideLosses::note(const LossOwner &owner, const Sentence &detail, const QString &key) const
 {
     add(Loss::Note, owner, key, detail);
 }
@@ -69,7 +69,7 @@ bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) cons
            });
 }
 
-void SlideLosses::add(int kind, const LossOwner &owner, const QString &key, const QString &detail) const
+void SlideLosses::add(int kind, const LossOwner &owner, const QString &key, const Sentence &detail) const
 {
     if (m_report) {
         m_report->add({Loss::Kind(kind), m_slide, owner.type, owner.id, key, detail});

@@ -2,6 +2,8 @@
 #ifndef SLIDELOSSES_H
 #define SLIDELOSSES_H
 
+#include "files/sentence.h"
+
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
@@ -45,23 +47,23 @@ public:
     SlideLosses elsewhere() const;
 
     //! A value that did not survive.
-    void value(const LossOwner &owner, const QString &key, const QString &detail = {}) const;
+    void value(const LossOwner &owner, const QString &key, const Sentence &detail = {}) const;
     //! An item that isn't there.
-    void item(const LossOwner &owner, const QString &why = {}) const;
+    void item(const LossOwner &owner, const Sentence &why = {}) const;
     //! An item that became a picture.
     void picture(const LossOwner &owner) const;
     //! An item that nobody can convert and that goes over as it came.
     void kept(const LossOwner &owner) const;
     //! A file that isn't there or can't be taken.
-    void file(const LossOwner &owner, const QString &reference, const QString &why) const;
+    void file(const LossOwner &owner, const QString &reference, const Sentence &why) const;
     //! What is done otherwise than one would expect, and loses nothing.
-    void note(const LossOwner &owner, const QString &detail, const QString &key = {}) const;
+    void note(const LossOwner &owner, const Sentence &detail, const QString &key = {}) const;
 
     //! True if that file of the owner was told through this object or a copy of it.
     bool hasFile(const LossOwner &owner, const QString &reference) const;
 
 private:
-    void add(int kind, const LossOwner &owner, const QString &key, const QString &detail) const;
+    void add(int kind, const LossOwner &owner, const QString &key, const Sentence &detail) const;
 
     LossReport *m_report = nullptr;
     int m_slide = 0;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "files/sentence.h"
 #include "render/pdfpages.h"
 
 #include <cairo-pdf.h>
@@ -44,7 +45,7 @@ void check(cairo_status_t status)
 [[noreturn]] void fail(GError *error)
 {
     const Held<GError> held(error);
-    throw std::runtime_error(error ? error->message : "the drawing isn't understood");
+    throw std::runtime_error(error ? error->message : TO_SAY("the drawing isn't understood"));
 }
 
 cairo_matrix_t matrixOf(const QTransform &transform)
@@ -275,7 +276,7 @@ public:
     void write(const unsigned char *bytes, std::size_t size) override
     {
         if (m_device.write(reinterpret_cast<const char *>(bytes), qint64(size)) != qint64(size)) {
-            throw std::runtime_error("the document can't be written");
+            throw std::runtime_error(TO_SAY("the document can't be written"));
         }
     }
     void finish() override { }
@@ -295,7 +296,7 @@ extern "C" Q_DECL_EXPORT void lessonCompletePdf(const QByteArray &pagesFile, QIO
 {
     const Held<std::FILE> file(std::fopen(pagesFile.constData(), "rbe"));
     if (!file) {
-        throw std::runtime_error("the pages can't be read");
+        throw std::runtime_error(TO_SAY("the pages can't be read"));
     }
     QPDF pdf;
     pdf.setSuppressWarnings(true); // cairo names a resource twice where it is used twice

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/differencepage.h"
 
+#include "files/language.h"
 #include "render/slidepictures.h"
 
 namespace lessonhost {
@@ -8,7 +9,7 @@ namespace lessonhost {
 namespace {
 
 const char *const pageHead = R"(<!DOCTYPE html>
-<html lang="en"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width">
+<html lang="%2"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width">
 <title>%1</title>
 <style>
 body { margin: 2em auto; max-width: 1600px; padding: 0 1em; background: #f4f4f2; font-family: sans-serif; color: #222 }
@@ -21,19 +22,20 @@ figure > svg { height: auto; box-shadow: 0 1px 6px #0004 } .pictures { position:
 
 } // namespace
 
-QString captionOf(const SlidePicture &picture)
+Sentence captionOf(const SlidePicture &picture)
 {
-    const QString line = picture.outlineLine();
-    return picture.named.isEmpty()
-        ? line
-        : QString(line + QStringLiteral(" (items shown by their name: %1)").arg(picture.named.size()));
+    const Sentence line = picture.outlineLine();
+    return picture.named.isEmpty() ? line : say("%1 (items shown by their name: %2)").arg(line, picture.named.size());
 }
 
 DifferencePage::DifferencePage(const QString &path, const QString &title, const PictureStore &store)
     : m_target(path)
     , m_pictures(store)
 {
-    addHtml(QString(QLatin1String(pageHead)).replace(QLatin1String("%1"), title.toHtmlEscaped()).toUtf8());
+    addHtml(QString(QLatin1String(pageHead))
+                .replace(QLatin1String("%1"), title.toHtmlEscaped())
+                .replace(QLatin1String("%2"), languageTag(spokenLanguage()))
+                .toUtf8());
 }
 
 void DifferencePage::add(const SlidePicture &picture)
@@ -43,8 +45,8 @@ void DifferencePage::add(const SlidePicture &picture)
     QDomElement svg = picture.svg.documentElement().cloneNode().toElement();
     svg.setAttribute(QStringLiteral("style"), QStringLiteral("width:calc(100% * %1 / var(--widest))").arg(width));
     const QByteArray language = picture.language.code().toLatin1();
-    addHtml("<figure" + (language.isEmpty() ? QByteArray() : " lang=\"" + language + '"') + ">\n" + m_pictures.html(svg) + "\n<figcaption>"
-            + captionOf(picture).toHtmlEscaped().toUtf8() + "</figcaption></figure>\n");
+    addHtml("<figure" + (language.isEmpty() ? QByteArray() : " lang=\"" + language + '"') + ">\n" + m_pictures.html(svg)
+            + "\n<figcaption>" + captionOf(picture).local().toHtmlEscaped().toUtf8() + "</figcaption></figure>\n");
 }
 
 void DifferencePage::addHtml(const QByteArray &html)

@@ -3,6 +3,7 @@
 #define DIFFERENCEPAGE_H
 
 #include "files/packagetarget.h"
+#include "files/sentence.h"
 #include "render/htmlpictures.h"
 
 namespace lessonhost {
@@ -29,7 +30,7 @@ private:
 };
 
 //! "Slide 3: What plants live on (items shown by their name: 2)"
-QString captionOf(const SlidePicture &picture);
+Sentence captionOf(const SlidePicture &picture);
 
 } // namespace lessonhost
 

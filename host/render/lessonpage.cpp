@@ -25,7 +25,7 @@ namespace lessonhost {
 namespace {
 
 // The script in the order of what its parts need, and the style.
-constexpr const char *scriptParts[] = {"lesson", "stage", "changes", "animate", "links", "media",
+constexpr const char *scriptParts[] = {"lesson", "stage", "changes", "animate", "links",  "media",
                                        "tools",  "cards", "games",   "ink",     "present"};
 
 QByteArray pageFile(const char *name)
@@ -85,8 +85,8 @@ void LessonPage::add(const SlidePicture &picture)
         + ";--height:" + QByteArray::number(qRound(picture.size.height()));
     m_slides.put("<section class=\"slide\" id=\"slide" + number + "\" data-slide=\"" + number + "\" aria-label=\"Slide "
                  + number + "\"" + (language.isEmpty() ? QByteArray() : " lang=\"" + language + "\"")
-                 + ">\n<h2 lang=\"en\">" + escaped(captionOf(picture)) + "</h2>\n<div class=\"stage\" style=\"" + size
-                 + "\">\n" + m_pictures.html(svg) + "\n</div>\n"
+                 + ">\n<h2 lang=\"en\">" + escaped(captionOf(picture).english())
+                 + "</h2>\n<div class=\"stage\" style=\"" + size + "\">\n" + m_pictures.html(svg) + "\n</div>\n"
                  + jsonHtml(QJsonDocument(picture.play), " class=\"play\"") + "</section>\n");
     m_widest = qMax(m_widest, qRound(picture.size.width()));
     const QDomNodeList styles = svg.elementsByTagName(QStringLiteral("style"));

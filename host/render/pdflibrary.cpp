@@ -32,16 +32,15 @@ PdfLibrary loaded()
 {
     const QString file = foundFile();
     if (file.isEmpty()) {
-        throw LessonError(QStringLiteral("The part of lessonconv that writes PDF, %1, was not found").arg(fileName),
-                          QStringLiteral("Build or install the project again, or write .html"));
+        throw LessonError(say("The part of lessonconv that writes PDF, %1, was not found").arg(fileName),
+                          say("Build or install the project again, or write .html"));
     }
     QLibrary library(file);
     PdfLibrary functions{reinterpret_cast<MakePdfPages>(library.resolve(makePdfPagesName)),
                          reinterpret_cast<CompletePdf>(library.resolve(completePdfName))};
     if (!functions.makePages || !functions.complete) {
-        throw LessonError(
-            QStringLiteral("The part of lessonconv that writes PDF can't be loaded: %1").arg(library.errorString()),
-            QStringLiteral("Build or install the project again, or write .html"))
+        throw LessonError(say("The part of lessonconv that writes PDF can't be loaded: %1").arg(library.errorString()),
+                          say("Build or install the project again, or write .html"))
             .in(file);
     }
     return functions;

@@ -45,8 +45,7 @@ void PdfOutput::work(const std::function<void()> &step)
     } catch (const std::exception &error) {
         m_pagesFile->check();
         m_target.file().check();
-        throw LessonError(QStringLiteral("The pages can't be drawn: %1").arg(QString::fromLocal8Bit(error.what())))
-            .in(m_target.target());
+        throw LessonError(say("The pages can't be drawn: %1").arg(say(error.what()))).in(m_target.target());
     }
 }
 
@@ -60,7 +59,7 @@ void PdfOutput::draw(const SlidePicture &picture)
 {
     const PageFrame frame = m_settings.size.frameOf(picture.size);
     const QTransform toPoints = QTransform::fromScale(pointsPerPixel, pointsPerPixel);
-    m_pages->beginPage(frame.size * pointsPerPixel, picture.outlineLine());
+    m_pages->beginPage(frame.size * pointsPerPixel, picture.outlineLine().english());
     const QTransform toPage =
         QTransform::fromScale(frame.page.width() / picture.size.width(), frame.page.height() / picture.size.height())
         * QTransform::fromTranslate(frame.page.x(), frame.page.y()) * toPoints;

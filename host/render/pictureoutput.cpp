@@ -24,13 +24,13 @@ void checkName(const QString &path, const RenderSettings &settings, int slides)
 {
     const QString folder = path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
     if (folder.contains(placeOfNumber())) {
-        throw LessonError(QStringLiteral("The pictures of a lesson are written into one folder"),
-                          QStringLiteral("Put %d behind the last / in the name"))
+        throw LessonError(say("The pictures of a lesson are written into one folder"),
+                          say("Put %d behind the last / in the name"))
             .in(path);
     }
     if (slides > 1 && !settings.isFolder && !path.contains(placeOfNumber())) {
-        throw LessonError(QStringLiteral("%1 slides don't go into one picture").arg(slides),
-                          QStringLiteral("Put %d in the name for the number of the slide, or choose one with --slides"))
+        throw LessonError(say("%1 slides don't go into one picture").arg(slides),
+                          say("Put %d in the name for the number of the slide, or choose one with --slides"))
             .in(path);
     }
 }
@@ -39,8 +39,8 @@ void checkName(const QString &path, const RenderSettings &settings, int slides)
 void checkWritable(const PictureForm &form)
 {
     if (form.hasPixels && !QImageWriter::supportedImageFormats().contains(form.name.toLatin1())) {
-        throw LessonError(QStringLiteral("Pictures in %1 can't be written on this machine").arg(form.name),
-                          QStringLiteral("Install qt5-image-formats-plugins, or write png"));
+        throw LessonError(say("Pictures in %1 can't be written on this machine").arg(form.name),
+                          say("Install qt5-image-formats-plugins, or write png"));
     }
 }
 

@@ -31,8 +31,8 @@ QVector<int> chosenSlides(const RenderSettings &settings, int count)
     }
     for (const int slide : settings.slides) {
         if (slide >= count) {
-            throw LessonError(QStringLiteral("There is no slide %1: the lesson has %2").arg(slide + 1).arg(count),
-                              QStringLiteral("Name other slides with --slides"));
+            throw LessonError(say("There is no slide %1: the lesson has %2").arg(slide + 1).arg(count),
+                              say("Name other slides with --slides"));
         }
         chosen.append(slide);
     }
@@ -64,16 +64,21 @@ QJsonObject kindsOf(const QJsonArray &named)
     return types.isEmpty() ? QJsonObject() : QJsonObject{{QStringLiteral("named"), types}};
 }
 
-QStringList withoutDuplicates(QStringList texts)
+Sentences withoutDuplicates(const Sentences &sentences)
 {
-    texts.removeDuplicates();
-    return texts;
+    Sentences once;
+    for (const Sentence &sentence : sentences) {
+        if (!inEnglish(once).contains(sentence.english())) {
+            once.append(sentence);
+        }
+    }
+    return once;
 }
 
 } // namespace
 
-QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
-                         const RenderSettings &settings, const Progress &progress)
+Rendered renderLesson(LessonReader &reader, const LessonContext &context, const QString &output,
+                      const RenderSettings &settings, const Progress &progress)
 {
     const QVector<int> slides = chosenSlides(settings, reader.slideCount());
     for (const int slide : slides) {
@@ -98,23 +103,25 @@ QJsonObject renderLesson(LessonReader &reader, const LessonContext &context, con
         progress(i + 1, slides.size());
     }
     if (slides.isEmpty()) {
-        throw LessonError(QStringLiteral("The lesson has no slides to draw"));
+        throw LessonError(say("The lesson has no slides to draw"));
     }
-    return {{QStringLiteral("slides"), slides.size()},
-            {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
-            {QStringLiteral("named"), named},
-            {QStringLiteral("kinds"), kindsOf(named)},
-            {QStringLiteral("missingFonts"), pictures.missingFonts().toJson()},
-            {QStringLiteral("notes"), QJsonArray::fromStringList(pictures.missingFonts().sentences())}};
+    const Sentences notes = pictures.missingFonts().sentences();
+    return {{{QStringLiteral("slides"), slides.size()},
+             {QStringLiteral("files"), QJsonArray::fromStringList(target->finish())},
+             {QStringLiteral("named"), named},
+             {QStringLiteral("kinds"), kindsOf(named)},
+             {QStringLiteral("missingFonts"), pictures.missingFonts().toJson()},
+             {QStringLiteral("notes"), QJsonArray::fromStringList(inEnglish(notes))}},
+            notes};
 }
 
-QJsonObject renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
-                             const QString &secondName, const LessonContext &context, const QString &output,
-                             const RenderSettings &settings, const Progress &progress)
+Rendered renderDifference(LessonReader &first, const QString &firstName, LessonReader &second,
+                          const QString &secondName, const LessonContext &context, const QString &output,
+                          const RenderSettings &settings, const Progress &progress)
 {
     if (settings.form->kind != PictureForm::Html) {
-        throw LessonError(QStringLiteral("Two lessons side by side are written as one page"),
-                          QStringLiteral("Give the output a name in .html"))
+        throw LessonError(say("Two lessons side by side are written as one page"),
+                          say("Give the output a name in .html"))
             .in(output);
     }
     const int count = qMax(first.slideCount(), second.slideCount());
@@ -124,7 +131,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         refuseToReplace(output);
     }
     PictureStore store;
-    DifferencePage html(output, firstName + QLatin1String(" and ") + secondName, store);
+    DifferencePage html(output, say("%1 and %2").arg(firstName, secondName).local(), store);
     SlidePictures firstPictures(first, context, store);
     SlidePictures secondPictures(second, context, store);
     PageFiles firstFiles;
@@ -134,7 +141,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
     LossReport losses;
     for (int i = 0; i < slides.size(); ++i) {
         const int slide = slides.at(i);
-        html.addHtml("<h2>Slide " + QByteArray::number(slide + 1) + "</h2>\n<div class=\"pair\">\n");
+        html.addHtml("<h2>" + say("Slide %1").arg(slide + 1).local().toUtf8() + "</h2>\n<div class=\"pair\">\n");
         SlideNotice notices[2];
         for (const bool isFirst : {true, false}) {
             if (slide < (isFirst ? first : second).slideCount()) {
@@ -142,7 +149,7 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
                 notices[isFirst] = SlideNotice(picture, isFirst ? firstFiles : secondFiles);
                 html.add(picture);
             } else {
-                html.addHtml("<p>This lesson has no such slide.</p>\n");
+                html.addHtml("<p>" + say("This lesson has no such slide.").local().toUtf8() + "</p>\n");
             }
         }
         html.addHtml("</div>\n");
@@ -157,12 +164,13 @@ QJsonObject renderDifference(LessonReader &first, const QString &firstName, Less
         }
         progress(i + 1, slides.size());
     }
-    return {{QStringLiteral("slides"), slides.size()},
-            {QStringLiteral("files"), QJsonArray::fromStringList(html.finish())},
-            {QStringLiteral("losses"), losses.toJson()},
-            {QStringLiteral("notes"),
-             QJsonArray::fromStringList(withoutDuplicates(firstPictures.missingFonts().sentences()
-                                                          + secondPictures.missingFonts().sentences()))}};
+    const Sentences notes =
+        withoutDuplicates(firstPictures.missingFonts().sentences() + secondPictures.missingFonts().sentences());
+    return {{{QStringLiteral("slides"), slides.size()},
+             {QStringLiteral("files"), QJsonArray::fromStringList(html.finish())},
+             {QStringLiteral("losses"), losses.toJson()},
+             {QStringLiteral("notes"), QJsonArray::fromStringList(inEnglish(notes))}},
+            notes};
 }
 
 } // namespace lessonhost

@@ -17,14 +17,7 @@ constexpr double mostScale = 100;
 constexpr int mostDotsPerInch = 9600;
 constexpr int mostSlidesNamed = 100000;
 
-// "a, b and c"
-QString listed(QStringList words)
-{
-    const QString last = words.takeLast();
-    return words.isEmpty() ? last : QString(words.join(QLatin1String(", ")) + QLatin1String(" and ") + last);
-}
-
-QString namesOf(bool (*isMeant)(const PictureForm &))
+Sentence namesOf(bool (*isMeant)(const PictureForm &))
 {
     QStringList names;
     for (const PictureForm &form : pictureForms()) {
@@ -32,7 +25,7 @@ QString namesOf(bool (*isMeant)(const PictureForm &))
             names.append(form.name);
         }
     }
-    return listed(names);
+    return listedWithAnd(names);
 }
 
 const PictureForm *formOfName(const QString &path)
@@ -70,10 +63,9 @@ int sideFrom(const char *option, const QString &text)
 {
     const int side = text.toInt();
     if (side < 1 || side > largestSide) {
-        throw LessonError(QStringLiteral("\"%1\" is no number of pixels").arg(text),
-                          QStringLiteral("Write a number from 1 to %1, such as --%2 640")
-                              .arg(largestSide)
-                              .arg(QLatin1String(option)));
+        throw LessonError(
+            say("\"%1\" is no number of pixels").arg(text),
+            say("Write a number from 1 to %1, such as --%2 640").arg(largestSide).arg(QLatin1String(option)));
     }
     return side;
 }
@@ -83,9 +75,8 @@ double numberFrom(const char *option, const QString &text, double least, double 
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     if (!isNumber || !(number >= least) || !(number <= most)) {
-        throw LessonError(
-            QStringLiteral("\"%1\" is no such number").arg(text),
-            QStringLiteral("Give --%1 a number from %2 to %3").arg(QLatin1String(option)).arg(least).arg(most));
+        throw LessonError(say("\"%1\" is no such number").arg(text),
+                          say("Give --%1 a number from %2 to %3").arg(QLatin1String(option)).arg(least).arg(most));
     }
     return number;
 }
@@ -95,9 +86,9 @@ void takeBox(const QString &text, PictureSize &size)
     const QStringList parts = text.split(QLatin1Char('x'));
     size.box = QSize(parts.value(0).toInt(), parts.value(1).toInt());
     if (parts.size() != 2 || size.box.isEmpty() || size.box.width() > largestSide || size.box.height() > largestSide) {
-        throw LessonError(QStringLiteral("\"%1\" is no size").arg(text),
-                          QStringLiteral("Write width and height in pixels, such as --size 1280x720, up to %1 each")
-                              .arg(largestSide));
+        throw LessonError(
+            say("\"%1\" is no size").arg(text),
+            say("Write width and height in pixels, such as --size 1280x720, up to %1 each").arg(largestSide));
     }
 }
 
@@ -125,20 +116,20 @@ PictureSize sizeFrom(const PictureForm &form, const OptionValue &valueOf)
         }
         const QString name = QLatin1String("--") + QLatin1String(option.name);
         if (!option.hasForm(form)) {
-            throw LessonError(QStringLiteral("%1 changes nothing about %2").arg(name, form.name),
-                              QStringLiteral("Leave it out; it is for %1").arg(namesOf(option.hasForm)));
+            throw LessonError(say("%1 changes nothing about %2").arg(name, form.name),
+                              say("Leave it out; it is for %1").arg(namesOf(option.hasForm)));
         }
         if (!taken.isEmpty()) {
-            throw LessonError(QStringLiteral("%1 and %2 both say how large pictures are").arg(taken, name),
-                              QStringLiteral("Give one of them; --size 1280x720 sets bounds for both sides"));
+            throw LessonError(say("%1 and %2 both say how large pictures are").arg(taken, name),
+                              say("Give one of them; --size 1280x720 sets bounds for both sides"));
         }
         option.take(text, size);
         taken = name;
     }
     size.isFilled = !valueOf("pad").isNull();
     if (size.isFilled && size.box.isEmpty()) {
-        throw LessonError(QStringLiteral("--pad changes nothing without --size"),
-                          QStringLiteral("Leave it out, or say the whole size, such as --size 1280x720"));
+        throw LessonError(say("--pad changes nothing without --size"),
+                          say("Leave it out, or say the whole size, such as --size 1280x720"));
     }
     return size;
 }
@@ -149,17 +140,16 @@ std::optional<QColor> groundFrom(const PictureForm &form, const QString &text)
         return {};
     }
     if (!QColor::isValidColor(text)) {
-        throw LessonError(QStringLiteral("\"%1\" is no colour").arg(text),
-                          QStringLiteral("Write a name or red, green and blue, such as --background \"#ffffe0\", or "
-                                         "transparent"));
+        throw LessonError(say("\"%1\" is no colour").arg(text),
+                          say("Write a name or red, green and blue, such as --background \"#ffffe0\", or "
+                              "transparent"));
     }
     const QColor color(text);
     if (form.isOpaque && color.alpha() < 255) {
-        throw LessonError(
-            QStringLiteral("In %1 nothing shows through").arg(form.name),
-            QStringLiteral("Take a colour for --background, or write %1").arg(namesOf([](const PictureForm &other) {
-                return other.hasPixels && !other.isOpaque;
-            })));
+        throw LessonError(say("In %1 nothing shows through").arg(form.name),
+                          say("Take a colour for --background, or write %1").arg(namesOf([](const PictureForm &other) {
+                              return other.hasPixels && !other.isOpaque;
+                          })));
     }
     return color;
 }
@@ -174,8 +164,8 @@ QVector<int> slidesFrom(const QString &text)
         const int first = ends.constFirst().toInt();
         const int last = ends.constLast().toInt();
         if (ends.size() > 2 || first < 1 || last < first || last - first > mostSlidesNamed) {
-            throw LessonError(QStringLiteral("\"%1\" names no slides").arg(text),
-                              QStringLiteral("Count from 1, such as --slides 2-5 or --slides 1,4"));
+            throw LessonError(say("\"%1\" names no slides").arg(text),
+                              say("Count from 1, such as --slides 2-5 or --slides 1,4"));
         }
         for (int slide = first; slide <= last; ++slide) {
             slides.append(slide - 1);
@@ -214,9 +204,7 @@ const PictureForm &pictureFormByName(const QString &name)
         }
         names.append(form.name);
     }
-    throw LessonError(
-        QStringLiteral("Pictures can't be written as \"%1\"").arg(name),
-        QStringLiteral("Say %1").arg(listed(names).replace(QLatin1String(" and "), QLatin1String(" or "))));
+    throw LessonError(say("Pictures can't be written as \"%1\"").arg(name), say("Say %1").arg(listedWithOr(names)));
 }
 
 bool isPictureName(const QString &path)
@@ -233,9 +221,8 @@ const PictureForm &pictureFormOfOutput(const QString &path)
     for (const PictureForm &form : pictureForms()) {
         extensions.append(QLatin1Char('.') + form.extensions.first());
     }
-    throw LessonError(QStringLiteral("Pictures can't be written in this form"),
-                      QStringLiteral("Give the output a name in %1, or say the form with --to")
-                          .arg(listed(extensions).replace(QLatin1String(" and "), QLatin1String(" or "))))
+    throw LessonError(say("Pictures can't be written in this form"),
+                      say("Give the output a name in %1, or say the form with --to").arg(listedWithOr(extensions)))
         .in(path);
 }
 
@@ -263,8 +250,7 @@ RenderSettings renderSettings(const PictureForm &form, const OptionValue &valueO
     settings.slides = slidesFrom(valueOf("slides"));
     settings.isEmbedded = !valueOf("embed").isNull();
     if (settings.isEmbedded && form.kind != PictureForm::Html) {
-        throw LessonError(QStringLiteral("--embed changes nothing about %1").arg(form.name),
-                          QStringLiteral("Leave it out; it is for html"));
+        throw LessonError(say("--embed changes nothing about %1").arg(form.name), say("Leave it out; it is for html"));
     }
     return settings;
 }

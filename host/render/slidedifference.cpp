@@ -118,8 +118,7 @@ QString rowsOf(const QVector<Loss> &losses)
     QString rows;
     QString item; // whose keys the last row holds
     for (const Loss &loss : losses) {
-        const QString name =
-            loss.itemType == QLatin1String("slide") ? QStringLiteral("Slide") : plainName(loss.itemType);
+        const QString name = loss.itemType == QLatin1String("slide") ? say("Slide").local() : plainName(loss.itemType);
         const QString owner = loss.itemType + QLatin1Char(' ') + loss.itemId;
         if (owner != item) {
             rows += (rows.isEmpty() ? QString() : QStringLiteral("</li>\n"))
@@ -130,7 +129,7 @@ QString rowsOf(const QVector<Loss> &losses)
         }
         item = owner;
         rows += QStringLiteral("<span title=\"%2\">%1</span>")
-                    .arg(loss.key.left(200).toHtmlEscaped(), loss.detail.toHtmlEscaped());
+                    .arg(loss.key.left(200).toHtmlEscaped(), loss.detail.local().toHtmlEscaped());
     }
     return rows.isEmpty() ? rows : QString(rows + QLatin1String("</li>"));
 }
@@ -146,18 +145,16 @@ void addHtml(const NoticedLosses &losses, Notice notice, QString &html)
 {
     const QString mark = notice == Notice::Nothing ? QString() : QStringLiteral(" class=\"losses\"");
     if (!losses.items.isEmpty()) {
-        html += QStringLiteral("<p%1>%2: %3</p>\n")
-                    .arg(mark,
-                         notice == Notice::Nothing ? QStringLiteral("Missing, and not shown in the first one")
-                                                   : QStringLiteral("Missing"),
-                         countedNames(losses.items).toHtmlEscaped());
+        const Sentence text =
+            notice == Notice::Nothing ? say("Missing, and not shown in the first one: %1") : say("Missing: %1");
+        html += QStringLiteral("<p%1>%2</p>\n").arg(mark, text.arg(countedNames(losses.items)).local().toHtmlEscaped());
     }
     if (!losses.values.isEmpty()) {
-        const QString title = notice == Notice::Look ? QStringLiteral("Missing or other values")
-            : notice == Notice::Deed                 ? QStringLiteral("Both look the same and work otherwise")
-                                                     : QStringLiteral("Both look the same. Missing or other values");
-        html += QStringLiteral("<details%1><summary>%2: %3</summary>\n<ul>%4</ul></details>\n")
-                    .arg(mark, title, QString::number(losses.values.size()), rowsOf(losses.values));
+        const Sentence title = notice == Notice::Look ? say("Missing or other values: %1")
+            : notice == Notice::Deed                  ? say("Both look the same and work otherwise: %1")
+                                                      : say("Both look the same. Missing or other values: %1");
+        html += QStringLiteral("<details%1><summary>%2</summary>\n<ul>%3</ul></details>\n")
+                    .arg(mark, title.arg(losses.values.size()).local(), rowsOf(losses.values));
     }
 }
 
@@ -172,8 +169,8 @@ QByteArray slideDifference(const LessonSlide &given, const SlideNotice &givenNot
     QMap<Notice, NoticedLosses> noticed;
     for (const Loss &loss : losses.entries().mid(before)) {
         const bool isSlide = loss.itemType == QLatin1String("slide");
-        const Notice notice = isSlide ? givenNotice.ofSlide(foundNotice)
-                                      : givenNotice.ofItems(items.within(loss.itemId), foundNotice);
+        const Notice notice =
+            isSlide ? givenNotice.ofSlide(foundNotice) : givenNotice.ofItems(items.within(loss.itemId), foundNotice);
         if (loss.kind == Loss::Item) {
             noticed[notice].items.append(plainName(loss.itemType));
         } else {
@@ -181,7 +178,7 @@ QByteArray slideDifference(const LessonSlide &given, const SlideNotice &givenNot
         }
     }
     if (noticed.isEmpty()) {
-        return QByteArrayLiteral("<p class=\"none\">Nothing is lost.</p>\n");
+        return "<p class=\"none\">" + say("Nothing is lost.").local().toUtf8() + "</p>\n";
     }
     QString html;
     for (const Notice notice : {Notice::Look, Notice::Deed, Notice::Nothing}) {

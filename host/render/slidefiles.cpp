@@ -85,13 +85,12 @@ QStringList SlideFiles::finish()
 void SlideFiles::refuseHuge(const SlidePicture &picture, const QSize &size) const
 {
     if (qint64(size.width()) * size.height() > qint64(mostMegapixels) * 1000000) {
-        throw LessonError(
-            QStringLiteral("A picture of slide %1 would have %2 x %3 pixels, which are more than %4 million")
-                .arg(picture.slide)
-                .arg(size.width())
-                .arg(size.height())
-                .arg(mostMegapixels),
-            QStringLiteral("Ask for a smaller one, such as --width 4000, or write .pdf or .svg"))
+        throw LessonError(say("A picture of slide %1 would have %2 x %3 pixels, which are more than %4 million")
+                              .arg(picture.slide)
+                              .arg(size.width())
+                              .arg(size.height())
+                              .arg(mostMegapixels),
+                          say("Ask for a smaller one, such as --width 4000, or write .pdf or .svg"))
             .in(m_target.target());
     }
 }
@@ -147,8 +146,8 @@ void SlideFiles::draw(const SlidePicture &picture, OutputFile &file)
     const bool isDrawn = !image.isNull() && writer.write(image);
     file.check();
     if (!isDrawn) {
-        throw LessonError(QStringLiteral("The picture of slide %1 can't be drawn").arg(picture.slide),
-                          QStringLiteral("Ask for a smaller one, such as --width 1000"))
+        throw LessonError(say("The picture of slide %1 can't be drawn").arg(picture.slide),
+                          say("Ask for a smaller one, such as --width 1000"))
             .in(m_target.target());
     }
 }

@@ -104,10 +104,10 @@ TextLanguage languageOf(const QDomElement &svg)
 
 } // namespace
 
-QString SlidePicture::outlineLine() const
+Sentence SlidePicture::outlineLine() const
 {
-    const QString line = QStringLiteral("Slide %1").arg(slide);
-    return title.isEmpty() ? line : QString(line + QLatin1String(": ") + title);
+    const Sentence line = say("Slide %1").arg(slide);
+    return title.isEmpty() ? line : say("%1: %2").arg(line, title);
 }
 
 SlidePictures::SlidePictures(LessonReader &reader, const LessonContext &context, PictureStore &store,

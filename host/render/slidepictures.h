@@ -41,7 +41,7 @@ struct SlidePicture
     QJsonObject play; //!< of slidePlay(), where the slide is drawn to be played
 
     //! "Slide 3: What plants live on"
-    QString outlineLine() const;
+    Sentence outlineLine() const;
 };
 
 /*!

@@ -83,7 +83,7 @@ SymbolPart::Kind kindOf(const QDomElement &element)
 // With what it has from the parts around it: their style, and their roles where it says no colour of its own.
 SymbolPart readPart(const QDomElement &element, const SvgStyle &above, const SymbolPart &around)
 {
-    const auto ignore = [](const QString &) {};
+    const auto ignore = [](const Sentence &) {};
     const SvgStyle style = above.child(element, element.attribute(QStringLiteral("transform")), ignore);
     SymbolPart part;
     part.element = element;

@@ -202,7 +202,7 @@ XmlVisitor::Way IwbOutline::beginInSection(const QDomElement &element)
     }
     rememberPage(QStringRef(&id));
     if (SvgPageBuilder::isDrawn(name)) {
-        m_strays.append({name, id, QStringLiteral("it stands on no page and is left out")});
+        m_strays.append({name, id, say("it stands on no page and is left out")});
     }
     if (element.parentNode() == m_section && name == QLatin1String("rect")) {
         m_strayRectangles.append(id);
@@ -237,8 +237,7 @@ void IwbOutline::readSize(const QDomElement &svg)
         return;
     }
     m_rules.viewBox = QRectF(QPointF(), usualPage);
-    m_sizeRemarks.append(
-        {QStringLiteral("svg"), {}, QStringLiteral("the file tells no page size; 1440 x 1080 was taken"), false});
+    m_sizeRemarks.append({QStringLiteral("svg"), {}, say("the file tells no page size; 1440 x 1080 was taken"), false});
 }
 
 XmlVisitor::Way IwbOutline::beginRecord(const QDomElement &row)
@@ -254,7 +253,7 @@ XmlVisitor::Way IwbOutline::beginRecord(const QDomElement &row)
         m_meta.insert(row.attribute(QStringLiteral("name")), row.attribute(QStringLiteral("content")));
     } else if (svgName(row) != QLatin1String("svg")) {
         m_recordRemarks.append({row.tagName(), row.attribute(QStringLiteral("ref"), idOf(row)),
-                                QStringLiteral("lessons have no such record"), false});
+                                say("lessons have no such record"), false});
     }
     return m_hasSvg ? Past : Inside;
 }
@@ -293,8 +292,7 @@ void IwbOutline::nameUnread(const QDomElement &row)
     }
     for (auto it = unread.cbegin(); it != unread.cend(); ++it) {
         m_recordRemarks.append({row.tagName(), refOf(row),
-                                it.key() + QLatin1String(" \"") + it.value().left(80)
-                                    + QLatin1String("\" is left out"),
+                                say("%1 \"%2\" is left out").arg(it.key(), it.value().left(80)),
                                 false});
     }
 }

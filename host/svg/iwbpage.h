@@ -2,6 +2,8 @@
 #ifndef IWBPAGE_H
 #define IWBPAGE_H
 
+#include "files/sentence.h"
+
 #include <QDomDocument>
 #include <QHash>
 #include <QRectF>
@@ -20,7 +22,7 @@ struct SvgRemark
 {
     QString tag;
     QString id;
-    QString text;
+    Sentence text;
     bool isLoss = true; //!< false where only the form differs
 };
 

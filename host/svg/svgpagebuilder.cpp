@@ -187,7 +187,7 @@ bool SvgPageBuilder::stroke(const QVector<QDomElement> &pieces, const Place &out
     QVector<QPolygonF> polygons;
     QColor color;
     Place place = outer;
-    const auto nobody = [](const QString &) {};
+    const auto nobody = [](const Sentence &) {};
     for (const QDomElement &piece : pieces) {
         const SvgStyle style = outer.style.child(piece, nativeTransform(piece), nobody);
         const SvgPaint paint = svgPaint(style, m_rules.isNative, nobody);
@@ -205,9 +205,9 @@ bool SvgPageBuilder::stroke(const QVector<QDomElement> &pieces, const Place &out
         return false;
     }
     if (pieces.size() > 1) {
-        remark(pieces.first(), QString::number(pieces.size()) + QLatin1String(" polygons became one stroke"), false);
+        remark(pieces.first(), sayNumber("%n polygons became one stroke", pieces.size()), false);
     } else {
-        remark(pieces.first(), QStringLiteral("the polygon became a stroke"), false);
+        remark(pieces.first(), say("the polygon became a stroke"), false);
     }
     QPolygonF points = line->points;
     if (points.size() == 1) {
@@ -238,7 +238,7 @@ void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
     }
     const auto conversion = conversions().constFind(name);
     if (conversion == conversions().constEnd()) {
-        remark(element, QStringLiteral("lessons have nothing like it"));
+        remark(element, say("lessons have nothing like it"));
         return;
     }
     Place place = outer;
@@ -255,7 +255,7 @@ void SvgPageBuilder::nameWithoutPage(const QDomElement &element, const QString &
     for (QDomElement child = element.firstChildElement(); !child.isNull() && name != QLatin1String("defs");
          child = child.nextSiblingElement()) {
         if (isDrawn(svgName(child))) {
-            remark(child, QStringLiteral("it stands on no page and is left out"));
+            remark(child, say("it stands on no page and is left out"));
         }
     }
 }
@@ -267,14 +267,14 @@ void SvgPageBuilder::remarkOnExtras(const QDomElement &element, const QString &n
     for (int i = 0; i < attributes.size(); ++i) {
         const QString attribute = attributes.item(i).nodeName();
         if (attribute.startsWith(QLatin1String("on"))) {
-            remark(element, QLatin1String("the script of ") + attribute + QLatin1String(" is left out"));
+            remark(element, say("the script of %1 is left out").arg(attribute));
         }
     }
     if (isOneOf(holders, name)) {
         return;
     }
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        remark(element, QLatin1Char('<') + child.tagName() + QLatin1String("> within it is left out"));
+        remark(element, say("<%1> within it is left out").arg(child.tagName()));
     }
 }
 
@@ -329,10 +329,9 @@ void SvgPageBuilder::alternatives(const QDomElement &element, const Place &place
         }
         const bool hasOther = !child.nextSiblingElement().isNull();
         remark(child,
-               QStringLiteral("%1 can't be shown here, and %2")
-                   .arg(format,
-                        hasOther ? QStringLiteral("what stands for it is taken")
-                                 : QStringLiteral("nothing stands for it")),
+               (hasOther ? say("%1 can't be shown here, and what stands for it is taken")
+                         : say("%1 can't be shown here, and nothing stands for it"))
+                   .arg(format),
                !hasOther);
     }
 }
@@ -348,7 +347,7 @@ void SvgPageBuilder::link(const QDomElement &element, const Place &place)
     }
     if (only.isNull()) {
         if (!element.text().trimmed().isEmpty()) {
-            remark(element, QStringLiteral("it links a text that stands in no text element"));
+            remark(element, say("it links a text that stands in no text element"));
             return;
         }
         media(element, place, QStringLiteral("svg:a"));
@@ -364,11 +363,11 @@ void SvgPageBuilder::rectangle(const QDomElement &element, const Place &place)
 {
     const QRectF box(length(element, "x"), length(element, "y"), length(element, "width"), length(element, "height"));
     if (!(box.width() > 0) || !(box.height() > 0)) {
-        remark(element, QStringLiteral("it has no size"));
+        remark(element, say("it has no size"));
         return;
     }
     if (length(element, "rx") > 0 || length(element, "ry") > 0) {
-        remark(element, QStringLiteral("its corners are no longer round"), false);
+        remark(element, say("its corners are no longer round"), false);
     }
     if (!scaleAndTurn(place.style.matrix)) {
         outline(element, place, QPolygonF() << box.topLeft() << box.topRight() << box.bottomRight() << box.bottomLeft(),
@@ -386,7 +385,7 @@ void SvgPageBuilder::ellipse(const QDomElement &element, const Place &place)
     const double rx = length(element, isCircle ? "r" : "rx");
     const double ry = isCircle ? rx : length(element, "ry");
     if (!(rx > 0) || !(ry > 0)) {
-        remark(element, QStringLiteral("it has no size"));
+        remark(element, say("it has no size"));
         return;
     }
     const QPointF center = place.style.matrix.map(QPointF(length(element, "cx"), length(element, "cy")));
@@ -447,7 +446,7 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
 {
     const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
     if (numbers.size() % 2 == 1) {
-        remark(element, QStringLiteral("its last point has no y and is left out"));
+        remark(element, say("its last point has no y and is left out"));
     }
     Place inner = place;
     if (m_rules.isIwb && !hasOwnFill(element)) {
@@ -460,7 +459,7 @@ void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
 {
     const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
     if (numbers.size() % 2 == 1) {
-        remark(element, QStringLiteral("its last point has no y and is left out"));
+        remark(element, say("its last point has no y and is left out"));
     }
     outline(element, place, pointsOf(numbers), true);
 }
@@ -472,14 +471,14 @@ void SvgPageBuilder::path(const QDomElement &element, const Place &place)
     if (!outlines) {
         const auto curves = svgPath(data);
         if (!curves) {
-            remark(element, QStringLiteral("its data can't be read"));
+            remark(element, say("its data can't be read"));
             return;
         }
         outlines = flattened(*curves, meanScale(place.style.matrix));
-        remark(element, QStringLiteral("its curves became fine lines"), false);
+        remark(element, say("its curves became fine lines"), false);
     }
     if (outlines->size() > 1) {
-        remark(element, QString::number(outlines->size()) + QLatin1String(" outlines became an item each"), false);
+        remark(element, sayNumber("%n outlines became an item each", outlines->size()), false);
     }
     for (const SvgOutline &shape : qAsConst(*outlines)) {
         if (shape.points.size() > 1) {
@@ -492,7 +491,7 @@ void SvgPageBuilder::path(const QDomElement &element, const Place &place)
 void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPolygonF points, bool isClosed)
 {
     if (points.isEmpty()) {
-        remark(source, QStringLiteral("it has no points"));
+        remark(source, say("it has no points"));
         return;
     }
     if (isClosed && points.first() != points.last()) {
@@ -501,7 +500,7 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
     for (const char *marker : {"marker-start", "marker-end"}) {
         const QString value = place.style.property(QLatin1String(marker));
         if (!value.isEmpty() && value != QLatin1String("none")) {
-            remark(source, QLatin1String(marker) + QLatin1String(" is left out"));
+            remark(source, say("%1 is left out").arg(QLatin1String(marker)));
         }
     }
     const SvgPaint paint = paintOf(source, place.style);
@@ -513,7 +512,7 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
     }
     for (const QString &shape : {record.startShape, record.endShape}) {
         if (isArrow(shape)) {
-            remark(source, QStringLiteral("an arrow at its end is left out"));
+            remark(source, say("an arrow at its end is left out"));
         }
     }
     if (points.size() == 3 && !isInk && (!m_rules.isNative || paint.fill.alpha() > 0)) {
@@ -525,7 +524,7 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
     if (isClosed && isInk) {
         item.isFreehand = false;
         item.isHighlight = false;
-        remark(source, QStringLiteral("it isn't drawn as a pen does, so it is no ink"), false);
+        remark(source, say("it isn't drawn as a pen does, so it is no ink"), false);
     }
 }
 
@@ -534,7 +533,7 @@ SvgPaint SvgPageBuilder::paintOf(const QDomElement &element, const SvgStyle &sty
 {
     const SvgPaint paint = svgPaint(style, m_rules.isNative, remarkAbout(element));
     if (!m_rules.isNative && paint.line.alpha() > 0) {
-        for (const QString &difference : lineDifferences(style, paint)) {
+        for (const Sentence &difference : lineDifferences(style, paint)) {
             remark(element, difference, false);
         }
     }
@@ -557,7 +556,7 @@ void SvgPageBuilder::media(const QDomElement &source, const Place &place, const 
     item.reference = linkTarget(source);
     const QRectF box(length(source, "x"), length(source, "y"), length(source, "width"), length(source, "height"));
     if (!placeBox(item, box, place.style.matrix)) {
-        remark(source, QStringLiteral("it is drawn slanted no longer"), false);
+        remark(source, say("it is drawn slanted no longer"), false);
     }
     if (place.style.matrix.determinant() < 0 && tag == QLatin1String("svg:image")) {
         // The box is turned with its upper side: what is upside down then is flipped.
@@ -565,7 +564,7 @@ void SvgPageBuilder::media(const QDomElement &source, const Place &place, const 
     }
     const double fillOpacity = svgLength(place.style.property(QStringLiteral("fill-opacity")), 1).value_or(1);
     if (place.style.opacity < 1 || (fillOpacity < 1 && tag == QLatin1String("svg:image"))) {
-        remark(source, QStringLiteral("it is no longer translucent"), false);
+        remark(source, say("it is no longer translucent"), false);
     }
 }
 
@@ -579,11 +578,12 @@ void SvgPageBuilder::text(const QDomElement &element, const Place &place)
     const QMap<QString, QString> missing = missingLetters(content.plainText());
     for (auto it = missing.cbegin(); it != missing.cend(); ++it) {
         remark(element,
-               QStringLiteral("its size is a guess, as no font here has its %1: install %2").arg(it.key(), it.value()),
+               say("its size is a guess, as no font here has its %1: install %2")
+                   .arg(say(it.key().toLatin1().constData()), it.value()),
                false);
     }
     if (!placeBox(item, box, place.style.matrix)) {
-        remark(element, QStringLiteral("it is drawn slanted no longer"), false);
+        remark(element, say("it is drawn slanted no longer"), false);
     }
     finishText(element, content, place, item);
 }
@@ -592,13 +592,13 @@ void SvgPageBuilder::text(const QDomElement &element, const Place &place)
 void SvgPageBuilder::finishText(const QDomElement &source, const SvgText &content, const Place &place, IwbElement &item)
 {
     content.writeInto(item.element, meanScale(place.style.matrix));
-    for (const QString &note : content.notes()) {
+    for (const Sentence &note : content.notes()) {
         remark(source, note, false);
     }
     if (item.link.isEmpty()) {
         item.link = content.link();
     } else if (!content.link().isEmpty()) {
-        remark(source, QLatin1String("the link of its letters to \"") + content.link() + QLatin1String("\" is left out"));
+        remark(source, say("the link of its letters to \"%1\" is left out").arg(content.link()));
     }
 }
 
@@ -614,7 +614,7 @@ void SvgPageBuilder::textArea(const QDomElement &element, const Place &place)
         box.setHeight(content.size().height());
     }
     if (!placeBox(item, box, place.style.matrix)) {
-        remark(element, QStringLiteral("it is drawn slanted no longer"), false);
+        remark(element, say("it is drawn slanted no longer"), false);
     }
     finishText(element, content, place, item);
 }
@@ -650,7 +650,7 @@ bool SvgPageBuilder::fillsPage(const QDomElement &element, const IwbRecord &reco
         return true;
     }
     if (record.posture == QLatin1String("repeated")) {
-        remark(element, QStringLiteral("the picture fills the page once instead of many times"));
+        remark(element, say("the picture fills the page once instead of many times"));
         return true;
     }
     const QRectF box(length(element, "x"), length(element, "y"), length(element, "width", m_rules.viewBox.width()),
@@ -662,7 +662,7 @@ bool SvgPageBuilder::fillsPage(const QDomElement &element, const IwbRecord &reco
     const bool isFull = qAbs(difference.x()) <= tolerance && qAbs(difference.y()) <= tolerance
         && qAbs(difference.width()) <= tolerance && qAbs(difference.height()) <= tolerance;
     if (!isFull) {
-        remark(element, QStringLiteral("it doesn't fill the page, so it became a picture that can't be moved"), false);
+        remark(element, say("it doesn't fill the page, so it became a picture that can't be moved"), false);
     }
     return isFull;
 }
@@ -753,14 +753,14 @@ double SvgPageBuilder::length(const QDomElement &element, const char *name, doub
     return svgLength(element.attribute(attribute), reference).value_or(fallback);
 }
 
-void SvgPageBuilder::remark(const QDomElement &element, const QString &text, bool isLoss)
+void SvgPageBuilder::remark(const QDomElement &element, const Sentence &text, bool isLoss)
 {
     m_result.remarks.append({element.tagName(), element.attribute(QStringLiteral("id")), text, isLoss});
 }
 
-std::function<void(const QString &)> SvgPageBuilder::remarkAbout(const QDomElement &element)
+std::function<void(const Sentence &)> SvgPageBuilder::remarkAbout(const QDomElement &element)
 {
-    return [this, element](const QString &text) { remark(element, text); };
+    return [this, element](const Sentence &text) { remark(element, text); };
 }
 
 } // namespace lessonhost

@@ -74,8 +74,8 @@ private:
     bool placeBox(IwbElement &item, const QRectF &box, const QTransform &matrix);
     IwbElement &addItem(const QDomElement &source, const Place &place, const QString &tag);
     double length(const QDomElement &element, const char *name, double fallback = 0);
-    void remark(const QDomElement &element, const QString &text, bool isLoss = true);
-    std::function<void(const QString &)> remarkAbout(const QDomElement &element);
+    void remark(const QDomElement &element, const Sentence &text, bool isLoss = true);
+    std::function<void(const Sentence &)> remarkAbout(const QDomElement &element);
     QString nativeTransform(const QDomElement &element) const;
 
     const IwbDocumentRules &m_rules;

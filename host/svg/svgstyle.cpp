@@ -78,14 +78,14 @@ QColor withOpacity(QColor color, double opacity)
 }
 
 QColor paintColor(const SvgStyle &style, const QString &name, const QColor &fallback,
-                  const std::function<void(const QString &)> &problem)
+                  const std::function<void(const Sentence &)> &problem)
 {
     QString text = style.property(name).trimmed();
     if (text.isEmpty()) {
         return fallback;
     }
     if (text.startsWith(QLatin1String("url("))) {
-        problem(name + QLatin1String(" \"") + text + QLatin1String("\" (a gradient or pattern) is left out"));
+        problem(say("%1 \"%2\" (a gradient or pattern) is left out").arg(name, text));
         text = text.mid(text.indexOf(QLatin1Char(')')) + 1).trimmed();
         return svgColor(text).value_or(QColor(0, 0, 0, 0));
     }
@@ -95,7 +95,7 @@ QColor paintColor(const SvgStyle &style, const QString &name, const QColor &fall
     if (const auto color = svgColor(text)) {
         return *color;
     }
-    problem(name + QLatin1String(" \"") + text + QLatin1String("\" isn't a colour"));
+    problem(say("%1 \"%2\" isn't a colour").arg(name, text));
     return fallback;
 }
 
@@ -120,7 +120,7 @@ QString rgb(const QColor &color, bool withAlpha)
 } // namespace
 
 SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
-                         const std::function<void(const QString &)> &problem) const
+                         const std::function<void(const Sentence &)> &problem) const
 {
     SvgStyle result = *this;
     const double inheritedSize = fontPixels();
@@ -146,7 +146,7 @@ SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
     for (const char *effect : unknownEffects) {
         const QString value = own.value(QLatin1String(effect));
         if (!value.isEmpty() && value != QLatin1String("none")) {
-            problem(QLatin1String(effect) + QLatin1String(" is left out"));
+            problem(say("%1 is left out").arg(QLatin1String(effect)));
         }
     }
     result.opacity = opacity * opacityOf(own.value(QStringLiteral("opacity")));
@@ -157,7 +157,7 @@ SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
         if (const auto step = svgTransform(transform)) {
             result.matrix = *step * matrix;
         } else {
-            problem(QLatin1String("transform \"") + transform + QLatin1String("\" can't be read"));
+            problem(say("transform \"%1\" can't be read").arg(transform));
         }
     }
     return result;
@@ -177,7 +177,7 @@ double SvgStyle::fontPixels() const
     return ok && pixels > 0 ? pixels : 16;
 }
 
-SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void(const QString &)> &problem)
+SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void(const Sentence &)> &problem)
 {
     SvgPaint paint;
     const QColor none(0, 0, 0, 0);
@@ -207,16 +207,16 @@ SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void
     const QString dashes = style.property(QStringLiteral("stroke-dasharray"));
     paint.dashParts = dashParts(dashes);
     if (svgNumbers(dashes).size() > 4) {
-        problem(QLatin1String("stroke-dasharray \"") + dashes + QLatin1String("\" became dash dot dot"));
+        problem(say("stroke-dasharray \"%1\" became dash dot dot").arg(dashes));
     }
     return paint;
 }
 
-QStringList lineDifferences(const SvgStyle &style, const SvgPaint &paint)
+Sentences lineDifferences(const SvgStyle &style, const SvgPaint &paint)
 {
     // Of which the lengths are so many times the width of the line.
     static const QVector<double> patterns[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
-    QStringList differences;
+    Sentences differences;
     const QString dashes = style.property(QStringLiteral("stroke-dasharray"));
     const QVector<double> lengths = svgNumbers(dashes);
     const QVector<double> pattern = patterns[qBound(0, paint.dashParts, 4)];
@@ -226,13 +226,13 @@ QStringList lineDifferences(const SvgStyle &style, const SvgPaint &paint)
         isSame = isSame && (lengths.size() > 4 || qAbs(lengths.at(i) - pattern.at(i) * width) <= width);
     }
     if (!isSame) {
-        differences.append(QLatin1String("stroke-dasharray \"") + dashes + QLatin1String("\" has other lengths"));
+        differences.append(say("stroke-dasharray \"%1\" has other lengths").arg(dashes));
     }
     constexpr const char *plain[][2] = {{"stroke-linecap", "butt"}, {"stroke-linejoin", "miter"}};
     for (const auto &[name, usual] : plain) {
         const QString value = style.property(QLatin1String(name));
         if (!value.isEmpty() && value != QLatin1String(usual)) {
-            differences.append(QLatin1String(name) + QLatin1String(" \"") + value + QLatin1String("\" is left out"));
+            differences.append(say("%1 \"%2\" is left out").arg(QLatin1String(name), value));
         }
     }
     return differences;

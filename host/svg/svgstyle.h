@@ -2,6 +2,8 @@
 #ifndef SVGSTYLE_H
 #define SVGSTYLE_H
 
+#include "files/sentence.h"
+
 #include <QColor>
 #include <QDomElement>
 #include <QHash>
@@ -26,7 +28,7 @@ public:
     //! The style of a child: this one with the child's own attributes and declarations and this transform on top.
     //! A transform that can't be read is handed to problem.
     SvgStyle child(const QDomElement &element, const QString &transform,
-                   const std::function<void(const QString &)> &problem) const;
+                   const std::function<void(const Sentence &)> &problem) const;
 
     //! The property as inherited, or an empty text.
     QString property(const QString &name) const { return m_properties.value(name); }
@@ -57,10 +59,10 @@ struct SvgPaint
  * "stroke-opacity", where a number above 1 is the alpha of the fill out of 255, and a missing "fill" is none. What
  * can't be kept is handed to problem.
  */
-SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void(const QString &)> &problem);
+SvgPaint svgPaint(const SvgStyle &style, bool isNative, const std::function<void(const Sentence &)> &problem);
 
 //! What a style says of a line that none has here: lengths of dashes, and its ends and corners.
-QStringList lineDifferences(const SvgStyle &style, const SvgPaint &paint);
+Sentences lineDifferences(const SvgStyle &style, const SvgPaint &paint);
 
 //! Writes a paint in the form that the plug-in reads: colours as rgb(), a fill's alpha as "stroke-opacity" out of 255,
 //! a line's alpha before its colour.

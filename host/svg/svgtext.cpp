@@ -129,7 +129,7 @@ QFontMetricsF metrics(const SvgStyle &style)
 } // namespace
 
 SvgText::SvgText(const QDomElement &source, const SvgStyle &style, bool isNative,
-                 const std::function<void(const QString &)> &problem, const QHash<QString, IwbRecord> &records)
+                 const std::function<void(const Sentence &)> &problem, const QHash<QString, IwbRecord> &records)
     : m_style(style)
     , m_isNative(isNative)
     , m_isArea(svgName(source).toLower() == QLatin1String("textarea"))
@@ -175,8 +175,7 @@ void SvgText::findLinks()
         run.style.set(linkProperty, {});
         if (m_link.isEmpty() && !told.contains(link) && !isBlank(run.text)) {
             told.insert(link);
-            m_problem(QLatin1String("the link of \"") + run.text.trimmed().left(40) + QLatin1String("\" to \"") + link
-                      + QLatin1String("\" is left out"));
+            m_problem(say("the link of \"%1\" to \"%2\" is left out").arg(run.text.trimmed().left(40), link));
         }
     }
 }
@@ -190,20 +189,19 @@ void SvgText::nameLayout(const QDomElement &element, bool isSpan, bool startsLin
         const QString value = declared.value(name, element.attribute(name)).trimmed();
         const bool isUsed = startsLine && name == QLatin1String("dy");
         if (!value.isEmpty() && value != QLatin1String(layout.plain) && !isUsed) {
-            m_problem(name + QLatin1String(" \"") + value.left(40) + QLatin1String("\" is left out"));
+            m_problem(say("%1 \"%2\" is left out").arg(name, value.left(40)));
         }
     }
     for (const char *place : {"x", "y"}) {
         const QString value = element.attribute(QLatin1String(place));
         const bool isUsed = !isSpan || startsLine || m_runs.isEmpty();
         if (!value.isEmpty() && (!isUsed || svgNumbers(value).size() > 1)) {
-            m_problem(QLatin1String(place) + QLatin1String(" \"") + value.left(40)
-                      + QLatin1String("\" of letters is left out"));
+            m_problem(say("%1 \"%2\" of letters is left out").arg(QLatin1String(place), value.left(40)));
         }
     }
     if (declared.value(QStringLiteral("direction"), element.attribute(QStringLiteral("direction")))
         == QLatin1String("rtl")) {
-        m_notes.append(QStringLiteral("it runs from right to left where its letters do"));
+        m_notes.append(say("it runs from right to left where its letters do"));
     }
 }
 
@@ -216,7 +214,7 @@ void SvgText::readList(const QDomElement &holder, const SvgStyle &style, const I
     const List outer = m_list;
     m_list = {record.listMarks.isEmpty() ? QStringLiteral("circle") : record.listMarks, record.listMarkFill, 0};
     m_needsMark = true;
-    m_notes.append(QStringLiteral("it is a list, whose marks became letters"));
+    m_notes.append(say("it is a list, whose marks became letters"));
     read(holder, style);
     m_list = outer;
     m_needsLine = !endsLine();
@@ -265,7 +263,7 @@ void SvgText::readSpan(const QDomElement &span, const SvgStyle &outer)
         return;
     }
     if (name != QLatin1String("tspan") && name != QLatin1String("a")) {
-        m_problem(QLatin1String("<") + span.tagName() + QLatin1String("> within text is left out"));
+        m_problem(say("<%1> within text is left out").arg(span.tagName()));
         return;
     }
     SvgStyle base = m_isNative ? SvgStyle() : outer;

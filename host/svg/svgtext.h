@@ -22,7 +22,7 @@ public:
     //! isNative: what isn't said means bold, italic and underlined, and spans inherit nothing.
     //! records: what is said of the text and its spans.
     SvgText(const QDomElement &source, const SvgStyle &style, bool isNative,
-            const std::function<void(const QString &)> &problem, const QHash<QString, IwbRecord> &records = {});
+            const std::function<void(const Sentence &)> &problem, const QHash<QString, IwbRecord> &records = {});
 
     //! Puts font attributes and spans into area, sizes multiplied by scale.
     void writeInto(QDomElement &area, double scale) const;
@@ -38,7 +38,7 @@ public:
     //! Where all of its letters lead to; empty where they don't.
     const QString &link() const { return m_link; }
     //! What became otherwise, and loses nothing.
-    const QStringList &notes() const { return m_notes; }
+    const Sentences &notes() const { return m_notes; }
 
 private:
     struct Run
@@ -70,13 +70,13 @@ private:
     SvgStyle m_style;
     bool m_isNative;
     bool m_isArea;
-    std::function<void(const QString &)> m_problem;
+    std::function<void(const Sentence &)> m_problem;
     QHash<QString, IwbRecord> m_records;
     List m_list;
     bool m_needsMark = false; // before the next letter
     bool m_needsLine = false; // the same
     QString m_link;
-    QStringList m_notes;
+    Sentences m_notes;
 };
 
 } // namespace lessonhost

@@ -28,6 +28,8 @@ foreach(floor IN LISTS floors)
     endforeach()
 endforeach()
 
+# Translations are no code.
+set(closed "${closed}|translations")
 file(GLOB entries RELATIVE "${HOST}" "${HOST}/*")
 foreach(entry IN LISTS entries)
     if(IS_DIRECTORY "${HOST}/${entry}" AND NOT "${closed}|" MATCHES "[|]${entry}[|]")
