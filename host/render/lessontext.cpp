@@ -187,6 +187,7 @@ void LessonText::sizePictures(const PictureSize &sizeOf)
         int position;
         QTextImageFormat format;
     };
+    QHash<QString, QSize> sizes;
     QVector<Place> places;
     for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -196,7 +197,10 @@ void LessonText::sizePictures(const PictureSize &sizeOf)
             if (!format.isValid() || (hasWidth && hasHeight)) {
                 continue;
             }
-            const QSizeF size = sizeOf(format.name());
+            if (!sizes.contains(format.name())) {
+                sizes.insert(format.name(), sizeOf(format.name()));
+            }
+            const QSizeF size = sizes.value(format.name());
             if (size.isEmpty()) {
                 continue;
             }
