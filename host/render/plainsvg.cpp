@@ -131,6 +131,9 @@ PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &
     m_svg.m_group = m_svg.m_document.createElement(QStringLiteral("g"));
     m_svg.m_svg.appendChild(m_svg.m_group);
     m_svg.m_group.setAttribute(side == Back ? QStringLiteral("data-back") : QStringLiteral("data-item"), id);
+    if (side == Cover) {
+        m_svg.m_group.setAttribute(QStringLiteral("data-cover"), QString());
+    }
     if (!label.isEmpty()) {
         m_svg.m_group.setAttribute(QStringLiteral("role"), QStringLiteral("img"));
         m_svg.m_group.setAttribute(QStringLiteral("aria-label"), label);

@@ -73,9 +73,9 @@ public:
     class ItemGroup
     {
     public:
-        enum Side { Front, Back };
+        enum Side { Front, Back, Cover };
 
-        //! id: the item's, for who works on it later. label: what is read aloud. isHidden: not drawn until it is shown.
+        //! id: the item's, for who works on it later, also on its cover. label: what is read aloud. isHidden: not drawn until it is shown.
         ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden, Side side = Front);
         ~ItemGroup();
         ItemGroup(const ItemGroup &) = delete;

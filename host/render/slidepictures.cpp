@@ -169,7 +169,8 @@ SlidePicture SlidePictures::picture(int index)
         std::optional<PlainSvg::ItemGroup> group;
         if (m_files) {
             const QString label = shown.isCover() ? QStringLiteral("Cover") : itemLabel(ItemView(shown.item));
-            group.emplace(plain, shown.id, label, shown.isHidden);
+            group.emplace(plain, shown.id, label, shown.isHidden,
+                          shown.isCover() ? PlainSvg::ItemGroup::Cover : PlainSvg::ItemGroup::Front);
         }
         const PlainSvg::Scope scope(plain, shown.placed);
         if (shown.isCover()) {

@@ -172,6 +172,54 @@ class Presenting(Page):
         self.assertEqual(self.shown(), list(range(1, 10)))
         self.driver.find_element(By.CSS_SELECTOR, "#slide2 .choose").click()
         self.assertEqual(self.shown(), [2])
+        # Two slides a row: from the second one down to the fourth, and on to the fifth.
+        for keys, slide in (((Keys.ARROW_DOWN, Keys.ARROW_RIGHT), 5), ((Keys.END, Keys.ARROW_RIGHT), 9),
+                            ((Keys.ARROW_UP, Keys.ARROW_LEFT), 6), ((Keys.HOME, Keys.ARROW_UP), 1)):
+            self.press("o", *keys, Keys.ENTER)
+            self.assertEqual(self.shown(), [slide])
+
+    def test_what_is_written_can_be_read(self):
+        """WCAG's contrast, over white and black where something shines through."""
+        self.open("#9")
+        script = """
+            const numbers = (color) => color.match(/[\\d.]+/g).map(Number);
+            const over = (above, below) => above.slice(0, 3).map((one, i) => one * (above[3] ?? 1)
+                + below[i] * (1 - (above[3] ?? 1)));
+            const light = (color) => color.map((one) => one / 255)
+                .map((one) => one <= 0.04045 ? one / 12.92 : ((one + 0.055) / 1.055) ** 2.4)
+                .reduce((sum, one, i) => sum + one * [0.2126, 0.7152, 0.0722][i], 0);
+            const contrast = (a, b) => (Math.max(light(a), light(b)) + 0.05) / (Math.min(light(a), light(b)) + 0.05);
+            const ground = (element, paper) => element ? over(numbers(getComputedStyle(element).backgroundColor),
+                ground(element.parentElement.closest('dialog, nav') === null ? null : element.parentElement, paper))
+                : paper;
+            const written = [...document.querySelectorAll('nav *, dialog *')].filter((one) => one.checkVisibility()
+                && [...one.childNodes].some((node) => node.nodeType === 3 && node.data.trim()));
+            return written.map((one) => [one.textContent, Math.min(...[[0, 0, 0], [255, 255, 255]].map((paper) =>
+                contrast(numbers(getComputedStyle(one).color), ground(one, paper))))]);"""
+        read = {text: ratio for text, ratio in self.js(script)}
+        self.click("o")
+        for left, right in (("cat", "puppy"), ("cat", "kitten")):
+            for text in (left, right):
+                self.dialog().find_element(By.XPATH, f".//button[text()='{text}']").click()
+        read.update({text: ratio for text, ratio in self.js(script)})
+        for text in ("Pen", "kitten", "puppy", "Right: 1 of 2. Wrong: 1."):
+            self.assertIn(text, read)
+        self.assertEqual({text: ratio for text, ratio in read.items() if ratio < 4.5}, {})
+
+    def test_a_narrow_telephone(self):
+        self.open("#9")
+        self.resize(320, 568)
+        for opened in (None, "e", "o", "i"):
+            if opened:
+                self.click(opened)
+            buttons = self.js("""return [...document.querySelectorAll(arguments[0])].map((one) =>
+                one.getBoundingClientRect()).map((box) => [box.left, box.right, box.width, box.height])""",
+                              "dialog button" if opened else "nav button:not([hidden])")
+            self.assertGreater(len(buttons), 3)
+            for left, right, width, height in buttons:
+                self.assertTrue(left >= 0 and right <= 320 and min(width, height) >= 19, (opened, left, right, height))
+            self.press(Keys.ESCAPE)
+        self.assertEqual(self.js("return document.scrollingElement.scrollWidth"), 320)
 
     def test_full_screen(self):
         self.open()
@@ -280,6 +328,21 @@ class Working(Page):
             self.assertTrue(address.endswith("/media_files/odd.mpg") if not options else address.startswith("data:"))
             shutil.rmtree(self.folder / "media_files", ignore_errors=True)
 
+    def test_a_cover_is_taken_off(self):
+        self.open("#5")
+        cover = self.driver.find_element(By.CSS_SELECTOR, ".shown [data-cover]")
+        self.assertFalse(self.is_seen("solution"))
+        self.click("solution")
+        self.assertTrue(self.is_seen("solution"))
+        self.assertEqual(self.shown(), [5])
+        self.press("r")
+        self.assertFalse(self.is_seen("solution"))
+        for is_off in (True, False, True):
+            cover.send_keys(Keys.ENTER)
+            self.assertEqual(self.is_seen("solution"), is_off)
+        self.click("solution")
+        self.assertEqual(self.shown(), [2])
+
     def test_a_curtain_is_drawn_open(self):
         self.open("#6")
         self.assertFalse(self.is_seen("under"))
@@ -381,7 +444,21 @@ class Working(Page):
             button(left).click()
             button(right).click()
         self.assertIn("Right: 2 of 2. Wrong: 1.", self.dialog().text)
-        self.assertEqual(len(self.dialog().find_elements(By.TAG_NAME, "line")), 2)
+        lines = lambda: self.js("""return [...document.querySelectorAll('dialog line')].map((one) =>
+            one.getBoundingClientRect()).map((box) => [box.left, box.right])""")
+        self.assertEqual(len(lines()), 2)
+        # Drawn from the right to the left, a line goes with the pointer, here until it is halfway.
+        button("Start again").click()
+        self.js("""window.ends = []; document.addEventListener('pointermove', () => window.ends.push(
+            ...[...document.querySelectorAll('dialog .drawn')].map((one) => one.getBoundingClientRect().left)));""")
+        (x, y, w, h), (to_x, to_y, to_w, to_h) = map(self.box, (button("puppy"), button("dog")))
+        self.drag((x + w / 2, y + h / 2), (to_x + to_w / 2, to_y + to_h / 2))
+        halfway = (x + w / 2 + to_x + to_w / 2) / 2
+        self.assertTrue(any(abs(end - halfway) < 5 for end in self.js("return window.ends")))
+        self.assertIn("Right: 1 of 2. Wrong: 0.", self.dialog().text)
+        (left, right), = lines()
+        self.assertAlmostEqual(left, to_x + to_w, delta=2)
+        self.assertAlmostEqual(right, x, delta=2)
         self.press(Keys.ESCAPE)
         self.click("i")
         for number, name in (("1", "odd"), ("2", "odd"), ("4", "even")):

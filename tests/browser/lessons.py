@@ -72,7 +72,9 @@ def playing():
                  InteractiveValue="javascript:alert(1)//http://x")]},
         {"ID": "5", "Items": [
             {"ID": "m", "Type": "ZQMediaAudio", "resource": "n/tone.wav", "BoundingBox": "20,20,200,100"},
-            {"ID": "w", "Type": "ZQMediaVideo", "resource": "n/odd.mpg", "BoundingBox": "210,20,390,140"}]},
+            {"ID": "w", "Type": "ZQMediaVideo", "resource": "n/odd.mpg", "BoundingBox": "210,20,390,140"},
+            text("solution", "Solution", 220, CoverLayer="1", InteractiveType="ACTION_GOTOSLIDE",
+                 InteractiveValue="2")]},
         {"ID": "6", "Items": [
             box("under", 150, "255,255,0,0"),
             {"ID": "c", "Type": "General:curtain", "BoundingBox": "0,0,400,300"}]},

@@ -47,7 +47,7 @@ const Animate = (() => {
       const seen = new Set();
       const result = [];
       const look = (step, trigger) => {
-        this.slide.elements(step.item).filter((element) => !seen.has(element)).forEach((element) => {
+        this.slide.withCovers(step.item).filter((element) => !seen.has(element)).forEach((element) => {
           seen.add(element);
           if (step.kind === 'enter' && !this.slide.elements(trigger).includes(element)) {
             result.push(element);
@@ -142,7 +142,7 @@ const Animate = (() => {
 
     /** Leaves items as a step leaves them. */
     settle(step) {
-      this.slide.elements(step.item).forEach((element) => {
+      this.slide.withCovers(step.item).forEach((element) => {
         if (step.kind !== 'emphasis') {
           show(element, step.kind === 'enter');
         }
@@ -156,7 +156,7 @@ const Animate = (() => {
     /** Promises that are kept when the step has been played once. */
     start(step) {
       const isCalm = Stage.isCalm();
-      const elements = this.slide.elements(step.item);
+      const elements = this.slide.withCovers(step.item);
       if (isCalm) {
         this.settle(step);
         return [];

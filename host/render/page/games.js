@@ -42,9 +42,10 @@ const Games = (() => {
 
   /**
    * A button that is chosen by a click or dragged to a target: the targets are found by targetAt(x, y), and
-   * put(piece, target) is called with what was chosen.
+   * put(piece, target) is called with what was chosen. It goes with the pointer, or follow(piece, event) is called as
+   * the pointer goes, and without an event at the end.
    */
-  function makePiece(text, board, put) {
+  function makePiece(text, board, put, follow) {
     let isDragged = false;
     const piece = Stage.button(text, text, () => isDragged || board.choose(piece), { className: 'piece' });
     piece.addEventListener('pointerdown', (event) => {
@@ -56,6 +57,10 @@ const Games = (() => {
       piece.setPointerCapture(event.pointerId);
       const move = (next) => {
         isDragged = isDragged || Math.hypot(next.clientX - from.x, next.clientY - from.y) > 4;
+        if (follow) {
+          follow(piece, next);
+          return;
+        }
         piece.classList.add('dragged');
         piece.style.transform = `translate(${next.clientX - from.x}px, ${next.clientY - from.y}px)`;
       };
@@ -63,11 +68,14 @@ const Games = (() => {
         piece.removeEventListener('pointermove', move);
         piece.removeEventListener('pointerup', end);
         piece.removeEventListener('pointercancel', end);
+        if (follow) {
+          follow(piece);
+        }
         piece.style.transform = '';
         piece.classList.remove('dragged');
         const target = document.elementsFromPoint(last.clientX, last.clientY)
           .map((element) => element.closest('[data-target]')).find((one) => one && one !== piece);
-        if (isDragged && target && last.type === 'pointerup') {
+        if (isDragged && target && !target.disabled && last.type === 'pointerup') {
           put(piece, target);
         }
         setTimeout(() => { isDragged = false; }); // behind the click that a drag ends with
@@ -143,27 +151,47 @@ const Games = (() => {
     return { contents: [area, score.element], restart: start };
   }
 
-  /** Lines between what belongs together. */
+  /** Lines between what belongs together: drawn from one to the other, or both are chosen, in either order. */
   function connecting(pairs) {
     const score = new Score(pairs.length);
     const area = Stage.make('div', { className: 'connecting' });
     const start = () => {
       const board = new Board();
-      const numbers = new Map();
+      const numbers = [new Map(), new Map()]; // of the pieces of each column
       const lines = Stage.makeSvg('svg', { class: 'lines', 'aria-hidden': 'true' });
+      const drawn = Stage.makeSvg('line', { class: 'drawn' });
+      const columnOf = (piece) => (numbers[0].has(piece) ? 0 : 1);
+      /** Where lines begin: at the edge that is next to the other column. */
+      const endOf = (piece) => {
+        const around = area.getBoundingClientRect();
+        const box = piece.getBoundingClientRect();
+        const x = columnOf(piece) === 0 ? box.right : box.left;
+        return { x: x - around.left, y: box.top + box.height / 2 - around.top };
+      };
+      const draw = (line, from, to) => {
+        Object.entries({ x1: from.x, y1: from.y, x2: to.x, y2: to.y })
+          .forEach(([name, value]) => line.setAttribute(name, value));
+        lines.append(line);
+      };
+      const follow = (piece, event) => {
+        if (!event) {
+          drawn.remove();
+          return;
+        }
+        const around = area.getBoundingClientRect();
+        draw(drawn, endOf(piece), { x: event.clientX - around.left, y: event.clientY - around.top });
+      };
       const put = (piece, target) => {
-        const isRight = pairs[numbers.get(piece)][1] === pairs[numbers.get(target)][1];
+        if (columnOf(piece) === columnOf(target)) {
+          return;
+        }
+        const [one, other] = [piece, target].map((end) => pairs[numbers[columnOf(end)].get(end)][1]);
+        const isRight = one === other;
         score.count(isRight);
         Stage.say(isRight ? 'right' : 'wrong');
         if (isRight) {
-          [piece, target].forEach((one) => { one.classList.add('right'); one.disabled = true; });
-          const around = area.getBoundingClientRect();
-          const from = piece.getBoundingClientRect();
-          const to = target.getBoundingClientRect();
-          lines.append(Stage.makeSvg('line', {
-            x1: from.right - around.left, y1: (from.top + from.bottom) / 2 - around.top,
-            x2: to.left - around.left, y2: (to.top + to.bottom) / 2 - around.top,
-          }));
+          draw(Stage.makeSvg('line'), endOf(piece), endOf(target));
+          [piece, target].forEach((end) => { end.classList.add('right'); end.disabled = true; });
         } else {
           flash(piece);
           flash(target);
@@ -172,20 +200,22 @@ const Games = (() => {
           board.choose(board.chosen);
         }
       };
-      const left = pairs.map((pair, i) => {
-        const piece = makePiece(pair[0], board, put);
-        numbers.set(piece, i);
+      const choose = (piece) => {
+        if (board.chosen && columnOf(board.chosen) !== columnOf(piece)) {
+          put(board.chosen, piece);
+        } else {
+          board.choose(piece);
+        }
+      };
+      const makeColumn = (column, order) => Stage.make('div', { className: 'column' }, ...order.map((i) => {
+        const piece = makePiece(pairs[i][column], { choose }, put, follow);
+        piece.setAttribute('data-target', '');
+        numbers[column].set(piece, i);
         return piece;
-      });
-      const right = shuffled(pairs.map((pair, i) => i)).map((i) => {
-        const target = Stage.button(pairs[i][1], pairs[i][1], () => board.chosen && put(board.chosen, target),
-          { className: 'piece', set: { 'data-target': '', 'aria-label': pairs[i][1] } });
-        numbers.set(target, i);
-        return target;
-      });
+      }));
+      const order = pairs.map((pair, i) => i);
       score.reset();
-      area.replaceChildren(lines, Stage.make('div', { className: 'column' }, ...left),
-        Stage.make('div', { className: 'column' }, ...right));
+      area.replaceChildren(lines, makeColumn(0, order), makeColumn(1, shuffled(order)));
     };
     start();
     return { contents: [area, score.element], restart: start };

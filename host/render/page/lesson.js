@@ -17,13 +17,19 @@ const Lesson = (() => {
       this.width = this.svg.viewBox.baseVal.width;
       this.height = this.svg.viewBox.baseVal.height;
       this.drawn = [...this.svg.querySelectorAll(':scope > g[data-item]')];
+      this.covers = this.drawn.filter((element) => element.dataset.cover !== undefined);
       this.items = this.play.items || [];
     }
 
-    /** The elements that show an item, or all items of a group. */
-    elements(id) {
+    /** The elements that show an item, or all items of a group, and what covers them. */
+    withCovers(id) {
       const within = new Set(this.items.filter((item) => (item.groups || []).includes(id)).map((item) => item.id));
       return this.drawn.filter((element) => element.dataset.item === id || within.has(element.dataset.item));
+    }
+
+    /** The same without what covers them. */
+    elements(id) {
+      return this.withCovers(id).filter((element) => !this.covers.includes(element));
     }
   }
 

@@ -89,6 +89,7 @@ const Present = (() => {
   /** All slides side by side, to choose one of them. */
   function setOverview(isOn) {
     body.classList.toggle('overview', isOn);
+    slides.forEach((slide) => { slide.stage.inert = isOn; });
     const chooser = current.section.querySelector('.choose');
     if (isOn) {
       current.section.scrollIntoView({ block: 'center' });
@@ -99,6 +100,14 @@ const Present = (() => {
   }
 
   const isOverview = () => body.classList.contains('overview');
+
+  /** Has the keyboard go to another slide of the overview: so many onwards, or rows of them. */
+  function moveChoice(steps, rows = 0) {
+    const columns = getComputedStyle(document.querySelector('main')).gridTemplateColumns.split(' ').length;
+    const chosen = slides.findIndex((slide) => slide.section.contains(document.activeElement));
+    const at = (chosen < 0 ? slides.indexOf(current) : chosen) + steps + rows * columns;
+    slides[Math.min(Math.max(at, 0), slides.length - 1)].section.querySelector('.choose').focus();
+  }
 
   function startAgain() {
     (prepared.get(current) || []).forEach((action) => action());
@@ -147,10 +156,18 @@ const Present = (() => {
     Escape: () => { setOverview(false); if (Ink.isOn()) { Ink.setMode(null); } },
   };
 
+  const overviewKeys = {
+    ArrowRight: () => moveChoice(1), ArrowLeft: () => moveChoice(-1),
+    ArrowDown: () => moveChoice(0, 1), ArrowUp: () => moveChoice(0, -1),
+    Home: () => moveChoice(-slides.length), End: () => moveChoice(slides.length),
+    f: keys.f, o: keys.o, Escape: keys.Escape,
+  };
+
   /** Keys that something else has no use for. */
   function onKey(event) {
     const isPressed = event.target.closest('button, a') && (event.key === ' ' || event.key === 'Enter');
-    const action = Object.hasOwn(keys, event.key) ? keys[event.key] : null;
+    const actions = isOverview() ? overviewKeys : keys;
+    const action = Object.hasOwn(actions, event.key) ? actions[event.key] : null;
     if (action && isForLesson(event) && !isPressed) {
       event.preventDefault();
       action();

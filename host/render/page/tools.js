@@ -228,11 +228,23 @@ const Tools = (() => {
     return () => { element.classList.remove('fits'); moved.reset(); Games.resetScore(slide); };
   }
 
+  /** A click takes the cover off what is under it. Keys lay it back, and so does the slide's beginning. */
+  function cover(element) {
+    const lift = (isOff) => {
+      element.classList.toggle('lifted', isOff);
+      element.setAttribute('aria-pressed', isOff);
+    };
+    Stage.enliven(element, 'button');
+    Stage.onActivate(element, () => lift(!element.classList.contains('lifted')));
+    lift(false);
+    return () => lift(false);
+  }
+
   const kinds = { curtain, spotlight, instrument, compasses, piece };
 
   /** Called when a slide is there for the first time. Returns what takes all of its tools back. */
   function prepare(slide) {
-    const resets = [];
+    const resets = slide.covers.map(cover);
     slide.items.filter((item) => item.tool && kinds[item.tool.kind]).forEach((item) => {
       slide.elements(item.id).forEach((element) => resets.push(kinds[item.tool.kind](slide, element, item)));
     });
