@@ -2,6 +2,7 @@
 #include "render/lessonpage.h"
 
 #include "files/inputfile.h"
+#include "files/language.h"
 #include "files/outputfile.h"
 #include "render/differencepage.h"
 #include "render/pagefiles.h"
@@ -12,6 +13,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
 #include <QUrl>
 
 // Outside of all namespaces, as the macro wants it.
@@ -25,7 +28,7 @@ namespace lessonhost {
 namespace {
 
 // The script in the order of what its parts need, and the style.
-constexpr const char *scriptParts[] = {"lesson", "stage", "changes", "animate", "links",  "media",
+constexpr const char *scriptParts[] = {"words", "lesson", "stage", "changes", "animate", "links",  "media",
                                        "tools",  "cards", "games",   "ink",     "present"};
 
 QByteArray pageFile(const char *name)
@@ -57,6 +60,22 @@ QByteArray jsonHtml(const QJsonDocument &json, const QByteArray &attribute)
         + json.toJson(QJsonDocument::Compact).replace('<', "\\u003c") + "</script>\n";
 }
 
+// What the script says, in all languages that there are: {"de": {"Slide %1": "Folie %1", ...}, ...}
+QJsonObject translations()
+{
+    static const QRegularExpression call(QStringLiteral("Words\\.text\\(\\s*'([^']+)'"));
+    QJsonObject all;
+    for (const QString &language : translatedLanguages()) {
+        QJsonObject texts;
+        for (auto found = call.globalMatch(QString::fromUtf8(script())); found.hasNext();) {
+            const QString text = found.next().captured(1);
+            texts.insert(text, translated(language, text.toUtf8().constData()));
+        }
+        all.insert(languageTag(language), texts);
+    }
+    return all;
+}
+
 QByteArray escaped(const QString &text)
 {
     return text.toHtmlEscaped().toUtf8();
@@ -81,11 +100,15 @@ void LessonPage::add(const SlidePicture &picture)
     const QByteArray number = QByteArray::number(picture.slide);
     const QByteArray language = picture.language.code().toLatin1();
     const QDomElement svg = picture.svg.documentElement();
+    // What the heading says, for the script to say it in other languages.
+    const QByteArray parts = (picture.title.isEmpty() ? QByteArray() : " data-title=\"" + escaped(picture.title) + '"')
+        + (picture.named.isEmpty() ? QByteArray()
+                                   : " data-named=\"" + QByteArray::number(picture.named.size()) + '"');
     const QByteArray size = "--width:" + QByteArray::number(qRound(picture.size.width()))
         + ";--height:" + QByteArray::number(qRound(picture.size.height()));
     m_slides.put("<section class=\"slide\" id=\"slide" + number + "\" data-slide=\"" + number + "\" aria-label=\"Slide "
                  + number + "\"" + (language.isEmpty() ? QByteArray() : " lang=\"" + language + "\"")
-                 + ">\n<h2 lang=\"en\">" + escaped(captionOf(picture).english())
+                 + ">\n<h2 lang=\"en\"" + parts + ">" + escaped(captionOf(picture).english())
                  + "</h2>\n<div class=\"stage\" style=\"" + size + "\">\n" + m_pictures.html(svg) + "\n</div>\n"
                  + jsonHtml(QJsonDocument(picture.play), " class=\"play\"") + "</section>\n");
     m_widest = qMax(m_widest, qRound(picture.size.width()));
@@ -163,7 +186,7 @@ QStringList LessonPage::finish()
         }
         list.append(entry);
     }
-    put(jsonHtml(QJsonDocument(list), " id=\"files\"") + "<script>" + script() + "</script>\n</body></html>\n");
+    put(jsonHtml(QJsonDocument(list), " id=\"files\"") + jsonHtml(QJsonDocument(translations()), " id=\"texts\"") + "<script>" + script() + "</script>\n</body></html>\n");
     m_target.commit();
     return written;
 }

@@ -2467,5 +2467,205 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>it is a list, whose marks became letters</source>
         <translation>ist eine Liste, deren Zeichen Buchstaben wurden</translation>
     </message>
+    <message>
+        <source>Answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>Show the answer</source>
+        <translation>Antwort zeigen</translation>
+    </message>
+    <message>
+        <source>Turn the card</source>
+        <translation>Karte umdrehen</translation>
+    </message>
+    <message>
+        <source>%1. Turn the card</source>
+        <translation>%1. Karte umdrehen</translation>
+    </message>
+    <message>
+        <source>Card %1 of %2, back</source>
+        <translation>Karte %1 von %2, Rückseite</translation>
+    </message>
+    <message>
+        <source>Card %1 of %2, front</source>
+        <translation>Karte %1 von %2, Vorderseite</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Previous card</source>
+        <translation>Vorige Karte</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Next card</source>
+        <translation>Nächste Karte</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>richtig</translation>
+    </message>
+    <message>
+        <source>wrong</source>
+        <translation>falsch</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2. Wrong: %3.</source>
+        <translation>Richtig: %1 von %2. Falsch: %3.</translation>
+    </message>
+    <message>
+        <source>Put it into %1</source>
+        <translation>In %1 legen</translation>
+    </message>
+    <message>
+        <source>That was the last one.</source>
+        <translation>Das war die letzte.</translation>
+    </message>
+    <message>
+        <source>Previous text</source>
+        <translation>Voriger Text</translation>
+    </message>
+    <message>
+        <source>Next text</source>
+        <translation>Nächster Text</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Richtig</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falsch</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>Von vorn</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Pen in red</source>
+        <translation>Roter Stift</translation>
+    </message>
+    <message>
+        <source>Pen in blue</source>
+        <translation>Blauer Stift</translation>
+    </message>
+    <message>
+        <source>Pen in green</source>
+        <translation>Grüner Stift</translation>
+    </message>
+    <message>
+        <source>Pen in black</source>
+        <translation>Schwarzer Stift</translation>
+    </message>
+    <message>
+        <source>Pen on</source>
+        <translation>Stift an</translation>
+    </message>
+    <message>
+        <source>Eraser on</source>
+        <translation>Radierer an</translation>
+    </message>
+    <message>
+        <source>Pen and eraser off</source>
+        <translation>Stift und Radierer aus</translation>
+    </message>
+    <message>
+        <source>A file of the lesson</source>
+        <translation>Eine Datei der Lektion</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Tipp</translation>
+    </message>
+    <message>
+        <source>This leads out of the lesson</source>
+        <translation>Das führt aus der Lektion hinaus</translation>
+    </message>
+    <message>
+        <source>This browser can’t play %1.</source>
+        <translation>Dieser Browser kann %1 nicht abspielen.</translation>
+    </message>
+    <message>
+        <source>Open it with another program</source>
+        <translation>Mit einem anderen Programm öffnen</translation>
+    </message>
+    <message>
+        <source>All slides (%1)</source>
+        <translation>Alle Folien (%1)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Spielen</translation>
+    </message>
+    <message>
+        <source>Play the game of this slide</source>
+        <translation>Das Spiel dieser Folie spielen</translation>
+    </message>
+    <message>
+        <source>Lesson</source>
+        <translation>Lektion</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Rub out</source>
+        <translation>Radieren</translation>
+    </message>
+    <message>
+        <source>This slide from its beginning, without what was drawn (%1)</source>
+        <translation>Diese Folie von Anfang an, ohne das Gezeichnete (%1)</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Full screen (%1)</source>
+        <translation>Vollbild (%1)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1. Arrows move it, plus and minus change its size.</source>
+        <translation>%1. Pfeiltasten verschieben, Plus und Minus ändern die Größe.</translation>
+    </message>
+    <message>
+        <source>%1. Arrows move it, square brackets turn it.</source>
+        <translation>%1. Pfeiltasten verschieben, eckige Klammern drehen.</translation>
+    </message>
+    <message>
+        <source>%1. Arrows move it.</source>
+        <translation>%1. Pfeiltasten verschieben.</translation>
+    </message>
+    <message>
+        <source>Turn %1</source>
+        <translation>%1 drehen</translation>
+    </message>
 </context>
 </TS>

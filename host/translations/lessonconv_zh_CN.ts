@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Converts lessons of interactive whiteboards and tells what is in them.</source>
-        <translation>转换互动白板课件，并显示其中的内容。</translation>
+        <translation>转换交互式白板课件，并显示其中的内容。</translation>
     </message>
     <message>
         <source>The lesson that is read is never changed. What the other format can&apos;t hold is
@@ -1251,7 +1251,7 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     </message>
     <message>
         <source>interactive whiteboard package: a folder with content.xml, or the same zipped as .iwb</source>
-        <translation>互动白板包：含 content.xml 的文件夹，或其压缩成的 .iwb</translation>
+        <translation>交互式白板包：含 content.xml 的文件夹，或其压缩成的 .iwb</translation>
     </message>
     <message>
         <source>The resource &quot;%1&quot; can&apos;t be used: %2</source>
@@ -2414,6 +2414,206 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     <message>
         <source>it is a list, whose marks became letters</source>
         <translation>是列表，其标记变成了字母</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>答案</translation>
+    </message>
+    <message>
+        <source>Show the answer</source>
+        <translation>显示答案</translation>
+    </message>
+    <message>
+        <source>Turn the card</source>
+        <translation>翻转卡片</translation>
+    </message>
+    <message>
+        <source>%1. Turn the card</source>
+        <translation>%1。翻转卡片</translation>
+    </message>
+    <message>
+        <source>Card %1 of %2, back</source>
+        <translation>第 %1 张卡片，共 %2 张，背面</translation>
+    </message>
+    <message>
+        <source>Card %1 of %2, front</source>
+        <translation>第 %1 张卡片，共 %2 张，正面</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Previous card</source>
+        <translation>上一张卡片</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>Next card</source>
+        <translation>下一张卡片</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>正确</translation>
+    </message>
+    <message>
+        <source>wrong</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2. Wrong: %3.</source>
+        <translation>正确：%1，共 %2。错误：%3。</translation>
+    </message>
+    <message>
+        <source>Put it into %1</source>
+        <translation>放入%1</translation>
+    </message>
+    <message>
+        <source>That was the last one.</source>
+        <translation>已经是最后一题。</translation>
+    </message>
+    <message>
+        <source>Previous text</source>
+        <translation>上一段文字</translation>
+    </message>
+    <message>
+        <source>Next text</source>
+        <translation>下一段文字</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>对</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>错</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>重新开始</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>游戏</translation>
+    </message>
+    <message>
+        <source>Pen in red</source>
+        <translation>红笔</translation>
+    </message>
+    <message>
+        <source>Pen in blue</source>
+        <translation>蓝笔</translation>
+    </message>
+    <message>
+        <source>Pen in green</source>
+        <translation>绿笔</translation>
+    </message>
+    <message>
+        <source>Pen in black</source>
+        <translation>黑笔</translation>
+    </message>
+    <message>
+        <source>Pen on</source>
+        <translation>已启用画笔</translation>
+    </message>
+    <message>
+        <source>Eraser on</source>
+        <translation>已启用橡皮</translation>
+    </message>
+    <message>
+        <source>Pen and eraser off</source>
+        <translation>已关闭画笔和橡皮</translation>
+    </message>
+    <message>
+        <source>A file of the lesson</source>
+        <translation>课件中的文件</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>This leads out of the lesson</source>
+        <translation>此链接通向课件之外</translation>
+    </message>
+    <message>
+        <source>This browser can’t play %1.</source>
+        <translation>此浏览器无法播放 %1。</translation>
+    </message>
+    <message>
+        <source>Open it with another program</source>
+        <translation>用其他程序打开</translation>
+    </message>
+    <message>
+        <source>All slides (%1)</source>
+        <translation>所有幻灯片（%1）</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>开始游戏</translation>
+    </message>
+    <message>
+        <source>Play the game of this slide</source>
+        <translation>开始此幻灯片的游戏</translation>
+    </message>
+    <message>
+        <source>Lesson</source>
+        <translation>课件</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>画笔</translation>
+    </message>
+    <message>
+        <source>Rub out</source>
+        <translation>擦除</translation>
+    </message>
+    <message>
+        <source>This slide from its beginning, without what was drawn (%1)</source>
+        <translation>从头播放此幻灯片，并清除所画内容（%1）</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>Full screen (%1)</source>
+        <translation>全屏（%1）</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1. Arrows move it, plus and minus change its size.</source>
+        <translation>%1。方向键移动，加号和减号改变大小。</translation>
+    </message>
+    <message>
+        <source>%1. Arrows move it, square brackets turn it.</source>
+        <translation>%1。方向键移动，方括号旋转。</translation>
+    </message>
+    <message>
+        <source>%1. Arrows move it.</source>
+        <translation>%1。方向键移动。</translation>
+    </message>
+    <message>
+        <source>Turn %1</source>
+        <translation>旋转%1</translation>
     </message>
 </context>
 </TS>

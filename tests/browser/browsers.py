@@ -43,6 +43,10 @@ class Chromium:
     def run_scripts(self, is_run):
         self.driver.execute_cdp_cmd("Emulation.setScriptExecutionDisabled", {"value": not is_run})
 
+    def speak(self, languages):
+        agent = self.driver.execute_script("return navigator.userAgent")
+        self.driver.execute_cdp_cmd("Emulation.setUserAgentOverride", {"userAgent": agent, "acceptLanguage": languages})
+
     def paper(self):
         return base64.b64decode(self.driver.execute_cdp_cmd("Page.printToPDF", {"preferCSSPageSize": True})["data"])
 
@@ -156,6 +160,9 @@ class Firefox:
 
     def run_scripts(self, is_run):
         self.about("gBrowser.selectedBrowser.browsingContext.allowJavascript = arguments[0]", is_run)
+
+    def speak(self, languages):
+        self.about("Services.prefs.setCharPref('intl.accept_languages', arguments[0])", languages)
 
     def paper(self):
         return base64.b64decode(self.driver.execute("printPage", {"background": True})["value"])

@@ -59,8 +59,9 @@ class Page(unittest.TestCase):
     def tearDown(self):
         self.browser.run_scripts(True)
 
-    def open(self, address="", name="playing", is_calm=True):
+    def open(self, address="", name="playing", is_calm=True, languages="en-US"):
         self.browser.be_calm(is_calm)
+        self.browser.speak(languages)
         self.resize(800, 600)
         self.driver.get("about:blank")
         self.errors(), self.browser.requests()
@@ -220,6 +221,23 @@ class Presenting(Page):
                 self.assertTrue(left >= 0 and right <= 320 and min(width, height) >= 19, (opened, left, right, height))
             self.press(Keys.ESCAPE)
         self.assertEqual(self.js("return document.scrollingElement.scrollWidth"), 320)
+
+    def test_the_page_speaks_the_language_of_the_browser(self):
+        for languages, language, slide, title in (
+                ("en-GB,de", "en", "Slide 4", "Full screen (f)"),
+                ("fr,de-AT,en", "de", "Folie 4", "Vollbild (f)"),
+                ("zh-SG", "zh-CN", "幻灯片 4", "全屏（f）"),
+                ("zh-TW", "en", "Slide 4", "Full screen (f)")):
+            self.open("#4", languages=languages)
+            self.assertEqual(self.js("return document.documentElement.lang"), language)
+            heading = self.js("return document.querySelector('#slide4 h2')")
+            self.assertEqual((self.js("return arguments[0].lang", heading),
+                              self.js("return document.querySelector('#slide4').ariaLabel || "
+                                      "document.querySelector('#slide4').getAttribute('aria-label')")),
+                             (language, slide))
+            self.assertEqual(self.js("return arguments[0].textContent.split(/[:：(]/)[0].trim()", heading), slide)
+            self.assertTrue(self.driver.find_elements(By.CSS_SELECTOR, f"nav [title='{title}']"))
+            self.assertEqual(self.errors(), [])
 
     def test_full_screen(self):
         self.open()

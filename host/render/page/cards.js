@@ -22,12 +22,12 @@ const Cards = (() => {
     const box = element.getBBox();
     const height = slide.height * 0.06;
     const answer = Stage.make('div', { className: 'card answer', hidden: true }, item.tool.answer);
-    const button = Stage.button('Answer', 'Show the answer', (event) => {
+    const button = Stage.button(Words.text('Answer'), Words.text('Show the answer'), (event) => {
       event.stopPropagation();
       answer.hidden = !answer.hidden;
       button.setAttribute('aria-expanded', !answer.hidden);
       Stage.say(answer.hidden ? '' : item.tool.answer);
-    }, { className: 'reveal', set: { 'aria-expanded': 'false', 'aria-label': 'Show the answer' } });
+    }, { className: 'reveal', set: { 'aria-expanded': 'false', 'aria-label': Words.text('Show the answer') } });
     const bottom = Math.min(box.y + box.height, slide.height - 2 * height);
     Stage.place(button, slide, { x: box.x, y: bottom, width: slide.width * 0.1, height: height * 0.8 }, [element]);
     Stage.place(answer, slide, {
@@ -45,17 +45,20 @@ const Cards = (() => {
     const { cards } = item.tool;
     let at = 0;
     let isBack = false;
-    const face = Stage.button('', 'Turn the card', () => { isBack = !isBack; show(); }, { className: 'card face' });
+    const face = Stage.button('', Words.text('Turn the card'), () => { isBack = !isBack; show(); },
+      { className: 'card face' });
     const count = Stage.make('p', {});
     const show = () => {
       face.textContent = cards[at][isBack ? 1 : 0];
       face.classList.toggle('back', isBack);
-      face.setAttribute('aria-label', `${face.textContent}. Turn the card`);
-      count.textContent = `Card ${at + 1} of ${cards.length}${isBack ? ', back' : ', front'}`;
+      face.setAttribute('aria-label', Words.text('%1. Turn the card', face.textContent));
+      count.textContent = isBack ? Words.text('Card %1 of %2, back', at + 1, cards.length)
+        : Words.text('Card %1 of %2, front', at + 1, cards.length);
     };
     const go = (step) => { at = (at + step + cards.length) % cards.length; isBack = false; show(); };
     const moves = Stage.make('div', { className: 'buttons' },
-      Stage.button('Previous', 'Previous card', () => go(-1)), Stage.button('Next', 'Next card', () => go(1)));
+      Stage.button(Words.text('Previous'), Words.text('Previous card'), () => go(-1)),
+      Stage.button(Words.text('Next'), Words.text('Next card'), () => go(1)));
     show();
     Stage.tell(item.tool.title || item.label, [face, count, moves]).classList.add('game');
     face.focus();

@@ -10,6 +10,8 @@ const Games = (() => {
     return result;
   }
 
+  const verdict = (isRight) => (isRight ? Words.text('right') : Words.text('wrong'));
+
   /** Counts what is right and wrong, and shows it. */
   class Score {
     constructor(total) {
@@ -30,7 +32,7 @@ const Games = (() => {
     }
 
     show() {
-      this.element.textContent = `Right: ${this.right} of ${this.total}. Wrong: ${this.wrong}.`;
+      this.element.textContent = Words.text('Right: %1 of %2. Wrong: %3.', this.right, this.total, this.wrong);
     }
   }
 
@@ -113,7 +115,7 @@ const Games = (() => {
       const put = (piece, target) => {
         const isRight = rights.get(target).includes(ids.get(piece));
         score.count(isRight);
-        Stage.say(`${piece.textContent}: ${isRight ? 'right' : 'wrong'}`);
+        Stage.say(Words.text('%1: %2', piece.textContent, verdict(isRight)));
         if (isRight) {
           piece.classList.add('right');
           piece.disabled = true;
@@ -128,7 +130,8 @@ const Games = (() => {
       };
       const targets = boxes.map((box) => {
         const target = Stage.make('div', { className: 'box', set: { 'data-target': '' } },
-          Stage.button(box.name, `Put it into ${box.name}`, () => board.chosen && put(board.chosen, target)),
+          Stage.button(box.name, Words.text('Put it into %1', box.name),
+            () => board.chosen && put(board.chosen, target)),
           Stage.make('div', { className: 'content' }));
         target.addEventListener('click', (event) => {
           if (!event.target.closest('button') && board.chosen) {
@@ -188,7 +191,7 @@ const Games = (() => {
         const [one, other] = [piece, target].map((end) => pairs[numbers[columnOf(end)].get(end)][1]);
         const isRight = one === other;
         score.count(isRight);
-        Stage.say(isRight ? 'right' : 'wrong');
+        Stage.say(verdict(isRight));
         if (isRight) {
           draw(Stage.makeSvg('line'), endOf(piece), endOf(target));
           [piece, target].forEach((end) => { end.classList.add('right'); end.disabled = true; });
@@ -232,7 +235,7 @@ const Games = (() => {
     let at = 0;
     const show = () => {
       if (at >= list.length) {
-        text.textContent = 'That was the last one.';
+        text.textContent = Words.text('That was the last one.');
         answers.replaceChildren();
         return;
       }
@@ -240,7 +243,7 @@ const Games = (() => {
       answers.replaceChildren(...list[at].answers.map((answer) => Stage.button(answer, answer, () => {
         const isRight = answer === list[at].right;
         score.count(isRight);
-        Stage.say(isRight ? 'right' : 'wrong');
+        Stage.say(verdict(isRight));
         text.classList.toggle('right', isRight);
         text.classList.toggle('wrong', !isRight);
         answers.querySelectorAll('button').forEach((one) => { one.disabled = true; });
@@ -259,7 +262,8 @@ const Games = (() => {
     const show = () => { text.textContent = texts[at]; };
     const go = (step) => { at = Math.min(Math.max(at + step, 0), texts.length - 1); show(); };
     const moves = Stage.make('div', { className: 'buttons' },
-      Stage.button('Previous', 'Previous text', () => go(-1)), Stage.button('Next', 'Next text', () => go(1)));
+      Stage.button(Words.text('Previous'), Words.text('Previous text'), () => go(-1)),
+      Stage.button(Words.text('Next'), Words.text('Next text'), () => go(1)));
     show();
     return { contents: [text, moves], restart: () => { at = 0; show(); } };
   }
@@ -302,8 +306,9 @@ const Games = (() => {
       return () => rounds(entries.map(comparison));
     }
     if (first.question !== undefined) {
+      const [yes, no] = [Words.text('True'), Words.text('False')];
       return () => rounds(entries.map((entry) => ({
-        text: entry.question, answers: ['True', 'False'], right: isTrue(entry.answer) ? 'True' : 'False',
+        text: entry.question, answers: [yes, no], right: isTrue(entry.answer) ? yes : no,
       })));
     }
     return first.container ? () => matching(activity) : null;
@@ -311,7 +316,8 @@ const Games = (() => {
 
   function open(title, makeGame) {
     const game = makeGame();
-    const again = Stage.make('div', { className: 'buttons' }, Stage.button('Start again', 'Start again', game.restart));
+    const again = Stage.make('div', { className: 'buttons' }, 
+      Stage.button(Words.text('Start again'), Words.text('Start again'), game.restart));
     Stage.tell(title, [...game.contents, again]).classList.add('game');
   }
 
@@ -368,7 +374,7 @@ const Games = (() => {
   /** What opens the game of a slide, or null where it has none. */
   function ofSlide(slide) {
     const game = gameOf(slide.play.activity);
-    return game ? () => open(slide.play.activity.title || 'Game', game) : null;
+    return game ? () => open(slide.play.activity.title || Words.text('Game'), game) : null;
   }
 
   return { prepare, ofSlide, judge, resetScore };

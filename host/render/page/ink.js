@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 /** Drawing over slides, and rubbing it out. What was drawn stays while the page is open. */
 const Ink = (() => {
-  const colors = [['#c62828', 'red'], ['#1f3a93', 'blue'], ['#1b7a34', 'green'], ['#111111', 'black']];
+  const colors = [
+    ['#c62828', Words.text('Pen in red')], ['#1f3a93', Words.text('Pen in blue')],
+    ['#1b7a34', Words.text('Pen in green')], ['#111111', Words.text('Pen in black')],
+  ];
   let mode = null; // pen or eraser
   let color = colors[0][0];
 
@@ -21,7 +24,8 @@ const Ink = (() => {
     document.querySelectorAll('[data-ink]').forEach((one) => {
       one.setAttribute('aria-pressed', one.dataset.ink === mode);
     });
-    Stage.say(mode ? `${mode === 'pen' ? 'Pen' : 'Eraser'} on` : 'Pen and eraser off');
+    const told = { pen: Words.text('Pen on'), eraser: Words.text('Eraser on') };
+    Stage.say(told[mode] || Words.text('Pen and eraser off'));
   }
 
   function setColor(wanted) {

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-'use strict';
-
 /** What the page holds of its lesson: slides with their items, and files. Everything of a lesson is data here. */
 const Lesson = (() => {
   function parsed(element) {

@@ -8,11 +8,11 @@ const Links = (() => {
     }, text);
   }
 
-  function tellFile(number, heading = 'A file of the lesson') {
+  function tellFile(number, heading = Words.text('A file of the lesson')) {
     const file = Lesson.file(number);
     const options = file.isInside ? { download: file.name } : {};
     Stage.tell(heading, [Stage.make('p', { className: 'address' }, file.name)],
-      [outward(file.address, file.isInside ? 'Save' : 'Open', options)]);
+      [outward(file.address, file.isInside ? Words.text('Save') : Words.text('Open'), options)]);
   }
 
   /** Follows a link; leaves out what leads nowhere. An address is shown in full before it is opened. */
@@ -22,10 +22,10 @@ const Links = (() => {
     } else if (link.file !== undefined) {
       tellFile(link.file);
     } else if (link.tip !== undefined) {
-      Stage.tell('Hint', [Stage.make('p', {}, link.tip)]);
+      Stage.tell(Words.text('Hint'), [Stage.make('p', {}, link.tip)]);
     } else if (/^https?:\/\//i.test(link.web || '')) {
-      Stage.tell('This leads out of the lesson', [Stage.make('p', { className: 'address' }, link.web)],
-        [outward(link.web, 'Open')]);
+      Stage.tell(Words.text('This leads out of the lesson'), [Stage.make('p', { className: 'address' }, link.web)],
+        [outward(link.web, Words.text('Open'))]);
     }
   }
 

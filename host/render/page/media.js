@@ -6,8 +6,8 @@ const Media = (() => {
     const file = Lesson.file(item.media.file);
     const options = file.isInside ? { download: file.name } : {};
     return Stage.make('div', { className: 'message', set: { role: 'note' } },
-      Stage.make('p', {}, `This browser can’t play ${file.name}.`),
-      Links.outward(file.address, 'Open it with another program', options));
+      Stage.make('p', {}, Words.text('This browser can’t play %1.', file.name)),
+      Links.outward(file.address, Words.text('Open it with another program'), options));
   }
 
   function player(slide, item) {

@@ -45,7 +45,7 @@ const Present = (() => {
     bar.place.textContent = place;
     bar.play.hidden = !Games.ofSlide(slide);
     document.title = slide.number === 1 ? Lesson.title : `${slide.number} – ${Lesson.title}`;
-    Stage.say(`Slide ${slide.number}`);
+    Stage.say(Words.text('Slide %1', slide.number));
   }
 
   /** Shows a slide and writes its number into the address. */
@@ -120,18 +120,21 @@ const Present = (() => {
     const ink = (mode, label, key) => Stage.button(label, `${label} (${key})`, () => Ink.setMode(mode),
       { set: { 'data-ink': mode, 'aria-pressed': 'false', 'aria-label': label } });
     const swatches = Ink.colors.map(([color, name]) => {
-      const swatch = Stage.button('', `Pen in ${name}`, () => Ink.setColor(color), { className: 'swatch' });
+      const swatch = Stage.button('', name, () => Ink.setColor(color), { className: 'swatch' });
       swatch.style.backgroundColor = color;
       return swatch;
     });
-    bar.place = Stage.button('', 'All slides (o)', () => setOverview(!isOverview()), { className: 'place' });
-    bar.play = Stage.button('Play', 'Play the game of this slide', () => Games.ofSlide(current)());
-    bar.element = Stage.make('nav', { className: 'bar', set: { 'aria-label': 'Lesson' } },
-      Stage.button('‹', 'Back', back, { className: 'arrow' }), bar.place,
-      Stage.button('›', 'Next', forward, { className: 'arrow' }), bar.play,
-      ink('pen', 'Pen', 'p'), ...swatches, ink('eraser', 'Rub out', 'e'),
-      Stage.button('Start again', 'This slide from its beginning, without what was drawn (r)', startAgain),
-      Stage.button('Full screen', 'Full screen (f)', toggleFullScreen));
+    bar.place = Stage.button('', Words.text('All slides (%1)', 'o'), () => setOverview(!isOverview()),
+      { className: 'place' });
+    bar.play = Stage.button(Words.text('Play'), Words.text('Play the game of this slide'),
+      () => Games.ofSlide(current)());
+    bar.element = Stage.make('nav', { className: 'bar', set: { 'aria-label': Words.text('Lesson') } },
+      Stage.button('‹', Words.text('Back'), back, { className: 'arrow' }), bar.place,
+      Stage.button('›', Words.text('Next'), forward, { className: 'arrow' }), bar.play,
+      ink('pen', Words.text('Pen'), 'p'), ...swatches, ink('eraser', Words.text('Rub out'), 'e'),
+      Stage.button(Words.text('Start again'),
+        Words.text('This slide from its beginning, without what was drawn (%1)', 'r'), startAgain),
+      Stage.button(Words.text('Full screen'), Words.text('Full screen (%1)', 'f'), toggleFullScreen));
     bar.element.addEventListener('click', (event) => event.stopPropagation());
     body.append(bar.element, Stage.voice);
     let timer = 0;
@@ -229,7 +232,7 @@ const Present = (() => {
     slides.forEach((slide) => {
       slide.section.tabIndex = -1;
       slide.svg.setAttribute('role', 'group');
-      slide.section.append(Stage.button('', `Slide ${slide.number}`, (event) => {
+      slide.section.append(Stage.button('', Words.text('Slide %1', slide.number), (event) => {
         event.stopPropagation();
         setOverview(false);
         open(slide);

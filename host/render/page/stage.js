@@ -132,7 +132,7 @@ const Stage = (() => {
   /** A window above the page with a heading, what stands in it, and buttons. It goes when one of them is pressed. */
   function tell(heading, contents, buttons = []) {
     const dialog = make('dialog', { className: 'window', set: { 'aria-label': heading } });
-    const close = button('Close', 'Close', () => dialog.close());
+    const close = button(Words.text('Close'), Words.text('Close'), () => dialog.close());
     dialog.append(make('h2', {}, heading), ...contents, make('div', { className: 'buttons' }, ...buttons, close));
     buttons.forEach((one) => one.addEventListener('click', () => dialog.close()));
     dialog.addEventListener('close', () => dialog.remove());

@@ -97,7 +97,7 @@ const Tools = (() => {
       moveTo(spot.x, spot.y);
     };
     const step = 20;
-    Stage.enliven(element, 'group', `${item.label}. Arrows move it, plus and minus change its size.`);
+    Stage.enliven(element, 'group', Words.text('%1. Arrows move it, plus and minus change its size.', item.label));
     onKeys(element, {
       ArrowUp: () => moveTo(spot.x, spot.y - step),
       ArrowDown: () => moveTo(spot.x, spot.y + step),
@@ -133,8 +133,9 @@ const Tools = (() => {
     };
     const move = (x, y) => { Object.assign(place, { x, y }); show(); };
     const turn = (angle) => { place.angle = angle; show(); if (onTurn) { onTurn(angle); } };
-    const keys = canTurn ? 'Arrows move it, square brackets turn it.' : 'Arrows move it.';
-    Stage.enliven(element, 'group', `${item.label}. ${keys}`);
+    Stage.enliven(element, 'group', canTurn
+      ? Words.text('%1. Arrows move it, square brackets turn it.', item.label)
+      : Words.text('%1. Arrows move it.', item.label));
     const far = (isFar) => (isFar ? 1 : 10);
     const actions = {
       ArrowUp: (isFar) => move(place.x, place.y - far(isFar)),
@@ -165,7 +166,7 @@ const Tools = (() => {
     const size = Math.max(slide.height * 0.016, 8);
     const knob = Stage.makeSvg('circle', {
       cx: item.tool.handle[0], cy: item.tool.handle[1], r: size, class: 'knob', role: 'button', tabindex: '-1',
-      'aria-label': `Turn ${item.label}`,
+      'aria-label': Words.text('Turn %1', item.label),
     });
     element.append(knob);
     let offset = 0;
