@@ -89,8 +89,8 @@ private slots:
             "{'Type':'ZQStrokeTexture','XY':'10,50,80,0','Width':'20','DrawTexture':'a.svg'},"
             "{'Type':'ZQStrokeTexture','XY':'10,90,80,0','DrawTexture':'a.svg','Opacity':'51'},"
             "{'Type':'ZQStrokesDeletePixel','XY':'70,0,0,99','Width':'20'}",
-            "<pattern|patternUnits=\"userSpaceOnUse\"|xlink:href=\"data:image/|fill=\"url(#s1t1) #ff0000\" "
-            "fill-rule=\"evenodd\"|fill-opacity=\"0.20\"|60.00 40.00|!s1t2|!\"#picture");
+            "<pattern|patternUnits=\"userSpaceOnUse\"|xlink:href=\"data:image/|fill=\"url(#s1tpicture0) #ff0000\" "
+            "fill-rule=\"evenodd\"|fill-opacity=\"0.20\"|60.00 40.00|!s1tpicture1|!\"#picture");
         row("pictures in a text",
             "{'Type':'ZQTextBoard','BoundingBox':'0,0,300,90','TextHtml':'<p>a<img src=`a.svg` width=`30` height=`20`>"
             "<img src=`file:///etc/hosts`></p>'}",

@@ -45,6 +45,9 @@ public:
     //! sizeOf: of pictures that the text doesn't tell the size of.
     LessonText(const QString &text, double width, const TextLook &look, bool keepsWords, const PictureSize &sizeOf);
 
+    LessonText(const LessonText &) = delete;
+    LessonText &operator=(const LessonText &) = delete;
+
     bool isEmpty() const { return m_document && m_document->isEmpty(); }
 
     void setWidth(double width);

@@ -369,7 +369,8 @@ QDomElement PlainSvg::addTexture(const QPainterPath &area, const QString &file, 
             return {};
         }
         const QSize size = m_pictures.size(picture);
-        pattern = m_textures.insert(file, QString(m_names + QLatin1Char('t') + QString::number(m_textures.size() + 1)));
+        // By the picture's name, too: the pages of two lessons may stand side by side.
+        pattern = m_textures.insert(file, QString(m_names + QLatin1Char('t') + picture));
         QDomElement definitions = m_document.createElement(QStringLiteral("defs"));
         m_svg.insertBefore(definitions, m_svg.firstChild());
         QDomElement tile = m_document.createElement(QStringLiteral("pattern"));
