@@ -44,7 +44,7 @@ int messagesOf(const std::function<void()> &call);
 //! How many times slower things go in this build than in one for users.
 #if defined(WITH_SANITIZERS)
 constexpr int slowness = 10;
-#elif !defined(__OPTIMIZE__)
+#elif defined(WITHOUT_OPTIMIZATION)
 constexpr int slowness = 4;
 #else
 constexpr int slowness = 1;
