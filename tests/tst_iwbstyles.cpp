@@ -4,6 +4,7 @@
 #include "ziptext.h"
 
 #include <QImage>
+#include <QRandomGenerator>
 #include <QTextDocument>
 #include <QtTest>
 
@@ -30,6 +31,90 @@ QByteArray smallPicture()
     QBuffer buffer;
     image.save(&buffer, "png");
     return buffer.data();
+}
+
+/*!
+ * Pages at random, and what has to be found of each element: an item of its identifier, or its name in the report.
+ */
+class RandomPage
+{
+public:
+    explicit RandomPage(quint32 seed)
+        : m_random(seed)
+    {
+    }
+
+    QString elements(int depth = 0)
+    {
+        QString text;
+        for (int i = m_random.bounded(1, 6); i > 0; --i) {
+            const int kind = m_random.bounded(depth < 4 ? 12 : 8);
+            text += kind < 8 ? leaf() : kind < 11 ? holder(depth) : "<svg:g>" + elements(depth + 1) + "</svg:g>";
+        }
+        return text;
+    }
+
+    QString records()
+    {
+        QString text;
+        for (const QString &id : qAsConst(ids)) {
+            const QString words = anyOf({"locked='true'", "freehand='true'", "highlight='true'", "revealer='true'",
+                                         "flip='both'", "background='true'", "stroke-lineshape-end='arrow'"});
+            text += m_random.bounded(3) == 0 ? "<iwb:element ref='%1' %2/>"_s.arg(id, words) : QString();
+            if (m_random.bounded(9) == 0) {
+                text += "<iwb:element ref='%1' vendor='7'/>"_s.arg(id);
+                told.append({id, "vendor"});
+            }
+        }
+        return text + "<iwb:group><iwb:element ref='%1'/><iwb:element ref='%2'/></iwb:group>"_s.arg(ids.first(), ids.last());
+    }
+
+    QStringList ids;
+    QVector<QPair<QString, QString>> told; // what the report must say of an element
+
+private:
+    QString anyOf(const QStringList &texts) { return texts.at(m_random.bounded(texts.size())); }
+
+    QString leaf()
+    {
+        const QString text = anyOf(
+            {"<svg:rect id='%1' x='1' y='2' width='30' height='20'%2/>", "<svg:circle id='%1' cx='9' cy='9' r='5'%2/>",
+             "<svg:ellipse id='%1' rx='9' ry='5'%2/>", "<svg:line id='%1' x2='30' y2='20'%2/>",
+             "<svg:polyline id='%1' points='1,2 3,9 8,1'%2/>", "<svg:polygon id='%1' points='0,0 50,0 50,5 0,5'%2/>",
+             "<svg:polygon id='%1' points=''%2/>", "<svg:image id='%1' width='9' height='9' xlink:href='images/a.png'%2/>",
+             "<svg:image id='%1' width='9' height='9' xlink:href='images/none.png'%2/>", "<svg:path id='%1' d='M0 0L5 5'%2/>",
+             "<svg:video id='%1' width='9' height='9' xlink:href='http://e.org/v.mpg'%2/>", "<svg:use id='%1'%2/>",
+             "<svg:text id='%1' y='9' font-size='9'%2>a</svg:text>", "<svg:path id='%1' d='bad'%2/>",
+             "<svg:textarea id='%1' width='90' height='9' font-size='9'%2>a<svg:tspan>b</svg:tspan></svg:textarea>"});
+        ids.append("e%1"_s.arg(ids.size()));
+        const bool isText = text.startsWith("<svg:text");
+        const QStringList extra = anyOf(isText ? QStringList{"dx 3", "letter-spacing 2", "textLength 9", "writing-mode tb"}
+                                               : QStringList{"onclick f", "filter url(#f)", "mask url(#m)", "stroke red"})
+                                      .split(' ');
+        const bool isRead = extra.first() == "stroke" || text.contains("use") || text.contains("points=''");
+        if (!isRead) {
+            told.append({ids.last(), extra.first()});
+        }
+        return text.arg(ids.last(), " %1='%2'"_s.arg(extra.first(), extra.last()));
+    }
+
+    QString holder(int depth)
+    {
+        const QString text = anyOf({"<svg:a xlink:href='#p2'>%1</svg:a>", "<svg:a xlink:href='images/a.png'>%1</svg:a>",
+                                    "<svg:switch><svg:g>%1</svg:g></svg:switch>", "<svg:svg x='5'>%1</svg:svg>",
+                                    "<svg:g transform='rotate(30,5,5)' stroke='blue'>%1</svg:g>"});
+        return text.arg(elements(depth + 1));
+    }
+
+    QRandomGenerator m_random;
+};
+
+void collectIds(const QJsonArray &items, QStringList &ids)
+{
+    for (const QJsonValue &item : items) {
+        ids.append(item.toObject().value("ID").toString());
+        collectIds(item.toObject().value("Children").toArray(), ids);
+    }
 }
 
 // What the HTML of a text board says under a word.
@@ -160,6 +245,11 @@ private slots:
         row("what a record says that no item has", line.arg("a"),
             "<iwb:element ref='a' stroke-lineshape-end='circle' vendor='1' editable='true'/>", "", "ZQMath2DSegment",
             "vendor \"1\" is left out");
+        row("an outline that crosses itself", "<svg:polygon points='150,20 220,240 30,100 270,100 80,240' fill='red'/>", "",
+            "", "ZQMath2DPolyline", "where it crosses itself");
+        row("a cover with a link", "<svg:a xlink:href='http://e.org'><svg:rect id='r' width='30' height='20'/></svg:a>",
+            "<iwb:element ref='r' revealer='true'/>", "InteractiveValue", "General:curtain InteractiveValue=http://e.org",
+            "");
         row("dashes of other lengths", "<svg:line x1='1' y1='2' x2='30' y2='4' stroke='red' stroke-dasharray='9,3'/>", "",
             "ArtObj_LineStyle", "ZQMath2DSegment", "has other lengths");
 
@@ -212,6 +302,67 @@ private slots:
         QTEST(described(reader->slide(0).items, keys.split(',', Qt::SkipEmptyParts)), "items");
         const QString told = detailsOf(losses).join('\n');
         QVERIFY2(remark.isEmpty() ? told.isEmpty() : told.contains(remark), qPrintable(told));
+    }
+
+    // Nothing is left out without a word, whatever stands on a page.
+    void namesAllThatIsNotRead()
+    {
+        putFile(path("random/images/a.png"), smallPicture());
+        for (quint32 seed = 1; seed <= 60; ++seed) {
+            RandomPage page(seed);
+            const QString layers = page.elements() + "|" + page.elements();
+            const QString records = page.records();
+            putFile(path("random/content.xml"), documentOf(layers, records));
+            LossReport losses;
+            const LessonSlide slide = openLesson(path("random"), &losses)->slide(0);
+            QStringList found;
+            collectIds(slide.items, found);
+            QMultiHash<QString, QString> told;
+            for (const Loss &loss : losses.entries()) {
+                told.insert(loss.itemId, inEnglish({loss.detail}).first());
+            }
+            const bool hasBackground = slide.properties.contains("document") || slide.properties.value("color") != "255,255,255,255";
+            int missing = hasBackground ? -2 : 0; // a colour and a picture
+            for (const QString &id : qAsConst(page.ids)) {
+                missing += found.contains(id) || told.contains(id) ? 0 : 1;
+            }
+            QVERIFY2(missing <= 0, qPrintable("seed %1: %2 of %3"_s.arg(seed).arg(missing).arg(layers)));
+            for (const auto &[id, word] : qAsConst(page.told)) {
+                const QStringList words = told.values(id);
+                QVERIFY2(words.join('\n').contains(word), qPrintable("seed %1: %2 of %3"_s.arg(seed).arg(word, id)));
+            }
+        }
+    }
+
+    // What svg, records and links are called is up to the writer.
+    void readsOtherPrefixes()
+    {
+        const QString text = QString::fromUtf8(documentOf(
+            "<svg:a id='l' xlink:href='#p'><svg:rect id='r' x='1' y='2' width='30' height='20' fill='red'/></svg:a>"
+            "<svg:textarea id='t' x='0' y='0' width='90' height='90'>a<svg:tbreak/>b</svg:textarea>",
+            "<iwb:group><iwb:element ref='r' locked='true'/><iwb:element ref='t'/></iwb:group>"
+            "<iwb:link ref='l' file='external'/>"));
+        const auto itemsOf = [this](const QString &document) -> QString {
+            putFile(path("prefixes.iwb"), document.toUtf8());
+            LossReport losses;
+            const auto reader = openLesson(path("prefixes.iwb"), &losses);
+            const QString items = described(reader->slide(0).items, {"LockIn", "plain", "ID"});
+            return items + detailsOf(losses).join(' ');
+        };
+        const auto renamed = [&text](const char *prefix, const char *other) {
+            return QString(text).replace(QRegularExpression("\\b%1(?=[:=])"_s.arg(prefix)), other);
+        };
+        const QString usual = itemsOf(text);
+        QVERIFY2(usual.startsWith("ZQGroupItem") && usual.contains("LockIn=1") && usual.contains("no element of that name"),
+                 qPrintable(usual));
+        QCOMPARE(itemsOf(renamed("svg", "s")), usual);
+        QCOMPARE(itemsOf(renamed("iwb", "board")), usual);
+        QCOMPARE(itemsOf(renamed("xlink", "x")), usual);
+        QCOMPARE(itemsOf(QString(text)
+                             .replace("xmlns:iwb='http://www.becta.org.uk/iwb'"_s,
+                                      "xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'"_s)
+                             .remove("iwb:"_s)),
+                 usual);
     }
 
     // The document alone, and archives whose names have the wrong slashes.

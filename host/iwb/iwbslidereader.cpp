@@ -71,14 +71,9 @@ QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
 void readRecord(const IwbElement &element, QJsonObject &json)
 {
     const bool isPolyline = element.element.tagName() == QLatin1String("svg:polyline");
+    const QJsonObject shape = json;
     if (isPolyline && (element.isFreehand || element.isHighlight)) {
-        const QJsonObject polyline = json;
-        json = inkOf(element, polyline);
-        for (auto it = polyline.constBegin(); it != polyline.constEnd(); ++it) {
-            if (it.key().startsWith(QLatin1String("Interactive"))) {
-                json.insert(it.key(), it.value());
-            }
-        }
+        json = inkOf(element, shape);
     }
     if (element.isRevealer) {
         json = {{ItemKeys::type, QStringLiteral("General:curtain")},
@@ -86,6 +81,11 @@ void readRecord(const IwbElement &element, QJsonObject &json)
                 {QStringLiteral("rect"), json.value(ItemKeys::box)},
                 {ItemKeys::visible, json.value(ItemKeys::visible)},
                 {ItemKeys::locked, json.value(ItemKeys::locked)}};
+    }
+    for (auto it = shape.constBegin(); it != shape.constEnd(); ++it) {
+        if (it.key().startsWith(QLatin1String("Interactive"))) {
+            json.insert(it.key(), it.value());
+        }
     }
     if (element.flipsAcross) {
         json.insert(ItemKeys::flippedAcross, QStringLiteral("1"));

@@ -5,6 +5,9 @@
 #include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
 
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
 #include <QStringList>
 
 #include <cmath>
@@ -16,6 +19,36 @@ namespace {
 double number(const QDomElement &element, const char *attribute)
 {
     return element.attribute(QLatin1String(attribute)).toDouble();
+}
+
+// One turn the same way all around: most of all shapes.
+bool isConvex(const QPolygonF &polygon)
+{
+    double turned = 0;
+    int left = 0;
+    int right = 0;
+    const int count = polygon.size();
+    for (int i = 0; i < count; ++i) {
+        const QPointF one = polygon.at((i + 1) % count) - polygon.at(i);
+        const QPointF other = polygon.at((i + 2) % count) - polygon.at((i + 1) % count);
+        const double turn = std::atan2(one.x() * other.y() - one.y() * other.x(), QPointF::dotProduct(one, other));
+        left += turn > 0 ? 1 : 0;
+        right += turn < 0 ? 1 : 0;
+        turned += turn;
+    }
+    return (left == 0 || right == 0) && qAbs(turned) < 3 * M_PI;
+}
+
+QImage filled(const QPainterPath &path, const QRectF &extent)
+{
+    constexpr int size = 64; // of what is compared
+    QImage image(size, size, QImage::Format_Grayscale8);
+    image.fill(0);
+    QPainter painter(&image);
+    painter.scale(size / extent.width(), size / extent.height());
+    painter.translate(-extent.topLeft());
+    painter.fillPath(path, Qt::white);
+    return image;
 }
 
 } // namespace
@@ -56,6 +89,29 @@ void setSvgTurn(QDomElement &element, double angle)
     element.setAttribute(
         QStringLiteral("transform"),
         QStringLiteral("rotate(%1 %2 %3)").arg(degrees).arg(exactText(center.x()), exactText(center.y())));
+}
+
+bool isFilledAlike(const QPolygonF &polygon)
+{
+    const QRectF extent = polygon.boundingRect();
+    const bool hasArea = extent.width() > 0 && extent.height() > 0 && std::isfinite(extent.width() + extent.height());
+    if (polygon.size() < 4 || !hasArea || isConvex(polygon)) {
+        return true;
+    }
+    QPainterPath path;
+    path.addPolygon(polygon);
+    path.closeSubpath();
+    path.setFillRule(Qt::OddEvenFill);
+    const QImage one = filled(path, extent);
+    path.setFillRule(Qt::WindingFill);
+    const QImage other = filled(path, extent);
+    int different = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            different += one.constScanLine(y)[x] != other.constScanLine(y)[x] ? 1 : 0;
+        }
+    }
+    return different < one.width() / 4; // less shows nothing
 }
 
 std::optional<QRectF> drawnExtent(const QDomElement &element)

@@ -31,6 +31,9 @@ void setSvgTurn(QDomElement &element, double angle);
 //! What a svg element of the plug-in covers before its transform, or nothing for one without geometry.
 std::optional<QRectF> drawnExtent(const QDomElement &element);
 
+//! True for a polygon that is filled the same by both rules: where an outline crosses itself, one leaves holes.
+bool isFilledAlike(const QPolygonF &polygon);
+
 } // namespace lessonhost
 
 #endif // SVGGEOMETRY_H

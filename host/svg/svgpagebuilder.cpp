@@ -221,7 +221,11 @@ bool SvgPageBuilder::stroke(const QVector<QDomElement> &pieces, const Place &out
     paint.lineWidth = line->width;
     setPluginPaint(item.element, paint);
     for (const QDomElement &piece : pieces) {
+        outer.style.child(piece, nativeTransform(piece), remarkAbout(piece));
         remarkOnExtras(piece, svgName(piece));
+        if (piece != pieces.first()) {
+            remark(piece, say("it became a part of a stroke"), false);
+        }
     }
     return true;
 }
@@ -517,6 +521,10 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
     }
     if (points.size() == 3 && !isInk && (!m_rules.isNative || paint.fill.alpha() > 0)) {
         points.append(points.last());
+    }
+    const bool isEvenOdd = m_rules.isIwb || place.style.property(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
+    if (!m_rules.isNative && paint.fill.alpha() > 0 && isEvenOdd && !isFilledAlike(points)) {
+        remark(source, say("it is filled also where it crosses itself"), false);
     }
     IwbElement &item = addItem(source, place, QStringLiteral("svg:polyline"));
     item.element.setAttribute(QStringLiteral("points"), svgPoints(place.style.matrix.map(points)));

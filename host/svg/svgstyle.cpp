@@ -17,6 +17,7 @@ const QSet<QString> &inheritedProperties()
     static const QSet<QString> names{
         QStringLiteral("fill"),
         QStringLiteral("fill-opacity"),
+        QStringLiteral("fill-rule"),
         QStringLiteral("stroke"),
         QStringLiteral("stroke-width"),
         QStringLiteral("stroke-opacity"),

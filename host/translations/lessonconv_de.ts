@@ -2667,5 +2667,13 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>Turn %1</source>
         <translation>%1 drehen</translation>
     </message>
+    <message>
+        <source>it became a part of a stroke</source>
+        <translation>wurde ein Teil eines Strichs</translation>
+    </message>
+    <message>
+        <source>it is filled also where it crosses itself</source>
+        <translation>ist auch dort gefüllt, wo es sich selbst überschneidet</translation>
+    </message>
 </context>
 </TS>

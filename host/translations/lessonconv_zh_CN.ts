@@ -2615,5 +2615,13 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>Turn %1</source>
         <translation>旋转%1</translation>
     </message>
+    <message>
+        <source>it became a part of a stroke</source>
+        <translation>成为一条笔画的一部分</translation>
+    </message>
+    <message>
+        <source>it is filled also where it crosses itself</source>
+        <translation>自身相交之处也被填充</translation>
+    </message>
 </context>
 </TS>
