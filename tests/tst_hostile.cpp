@@ -304,6 +304,8 @@ private slots:
         row("JSON slide of 33 MiB", "in.json",
             QByteArray("{\"Slides\": [{\"a\": \"") + QByteArray(33 * 1024 * 1024, ' ') + "\"}]}",
             "no slide may take more");
+        row("IWB page of 33 MiB", "in.iwb/content.xml", iwbContent(QByteArray(33 * 1024 * 1024, ' ')),
+            "no slide may take more");
         row("100,001 items in a slide", "in/slides/1.xml",
             QByteArray("<slide><items>" + QByteArray("<a/>").repeated(100001 / part) + "</items></slide>"),
             part == 1 ? "no slide may have more" : "");
@@ -374,6 +376,17 @@ private slots:
         } else {
             QVERIFY2(message.contains(words), qPrintable(message.left(1000)));
         }
+    }
+
+    // A point takes a hundred times its text on its way into a page.
+    void writesNoPageOfAMillionPoints()
+    {
+        putFile(path("in.json"),
+                "{\"Slides\": [{\"Items\": [{\"Type\": \"ZQSmoothStroke\", \"XY\": \"1"
+                    + QByteArray(",1").repeated(2000002) + "\"}]}]}");
+        const auto outcome = runCommand({"convert", "in.json", "out.iwb"}, m_folder->path());
+        QVERIFY2(outcome.errors.contains("no page of IWB may have more"), qPrintable(outcome.errors));
+        QVERIFY(!QFile::exists(path("out.iwb")));
     }
 
     void holdsAPageAtATime_data()

@@ -91,6 +91,8 @@ public:
     int count() const { return m_places.size(); }
     //! Parts are numbered from 0 in the order in which they were told. Throws LessonError.
     XmlPart part(int index) const;
+    //! What a part takes of the document, in bytes.
+    qint64 size(int index) const { return m_places.at(index).end - m_places.at(index).begin; }
 
 private:
     class Builder;

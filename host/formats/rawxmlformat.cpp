@@ -146,6 +146,7 @@ public:
         const CarriedCheck *check = m_context.verify && losses.isHeard() ? &slideCheck : nullptr;
 
         // It stands alone: reading changes elements.
+        checkSlideSize(m_parts.size(index), index + 1, m_path);
         const XmlPart part = m_parts.part(index);
         const QDomElement element = part.element;
         element.parentNode().removeChild(element);

@@ -6,6 +6,7 @@
 #include "files/outputfile.h"
 #include "files/packagenames.h"
 #include "iwb/nativepart.h"
+#include "lesson/slidelimits.h"
 #include "svg/svgnames.h"
 
 #include <QDir>
@@ -152,6 +153,7 @@ IwbPackage::IwbPackage(const QString &path)
 
 XmlPart IwbPackage::part(int index) const
 {
+    checkSlideSize(m_parts->size(index), index + 1, displayName());
     const XmlPart part = m_parts->part(index);
     findReferences(part.element, m_embeddedBefore.at(index));
     return part;

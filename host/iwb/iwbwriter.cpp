@@ -9,6 +9,7 @@
 #include "iwb/iwbpackage.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
+#include "lesson/slidelimits.h"
 
 #include <QFileInfo>
 
@@ -89,6 +90,7 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
         startPages();
     }
     ++m_slides;
+    checkPagePoints(slide.items, m_slides, m_target.target());
     const SlideLosses told = m_losses.slide(m_slides);
     const SlideLosses losses = m_native ? told.elsewhere() : told;
     QDomElement page = m_pages.addPage(slide.properties, m_slides, losses);
@@ -148,7 +150,9 @@ void IwbWriter::startPages()
 // The page goes into the file and out of the document, and so do the records about its items.
 void IwbWriter::writePage(const QDomElement &page)
 {
-    append(xmlLines(page, pageDepth));
+    const QByteArray text = xmlLines(page, pageDepth);
+    checkSlideSize(text.size(), m_slides, m_target.target());
+    append(text);
     m_pages.pageSet().removeChild(page);
     QDomElement root = m_pages.document().documentElement();
     const QDomElement svg = root.firstChildElement(svgTag);

@@ -19,6 +19,18 @@ int itemCount(const QJsonArray &items)
     });
 }
 
+qint64 pointCount(const QJsonArray &items)
+{
+    return std::accumulate(items.constBegin(), items.constEnd(), qint64(0), [](qint64 count, const QJsonValue &value) {
+        const QJsonObject item = value.toObject();
+        for (const QLatin1String key : {ItemKeys::steps, ItemKeys::polyline, ItemKeys::control}) {
+            const QJsonValue numbers = item.value(key);
+            count += (numbers.isArray() ? numbers.toArray().size() : numbers.toString().count(QLatin1Char(','))) / 2;
+        }
+        return count + pointCount(item.value(HostKeys::children).toArray());
+    });
+}
+
 } // namespace
 
 void checkSlideSize(qint64 size, int number, const QString &file)
@@ -42,6 +54,19 @@ void checkSlideItems(const QJsonArray &items, int number, const QString &file)
                               .arg(number)
                               .arg(count)
                               .arg(maximumSlideItems),
+                          say(spread))
+            .in(file);
+    }
+}
+
+void checkPagePoints(const QJsonArray &items, int number, const QString &file)
+{
+    const qint64 count = pointCount(items);
+    if (count > maximumPagePoints) {
+        throw LessonError(say("Slide %1 has lines of %2 points, and no page of IWB may have more than %3")
+                              .arg(number)
+                              .arg(count)
+                              .arg(maximumPagePoints),
                           say(spread))
             .in(file);
     }
