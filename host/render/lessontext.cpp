@@ -231,17 +231,23 @@ void LessonText::prepareFonts()
         QTextCharFormat format;
     };
     QVector<Part> parts;
+    QHash<int, QTextCharFormat> knownFormats; // empty for those that stay
     m_smallestPixels = pixelsOf(m_document->defaultFont());
     QTextCursor cursor(m_document.get());
     cursor.beginEditBlock(); // a cursor finds its place in a line otherwise, wherever it goes
     for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            const QTextCharFormat format = prepared(fragment.charFormat());
-            if (format != fragment.charFormat()) {
-                parts.append({fragment.position(), fragment.length(), format});
+            auto known = knownFormats.constFind(fragment.charFormatIndex());
+            if (known == knownFormats.constEnd()) {
+                const QTextCharFormat given = fragment.charFormat();
+                const QTextCharFormat format = prepared(given);
+                known = knownFormats.insert(fragment.charFormatIndex(), format == given ? QTextCharFormat() : format);
+                m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document->defaultFont())));
             }
-            m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document->defaultFont())));
+            if (known->propertyCount() > 0) {
+                parts.append({fragment.position(), fragment.length(), *known});
+            }
         }
         const QTextCharFormat blockFormat = prepared(block.charFormat());
         if (blockFormat != block.charFormat()) {

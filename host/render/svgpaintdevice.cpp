@@ -53,9 +53,10 @@ struct Letters
 {
     QStringList families;
     QString weight;
-    bool isItalic;
+    bool isItalic = false;
     QColor color;
 
+    Letters() = default;
     Letters(const QFont &font, const QColor &color)
         : families(familiesOf(font))
         , weight(fontWeightText(font.weight()))
@@ -241,10 +242,11 @@ public:
         if (!isRightToLeft && addApart(position, text, item)) {
             return;
         }
+        const Letters letters(font, faded(m_pen.color()));
         if (isRightToLeft || !isNext) {
-            startText(position, font);
+            startText(position, font, letters);
         }
-        addSpan(text, font);
+        addSpan(text, letters);
         m_textEnd = position.x() + item.width();
         if (isRightToLeft) {
             // The middle is the same in whichever direction a viewer writes.
@@ -318,7 +320,7 @@ private:
             && qFuzzyCompare(pixels, m_pixels);
     }
 
-    void startText(const QPointF &position, const QFont &font)
+    void startText(const QPointF &position, const QFont &font, const Letters &letters)
     {
         finishText();
         m_text = appendPlaced(QStringLiteral("text"));
@@ -327,22 +329,21 @@ private:
         m_text.setAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
         m_pixels = pixelsOf(font);
         m_text.setAttribute(QStringLiteral("font-size"), drawnNumber(m_pixels));
-        m_letters = std::make_unique<Letters>(font, faded(m_pen.color()));
-        m_letters->set(m_text, nullptr);
+        m_letters = letters;
+        letters.set(m_text, nullptr);
         m_baseline = position.y();
         m_textStart = position.x();
         m_lettersEnd = m_textStart;
     }
 
-    void addSpan(const QString &text, const QFont &font)
+    void addSpan(const QString &text, const Letters &letters)
     {
-        const Letters letters(font, faded(m_pen.color()));
-        if (letters == *m_letters) {
+        if (letters == m_letters) {
             m_text.appendChild(m_document.createTextNode(text));
             return;
         }
         QDomElement span = m_document.createElement(QStringLiteral("tspan"));
-        letters.set(span, m_letters.get());
+        letters.set(span, &m_letters);
         span.appendChild(m_document.createTextNode(text));
         m_text.appendChild(span);
     }
@@ -361,6 +362,7 @@ private:
         if (qAbs(stretched) < 0.5 && !isSpaced) {
             return false;
         }
+        const Letters letters(font, faded(m_pen.color()));
         const int gaps = text.trimmed().count(QLatin1Char(' '));
         const bool isByLetter = isSpaced || gaps == 0;
         int breaks = 0;
@@ -377,8 +379,8 @@ private:
             if (!isEnd) {
                 continue;
             }
-            startText({position.x() + natural.at(start) + moved, position.y()}, font);
-            addSpan(text.mid(start, i - start), font);
+            startText({position.x() + natural.at(start) + moved, position.y()}, font, letters);
+            addSpan(text.mid(start, i - start), letters);
             m_text = QDomElement();
             moved += isByLetter ? step : step * text.midRef(start, i - start).count(QLatin1Char(' '));
             start = i;
@@ -423,7 +425,7 @@ private:
     double m_opacity = 1;
 
     QDomElement m_text; // null where no line is being written
-    std::unique_ptr<Letters> m_letters; // with which it begins
+    Letters m_letters; // with which it begins
     double m_pixels = 0;
     double m_baseline = 0;
     double m_textStart = 0;
