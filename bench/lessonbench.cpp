@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "marks.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QDomDocument>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -12,23 +18,39 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <vector>
 
-// Whole lessons through lessonconv as a process, against a bare program that parses the same files into a DOM and
-// prints them again: user time and peak memory, and how the memory grows with the number of slides.
+// Whole lessons through lessonconv as a process, against a bare program that parses the same lesson into a DOM and
+// prints it again: user time and peak memory, and how the memory grows with the number of slides. Then many small
+// lessons.
 //
-//   lessonbench [SLIDES]            measures; 1000 slides if nothing is said
+//   lessonbench [SLIDES [LESSONS]]  measures; 1000 slides and 2000 lessons if nothing is said
 //   lessonbench parse FOLDER FOLDER is the bare program
 
 namespace {
 
 const int itemsPerSlide = 50;
+const int itemsOfSmallLesson = 2;
 const int repetitions = 3;
 
 struct Cost
 {
-    double seconds;
+    double user;
+    double system;
     double megabytes;
+};
+
+/*!
+ * A conversion, a drawing or a look, with what it may cost.
+ */
+struct Road
+{
+    const char *name;
+    QStringList arguments;
+    int base; // the road that it is measured against
+    double mark; // 0 where there is none
+    bool isTold; // the one of these slides counts, not the one of a tenth
 };
 
 QByteArray read(const QString &file)
@@ -92,7 +114,31 @@ int parseAndPrint(const QString &from, const QString &to)
     return 0;
 }
 
-// User time and peak memory of a process that must succeed.
+// Raw items in turn, as one document.
+void makeRawLesson(const QString &file, int slides)
+{
+    QDomDocument samples;
+    samples.setContent(read(QStringLiteral(SAMPLES_DIR "/rawsamples.xml")), false);
+    QString text = QStringLiteral("<presentation Version=\"4.0\" Width=\"1440\" Height=\"1080\">");
+    QTextStream stream(&text);
+    QDomElement item = samples.documentElement().firstChildElement();
+    for (int i = 0; i < slides; ++i) {
+        stream << R"(<slide SlideSourceRect="0,0,1440,1080">)";
+        for (int j = 0; j < itemsPerSlide; ++j) {
+            item.save(stream, -1);
+            item = item.nextSiblingElement();
+            if (item.isNull()) {
+                item = samples.documentElement().firstChildElement();
+            }
+        }
+        stream << "</slide>\n";
+    }
+    stream << "</presentation>\n";
+    stream.flush();
+    write(file, text.toUtf8());
+}
+
+// The cost of a process that must succeed, and of those that it starts.
 Cost costOf(const QStringList &command)
 {
     std::vector<QByteArray> words;
@@ -107,6 +153,9 @@ Cost costOf(const QStringList &command)
     arguments.push_back(nullptr);
     const pid_t child = fork();
     if (child == 0) {
+        if (!std::freopen("/dev/null", "w", stdout)) {
+            _exit(127);
+        }
         execv(arguments.front(), arguments.data());
         _exit(127);
     }
@@ -115,56 +164,146 @@ Cost costOf(const QStringList &command)
     if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
         qFatal("%s failed", qPrintable(command.join(QLatin1Char(' '))));
     }
-    return {double(usage.ru_utime.tv_sec) + double(usage.ru_utime.tv_usec) * 1e-6, double(usage.ru_maxrss) / 1024};
+    const auto seconds = [](const timeval &time) { return double(time.tv_sec) + double(time.tv_usec) * 1e-6; };
+    return {seconds(usage.ru_utime), seconds(usage.ru_stime), double(usage.ru_maxrss) / 1024};
 }
 
-Cost medianCost(const QStringList &command)
+double median(std::vector<double> values)
 {
-    std::vector<double> seconds;
-    std::vector<double> megabytes;
-    for (int i = 0; i < repetitions; ++i) {
-        const Cost cost = costOf(command);
-        seconds.push_back(cost.seconds);
-        megabytes.push_back(cost.megabytes);
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+bool hasWord(const char *word)
+{
+    QProcess process;
+    process.start(QStringLiteral(LESSONCONV), {QStringLiteral("--help")});
+    process.waitForFinished();
+    return process.readAllStandardOutput().contains(QByteArray("lessonconv ") + word + ' ');
+}
+
+QStringList command(const QStringList &words)
+{
+    return QStringList{QStringLiteral(LESSONCONV)} + words;
+}
+
+// In turns, so that a busy machine disturbs all alike.
+void measureRoads(const std::vector<Road> &roads)
+{
+    std::vector<std::vector<Cost>> costs(roads.size());
+    for (int turn = 0; turn < repetitions; ++turn) {
+        for (std::size_t i = 0; i < roads.size(); ++i) {
+            costs[i].push_back(costOf(roads[i].arguments));
+        }
     }
-    std::sort(seconds.begin(), seconds.end());
-    std::sort(megabytes.begin(), megabytes.end());
-    return {seconds[repetitions / 2], megabytes[repetitions / 2]};
+    for (std::size_t i = 0; i < roads.size(); ++i) {
+        std::vector<double> ratios;
+        std::vector<double> seconds;
+        std::vector<double> megabytes;
+        for (std::size_t turn = 0; turn < costs[i].size(); ++turn) {
+            const Cost &cost = costs[i][turn];
+            seconds.push_back(cost.user);
+            megabytes.push_back(cost.megabytes);
+            ratios.push_back(cost.user / costs[std::size_t(roads[i].base)][turn].user);
+        }
+        const double ratio = median(ratios);
+        std::printf("%-34s %7.2f s %5.2f x   %7.1f MB\n", roads[i].name, median(seconds), ratio, median(megabytes));
+        std::fflush(stdout);
+        if (roads[i].isTold && roads[i].mark > 0) {
+            tellMark(QLatin1String(roads[i].name), ratio, roads[i].mark);
+        }
+    }
 }
 
-void printRow(const char *name, const Cost &cost, const Cost &bare)
-{
-    std::printf("%-28s %7.2f s %5.2f x   %7.1f MB %5.2f x\n", name, cost.seconds, cost.seconds / bare.seconds,
-                cost.megabytes, cost.megabytes / bare.megabytes);
-    std::fflush(stdout);
-}
-
-void measure(int slides)
+void measure(int slides, bool isTold)
 {
     const QTemporaryDir folder;
-    const QString lesson = folder.filePath(QStringLiteral("lesson"));
+    const auto path = [&folder](const char *name) { return folder.filePath(QLatin1String(name)); };
+    const QString lesson = path("lesson");
     makeLesson(lesson, slides);
-    const QString out = folder.filePath(QStringLiteral("out"));
-    QDir().mkpath(out);
-    const QString json = out + QLatin1String("/lesson.json");
-
-    const Cost bare = medianCost({QCoreApplication::applicationFilePath(), QStringLiteral("parse"), lesson, out});
-    std::printf("%d slides with %d items each\n", slides, itemsPerSlide);
-    printRow("parse and print", bare, bare);
-    const auto convert = [&](const char *name, const QString &from, const QString &to, const QStringList &options) {
-        printRow(name,
-                 medianCost(QStringList{QStringLiteral(LESSONCONV), QStringLiteral("convert"), from, to,
-                                        QStringLiteral("--quiet")}
-                            + options),
-                 bare);
+    QDir().mkpath(path("raw"));
+    const QString raw = path("raw/raw.xml");
+    makeRawLesson(raw, slides);
+    QDir().mkpath(path("out"));
+    const QString json = path("out/lesson.json");
+    const QString iwb = path("out/lesson.iwb");
+    const QString zqtx = path("out/lesson.zqtx");
+    const QString quiet = QStringLiteral("--quiet");
+    const QString unchecked = QStringLiteral("--no-check");
+    // How long it takes to paint pictures of items tells nothing of the rest.
+    const QStringList unpainted{QStringLiteral("--items"), QStringLiteral("drop")};
+    const auto convert = [&](const QString &from, const QString &to, const QStringList &options = {}) {
+        return command(QStringList{QStringLiteral("convert"), from, to, quiet} + options);
     };
-    const QStringList unchecked{QStringLiteral("--no-check")};
-    convert("ZQTX to JSON, no check", lesson, json, unchecked);
-    convert("ZQTX to JSON, checked", lesson, json, {});
-    convert("JSON to ZQTX, no check", json, out + QLatin1String("/lesson.zqtx"), unchecked);
-    convert("JSON to ZQTX, checked", json, out + QLatin1String("/lesson.zqtx"), {});
-    convert("ZQTX to IWB, no check", lesson, out + QLatin1String("/lesson.iwb"), unchecked);
-    convert("ZQTX to IWB, checked", lesson, out + QLatin1String("/lesson.iwb"), {});
+    const QString self = QCoreApplication::applicationFilePath();
+    const QString parse = QStringLiteral("parse");
+    enum { Bare, BareRaw, Export = 7 };
+    std::vector<Road> roads{
+        {"parse and print", {self, parse, lesson, path("out")}, Bare, 0, isTold},
+        {"parse and print raw XML", {self, parse, path("raw"), path("out")}, Bare, 0, isTold},
+        {"ZQTX to JSON, no check", convert(lesson, json, {unchecked}), Bare, 0, isTold},
+        {"ZQTX to JSON, checked", convert(lesson, json), Bare, 1.8, isTold},
+        {"JSON to ZQTX, no check", convert(json, zqtx, {unchecked}), Bare, 0, isTold},
+        {"JSON to ZQTX, checked", convert(json, zqtx), Bare, 2.2, isTold},
+        {"ZQTX to IWB, no check", convert(lesson, iwb, unpainted + QStringList{unchecked}), Bare, 0, isTold},
+        {"ZQTX to IWB, checked", convert(lesson, iwb, unpainted), Bare, 2.5, isTold},
+        {"IWB to ZQTX, checked", convert(iwb, zqtx), Bare, 2.5, isTold},
+        {"raw XML to ZQTX, checked", convert(raw, zqtx), BareRaw, 2.5, isTold},
+        {"info", command({QStringLiteral("info"), lesson, quiet}), Bare, 1.0, isTold},
+        {"render to html, against to IWB", command({QStringLiteral("render"), lesson, path("out/lesson.html"), quiet}),
+         Export, 2.0, isTold},
+    };
+    if (hasWord("check")) {
+        roads.push_back({"check", command({QStringLiteral("check"), lesson, quiet}), Bare, 1.0, isTold});
+    }
+    std::printf("%d slides with %d items each\n", slides, itemsPerSlide);
+    measureRoads(roads);
+    if (!isTold) {
+        // Some hundred times as long, so a few slides tell it.
+        const Cost dropped = costOf(convert(lesson, iwb, unpainted));
+        const Cost painted = costOf(convert(lesson, iwb));
+        std::printf("pictures of items for IWB: %.0f ms a slide\n", (painted.user - dropped.user) * 1000 / slides);
+    }
+}
+
+// What a run over many lessons costs beside the conversions: many lessons of one slide against one of as many slides.
+void measureMany(int lessons)
+{
+    const QTemporaryDir folder;
+    makeLesson(folder.filePath(QStringLiteral("one")), 1);
+    const QString one = folder.filePath(QStringLiteral("one.json"));
+    costOf(
+        command({QStringLiteral("convert"), folder.filePath(QStringLiteral("one")), one, QStringLiteral("--quiet")}));
+    QJsonObject lesson = QJsonDocument::fromJson(read(one)).object();
+    QJsonObject slide = lesson.value(QStringLiteral("Slides")).toArray().first().toObject();
+    QJsonArray items;
+    for (int i = 0; i < itemsOfSmallLesson; ++i) {
+        items.append(slide.value(QStringLiteral("Items")).toArray().at(i));
+    }
+    slide.insert(QStringLiteral("Items"), items);
+    QJsonArray slides;
+    const QString in = folder.filePath(QStringLiteral("in"));
+    QDir().mkpath(in);
+    for (int i = 0; i < lessons; ++i) {
+        slide.insert(QStringLiteral("ID"), QString::number(i + 1));
+        slides.append(slide);
+        lesson.insert(QStringLiteral("Slides"), QJsonArray{slide});
+        write(in + QStringLiteral("/%1.json").arg(i), QJsonDocument(lesson).toJson());
+    }
+    lesson.insert(QStringLiteral("Slides"), slides);
+    write(one, QJsonDocument(lesson).toJson());
+    const QStringList options{QStringLiteral("--items"), QStringLiteral("drop"), QStringLiteral("--quiet")};
+    const Cost many =
+        costOf(command(QStringList{QStringLiteral("convert"), in, QStringLiteral("--to"), QStringLiteral("iwb"),
+                                   QStringLiteral("--out-dir"), folder.filePath(QStringLiteral("out"))}
+                       + options));
+    const Cost together = costOf(
+        command(QStringList{QStringLiteral("convert"), one, folder.filePath(QStringLiteral("one.iwb"))} + options));
+    const auto milliseconds = [lessons](const Cost &cost) { return (cost.user + cost.system) * 1000 / lessons; };
+    std::printf("%d lessons to IWB: %.2f ms a lesson, of which its conversion takes %.2f\n", lessons,
+                milliseconds(many), milliseconds(together));
+    tellMark(QStringLiteral("a lesson of many, in ms above its conversion"),
+             milliseconds(many) - milliseconds(together), 5);
 }
 
 } // namespace
@@ -178,7 +317,8 @@ int main(int argc, char **argv)
     }
     const int slides = words.isEmpty() ? 1000 : words.first().toInt();
     // A tenth of the slides tells how memory grows.
-    measure(qMax(1, slides / 10));
-    measure(slides);
+    measure(qMax(1, slides / 10), false);
+    measure(slides, true);
+    measureMany(words.size() > 1 ? words.at(1).toInt() : 2000);
     return 0;
 }
