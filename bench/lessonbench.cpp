@@ -36,8 +36,7 @@ const int repetitions = 3;
 
 struct Cost
 {
-    double user;
-    double system;
+    double seconds; // of the processor, in the program and in the system: the system tells the two apart by samples
     double megabytes;
 };
 
@@ -151,6 +150,7 @@ Cost costOf(const QStringList &command)
         arguments.push_back(word.data());
     }
     arguments.push_back(nullptr);
+    std::fflush(stdout); // or the child prints it, too
     const pid_t child = fork();
     if (child == 0) {
         if (!std::freopen("/dev/null", "w", stdout)) {
@@ -165,7 +165,7 @@ Cost costOf(const QStringList &command)
         qFatal("%s failed", qPrintable(command.join(QLatin1Char(' '))));
     }
     const auto seconds = [](const timeval &time) { return double(time.tv_sec) + double(time.tv_usec) * 1e-6; };
-    return {seconds(usage.ru_utime), seconds(usage.ru_stime), double(usage.ru_maxrss) / 1024};
+    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), double(usage.ru_maxrss) / 1024};
 }
 
 double median(std::vector<double> values)
@@ -202,9 +202,9 @@ void measureRoads(const std::vector<Road> &roads)
         std::vector<double> megabytes;
         for (std::size_t turn = 0; turn < costs[i].size(); ++turn) {
             const Cost &cost = costs[i][turn];
-            seconds.push_back(cost.user);
+            seconds.push_back(cost.seconds);
             megabytes.push_back(cost.megabytes);
-            ratios.push_back(cost.user / costs[std::size_t(roads[i].base)][turn].user);
+            ratios.push_back(cost.seconds / costs[std::size_t(roads[i].base)][turn].seconds);
         }
         const double ratio = median(ratios);
         std::printf("%-34s %7.2f s %5.2f x   %7.1f MB\n", roads[i].name, median(seconds), ratio, median(megabytes));
@@ -262,7 +262,8 @@ void measure(int slides, bool isTold)
         // Some hundred times as long, so a few slides tell it.
         const Cost dropped = costOf(convert(lesson, iwb, unpainted));
         const Cost painted = costOf(convert(lesson, iwb));
-        std::printf("pictures of items for IWB: %.0f ms a slide\n", (painted.user - dropped.user) * 1000 / slides);
+        std::printf("pictures of items for IWB: %.0f ms a slide\n",
+                    (painted.seconds - dropped.seconds) * 1000 / slides);
     }
 }
 
@@ -299,7 +300,7 @@ void measureMany(int lessons)
                        + options));
     const Cost together = costOf(
         command(QStringList{QStringLiteral("convert"), one, folder.filePath(QStringLiteral("one.iwb"))} + options));
-    const auto milliseconds = [lessons](const Cost &cost) { return (cost.user + cost.system) * 1000 / lessons; };
+    const auto milliseconds = [lessons](const Cost &cost) { return cost.seconds * 1000 / lessons; };
     std::printf("%d lessons to IWB: %.2f ms a lesson, of which its conversion takes %.2f\n", lessons,
                 milliseconds(many), milliseconds(together));
     tellMark(QStringLiteral("a lesson of many, in ms above its conversion"),
