@@ -250,6 +250,9 @@ private slots:
         row("a cover with a link", "<svg:a xlink:href='http://e.org'><svg:rect id='r' width='30' height='20'/></svg:a>",
             "<iwb:element ref='r' revealer='true'/>", "InteractiveValue", "General:curtain InteractiveValue=http://e.org",
             "");
+        row("what a document says of itself that no lesson does", line.arg("a"),
+            "<iwb:meta name='creator' content='Writer 1.0'/><iwb:meta name='subject' content='maths'/>", "",
+            "ZQMath2DSegment", "iwb:meta subject: maths");
         row("dashes of other lengths", "<svg:line x1='1' y1='2' x2='30' y2='4' stroke='red' stroke-dasharray='9,3'/>", "",
             "ArtObj_LineStyle", "ZQMath2DSegment", "has other lengths");
 

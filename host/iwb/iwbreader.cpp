@@ -35,17 +35,29 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     }
     nameResources();
     const SlideLosses losses = m_losses.presentation();
-    const auto &meta = outline.meta();
-    if (!meta.value(QStringLiteral("description")).isEmpty()) {
-        losses.value({QStringLiteral("iwb:meta"), {}}, QStringLiteral("description"),
-                     Sentence(meta.value(QStringLiteral("description"))));
-    }
+    nameUnreadMeta(losses);
     for (const Sentence &remark : m_package.remarks()) {
         losses.note({QStringLiteral("presentation"), {}}, remark);
     }
     for (const SvgRemark &remark : outline.remarks()) {
         const LossOwner owner(remark.tag, remark.id);
         remark.isLoss ? losses.value(owner, {}, remark.text) : losses.note(owner, remark.text);
+    }
+}
+
+// What others say of the document, and no lesson does.
+void IwbReader::nameUnreadMeta(const SlideLosses &losses) const
+{
+    const auto &meta = m_package.outline().meta();
+    QStringList names = meta.keys();
+    names.sort();
+    for (const QString &name : qAsConst(names)) {
+        const QString text = meta.value(name);
+        const bool isOwn = name == QLatin1String("creator")
+            || (m_package.outline().rules().hasPlainTurns && name != QLatin1String("description"));
+        if (!text.isEmpty() && !isOwn && presentationInMeta({{name, text}}).isEmpty()) {
+            losses.value({QStringLiteral("iwb:meta"), {}}, name, Sentence(text));
+        }
     }
 }
 

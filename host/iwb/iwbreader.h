@@ -28,6 +28,7 @@ public:
 
 private:
     LessonSlide slide(int index, const SlideLosses &losses);
+    void nameUnreadMeta(const SlideLosses &losses) const;
     QSet<QString> madePicturesInUse();
     void nameResources();
     QString resolve(const QString &reference, Sentence *problem) override
