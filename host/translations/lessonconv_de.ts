@@ -2675,5 +2675,9 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>it is filled also where it crosses itself</source>
         <translation>ist auch dort gefüllt, wo es sich selbst überschneidet</translation>
     </message>
+    <message>
+        <source>Slide %1 has lines of %2 points, and no page of IWB may have more than %3</source>
+        <translation>Folie %1 hat Linien aus %2 Punkten, und keine Seite von IWB darf mehr als %3 haben</translation>
+    </message>
 </context>
 </TS>

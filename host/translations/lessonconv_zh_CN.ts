@@ -2623,5 +2623,9 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>it is filled also where it crosses itself</source>
         <translation>自身相交之处也被填充</translation>
     </message>
+    <message>
+        <source>Slide %1 has lines of %2 points, and no page of IWB may have more than %3</source>
+        <translation>幻灯片 %1 的线条有 %2 个点，而 IWB 的每页不得超过 %3 个</translation>
+    </message>
 </context>
 </TS>
