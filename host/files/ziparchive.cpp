@@ -412,14 +412,14 @@ void packZip(const QString &directory, OutputFile &archive, const QString &shown
         files.append(root.relativeFilePath(it.next()));
     }
     files.sort();
+    // The first one that archives know, in no zone: the same files give the same archive.
+    const QDateTime noTime(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
     KZip zip(&archive);
     bool isGood = zip.open(QIODevice::WriteOnly);
     for (const QString &name : qAsConst(files)) {
         InputFile file(directory + QLatin1Char('/') + name, shownName);
-        const QFileInfo info(directory + QLatin1Char('/') + name);
-        const QDateTime time = info.lastModified();
         // Whose file it is doesn't go into the archive, and takes a look into the list of users.
-        isGood = isGood && zip.prepareWriting(name, {}, {}, file.size(), 0100644, time, time, time);
+        isGood = isGood && zip.prepareWriting(name, {}, {}, file.size(), 0100644, noTime, noTime, noTime);
         for (qint64 at = 0; isGood && at < file.size(); at += chunkSize) {
             const QByteArray chunk = file.bytes(at, qMin(chunkSize, file.size() - at));
             isGood = zip.writeData(chunk.constData(), chunk.size());
