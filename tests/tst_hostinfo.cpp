@@ -72,6 +72,95 @@ private slots:
         QCOMPARE(error.value("file").toString(), folder.filePath("none"));
         QCOMPARE(error.value("remedy").toString(), QString("Check the path"));
     }
+
+    // A lesson in JSON with one slide of these items and page values, and the file a.png, which is no picture.
+    void checks_data()
+    {
+        const Table<QByteArray, QString, int> row("slide", "findings", "code"); // "kind type id key problem" of each
+        row("whole", "'Items':[{'Type':'ZQMath2DCircle','ID':'c','BoundingBox':'0,0,9,9','Visible':true}]", "", 0);
+        row("files", "'document':'b.png','Items':[{'Type':'ZQImagePic','ID':'i','resource':'a.png'},{'Type':'ZQGroupItem',"
+            "'Children':[{'Type':'ZQMediaAudio','ID':'s','resource':'c.mp3'}]}]",
+            "file slide  b.png |picture ZQImagePic i a.png it is no picture that can be read|file ZQMediaAudio s c.mp3 ", 1);
+        row("items", "'Items':[{'Type':'ZQFuture','ID':'f','Opacity':'999'},{'Type':'ZQGadget','ID':'g','KeptXml':'<g/>'}]",
+            "item ZQFuture f  |item ZQGadget g  ", 1);
+        row("values", "'color':'reddish','Items':[{'Type':'ZQSmoothStroke','ID':'s','Opacity':300},"
+            "{'Type':'ZQMath2DCircle','ID':'c','InteractiveType':'ACTION_GOTOSLIDE','InteractiveValue':'2'}]",
+            "value slide  color a colour|value ZQSmoothStroke s Opacity a number from 0 to 255|"
+            "value ZQSmoothStroke s XY the points are not in the file|"
+            "value ZQMath2DCircle c InteractiveValue a slide from 1 to 1", 1);
+    }
+
+    void checks()
+    {
+        const auto [slide, findings, code] = Table<QByteArray, QString, int>::cells();
+        const QTemporaryDir folder;
+        putFile(folder.filePath("in.json"),
+                QByteArray("{'Width':'800','Height':'600','Slides':[{" + slide + "}],'Resources':{'a.png':'eHl6'}}")
+                    .replace('\'', '"'));
+        const CommandProcess::Outcome outcome = runCommand({"check", folder.filePath("in.json"), "--json"});
+        QCOMPARE(outcome.exitCode, code);
+        const QJsonObject told = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
+        QStringList found;
+        for (const QJsonValue &one : told.value("findings").toArray()) {
+            QStringList words;
+            for (const char *key : {"kind", "type", "id", "key", "problem"}) {
+                words.append(one.toObject().value(QLatin1String(key)).toString());
+            }
+            found.append(words.join(' '));
+        }
+        QCOMPARE(found.join('|'), findings);
+        QCOMPARE(told.value("found").toInt(), found.size());
+    }
+
+    // Without a trace of what was tried, and with the losses that a conversion names.
+    void checkTellsWhatFormatsLose()
+    {
+        const QTemporaryDir folder;
+        const QString lesson = EXAMPLES_DIR "/geometry";
+        for (const QString format : {"iwb", "zqtx"}) {
+            const QString other = folder.filePath("in.json");
+            convertedLesson(lesson, other);
+            const QString report = folder.filePath("report.json");
+            QCOMPARE(runCommand({"convert", other, folder.filePath("out." + format), "--report", report}).exitCode, 0);
+            const auto outcome = runCommand({"check", other, "--to", format, "--json"}, folder.path());
+            const QJsonObject tried = QJsonDocument::fromJson(outcome.output.toUtf8())
+                                          .object()
+                                          .value("formats")
+                                          .toArray()
+                                          .at(0)
+                                          .toObject();
+            const QJsonObject converted = QJsonDocument::fromJson(fileContent(report)).object();
+            QCOMPARE(tried.value("summary"), converted.value("summary"));
+            QCOMPARE(tried.value("losses"), converted.value("losses"));
+        }
+        QCOMPARE(runCommand({"check", lesson, "--quiet"}).output, QString());
+        QCOMPARE(runCommand({"check", lesson, "--to", "rawxml"}).exitCode, 2);
+        // Raw lessons lose values whatever they become.
+        const QString raw = EXAMPLES_DIR "/rawxml/subjects.xml";
+        QCOMPARE(runCommand({"check", raw}).exitCode, 0);
+        QCOMPARE(runCommand({"check", raw, "--strict", "--no-check"}).exitCode, 0);
+        QCOMPARE(runCommand({"check", raw, "--strict"}).exitCode, 1);
+    }
+
+    void checksMany()
+    {
+        const QTemporaryDir folder;
+        for (const QString number : {"1", "2"}) {
+            putFile(folder.filePath("lessons/" + number + ".json"),
+                    R"({"Slides":[{"Items":[{"Type":"ZQMediaAudio","resource":"a.mp3"}]}]})");
+        }
+        putFile(folder.filePath("lessons/3.json"), "{");
+        const QStringList call{"check", "lessons", "--out-dir", "out", "--report", "report.json", "--resume"};
+        for (const QString state : {"checked", "done before"}) {
+            QCOMPARE(runCommand(call, folder.path()).exitCode, 2);
+            const QJsonObject report = QJsonDocument::fromJson(fileContent(folder.filePath("report.json"))).object();
+            QCOMPARE(differences(report.value("counts").toObject(), {{state, 2}, {"failed", 1}, {"found", 2}}), QString());
+        }
+        const QJsonObject one = QJsonDocument::fromJson(fileContent(folder.filePath("out/2.json"))).object();
+        QCOMPARE(one.value("findings").toArray().at(0).toObject().value("key").toString(), "a.mp3"_s);
+        QVERIFY(QFile::remove(folder.filePath("lessons/3.json")));
+        QCOMPARE(runCommand(call, folder.path()).exitCode, 1);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHostInfo)

@@ -304,11 +304,11 @@ private slots:
         QCOMPARE(convert("in.json", "out").exitCode, 0);
         const CommandProcess::Outcome strict = convert("in.json", "out", {"--report", "report.json", "--strict"});
         QCOMPARE(strict.exitCode, 1);
-        QCOMPARE(strict.errors, "lessonconv: 1 value lost: ZQSmoothStroke.Mood on slide 1\n");
+        QCOMPARE(strict.errors, "lessonconv: Shown in the result, but not the same:\n  \"Mood\": 1 pen stroke on slide 1.\n");
 
         const QJsonObject found = QJsonDocument::fromJson(fileContent(path("report.json"))).object();
         QCOMPARE(found.value("losses").toInt(), 1);
-        const QJsonObject expected{{"kind", "value"}, {"slide", 1},    {"type", "ZQSmoothStroke"},
+        const QJsonObject expected{{"kind", "value"}, {"group", "different"}, {"slide", 1},    {"type", "ZQSmoothStroke"},
                                    {"id", "7"},       {"key", "Mood"}, {"detail", "cheerful"}};
         QCOMPARE(found.value("entries").toArray().first().toObject(), expected);
     }

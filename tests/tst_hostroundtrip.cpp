@@ -86,7 +86,30 @@ private slots:
     {
         QFETCH(QString, example);
         QTemporaryDir folder;
-        QCOMPARE(convert(example, folder.filePath("1.json")), QString());
+        const LossReport losses = convertedLesson(example, folder.filePath("1.json"));
+        for (const Loss &loss : losses.entries()) {
+            QCOMPARE(int(loss.kind), int(Loss::Absent)); // the points of ink, for which the form has no place
+            QVERIFY(loss.itemType.contains("Stroke") && loss.key == "XY");
+        }
+    }
+
+    // Whenever and wherever they are written.
+    void archivesAreTheSameEachTime()
+    {
+        QTemporaryDir folder;
+        const auto write = [&folder](const QString &name) {
+            QCOMPARE(runCommand({"convert", EXAMPLES_DIR "/quiz", name, "--quiet"}, folder.path(), [name] {
+                         qputenv("TZ", name.startsWith('1') ? "UTC" : "Asia/Shanghai");
+                     }).exitCode, 0);
+        };
+        for (const QString number : {"1", "2"}) {
+            write(number + ".zqtx");
+            write(number + ".iwb");
+            QTest::qSleep(number == "1" ? 2100 : 1); // archives count seconds by two
+        }
+        for (const QString ending : {".zqtx", ".iwb"}) {
+            QVERIFY(fileContent(folder.filePath("1" + ending)) == fileContent(folder.filePath("2" + ending)));
+        }
     }
 };
 

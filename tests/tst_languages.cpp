@@ -218,10 +218,11 @@ private slots:
         static const QRegularExpression code("[<>{}=;#$]|: *var|^[\\w/ :-]+: ?$|fonts-|[a-z]:[A-Z]|^[MLCZ] |%\\d\\) "
                                              "|^\"?(--| *lessonconv |INPUT)|render|^\\w+ drop$");
         // What these hold is written into files, or for shells.
-        static const QStringList withoutSentences{"completion.cpp", "plainnames.cpp", "namedboxes.cpp",
-                                                  "pagefiles.cpp"};
+        static const QStringList withoutSentences{"completion.cpp",  "countednames.cpp", "keynames.cpp",
+                                                  "plainnames.cpp", "namedboxes.cpp",   "pagefiles.cpp"};
         static const QStringList names{"Times New Roman", "Liberation Serif", "DejaVu Serif",    "Courier New",
-                                       "the document",    "the pages",        "not taken",       "convert report",
+                                       "the document",    "the pages",        "not taken",       "convert check report",
+                                       "convert check",
                                        "done before",     "with losses",      "Standard output", "standard input",
                                        "xMidYMid meet"};
         QStringList unmarked;

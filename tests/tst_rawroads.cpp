@@ -78,11 +78,11 @@ private slots:
             "<ZQImagePic Bound='80,40,5,6,10,10' TransformMatrix='1,0,0,abc,300,50'/>",
             "@Bound: 80,40,5,6,10,10, @TransformMatrix: 1,0,0,abc,300,50");
         row("colours that are none", "<ZQSmoothStroke Color='9,1,2,300' Opacity='300' Width='3[ ,]'/>",
-            "@Color: 9,1,2,300, @Opacity: 300");
+            "@Color: 9,1,2,300, @Opacity: 300, XY: the points are not in the file");
         row("a second list, and what is in a row of the first",
             "<ZQSmoothStroke><PixelDeleteInfos><P a='1'><Q b='2'/></P><P a='3'/></PixelDeleteInfos><PixelDeleteInfos>"
             "<P a='4'/></PixelDeleteInfos></ZQSmoothStroke>",
-            "PixelDeleteInfos/P/Q@b: 2, PixelDeleteInfos[2]/P@a: 4");
+            "PixelDeleteInfos/P/Q@b: 2, PixelDeleteInfos[2]/P@a: 4, XY: the points are not in the file");
         row("keys of other names", "<ZQMath2DNewArc StartAngle='30.5' SweepAngle='x' CenterPtX='5' LineWidth='3'/>",
             "@SweepAngle: x");
         row("control points",

@@ -215,14 +215,15 @@ private slots:
         QCOMPARE(html.count("id=\"slide"), 0);
         const int second = html.indexOf("<h2>", html.indexOf("<h2>") + 1);
         const QByteArray told[] = {html.left(second), html.mid(second)};
-        for (const char *words : {"class=\"losses\"><summary>Both look the same and work otherwise: 2",
-                                  "<details><summary>Both look the same. Missing or other values: 1"}) {
+        for (const char *words : {"class=\"losses\"><summary>Shown in the result the same, but it works otherwise: 2",
+                                  "<details><summary>Only internal, seen by nobody: 1"}) {
             QVERIFY2(told[0].contains(words), words);
         }
-        for (const char *words : {"Missing: Spotlight<", "Missing, and not shown in the first one: Text<",
-                                  "<details><summary>Both look the same. Missing or other values: 1",
-                                  "class=\"losses\"><summary>Missing or other values: 1",
-                                  "<li><b>Text</b> <small>5</small>: <span title=\"&lt;script"}) {
+        for (const char *words : {"Not shown in the result: 1 spotlight<",
+                                  "Missing, and not shown in the first one: 1 text<",
+                                  "<details><summary>Only internal, seen by nobody: 1",
+                                  "class=\"losses\"><summary>Shown in the result, but not the same: 1",
+                                  "<li><b>Text</b> <small>5</small>: <span title=\"Text: &lt;script"}) {
             QVERIFY2(told[1].contains(words), words);
         }
     }
@@ -336,7 +337,7 @@ private slots:
 
         const QString exported =
             runCommand({"convert", path("scripts.json"), path("scripts.iwb")}, {}, withoutFonts).errors;
-        QVERIFY2(exported.contains("fonts: 1 slide has Chinese") && exported.contains(cyrillic), qPrintable(exported));
+        QVERIFY2(exported.contains("Note: 1 slide has Chinese") && exported.contains(cyrillic), qPrintable(exported));
         putFile(path("foreign/content.xml"),
                 "<iwb><svg:svg viewbox='0 0 9 9'><svg:text x='1' y='9'>水</svg:text></svg:svg></iwb>");
         const QString read = runCommand({"convert", path("foreign"), path("foreign.json")}, {}, withoutFonts).errors;

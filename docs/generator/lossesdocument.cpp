@@ -3,6 +3,7 @@
 
 #include "formats/conversion.h"
 #include "itemfamilies.h"
+#include "lesson/keynames.h"
 #include "losses/lossreport.h"
 #include "sampleitems.h"
 #include "transformationplugin.h"
@@ -172,6 +173,32 @@ QString section(const QString &title, const Losses &losses)
                           : QLatin1String("| Family | Type | Lost |\n|---|---|---|\n") + rows + QLatin1Char('\n'));
 }
 
+// What teachers are told in the place of keys.
+QString plainNames()
+{
+    QVector<KeyPlaces> maps{keyMapsOfEveryItem(), keyMapsOfSubjects(), keyMapsOfSlide(), keyMapsOfPresentation()};
+    for (const TitledTypes &family : itemFamilies()) {
+        for (const QString &type : family.types) {
+            maps.append(keyMapsOfType(type));
+        }
+    }
+    QMap<QString, QStringList> keys[2]; // by name: what is seen, what isn't
+    for (const KeyPlaces &places : qAsConst(maps)) {
+        const QStringList all = places.keys();
+        for (const QString &key : all) {
+            appendOnce(keys[isInternalPlace(key)][plainKeyName(key).english()], key);
+        }
+    }
+    QString text;
+    for (const bool isInternal : {false, true}) {
+        for (auto it = keys[isInternal].begin(); it != keys[isInternal].end(); ++it) {
+            it->sort();
+            text += row(it.key(), codes(*it), isInternal ? QStringLiteral("nobody") : QString());
+        }
+    }
+    return QLatin1String("## Plain names\n\n| On the terminal | Keys | Seen by |\n|---|---|---|\n") + text;
+}
+
 const char *const introduction = R"(# What conversions can't carry
 
 Made by `cmake --build build --target documents`; changes by hand are lost, and a test fails where this file is behind the
@@ -180,6 +207,10 @@ code.
 Found by converting a lesson that has an item of every type, and in each item a value for every key of its tables
 (FORMATS.md). Places with `@` are those of XML. A lesson that lacks a key loses nothing by it: `lessonconv convert` names
 what a given lesson loses. IWB.md says in which form items go over, and LESSON-MODEL.md which losses depend on the values.
+
+On the terminal losses have plain names, and stand in the groups that matter for the lesson: what isn't shown, what is
+shown but not the same, and what nobody sees or hears. "Plain names" at the end tells which keys a name stands for.
+Reports (`--report`, `--json`) have the keys, and the group of each as `missing`, `different` or `internal`.
 
 )";
 
@@ -198,5 +229,6 @@ QString lossesDocument()
     text += section(QStringLiteral("IWB to JSON or ZQTX"), convert(in("lesson.iwb"), in("again.json")));
     text += section(QStringLiteral("Raw XML to JSON"), convert(in("lesson.xml"), in("raw.json")));
     text += section(QStringLiteral("Raw XML to ZQTX"), convert(in("lesson.xml"), in("raw.zqtx")));
+    text += plainNames();
     return text.trimmed() + QLatin1Char('\n');
 }

@@ -67,6 +67,14 @@ const BatchWork BatchWork::drawing{QStringLiteral("drawn"),
                                    TO_SAY("The drawing took longer than %1 s"),
                                    QStringLiteral("drawn"),
                                    {QStringLiteral("files"), namedKey, QStringLiteral("missingFonts"), notesKey}};
+const BatchWork BatchWork::checking{QStringLiteral("checked"),
+                                    TO_SAY_NUMBER("%n checked"),
+                                    TO_SAY_NUMBER("%n not checked"),
+                                    TO_SAY("Not checked:"),
+                                    TO_SAY_NUMBER("Not checked, of %n lessons the first %1:"),
+                                    TO_SAY("The check took longer than %1 s"),
+                                    QStringLiteral("check"),
+                                    {}};
 
 QString BatchTotals::stateName(State state, const BatchWork &work)
 {
@@ -136,10 +144,14 @@ void BatchTotals::add(const BatchTotals &other)
 BatchTotals BatchTotals::fromHead(const QJsonObject &head)
 {
     const QJsonObject counts = head.value(countsKey).toObject();
-    const bool isConversion = counts.contains(BatchWork::conversion.done);
-    BatchTotals totals(isConversion ? BatchWork::conversion : BatchWork::drawing);
-    if (!counts.contains(totals.work->done)) {
-        totals.work = nullptr;
+    BatchTotals totals(BatchWork::conversion);
+    totals.work = nullptr;
+    for (const BatchWork *work : {&BatchWork::conversion, &BatchWork::drawing, &BatchWork::checking}) {
+        if (counts.contains(work->done)) {
+            totals.work = work;
+        }
+    }
+    if (!totals.work) {
         return totals;
     }
     for (const State state : states) {
@@ -188,7 +200,10 @@ Sentence BatchTotals::summary(const Sentence &whoNames) const
         }
     }
     Sentences lines{sayNumber("%n lessons: %1.", lessons()).arg(listed(parts))};
-    if (m_lessonsWithLosses > 0) {
+    if (foundCount() > 0) {
+        lines.append(sayNumber("%n things are missing or wrong; %1 names each.", foundCount()).arg(whoNames));
+    }
+    if (m_lessonsWithLosses > 0 && work != &BatchWork::checking) {
         lines.append(sayNumber("%n lessons lost something, %1 in all; %2 names each.", m_lessonsWithLosses)
                          .arg(sayNumber("%n values, items or files", m_losses), whoNames));
     }
@@ -225,7 +240,9 @@ Sentence BatchTotals::shardSummary() const
 QJsonObject BatchTotals::toHead() const
 {
     QJsonObject counts;
-    if (work == &BatchWork::conversion) {
+    if (work == &BatchWork::checking) {
+        counts = {{foundKey, foundCount()}, {lossesKey, m_losses}};
+    } else if (work == &BatchWork::conversion) {
         counts = {{lossesKey, m_losses}, {withLossesKey, m_lessonsWithLosses}};
     } else {
         counts = {{namedKey, namedCount()}};

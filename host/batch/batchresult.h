@@ -36,6 +36,8 @@ struct BatchWork
     static const BatchWork conversion;
     //! Results are those of renderLesson().
     static const BatchWork drawing;
+    //! Results are those of LessonCheck.
+    static const BatchWork checking;
 };
 
 /*!
@@ -70,6 +72,8 @@ public:
 
     qint64 count(State state) const { return m_lessons.at(state); }
     qint64 lossCount() const { return m_losses; }
+    //! What is wrong in lessons that were checked.
+    qint64 foundCount() const { return kinds.count(QStringLiteral("found")); }
     //! Lessons of shards that aren't among the runs.
     qint64 notTaken() const { return qMax<qint64>(0, m_found - m_taken); }
     //! The number of all shards; 0 where there are none.

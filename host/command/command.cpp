@@ -6,6 +6,7 @@
 #include "batch/batchreport.h"
 #include "command/browser.h"
 #include "command/completion.h"
+#include "command/lessoncheck.h"
 #include "command/lessoninfo.h"
 #include "command/pluginhost.h"
 #include "command/progressbar.h"
@@ -18,6 +19,7 @@
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
+#include "losses/plainlosses.h"
 #include "render/rendering.h"
 #include "render/slideitempainter.h"
 
@@ -28,6 +30,7 @@
 #include <QJsonDocument>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
 
@@ -52,6 +55,7 @@ const char *const usageExamples = R"(
   lessonconv report reports/*.json --report all.json
   lessonconv render --diff lesson.zqtx lesson.iwb difference.html
   lessonconv info lesson.zqtx
+  lessonconv check lesson.zqtx
 
 )";
 
@@ -61,6 +65,7 @@ const char *const usageEnd = TO_SAY("The lesson that is read is never changed. W
 
 const char *const serveWord = "serve";
 const char *const servePicturesWord = "serve-pictures";
+const char *const serveChecksWord = "serve-checks";
 const char *const manyOption = "out-dir";
 
 // What stands before a purpose in the help.
@@ -174,12 +179,17 @@ const std::vector<Command::Word> &Command::words()
         {"show", nullptr, "INPUT", TO_SAY("opens a lesson in the browser"), 1, 1, &Command::always, &Command::show},
         {"info", nullptr, "INPUT", TO_SAY("page size, slides, items, missing files"), 1, 1, &Command::infoMeasuresText,
          &Command::info},
+        {"check", nullptr, "INPUT", TO_SAY("is it whole, and what would other formats lose"), 1, 1,
+         &Command::checkMeasuresText, &Command::check},
+        {"check", "out-dir", "INPUTS... --out-dir FOLDER", TO_SAY("checks many lessons, or all in a folder"), 1,
+         anyNumber, &Command::never, &Command::checkMany},
         {"formats", nullptr, "", TO_SAY("the formats and their file names"), 0, 0, &Command::never, &Command::formats},
         // For those who install the command.
         {"completion", nullptr, "SHELL", nullptr, 1, 1, &Command::never, &Command::completion},
-        // What worker processes of convertMany() and renderMany() do.
+        // What worker processes of convertMany(), renderMany() and checkMany() do.
         {serveWord, nullptr, "", nullptr, 0, 0, &Command::serveMeasuresText, &Command::serve},
         {servePicturesWord, nullptr, "", nullptr, 0, 0, &Command::always, &Command::servePictures},
+        {serveChecksWord, nullptr, "", nullptr, 0, 0, &Command::serveChecksMeasureText, &Command::serveChecks},
     };
     return words;
 }
@@ -230,6 +240,21 @@ bool Command::serveMeasuresText(const QStringList &) const
 {
     // What lessons will come isn't known.
     return !m_line.isSet("from") || inputFormat({}).measuresText || outputFormat({}).measuresText;
+}
+
+bool Command::checkMeasuresText(const QStringList &files) const
+{
+    const LessonFormat &from = inputFormat(files.first());
+    const auto tried = triedFormats(&from);
+    return from.measuresText
+        || std::any_of(tried.cbegin(), tried.cend(), [](const LessonFormat *format) { return format->measuresText; });
+}
+
+bool Command::serveChecksMeasureText(const QStringList &) const
+{
+    const auto tried = triedFormats(nullptr);
+    return !isSet("from") || inputFormat({}).measuresText
+        || std::any_of(tried.cbegin(), tried.cend(), [](const LessonFormat *format) { return format->measuresText; });
 }
 
 int Command::run()
@@ -423,6 +448,78 @@ int Command::info(const QStringList &files) const
     return Done;
 }
 
+// What a lesson would become. Its own format holds what the reader holds.
+QVector<const LessonFormat *> Command::triedFormats(const LessonFormat *from) const
+{
+    if (isSet("to")) {
+        const LessonFormat &to = lessonFormatByName(value("to"));
+        checkCanWrite(to, QString());
+        return {&to};
+    }
+    QVector<const LessonFormat *> tried;
+    for (const LessonFormat &format : lessonFormats()) {
+        if (!isSet("no-check") && format.canWrite() && !format.isModel && (!from || format.name != from->name)) {
+            tried.append(&format);
+        }
+    }
+    return tried;
+}
+
+LessonCheck Command::checked(const LessonFormat &from, const QString &input, const PluginHost &host,
+                             const Progress &progress) const
+{
+    return checkLesson(from, input, triedFormats(&from), conversionContext(host, nullptr), progress);
+}
+
+int Command::check(const QStringList &files) const
+{
+    const QString &input = files.first();
+    const LessonFormat &from = inputFormat(input);
+    tellName(input, from);
+    if (isSet("report")) {
+        InputGuard inputs;
+        inputs.addLesson(input, from.folderBeside);
+        checkReport(value("report"), inputs, {});
+    }
+    ReportFile report(isSet("report") ? value("report") : QString());
+    const PluginHost host(value("plugin"));
+    ProgressBar bar(!isSet("quiet"));
+    const LessonCheck check =
+        checked(from, inputFile(input), host, [&bar](int done, int total) { bar.show(done, total); });
+    bar.clear();
+    QJsonObject result = check.toJson();
+    result.insert(QStringLiteral("input"), input);
+    report.write(result);
+    if (isSet("json")) {
+        printJson(result);
+    } else if (!isSet("quiet") || !check.isWhole()) {
+        print(onLines(check.words(input)));
+    }
+    return check.isWhole() && !(isSet("strict") && check.lossCount() > 0) ? Done : DoneWithLosses;
+}
+
+int Command::checkMany(const QStringList &inputs) const
+{
+    const PluginHost host(value("plugin"));
+    triedFormats(nullptr); // whether what is asked for can be told
+    return runMany(inputs, QStringLiteral("json"), batchSettings(host, BatchWork::checking));
+}
+
+// The result of a lesson is also a file: what is there need not be checked again.
+int Command::serveChecks(const QStringList &) const
+{
+    const PluginHost host(value("plugin"));
+    serveBatch([&](const QString &input, const QString &output) -> BatchAnswer {
+        const QJsonObject result = checked(inputFormat(input), input, host, [](int, int) {}).toJson();
+        ReportFile file(output);
+        QJsonObject named = result;
+        named.insert(QStringLiteral("input"), input);
+        file.write(named);
+        return {result, {}};
+    });
+    return Done;
+}
+
 LessonContext Command::readingContext(const PluginHost &host) const
 {
     LessonContext context;
@@ -481,14 +578,16 @@ int Command::convertOne(const QStringList &files) const
         result.insert(QStringLiteral("to"), to.name);
         printJson(result);
     } else if (!losses.isEmpty() && !isSet("quiet")) {
-        complain(losses.summary());
+        complain(onLines(plainSummary(losses, isSet("report"))));
     }
     return isSet("strict") && losses.lossCount() > 0 ? DoneWithLosses : Done;
 }
 
 BatchSettings Command::batchSettings(const PluginHost &host, const BatchWork &work) const
 {
-    const bool isConversion = &work == &BatchWork::conversion;
+    const char *const serving = &work == &BatchWork::conversion ? serveWord
+        : &work == &BatchWork::drawing                           ? servePicturesWord
+                                                                 : serveChecksWord;
     BatchSettings settings;
     settings.work = &work;
     settings.outputFolder = QDir::cleanPath(value(manyOption));
@@ -497,7 +596,7 @@ BatchSettings Command::batchSettings(const PluginHost &host, const BatchWork &wo
     settings.resume = isSet("resume");
     settings.keepsOutputs = isSet("no-clobber");
     const QStringList arguments = m_line.resultArguments(m_line.words().first(), QLatin1String(manyOption));
-    settings.workerArguments = QStringList{QLatin1String(isConversion ? serveWord : servePicturesWord),
+    settings.workerArguments = QStringList{QLatin1String(serving),
                                            QStringLiteral("--plugin"), host.fileName()}
         + arguments;
     QCryptographicHash plugin(QCryptographicHash::Sha1);
@@ -581,7 +680,7 @@ int Command::exitCodeOf(const BatchTotals &totals) const
     if (totals.isInterrupted || totals.count(BatchTotals::Failed) > 0 || totals.count(BatchTotals::Open) > 0) {
         return NotDone;
     }
-    return isSet("strict") && totals.lossCount() > 0 ? DoneWithLosses : Done;
+    return totals.foundCount() > 0 || (isSet("strict") && totals.lossCount() > 0) ? DoneWithLosses : Done;
 }
 
 int Command::mergeMany(const QStringList &reports) const

@@ -3,6 +3,9 @@
 #define COMMAND_H
 
 #include "command/commandline.h"
+#include "lesson/lesson.h"
+
+#include <QVector>
 
 #include <memory>
 
@@ -10,7 +13,7 @@ namespace lessonhost {
 
 struct BatchSettings;
 struct BatchWork;
-struct LessonContext;
+struct LessonCheck;
 struct LessonFormat;
 struct PictureForm;
 struct RenderSettings;
@@ -64,6 +67,9 @@ private:
 
     int formats(const QStringList &files) const;
     int info(const QStringList &files) const;
+    int check(const QStringList &files) const;
+    int checkMany(const QStringList &inputs) const;
+    int serveChecks(const QStringList &files) const;
     int convertOne(const QStringList &files) const;
     int convertMany(const QStringList &inputs) const;
     int serve(const QStringList &files) const;
@@ -79,6 +85,8 @@ private:
     bool infoMeasuresText(const QStringList &files) const;
     bool convertMeasuresText(const QStringList &files) const;
     bool serveMeasuresText(const QStringList &files) const;
+    bool checkMeasuresText(const QStringList &files) const;
+    bool serveChecksMeasureText(const QStringList &files) const;
 
     //! The file to read for an input. Throws LessonError.
     QString inputFile(const QString &input) const;
@@ -88,6 +96,9 @@ private:
     const LessonFormat &outputFormat(const QString &output) const;
     LessonContext readingContext(const PluginHost &host) const;
     LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
+    LessonCheck checked(const LessonFormat &from, const QString &input, const PluginHost &host,
+                        const Progress &progress) const;
+    QVector<const LessonFormat *> triedFormats(const LessonFormat *from) const;
     const PictureForm &pictureForm(const QString &output) const;
     void checkIsTold(const QString &output) const;
     BatchSettings batchSettings(const PluginHost &host, const BatchWork &work) const;

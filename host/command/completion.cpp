@@ -58,7 +58,7 @@ QString choicesOf(const CommandOption &option, const QString &word = {})
         }
     }
     for (const PictureForm &form : pictureForms()) {
-        if (word != QLatin1String("convert") && isForPictures) {
+        if ((word.isEmpty() || word == QLatin1String("render")) && isForPictures) {
             names.append(form.name);
         }
     }

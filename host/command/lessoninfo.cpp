@@ -37,6 +37,27 @@ int nodeCount(const QJsonObject &node)
                            [](int sum, const QJsonValue &child) { return sum + nodeCount(child.toObject()); });
 }
 
+// visit: see eachNamedFile(). value: of a key that names files.
+void eachFileIn(const QJsonValue &value, const std::function<void(const QString &file)> &visit)
+{
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        for (const QJsonValue &element : array) {
+            eachFileIn(element, visit);
+        }
+        return;
+    }
+    const QStringList files = value.toString().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString &file : files) {
+        // Addresses, built-in pictures of the editor and places on another machine are no files of the package.
+        const bool isOwn = file.contains(QLatin1Char('.')) && problemWithPackagePath(file).isEmpty()
+            && !file.startsWith(QLatin1String("ID_SLIDE_"));
+        if (isOwn) {
+            visit(file);
+        }
+    }
+}
+
 class Counter
 {
 public:
@@ -94,41 +115,11 @@ private:
 
     void collectFiles(const QJsonValue &value)
     {
-        if (value.isArray()) {
-            const QJsonArray array = value.toArray();
-            for (const QJsonValue &element : array) {
-                collectFiles(element);
-            }
-            return;
-        }
-        const QJsonObject object = value.toObject();
-        for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
-            if (isOneOf(fileKeys, it.key())) {
-                collectFile(it.value());
-            } else if (it.key() != HostKeys::children && it.key() != activityKey && !it.value().isString()) {
-                collectFiles(it.value());
-            }
-        }
-    }
-
-    void collectFile(const QJsonValue &value)
-    {
-        if (value.isArray()) {
-            const QJsonArray array = value.toArray();
-            for (const QJsonValue &element : array) {
-                collectFile(element);
-            }
-            return;
-        }
-        const QStringList files = value.toString().split(QLatin1Char(','), Qt::SkipEmptyParts);
-        for (const QString &file : files) {
-            // Addresses, built-in pictures of the editor and places on another machine are no files of the package.
-            const bool isOwn = file.contains(QLatin1Char('.')) && problemWithPackagePath(file).isEmpty()
-                && !file.startsWith(QLatin1String("ID_SLIDE_"));
-            if (isOwn && !m_resources.contains(file)) {
+        eachNamedFile(value, [this](const QString &file) {
+            if (!m_resources.contains(file)) {
                 m_missing.insert(file);
             }
-        }
+        });
     }
 
     LessonInfo &m_info;
@@ -165,7 +156,7 @@ QString itemLines(const QMap<QString, int> &counts)
     }
     QString text;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        text += QStringLiteral("%1  %2  %3\n").arg(it.value(), 6).arg(it.key(), -width).arg(plainName(it.key()));
+        text += QStringLiteral("%1  %2  %3\n").arg(it.value(), 6).arg(it.key(), -width).arg(saidName(it.key()).local());
     }
     return text;
 }
@@ -180,6 +171,25 @@ QJsonObject countObject(const QMap<QString, int> &counts)
 }
 
 } // namespace
+
+void eachNamedFile(const QJsonValue &value, const std::function<void(const QString &file)> &visit)
+{
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        for (const QJsonValue &element : array) {
+            eachNamedFile(element, visit);
+        }
+        return;
+    }
+    const QJsonObject object = value.toObject();
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        if (isOneOf(fileKeys, it.key())) {
+            eachFileIn(it.value(), visit);
+        } else if (it.key() != HostKeys::children && it.key() != activityKey && !it.value().isString()) {
+            eachNamedFile(it.value(), visit);
+        }
+    }
+}
 
 int LessonInfo::itemCount() const
 {

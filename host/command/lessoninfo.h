@@ -6,6 +6,8 @@
 
 #include <QMap>
 
+#include <functional>
+
 namespace lessonhost {
 
 /*!
@@ -34,6 +36,10 @@ struct LessonInfo
     QString toText() const;
     QJsonObject toJson() const;
 };
+
+//! Calls visit for each file of the package that the properties of a slide or an item name, without those of the items
+//! in it and of games.
+void eachNamedFile(const QJsonValue &value, const std::function<void(const QString &file)> &visit);
 
 //! Throws LessonError.
 LessonInfo lessonInfo(LessonReader &reader, const Progress &progress);

@@ -281,6 +281,7 @@ LessonFormat jsonFormat()
     format.name = QStringLiteral("json");
     format.extensions = QStringList{QStringLiteral("json")};
     format.description = say("the lesson model in one file, with the files that belong to it inside");
+    format.isModel = true;
     format.holds = [](const LessonContent &content) { return content.isJson; };
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<JsonReader>(path, context);

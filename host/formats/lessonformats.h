@@ -26,6 +26,7 @@ struct LessonFormat
     std::function<bool(const QString &path)> recognizes;
     //! True for what a file in this format holds.
     std::function<bool(const LessonContent &content)> holds;
+    bool isModel = false; //!< it holds all that a reader holds
     bool takesPictures = false; //!< of items that it has no form for
     bool isCommonEnding = false; //!< files with such a name often are no lessons
     bool measuresText = false; //!< to read or write it takes a QGuiApplication, for its fonts

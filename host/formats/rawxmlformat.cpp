@@ -165,6 +165,7 @@ public:
         for (const QDomElement &item : items) {
             slide.items.append(readItem(item, itemContext, check));
         }
+        tellInkWithoutPoints(slide.items, losses);
         checkSlideItems(slide.items, index + 1, m_path);
         return slide;
     }
@@ -277,6 +278,18 @@ private:
         const QDomElement child = group.firstChildElement(tag);
         if (!child.hasAttributes() && !child.hasChildNodes()) {
             group.removeChild(child);
+        }
+    }
+
+    // The form has no place for them.
+    static void tellInkWithoutPoints(const QJsonArray &items, const SlideLosses &losses)
+    {
+        for (const QJsonValue &value : items) {
+            const QJsonObject item = value.toObject();
+            if (isInk(item.value(ItemKeys::type).toString()) && valueText(item.value(ItemKeys::steps)).isEmpty()) {
+                losses.absent(item, ItemKeys::steps, say("the points are not in the file"));
+            }
+            tellInkWithoutPoints(item.value(HostKeys::children).toArray(), losses);
         }
     }
 

@@ -312,7 +312,9 @@ public:
 
     void addResource(const QString &relativePath, const QString &sourceFile) override
     {
-        m_target.copy(relativePath, sourceFile, relativePath);
+        if (!m_context.isTrial) {
+            m_target.copy(relativePath, sourceFile, relativePath);
+        }
     }
 
     void writeSlide(const LessonSlide &slide) override
@@ -326,7 +328,9 @@ public:
         const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
         const QByteArray text = m_slides->write(written, number, name);
         checkSlideSize(text.size(), number, name);
-        m_target.write(slideFile(id), text);
+        if (!m_context.isTrial) {
+            m_target.write(slideFile(id), text);
+        }
         m_ids.append(id);
         m_usedIds.insert(id);
         if (m_context.verify && m_losses.presentation().isHeard()) {
@@ -345,7 +349,9 @@ public:
     void finish() override
     {
         const QByteArray text = xmlDocumentText(writeIndex(m_context.plugin, m_presentation, m_ids).documentElement());
-        m_target.write(indexFile, text);
+        if (!m_context.isTrial) {
+            m_target.write(indexFile, text);
+        }
         if (m_context.verify && m_losses.presentation().isHeard()) {
             const QString name = m_target.target() + QLatin1Char('/') + indexFile;
             Comparison(m_losses.presentation())
@@ -353,7 +359,9 @@ public:
                                    readIndex(m_context.plugin, loadXml(text, name).documentElement(), name));
         }
         notePlacedItems();
-        m_target.commit();
+        if (!m_context.isTrial) {
+            m_target.commit();
+        }
     }
 
 private:

@@ -174,7 +174,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
 {
     const QVector<QJsonObject> children = ItemView(item).looseChildren();
     if (!children.isEmpty()) {
-        losses.item(given, say("taken apart, its items stand on the page by themselves"));
+        losses.takenApart(given);
         const QVector<QJsonObject> own = ItemView(given).childObjects();
         for (int i = 0; i < children.size(); ++i) {
             addItem(page, own.at(i), children.at(i), losses, written);
@@ -186,7 +186,9 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
     if (element.isNull() && m_painter) {
         element = pictureOf(item, row.id);
         row.isPicture = !element.isNull();
-        row.isPicture ? losses.picture(given) : losses.item(given, m_items.whyNot());
+        const bool isHidden = m_items.whyNot().isEmpty() && !ItemView(item).isVisible();
+        row.isPicture ? losses.picture(given)
+                      : losses.item(given, isHidden ? say("it is hidden") : m_items.whyNot());
     }
     if (m_painter && element.tagName() == QLatin1String("svg:a") && element.firstChildElement().isNull()) {
         addSign(element, item);

@@ -39,7 +39,9 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     for (const Sentence &remark : m_package.remarks()) {
         losses.note({QStringLiteral("presentation"), {}}, remark);
     }
-    for (const SvgRemark &remark : outline.remarks()) {
+    // Where the lesson itself has come along and nobody has changed the pages, they aren't what is read.
+    const bool isRestored = m_native.isThere() && m_native.isUntouched();
+    for (const SvgRemark &remark : isRestored ? QVector<SvgRemark>() : outline.remarks()) {
         const LossOwner owner(remark.tag, remark.id);
         remark.isLoss ? losses.value(owner, {}, remark.text) : losses.note(owner, remark.text);
     }
@@ -137,6 +139,9 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
         slide.properties.insert(SlideKeys::id, m_slideIds.at(index));
     }
     checkSlideItems(slide.items, index + 1, m_package.displayName());
+    if (slide.items.isEmpty() && losses.hasItem()) {
+        losses.emptied({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()});
+    }
     return slide;
 }
 

@@ -13,6 +13,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace lessonhost {
 
 namespace {
@@ -60,6 +62,7 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isIwbFolder)
     , m_pages(itemSetting(context, &m_media))
     , m_dress(!context.options.contains(QStringLiteral("plain")))
+    , m_travels(!context.options.contains(QStringLiteral("plain")))
 {
     m_losses.setFormat(QStringLiteral("IWB"));
     m_target.setKept(context.isKept);
@@ -67,9 +70,11 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     if (context.verify && m_losses.presentation().isHeard()) {
         m_check = std::make_unique<IwbPageCheck>(context.plugin, m_media);
     }
-    if (!context.options.contains(QStringLiteral("plain"))) {
-        m_native = std::make_unique<NativePartWriter>(m_target);
+    if (m_travels) {
         m_pages.setUniqueInDocument();
+    }
+    if (m_travels && !context.isTrial) {
+        m_native = std::make_unique<NativePartWriter>(m_target);
     }
 }
 
@@ -92,12 +97,16 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
     ++m_slides;
     checkPagePoints(slide.items, m_slides, m_target.target());
     const SlideLosses told = m_losses.slide(m_slides);
-    const SlideLosses losses = m_native ? told.elsewhere() : told;
+    const SlideLosses losses = m_travels ? told.elsewhere() : told;
     QDomElement page = m_pages.addPage(slide.properties, m_slides, losses);
     if (page.isNull()) {
         failWithoutPages();
     }
     const QVector<IwbPageWriter::WrittenItem> items = m_pages.addItems(page, slide.items, losses);
+    const auto isLeftOut = [](const IwbPageWriter::WrittenItem &item) { return item.id.isEmpty(); };
+    if (!items.isEmpty() && std::all_of(items.cbegin(), items.cend(), isLeftOut)) {
+        losses.emptied({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()});
+    }
     m_dress.dress(page, inkOf(items));
     if (m_check) {
         m_check->compare(m_pages.document(), slide, items, m_slides, losses);
@@ -125,7 +134,7 @@ void IwbWriter::start(const QJsonObject &firstSlide)
     BoardDress::startDocument(m_pages.document(), m_presentation);
     if (m_check) {
         const SlideLosses losses = m_losses.presentation();
-        m_check->comparePresentation(m_pages.document(), m_presentation, m_native ? losses.elsewhere() : losses);
+        m_check->comparePresentation(m_pages.document(), m_presentation, m_travels ? losses.elsewhere() : losses);
     }
 }
 
@@ -143,7 +152,9 @@ void IwbWriter::startPages()
     const int place = text.indexOf(marked);
     m_contentSize = text.size();
     m_contentHash.addData(text.left(place));
-    m_target.write(contentFile, text.left(place));
+    if (!m_context.isTrial) {
+        m_target.write(contentFile, text.left(place));
+    }
     m_afterPages = text.mid(place + marked.size());
 }
 
@@ -172,6 +183,9 @@ void IwbWriter::append(const QByteArray &text)
 {
     m_contentSize += text.size();
     checkXmlSize(m_contentSize, m_target.target());
+    if (m_context.isTrial) {
+        return;
+    }
     m_contentHash.addData(text);
     m_target.append(contentFile, text);
 }
@@ -179,6 +193,9 @@ void IwbWriter::append(const QByteArray &text)
 void IwbWriter::storeMedia()
 {
     m_media.storeNew([this](const QString &reference, const IwbMedia::File &file) {
+        if (m_context.isTrial) {
+            return;
+        }
         if (!file.isConverted) {
             m_target.copy(reference, file.source, reference);
             return;
@@ -221,6 +238,14 @@ void IwbWriter::finish()
     for (const Sentence &sentence : missing) {
         losses.note(QStringLiteral("fonts"), sentence);
     }
+    const QStringList unused = m_media.unused();
+    if (!m_travels && !unused.isEmpty()) {
+        losses.note(QStringLiteral("files"),
+                    say("no page shows them, so they stay behind: %1").arg(listed(unused)));
+    }
+    if (m_context.isTrial) {
+        return;
+    }
     const QImage thumbnail = m_context.painter ? m_context.painter->thumbnail(thumbnailWidth) : QImage();
     if (!thumbnail.isNull()) {
         const auto output = m_target.newFile(QLatin1String(thumbnailFile));
@@ -229,10 +254,6 @@ void IwbWriter::finish()
     }
     if (m_native) {
         m_native->finish(m_presentation, m_pages.pageSize(), m_media, m_contentHash.result());
-    }
-    const QStringList unused = m_media.unused();
-    if (!m_native && !unused.isEmpty()) {
-        losses.note(QStringLiteral("files"), say("no page shows them, so they stay behind: %1").arg(listed(unused)));
     }
     m_target.commit();
 }

@@ -46,7 +46,8 @@ private:
     IwbMedia m_media;
     IwbPageWriter m_pages;
     BoardDress m_dress;
-    std::unique_ptr<NativePartWriter> m_native; // null where the lesson doesn't travel along
+    bool m_travels; // whether the lesson itself goes along
+    std::unique_ptr<NativePartWriter> m_native; // null where it doesn't, or nothing is written
     std::unique_ptr<IwbPageCheck> m_check; // null where nobody asks for one
     QJsonObject m_presentation;
     QByteArray m_records; // about the items of the pages that are written; they stand behind all pages

@@ -2,6 +2,8 @@
 #ifndef PLAINNAMES_H
 #define PLAINNAMES_H
 
+#include "files/sentence.h"
+
 #include <QString>
 
 namespace lessonhost {
@@ -9,6 +11,9 @@ namespace lessonhost {
 //! What a teacher calls an item type: "ZQPhysicsKaiGuan1" is "Switch". A type that nobody named is told by the words in
 //! its name: "ZQPhysicsNewPart2" is "Physics: New Part 2".
 QString plainName(const QString &itemType);
+
+//! The same for who reads what the command says.
+Sentence saidName(const QString &itemType);
 
 } // namespace lessonhost
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "losses/lossreport.h"
 
+#include "lesson/keynames.h"
+
 #include <QHash>
 #include <QJsonArray>
 #include <QMap>
@@ -17,6 +19,21 @@ namespace {
 
 // Longer lists are cut in the summary; the JSON has every entry.
 constexpr int maximumNamed = 20;
+
+QLatin1String groupName(Loss::Group group)
+{
+    switch (group) {
+    case Loss::Missing:
+        return QLatin1String("missing");
+    case Loss::Different:
+        return QLatin1String("different");
+    case Loss::Internal:
+        return QLatin1String("internal");
+    case Loss::Told:
+        break;
+    }
+    return QLatin1String("told");
+}
 
 // Deep in a tree, the two ends of the way tell enough.
 QString shortened(const QString &key)
@@ -152,6 +169,9 @@ Sentence listedOf(Loss::Kind kind, const QVector<Loss> &losses)
     case Loss::Value:
     case Loss::File:
     case Loss::Otherwise:
+    case Loss::Absent:
+    case Loss::Emptied:
+    case Loss::EmptiedElsewhere:
         return listed(losses);
     case Loss::Item:
     case Loss::Kept:
@@ -191,6 +211,12 @@ QLatin1String lossKindName(Loss::Kind kind)
         return QLatin1String("notShown");
     case Loss::Otherwise:
         return QLatin1String("otherwise");
+    case Loss::Absent:
+        return QLatin1String("absent");
+    case Loss::Emptied:
+        return QLatin1String("emptied");
+    case Loss::EmptiedElsewhere:
+        return QLatin1String("emptiedElsewhere");
     case Loss::Note:
         break;
     }
@@ -199,8 +225,9 @@ QLatin1String lossKindName(Loss::Kind kind)
 
 const QVector<Loss::Kind> &lossKinds()
 {
-    static const QVector<Loss::Kind> kinds{Loss::Value,    Loss::Item,      Loss::File, Loss::AsPicture,
-                                           Loss::NotShown, Loss::Otherwise, Loss::Kept, Loss::Note};
+    static const QVector<Loss::Kind> kinds{
+        Loss::Value,    Loss::Item,      Loss::File,             Loss::Emptied, Loss::Absent, Loss::AsPicture,
+        Loss::NotShown, Loss::Otherwise, Loss::EmptiedElsewhere, Loss::Kept,    Loss::Note};
     return kinds;
 }
 
@@ -230,6 +257,12 @@ Sentence lossLine(Loss::Kind kind, qint64 count, const Sentence &listed, const Q
         return sayNumber("%n items aren't shown by other boards: %1", count).arg(listed);
     case Loss::Otherwise:
         return sayNumber("%n values are otherwise on other boards: %1", count).arg(listed);
+    case Loss::Absent:
+        return sayNumber("%n values aren't in the lesson: %1", count).arg(listed);
+    case Loss::Emptied:
+        return sayNumber("%n slides are empty in the result: %1", count).arg(listed);
+    case Loss::EmptiedElsewhere:
+        return sayNumber("%n slides are empty on other boards: %1", count).arg(listed);
     case Loss::Note:
         break;
     }
@@ -241,11 +274,40 @@ bool isLoss(Loss::Kind kind)
     return kind == Loss::Value || kind == Loss::Item || kind == Loss::File;
 }
 
+bool isElsewhere(Loss::Kind kind)
+{
+    return kind == Loss::AsPicture || kind == Loss::NotShown || kind == Loss::Otherwise
+        || kind == Loss::EmptiedElsewhere;
+}
+
+Loss::Group groupOf(const Loss &loss)
+{
+    switch (loss.kind) {
+    case Loss::Value:
+    case Loss::Otherwise:
+        return isInternalPlace(loss.key) ? Loss::Internal : Loss::Different;
+    case Loss::Item:
+    case Loss::NotShown:
+        return loss.isShown ? Loss::Different : Loss::Missing;
+    case Loss::AsPicture:
+        return Loss::Different;
+    case Loss::File:
+    case Loss::Absent:
+    case Loss::Emptied:
+    case Loss::EmptiedElsewhere:
+        return Loss::Missing;
+    case Loss::Kept:
+    case Loss::Note:
+        break;
+    }
+    return Loss::Told;
+}
+
 void LossReport::add(const Loss &loss)
 {
     // The entries of a large lesson differ in little but their places.
     m_entries.append(
-        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail)});
+        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail), loss.isShown});
     if (isLoss(loss.kind)) {
         ++m_lossCount;
     }
@@ -282,7 +344,9 @@ QJsonObject LossReport::toJson() const
     QMap<QString, QMap<QString, int>> kinds;
     for (const Loss &loss : m_entries) {
         ++kinds[lossKindName(loss.kind)][countedName(loss)];
-        QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)}, {QStringLiteral("type"), loss.itemType}};
+        QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)},
+                          {QStringLiteral("group"), groupName(groupOf(loss))},
+                          {QStringLiteral("type"), loss.itemType}};
         if (loss.slide > 0) {
             entry.insert(QStringLiteral("slide"), loss.slide);
         }

@@ -26,6 +26,17 @@ struct Loss
         AsPicture, //!< an item that other boards show as a picture; it travels along and comes back, so no loss
         NotShown, //!< an item that other boards don't show; it travels along and comes back, so no loss
         Otherwise, //!< a value that other boards show otherwise; it travels along, too
+        Absent, //!< something that the lesson itself hasn't, so that the item shows nothing: named, but no loss
+        Emptied, //!< a slide with items none of which is in the result; they count, the slide doesn't
+        EmptiedElsewhere, //!< a slide of which other boards show no item
+    };
+
+    //! What it means for the lesson.
+    enum Group {
+        Missing, //!< something isn't shown at all
+        Different, //!< it is shown, and not the same
+        Internal, //!< nobody sees or hears it
+        Told, //!< nothing is lost
     };
 
     Kind kind = Value;
@@ -34,10 +45,16 @@ struct Loss
     QString itemId;
     QString key; //!< JSON key, XML attribute or file
     Sentence detail; //!< what it was, or why; may be empty
+    bool isShown = false; //!< of an item that isn't there: there is something in its place
 };
 
 //! False for what is only named.
 bool isLoss(Loss::Kind kind);
+
+Loss::Group groupOf(const Loss &loss);
+
+//! Whether it is so for other boards alone, to which the lesson goes with all that they don't show.
+bool isElsewhere(Loss::Kind kind);
 
 //! What reports call it.
 QLatin1String lossKindName(Loss::Kind kind);
@@ -71,7 +88,7 @@ public:
     Sentence summary() const;
 
     //! {"losses": number, "summary": lines, "kinds": {"value": {"ZQChalkStroke.Weight": number, ...}, ...},
-    //! "entries": [{"kind", "slide", "type", "id", "key", "detail"}, ...]}
+    //! "entries": [{"kind", "group", "slide", "type", "id", "key", "detail"}, ...]}
     QJsonObject toJson() const;
 
 private:

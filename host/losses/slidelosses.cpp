@@ -41,7 +41,24 @@ void SlideLosses::item(const LossOwner &owner, const Sentence &why) const
 
 void SlideLosses::picture(const LossOwner &owner) const
 {
-    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {}) : item(owner, say("it became a picture"));
+    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {})
+                  : add(Loss::Item, owner, {}, say("it became a picture"), true);
+}
+
+void SlideLosses::takenApart(const LossOwner &owner) const
+{
+    add(m_isElsewhere ? Loss::NotShown : Loss::Item, owner, {},
+        say("taken apart, its items stand on the page by themselves"), true);
+}
+
+void SlideLosses::emptied(const LossOwner &owner) const
+{
+    add(m_isElsewhere ? Loss::EmptiedElsewhere : Loss::Emptied, owner, {}, {});
+}
+
+void SlideLosses::absent(const LossOwner &owner, const QString &key, const Sentence &what) const
+{
+    add(Loss::Absent, owner, key, what);
 }
 
 void SlideLosses::kept(const LossOwner &owner) const
@@ -69,10 +86,19 @@ bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) cons
            });
 }
 
-void SlideLosses::add(int kind, const LossOwner &owner, const QString &key, const Sentence &detail) const
+bool SlideLosses::hasItem() const
+{
+    return m_report
+        && std::any_of(m_report->entries().cbegin() + m_first, m_report->entries().cend(), [this](const Loss &loss) {
+               const bool isElement = loss.kind == Loss::Value && loss.key.isEmpty();
+               return (loss.kind == Loss::Item || isElement) && loss.slide == m_slide;
+           });
+}
+
+void SlideLosses::add(int kind, const LossOwner &owner, const QString &key, const Sentence &detail, bool isShown) const
 {
     if (m_report) {
-        m_report->add({Loss::Kind(kind), m_slide, owner.type, owner.id, key, detail});
+        m_report->add({Loss::Kind(kind), m_slide, owner.type, owner.id, key, detail, isShown});
     }
 }
 

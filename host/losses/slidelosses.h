@@ -52,6 +52,12 @@ public:
     void item(const LossOwner &owner, const Sentence &why = {}) const;
     //! An item that became a picture.
     void picture(const LossOwner &owner) const;
+    //! A container whose items stand by themselves.
+    void takenApart(const LossOwner &owner) const;
+    //! A slide with items, none of which is there.
+    void emptied(const LossOwner &owner) const;
+    //! What the lesson itself hasn't, so that an item shows nothing.
+    void absent(const LossOwner &owner, const QString &key, const Sentence &what) const;
     //! An item that nobody can convert and that goes over as it came.
     void kept(const LossOwner &owner) const;
     //! A file that isn't there or can't be taken.
@@ -61,9 +67,11 @@ public:
 
     //! True if that file of the owner was told through this object or a copy of it.
     bool hasFile(const LossOwner &owner, const QString &reference) const;
+    //! True if any item or element that isn't there was told through this object or a copy of it.
+    bool hasItem() const;
 
 private:
-    void add(int kind, const LossOwner &owner, const QString &key, const Sentence &detail) const;
+    void add(int kind, const LossOwner &owner, const QString &key, const Sentence &detail, bool isShown = false) const;
 
     LossReport *m_report = nullptr;
     int m_slide = 0;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "render/slidedifference.h"
 
+#include "lesson/countednames.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
+#include "lesson/keynames.h"
 #include "lesson/plainnames.h"
 #include "losses/comparison.h"
 #include "losses/lossreport.h"
+#include "losses/plainlosses.h"
 #include "render/slidenotice.h"
 
 #include <QHash>
@@ -97,47 +100,84 @@ private:
     Comparison m_comparison;
 };
 
-// "Circle, 3 Arrow", in the order of the slide.
-QString countedNames(const QStringList &names)
+// "2 circles, 1 arrow", in the order of the slide.
+Sentence countedNames(const QStringList &types)
 {
-    QStringList parts;
+    Sentences parts;
     QStringList seen;
-    for (const QString &name : names) {
-        if (!seen.contains(name)) {
-            seen.append(name);
-            const int count = names.count(name);
-            parts.append(count > 1 ? QString(QString::number(count) + QLatin1Char(' ') + name) : name);
+    for (const QString &type : types) {
+        if (!seen.contains(type)) {
+            seen.append(type);
+            parts.append(countedName(type, types.count(type)));
         }
     }
-    return parts.join(QLatin1String(", "));
+    return listed(parts);
 }
+
+/*!
+ * A line of a list: the values of an item or the slide, by their plain names.
+ */
+class ValueLine
+{
+public:
+    explicit ValueLine(const Loss &loss)
+        : m_type(loss.itemType)
+        , m_id(loss.itemId)
+    {
+    }
+
+    bool isOf(const Loss &loss) const { return loss.itemType == m_type && loss.itemId == m_id; }
+
+    void add(const Loss &loss)
+    {
+        const QString name = plainPlaceName(loss.key).local();
+        if (!m_names.contains(name)) {
+            m_names.append(name);
+        }
+        // What the value was is there for who points at its name.
+        m_details[name] += loss.key.left(200) + QLatin1String(": ") + loss.detail.local() + QLatin1Char('\n');
+    }
+
+    QString html() const
+    {
+        QStringList parts;
+        for (const QString &name : m_names) {
+            parts.append(QStringLiteral("<span title=\"%2\">%1</span>")
+                             .arg(name.toHtmlEscaped(), m_details.value(name).trimmed().toHtmlEscaped()));
+        }
+        const Sentence owner = m_type == QLatin1String("slide") ? say("Slide") : saidName(m_type);
+        return QStringLiteral("<li><b>%1</b> <small>%2</small>: %3</li>\n")
+            .arg(owner.local().toHtmlEscaped(), m_id.left(60).toHtmlEscaped(), parts.join(QLatin1String(", ")));
+    }
+
+private:
+    QString m_type;
+    QString m_id;
+    QStringList m_names;
+    QHash<QString, QString> m_details; // by name
+};
 
 // The values of items and the slide, an item a line.
 QString rowsOf(const QVector<Loss> &losses)
 {
-    QString rows;
-    QString item; // whose keys the last row holds
+    QVector<ValueLine> lines;
     for (const Loss &loss : losses) {
-        const QString name = loss.itemType == QLatin1String("slide") ? say("Slide").local() : plainName(loss.itemType);
-        const QString owner = loss.itemType + QLatin1Char(' ') + loss.itemId;
-        if (owner != item) {
-            rows += (rows.isEmpty() ? QString() : QStringLiteral("</li>\n"))
-                + QStringLiteral("<li><b>%1</b> <small>%2</small>: ")
-                      .arg(name.toHtmlEscaped(), loss.itemId.left(60).toHtmlEscaped());
-        } else {
-            rows += QLatin1String(", ");
+        if (lines.isEmpty() || !lines.last().isOf(loss)) {
+            lines.append(ValueLine(loss));
         }
-        item = owner;
-        rows += QStringLiteral("<span title=\"%2\">%1</span>")
-                    .arg(loss.key.left(200).toHtmlEscaped(), loss.detail.local().toHtmlEscaped());
+        lines.last().add(loss);
     }
-    return rows.isEmpty() ? rows : QString(rows + QLatin1String("</li>"));
+    QString rows;
+    for (const ValueLine &line : qAsConst(lines)) {
+        rows += line.html();
+    }
+    return rows;
 }
 
 // What is lost, by what people notice of it.
 struct NoticedLosses
 {
-    QStringList items; // which aren't there
+    QStringList items; // the types of those that aren't there
     QVector<Loss> values;
 };
 
@@ -145,16 +185,18 @@ void addHtml(const NoticedLosses &losses, Notice notice, QString &html)
 {
     const QString mark = notice == Notice::Nothing ? QString() : QStringLiteral(" class=\"losses\"");
     if (!losses.items.isEmpty()) {
-        const Sentence text =
-            notice == Notice::Nothing ? say("Missing, and not shown in the first one: %1") : say("Missing: %1");
-        html += QStringLiteral("<p%1>%2</p>\n").arg(mark, text.arg(countedNames(losses.items)).local().toHtmlEscaped());
+        const Sentence names = countedNames(losses.items);
+        const Sentence text = notice == Notice::Nothing ? say("Missing, and not shown in the first one: %1").arg(names)
+                                                        : say("%1: %2").arg(groupTitle(Loss::Missing), names);
+        html += QStringLiteral("<p%1>%2</p>\n").arg(mark, text.local().toHtmlEscaped());
     }
     if (!losses.values.isEmpty()) {
-        const Sentence title = notice == Notice::Look ? say("Missing or other values: %1")
-            : notice == Notice::Deed                  ? say("Both look the same and work otherwise: %1")
-                                                      : say("Both look the same. Missing or other values: %1");
+        const Sentence title = notice == Notice::Look ? groupTitle(Loss::Different)
+            : notice == Notice::Deed                  ? say("Shown in the result the same, but it works otherwise")
+                                                      : groupTitle(Loss::Internal);
         html += QStringLiteral("<details%1><summary>%2</summary>\n<ul>%3</ul></details>\n")
-                    .arg(mark, title.arg(losses.values.size()).local(), rowsOf(losses.values));
+                    .arg(mark, say("%1: %2").arg(title, losses.values.size()).local().toHtmlEscaped(),
+                         rowsOf(losses.values));
     }
 }
 
@@ -172,7 +214,7 @@ QByteArray slideDifference(const LessonSlide &given, const SlideNotice &givenNot
         const Notice notice =
             isSlide ? givenNotice.ofSlide(foundNotice) : givenNotice.ofItems(items.within(loss.itemId), foundNotice);
         if (loss.kind == Loss::Item) {
-            noticed[notice].items.append(plainName(loss.itemType));
+            noticed[notice].items.append(loss.itemType);
         } else {
             noticed[notice].values.append(loss);
         }
@@ -181,6 +223,10 @@ QByteArray slideDifference(const LessonSlide &given, const SlideNotice &givenNot
         return "<p class=\"none\">" + say("Nothing is lost.").local().toUtf8() + "</p>\n";
     }
     QString html;
+    if (found.items.isEmpty() && !given.items.isEmpty()) {
+        html += QStringLiteral("<p class=\"losses\">%1</p>\n")
+                    .arg(say("Slide %1 is empty in the result.").arg(slide).local().toHtmlEscaped());
+    }
     for (const Notice notice : {Notice::Look, Notice::Deed, Notice::Nothing}) {
         addHtml(noticed.value(notice), notice, html);
     }

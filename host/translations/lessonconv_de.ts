@@ -431,10 +431,6 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <translation>Das Format der Eingabe, wo ihr Name es nicht sagt.</translation>
     </message>
     <message>
-        <source>The format of the output, where its name doesn&apos;t tell.</source>
-        <translation>Das Format der Ausgabe, wo ihr Name es nicht sagt.</translation>
-    </message>
-    <message>
         <source>Many: the folder for the results.</source>
         <translation>Viele: der Ordner für die Ergebnisse.</translation>
     </message>
@@ -2127,10 +2123,6 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <translation>Nichts ging verloren.</translation>
     </message>
     <message>
-        <source>Missing: %1</source>
-        <translation>Es fehlen: %1</translation>
-    </message>
-    <message>
         <source>A picture of slide %1 would have %2 x %3 pixels, which are more than %4 million</source>
         <translation>Ein Bild von Folie %1 hätte %2 x %3 Pixel, also mehr als %4 Millionen</translation>
     </message>
@@ -2401,18 +2393,6 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <translation>Es fehlen, auch in der ersten nicht zu sehen: %1</translation>
     </message>
     <message>
-        <source>Missing or other values: %1</source>
-        <translation>Fehlende oder andere Werte: %1</translation>
-    </message>
-    <message>
-        <source>Both look the same and work otherwise: %1</source>
-        <translation>Beide sehen gleich aus und verhalten sich anders: %1</translation>
-    </message>
-    <message>
-        <source>Both look the same. Missing or other values: %1</source>
-        <translation>Beide sehen gleich aus. Fehlende oder andere Werte: %1</translation>
-    </message>
-    <message>
         <source>the link to &quot;%1&quot; leads to the page of it</source>
         <translation>die Verknüpfung mit „%1“ führt auf die Seite davon</translation>
     </message>
@@ -2678,6 +2658,3732 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
     <message>
         <source>Slide %1 has lines of %2 points, and no page of IWB may have more than %3</source>
         <translation>Folie %1 hat Linien aus %2 Punkten, und keine Seite von IWB darf mehr als %3 haben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n checked</source>
+        <translation>
+            <numerusform>%n geprüft</numerusform>
+            <numerusform>%n geprüft</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not checked</source>
+        <translation>
+            <numerusform>%n nicht geprüft</numerusform>
+            <numerusform>%n nicht geprüft</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not checked:</source>
+        <translation>Nicht geprüft:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Not checked, of %n lessons the first %1:</source>
+        <translation>
+            <numerusform>Nicht geprüft, von %n Lektion die ersten %1:</numerusform>
+            <numerusform>Nicht geprüft, von %n Lektionen die ersten %1:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The check took longer than %1 s</source>
+        <translation>Die Prüfung hat länger als %1 s gedauert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are missing or wrong; %1 names each.</source>
+        <translation>
+            <numerusform>%n Sache fehlt oder stimmt nicht; %1 nennt sie.</numerusform>
+            <numerusform>%n Sachen fehlen oder stimmen nicht; %1 nennt jede.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is it whole, and what would other formats lose</source>
+        <translation>ist sie vollständig, und was ginge in anderen Formaten verloren</translation>
+    </message>
+    <message>
+        <source>checks many lessons, or all in a folder</source>
+        <translation>prüft viele Lektionen oder alle in einem Ordner</translation>
+    </message>
+    <message>
+        <source>The format of the output, where its name doesn&apos;t tell; with check, the only one to try.</source>
+        <translation>Das Format der Ausgabe, wo ihr Name es nicht sagt; mit check das einzige, das versucht wird.</translation>
+    </message>
+    <message>
+        <source>The lesson</source>
+        <translation>Die Lektion</translation>
+    </message>
+    <message>
+        <source>Slide %1, %2</source>
+        <translation>Folie %1, %2</translation>
+    </message>
+    <message>
+        <source>Slide %1, %2 &quot;%3&quot;</source>
+        <translation>Folie %1, %2 „%3“</translation>
+    </message>
+    <message>
+        <source>%1: the file %2 isn&apos;t there.</source>
+        <translation>%1: Die Datei %2 ist nicht da.</translation>
+    </message>
+    <message>
+        <source>%1: the file %2 can&apos;t be shown: %3.</source>
+        <translation>%1: Die Datei %2 kann nicht gezeigt werden: %3.</translation>
+    </message>
+    <message>
+        <source>%1: nobody knows what this is.</source>
+        <translation>%1: Niemand weiß, was das ist.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is &quot;%3&quot; and has to be %4.</source>
+        <translation>%1: Der Wert „%2“ ist „%3“, möglich ist: %4.</translation>
+    </message>
+    <message>
+        <source>the points are not in the file</source>
+        <translation>die Punkte stehen nicht in der Datei</translation>
+    </message>
+    <message>
+        <source>%1 is whole.</source>
+        <translation>%1 ist vollständig.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 isn&apos;t whole; %n things are wrong:</source>
+        <translation>
+            <numerusform>%1 ist nicht vollständig; %n Sache stimmt nicht:</numerusform>
+            <numerusform>%1 ist nicht vollständig; %n Sachen stimmen nicht:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weitere.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2, %3.</source>
+        <translation>%1, %2, %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides</source>
+        <translation>
+            <numerusform>%n Folie</numerusform>
+            <numerusform>%n Folien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n Element</numerusform>
+            <numerusform>%n Elemente</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>When it is read:</source>
+        <translation>Beim Lesen:</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t hold it: %2</source>
+        <translation>%1 kann sie nicht aufnehmen: %2</translation>
+    </message>
+    <message>
+        <source>Written as %1, it loses nothing.</source>
+        <translation>Als %1 geschrieben verliert sie nichts.</translation>
+    </message>
+    <message>
+        <source>Written as %1:</source>
+        <translation>Als %1 geschrieben:</translation>
+    </message>
+    <message>
+        <source>it is hidden</source>
+        <translation>es ist verborgen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n acid burettes</source>
+        <translation>
+            <numerusform>%n Säurebürette</numerusform>
+            <numerusform>%n Säurebüretten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n aeroplanes</source>
+        <translation>
+            <numerusform>%n Flugzeug</numerusform>
+            <numerusform>%n Flugzeuge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alkali burettes</source>
+        <translation>
+            <numerusform>%n Laugenbürette</numerusform>
+            <numerusform>%n Laugenbüretten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alternating current motors</source>
+        <translation>
+            <numerusform>%n Wechselstrommotor</numerusform>
+            <numerusform>%n Wechselstrommotoren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ammeters</source>
+        <translation>
+            <numerusform>%n Amperemeter</numerusform>
+            <numerusform>%n Amperemeter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ammeters with a scale</source>
+        <translation>
+            <numerusform>%n Amperemeter mit Skala</numerusform>
+            <numerusform>%n Amperemeter mit Skala</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n angles</source>
+        <translation>
+            <numerusform>%n Winkel</numerusform>
+            <numerusform>%n Winkel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n angle brackets</source>
+        <translation>
+            <numerusform>%n spitze Klammer</numerusform>
+            <numerusform>%n spitze Klammern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n Bogen</numerusform>
+            <numerusform>%n Bögen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arrows</source>
+        <translation>
+            <numerusform>%n Pfeil</numerusform>
+            <numerusform>%n Pfeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arrows with two heads</source>
+        <translation>
+            <numerusform>%n Doppelpfeil</numerusform>
+            <numerusform>%n Doppelpfeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n atoms</source>
+        <translation>
+            <numerusform>%n Atom</numerusform>
+            <numerusform>%n Atome</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n balances</source>
+        <translation>
+            <numerusform>%n Waage</numerusform>
+            <numerusform>%n Waagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n balls</source>
+        <translation>
+            <numerusform>%n Kugel</numerusform>
+            <numerusform>%n Kugeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bamboo brush strokes</source>
+        <translation>
+            <numerusform>%n Bambuspinselstrich</numerusform>
+            <numerusform>%n Bambuspinselstriche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bar magnets</source>
+        <translation>
+            <numerusform>%n Stabmagnet</numerusform>
+            <numerusform>%n Stabmagnete</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n baskets of games</source>
+        <translation>
+            <numerusform>%n Korb eines Spiels</numerusform>
+            <numerusform>%n Körbe von Spielen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n batteries</source>
+        <translation>
+            <numerusform>%n Batterie</numerusform>
+            <numerusform>%n Batterien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n battery cells</source>
+        <translation>
+            <numerusform>%n Batteriezelle</numerusform>
+            <numerusform>%n Batteriezellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n batteries, as symbols</source>
+        <translation>
+            <numerusform>%n Batterie als Schaltzeichen</numerusform>
+            <numerusform>%n Batterien als Schaltzeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n beakers</source>
+        <translation>
+            <numerusform>%n Becherglas</numerusform>
+            <numerusform>%n Bechergläser</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n benzene rings</source>
+        <translation>
+            <numerusform>%n Benzolring</numerusform>
+            <numerusform>%n Benzolringe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n block arrows</source>
+        <translation>
+            <numerusform>%n Blockpfeil</numerusform>
+            <numerusform>%n Blockpfeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bonds</source>
+        <translation>
+            <numerusform>%n Bindung</numerusform>
+            <numerusform>%n Bindungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n braces</source>
+        <translation>
+            <numerusform>%n geschweifte Klammer</numerusform>
+            <numerusform>%n geschweifte Klammern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n brackets</source>
+        <translation>
+            <numerusform>%n Klammer</numerusform>
+            <numerusform>%n Klammern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n brush strokes</source>
+        <translation>
+            <numerusform>%n Pinselstrich</numerusform>
+            <numerusform>%n Pinselstriche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bubbles</source>
+        <translation>
+            <numerusform>%n Blase</numerusform>
+            <numerusform>%n Blasen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bullets</source>
+        <translation>
+            <numerusform>%n Geschoss</numerusform>
+            <numerusform>%n Geschosse</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n burette clamps</source>
+        <translation>
+            <numerusform>%n Bürettenklemme</numerusform>
+            <numerusform>%n Bürettenklemmen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n burning spoons</source>
+        <translation>
+            <numerusform>%n Verbrennungslöffel</numerusform>
+            <numerusform>%n Verbrennungslöffel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n callouts with arrows</source>
+        <translation>
+            <numerusform>%n Legende mit Pfeil</numerusform>
+            <numerusform>%n Legenden mit Pfeil</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n candles</source>
+        <translation>
+            <numerusform>%n Kerze</numerusform>
+            <numerusform>%n Kerzen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n capacitors</source>
+        <translation>
+            <numerusform>%n Kondensator</numerusform>
+            <numerusform>%n Kondensatoren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cards to turn</source>
+        <translation>
+            <numerusform>%n Wendekarte</numerusform>
+            <numerusform>%n Wendekarten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of cards</source>
+        <translation>
+            <numerusform>%n Kartensatz</numerusform>
+            <numerusform>%n Kartensätze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chalk strokes</source>
+        <translation>
+            <numerusform>%n Kreidestrich</numerusform>
+            <numerusform>%n Kreidestriche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters with pinyin</source>
+        <translation>
+            <numerusform>%n Schriftzeichen mit Pinyin</numerusform>
+            <numerusform>%n Schriftzeichen mit Pinyin</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Chinese characters</source>
+        <translation>
+            <numerusform>%n chinesisches Schriftzeichen</numerusform>
+            <numerusform>%n chinesische Schriftzeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n Kreis</numerusform>
+            <numerusform>%n Kreise</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clouds</source>
+        <translation>
+            <numerusform>%n Wolke</numerusform>
+            <numerusform>%n Wolken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n coils</source>
+        <translation>
+            <numerusform>%n Spule</numerusform>
+            <numerusform>%n Spulen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compass needles</source>
+        <translation>
+            <numerusform>%n Magnetnadel</numerusform>
+            <numerusform>%n Magnetnadeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pairs of compasses</source>
+        <translation>
+            <numerusform>%n Zirkel</numerusform>
+            <numerusform>%n Zirkel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concave lenses</source>
+        <translation>
+            <numerusform>%n Zerstreuungslinse</numerusform>
+            <numerusform>%n Zerstreuungslinsen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concave lenses, as symbols</source>
+        <translation>
+            <numerusform>%n Zerstreuungslinse als Zeichen</numerusform>
+            <numerusform>%n Zerstreuungslinsen als Zeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condensers</source>
+        <translation>
+            <numerusform>%n Kühler</numerusform>
+            <numerusform>%n Kühler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cones</source>
+        <translation>
+            <numerusform>%n Kegel</numerusform>
+            <numerusform>%n Kegel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n conical flasks</source>
+        <translation>
+            <numerusform>%n Erlenmeyerkolben</numerusform>
+            <numerusform>%n Erlenmeyerkolben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n connecting lines</source>
+        <translation>
+            <numerusform>%n Verbindungslinie</numerusform>
+            <numerusform>%n Verbindungslinien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n convex lenses</source>
+        <translation>
+            <numerusform>%n Sammellinse</numerusform>
+            <numerusform>%n Sammellinsen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n convex lenses, as symbols</source>
+        <translation>
+            <numerusform>%n Sammellinse als Zeichen</numerusform>
+            <numerusform>%n Sammellinsen als Zeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n conveyor belts</source>
+        <translation>
+            <numerusform>%n Förderband</numerusform>
+            <numerusform>%n Förderbänder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n coordinates with functions</source>
+        <translation>
+            <numerusform>%n Koordinatensystem mit Funktionen</numerusform>
+            <numerusform>%n Koordinatensysteme mit Funktionen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n coordinates with parametric curves</source>
+        <translation>
+            <numerusform>%n Koordinatensystem mit Parameterkurven</numerusform>
+            <numerusform>%n Koordinatensysteme mit Parameterkurven</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies of shapes</source>
+        <translation>
+            <numerusform>%n Kopie einer Form</numerusform>
+            <numerusform>%n Kopien von Formen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n crosses</source>
+        <translation>
+            <numerusform>%n Kreuz</numerusform>
+            <numerusform>%n Kreuze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cubes</source>
+        <translation>
+            <numerusform>%n Würfel</numerusform>
+            <numerusform>%n Würfel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n curtains</source>
+        <translation>
+            <numerusform>%n Vorhang</numerusform>
+            <numerusform>%n Vorhänge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n curved arrows</source>
+        <translation>
+            <numerusform>%n gebogener Pfeil</numerusform>
+            <numerusform>%n gebogene Pfeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n curved slides</source>
+        <translation>
+            <numerusform>%n gebogene Rutsche</numerusform>
+            <numerusform>%n gebogene Rutschen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cylinders</source>
+        <translation>
+            <numerusform>%n Zylinder</numerusform>
+            <numerusform>%n Zylinder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cylinders with a piston</source>
+        <translation>
+            <numerusform>%n Zylinder mit Kolben</numerusform>
+            <numerusform>%n Zylinder mit Kolben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n direct current motors</source>
+        <translation>
+            <numerusform>%n Gleichstrommotor</numerusform>
+            <numerusform>%n Gleichstrommotoren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n distances</source>
+        <translation>
+            <numerusform>%n Abstand</numerusform>
+            <numerusform>%n Abstände</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n division signs</source>
+        <translation>
+            <numerusform>%n Divisionszeichen</numerusform>
+            <numerusform>%n Divisionszeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents</source>
+        <translation>
+            <numerusform>%n Dokument</numerusform>
+            <numerusform>%n Dokumente</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drainage tubes</source>
+        <translation>
+            <numerusform>%n Ableitungsrohr</numerusform>
+            <numerusform>%n Ableitungsrohre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drops of water</source>
+        <translation>
+            <numerusform>%n Wassertropfen</numerusform>
+            <numerusform>%n Wassertropfen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n droppers</source>
+        <translation>
+            <numerusform>%n Tropfpipette</numerusform>
+            <numerusform>%n Tropfpipetten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drying bulbs</source>
+        <translation>
+            <numerusform>%n Trockenkugel</numerusform>
+            <numerusform>%n Trockenkugeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n earth connections</source>
+        <translation>
+            <numerusform>%n Erdung</numerusform>
+            <numerusform>%n Erdungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electric bells</source>
+        <translation>
+            <numerusform>%n elektrische Klingel</numerusform>
+            <numerusform>%n elektrische Klingeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electric charges</source>
+        <translation>
+            <numerusform>%n elektrische Ladung</numerusform>
+            <numerusform>%n elektrische Ladungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electric fields</source>
+        <translation>
+            <numerusform>%n elektrisches Feld</numerusform>
+            <numerusform>%n elektrische Felder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electrons</source>
+        <translation>
+            <numerusform>%n Elektron</numerusform>
+            <numerusform>%n Elektronen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electron transfers</source>
+        <translation>
+            <numerusform>%n Elektronenübergang</numerusform>
+            <numerusform>%n Elektronenübergänge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n Ellipse</numerusform>
+            <numerusform>%n Ellipsen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n equals signs</source>
+        <translation>
+            <numerusform>%n Gleichheitszeichen</numerusform>
+            <numerusform>%n Gleichheitszeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n equilateral triangles</source>
+        <translation>
+            <numerusform>%n gleichseitiges Dreieck</numerusform>
+            <numerusform>%n gleichseitige Dreiecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n evaporating dishes</source>
+        <translation>
+            <numerusform>%n Abdampfschale</numerusform>
+            <numerusform>%n Abdampfschalen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n explosions</source>
+        <translation>
+            <numerusform>%n Explosion</numerusform>
+            <numerusform>%n Explosionen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n expressions</source>
+        <translation>
+            <numerusform>%n Ausdruck</numerusform>
+            <numerusform>%n Ausdrücke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films</source>
+        <translation>
+            <numerusform>%n Film</numerusform>
+            <numerusform>%n Filme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n first players</source>
+        <translation>
+            <numerusform>%n erster Spieler</numerusform>
+            <numerusform>%n erste Spieler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n five-pointed stars</source>
+        <translation>
+            <numerusform>%n fünfzackiger Stern</numerusform>
+            <numerusform>%n fünfzackige Sterne</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flags</source>
+        <translation>
+            <numerusform>%n Fahne</numerusform>
+            <numerusform>%n Fahnen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flames</source>
+        <translation>
+            <numerusform>%n Flamme</numerusform>
+            <numerusform>%n Flammen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Flash films</source>
+        <translation>
+            <numerusform>%n Flash-Film</numerusform>
+            <numerusform>%n Flash-Filme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flasks</source>
+        <translation>
+            <numerusform>%n Kolben</numerusform>
+            <numerusform>%n Kolben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n forces</source>
+        <translation>
+            <numerusform>%n Kraft</numerusform>
+            <numerusform>%n Kräfte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n formulas</source>
+        <translation>
+            <numerusform>%n Formel</numerusform>
+            <numerusform>%n Formeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n free drawings</source>
+        <translation>
+            <numerusform>%n Freihandzeichnung</numerusform>
+            <numerusform>%n Freihandzeichnungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frustums of cones</source>
+        <translation>
+            <numerusform>%n Kegelstumpf</numerusform>
+            <numerusform>%n Kegelstümpfe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frustums of pyramids</source>
+        <translation>
+            <numerusform>%n Pyramidenstumpf</numerusform>
+            <numerusform>%n Pyramidenstümpfe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n funnels</source>
+        <translation>
+            <numerusform>%n Trichter</numerusform>
+            <numerusform>%n Trichter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n galvanometers</source>
+        <translation>
+            <numerusform>%n Galvanometer</numerusform>
+            <numerusform>%n Galvanometer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gaps to fill</source>
+        <translation>
+            <numerusform>%n Lücke zum Füllen</numerusform>
+            <numerusform>%n Lücken zum Füllen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gas jars</source>
+        <translation>
+            <numerusform>%n Gassammelglas</numerusform>
+            <numerusform>%n Gassammelgläser</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass delivery tubes</source>
+        <translation>
+            <numerusform>%n gläsernes Gasableitungsrohr</numerusform>
+            <numerusform>%n gläserne Gasableitungsrohre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass rods</source>
+        <translation>
+            <numerusform>%n Glasstab</numerusform>
+            <numerusform>%n Glasstäbe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass stoppers</source>
+        <translation>
+            <numerusform>%n Glasstopfen</numerusform>
+            <numerusform>%n Glasstopfen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass tubes</source>
+        <translation>
+            <numerusform>%n Glasrohr</numerusform>
+            <numerusform>%n Glasrohre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n grooves</source>
+        <translation>
+            <numerusform>%n Mulde</numerusform>
+            <numerusform>%n Mulden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n groups</source>
+        <translation>
+            <numerusform>%n Gruppe</numerusform>
+            <numerusform>%n Gruppen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n halves of concave lenses</source>
+        <translation>
+            <numerusform>%n halbe Zerstreuungslinse</numerusform>
+            <numerusform>%n halbe Zerstreuungslinsen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n halves of convex lenses</source>
+        <translation>
+            <numerusform>%n halbe Sammellinse</numerusform>
+            <numerusform>%n halbe Sammellinsen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n half spheres</source>
+        <translation>
+            <numerusform>%n Halbkugel</numerusform>
+            <numerusform>%n Halbkugeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n handwritten formulas</source>
+        <translation>
+            <numerusform>%n handgeschriebene Formel</numerusform>
+            <numerusform>%n handgeschriebene Formeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hearts</source>
+        <translation>
+            <numerusform>%n Herz</numerusform>
+            <numerusform>%n Herzen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hexagons</source>
+        <translation>
+            <numerusform>%n Sechseck</numerusform>
+            <numerusform>%n Sechsecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n highlighter strokes</source>
+        <translation>
+            <numerusform>%n Textmarkerstrich</numerusform>
+            <numerusform>%n Textmarkerstriche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hooked weights</source>
+        <translation>
+            <numerusform>%n Hakengewicht</numerusform>
+            <numerusform>%n Hakengewichte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n horseshoe magnets</source>
+        <translation>
+            <numerusform>%n Hufeisenmagnet</numerusform>
+            <numerusform>%n Hufeisenmagnete</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inclined planes</source>
+        <translation>
+            <numerusform>%n schiefe Ebene</numerusform>
+            <numerusform>%n schiefe Ebenen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pairs of intersecting planes</source>
+        <translation>
+            <numerusform>%n Paar sich schneidender Ebenen</numerusform>
+            <numerusform>%n Paare sich schneidender Ebenen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n iron cores</source>
+        <translation>
+            <numerusform>%n Eisenkern</numerusform>
+            <numerusform>%n Eisenkerne</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n iron stands</source>
+        <translation>
+            <numerusform>%n Eisenstativ</numerusform>
+            <numerusform>%n Eisenstative</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items of subjects</source>
+        <translation>
+            <numerusform>%n Element eines Fachs</numerusform>
+            <numerusform>%n Elemente eines Fachs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Kipp&apos;s apparatuses</source>
+        <translation>
+            <numerusform>%n Kippscher Apparat</numerusform>
+            <numerusform>%n Kippsche Apparate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n knife switches</source>
+        <translation>
+            <numerusform>%n Messerschalter</numerusform>
+            <numerusform>%n Messerschalter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n knobs</source>
+        <translation>
+            <numerusform>%n Drehknopf</numerusform>
+            <numerusform>%n Drehknöpfe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lamps</source>
+        <translation>
+            <numerusform>%n Lampe</numerusform>
+            <numerusform>%n Lampen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lamps, as symbols</source>
+        <translation>
+            <numerusform>%n Lampe als Schaltzeichen</numerusform>
+            <numerusform>%n Lampen als Schaltzeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n levers</source>
+        <translation>
+            <numerusform>%n Hebel</numerusform>
+            <numerusform>%n Hebel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bolts of lightning</source>
+        <translation>
+            <numerusform>%n Blitz</numerusform>
+            <numerusform>%n Blitze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of segments</source>
+        <translation>
+            <numerusform>%n Streckenzug</numerusform>
+            <numerusform>%n Streckenzüge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n Verknüpfung</numerusform>
+            <numerusform>%n Verknüpfungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n long-necked funnels</source>
+        <translation>
+            <numerusform>%n Langhalstrichter</numerusform>
+            <numerusform>%n Langhalstrichter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n loudspeakers</source>
+        <translation>
+            <numerusform>%n Lautsprecher</numerusform>
+            <numerusform>%n Lautsprecher</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n magnetic fields</source>
+        <translation>
+            <numerusform>%n Magnetfeld</numerusform>
+            <numerusform>%n Magnetfelder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measured segments</source>
+        <translation>
+            <numerusform>%n gemessene Strecke</numerusform>
+            <numerusform>%n gemessene Strecken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measured triangles</source>
+        <translation>
+            <numerusform>%n gemessenes Dreieck</numerusform>
+            <numerusform>%n gemessene Dreiecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measuring cylinders</source>
+        <translation>
+            <numerusform>%n Messzylinder</numerusform>
+            <numerusform>%n Messzylinder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n meters</source>
+        <translation>
+            <numerusform>%n Messgerät</numerusform>
+            <numerusform>%n Messgeräte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mind maps</source>
+        <translation>
+            <numerusform>%n Mindmap</numerusform>
+            <numerusform>%n Mindmaps</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minus signs</source>
+        <translation>
+            <numerusform>%n Minuszeichen</numerusform>
+            <numerusform>%n Minuszeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moons</source>
+        <translation>
+            <numerusform>%n Mond</numerusform>
+            <numerusform>%n Monde</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moving worksheets</source>
+        <translation>
+            <numerusform>%n bewegtes Arbeitsblatt</numerusform>
+            <numerusform>%n bewegte Arbeitsblätter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n multiplication signs</source>
+        <translation>
+            <numerusform>%n Malzeichen</numerusform>
+            <numerusform>%n Malzeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not-equals signs</source>
+        <translation>
+            <numerusform>%n Ungleichheitszeichen</numerusform>
+            <numerusform>%n Ungleichheitszeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n one-to-many lines</source>
+        <translation>
+            <numerusform>%n Linie von einem zu vielen</numerusform>
+            <numerusform>%n Linien von einem zu vielen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n one-sided arrows</source>
+        <translation>
+            <numerusform>%n einseitiger Pfeil</numerusform>
+            <numerusform>%n einseitige Pfeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blätter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parallelograms</source>
+        <translation>
+            <numerusform>%n Parallelogramm</numerusform>
+            <numerusform>%n Parallelogramme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parts of sentences</source>
+        <translation>
+            <numerusform>%n Satzteil</numerusform>
+            <numerusform>%n Satzteile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pen strokes</source>
+        <translation>
+            <numerusform>%n Stiftstrich</numerusform>
+            <numerusform>%n Stiftstriche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pentagons</source>
+        <translation>
+            <numerusform>%n Fünfeck</numerusform>
+            <numerusform>%n Fünfecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces for gaps</source>
+        <translation>
+            <numerusform>%n Teil für eine Lücke</numerusform>
+            <numerusform>%n Teile für Lücken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of contests</source>
+        <translation>
+            <numerusform>%n Teil eines Wettkampfs</numerusform>
+            <numerusform>%n Teile von Wettkämpfen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of games</source>
+        <translation>
+            <numerusform>%n Spielteil</numerusform>
+            <numerusform>%n Spielteile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces to compare</source>
+        <translation>
+            <numerusform>%n Vergleichsteil</numerusform>
+            <numerusform>%n Vergleichsteile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of pinyin</source>
+        <translation>
+            <numerusform>%n Pinyin-Text</numerusform>
+            <numerusform>%n Pinyin-Texte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of pinyin letters</source>
+        <translation>
+            <numerusform>%n Satz Pinyin-Buchstaben</numerusform>
+            <numerusform>%n Sätze Pinyin-Buchstaben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n places of sentences</source>
+        <translation>
+            <numerusform>%n Platz für einen Satz</numerusform>
+            <numerusform>%n Plätze für Sätze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n places to compare</source>
+        <translation>
+            <numerusform>%n Vergleichsplatz</numerusform>
+            <numerusform>%n Vergleichsplätze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n planes</source>
+        <translation>
+            <numerusform>%n Ebene</numerusform>
+            <numerusform>%n Ebenen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plus signs</source>
+        <translation>
+            <numerusform>%n Pluszeichen</numerusform>
+            <numerusform>%n Pluszeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n Punkt</numerusform>
+            <numerusform>%n Punkte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n systems of polar coordinates</source>
+        <translation>
+            <numerusform>%n Polarkoordinatensystem</numerusform>
+            <numerusform>%n Polarkoordinatensysteme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n prisms</source>
+        <translation>
+            <numerusform>%n Prisma</numerusform>
+            <numerusform>%n Prismen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n propellers</source>
+        <translation>
+            <numerusform>%n Propeller</numerusform>
+            <numerusform>%n Propeller</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n protractors</source>
+        <translation>
+            <numerusform>%n Winkelmesser</numerusform>
+            <numerusform>%n Winkelmesser</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pulleys</source>
+        <translation>
+            <numerusform>%n Rolle</numerusform>
+            <numerusform>%n Rollen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pulley blocks</source>
+        <translation>
+            <numerusform>%n Flaschenzug</numerusform>
+            <numerusform>%n Flaschenzüge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pyramids</source>
+        <translation>
+            <numerusform>%n Pyramide</numerusform>
+            <numerusform>%n Pyramiden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n quadrangles</source>
+        <translation>
+            <numerusform>%n Viereck</numerusform>
+            <numerusform>%n Vierecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n questions</source>
+        <translation>
+            <numerusform>%n Frage</numerusform>
+            <numerusform>%n Fragen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reagent bottles</source>
+        <translation>
+            <numerusform>%n Reagenzienflasche</numerusform>
+            <numerusform>%n Reagenzienflaschen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rectangles</source>
+        <translation>
+            <numerusform>%n Rechteck</numerusform>
+            <numerusform>%n Rechtecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular heptagons</source>
+        <translation>
+            <numerusform>%n regelmäßiges Siebeneck</numerusform>
+            <numerusform>%n regelmäßige Siebenecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular hexagons</source>
+        <translation>
+            <numerusform>%n regelmäßiges Sechseck</numerusform>
+            <numerusform>%n regelmäßige Sechsecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular octagons</source>
+        <translation>
+            <numerusform>%n regelmäßiges Achteck</numerusform>
+            <numerusform>%n regelmäßige Achtecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular pentagons</source>
+        <translation>
+            <numerusform>%n regelmäßiges Fünfeck</numerusform>
+            <numerusform>%n regelmäßige Fünfecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n resistors</source>
+        <translation>
+            <numerusform>%n Widerstand</numerusform>
+            <numerusform>%n Widerstände</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n retorts</source>
+        <translation>
+            <numerusform>%n Retorte</numerusform>
+            <numerusform>%n Retorten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rhombuses</source>
+        <translation>
+            <numerusform>%n Raute</numerusform>
+            <numerusform>%n Rauten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n round brackets</source>
+        <translation>
+            <numerusform>%n runde Klammer</numerusform>
+            <numerusform>%n runde Klammern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n round grooves</source>
+        <translation>
+            <numerusform>%n runde Mulde</numerusform>
+            <numerusform>%n runde Mulden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n round separating funnels</source>
+        <translation>
+            <numerusform>%n runder Scheidetrichter</numerusform>
+            <numerusform>%n runde Scheidetrichter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rounded rectangles</source>
+        <translation>
+            <numerusform>%n abgerundetes Rechteck</numerusform>
+            <numerusform>%n abgerundete Rechtecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n traces of rubbed out ink</source>
+        <translation>
+            <numerusform>%n Radierspur</numerusform>
+            <numerusform>%n Radierspuren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rubber tubes</source>
+        <translation>
+            <numerusform>%n Gummischlauch</numerusform>
+            <numerusform>%n Gummischläuche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rulers</source>
+        <translation>
+            <numerusform>%n Lineal</numerusform>
+            <numerusform>%n Lineale</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scales</source>
+        <translation>
+            <numerusform>%n Skala</numerusform>
+            <numerusform>%n Skalen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scores</source>
+        <translation>
+            <numerusform>%n Punktestand</numerusform>
+            <numerusform>%n Punktestände</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second players</source>
+        <translation>
+            <numerusform>%n zweiter Spieler</numerusform>
+            <numerusform>%n zweite Spieler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sectors</source>
+        <translation>
+            <numerusform>%n Kreisausschnitt</numerusform>
+            <numerusform>%n Kreisausschnitte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n segments</source>
+        <translation>
+            <numerusform>%n Strecke</numerusform>
+            <numerusform>%n Strecken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n separating funnels</source>
+        <translation>
+            <numerusform>%n Scheidetrichter</numerusform>
+            <numerusform>%n Scheidetrichter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set squares of 30 and 60 degrees</source>
+        <translation>
+            <numerusform>%n Zeichendreieck mit 30 und 60 Grad</numerusform>
+            <numerusform>%n Zeichendreiecke mit 30 und 60 Grad</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set squares of 45 degrees</source>
+        <translation>
+            <numerusform>%n Zeichendreieck mit 45 Grad</numerusform>
+            <numerusform>%n Zeichendreiecke mit 45 Grad</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shapes</source>
+        <translation>
+            <numerusform>%n Form</numerusform>
+            <numerusform>%n Formen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sliding resistors</source>
+        <translation>
+            <numerusform>%n Schiebewiderstand</numerusform>
+            <numerusform>%n Schiebewiderstände</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sliding resistors, as symbols</source>
+        <translation>
+            <numerusform>%n Schiebewiderstand als Schaltzeichen</numerusform>
+            <numerusform>%n Schiebewiderstände als Schaltzeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slopes</source>
+        <translation>
+            <numerusform>%n Hang</numerusform>
+            <numerusform>%n Hänge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n smileys</source>
+        <translation>
+            <numerusform>%n Smiley</numerusform>
+            <numerusform>%n Smileys</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n solids</source>
+        <translation>
+            <numerusform>%n Feststoff</numerusform>
+            <numerusform>%n Feststoffe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sounds</source>
+        <translation>
+            <numerusform>%n Ton</numerusform>
+            <numerusform>%n Töne</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spatulas</source>
+        <translation>
+            <numerusform>%n Spatel</numerusform>
+            <numerusform>%n Spatel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n speech bubbles</source>
+        <translation>
+            <numerusform>%n Sprechblase</numerusform>
+            <numerusform>%n Sprechblasen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spheres</source>
+        <translation>
+            <numerusform>%n Kugel (Körper)</numerusform>
+            <numerusform>%n Kugeln (Körper)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spirit lamps</source>
+        <translation>
+            <numerusform>%n Spiritusbrenner</numerusform>
+            <numerusform>%n Spiritusbrenner</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spotlights</source>
+        <translation>
+            <numerusform>%n Scheinwerfer</numerusform>
+            <numerusform>%n Scheinwerfer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n springs</source>
+        <translation>
+            <numerusform>%n Feder</numerusform>
+            <numerusform>%n Federn</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spring balances</source>
+        <translation>
+            <numerusform>%n Federwaage</numerusform>
+            <numerusform>%n Federwaagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n squares</source>
+        <translation>
+            <numerusform>%n Quadrat</numerusform>
+            <numerusform>%n Quadrate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n square brackets</source>
+        <translation>
+            <numerusform>%n eckige Klammer</numerusform>
+            <numerusform>%n eckige Klammern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stamps</source>
+        <translation>
+            <numerusform>%n Stempel</numerusform>
+            <numerusform>%n Stempel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stands for optics</source>
+        <translation>
+            <numerusform>%n Stativ für Optik</numerusform>
+            <numerusform>%n Stative für Optik</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n Stern</numerusform>
+            <numerusform>%n Sterne</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stoppers</source>
+        <translation>
+            <numerusform>%n Stopfen</numerusform>
+            <numerusform>%n Stopfen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n straight arrows</source>
+        <translation>
+            <numerusform>%n gerader Pfeil</numerusform>
+            <numerusform>%n gerade Pfeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of strokes of a character</source>
+        <translation>
+            <numerusform>%n Strichfolge eines Schriftzeichens</numerusform>
+            <numerusform>%n Strichfolgen von Schriftzeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n switches</source>
+        <translation>
+            <numerusform>%n Schalter</numerusform>
+            <numerusform>%n Schalter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n test tubes</source>
+        <translation>
+            <numerusform>%n Reagenzglas</numerusform>
+            <numerusform>%n Reagenzgläser</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n test tube clamps</source>
+        <translation>
+            <numerusform>%n Reagenzglasklammer</numerusform>
+            <numerusform>%n Reagenzglasklammern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n test tube racks</source>
+        <translation>
+            <numerusform>%n Reagenzglasständer</numerusform>
+            <numerusform>%n Reagenzglasständer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tetrahedra</source>
+        <translation>
+            <numerusform>%n Tetraeder</numerusform>
+            <numerusform>%n Tetraeder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n Text</numerusform>
+            <numerusform>%n Texte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts to read aloud</source>
+        <translation>
+            <numerusform>%n Text zum Vorlesen</numerusform>
+            <numerusform>%n Texte zum Vorlesen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n textured strokes</source>
+        <translation>
+            <numerusform>%n Strich mit Muster</numerusform>
+            <numerusform>%n Striche mit Muster</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thermometers</source>
+        <translation>
+            <numerusform>%n Thermometer</numerusform>
+            <numerusform>%n Thermometer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of things to connect</source>
+        <translation>
+            <numerusform>%n Satz zum Verbinden</numerusform>
+            <numerusform>%n Sätze zum Verbinden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of things to sort</source>
+        <translation>
+            <numerusform>%n Satz zum Sortieren</numerusform>
+            <numerusform>%n Sätze zum Sortieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ticks</source>
+        <translation>
+            <numerusform>%n Haken</numerusform>
+            <numerusform>%n Haken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tiles</source>
+        <translation>
+            <numerusform>%n Ziegel</numerusform>
+            <numerusform>%n Ziegel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tips for reading aloud</source>
+        <translation>
+            <numerusform>%n Hinweis zum Vorlesen</numerusform>
+            <numerusform>%n Hinweise zum Vorlesen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tips of games</source>
+        <translation>
+            <numerusform>%n Spielhinweis</numerusform>
+            <numerusform>%n Spielhinweise</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trapeziums</source>
+        <translation>
+            <numerusform>%n Trapez</numerusform>
+            <numerusform>%n Trapeze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n triangles</source>
+        <translation>
+            <numerusform>%n Dreieck</numerusform>
+            <numerusform>%n Dreiecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tripods</source>
+        <translation>
+            <numerusform>%n Dreifuß</numerusform>
+            <numerusform>%n Dreifüße</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trolleys</source>
+        <translation>
+            <numerusform>%n Wagen</numerusform>
+            <numerusform>%n Wagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pairs of tweezers</source>
+        <translation>
+            <numerusform>%n Pinzette</numerusform>
+            <numerusform>%n Pinzetten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n two-way switches</source>
+        <translation>
+            <numerusform>%n Wechselschalter</numerusform>
+            <numerusform>%n Wechselschalter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n U-tubes</source>
+        <translation>
+            <numerusform>%n U-Rohr</numerusform>
+            <numerusform>%n U-Rohre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n vernier calipers</source>
+        <translation>
+            <numerusform>%n Messschieber</numerusform>
+            <numerusform>%n Messschieber</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n voltmeters</source>
+        <translation>
+            <numerusform>%n Voltmeter</numerusform>
+            <numerusform>%n Voltmeter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n voltmeters with a scale</source>
+        <translation>
+            <numerusform>%n Voltmeter mit Skala</numerusform>
+            <numerusform>%n Voltmeter mit Skala</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n volumetric flasks</source>
+        <translation>
+            <numerusform>%n Messkolben</numerusform>
+            <numerusform>%n Messkolben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n water troughs</source>
+        <translation>
+            <numerusform>%n Wasserwanne</numerusform>
+            <numerusform>%n Wasserwannen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n waves</source>
+        <translation>
+            <numerusform>%n Welle</numerusform>
+            <numerusform>%n Wellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weights</source>
+        <translation>
+            <numerusform>%n Gewichtsstück</numerusform>
+            <numerusform>%n Gewichtsstücke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wires</source>
+        <translation>
+            <numerusform>%n Draht</numerusform>
+            <numerusform>%n Drähte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wire gauzes</source>
+        <translation>
+            <numerusform>%n Drahtnetz</numerusform>
+            <numerusform>%n Drahtnetze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wooden blocks</source>
+        <translation>
+            <numerusform>%n Holzklotz</numerusform>
+            <numerusform>%n Holzklötze</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wooden rods</source>
+        <translation>
+            <numerusform>%n Holzstab</numerusform>
+            <numerusform>%n Holzstäbe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of word art</source>
+        <translation>
+            <numerusform>%n Schriftzug</numerusform>
+            <numerusform>%n Schriftzüge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n words with phonetics</source>
+        <translation>
+            <numerusform>%n Wort mit Lautschrift</numerusform>
+            <numerusform>%n Wörter mit Lautschrift</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of words in squares</source>
+        <translation>
+            <numerusform>%n Satz Wörter in Kästchen</numerusform>
+            <numerusform>%n Sätze Wörter in Kästchen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>kind of item</source>
+        <translation>Art des Elements</translation>
+    </message>
+    <message>
+        <source>setting of the editor</source>
+        <translation>Einstellung des Editors</translation>
+    </message>
+    <message>
+        <source>whether it is shown</source>
+        <translation>ob es gezeigt wird</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>Sperre</translation>
+    </message>
+    <message>
+        <source>copies without end</source>
+        <translation>endlose Kopien</translation>
+    </message>
+    <message>
+        <source>mark of the eraser</source>
+        <translation>Merkmal für den Radierer</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>Verknüpfung</translation>
+    </message>
+    <message>
+        <source>place and size</source>
+        <translation>Ort und Größe</translation>
+    </message>
+    <message>
+        <source>place and size in the file</source>
+        <translation>Ort und Größe in der Datei</translation>
+    </message>
+    <message>
+        <source>turn and stretch</source>
+        <translation>Drehung und Streckung</translation>
+    </message>
+    <message>
+        <source>how the slide was fitted to the page</source>
+        <translation>wie die Folie in die Seite gepasst wurde</translation>
+    </message>
+    <message>
+        <source>turn</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>mirroring</source>
+        <translation>Spiegelung</translation>
+    </message>
+    <message>
+        <source>points of the shape</source>
+        <translation>Punkte der Form</translation>
+    </message>
+    <message>
+        <source>points of the shape in the file</source>
+        <translation>Punkte der Form in der Datei</translation>
+    </message>
+    <message>
+        <source>items in it</source>
+        <translation>Elemente darin</translation>
+    </message>
+    <message>
+        <source>item as it came</source>
+        <translation>Element im Original</translation>
+    </message>
+    <message>
+        <source>cover</source>
+        <translation>Abdeckung</translation>
+    </message>
+    <message>
+        <source>where it was made</source>
+        <translation>wo es entstand</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>files of the item</source>
+        <translation>Dateien des Elements</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>picture or document</source>
+        <translation>Bild oder Dokument</translation>
+    </message>
+    <message>
+        <source>picture of the background</source>
+        <translation>Hintergrundbild</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>colour of the fill</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
+        <source>colour of the line</source>
+        <translation>Linienfarbe</translation>
+    </message>
+    <message>
+        <source>width of the line</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>how the colour shines through</source>
+        <translation>wie die Farbe durchscheint</translation>
+    </message>
+    <message>
+        <source>dashes of the line</source>
+        <translation>Strichelung der Linie</translation>
+    </message>
+    <message>
+        <source>ends of the line</source>
+        <translation>Linienenden</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>version of the file</source>
+        <translation>Version der Datei</translation>
+    </message>
+    <message>
+        <source>version of the editor</source>
+        <translation>Version des Editors</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>size of the page</source>
+        <translation>Größe der Seite</translation>
+    </message>
+    <message>
+        <source>colour of the background</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>paper of the background</source>
+        <translation>Papier des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>how the background lies</source>
+        <translation>Lage des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>change to the next slide</source>
+        <translation>Wechsel zur nächsten Folie</translation>
+    </message>
+    <message>
+        <source>game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>pictures of the game</source>
+        <translation>Bilder des Spiels</translation>
+    </message>
+    <message>
+        <source>slides</source>
+        <translation>Folien</translation>
+    </message>
+    <message>
+        <source>items</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>width along the stroke</source>
+        <translation>Breite entlang des Strichs</translation>
+    </message>
+    <message>
+        <source>when each point was drawn</source>
+        <translation>wann jeder Punkt gezeichnet wurde</translation>
+    </message>
+    <message>
+        <source>pressure of the pen</source>
+        <translation>Druck des Stifts</translation>
+    </message>
+    <message>
+        <source>picture of the stroke</source>
+        <translation>Bild des Strichs</translation>
+    </message>
+    <message>
+        <source>picture of the stamp</source>
+        <translation>Bild des Stempels</translation>
+    </message>
+    <message>
+        <source>what was rubbed out</source>
+        <translation>was ausradiert wurde</translation>
+    </message>
+    <message>
+        <source>how the formula was written</source>
+        <translation>wie die Formel geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>colour behind the text</source>
+        <translation>Farbe hinter dem Text</translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>scale at the beginning</source>
+        <translation>Maßstab am Anfang</translation>
+    </message>
+    <message>
+        <source>height of the text</source>
+        <translation>Höhe des Textes</translation>
+    </message>
+    <message>
+        <source>how the text is aligned</source>
+        <translation>Ausrichtung des Textes</translation>
+    </message>
+    <message>
+        <source>colour of the text</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>size of the letters</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>font of the front</source>
+        <translation>Schrift der Vorderseite</translation>
+    </message>
+    <message>
+        <source>font of the back</source>
+        <translation>Schrift der Rückseite</translation>
+    </message>
+    <message>
+        <source>text of the front</source>
+        <translation>Text der Vorderseite</translation>
+    </message>
+    <message>
+        <source>front</source>
+        <translation>Vorderseite</translation>
+    </message>
+    <message>
+        <source>back</source>
+        <translation>Rückseite</translation>
+    </message>
+    <message>
+        <source>width of the text</source>
+        <translation>Breite des Textes</translation>
+    </message>
+    <message>
+        <source>colour of the character</source>
+        <translation>Farbe des Schriftzeichens</translation>
+    </message>
+    <message>
+        <source>whether it plays by itself</source>
+        <translation>ob es von selbst spielt</translation>
+    </message>
+    <message>
+        <source>whether it plays again</source>
+        <translation>ob es wieder spielt</translation>
+    </message>
+    <message>
+        <source>whether it is silent</source>
+        <translation>ob es stumm ist</translation>
+    </message>
+    <message>
+        <source>loudness</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>length of the sound</source>
+        <translation>Länge des Tons</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>whether its name is shown</source>
+        <translation>ob sein Name gezeigt wird</translation>
+    </message>
+    <message>
+        <source>what is cut off</source>
+        <translation>was abgeschnitten ist</translation>
+    </message>
+    <message>
+        <source>how it shines through</source>
+        <translation>wie es durchscheint</translation>
+    </message>
+    <message>
+        <source>edge</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>kind of file</source>
+        <translation>Art der Datei</translation>
+    </message>
+    <message>
+        <source>whether it is filled</source>
+        <translation>ob es gefüllt ist</translation>
+    </message>
+    <message>
+        <source>kind of fill</source>
+        <translation>Art der Füllung</translation>
+    </message>
+    <message>
+        <source>form of the line</source>
+        <translation>Form der Linie</translation>
+    </message>
+    <message>
+        <source>arrowheads</source>
+        <translation>Pfeilspitzen</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>number of corners</source>
+        <translation>Zahl der Ecken</translation>
+    </message>
+    <message>
+        <source>whether its centre is shown</source>
+        <translation>ob die Mitte gezeigt wird</translation>
+    </message>
+    <message>
+        <source>whether its measure is shown</source>
+        <translation>ob das Maß gezeigt wird</translation>
+    </message>
+    <message>
+        <source>auxiliary lines</source>
+        <translation>Hilfslinien</translation>
+    </message>
+    <message>
+        <source>unit of measures</source>
+        <translation>Maßeinheit</translation>
+    </message>
+    <message>
+        <source>digits of measures</source>
+        <translation>Stellen der Maße</translation>
+    </message>
+    <message>
+        <source>measures of the shape</source>
+        <translation>Maße der Form</translation>
+    </message>
+    <message>
+        <source>scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>kind of path</source>
+        <translation>Art des Pfads</translation>
+    </message>
+    <message>
+        <source>drawing of the shape</source>
+        <translation>Zeichnung der Form</translation>
+    </message>
+    <message>
+        <source>name of the point</source>
+        <translation>Name des Punkts</translation>
+    </message>
+    <message>
+        <source>angles of the arc</source>
+        <translation>Winkel des Bogens</translation>
+    </message>
+    <message>
+        <source>function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>colour of the function</source>
+        <translation>Farbe der Funktion</translation>
+    </message>
+    <message>
+        <source>whether the function is shown</source>
+        <translation>ob die Funktion gezeigt wird</translation>
+    </message>
+    <message>
+        <source>whether the axes are shown</source>
+        <translation>ob die Achsen gezeigt werden</translation>
+    </message>
+    <message>
+        <source>setting of the axes</source>
+        <translation>Einstellung der Achsen</translation>
+    </message>
+    <message>
+        <source>range of the curve</source>
+        <translation>Bereich der Kurve</translation>
+    </message>
+    <message>
+        <source>unit of the axes</source>
+        <translation>Einheit der Achsen</translation>
+    </message>
+    <message>
+        <source>lid</source>
+        <translation>Deckel</translation>
+    </message>
+    <message>
+        <source>direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>flame</source>
+        <translation>Flamme</translation>
+    </message>
+    <message>
+        <source>whether it is lit</source>
+        <translation>ob es leuchtet</translation>
+    </message>
+    <message>
+        <source>liquid</source>
+        <translation>Flüssigkeit</translation>
+    </message>
+    <message>
+        <source>solid in it</source>
+        <translation>Feststoff darin</translation>
+    </message>
+    <message>
+        <source>colour of the liquid</source>
+        <translation>Farbe der Flüssigkeit</translation>
+    </message>
+    <message>
+        <source>colour of the solid</source>
+        <translation>Farbe des Feststoffs</translation>
+    </message>
+    <message>
+        <source>colour of the scale</source>
+        <translation>Farbe der Skala</translation>
+    </message>
+    <message>
+        <source>colour of the light</source>
+        <translation>Farbe des Lichts</translation>
+    </message>
+    <message>
+        <source>colour of the flame</source>
+        <translation>Farbe der Flamme</translation>
+    </message>
+    <message>
+        <source>colour of the poles</source>
+        <translation>Farbe der Pole</translation>
+    </message>
+    <message>
+        <source>parts of it</source>
+        <translation>Teile davon</translation>
+    </message>
+    <message>
+        <source>shells of the atom</source>
+        <translation>Schalen des Atoms</translation>
+    </message>
+    <message>
+        <source>number of forces</source>
+        <translation>Zahl der Kräfte</translation>
+    </message>
+    <message>
+        <source>sign of the charge</source>
+        <translation>Vorzeichen der Ladung</translation>
+    </message>
+    <message>
+        <source>speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>place of the bracket</source>
+        <translation>Ort der Halterung</translation>
+    </message>
+    <message>
+        <source>whether the switch is closed</source>
+        <translation>ob der Schalter geschlossen ist</translation>
+    </message>
+    <message>
+        <source>formula</source>
+        <translation>Formel</translation>
+    </message>
+    <message>
+        <source>whether the character is shown</source>
+        <translation>ob das Schriftzeichen gezeigt wird</translation>
+    </message>
+    <message>
+        <source>word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>character</source>
+        <translation>Schriftzeichen</translation>
+    </message>
+    <message>
+        <source>pinyin</source>
+        <translation>Pinyin</translation>
+    </message>
+    <message>
+        <source>squares</source>
+        <translation>Kästchen</translation>
+    </message>
+    <message>
+        <source>lines for writing</source>
+        <translation>Schreiblinien</translation>
+    </message>
+    <message>
+        <source>width of a square</source>
+        <translation>Breite eines Kästchens</translation>
+    </message>
+    <message>
+        <source>where the word stands</source>
+        <translation>wo das Wort steht</translation>
+    </message>
+    <message>
+        <source>whether the word is hidden</source>
+        <translation>ob das Wort verborgen ist</translation>
+    </message>
+    <message>
+        <source>how the cover shines through</source>
+        <translation>wie die Abdeckung durchscheint</translation>
+    </message>
+    <message>
+        <source>cards</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>list of the game</source>
+        <translation>Liste des Spiels</translation>
+    </message>
+    <message>
+        <source>connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>things to sort</source>
+        <translation>was zu sortieren ist</translation>
+    </message>
+    <message>
+        <source>shape of the light</source>
+        <translation>Form des Lichts</translation>
+    </message>
+    <message>
+        <source>place of the light</source>
+        <translation>Ort des Lichts</translation>
+    </message>
+    <message>
+        <source>size of the light</source>
+        <translation>Größe des Lichts</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>text of the gap</source>
+        <translation>Text der Lücke</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>figure of the game</source>
+        <translation>Figur des Spiels</translation>
+    </message>
+    <message>
+        <source>place of the text</source>
+        <translation>Ort des Textes</translation>
+    </message>
+    <message>
+        <source>whether it can be changed</source>
+        <translation>ob es geändert werden kann</translation>
+    </message>
+    <message>
+        <source>kind of worksheet</source>
+        <translation>Art des Arbeitsblatts</translation>
+    </message>
+    <message>
+        <source>question of the game</source>
+        <translation>Frage des Spiels</translation>
+    </message>
+    <message>
+        <source>sign</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>branches of the mind map</source>
+        <translation>Äste der Mindmap</translation>
+    </message>
+    <message>
+        <source>text of the question</source>
+        <translation>Text der Frage</translation>
+    </message>
+    <message>
+        <source>answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>page that is open</source>
+        <translation>aufgeschlagene Seite</translation>
+    </message>
+    <message>
+        <source>size of the question</source>
+        <translation>Größe der Frage</translation>
+    </message>
+    <message>
+        <source>pieces of the game</source>
+        <translation>Teile des Spiels</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Things to connect</source>
+        <translation>Satz zum Verbinden</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Vorhang</translation>
+    </message>
+    <message>
+        <source>Things to sort</source>
+        <translation>Satz zum Sortieren</translation>
+    </message>
+    <message>
+        <source>Spotlight</source>
+        <translation>Scheinwerfer</translation>
+    </message>
+    <message>
+        <source>Compasses</source>
+        <translation>Zirkel</translation>
+    </message>
+    <message>
+        <source>Protractor</source>
+        <translation>Winkelmesser</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Set square of 30 and 60 degrees</source>
+        <translation>Zeichendreieck mit 30 und 60 Grad</translation>
+    </message>
+    <message>
+        <source>Set square of 45 degrees</source>
+        <translation>Zeichendreieck mit 45 Grad</translation>
+    </message>
+    <message>
+        <source>Basket of a game</source>
+        <translation>Korb eines Spiels</translation>
+    </message>
+    <message>
+        <source>Place to compare</source>
+        <translation>Vergleichsplatz</translation>
+    </message>
+    <message>
+        <source>Gap to fill</source>
+        <translation>Lücke zum Füllen</translation>
+    </message>
+    <message>
+        <source>Place of a sentence</source>
+        <translation>Platz für einen Satz</translation>
+    </message>
+    <message>
+        <source>Piece of a game</source>
+        <translation>Spielteil</translation>
+    </message>
+    <message>
+        <source>Piece to compare</source>
+        <translation>Vergleichsteil</translation>
+    </message>
+    <message>
+        <source>Piece of a contest</source>
+        <translation>Teil eines Wettkampfs</translation>
+    </message>
+    <message>
+        <source>Piece for a gap</source>
+        <translation>Teil für eine Lücke</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Punktestand</translation>
+    </message>
+    <message>
+        <source>Tip of a game</source>
+        <translation>Spielhinweis</translation>
+    </message>
+    <message>
+        <source>Part of a sentence</source>
+        <translation>Satzteil</translation>
+    </message>
+    <message>
+        <source>First player</source>
+        <translation>Erster Spieler</translation>
+    </message>
+    <message>
+        <source>Second player</source>
+        <translation>Zweiter Spieler</translation>
+    </message>
+    <message>
+        <source>Card to turn</source>
+        <translation>Wendekarte</translation>
+    </message>
+    <message>
+        <source>Text to read aloud</source>
+        <translation>Text zum Vorlesen</translation>
+    </message>
+    <message>
+        <source>Tip for reading aloud</source>
+        <translation>Hinweis zum Vorlesen</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Geschweifte Klammer</translation>
+    </message>
+    <message>
+        <source>Bracket</source>
+        <translation>Klammer</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>Sprechblase</translation>
+    </message>
+    <message>
+        <source>Division sign</source>
+        <translation>Divisionszeichen</translation>
+    </message>
+    <message>
+        <source>Arrow with two heads</source>
+        <translation>Doppelpfeil</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Equals sign</source>
+        <translation>Gleichheitszeichen</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>Fahne</translation>
+    </message>
+    <message>
+        <source>Free drawing</source>
+        <translation>Freihandzeichnung</translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation>Herz</translation>
+    </message>
+    <message>
+        <source>Minus sign</source>
+        <translation>Minuszeichen</translation>
+    </message>
+    <message>
+        <source>Multiplication sign</source>
+        <translation>Malzeichen</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Parallelogram</source>
+        <translation>Parallelogramm</translation>
+    </message>
+    <message>
+        <source>Five-pointed star</source>
+        <translation>Fünfzackiger Stern</translation>
+    </message>
+    <message>
+        <source>Plus sign</source>
+        <translation>Pluszeichen</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Rhombus</source>
+        <translation>Raute</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Haken</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Trapezium</source>
+        <translation>Trapez</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>Dreieck</translation>
+    </message>
+    <message>
+        <source>Not-equals sign</source>
+        <translation>Ungleichheitszeichen</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>Chalk stroke</source>
+        <translation>Kreidestrich</translation>
+    </message>
+    <message>
+        <source>Brush stroke</source>
+        <translation>Pinselstrich</translation>
+    </message>
+    <message>
+        <source>Benzene ring</source>
+        <translation>Benzolring</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>Formel</translation>
+    </message>
+    <message>
+        <source>Glass rod</source>
+        <translation>Glasstab</translation>
+    </message>
+    <message>
+        <source>Glass delivery tube</source>
+        <translation>Gläsernes Gasableitungsrohr</translation>
+    </message>
+    <message>
+        <source>Glass tube</source>
+        <translation>Glasrohr</translation>
+    </message>
+    <message>
+        <source>Glass stopper</source>
+        <translation>Glasstopfen</translation>
+    </message>
+    <message>
+        <source>Long-necked funnel</source>
+        <translation>Langhalstrichter</translation>
+    </message>
+    <message>
+        <source>Burette clamp</source>
+        <translation>Bürettenklemme</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Ausdruck</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Gewichtsstück</translation>
+    </message>
+    <message>
+        <source>Separating funnel</source>
+        <translation>Scheidetrichter</translation>
+    </message>
+    <message>
+        <source>Flask</source>
+        <translation>Kolben</translation>
+    </message>
+    <message>
+        <source>Drying bulb</source>
+        <translation>Trockenkugel</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Feststoff</translation>
+    </message>
+    <message>
+        <source>Flame</source>
+        <translation>Flamme</translation>
+    </message>
+    <message>
+        <source>Alkali burette</source>
+        <translation>Laugenbürette</translation>
+    </message>
+    <message>
+        <source>Gas jar</source>
+        <translation>Gassammelglas</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>Bindung</translation>
+    </message>
+    <message>
+        <source>Dropper</source>
+        <translation>Tropfpipette</translation>
+    </message>
+    <message>
+        <source>Spirit lamp</source>
+        <translation>Spiritusbrenner</translation>
+    </message>
+    <message>
+        <source>Condenser</source>
+        <translation>Kühler</translation>
+    </message>
+    <message>
+        <source>Measuring cylinder</source>
+        <translation>Messzylinder</translation>
+    </message>
+    <message>
+        <source>Funnel</source>
+        <translation>Trichter</translation>
+    </message>
+    <message>
+        <source>Wooden block</source>
+        <translation>Holzklotz</translation>
+    </message>
+    <message>
+        <source>Stopper</source>
+        <translation>Stopfen</translation>
+    </message>
+    <message>
+        <source>Tweezers</source>
+        <translation>Pinzette</translation>
+    </message>
+    <message>
+        <source>Bubble</source>
+        <translation>Blase</translation>
+    </message>
+    <message>
+        <source>Kipp&apos;s apparatus</source>
+        <translation>Kippscher Apparat</translation>
+    </message>
+    <message>
+        <source>Round separating funnel</source>
+        <translation>Runder Scheidetrichter</translation>
+    </message>
+    <message>
+        <source>Retort</source>
+        <translation>Retorte</translation>
+    </message>
+    <message>
+        <source>Burning spoon</source>
+        <translation>Verbrennungslöffel</translation>
+    </message>
+    <message>
+        <source>Volumetric flask</source>
+        <translation>Messkolben</translation>
+    </message>
+    <message>
+        <source>Acid burette</source>
+        <translation>Säurebürette</translation>
+    </message>
+    <message>
+        <source>Tripod</source>
+        <translation>Dreifuß</translation>
+    </message>
+    <message>
+        <source>Beaker</source>
+        <translation>Becherglas</translation>
+    </message>
+    <message>
+        <source>Test tube rack</source>
+        <translation>Reagenzglasständer</translation>
+    </message>
+    <message>
+        <source>Test tube clamp</source>
+        <translation>Reagenzglasklammer</translation>
+    </message>
+    <message>
+        <source>Reagent bottle</source>
+        <translation>Reagenzienflasche</translation>
+    </message>
+    <message>
+        <source>Wire gauze</source>
+        <translation>Drahtnetz</translation>
+    </message>
+    <message>
+        <source>Test tube</source>
+        <translation>Reagenzglas</translation>
+    </message>
+    <message>
+        <source>Electron transfer</source>
+        <translation>Elektronenübergang</translation>
+    </message>
+    <message>
+        <source>Water trough</source>
+        <translation>Wasserwanne</translation>
+    </message>
+    <message>
+        <source>Drop of water</source>
+        <translation>Wassertropfen</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Waage</translation>
+    </message>
+    <message>
+        <source>Iron stand</source>
+        <translation>Eisenstativ</translation>
+    </message>
+    <message>
+        <source>U-tube</source>
+        <translation>U-Rohr</translation>
+    </message>
+    <message>
+        <source>Thermometer</source>
+        <translation>Thermometer</translation>
+    </message>
+    <message>
+        <source>Rubber tube</source>
+        <translation>Gummischlauch</translation>
+    </message>
+    <message>
+        <source>Spatula</source>
+        <translation>Spatel</translation>
+    </message>
+    <message>
+        <source>Drainage tube</source>
+        <translation>Ableitungsrohr</translation>
+    </message>
+    <message>
+        <source>Atom</source>
+        <translation>Atom</translation>
+    </message>
+    <message>
+        <source>Evaporating dish</source>
+        <translation>Abdampfschale</translation>
+    </message>
+    <message>
+        <source>Conical flask</source>
+        <translation>Erlenmeyerkolben</translation>
+    </message>
+    <message>
+        <source>Pinyin letters</source>
+        <translation>Satz Pinyin-Buchstaben</translation>
+    </message>
+    <message>
+        <source>Chinese character</source>
+        <translation>Chinesisches Schriftzeichen</translation>
+    </message>
+    <message>
+        <source>Pinyin</source>
+        <translation>Pinyin-Text</translation>
+    </message>
+    <message>
+        <source>Pen stroke</source>
+        <translation>Stiftstrich</translation>
+    </message>
+    <message>
+        <source>Word art</source>
+        <translation>Schriftzug</translation>
+    </message>
+    <message>
+        <source>Moving worksheet</source>
+        <translation>Bewegtes Arbeitsblatt</translation>
+    </message>
+    <message>
+        <source>Highlighter</source>
+        <translation>Textmarkerstrich</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Strokes of a character</source>
+        <translation>Strichfolge eines Schriftzeichens</translation>
+    </message>
+    <message>
+        <source>Character with pinyin</source>
+        <translation>Schriftzeichen mit Pinyin</translation>
+    </message>
+    <message>
+        <source>Word with phonetics</source>
+        <translation>Wort mit Lautschrift</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Measured segment</source>
+        <translation>Gemessene Strecke</translation>
+    </message>
+    <message>
+        <source>Measured triangle</source>
+        <translation>Gemessenes Dreieck</translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation>Bogen</translation>
+    </message>
+    <message>
+        <source>Regular heptagon</source>
+        <translation>Regelmäßiges Siebeneck</translation>
+    </message>
+    <message>
+        <source>Regular hexagon</source>
+        <translation>Regelmäßiges Sechseck</translation>
+    </message>
+    <message>
+        <source>Regular octagon</source>
+        <translation>Regelmäßiges Achteck</translation>
+    </message>
+    <message>
+        <source>Regular pentagon</source>
+        <translation>Regelmäßiges Fünfeck</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Equilateral triangle</source>
+        <translation>Gleichseitiges Dreieck</translation>
+    </message>
+    <message>
+        <source>Pentagon</source>
+        <translation>Fünfeck</translation>
+    </message>
+    <message>
+        <source>Plane</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>Line of segments</source>
+        <translation>Streckenzug</translation>
+    </message>
+    <message>
+        <source>Quadrangle</source>
+        <translation>Viereck</translation>
+    </message>
+    <message>
+        <source>Cylinder</source>
+        <translation>Zylinder</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Kegel</translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation>Würfel</translation>
+    </message>
+    <message>
+        <source>Frustum of a cone</source>
+        <translation>Kegelstumpf</translation>
+    </message>
+    <message>
+        <source>Frustum of a pyramid</source>
+        <translation>Pyramidenstumpf</translation>
+    </message>
+    <message>
+        <source>Half sphere</source>
+        <translation>Halbkugel</translation>
+    </message>
+    <message>
+        <source>Intersecting planes</source>
+        <translation>Paar sich schneidender Ebenen</translation>
+    </message>
+    <message>
+        <source>Prism</source>
+        <translation>Prisma</translation>
+    </message>
+    <message>
+        <source>Pyramid</source>
+        <translation>Pyramide</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Kugel (Körper)</translation>
+    </message>
+    <message>
+        <source>Tetrahedron</source>
+        <translation>Tetraeder</translation>
+    </message>
+    <message>
+        <source>Coordinates with functions</source>
+        <translation>Koordinatensystem mit Funktionen</translation>
+    </message>
+    <message>
+        <source>Coordinates with parametric curves</source>
+        <translation>Koordinatensystem mit Parameterkurven</translation>
+    </message>
+    <message>
+        <source>Polar coordinates</source>
+        <translation>Polarkoordinatensystem</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Flash film</source>
+        <translation>Flash-Film</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Mind map</source>
+        <translation>Mindmap</translation>
+    </message>
+    <message>
+        <source>Ammeter</source>
+        <translation>Amperemeter</translation>
+    </message>
+    <message>
+        <source>Ammeter with a scale</source>
+        <translation>Amperemeter mit Skala</translation>
+    </message>
+    <message>
+        <source>Groove</source>
+        <translation>Mulde</translation>
+    </message>
+    <message>
+        <source>Concave lens, as a symbol</source>
+        <translation>Zerstreuungslinse als Zeichen</translation>
+    </message>
+    <message>
+        <source>Concave lens</source>
+        <translation>Zerstreuungslinse</translation>
+    </message>
+    <message>
+        <source>Half of a concave lens</source>
+        <translation>Halbe Zerstreuungslinse</translation>
+    </message>
+    <message>
+        <source>Half of a convex lens</source>
+        <translation>Halbe Sammellinse</translation>
+    </message>
+    <message>
+        <source>Conveyor belt</source>
+        <translation>Förderband</translation>
+    </message>
+    <message>
+        <source>Magnetic field</source>
+        <translation>Magnetfeld</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>Draht</translation>
+    </message>
+    <message>
+        <source>Electric field</source>
+        <translation>Elektrisches Feld</translation>
+    </message>
+    <message>
+        <source>Battery cell</source>
+        <translation>Batteriezelle</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batterie</translation>
+    </message>
+    <message>
+        <source>Lamp, as a symbol</source>
+        <translation>Lampe als Schaltzeichen</translation>
+    </message>
+    <message>
+        <source>Electric charge</source>
+        <translation>Elektrische Ladung</translation>
+    </message>
+    <message>
+        <source>Electric bell</source>
+        <translation>Elektrische Klingel</translation>
+    </message>
+    <message>
+        <source>Galvanometer</source>
+        <translation>Galvanometer</translation>
+    </message>
+    <message>
+        <source>Capacitor</source>
+        <translation>Kondensator</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Elektron</translation>
+    </message>
+    <message>
+        <source>Resistor</source>
+        <translation>Widerstand</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>Voltmeter with a scale</source>
+        <translation>Voltmeter mit Skala</translation>
+    </message>
+    <message>
+        <source>Lever</source>
+        <translation>Hebel</translation>
+    </message>
+    <message>
+        <source>Hooked weight</source>
+        <translation>Hakengewicht</translation>
+    </message>
+    <message>
+        <source>Stand for optics</source>
+        <translation>Stativ für Optik</translation>
+    </message>
+    <message>
+        <source>Sliding resistor, as a symbol</source>
+        <translation>Schiebewiderstand als Schaltzeichen</translation>
+    </message>
+    <message>
+        <source>Pulley</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Pulley block</source>
+        <translation>Flaschenzug</translation>
+    </message>
+    <message>
+        <source>Sliding resistor</source>
+        <translation>Schiebewiderstand</translation>
+    </message>
+    <message>
+        <source>Alternating current motor</source>
+        <translation>Wechselstrommotor</translation>
+    </message>
+    <message>
+        <source>Earth connection</source>
+        <translation>Erdung</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Schalter</translation>
+    </message>
+    <message>
+        <source>Two-way switch</source>
+        <translation>Wechselschalter</translation>
+    </message>
+    <message>
+        <source>Knife switch</source>
+        <translation>Messerschalter</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Loudspeaker</source>
+        <translation>Lautsprecher</translation>
+    </message>
+    <message>
+        <source>Candle</source>
+        <translation>Kerze</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Kraft</translation>
+    </message>
+    <message>
+        <source>Propeller</source>
+        <translation>Propeller</translation>
+    </message>
+    <message>
+        <source>Wooden rod</source>
+        <translation>Holzstab</translation>
+    </message>
+    <message>
+        <source>Cylinder with a piston</source>
+        <translation>Zylinder mit Kolben</translation>
+    </message>
+    <message>
+        <source>Inclined plane</source>
+        <translation>Schiefe Ebene</translation>
+    </message>
+    <message>
+        <source>Meter</source>
+        <translation>Messgerät</translation>
+    </message>
+    <message>
+        <source>Spring</source>
+        <translation>Feder</translation>
+    </message>
+    <message>
+        <source>Spring balance</source>
+        <translation>Federwaage</translation>
+    </message>
+    <message>
+        <source>Bar magnet</source>
+        <translation>Stabmagnet</translation>
+    </message>
+    <message>
+        <source>Iron core</source>
+        <translation>Eisenkern</translation>
+    </message>
+    <message>
+        <source>Convex lens, as a symbol</source>
+        <translation>Sammellinse als Zeichen</translation>
+    </message>
+    <message>
+        <source>Convex lens</source>
+        <translation>Sammellinse</translation>
+    </message>
+    <message>
+        <source>Horseshoe magnet</source>
+        <translation>Hufeisenmagnet</translation>
+    </message>
+    <message>
+        <source>Voltmeter</source>
+        <translation>Voltmeter</translation>
+    </message>
+    <message>
+        <source>Battery, as a symbol</source>
+        <translation>Batterie als Schaltzeichen</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Spule</translation>
+    </message>
+    <message>
+        <source>Trolley</source>
+        <translation>Wagen</translation>
+    </message>
+    <message>
+        <source>Compass needle</source>
+        <translation>Magnetnadel</translation>
+    </message>
+    <message>
+        <source>Ball</source>
+        <translation>Kugel</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Hang</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>Drehknopf</translation>
+    </message>
+    <message>
+        <source>Vernier caliper</source>
+        <translation>Messschieber</translation>
+    </message>
+    <message>
+        <source>Round groove</source>
+        <translation>Runde Mulde</translation>
+    </message>
+    <message>
+        <source>Curved slide</source>
+        <translation>Gebogene Rutsche</translation>
+    </message>
+    <message>
+        <source>Direct current motor</source>
+        <translation>Gleichstrommotor</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
+    <message>
+        <source>One-sided arrow</source>
+        <translation>Einseitiger Pfeil</translation>
+    </message>
+    <message>
+        <source>Square bracket</source>
+        <translation>Eckige Klammer</translation>
+    </message>
+    <message>
+        <source>Aeroplane</source>
+        <translation>Flugzeug</translation>
+    </message>
+    <message>
+        <source>Angle bracket</source>
+        <translation>Spitze Klammer</translation>
+    </message>
+    <message>
+        <source>Callout with an arrow</source>
+        <translation>Legende mit Pfeil</translation>
+    </message>
+    <message>
+        <source>Connecting line</source>
+        <translation>Verbindungslinie</translation>
+    </message>
+    <message>
+        <source>Curved arrow</source>
+        <translation>Gebogener Pfeil</translation>
+    </message>
+    <message>
+        <source>One to many</source>
+        <translation>Linie von einem zu vielen</translation>
+    </message>
+    <message>
+        <source>Round bracket</source>
+        <translation>Runde Klammer</translation>
+    </message>
+    <message>
+        <source>Cloud</source>
+        <translation>Wolke</translation>
+    </message>
+    <message>
+        <source>Straight arrow</source>
+        <translation>Gerader Pfeil</translation>
+    </message>
+    <message>
+        <source>Textured stroke</source>
+        <translation>Strich mit Muster</translation>
+    </message>
+    <message>
+        <source>Handwritten formula</source>
+        <translation>Handgeschriebene Formel</translation>
+    </message>
+    <message>
+        <source>Bamboo brush stroke</source>
+        <translation>Bambuspinselstrich</translation>
+    </message>
+    <message>
+        <source>Rubbed out ink</source>
+        <translation>Radierspur</translation>
+    </message>
+    <message>
+        <source>Stamp</source>
+        <translation>Stempel</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Explosion</source>
+        <translation>Explosion</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Welle</translation>
+    </message>
+    <message>
+        <source>Block arrow</source>
+        <translation>Blockpfeil</translation>
+    </message>
+    <message>
+        <source>Hexagon</source>
+        <translation>Sechseck</translation>
+    </message>
+    <message>
+        <source>Sector</source>
+        <translation>Kreisausschnitt</translation>
+    </message>
+    <message>
+        <source>Lightning</source>
+        <translation>Blitz</translation>
+    </message>
+    <message>
+        <source>Tile</source>
+        <translation>Ziegel</translation>
+    </message>
+    <message>
+        <source>Smiley</source>
+        <translation>Smiley</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>Stern</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation>Abgerundetes Rechteck</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <translation>Mond</translation>
+    </message>
+    <message>
+        <source>Bullet</source>
+        <translation>Geschoss</translation>
+    </message>
+    <message>
+        <source>Words in squares</source>
+        <translation>Satz Wörter in Kästchen</translation>
+    </message>
+    <message>
+        <source>Item of a subject</source>
+        <translation>Element eines Fachs</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Verknüpfung</translation>
+    </message>
+    <message>
+        <source>Copy of a shape</source>
+        <translation>Kopie einer Form</translation>
+    </message>
+    <message>
+        <source>0 or 1</source>
+        <translation>0 oder 1</translation>
+    </message>
+    <message>
+        <source>four numbers, none of them more than %1 from 0</source>
+        <translation>vier Zahlen, keine weiter als %1 von 0</translation>
+    </message>
+    <message>
+        <source>six numbers, none of them more than %1 from 0</source>
+        <translation>sechs Zahlen, keine weiter als %1 von 0</translation>
+    </message>
+    <message>
+        <source>pairs of numbers, none of them more than %1 from 0</source>
+        <translation>Paare von Zahlen, keine weiter als %1 von 0</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a colour</source>
+        <translation>eine Farbe</translation>
+    </message>
+    <message>
+        <source>a slide from 1 to %1</source>
+        <translation>eine Folie von 1 bis %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values aren&apos;t in the lesson: %1</source>
+        <translation>
+            <numerusform>%n Wert ist nicht in der Lektion: %1</numerusform>
+            <numerusform>%n Werte sind nicht in der Lektion: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides are empty in the result: %1</source>
+        <translation>
+            <numerusform>%n Folie ist im Ergebnis leer: %1</numerusform>
+            <numerusform>%n Folien sind im Ergebnis leer: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides are empty on other boards: %1</source>
+        <translation>
+            <numerusform>%n Folie ist auf anderen Tafeln leer: %1</numerusform>
+            <numerusform>%n Folien sind auf anderen Tafeln leer: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the lesson</source>
+        <translation>die Lektion</translation>
+    </message>
+    <message>
+        <source>slide %1</source>
+        <translation>Folie %1</translation>
+    </message>
+    <message>
+        <source>slides %1 to %2</source>
+        <translation>Folien %1 bis %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides from %1 to %2</source>
+        <translation>
+            <numerusform>%n Folie von %1 bis %2</numerusform>
+            <numerusform>%n Folien von %1 bis %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other items</source>
+        <translation>
+            <numerusform>%n anderes Element</numerusform>
+            <numerusform>%n andere Elemente</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>as a picture</source>
+        <translation>als Bild</translation>
+    </message>
+    <message>
+        <source>other boards have no such thing</source>
+        <translation>andere Tafeln kennen so etwas nicht</translation>
+    </message>
+    <message>
+        <source>this format has no such thing</source>
+        <translation>dieses Format kennt so etwas nicht</translation>
+    </message>
+    <message>
+        <source>Slide %1 is empty in the result.</source>
+        <translation>Folie %1 ist im Ergebnis leer.</translation>
+    </message>
+    <message>
+        <source>Slide %1 is empty there.</source>
+        <translation>Folie %1 ist dort leer.</translation>
+    </message>
+    <message>
+        <source>%1 (%2): %3.</source>
+        <translation>%1 (%2): %3.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2-mal)</translation>
+    </message>
+    <message>
+        <source>The lesson itself travels along in the file, so that lessonconv brings all of it back.</source>
+        <translation>Die Lektion selbst reist in der Datei mit, sodass lessonconv alles davon zurückholt.</translation>
+    </message>
+    <message>
+        <source>--report FILE names each.</source>
+        <translation>--report DATEI nennt alles einzeln.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>nobody knows what it is, so it is kept as it came</source>
+        <translation>niemand weiß, was es ist, daher bleibt es, wie es kam</translation>
+    </message>
+    <message numerus="yes">
+        <source>Note: and %n more.</source>
+        <translation>
+            <numerusform>Hinweis: und %n weitere.</numerusform>
+            <numerusform>Hinweis: und %n weitere.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not shown by other boards</source>
+        <translation>Von anderen Tafeln nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>Not shown in the result</source>
+        <translation>Im Ergebnis nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>Shown by other boards, but not the same</source>
+        <translation>Von anderen Tafeln anders gezeigt</translation>
+    </message>
+    <message>
+        <source>Shown in the result, but not the same</source>
+        <translation>Im Ergebnis gezeigt, aber anders</translation>
+    </message>
+    <message>
+        <source>Only internal, and nothing to other boards</source>
+        <translation>Nur intern und für andere Tafeln ohne Bedeutung</translation>
+    </message>
+    <message>
+        <source>Only internal, seen by nobody</source>
+        <translation>Nur intern, von niemandem gesehen</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Shown in the result the same, but it works otherwise</source>
+        <translation>Im Ergebnis gleich gezeigt, verhält sich aber anders</translation>
     </message>
 </context>
 </TS>

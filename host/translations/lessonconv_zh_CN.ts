@@ -418,10 +418,6 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <translation>输入的格式，用于文件名无法说明的情况。</translation>
     </message>
     <message>
-        <source>The format of the output, where its name doesn&apos;t tell.</source>
-        <translation>输出的格式，用于文件名无法说明的情况。</translation>
-    </message>
-    <message>
         <source>Many: the folder for the results.</source>
         <translation>多个课件：存放结果的文件夹。</translation>
     </message>
@@ -2082,10 +2078,6 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <translation>没有丢失任何内容。</translation>
     </message>
     <message>
-        <source>Missing: %1</source>
-        <translation>缺少：%1</translation>
-    </message>
-    <message>
         <source>A picture of slide %1 would have %2 x %3 pixels, which are more than %4 million</source>
         <translation>幻灯片 %1 的图片将有 %2 x %3 像素，超过 %4 百万</translation>
     </message>
@@ -2348,18 +2340,6 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     <message>
         <source>Missing, and not shown in the first one: %1</source>
         <translation>缺少且第一个中也不显示：%1</translation>
-    </message>
-    <message>
-        <source>Missing or other values: %1</source>
-        <translation>缺少或不同的值：%1</translation>
-    </message>
-    <message>
-        <source>Both look the same and work otherwise: %1</source>
-        <translation>两者看起来相同但行为不同：%1</translation>
-    </message>
-    <message>
-        <source>Both look the same. Missing or other values: %1</source>
-        <translation>两者看起来相同。缺少或不同的值：%1</translation>
     </message>
     <message>
         <source>the link to &quot;%1&quot; leads to the page of it</source>
@@ -2626,6 +2606,3466 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     <message>
         <source>Slide %1 has lines of %2 points, and no page of IWB may have more than %3</source>
         <translation>幻灯片 %1 的线条有 %2 个点，而 IWB 的每页不得超过 %3 个</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n checked</source>
+        <translation>
+            <numerusform>%n 个已检查</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not checked</source>
+        <translation>
+            <numerusform>%n 个未检查</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not checked:</source>
+        <translation>未检查：</translation>
+    </message>
+    <message numerus="yes">
+        <source>Not checked, of %n lessons the first %1:</source>
+        <translation>
+            <numerusform>%n 个课件未检查，前 %1 个：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The check took longer than %1 s</source>
+        <translation>检查用时超过 %1 秒</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are missing or wrong; %1 names each.</source>
+        <translation>
+            <numerusform>有 %n 处缺失或错误；%1 会逐一列出。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is it whole, and what would other formats lose</source>
+        <translation>是否完整，转成其他格式会丢失什么</translation>
+    </message>
+    <message>
+        <source>checks many lessons, or all in a folder</source>
+        <translation>检查多个课件，或文件夹中的全部课件</translation>
+    </message>
+    <message>
+        <source>The format of the output, where its name doesn&apos;t tell; with check, the only one to try.</source>
+        <translation>输出的格式（当名称不能说明时）；用于 check 时，只尝试该格式。</translation>
+    </message>
+    <message>
+        <source>The lesson</source>
+        <translation>课件</translation>
+    </message>
+    <message>
+        <source>Slide %1, %2</source>
+        <translation>幻灯片 %1，%2</translation>
+    </message>
+    <message>
+        <source>Slide %1, %2 &quot;%3&quot;</source>
+        <translation>幻灯片 %1，%2“%3”</translation>
+    </message>
+    <message>
+        <source>%1: the file %2 isn&apos;t there.</source>
+        <translation>%1：缺少文件 %2。</translation>
+    </message>
+    <message>
+        <source>%1: the file %2 can&apos;t be shown: %3.</source>
+        <translation>%1：文件 %2 无法显示：%3。</translation>
+    </message>
+    <message>
+        <source>%1: nobody knows what this is.</source>
+        <translation>%1：不知道这是什么。</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1：%2。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is &quot;%3&quot; and has to be %4.</source>
+        <translation>%1：“%2”的值是“%3”，应为：%4。</translation>
+    </message>
+    <message>
+        <source>the points are not in the file</source>
+        <translation>文件中没有笔迹的点</translation>
+    </message>
+    <message>
+        <source>%1 is whole.</source>
+        <translation>%1 是完整的。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 isn&apos;t whole; %n things are wrong:</source>
+        <translation>
+            <numerusform>%1 不完整，有 %n 处问题：</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>另有 %n 项。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2, %3.</source>
+        <translation>%1，%2，%3。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides</source>
+        <translation>
+            <numerusform>%n 张幻灯片</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n 个对象</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n 个文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>When it is read:</source>
+        <translation>读取时：</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t hold it: %2</source>
+        <translation>%1 无法容纳该课件：%2</translation>
+    </message>
+    <message>
+        <source>Written as %1, it loses nothing.</source>
+        <translation>写成 %1 时不会丢失任何内容。</translation>
+    </message>
+    <message>
+        <source>Written as %1:</source>
+        <translation>写成 %1 时：</translation>
+    </message>
+    <message>
+        <source>it is hidden</source>
+        <translation>它是隐藏的</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n acid burettes</source>
+        <translation>
+            <numerusform>%n 个酸式滴定管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n aeroplanes</source>
+        <translation>
+            <numerusform>%n 个飞机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alkali burettes</source>
+        <translation>
+            <numerusform>%n 个碱式滴定管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n alternating current motors</source>
+        <translation>
+            <numerusform>%n 个交流电动机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ammeters</source>
+        <translation>
+            <numerusform>%n 个电流表</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ammeters with a scale</source>
+        <translation>
+            <numerusform>%n 个带刻度的电流表</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n angles</source>
+        <translation>
+            <numerusform>%n 个角</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n angle brackets</source>
+        <translation>
+            <numerusform>%n 个尖括号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n 个弧</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arrows</source>
+        <translation>
+            <numerusform>%n 个箭头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arrows with two heads</source>
+        <translation>
+            <numerusform>%n 个双向箭头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n atoms</source>
+        <translation>
+            <numerusform>%n 个原子</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n balances</source>
+        <translation>
+            <numerusform>%n 个天平</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n balls</source>
+        <translation>
+            <numerusform>%n 个小球</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bamboo brush strokes</source>
+        <translation>
+            <numerusform>%n 个竹笔笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bar magnets</source>
+        <translation>
+            <numerusform>%n 个条形磁铁</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n baskets of games</source>
+        <translation>
+            <numerusform>%n 个游戏的容器</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n batteries</source>
+        <translation>
+            <numerusform>%n 个电池组</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n battery cells</source>
+        <translation>
+            <numerusform>%n 个电池</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n batteries, as symbols</source>
+        <translation>
+            <numerusform>%n 个电池符号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n beakers</source>
+        <translation>
+            <numerusform>%n 个烧杯</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n benzene rings</source>
+        <translation>
+            <numerusform>%n 个苯环</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n block arrows</source>
+        <translation>
+            <numerusform>%n 个块状箭头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bonds</source>
+        <translation>
+            <numerusform>%n 个化学键</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n braces</source>
+        <translation>
+            <numerusform>%n 个花括号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n brackets</source>
+        <translation>
+            <numerusform>%n 个括号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n brush strokes</source>
+        <translation>
+            <numerusform>%n 个毛笔笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bubbles</source>
+        <translation>
+            <numerusform>%n 个气泡</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bullets</source>
+        <translation>
+            <numerusform>%n 个子弹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n burette clamps</source>
+        <translation>
+            <numerusform>%n 个滴定管夹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n burning spoons</source>
+        <translation>
+            <numerusform>%n 个燃烧匙</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n callouts with arrows</source>
+        <translation>
+            <numerusform>%n 个箭头标注</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n candles</source>
+        <translation>
+            <numerusform>%n 个蜡烛</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n capacitors</source>
+        <translation>
+            <numerusform>%n 个电容</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cards to turn</source>
+        <translation>
+            <numerusform>%n 个翻转卡片</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of cards</source>
+        <translation>
+            <numerusform>%n 个卡片</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chalk strokes</source>
+        <translation>
+            <numerusform>%n 个粉笔笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters with pinyin</source>
+        <translation>
+            <numerusform>%n 个带拼音的汉字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Chinese characters</source>
+        <translation>
+            <numerusform>%n 个汉字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n 个圆</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clouds</source>
+        <translation>
+            <numerusform>%n 个云</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n coils</source>
+        <translation>
+            <numerusform>%n 个线圈</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compass needles</source>
+        <translation>
+            <numerusform>%n 个小磁针</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pairs of compasses</source>
+        <translation>
+            <numerusform>%n 个圆规</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concave lenses</source>
+        <translation>
+            <numerusform>%n 个凹透镜</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concave lenses, as symbols</source>
+        <translation>
+            <numerusform>%n 个凹透镜符号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condensers</source>
+        <translation>
+            <numerusform>%n 个冷凝管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cones</source>
+        <translation>
+            <numerusform>%n 个圆锥</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n conical flasks</source>
+        <translation>
+            <numerusform>%n 个锥形瓶</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n connecting lines</source>
+        <translation>
+            <numerusform>%n 个连接线</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n convex lenses</source>
+        <translation>
+            <numerusform>%n 个凸透镜</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n convex lenses, as symbols</source>
+        <translation>
+            <numerusform>%n 个凸透镜符号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n conveyor belts</source>
+        <translation>
+            <numerusform>%n 个传送带</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n coordinates with functions</source>
+        <translation>
+            <numerusform>%n 个函数坐标系</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n coordinates with parametric curves</source>
+        <translation>
+            <numerusform>%n 个参数坐标系</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies of shapes</source>
+        <translation>
+            <numerusform>%n 个形状的副本</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n crosses</source>
+        <translation>
+            <numerusform>%n 个叉</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cubes</source>
+        <translation>
+            <numerusform>%n 个立方体</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n curtains</source>
+        <translation>
+            <numerusform>%n 个幕布</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n curved arrows</source>
+        <translation>
+            <numerusform>%n 个曲线箭头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n curved slides</source>
+        <translation>
+            <numerusform>%n 个圆弧滑板</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cylinders</source>
+        <translation>
+            <numerusform>%n 个圆柱</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cylinders with a piston</source>
+        <translation>
+            <numerusform>%n 个气缸</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n direct current motors</source>
+        <translation>
+            <numerusform>%n 个直流电动机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n distances</source>
+        <translation>
+            <numerusform>%n 个距离</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n division signs</source>
+        <translation>
+            <numerusform>%n 个除号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents</source>
+        <translation>
+            <numerusform>%n 个文档</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drainage tubes</source>
+        <translation>
+            <numerusform>%n 个引流管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drops of water</source>
+        <translation>
+            <numerusform>%n 个水滴</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n droppers</source>
+        <translation>
+            <numerusform>%n 个胶头滴管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drying bulbs</source>
+        <translation>
+            <numerusform>%n 个干燥球</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n earth connections</source>
+        <translation>
+            <numerusform>%n 个接地</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electric bells</source>
+        <translation>
+            <numerusform>%n 个电铃</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electric charges</source>
+        <translation>
+            <numerusform>%n 个电荷</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electric fields</source>
+        <translation>
+            <numerusform>%n 个电场</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electrons</source>
+        <translation>
+            <numerusform>%n 个电子</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n electron transfers</source>
+        <translation>
+            <numerusform>%n 个双线桥</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n 个椭圆</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n equals signs</source>
+        <translation>
+            <numerusform>%n 个等号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n equilateral triangles</source>
+        <translation>
+            <numerusform>%n 个等边三角形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n evaporating dishes</source>
+        <translation>
+            <numerusform>%n 个蒸发皿</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n explosions</source>
+        <translation>
+            <numerusform>%n 个爆炸形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n expressions</source>
+        <translation>
+            <numerusform>%n 个表达式</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films</source>
+        <translation>
+            <numerusform>%n 个视频</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n first players</source>
+        <translation>
+            <numerusform>%n 个一号选手</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n five-pointed stars</source>
+        <translation>
+            <numerusform>%n 个五角星</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flags</source>
+        <translation>
+            <numerusform>%n 个旗帜</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flames</source>
+        <translation>
+            <numerusform>%n 个火焰</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Flash films</source>
+        <translation>
+            <numerusform>%n 个Flash 动画</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flasks</source>
+        <translation>
+            <numerusform>%n 个烧瓶</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n forces</source>
+        <translation>
+            <numerusform>%n 个力</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n formulas</source>
+        <translation>
+            <numerusform>%n 个公式</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n free drawings</source>
+        <translation>
+            <numerusform>%n 个自由绘图</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frustums of cones</source>
+        <translation>
+            <numerusform>%n 个圆台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frustums of pyramids</source>
+        <translation>
+            <numerusform>%n 个棱台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n funnels</source>
+        <translation>
+            <numerusform>%n 个漏斗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n galvanometers</source>
+        <translation>
+            <numerusform>%n 个电流计</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gaps to fill</source>
+        <translation>
+            <numerusform>%n 个填空</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gas jars</source>
+        <translation>
+            <numerusform>%n 个集气瓶</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass delivery tubes</source>
+        <translation>
+            <numerusform>%n 个玻璃导管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass rods</source>
+        <translation>
+            <numerusform>%n 个玻璃棒</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass stoppers</source>
+        <translation>
+            <numerusform>%n 个玻璃塞</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n glass tubes</source>
+        <translation>
+            <numerusform>%n 个玻璃管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n grooves</source>
+        <translation>
+            <numerusform>%n 个凹槽</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n groups</source>
+        <translation>
+            <numerusform>%n 个组合</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n halves of concave lenses</source>
+        <translation>
+            <numerusform>%n 个半凹透镜</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n halves of convex lenses</source>
+        <translation>
+            <numerusform>%n 个半凸透镜</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n half spheres</source>
+        <translation>
+            <numerusform>%n 个半球</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n handwritten formulas</source>
+        <translation>
+            <numerusform>%n 个手写公式</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hearts</source>
+        <translation>
+            <numerusform>%n 个心形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hexagons</source>
+        <translation>
+            <numerusform>%n 个六边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n highlighter strokes</source>
+        <translation>
+            <numerusform>%n 个荧光笔笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hooked weights</source>
+        <translation>
+            <numerusform>%n 个钩码</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n horseshoe magnets</source>
+        <translation>
+            <numerusform>%n 个U 形磁铁</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inclined planes</source>
+        <translation>
+            <numerusform>%n 个斜面</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pairs of intersecting planes</source>
+        <translation>
+            <numerusform>%n 个相交平面</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n iron cores</source>
+        <translation>
+            <numerusform>%n 个铁芯</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n iron stands</source>
+        <translation>
+            <numerusform>%n 个铁架台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items of subjects</source>
+        <translation>
+            <numerusform>%n 个学科对象</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Kipp&apos;s apparatuses</source>
+        <translation>
+            <numerusform>%n 个启普发生器</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n knife switches</source>
+        <translation>
+            <numerusform>%n 个闸刀开关</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n knobs</source>
+        <translation>
+            <numerusform>%n 个旋钮</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lamps</source>
+        <translation>
+            <numerusform>%n 个电灯</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lamps, as symbols</source>
+        <translation>
+            <numerusform>%n 个电灯符号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n levers</source>
+        <translation>
+            <numerusform>%n 个杠杆</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bolts of lightning</source>
+        <translation>
+            <numerusform>%n 个闪电</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of segments</source>
+        <translation>
+            <numerusform>%n 个折线</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n 个链接</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n long-necked funnels</source>
+        <translation>
+            <numerusform>%n 个长颈漏斗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n loudspeakers</source>
+        <translation>
+            <numerusform>%n 个喇叭</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n magnetic fields</source>
+        <translation>
+            <numerusform>%n 个磁场</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measured segments</source>
+        <translation>
+            <numerusform>%n 个测量线段</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measured triangles</source>
+        <translation>
+            <numerusform>%n 个测量三角形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measuring cylinders</source>
+        <translation>
+            <numerusform>%n 个量筒</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n meters</source>
+        <translation>
+            <numerusform>%n 个仪表</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mind maps</source>
+        <translation>
+            <numerusform>%n 个思维导图</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minus signs</source>
+        <translation>
+            <numerusform>%n 个减号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moons</source>
+        <translation>
+            <numerusform>%n 个月亮</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moving worksheets</source>
+        <translation>
+            <numerusform>%n 个动态课件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n multiplication signs</source>
+        <translation>
+            <numerusform>%n 个乘号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not-equals signs</source>
+        <translation>
+            <numerusform>%n 个不等号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n one-to-many lines</source>
+        <translation>
+            <numerusform>%n 个一对多连线</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n one-sided arrows</source>
+        <translation>
+            <numerusform>%n 个单边箭头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n 个页面形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parallelograms</source>
+        <translation>
+            <numerusform>%n 个平行四边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parts of sentences</source>
+        <translation>
+            <numerusform>%n 个句子成分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pen strokes</source>
+        <translation>
+            <numerusform>%n 个笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pentagons</source>
+        <translation>
+            <numerusform>%n 个五边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n 个图片</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces for gaps</source>
+        <translation>
+            <numerusform>%n 个填空素材</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of contests</source>
+        <translation>
+            <numerusform>%n 个竞赛素材</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of games</source>
+        <translation>
+            <numerusform>%n 个游戏素材</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces to compare</source>
+        <translation>
+            <numerusform>%n 个比较素材</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of pinyin</source>
+        <translation>
+            <numerusform>%n 个拼音</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of pinyin letters</source>
+        <translation>
+            <numerusform>%n 个拼音字母</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n places of sentences</source>
+        <translation>
+            <numerusform>%n 个句子位置</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n places to compare</source>
+        <translation>
+            <numerusform>%n 个比较位置</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n planes</source>
+        <translation>
+            <numerusform>%n 个平面</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plus signs</source>
+        <translation>
+            <numerusform>%n 个加号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n 个点</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n systems of polar coordinates</source>
+        <translation>
+            <numerusform>%n 个极坐标系</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n prisms</source>
+        <translation>
+            <numerusform>%n 个棱柱</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n propellers</source>
+        <translation>
+            <numerusform>%n 个螺旋桨</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n protractors</source>
+        <translation>
+            <numerusform>%n 个量角器</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pulleys</source>
+        <translation>
+            <numerusform>%n 个滑轮</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pulley blocks</source>
+        <translation>
+            <numerusform>%n 个滑轮组</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pyramids</source>
+        <translation>
+            <numerusform>%n 个棱锥</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n quadrangles</source>
+        <translation>
+            <numerusform>%n 个四边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n questions</source>
+        <translation>
+            <numerusform>%n 个题目</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reagent bottles</source>
+        <translation>
+            <numerusform>%n 个试剂瓶</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rectangles</source>
+        <translation>
+            <numerusform>%n 个矩形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular heptagons</source>
+        <translation>
+            <numerusform>%n 个正七边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular hexagons</source>
+        <translation>
+            <numerusform>%n 个正六边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular octagons</source>
+        <translation>
+            <numerusform>%n 个正八边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n regular pentagons</source>
+        <translation>
+            <numerusform>%n 个正五边形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n resistors</source>
+        <translation>
+            <numerusform>%n 个电阻</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n retorts</source>
+        <translation>
+            <numerusform>%n 个曲颈甑</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rhombuses</source>
+        <translation>
+            <numerusform>%n 个菱形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n round brackets</source>
+        <translation>
+            <numerusform>%n 个圆括号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n round grooves</source>
+        <translation>
+            <numerusform>%n 个圆槽</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n round separating funnels</source>
+        <translation>
+            <numerusform>%n 个球形分液漏斗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rounded rectangles</source>
+        <translation>
+            <numerusform>%n 个圆角矩形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n traces of rubbed out ink</source>
+        <translation>
+            <numerusform>%n 个擦除的笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rubber tubes</source>
+        <translation>
+            <numerusform>%n 个橡皮管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rulers</source>
+        <translation>
+            <numerusform>%n 个直尺</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scales</source>
+        <translation>
+            <numerusform>%n 个刻度</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scores</source>
+        <translation>
+            <numerusform>%n 个得分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second players</source>
+        <translation>
+            <numerusform>%n 个二号选手</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sectors</source>
+        <translation>
+            <numerusform>%n 个扇形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n segments</source>
+        <translation>
+            <numerusform>%n 个线段</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n separating funnels</source>
+        <translation>
+            <numerusform>%n 个分液漏斗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set squares of 30 and 60 degrees</source>
+        <translation>
+            <numerusform>%n 个30°、60° 三角板</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set squares of 45 degrees</source>
+        <translation>
+            <numerusform>%n 个45° 三角板</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shapes</source>
+        <translation>
+            <numerusform>%n 个形状</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sliding resistors</source>
+        <translation>
+            <numerusform>%n 个滑动变阻器</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sliding resistors, as symbols</source>
+        <translation>
+            <numerusform>%n 个滑动变阻器符号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slopes</source>
+        <translation>
+            <numerusform>%n 个坡面</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n smileys</source>
+        <translation>
+            <numerusform>%n 个笑脸</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n solids</source>
+        <translation>
+            <numerusform>%n 个固状物</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sounds</source>
+        <translation>
+            <numerusform>%n 个声音</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spatulas</source>
+        <translation>
+            <numerusform>%n 个药匙</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n speech bubbles</source>
+        <translation>
+            <numerusform>%n 个对话框</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spheres</source>
+        <translation>
+            <numerusform>%n 个球体</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spirit lamps</source>
+        <translation>
+            <numerusform>%n 个酒精灯</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spotlights</source>
+        <translation>
+            <numerusform>%n 个聚光灯</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n springs</source>
+        <translation>
+            <numerusform>%n 个弹簧</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n spring balances</source>
+        <translation>
+            <numerusform>%n 个弹簧秤</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n squares</source>
+        <translation>
+            <numerusform>%n 个正方形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n square brackets</source>
+        <translation>
+            <numerusform>%n 个方括号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stamps</source>
+        <translation>
+            <numerusform>%n 个图章</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stands for optics</source>
+        <translation>
+            <numerusform>%n 个光学支架</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n 个星形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stoppers</source>
+        <translation>
+            <numerusform>%n 个塞子</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n straight arrows</source>
+        <translation>
+            <numerusform>%n 个直线箭头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of strokes of a character</source>
+        <translation>
+            <numerusform>%n 个汉字笔画</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n switches</source>
+        <translation>
+            <numerusform>%n 个开关</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n test tubes</source>
+        <translation>
+            <numerusform>%n 个试管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n test tube clamps</source>
+        <translation>
+            <numerusform>%n 个试管夹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n test tube racks</source>
+        <translation>
+            <numerusform>%n 个试管架</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tetrahedra</source>
+        <translation>
+            <numerusform>%n 个四面体</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n 个文本</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts to read aloud</source>
+        <translation>
+            <numerusform>%n 个朗读文本</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n textured strokes</source>
+        <translation>
+            <numerusform>%n 个纹理笔迹</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thermometers</source>
+        <translation>
+            <numerusform>%n 个温度计</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of things to connect</source>
+        <translation>
+            <numerusform>%n 个连线题</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of things to sort</source>
+        <translation>
+            <numerusform>%n 个分类题</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ticks</source>
+        <translation>
+            <numerusform>%n 个对号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tiles</source>
+        <translation>
+            <numerusform>%n 个瓦片形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tips for reading aloud</source>
+        <translation>
+            <numerusform>%n 个朗读提示</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tips of games</source>
+        <translation>
+            <numerusform>%n 个游戏提示</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trapeziums</source>
+        <translation>
+            <numerusform>%n 个梯形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n triangles</source>
+        <translation>
+            <numerusform>%n 个三角形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tripods</source>
+        <translation>
+            <numerusform>%n 个三脚架</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trolleys</source>
+        <translation>
+            <numerusform>%n 个小车</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pairs of tweezers</source>
+        <translation>
+            <numerusform>%n 个镊子</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n two-way switches</source>
+        <translation>
+            <numerusform>%n 个双向开关</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n U-tubes</source>
+        <translation>
+            <numerusform>%n 个U 形管</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n vernier calipers</source>
+        <translation>
+            <numerusform>%n 个游标卡尺</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n voltmeters</source>
+        <translation>
+            <numerusform>%n 个电压表</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n voltmeters with a scale</source>
+        <translation>
+            <numerusform>%n 个带刻度的电压表</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n volumetric flasks</source>
+        <translation>
+            <numerusform>%n 个容量瓶</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n water troughs</source>
+        <translation>
+            <numerusform>%n 个水槽</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n waves</source>
+        <translation>
+            <numerusform>%n 个波浪形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weights</source>
+        <translation>
+            <numerusform>%n 个砝码</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wires</source>
+        <translation>
+            <numerusform>%n 个导线</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wire gauzes</source>
+        <translation>
+            <numerusform>%n 个石棉网</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wooden blocks</source>
+        <translation>
+            <numerusform>%n 个木块</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wooden rods</source>
+        <translation>
+            <numerusform>%n 个木棒</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of word art</source>
+        <translation>
+            <numerusform>%n 个艺术字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n words with phonetics</source>
+        <translation>
+            <numerusform>%n 个带音标的单词</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sets of words in squares</source>
+        <translation>
+            <numerusform>%n 个田字格文字</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <translation>标识符</translation>
+    </message>
+    <message>
+        <source>kind of item</source>
+        <translation>对象类型</translation>
+    </message>
+    <message>
+        <source>setting of the editor</source>
+        <translation>编辑器设置</translation>
+    </message>
+    <message>
+        <source>whether it is shown</source>
+        <translation>是否显示</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>copies without end</source>
+        <translation>无限复制</translation>
+    </message>
+    <message>
+        <source>mark of the eraser</source>
+        <translation>橡皮擦标记</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>place and size</source>
+        <translation>位置和大小</translation>
+    </message>
+    <message>
+        <source>place and size in the file</source>
+        <translation>文件中的位置和大小</translation>
+    </message>
+    <message>
+        <source>turn and stretch</source>
+        <translation>旋转和拉伸</translation>
+    </message>
+    <message>
+        <source>how the slide was fitted to the page</source>
+        <translation>幻灯片的适配方式</translation>
+    </message>
+    <message>
+        <source>turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>mirroring</source>
+        <translation>翻转</translation>
+    </message>
+    <message>
+        <source>points of the shape</source>
+        <translation>形状的点</translation>
+    </message>
+    <message>
+        <source>points of the shape in the file</source>
+        <translation>文件中形状的点</translation>
+    </message>
+    <message>
+        <source>items in it</source>
+        <translation>其中的对象</translation>
+    </message>
+    <message>
+        <source>item as it came</source>
+        <translation>原样保留的对象</translation>
+    </message>
+    <message>
+        <source>cover</source>
+        <translation>遮盖</translation>
+    </message>
+    <message>
+        <source>where it was made</source>
+        <translation>创建位置</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>动画</translation>
+    </message>
+    <message>
+        <source>files of the item</source>
+        <translation>对象的文件</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>picture or document</source>
+        <translation>图片或文档</translation>
+    </message>
+    <message>
+        <source>picture of the background</source>
+        <translation>背景图片</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>radius</source>
+        <translation>半径</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>colour of the fill</source>
+        <translation>填充颜色</translation>
+    </message>
+    <message>
+        <source>colour of the line</source>
+        <translation>线条颜色</translation>
+    </message>
+    <message>
+        <source>width of the line</source>
+        <translation>线条宽度</translation>
+    </message>
+    <message>
+        <source>how the colour shines through</source>
+        <translation>颜色透明度</translation>
+    </message>
+    <message>
+        <source>dashes of the line</source>
+        <translation>线型</translation>
+    </message>
+    <message>
+        <source>ends of the line</source>
+        <translation>线条端点</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>version of the file</source>
+        <translation>文件版本</translation>
+    </message>
+    <message>
+        <source>version of the editor</source>
+        <translation>编辑器版本</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>size of the page</source>
+        <translation>页面大小</translation>
+    </message>
+    <message>
+        <source>colour of the background</source>
+        <translation>背景颜色</translation>
+    </message>
+    <message>
+        <source>paper of the background</source>
+        <translation>背景纸张</translation>
+    </message>
+    <message>
+        <source>how the background lies</source>
+        <translation>背景的摆放</translation>
+    </message>
+    <message>
+        <source>change to the next slide</source>
+        <translation>切换效果</translation>
+    </message>
+    <message>
+        <source>game</source>
+        <translation>游戏</translation>
+    </message>
+    <message>
+        <source>pictures of the game</source>
+        <translation>游戏的图片</translation>
+    </message>
+    <message>
+        <source>slides</source>
+        <translation>幻灯片</translation>
+    </message>
+    <message>
+        <source>items</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>width along the stroke</source>
+        <translation>笔迹各处的宽度</translation>
+    </message>
+    <message>
+        <source>when each point was drawn</source>
+        <translation>各点的书写时间</translation>
+    </message>
+    <message>
+        <source>pressure of the pen</source>
+        <translation>笔压</translation>
+    </message>
+    <message>
+        <source>picture of the stroke</source>
+        <translation>笔迹纹理</translation>
+    </message>
+    <message>
+        <source>picture of the stamp</source>
+        <translation>图章图片</translation>
+    </message>
+    <message>
+        <source>what was rubbed out</source>
+        <translation>擦除的部分</translation>
+    </message>
+    <message>
+        <source>how the formula was written</source>
+        <translation>公式的书写过程</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>colour behind the text</source>
+        <translation>文字背景颜色</translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation>声音</translation>
+    </message>
+    <message>
+        <source>scale at the beginning</source>
+        <translation>初始缩放</translation>
+    </message>
+    <message>
+        <source>height of the text</source>
+        <translation>文字的高度</translation>
+    </message>
+    <message>
+        <source>how the text is aligned</source>
+        <translation>文字对齐</translation>
+    </message>
+    <message>
+        <source>colour of the text</source>
+        <translation>文字颜色</translation>
+    </message>
+    <message>
+        <source>font</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>size of the letters</source>
+        <translation>字号</translation>
+    </message>
+    <message>
+        <source>font of the front</source>
+        <translation>正面字体</translation>
+    </message>
+    <message>
+        <source>font of the back</source>
+        <translation>背面字体</translation>
+    </message>
+    <message>
+        <source>text of the front</source>
+        <translation>正面文字</translation>
+    </message>
+    <message>
+        <source>front</source>
+        <translation>正面</translation>
+    </message>
+    <message>
+        <source>back</source>
+        <translation>背面</translation>
+    </message>
+    <message>
+        <source>width of the text</source>
+        <translation>文字宽度</translation>
+    </message>
+    <message>
+        <source>colour of the character</source>
+        <translation>汉字颜色</translation>
+    </message>
+    <message>
+        <source>whether it plays by itself</source>
+        <translation>是否自动播放</translation>
+    </message>
+    <message>
+        <source>whether it plays again</source>
+        <translation>是否循环播放</translation>
+    </message>
+    <message>
+        <source>whether it is silent</source>
+        <translation>是否静音</translation>
+    </message>
+    <message>
+        <source>loudness</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>length of the sound</source>
+        <translation>声音时长</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>whether its name is shown</source>
+        <translation>是否显示名称</translation>
+    </message>
+    <message>
+        <source>what is cut off</source>
+        <translation>裁剪</translation>
+    </message>
+    <message>
+        <source>how it shines through</source>
+        <translation>透明度</translation>
+    </message>
+    <message>
+        <source>edge</source>
+        <translation>边框</translation>
+    </message>
+    <message>
+        <source>kind of file</source>
+        <translation>文件类型</translation>
+    </message>
+    <message>
+        <source>whether it is filled</source>
+        <translation>是否填充</translation>
+    </message>
+    <message>
+        <source>kind of fill</source>
+        <translation>填充方式</translation>
+    </message>
+    <message>
+        <source>form of the line</source>
+        <translation>线条形式</translation>
+    </message>
+    <message>
+        <source>arrowheads</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>number of corners</source>
+        <translation>边数</translation>
+    </message>
+    <message>
+        <source>whether its centre is shown</source>
+        <translation>是否显示圆心</translation>
+    </message>
+    <message>
+        <source>whether its measure is shown</source>
+        <translation>是否显示度量</translation>
+    </message>
+    <message>
+        <source>auxiliary lines</source>
+        <translation>辅助线</translation>
+    </message>
+    <message>
+        <source>unit of measures</source>
+        <translation>度量单位</translation>
+    </message>
+    <message>
+        <source>digits of measures</source>
+        <translation>度量位数</translation>
+    </message>
+    <message>
+        <source>measures of the shape</source>
+        <translation>形状的尺寸</translation>
+    </message>
+    <message>
+        <source>scale</source>
+        <translation>刻度</translation>
+    </message>
+    <message>
+        <source>kind of path</source>
+        <translation>路径类型</translation>
+    </message>
+    <message>
+        <source>drawing of the shape</source>
+        <translation>形状的图样</translation>
+    </message>
+    <message>
+        <source>name of the point</source>
+        <translation>点的名称</translation>
+    </message>
+    <message>
+        <source>angles of the arc</source>
+        <translation>弧的角度</translation>
+    </message>
+    <message>
+        <source>function</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>colour of the function</source>
+        <translation>函数颜色</translation>
+    </message>
+    <message>
+        <source>whether the function is shown</source>
+        <translation>是否显示函数</translation>
+    </message>
+    <message>
+        <source>whether the axes are shown</source>
+        <translation>是否显示坐标轴</translation>
+    </message>
+    <message>
+        <source>setting of the axes</source>
+        <translation>坐标轴设置</translation>
+    </message>
+    <message>
+        <source>range of the curve</source>
+        <translation>曲线范围</translation>
+    </message>
+    <message>
+        <source>unit of the axes</source>
+        <translation>坐标轴单位</translation>
+    </message>
+    <message>
+        <source>lid</source>
+        <translation>盖子</translation>
+    </message>
+    <message>
+        <source>direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>flame</source>
+        <translation>火焰</translation>
+    </message>
+    <message>
+        <source>whether it is lit</source>
+        <translation>是否发光</translation>
+    </message>
+    <message>
+        <source>liquid</source>
+        <translation>液体</translation>
+    </message>
+    <message>
+        <source>solid in it</source>
+        <translation>其中的固体</translation>
+    </message>
+    <message>
+        <source>colour of the liquid</source>
+        <translation>液体颜色</translation>
+    </message>
+    <message>
+        <source>colour of the solid</source>
+        <translation>固体颜色</translation>
+    </message>
+    <message>
+        <source>colour of the scale</source>
+        <translation>刻度颜色</translation>
+    </message>
+    <message>
+        <source>colour of the light</source>
+        <translation>灯光颜色</translation>
+    </message>
+    <message>
+        <source>colour of the flame</source>
+        <translation>火焰颜色</translation>
+    </message>
+    <message>
+        <source>colour of the poles</source>
+        <translation>磁极颜色</translation>
+    </message>
+    <message>
+        <source>parts of it</source>
+        <translation>部件</translation>
+    </message>
+    <message>
+        <source>shells of the atom</source>
+        <translation>电子层</translation>
+    </message>
+    <message>
+        <source>number of forces</source>
+        <translation>力的组数</translation>
+    </message>
+    <message>
+        <source>sign of the charge</source>
+        <translation>电荷正负</translation>
+    </message>
+    <message>
+        <source>speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>place of the bracket</source>
+        <translation>支架位置</translation>
+    </message>
+    <message>
+        <source>whether the switch is closed</source>
+        <translation>开关是否闭合</translation>
+    </message>
+    <message>
+        <source>formula</source>
+        <translation>公式</translation>
+    </message>
+    <message>
+        <source>whether the character is shown</source>
+        <translation>是否显示汉字</translation>
+    </message>
+    <message>
+        <source>word</source>
+        <translation>单词</translation>
+    </message>
+    <message>
+        <source>character</source>
+        <translation>汉字</translation>
+    </message>
+    <message>
+        <source>pinyin</source>
+        <translation>拼音</translation>
+    </message>
+    <message>
+        <source>squares</source>
+        <translation>田字格</translation>
+    </message>
+    <message>
+        <source>lines for writing</source>
+        <translation>书写线</translation>
+    </message>
+    <message>
+        <source>width of a square</source>
+        <translation>格子宽度</translation>
+    </message>
+    <message>
+        <source>where the word stands</source>
+        <translation>单词位置</translation>
+    </message>
+    <message>
+        <source>whether the word is hidden</source>
+        <translation>是否隐藏单词</translation>
+    </message>
+    <message>
+        <source>how the cover shines through</source>
+        <translation>遮盖透明度</translation>
+    </message>
+    <message>
+        <source>cards</source>
+        <translation>卡片</translation>
+    </message>
+    <message>
+        <source>list of the game</source>
+        <translation>游戏列表</translation>
+    </message>
+    <message>
+        <source>connections</source>
+        <translation>连线</translation>
+    </message>
+    <message>
+        <source>things to sort</source>
+        <translation>分类内容</translation>
+    </message>
+    <message>
+        <source>shape of the light</source>
+        <translation>光圈形状</translation>
+    </message>
+    <message>
+        <source>place of the light</source>
+        <translation>光圈位置</translation>
+    </message>
+    <message>
+        <source>size of the light</source>
+        <translation>光圈大小</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>text of the gap</source>
+        <translation>填空文字</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>figure of the game</source>
+        <translation>游戏形象</translation>
+    </message>
+    <message>
+        <source>place of the text</source>
+        <translation>文字位置</translation>
+    </message>
+    <message>
+        <source>whether it can be changed</source>
+        <translation>是否可编辑</translation>
+    </message>
+    <message>
+        <source>kind of worksheet</source>
+        <translation>课件类型</translation>
+    </message>
+    <message>
+        <source>question of the game</source>
+        <translation>游戏问题</translation>
+    </message>
+    <message>
+        <source>sign</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>branches of the mind map</source>
+        <translation>思维导图的分支</translation>
+    </message>
+    <message>
+        <source>text of the question</source>
+        <translation>题目内容</translation>
+    </message>
+    <message>
+        <source>answer</source>
+        <translation>答案</translation>
+    </message>
+    <message>
+        <source>page that is open</source>
+        <translation>打开的页面</translation>
+    </message>
+    <message>
+        <source>size of the question</source>
+        <translation>题目大小</translation>
+    </message>
+    <message>
+        <source>pieces of the game</source>
+        <translation>游戏素材</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Things to connect</source>
+        <translation>连线题</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>幕布</translation>
+    </message>
+    <message>
+        <source>Things to sort</source>
+        <translation>分类题</translation>
+    </message>
+    <message>
+        <source>Spotlight</source>
+        <translation>聚光灯</translation>
+    </message>
+    <message>
+        <source>Compasses</source>
+        <translation>圆规</translation>
+    </message>
+    <message>
+        <source>Protractor</source>
+        <translation>量角器</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>直尺</translation>
+    </message>
+    <message>
+        <source>Set square of 30 and 60 degrees</source>
+        <translation>30°、60° 三角板</translation>
+    </message>
+    <message>
+        <source>Set square of 45 degrees</source>
+        <translation>45° 三角板</translation>
+    </message>
+    <message>
+        <source>Basket of a game</source>
+        <translation>游戏的容器</translation>
+    </message>
+    <message>
+        <source>Place to compare</source>
+        <translation>比较位置</translation>
+    </message>
+    <message>
+        <source>Gap to fill</source>
+        <translation>填空</translation>
+    </message>
+    <message>
+        <source>Place of a sentence</source>
+        <translation>句子位置</translation>
+    </message>
+    <message>
+        <source>Piece of a game</source>
+        <translation>游戏素材</translation>
+    </message>
+    <message>
+        <source>Piece to compare</source>
+        <translation>比较素材</translation>
+    </message>
+    <message>
+        <source>Piece of a contest</source>
+        <translation>竞赛素材</translation>
+    </message>
+    <message>
+        <source>Piece for a gap</source>
+        <translation>填空素材</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>得分</translation>
+    </message>
+    <message>
+        <source>Tip of a game</source>
+        <translation>游戏提示</translation>
+    </message>
+    <message>
+        <source>Part of a sentence</source>
+        <translation>句子成分</translation>
+    </message>
+    <message>
+        <source>First player</source>
+        <translation>一号选手</translation>
+    </message>
+    <message>
+        <source>Second player</source>
+        <translation>二号选手</translation>
+    </message>
+    <message>
+        <source>Card to turn</source>
+        <translation>翻转卡片</translation>
+    </message>
+    <message>
+        <source>Text to read aloud</source>
+        <translation>朗读文本</translation>
+    </message>
+    <message>
+        <source>Tip for reading aloud</source>
+        <translation>朗读提示</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>花括号</translation>
+    </message>
+    <message>
+        <source>Bracket</source>
+        <translation>括号</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>对话框</translation>
+    </message>
+    <message>
+        <source>Division sign</source>
+        <translation>除号</translation>
+    </message>
+    <message>
+        <source>Arrow with two heads</source>
+        <translation>双向箭头</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>椭圆</translation>
+    </message>
+    <message>
+        <source>Equals sign</source>
+        <translation>等号</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>旗帜</translation>
+    </message>
+    <message>
+        <source>Free drawing</source>
+        <translation>自由绘图</translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation>心形</translation>
+    </message>
+    <message>
+        <source>Minus sign</source>
+        <translation>减号</translation>
+    </message>
+    <message>
+        <source>Multiplication sign</source>
+        <translation>乘号</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>形状</translation>
+    </message>
+    <message>
+        <source>Parallelogram</source>
+        <translation>平行四边形</translation>
+    </message>
+    <message>
+        <source>Five-pointed star</source>
+        <translation>五角星</translation>
+    </message>
+    <message>
+        <source>Plus sign</source>
+        <translation>加号</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Rhombus</source>
+        <translation>菱形</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>对号</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>线段</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>Trapezium</source>
+        <translation>梯形</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>三角形</translation>
+    </message>
+    <message>
+        <source>Not-equals sign</source>
+        <translation>不等号</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>叉</translation>
+    </message>
+    <message>
+        <source>Chalk stroke</source>
+        <translation>粉笔笔迹</translation>
+    </message>
+    <message>
+        <source>Brush stroke</source>
+        <translation>毛笔笔迹</translation>
+    </message>
+    <message>
+        <source>Benzene ring</source>
+        <translation>苯环</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>公式</translation>
+    </message>
+    <message>
+        <source>Glass rod</source>
+        <translation>玻璃棒</translation>
+    </message>
+    <message>
+        <source>Glass delivery tube</source>
+        <translation>玻璃导管</translation>
+    </message>
+    <message>
+        <source>Glass tube</source>
+        <translation>玻璃管</translation>
+    </message>
+    <message>
+        <source>Glass stopper</source>
+        <translation>玻璃塞</translation>
+    </message>
+    <message>
+        <source>Long-necked funnel</source>
+        <translation>长颈漏斗</translation>
+    </message>
+    <message>
+        <source>Burette clamp</source>
+        <translation>滴定管夹</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>砝码</translation>
+    </message>
+    <message>
+        <source>Separating funnel</source>
+        <translation>分液漏斗</translation>
+    </message>
+    <message>
+        <source>Flask</source>
+        <translation>烧瓶</translation>
+    </message>
+    <message>
+        <source>Drying bulb</source>
+        <translation>干燥球</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>固状物</translation>
+    </message>
+    <message>
+        <source>Flame</source>
+        <translation>火焰</translation>
+    </message>
+    <message>
+        <source>Alkali burette</source>
+        <translation>碱式滴定管</translation>
+    </message>
+    <message>
+        <source>Gas jar</source>
+        <translation>集气瓶</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>化学键</translation>
+    </message>
+    <message>
+        <source>Dropper</source>
+        <translation>胶头滴管</translation>
+    </message>
+    <message>
+        <source>Spirit lamp</source>
+        <translation>酒精灯</translation>
+    </message>
+    <message>
+        <source>Condenser</source>
+        <translation>冷凝管</translation>
+    </message>
+    <message>
+        <source>Measuring cylinder</source>
+        <translation>量筒</translation>
+    </message>
+    <message>
+        <source>Funnel</source>
+        <translation>漏斗</translation>
+    </message>
+    <message>
+        <source>Wooden block</source>
+        <translation>木块</translation>
+    </message>
+    <message>
+        <source>Stopper</source>
+        <translation>塞子</translation>
+    </message>
+    <message>
+        <source>Tweezers</source>
+        <translation>镊子</translation>
+    </message>
+    <message>
+        <source>Bubble</source>
+        <translation>气泡</translation>
+    </message>
+    <message>
+        <source>Kipp&apos;s apparatus</source>
+        <translation>启普发生器</translation>
+    </message>
+    <message>
+        <source>Round separating funnel</source>
+        <translation>球形分液漏斗</translation>
+    </message>
+    <message>
+        <source>Retort</source>
+        <translation>曲颈甑</translation>
+    </message>
+    <message>
+        <source>Burning spoon</source>
+        <translation>燃烧匙</translation>
+    </message>
+    <message>
+        <source>Volumetric flask</source>
+        <translation>容量瓶</translation>
+    </message>
+    <message>
+        <source>Acid burette</source>
+        <translation>酸式滴定管</translation>
+    </message>
+    <message>
+        <source>Tripod</source>
+        <translation>三脚架</translation>
+    </message>
+    <message>
+        <source>Beaker</source>
+        <translation>烧杯</translation>
+    </message>
+    <message>
+        <source>Test tube rack</source>
+        <translation>试管架</translation>
+    </message>
+    <message>
+        <source>Test tube clamp</source>
+        <translation>试管夹</translation>
+    </message>
+    <message>
+        <source>Reagent bottle</source>
+        <translation>试剂瓶</translation>
+    </message>
+    <message>
+        <source>Wire gauze</source>
+        <translation>石棉网</translation>
+    </message>
+    <message>
+        <source>Test tube</source>
+        <translation>试管</translation>
+    </message>
+    <message>
+        <source>Electron transfer</source>
+        <translation>双线桥</translation>
+    </message>
+    <message>
+        <source>Water trough</source>
+        <translation>水槽</translation>
+    </message>
+    <message>
+        <source>Drop of water</source>
+        <translation>水滴</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>天平</translation>
+    </message>
+    <message>
+        <source>Iron stand</source>
+        <translation>铁架台</translation>
+    </message>
+    <message>
+        <source>U-tube</source>
+        <translation>U 形管</translation>
+    </message>
+    <message>
+        <source>Thermometer</source>
+        <translation>温度计</translation>
+    </message>
+    <message>
+        <source>Rubber tube</source>
+        <translation>橡皮管</translation>
+    </message>
+    <message>
+        <source>Spatula</source>
+        <translation>药匙</translation>
+    </message>
+    <message>
+        <source>Drainage tube</source>
+        <translation>引流管</translation>
+    </message>
+    <message>
+        <source>Atom</source>
+        <translation>原子</translation>
+    </message>
+    <message>
+        <source>Evaporating dish</source>
+        <translation>蒸发皿</translation>
+    </message>
+    <message>
+        <source>Conical flask</source>
+        <translation>锥形瓶</translation>
+    </message>
+    <message>
+        <source>Pinyin letters</source>
+        <translation>拼音字母</translation>
+    </message>
+    <message>
+        <source>Chinese character</source>
+        <translation>汉字</translation>
+    </message>
+    <message>
+        <source>Pinyin</source>
+        <translation>拼音</translation>
+    </message>
+    <message>
+        <source>Pen stroke</source>
+        <translation>笔迹</translation>
+    </message>
+    <message>
+        <source>Word art</source>
+        <translation>艺术字</translation>
+    </message>
+    <message>
+        <source>Moving worksheet</source>
+        <translation>动态课件</translation>
+    </message>
+    <message>
+        <source>Highlighter</source>
+        <translation>荧光笔笔迹</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组合</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Strokes of a character</source>
+        <translation>汉字笔画</translation>
+    </message>
+    <message>
+        <source>Character with pinyin</source>
+        <translation>带拼音的汉字</translation>
+    </message>
+    <message>
+        <source>Word with phonetics</source>
+        <translation>带音标的单词</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>圆</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Measured segment</source>
+        <translation>测量线段</translation>
+    </message>
+    <message>
+        <source>Measured triangle</source>
+        <translation>测量三角形</translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation>弧</translation>
+    </message>
+    <message>
+        <source>Regular heptagon</source>
+        <translation>正七边形</translation>
+    </message>
+    <message>
+        <source>Regular hexagon</source>
+        <translation>正六边形</translation>
+    </message>
+    <message>
+        <source>Regular octagon</source>
+        <translation>正八边形</translation>
+    </message>
+    <message>
+        <source>Regular pentagon</source>
+        <translation>正五边形</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>正方形</translation>
+    </message>
+    <message>
+        <source>Equilateral triangle</source>
+        <translation>等边三角形</translation>
+    </message>
+    <message>
+        <source>Pentagon</source>
+        <translation>五边形</translation>
+    </message>
+    <message>
+        <source>Plane</source>
+        <translation>平面</translation>
+    </message>
+    <message>
+        <source>Line of segments</source>
+        <translation>折线</translation>
+    </message>
+    <message>
+        <source>Quadrangle</source>
+        <translation>四边形</translation>
+    </message>
+    <message>
+        <source>Cylinder</source>
+        <translation>圆柱</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>圆锥</translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation>立方体</translation>
+    </message>
+    <message>
+        <source>Frustum of a cone</source>
+        <translation>圆台</translation>
+    </message>
+    <message>
+        <source>Frustum of a pyramid</source>
+        <translation>棱台</translation>
+    </message>
+    <message>
+        <source>Half sphere</source>
+        <translation>半球</translation>
+    </message>
+    <message>
+        <source>Intersecting planes</source>
+        <translation>相交平面</translation>
+    </message>
+    <message>
+        <source>Prism</source>
+        <translation>棱柱</translation>
+    </message>
+    <message>
+        <source>Pyramid</source>
+        <translation>棱锥</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>球体</translation>
+    </message>
+    <message>
+        <source>Tetrahedron</source>
+        <translation>四面体</translation>
+    </message>
+    <message>
+        <source>Coordinates with functions</source>
+        <translation>函数坐标系</translation>
+    </message>
+    <message>
+        <source>Coordinates with parametric curves</source>
+        <translation>参数坐标系</translation>
+    </message>
+    <message>
+        <source>Polar coordinates</source>
+        <translation>极坐标系</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>声音</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Flash film</source>
+        <translation>Flash 动画</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Mind map</source>
+        <translation>思维导图</translation>
+    </message>
+    <message>
+        <source>Ammeter</source>
+        <translation>电流表</translation>
+    </message>
+    <message>
+        <source>Ammeter with a scale</source>
+        <translation>带刻度的电流表</translation>
+    </message>
+    <message>
+        <source>Groove</source>
+        <translation>凹槽</translation>
+    </message>
+    <message>
+        <source>Concave lens, as a symbol</source>
+        <translation>凹透镜符号</translation>
+    </message>
+    <message>
+        <source>Concave lens</source>
+        <translation>凹透镜</translation>
+    </message>
+    <message>
+        <source>Half of a concave lens</source>
+        <translation>半凹透镜</translation>
+    </message>
+    <message>
+        <source>Half of a convex lens</source>
+        <translation>半凸透镜</translation>
+    </message>
+    <message>
+        <source>Conveyor belt</source>
+        <translation>传送带</translation>
+    </message>
+    <message>
+        <source>Magnetic field</source>
+        <translation>磁场</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>导线</translation>
+    </message>
+    <message>
+        <source>Electric field</source>
+        <translation>电场</translation>
+    </message>
+    <message>
+        <source>Battery cell</source>
+        <translation>电池</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>电池组</translation>
+    </message>
+    <message>
+        <source>Lamp, as a symbol</source>
+        <translation>电灯符号</translation>
+    </message>
+    <message>
+        <source>Electric charge</source>
+        <translation>电荷</translation>
+    </message>
+    <message>
+        <source>Electric bell</source>
+        <translation>电铃</translation>
+    </message>
+    <message>
+        <source>Galvanometer</source>
+        <translation>电流计</translation>
+    </message>
+    <message>
+        <source>Capacitor</source>
+        <translation>电容</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>电子</translation>
+    </message>
+    <message>
+        <source>Resistor</source>
+        <translation>电阻</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>电灯</translation>
+    </message>
+    <message>
+        <source>Voltmeter with a scale</source>
+        <translation>带刻度的电压表</translation>
+    </message>
+    <message>
+        <source>Lever</source>
+        <translation>杠杆</translation>
+    </message>
+    <message>
+        <source>Hooked weight</source>
+        <translation>钩码</translation>
+    </message>
+    <message>
+        <source>Stand for optics</source>
+        <translation>光学支架</translation>
+    </message>
+    <message>
+        <source>Sliding resistor, as a symbol</source>
+        <translation>滑动变阻器符号</translation>
+    </message>
+    <message>
+        <source>Pulley</source>
+        <translation>滑轮</translation>
+    </message>
+    <message>
+        <source>Pulley block</source>
+        <translation>滑轮组</translation>
+    </message>
+    <message>
+        <source>Sliding resistor</source>
+        <translation>滑动变阻器</translation>
+    </message>
+    <message>
+        <source>Alternating current motor</source>
+        <translation>交流电动机</translation>
+    </message>
+    <message>
+        <source>Earth connection</source>
+        <translation>接地</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>距离</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>开关</translation>
+    </message>
+    <message>
+        <source>Two-way switch</source>
+        <translation>双向开关</translation>
+    </message>
+    <message>
+        <source>Knife switch</source>
+        <translation>闸刀开关</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>刻度</translation>
+    </message>
+    <message>
+        <source>Loudspeaker</source>
+        <translation>喇叭</translation>
+    </message>
+    <message>
+        <source>Candle</source>
+        <translation>蜡烛</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>力</translation>
+    </message>
+    <message>
+        <source>Propeller</source>
+        <translation>螺旋桨</translation>
+    </message>
+    <message>
+        <source>Wooden rod</source>
+        <translation>木棒</translation>
+    </message>
+    <message>
+        <source>Cylinder with a piston</source>
+        <translation>气缸</translation>
+    </message>
+    <message>
+        <source>Inclined plane</source>
+        <translation>斜面</translation>
+    </message>
+    <message>
+        <source>Meter</source>
+        <translation>仪表</translation>
+    </message>
+    <message>
+        <source>Spring</source>
+        <translation>弹簧</translation>
+    </message>
+    <message>
+        <source>Spring balance</source>
+        <translation>弹簧秤</translation>
+    </message>
+    <message>
+        <source>Bar magnet</source>
+        <translation>条形磁铁</translation>
+    </message>
+    <message>
+        <source>Iron core</source>
+        <translation>铁芯</translation>
+    </message>
+    <message>
+        <source>Convex lens, as a symbol</source>
+        <translation>凸透镜符号</translation>
+    </message>
+    <message>
+        <source>Convex lens</source>
+        <translation>凸透镜</translation>
+    </message>
+    <message>
+        <source>Horseshoe magnet</source>
+        <translation>U 形磁铁</translation>
+    </message>
+    <message>
+        <source>Voltmeter</source>
+        <translation>电压表</translation>
+    </message>
+    <message>
+        <source>Battery, as a symbol</source>
+        <translation>电池符号</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>线圈</translation>
+    </message>
+    <message>
+        <source>Trolley</source>
+        <translation>小车</translation>
+    </message>
+    <message>
+        <source>Compass needle</source>
+        <translation>小磁针</translation>
+    </message>
+    <message>
+        <source>Ball</source>
+        <translation>小球</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>坡面</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>旋钮</translation>
+    </message>
+    <message>
+        <source>Vernier caliper</source>
+        <translation>游标卡尺</translation>
+    </message>
+    <message>
+        <source>Round groove</source>
+        <translation>圆槽</translation>
+    </message>
+    <message>
+        <source>Curved slide</source>
+        <translation>圆弧滑板</translation>
+    </message>
+    <message>
+        <source>Direct current motor</source>
+        <translation>直流电动机</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>题目</translation>
+    </message>
+    <message>
+        <source>One-sided arrow</source>
+        <translation>单边箭头</translation>
+    </message>
+    <message>
+        <source>Square bracket</source>
+        <translation>方括号</translation>
+    </message>
+    <message>
+        <source>Aeroplane</source>
+        <translation>飞机</translation>
+    </message>
+    <message>
+        <source>Angle bracket</source>
+        <translation>尖括号</translation>
+    </message>
+    <message>
+        <source>Callout with an arrow</source>
+        <translation>箭头标注</translation>
+    </message>
+    <message>
+        <source>Connecting line</source>
+        <translation>连接线</translation>
+    </message>
+    <message>
+        <source>Curved arrow</source>
+        <translation>曲线箭头</translation>
+    </message>
+    <message>
+        <source>One to many</source>
+        <translation>一对多连线</translation>
+    </message>
+    <message>
+        <source>Round bracket</source>
+        <translation>圆括号</translation>
+    </message>
+    <message>
+        <source>Cloud</source>
+        <translation>云</translation>
+    </message>
+    <message>
+        <source>Straight arrow</source>
+        <translation>直线箭头</translation>
+    </message>
+    <message>
+        <source>Textured stroke</source>
+        <translation>纹理笔迹</translation>
+    </message>
+    <message>
+        <source>Handwritten formula</source>
+        <translation>手写公式</translation>
+    </message>
+    <message>
+        <source>Bamboo brush stroke</source>
+        <translation>竹笔笔迹</translation>
+    </message>
+    <message>
+        <source>Rubbed out ink</source>
+        <translation>擦除的笔迹</translation>
+    </message>
+    <message>
+        <source>Stamp</source>
+        <translation>图章</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Explosion</source>
+        <translation>爆炸形</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波浪形</translation>
+    </message>
+    <message>
+        <source>Block arrow</source>
+        <translation>块状箭头</translation>
+    </message>
+    <message>
+        <source>Hexagon</source>
+        <translation>六边形</translation>
+    </message>
+    <message>
+        <source>Sector</source>
+        <translation>扇形</translation>
+    </message>
+    <message>
+        <source>Lightning</source>
+        <translation>闪电</translation>
+    </message>
+    <message>
+        <source>Tile</source>
+        <translation>瓦片形</translation>
+    </message>
+    <message>
+        <source>Smiley</source>
+        <translation>笑脸</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>星形</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面形</translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation>圆角矩形</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <translation>月亮</translation>
+    </message>
+    <message>
+        <source>Bullet</source>
+        <translation>子弹</translation>
+    </message>
+    <message>
+        <source>Words in squares</source>
+        <translation>田字格文字</translation>
+    </message>
+    <message>
+        <source>Item of a subject</source>
+        <translation>学科对象</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>Copy of a shape</source>
+        <translation>形状的副本</translation>
+    </message>
+    <message>
+        <source>0 or 1</source>
+        <translation>0 或 1</translation>
+    </message>
+    <message>
+        <source>four numbers, none of them more than %1 from 0</source>
+        <translation>四个数，与 0 相差都不超过 %1</translation>
+    </message>
+    <message>
+        <source>six numbers, none of them more than %1 from 0</source>
+        <translation>六个数，与 0 相差都不超过 %1</translation>
+    </message>
+    <message>
+        <source>pairs of numbers, none of them more than %1 from 0</source>
+        <translation>成对的数，与 0 相差都不超过 %1</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>%1 到 %2 之间的数</translation>
+    </message>
+    <message>
+        <source>a colour</source>
+        <translation>一种颜色</translation>
+    </message>
+    <message>
+        <source>a slide from 1 to %1</source>
+        <translation>1 到 %1 的幻灯片编号</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values aren&apos;t in the lesson: %1</source>
+        <translation>
+            <numerusform>课件中缺少 %n 个值：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides are empty in the result: %1</source>
+        <translation>
+            <numerusform>结果中有 %n 张空白幻灯片：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides are empty on other boards: %1</source>
+        <translation>
+            <numerusform>在其他白板上有 %n 张幻灯片为空：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the lesson</source>
+        <translation>课件</translation>
+    </message>
+    <message>
+        <source>slide %1</source>
+        <translation>幻灯片 %1</translation>
+    </message>
+    <message>
+        <source>slides %1 to %2</source>
+        <translation>幻灯片 %1 至 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides from %1 to %2</source>
+        <translation>
+            <numerusform>幻灯片 %1 至 %2 中的 %n 张</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other items</source>
+        <translation>
+            <numerusform>%n 个其他对象</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>as a picture</source>
+        <translation>显示为图片</translation>
+    </message>
+    <message>
+        <source>other boards have no such thing</source>
+        <translation>其他白板没有这种对象</translation>
+    </message>
+    <message>
+        <source>this format has no such thing</source>
+        <translation>该格式没有这种对象</translation>
+    </message>
+    <message>
+        <source>Slide %1 is empty in the result.</source>
+        <translation>结果中幻灯片 %1 为空。</translation>
+    </message>
+    <message>
+        <source>Slide %1 is empty there.</source>
+        <translation>幻灯片 %1 在那里为空。</translation>
+    </message>
+    <message>
+        <source>%1 (%2): %3.</source>
+        <translation>%1（%2）：%3。</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1（%2 次）</translation>
+    </message>
+    <message>
+        <source>The lesson itself travels along in the file, so that lessonconv brings all of it back.</source>
+        <translation>课件本身随文件一起保存，lessonconv 可以全部还原。</translation>
+    </message>
+    <message>
+        <source>--report FILE names each.</source>
+        <translation>--report 文件 会逐一列出。</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1：</translation>
+    </message>
+    <message>
+        <source>nobody knows what it is, so it is kept as it came</source>
+        <translation>不知道这是什么，因此原样保留</translation>
+    </message>
+    <message numerus="yes">
+        <source>Note: and %n more.</source>
+        <translation>
+            <numerusform>提示：另有 %n 项。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not shown by other boards</source>
+        <translation>其他白板不显示</translation>
+    </message>
+    <message>
+        <source>Not shown in the result</source>
+        <translation>结果中不显示</translation>
+    </message>
+    <message>
+        <source>Shown by other boards, but not the same</source>
+        <translation>其他白板上显示但不相同</translation>
+    </message>
+    <message>
+        <source>Shown in the result, but not the same</source>
+        <translation>结果中显示但不相同</translation>
+    </message>
+    <message>
+        <source>Only internal, and nothing to other boards</source>
+        <translation>仅内部信息，与其他白板无关</translation>
+    </message>
+    <message>
+        <source>Only internal, seen by nobody</source>
+        <translation>仅内部信息，无人可见</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Shown in the result the same, but it works otherwise</source>
+        <translation>结果中显示相同但行为不同</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#ifndef PLAINLOSSES_H
+#define PLAINLOSSES_H
+
+#include "files/sentence.h"
+#include "losses/lossreport.h"
+
+#include <set>
+
+namespace lessonhost {
+
+// What was lost, in the words of who gives the lesson.
+
+//! Lines with what a report holds, by what it means for the lesson: what isn't shown, what isn't the same, what nobody
+//! sees. Items and values have their plain names; what is alike is told once with its number and its slides, and where
+//! there is much of it, the most frequent. hasReport: whether a file names each. No line for an empty report.
+Sentences plainSummary(const LossReport &report, bool hasReport);
+
+//! Lines that stand below another one.
+Sentences indented(Sentences lines);
+
+//! The heading of a group, such as "In the result, but not the same".
+Sentence groupTitle(Loss::Group group, bool isElsewhere = false);
+
+//! "2 circles on slides 1 to 3"; slides are counted from 1, and none or 0 are the lesson as a whole.
+Sentence placed(const Sentence &what, const std::set<int> &slides);
+
+} // namespace lessonhost
+
+#endif // PLAINLOSSES_H
