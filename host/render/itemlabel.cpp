@@ -64,6 +64,11 @@ QString textOn(const ItemView &item)
 
 } // namespace
 
+QString itemKind(const ItemView &item)
+{
+    return isTextBoard(item.type()) && !textOn(item).isEmpty() ? QString() : plainName(item.type());
+}
+
 QString itemLabel(const ItemView &item)
 {
     const QString text = textOn(item);

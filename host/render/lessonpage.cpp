@@ -28,8 +28,8 @@ namespace lessonhost {
 namespace {
 
 // The script in the order of what its parts need, and the style.
-constexpr const char *scriptParts[] = {"words", "lesson", "stage", "changes", "animate", "links",  "media",
-                                       "tools",  "cards", "games",   "ink",     "present"};
+constexpr const char *scriptParts[] = {"words", "lesson", "stage", "changes", "animate", "links",
+                                       "media", "tools",  "cards", "games",   "ink",     "present"};
 
 QByteArray pageFile(const char *name)
 {
@@ -60,8 +60,8 @@ QByteArray jsonHtml(const QJsonDocument &json, const QByteArray &attribute)
         + json.toJson(QJsonDocument::Compact).replace('<', "\\u003c") + "</script>\n";
 }
 
-// What the script says, in all languages that there are: {"de": {"Slide %1": "Folie %1", ...}, ...}
-QJsonObject translations()
+// What the script says, and kinds of items, in all languages that there are: {"de": {"Slide %1": "Folie %1", ...}, ...}
+QJsonObject translations(const QSet<QString> &kinds)
 {
     static const QRegularExpression call(QStringLiteral("Words\\.text\\(\\s*'([^']+)'"));
     QJsonObject all;
@@ -70,6 +70,9 @@ QJsonObject translations()
         for (auto found = call.globalMatch(QString::fromUtf8(script())); found.hasNext();) {
             const QString text = found.next().captured(1);
             texts.insert(text, translated(language, text.toUtf8().constData()));
+        }
+        for (const QString &kind : kinds) {
+            texts.insert(kind, translated(language, kind.toUtf8().constData()));
         }
         all.insert(languageTag(language), texts);
     }
@@ -102,8 +105,7 @@ void LessonPage::add(const SlidePicture &picture)
     const QDomElement svg = picture.svg.documentElement();
     // What the heading says, for the script to say it in other languages.
     const QByteArray parts = (picture.title.isEmpty() ? QByteArray() : " data-title=\"" + escaped(picture.title) + '"')
-        + (picture.named.isEmpty() ? QByteArray()
-                                   : " data-named=\"" + QByteArray::number(picture.named.size()) + '"');
+        + (picture.named.isEmpty() ? QByteArray() : " data-named=\"" + QByteArray::number(picture.named.size()) + '"');
     const QByteArray size = "--width:" + QByteArray::number(qRound(picture.size.width()))
         + ";--height:" + QByteArray::number(qRound(picture.size.height()));
     m_slides.put("<section class=\"slide\" id=\"slide" + number + "\" data-slide=\"" + number + "\" aria-label=\"Slide "
@@ -112,6 +114,11 @@ void LessonPage::add(const SlidePicture &picture)
                  + "</h2>\n<div class=\"stage\" style=\"" + size + "\">\n" + m_pictures.html(svg) + "\n</div>\n"
                  + jsonHtml(QJsonDocument(picture.play), " class=\"play\"") + "</section>\n");
     m_widest = qMax(m_widest, qRound(picture.size.width()));
+    for (QDomElement item = svg.firstChildElement(); !item.isNull(); item = item.nextSiblingElement()) {
+        if (item.hasAttribute(QStringLiteral("data-kind"))) {
+            m_kinds.insert(item.attribute(QStringLiteral("data-kind")));
+        }
+    }
     const QDomNodeList styles = svg.elementsByTagName(QStringLiteral("style"));
     for (int i = 0; i < styles.size(); ++i) {
         m_styles += ' ' + hashOf(styles.at(i).toElement().text().toUtf8());
@@ -186,7 +193,8 @@ QStringList LessonPage::finish()
         }
         list.append(entry);
     }
-    put(jsonHtml(QJsonDocument(list), " id=\"files\"") + jsonHtml(QJsonDocument(translations()), " id=\"texts\"") + "<script>" + script() + "</script>\n</body></html>\n");
+    put(jsonHtml(QJsonDocument(list), " id=\"files\"") + jsonHtml(QJsonDocument(translations(m_kinds)), " id=\"texts\"")
+        + "<script>" + script() + "</script>\n</body></html>\n");
     m_target.commit();
     return written;
 }

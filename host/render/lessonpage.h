@@ -6,6 +6,8 @@
 #include "render/htmlpictures.h"
 #include "render/pictureoutput.h"
 
+#include <QSet>
+
 namespace lessonhost {
 
 class PageFiles;
@@ -38,6 +40,7 @@ private:
     OutputFile m_slides; // until it is known what styles they have
     QByteArray m_styles; // hashes
     HtmlPictures m_pictures;
+    QSet<QString> m_kinds; // of items, by their plain names
     int m_widest = 1; // slide, which is as wide as there is room where all are shown; others are in proportion
 };
 

@@ -125,7 +125,8 @@ PlainSvg::Scope::~Scope()
     m_svg.m_transform = m_before;
 }
 
-PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden, Side side)
+PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &kind, const QString &label,
+                               bool isHidden, Side side)
     : m_svg(svg)
 {
     m_svg.m_group = m_svg.m_document.createElement(QStringLiteral("g"));
@@ -137,6 +138,9 @@ PlainSvg::ItemGroup::ItemGroup(PlainSvg &svg, const QString &id, const QString &
     if (!label.isEmpty()) {
         m_svg.m_group.setAttribute(QStringLiteral("role"), QStringLiteral("img"));
         m_svg.m_group.setAttribute(QStringLiteral("aria-label"), label);
+    }
+    if (!kind.isEmpty()) {
+        m_svg.m_group.setAttribute(QStringLiteral("data-kind"), kind);
     }
     if (isHidden) {
         m_svg.m_group.setAttribute(QStringLiteral("display"), QStringLiteral("none"));

@@ -75,8 +75,10 @@ public:
     public:
         enum Side { Front, Back, Cover };
 
-        //! id: the item's, for who works on it later, also on its cover. label: what is read aloud. isHidden: not drawn until it is shown.
-        ItemGroup(PlainSvg &svg, const QString &id, const QString &label, bool isHidden, Side side = Front);
+        //! id: the item's, for who works on it later, also on its cover. label: what is read aloud, beginning with
+        //! kind, a plain name that pages translate. isHidden: not drawn until it is shown.
+        ItemGroup(PlainSvg &svg, const QString &id, const QString &kind, const QString &label, bool isHidden,
+                  Side side = Front);
         ~ItemGroup();
         ItemGroup(const ItemGroup &) = delete;
         ItemGroup &operator=(const ItemGroup &) = delete;

@@ -168,8 +168,10 @@ SlidePicture SlidePictures::picture(int index)
     for (const ShownItem &shown : items) {
         std::optional<PlainSvg::ItemGroup> group;
         if (m_files) {
-            const QString label = shown.isCover() ? QStringLiteral("Cover") : itemLabel(ItemView(shown.item));
-            group.emplace(plain, shown.id, label, shown.isHidden,
+            const QString label =
+                shown.isCover() ? QString(QLatin1String(TO_SAY("Cover"))) : itemLabel(ItemView(shown.item));
+            const QString kind = shown.isCover() ? label : itemKind(ItemView(shown.item));
+            group.emplace(plain, shown.id, kind, label, shown.isHidden,
                           shown.isCover() ? PlainSvg::ItemGroup::Cover : PlainSvg::ItemGroup::Front);
         }
         const PlainSvg::Scope scope(plain, shown.placed);
@@ -182,7 +184,7 @@ SlidePicture SlidePictures::picture(int index)
         group.reset();
         const QJsonObject back = m_files ? backOfCard(shown.item) : QJsonObject();
         if (!back.isEmpty()) {
-            const PlainSvg::ItemGroup side(plain, shown.id, QString(), true, PlainSvg::ItemGroup::Back);
+            const PlainSvg::ItemGroup side(plain, shown.id, QString(), QString(), true, PlainSvg::ItemGroup::Back);
             drawings.draw(back);
         }
     }

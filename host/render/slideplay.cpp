@@ -147,8 +147,7 @@ QJsonObject toolOf(const ItemView &item, const QTransform &placed)
         return exercise(item, "pairs", "ConnectionList", "pairs");
     }
     if (const auto handle = instrumentHandle(item)) {
-        QJsonObject tool =
-            kind(type == QLatin1String("Math:compasses") ? "compasses" : "instrument");
+        QJsonObject tool = kind(type == QLatin1String("Math:compasses") ? "compasses" : "instrument");
         tool.insert(QStringLiteral("middle"), pointOf(placed.map(handle->middle)));
         tool.insert(QStringLiteral("handle"), pointOf(placed.map(handle->handle)));
         return tool;
@@ -197,6 +196,7 @@ QJsonObject slidePlay(const LessonSlide &slide, const QVector<ShownItem> &items,
         if (!item.isEmpty()) {
             item.insert(QStringLiteral("id"), placed.id);
             item.insert(QStringLiteral("label"), itemLabel(view));
+            put(item, "kind", itemKind(view));
             described.append(item);
         }
     }

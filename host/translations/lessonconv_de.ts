@@ -6385,5 +6385,9 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>Shown in the result the same, but it works otherwise</source>
         <translation>Im Ergebnis gleich gezeigt, verhält sich aber anders</translation>
     </message>
+    <message>
+        <source>Cover</source>
+        <translation>Abdeckung</translation>
+    </message>
 </context>
 </TS>

@@ -6067,5 +6067,9 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>Shown in the result the same, but it works otherwise</source>
         <translation>结果中显示相同但行为不同</translation>
     </message>
+    <message>
+        <source>Cover</source>
+        <translation>遮盖</translation>
+    </message>
 </context>
 </TS>

@@ -237,6 +237,9 @@ class Presenting(Page):
                              (language, slide))
             self.assertEqual(self.js("return arguments[0].textContent.split(/[:：(]/)[0].trim()", heading), slide)
             self.assertTrue(self.driver.find_elements(By.CSS_SELECTOR, f"nav [title='{title}']"))
+            self.press(Keys.HOME)
+            self.assertEqual(self.item("r").accessible_name,
+                             {"en": "Rectangle", "de": "Rechteck", "zh-CN": "矩形"}[language])
             self.assertEqual(self.errors(), [])
 
     def test_full_screen(self):

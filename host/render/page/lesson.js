@@ -16,7 +16,7 @@ const Lesson = (() => {
       this.height = this.svg.viewBox.baseVal.height;
       this.drawn = [...this.svg.querySelectorAll(':scope > g[data-item]')];
       this.covers = this.drawn.filter((element) => element.dataset.cover !== undefined);
-      this.items = this.play.items || [];
+      this.items = (this.play.items || []).map((item) => ({ ...item, label: Words.named(item.label, item.kind) }));
     }
 
     /** The elements that show an item, or all items of a group, and what covers them. */

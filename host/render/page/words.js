@@ -21,7 +21,12 @@ const Words = (() => {
     return (texts[english] || english).replace(/%(\d)/g, (place, number) => values[number - 1]);
   }
 
-  return { text, language };
+  /** What an item is called: the name of its kind, and what stands on it. */
+  function named(label, kind) {
+    return kind && label.startsWith(kind) ? text(kind) + label.slice(kind.length) : label;
+  }
+
+  return { text, named, language };
 })();
 
 /** The page says in its language what it says in English without a script. */
@@ -34,4 +39,7 @@ document.querySelectorAll('main > .slide').forEach((section) => {
   const line = title ? Words.text('%1: %2', name, title) : name;
   heading.textContent = named ? Words.text('%1 (items shown by their name: %2)', line, named) : line;
   heading.lang = Words.language;
+});
+document.querySelectorAll('[data-kind]').forEach((element) => {
+  element.setAttribute('aria-label', Words.named(element.getAttribute('aria-label'), element.dataset.kind));
 });
