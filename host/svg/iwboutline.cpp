@@ -138,7 +138,7 @@ quint64 IwbOutline::markOf(const QStringRef &id)
 
 void IwbOutline::finish()
 {
-    m_rules.hasPlainTurns = m_meta.value(QStringLiteral("creator")).startsWith(QLatin1String("lessonconv "));
+    m_rules.hasPlainTurns = isOwn();
     QHash<int, QString> backgrounds;
     for (const Rectangle &rectangle : qAsConst(m_rectangles)) {
         const auto record = m_rules.records.constFind(rectangle.id);
@@ -258,6 +258,12 @@ XmlVisitor::Way IwbOutline::beginRecord(const QDomElement &row)
     return m_hasSvg ? Past : Inside;
 }
 
+// Written by this system, which says so before all else.
+bool IwbOutline::isOwn() const
+{
+    return m_meta.value(QStringLiteral("creator")).startsWith(QLatin1String("lessonconv "));
+}
+
 // What a record says that no item has, and the value of each that says nothing.
 void IwbOutline::nameUnread(const QDomElement &row)
 {
@@ -284,7 +290,7 @@ void IwbOutline::nameUnread(const QDomElement &row)
         const QString value = attributes.item(i).nodeValue();
         const bool isShape = name.startsWith(QLatin1String("stroke-lineshape"));
         const bool isPlain = value.isEmpty() || value == QLatin1String("none")
-            || (isShape ? value == QLatin1String("arrow")
+            || (isShape ? value == QLatin1String("arrow") || isOwn()
                         : name == QLatin1String("editable") && value == QLatin1String("true"));
         if (!isOneOf(read, name) && !isPlain && !name.startsWith(QLatin1String("xmlns"))) {
             unread.insert(name, value);

@@ -70,6 +70,7 @@ private:
     void readSize(const QDomElement &svg);
     void readRecord(const QDomElement &row);
     void nameUnread(const QDomElement &row);
+    bool isOwn() const;
 
     QString m_rootTag;
     bool m_hasKnownRoot = false;
