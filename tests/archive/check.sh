@@ -12,7 +12,7 @@ source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 lessonconv=$(realpath "$1")
 count=${2:-5000}
 PATH=$(dirname "$lessonconv"):/usr/sbin:/sbin:$PATH
-export LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 LANGUAGE=
 work=$(mktemp -d)
 daemons=()
 

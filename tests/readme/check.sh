@@ -8,7 +8,7 @@ set -u
 source_folder=$1 build=$2 work=$3 cmake=$4
 rm -rf "$work"
 mkdir -p "$work/home" "$work/lessons"
-export HOME=$work/home LC_ALL=C.UTF-8
+export HOME=$work/home LC_ALL=C.UTF-8 LANGUAGE=
 "$cmake" --install "$build" --prefix "$HOME/.local" >/dev/null || exit 1
 export PATH=$HOME/.local/bin:$PATH
 cd "$work/lessons" || exit 1
