@@ -382,6 +382,7 @@ LessonCheck checkLesson(const LessonFormat &from, const QString &input, const QV
     Inspector inspector(check, *reader, context.plugin);
     const WorkFolder folder;
     std::vector<std::unique_ptr<Trial>> trials;
+    trials.reserve(std::size_t(formats.size()));
     check.formats.reserve(formats.size());
     for (const LessonFormat *format : formats) {
         check.formats.append({format->name, {}, {}});
