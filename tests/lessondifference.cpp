@@ -358,6 +358,8 @@ struct Item
     bool isAroundPlaced = false; // around items with a matrix, which its own box follows
     int around = -1; // the number of the item that holds it; -1 on the slide
     QStringList childIds = {};
+    QVector<int> childPlaces = {}; // among all items
+    QSet<QString> heldIds = {}; // of all that it holds
 
     QString id() const { return idText(keys.value("ID")); }
     QString type() const { return keys.value("Type").toString(); }
@@ -392,8 +394,15 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
         }
         item.isAroundPlaced = haveMatrix(children);
         item.around = around;
+        const int at = all.size();
         all.append(item);
-        collect(children, all.size() - 1, road, all);
+        if (!isOuter) {
+            all[around].childPlaces.append(at);
+        }
+        collect(children, at, road, all);
+        for (int i = at + 1; i < all.size(); ++i) {
+            all[at].heldIds.insert(all.at(i).id());
+        }
     }
 }
 
@@ -464,7 +473,12 @@ private:
                 last = places.at(i);
             }
             const Item &back = foundItems.at(places.at(i));
-            if (item.childIds != back.childIds) {
+            QStringList childIds = item.childIds;
+            for (int k = 0; k < item.childPlaces.size(); ++k) {
+                const int place = places.at(item.childPlaces.at(k));
+                childIds[k] = place < 0 ? childIds.at(k) : foundItems.at(place).id();
+            }
+            if (childIds != back.childIds) {
                 differences.append({owner, "Children", item.childIds.join(' '), back.childIds.join(' ')});
             }
             itemKeys(owner, item, back);
@@ -506,6 +520,17 @@ private:
                 next = best + 1;
             }
         }
+        // A group that has lost its own is known by what it holds.
+        for (int i = 0; i < given.size(); ++i) {
+            int most = 0;
+            for (int j = 0; j < found.size() && (places.at(i) < 0 || most > 0); ++j) {
+                const int shared = QSet<QString>(given.at(i).heldIds).intersect(found.at(j).heldIds).size();
+                if (shared > most && !places.contains(j)) {
+                    most = shared;
+                    places[i] = j;
+                }
+            }
+        }
         for (const bool isByType : {true, false}) {
             for (int i = 0; i < given.size(); ++i) {
                 for (int j = 0; j < found.size() && places.at(i) < 0; ++j) {
@@ -526,7 +551,8 @@ private:
         const auto count = std::count_if(differences.begin() + before, differences.end(),
                                          [](const Difference &difference) { return !difference.isMinor; });
         differences.resize(before);
-        return int(count) + (given.childIds == found.childIds ? 0 : 1) - given.keys.size();
+        return int(count) + (given.childIds == found.childIds ? 0 : 1)
+            + (given.heldIds.isEmpty() == found.heldIds.isEmpty() ? 0 : 100) - given.keys.size();
     }
 
     void properties(const Owner &owner, const QJsonObject &given, const QJsonObject &found)
@@ -789,9 +815,8 @@ void removeOpacityInColor(Texts &texts, const QStringList &colorsBack)
             const auto color = std::find_if(own.begin(), own.end(), [&](const QString &text) {
                 return QColor(text).isValid() && isOpacityInColor(opacity, text, back);
             });
-            const bool isColorless = std::none_of(own.begin(), own.end(), [](const QString &text) {
-                return QColor(text).isValid();
-            });
+            const bool isColorless =
+                std::none_of(own.begin(), own.end(), [](const QString &text) { return QColor(text).isValid(); });
             if (color != own.end() || (isColorless && isOpacityInColor(opacity, back, back))) {
                 texts["@opacity"].removeOne(opacity);
                 color != own.end() ? texts["@color"].removeOne(*color) : false;

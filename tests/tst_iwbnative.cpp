@@ -91,9 +91,12 @@ private slots:
             "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQSmoothStroke s", "1 thing changed");
         row("moved picture", "ref-r", "", "ZQImagePic r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s",
             "1 thing changed");
-        row("one of a group", "rgb(4,5,6)", "rgb(4,5,60)",
+        row("one of a group", "rgb(4,5,6)", "rgb(4,5,60)", all, "1 thing changed");
+        row("taken out of its group", "<iwb:element ref=\"a\"/>", "",
             "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DCircle a, ZQMath2DCircle b, ZQSmoothStroke s",
-            "2 things changed");
+            "1 thing changed");
+        row("put into a group", "<iwb:element ref=\"a\"/>", "<iwb:element ref='h'/><iwb:element ref='a'/>",
+            "ZQPhysicsDianZu r, ZQGroupItem g, ZQSmoothStroke s", "1 thing changed");
         row("removed", "<svg:circle", "<svg:removed", "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQSmoothStroke s",
             "changed");
         row("added", "<svg:circle id=\"a\"",

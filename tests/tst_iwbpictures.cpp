@@ -18,13 +18,14 @@ QByteArray svgDocument(const QByteArray &content)
         + content + "</svg:svg>";
 }
 
-// The first page of a package as a document of its own.
+// The first page of a package as a document of its own, in which lines are never filled.
 QByteArray pageOf(const QString &package)
 {
     const QByteArray content = fileContent(package + "/content.xml");
     const int start = content.indexOf("<svg:page ");
     const int end = content.indexOf("</svg:page>");
-    return svgDocument("<svg:g " + content.mid(start + 10, end - start - 10) + "</svg:g>");
+    const QByteArray page = content.mid(start + 10, end - start - 10);
+    return svgDocument("<svg:g " + QByteArray(page).replace("<svg:polyline", "<svg:polyline fill='none'") + "</svg:g>");
 }
 
 QImage drawn(const QByteArray &document)

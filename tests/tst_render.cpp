@@ -166,7 +166,8 @@ private slots:
     // Files lie beside the page in a folder of its own; where that can't be, there is neither.
     void putsFilesBesideThePage()
     {
-        putFile(path("heard.json"), R"({"Resources":{"m/a.wav":"QUJD","n/A.wav":"REVG","x.html":"PGI+"},"Slides":[{"Items":[
+        putFile(path("heard.json"),
+                R"({"Resources":{"m/a.wav":"QUJD","n/A.wav":"REVG","x.html":"PGI+"},"Slides":[{"Items":[
             {"Type":"ZQMediaAudio","resource":"m/a.wav"},{"Type":"ZQMediaVideo","resource":"n/A.wav"},
             {"Type":"ZQMediaDoc","resource":"x.html"},{"Type":"ZQMediaAudio","resource":"m/a.wav"}]}]})");
         const auto render = [this](const QStringList &more) {
@@ -320,7 +321,8 @@ private slots:
             putFile(path(name), QJsonDocument(json(lesson)).toJson());
         };
         putLesson("scripts.json",
-                  "{'Slides':[{'Items':[{'ID':'1','Type':'ZQTextBoard','Text':'水 Б'}]},{'Items':[]},"
+                  "{'Slides':[{'Items':[{'ID':'1','Type':'ZQTextBoard','BoundingBox':'0,0,90,90','Text':'水 "
+                  "Б'}]},{'Items':[]},"
                   "{'Items':[{'ID':'2','Type':'ZQWordLatticeItem','BoundingBox':'0,0,90,90','Text':'山'},"
                   "{'ID':'3','Type':'ZQTextBoard','Text':'\\ue000 \\u0301'}]}]}");
         const QString chinese("2 slides have Chinese characters and no font here has them: install fonts-noto-cjk");

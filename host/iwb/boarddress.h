@@ -5,36 +5,55 @@
 #include <QDomElement>
 #include <QHash>
 #include <QJsonObject>
+#include <QMap>
 #include <QString>
+#include <QStringList>
+#include <QVector>
 
 namespace lessonhost {
 
 /*!
- * The dress that other boards know: what the plug-in writes of a page is completed and changed where the public format
- * asks for another form. Readers here understand both.
+ * The dress that other boards know: what the plug-in writes of a page is changed to what the public format has, and
+ * nothing else stays. Readers here understand both.
  *
- * Points are "x,y x,y"; closed outlines are polygons, since lines of points have no fill; opacities go from 0 to 1;
- * turns are rotate(a,x,y) in degrees, which the creator in the document's meta tells from the plug-in's; no blanks of
- * indentation stand between runs of text. Records tell backgrounds, arrows, items that give copies of themselves, and
- * ink.
+ * Points are "x,y x,y"; closed outlines are polygons, and so is what fills an open line; opacities go from 0 to 1;
+ * turns are rotate(a,x,y) in degrees; hidden items stand beside the page; ends of lines are svg:tbreak. Records tell
+ * backgrounds, arrows, flips, curtains, groups, items that give copies of themselves, and ink. Links that other boards
+ * can't follow are none.
  */
 class BoardDress
 {
 public:
+    //! What the elements of a page don't say themselves, by their identifiers.
+    struct Items
+    {
+        QHash<QString, bool> ink; //!< strokes, and whether they are of a marker
+        QHash<QString, QString> flips; //!< "horizontal", "vertical" or "both"
+        QVector<QStringList> groups; //!< of the elements of each
+    };
+
     //! marksInk: tells which lines are ink, so that boards that know ink make it ink.
     explicit BoardDress(bool marksInk);
+
+    //! Links to pages behind the last are none. Any may come where this isn't called.
+    void setPageCount(int count) { m_pageCount = count; }
 
     //! Once for a document without pages: who made it, and what the lesson says about itself.
     static void startDocument(QDomDocument document, const QJsonObject &presentation);
 
-    //! ink: the identifiers of elements that stand for strokes, and whether they are of a marker.
-    void dress(QDomElement page, const QHash<QString, bool> &ink) const;
+    void dress(QDomElement page, const Items &items);
 
 private:
-    void dressElement(QDomElement element, const QHash<QString, bool> &ink) const;
+    QDomElement dressLink(QDomElement link, const Items &items);
+    QDomElement dressSound(QDomElement link, const Items &items);
+    void dressElement(QDomElement element, const Items &items);
     void dressBackground(QDomElement page) const;
+    void addGroup(QDomDocument document, const QStringList &items);
+    bool canBeFollowed(const QString &target) const;
 
     bool m_marksInk;
+    int m_pageCount = 0;
+    QMap<QString, QStringList> m_elements; // identifiers of those that stand for an item of the page
 };
 
 //! The name that this program writes as a document's creator, before its version.

@@ -84,7 +84,7 @@ QString wholeText(const QDomElement &element, const QHash<QString, QString> &rec
 QDomElement itemElement(QDomElement element)
 {
     while (svgName(element) == QLatin1String("a")) {
-        const QDomElement inner = element.firstChildElement();
+        const QDomElement inner = element.lastChildElement();
         const QString id = element.attribute(QStringLiteral("id"));
         if (inner.isNull() || inner.attribute(QStringLiteral("id")) == id + QLatin1String(soundSign)) {
             break;
@@ -102,7 +102,10 @@ void RecordTexts::add(const QDomElement &element)
     }
     const bool isInRoot = holder.parentNode().isDocument();
     if (!isInRoot && iwbName(holder) == QLatin1String("group") && holder.parentNode().parentNode().isDocument()) {
-        add(element.attribute(QStringLiteral("ref")), QLatin1String(" group") + attributesOf(element));
+        // That it moves with others is no part of it; what else is said of it may stand anywhere.
+        const QString attributes = attributesOf(element);
+        add(element.attribute(QStringLiteral("ref")),
+            attributes.isEmpty() ? QString() : QString(QLatin1String(" element") + attributes));
         return;
     }
     const QString name = isInRoot ? iwbName(element) : QString();
@@ -116,6 +119,14 @@ void RecordTexts::add(const QString &id, const QString &text)
 {
     QString &known = m_texts[id];
     known = *m_shared.insert(known + text);
+}
+
+bool isFillBehind(const QDomElement &element)
+{
+    const QDomElement line = element.nextSiblingElement();
+    const QString id = line.attribute(QStringLiteral("id"));
+    return !id.isEmpty() && svgName(element) == QLatin1String("polygon") && svgName(line) == QLatin1String("polyline")
+        && element.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
 }
 
 QHash<QString, QString> recordTexts(const QDomElement &root)
@@ -134,7 +145,9 @@ QHash<QString, QString> recordTexts(const QDomElement &root)
 
 QString elementMark(const QDomElement &element, const QHash<QString, QString> &records)
 {
-    const QByteArray text = wholeText(element, records).toUtf8();
+    const QDomElement behind = element.previousSiblingElement();
+    const QByteArray text =
+        ((isFillBehind(behind) ? wholeText(behind, records) : QString()) + wholeText(element, records)).toUtf8();
     return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().left(20));
 }
 

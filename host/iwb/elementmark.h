@@ -15,7 +15,8 @@ namespace lessonhost {
 class RecordTexts
 {
 public:
-    //! Takes what the element says, if it is a record. The elements of a document come in their order, each in its place.
+    //! Takes what the element says, if it is a record. The elements of a document come in their order, each in its
+    //! place.
     void add(const QDomElement &element);
 
     const QHash<QString, QString> &texts() const { return m_texts; }
@@ -32,6 +33,9 @@ QHash<QString, QString> recordTexts(const QDomElement &root);
 
 //! What stands for an item on a page, within the links around it. A sound is its link.
 QDomElement itemElement(QDomElement element);
+
+//! Whether an element is what fills the open line that it stands behind, and is part of that line's item.
+bool isFillBehind(const QDomElement &element);
 
 //! Tells an element with all that is in it, its place and what records say of it, from any other. It stays the same
 //! where a program writes the document anew: with other prefixes, another order of attributes, other blanks and digits

@@ -16,6 +16,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lessonhost {
@@ -51,6 +52,29 @@ void setPaintKeys(QJsonObject &prepared, const ShapeForm &form, const SvgPaint &
     }
 }
 
+// The folders of a package take files of some kinds only.
+struct FolderFiles
+{
+    const char *folder;
+    const char *suffixes;
+};
+constexpr FolderFiles folderFiles[] = {
+    {"images", "png|jpg|jpeg|gif|bmp"}, {"videos", "mpg|mpeg"}, {"flash", "swf"}, {"audio", "wav|mp3"}};
+
+bool takesFile(const QString &folder, const QString &file)
+{
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    return std::any_of(std::begin(folderFiles), std::end(folderFiles), [&](const FolderFiles &row) {
+        return folder == QLatin1String(row.folder)
+            && QString::fromLatin1(row.suffixes).split(QLatin1Char('|')).contains(suffix);
+    });
+}
+
+Sentence noPlace()
+{
+    return say("it has no place on the page");
+}
+
 // The item's own element, within a link around it.
 QDomElement innermost(QDomElement element)
 {
@@ -65,7 +89,9 @@ bool isDrawn(const QDomElement &element)
 {
     const QString tag = element.tagName();
     if (tag == QLatin1String("svg:line") || tag == QLatin1String("svg:polyline")) {
-        return drawnExtent(element).has_value();
+        const bool hasPoints =
+            tag == QLatin1String("svg:line") || !element.attribute(QStringLiteral("points")).isEmpty();
+        return hasPoints && drawnExtent(element).has_value();
     }
     const bool hasArea =
         tag == QLatin1String("svg:rect") || tag == QLatin1String("svg:circle") || tag == QLatin1String("svg:ellipse");
@@ -182,6 +208,10 @@ QDomElement IwbItemWriter::writeText(const QJsonObject &item)
     }
     QJsonObject prepared = commonKeys(item);
     const auto place = view.place();
+    if (!place && m_setting.convertsDrawings) {
+        tellFormless(noPlace());
+        return {};
+    }
     if (place) {
         prepared.insert(ItemKeys::box, boxText(place->box));
         prepared.insert(ItemKeys::matrix, QStringLiteral("1,0,0,1,0,0"));
@@ -233,11 +263,21 @@ QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
             source.clear();
         }
     }
-    QJsonObject prepared = commonKeys(item);
-    if (!source.isEmpty()) {
-        prepared.insert(ItemKeys::mediaFiles, placeMedia(source, QLatin1String(mediaFolder(type))));
+    if (source.isEmpty() && m_setting.convertsDrawings) {
+        tellFormless(say("it has no file to show"));
+        return {};
     }
     const auto place = view.place();
+    if (!place && m_setting.convertsDrawings) {
+        tellFormless(noPlace());
+        return {};
+    }
+    QJsonObject prepared = commonKeys(item);
+    QString file;
+    if (!source.isEmpty()) {
+        file = placeMedia(source, QLatin1String(mediaFolder(type)));
+        prepared.insert(ItemKeys::mediaFiles, file);
+    }
     if (place) {
         prepared.insert(ItemKeys::box, boxText(place->box));
         prepared.insert(ItemKeys::matrix, QStringLiteral("1,0,0,1,0,0"));
@@ -247,6 +287,7 @@ QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
         return {};
     }
     QDomElement media = innermost(element);
+    media.setAttribute(QStringLiteral("xlink:href"), file);
     if (source.isEmpty()) {
         media.removeAttribute(QStringLiteral("xlink:href"));
     }
@@ -260,15 +301,19 @@ QDomElement IwbItemWriter::writeMedia(const QJsonObject &item)
     return element;
 }
 
-// The format has no drawings in svg: they go as pictures of pixels.
+// The format has pictures of few kinds, and no drawings in svg: others go as pictures of pixels. What else no folder
+// takes stands among the other files.
 QString IwbItemWriter::placeMedia(const QString &source, const QString &folder)
 {
     IwbMedia::File file;
     file.source = source;
     QString name;
-    if (m_setting.convertsDrawings) {
-        const Picture picture(source);
-        file.isConverted = picture.format() == "svg";
+    const bool isPicture = folder == QLatin1String("images");
+    QString chosen = folder;
+    if (m_setting.convertsDrawings && !takesFile(folder, source)) {
+        chosen = isPicture ? folder : QStringLiteral("additional");
+        const Picture picture(isPicture ? source : QString());
+        file.isConverted = isPicture;
         if (file.isConverted) {
             file.picture = picture.image();
             name = QFileInfo(source).completeBaseName() + QLatin1String(".png");
@@ -278,7 +323,7 @@ QString IwbItemWriter::placeMedia(const QString &source, const QString &folder)
             name.clear();
         }
     }
-    return m_setting.media->place(folder, file, name);
+    return m_setting.media->place(chosen, file, name);
 }
 
 // What every item hands over. Nothing else of an item reaches the plug-in by itself: what a file says under keys that

@@ -25,7 +25,7 @@ public:
         IZQTransformation *plugin = nullptr;
         IwbMedia *media = nullptr;
         bool keepsInk = true; //!< writes strokes as polylines
-        bool convertsDrawings = false; //!< pictures in svg become pictures of pixels
+        bool convertsDrawings = false; //!< for the format's own rules: all has a place and files of the kinds it knows
         bool keepsLinks = true; //!< writes what items open
         bool isStored = true; //!< files go into a package, in the forms that it takes
     };

@@ -3,6 +3,7 @@
 
 #include "iwb/boarddress.h"
 #include "iwb/drawnplace.h"
+#include "iwb/uniqueids.h"
 #include "izqtransformation.h"
 #include "lesson/itemview.h"
 #include "lesson/pageplace.h"
@@ -143,10 +144,12 @@ void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slid
                            const QVector<IwbPageWriter::WrittenItem> &items, int number, const SlideLosses &losses)
 {
     const SvgNormalizer content(document.documentElement());
-    IwbSlideReader::Slide found = m_reader.read(content.page(0), number, {});
+    UniqueIds ids;
+    IwbSlideReader::Slide found = m_reader.readLoose(content.page(0), number, {}, ids);
     found.slide.properties.insert(ItemKeys::id,
                                   m_names.next(content.outline().backgroundName(0), content.outline().pageId(0)));
     compareSlide(slide.properties, found.slide.properties, losses);
+    compareGroups(slide, found, items, number, losses);
     int next = 0;
     for (const IwbPageWriter::WrittenItem &written : items) {
         const int at = written.id.isEmpty() ? -1 : found.elementIds.indexOf(written.id, next);
@@ -159,6 +162,52 @@ void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slid
         } else if (!written.id.isEmpty()) {
             losses.item(written.given);
         }
+    }
+}
+
+// What groups say beyond their items, and which of them these are.
+void IwbPageCheck::compareGroups(const LessonSlide &slide, IwbSlideReader::Slide found,
+                                 const QVector<IwbPageWriter::WrittenItem> &items, int number,
+                                 const SlideLosses &losses) const
+{
+    QHash<int, int> groups; // of the document, by the places of the slide's items
+    QHash<int, int> shown; // elements of each
+    QHash<int, QJsonArray> held; // what each held, group or not
+    for (const IwbPageWriter::WrittenItem &written : items) {
+        const int at = written.id.isEmpty() ? -1 : found.elementIds.indexOf(written.id);
+        shown[written.top] += written.id.isEmpty() ? 0 : 1;
+        held[written.top].append(written.given);
+        if (at >= 0 && found.groups.at(at) >= 0) {
+            groups.insert(written.top, found.groups.at(at));
+        }
+    }
+    UniqueIds ids;
+    IwbSlideReader::putIntoGroups(found, number, ids, {});
+    for (int i = 0; i < slide.items.size(); ++i) {
+        const QJsonObject given = slide.items.at(i).toObject();
+        if (ItemView(given).type() != QLatin1String("ZQGroupItem") || shown.value(i) < 2) {
+            continue; // which was told
+        }
+        const int at = groups.contains(i) ? found.groups.indexOf(groups.value(i)) : -1;
+        if (at < 0) {
+            losses.takenApart(given);
+            continue;
+        }
+        QJsonObject back = found.slide.items.at(at).toObject();
+        QJsonObject own = given;
+        const QJsonArray children = own.take(HostKeys::children).toArray();
+        if (isFlag(given.value(ItemKeys::visible))) {
+            // Its items say so.
+            own.remove(ItemKeys::visible);
+            back.remove(ItemKeys::visible);
+        }
+        if (back.value(HostKeys::children).toArray().size() != children.size() || held.value(i) != children) {
+            losses.value(given, HostKeys::children, say("some have no form, or are groups"));
+        }
+        removeFitting(own);
+        Comparison::Rules rules;
+        rules.tolerance = writtenDigits;
+        Comparison(losses, rules).compareProperties(given, own, back);
     }
 }
 

@@ -8,8 +8,14 @@
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/pagesize.h"
+#include "lesson/plainnames.h"
 #include "lesson/textruns.h"
 #include "svg/iwbpage.h"
+
+#include <QPainter>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace lessonhost {
 
@@ -25,6 +31,29 @@ QString backgroundColor(const QJsonObject &properties)
         color = itemColor(properties.value(SlideKeys::color));
     }
     return color ? color->name(color->alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) : QStringLiteral("#ffffff");
+}
+
+// What a picture of an item is called in the package, which is its title on other boards.
+QString fileTitle(const QString &type)
+{
+    QString title;
+    const QString name = plainName(type);
+    for (const QChar c : name) {
+        const bool isPlain = c.unicode() < 128 && (c.isLetterOrNumber() || c == QLatin1Char('-'));
+        title += isPlain ? c : QLatin1Char('_');
+    }
+    return title;
+}
+
+// A painted item in a frame of its own instead of the smallest around it.
+QImage inFrame(const PaintedItem &item, const QRectF &frame)
+{
+    const double scale = item.image.width() / item.box.width();
+    QImage image((frame.size() * scale).toSize().expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.drawImage((item.box.topLeft() - frame.topLeft()) * scale, item.image);
+    return image;
 }
 
 } // namespace
@@ -170,14 +199,22 @@ QVector<IwbPageWriter::WrittenItem> IwbPageWriter::addItems(QDomElement &page, c
 }
 
 void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item,
-                            const SlideLosses &losses, QVector<WrittenItem> &written)
+                            const SlideLosses &losses, QVector<WrittenItem> &written, bool isInGroup)
 {
     const QVector<QJsonObject> children = ItemView(item).looseChildren();
     if (!children.isEmpty()) {
-        losses.takenApart(given);
         const QVector<QJsonObject> own = ItemView(given).childObjects();
+        const int first = written.size();
         for (int i = 0; i < children.size(); ++i) {
-            addItem(page, own.at(i), children.at(i), losses, written);
+            addItem(page, own.at(i), children.at(i), losses, written, true);
+        }
+        const auto shown = std::count_if(written.cbegin() + first, written.cend(),
+                                         [](const WrittenItem &row) { return !row.id.isEmpty(); });
+        // Boards have groups, but none within groups.
+        const bool staysGroup =
+            m_isUniqueInDocument && !isInGroup && shown > 1 && ItemView(given).type() == QLatin1String("ZQGroupItem");
+        if (!staysGroup) {
+            losses.takenApart(given);
         }
         return;
     }
@@ -214,22 +251,25 @@ void IwbPageWriter::setPainter(ItemPainter *painter)
 }
 
 // Nothing for an item that isn't to be seen, or was asked to be left out.
-QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id)
+QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id, const QRectF &frame)
 {
     const ItemView view(item);
     if (!view.isVisible() || isInk(view.type())) {
         return {};
     }
-    const auto picture = m_painter->paint(item, m_pageSize);
+    auto picture = m_painter->paint(item, m_pageSize);
     if (!picture) {
         return {};
+    }
+    if (!frame.isEmpty()) {
+        picture = PaintedItem{inFrame(*picture, frame), frame};
     }
     IwbMedia::File file;
     file.source = QStringLiteral("page%1/%2.png").arg(m_number).arg(id);
     file.isConverted = true;
     file.isMade = true;
     file.picture = picture->image;
-    const QString name = QStringLiteral("item%1_%2.png").arg(m_number).arg(++m_pictures);
+    const QString name = QStringLiteral("%1_%2-%3.png").arg(fileTitle(view.type())).arg(m_number).arg(++m_pictures);
     const QString reference = m_media->place(QStringLiteral("images"), file, name);
     return m_items.writePicture(m_document, item, id, reference, picture->box);
 }
@@ -238,9 +278,15 @@ QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id)
 void IwbPageWriter::addSign(QDomElement &link, const QJsonObject &item)
 {
     QJsonObject sound = item;
-    sound.remove(ItemKeys::linkType);
-    sound.remove(ItemKeys::locked);
-    const QDomElement sign = pictureOf(sound, link.attribute(QStringLiteral("id")) + QLatin1String(soundSign));
+    for (const QLatin1String key : {ItemKeys::linkType, ItemKeys::locked, ItemKeys::angle, ItemKeys::matrix}) {
+        sound.remove(key);
+    }
+    const auto place = ItemView(item).place();
+    const QRectF frame = place ? place->box : QRectF();
+    if (place) {
+        sound.insert(ItemKeys::box, boxText(frame));
+    }
+    const QDomElement sign = pictureOf(sound, link.attribute(QStringLiteral("id")) + QLatin1String(soundSign), frame);
     if (!sign.isNull() && sign.tagName() == QLatin1String("svg:image")) {
         link.appendChild(sign);
     }
@@ -249,8 +295,24 @@ void IwbPageWriter::addSign(QDomElement &link, const QJsonObject &item)
 // Of an identifier that two items have, the second gets one of its own: records know elements by it.
 QString IwbPageWriter::idOf(const QJsonObject &item)
 {
-    const QString id = withoutControlCharacters(ItemView(item).id());
-    return m_ids.take(id.isEmpty() ? QStringLiteral("item%1_%2").arg(m_number).arg(++m_generatedIds) : id);
+    QString id = withoutControlCharacters(ItemView(item).id());
+    id = id.isEmpty() ? QStringLiteral("item%1_%2").arg(m_number).arg(++m_generatedIds) : id;
+    if (!m_isUniqueInDocument) {
+        return m_ids.take(id);
+    }
+    // Pages have identifiers, too, and so have what stands around an element, in it and behind it.
+    static const QRegularExpression pageName(QStringLiteral("^page\\d+$"));
+    id = pageName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
+    constexpr const char *endings[] = {"_link", soundSign, lineFill};
+    QString own = m_ids.take(id);
+    const auto isTaken = [&](const char *ending) { return m_ids.has(own + QLatin1String(ending)); };
+    while (std::any_of(std::begin(endings), std::end(endings), isTaken)) {
+        own = m_ids.take(id);
+    }
+    for (const char *ending : endings) {
+        m_ids.take(own + QLatin1String(ending));
+    }
+    return own;
 }
 
 } // namespace lessonhost

@@ -48,8 +48,8 @@ public:
 
     IwbItemWriter &items() { return m_items; }
 
-    //! Records know elements by their identifiers, whatever page they stand on. Without this, what items on two pages
-    //! call themselves is kept.
+    //! Records know elements by their identifiers, whatever page they stand on, and links know pages so. Without this,
+    //! what items on two pages call themselves is kept.
     void setUniqueInDocument() { m_isUniqueInDocument = true; }
 
     //! Items without a form become pictures; null for none. It has to live as long.
@@ -57,8 +57,8 @@ public:
 
 private:
     void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
-                 QVector<WrittenItem> &written);
-    QDomElement pictureOf(const QJsonObject &item, const QString &id);
+                 QVector<WrittenItem> &written, bool isInGroup = false);
+    QDomElement pictureOf(const QJsonObject &item, const QString &id, const QRectF &frame = {});
     void addSign(QDomElement &link, const QJsonObject &item);
     QString idOf(const QJsonObject &item);
     QString background(const QJsonObject &slide, const QString &id, const SlideLosses &losses);

@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <utility>
+
 namespace lessonhost {
 
 namespace {
@@ -106,14 +108,20 @@ IwbSlideReader::IwbSlideReader(IZQTransformation *plugin, IwbReferences *referen
 
 IwbSlideReader::Slide IwbSlideReader::read(IwbPage page, int number, const SlideLosses &losses)
 {
+    UniqueIds ids;
+    Slide result = readLoose(std::move(page), number, losses, ids);
+    putIntoGroups(result, number, ids, losses);
+    return result;
+}
+
+IwbSlideReader::Slide IwbSlideReader::readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids)
+{
     for (const SvgRemark &remark : qAsConst(page.remarks)) {
         const LossOwner owner(remark.tag, remark.id);
         remark.isLoss ? losses.value(owner, {}, remark.text) : losses.note(owner, remark.text);
     }
     Slide result;
     result.slide.properties = readProperties(page, losses);
-    UniqueIds ids;
-    QVector<int> groups;
     for (const IwbElement &element : qAsConst(page.items)) {
         QJsonObject item = readItem(element, losses);
         if (!item.isEmpty()) {
@@ -122,20 +130,21 @@ IwbSlideReader::Slide IwbSlideReader::read(IwbPage page, int number, const Slide
             item.insert(ItemKeys::id, ids.take(id));
             result.slide.items.append(item);
             result.elementIds.append(element.id);
-            groups.append(element.group);
+            result.groups.append(element.group);
         }
     }
-    putIntoGroups(result, groups, number, ids, losses);
     return result;
 }
 
 // Items that are a group in the document are one again, where nothing stands between them: a group is one layer.
-void IwbSlideReader::putIntoGroups(Slide &slide, const QVector<int> &groups, int number, UniqueIds &ids,
-                                   const SlideLosses &losses)
+void IwbSlideReader::putIntoGroups(Slide &slide, int number, UniqueIds &ids, const SlideLosses &losses)
 {
+    const QVector<int> groups = slide.groups;
     QJsonArray items;
     QStringList elementIds;
     QSet<int> begun;
+    slide.groups.clear();
+    int count = 0; // of the groups of this page
     for (int i = 0; i < groups.size();) {
         int end = i + 1;
         while (groups.at(i) >= 0 && end < groups.size() && groups.at(end) == groups.at(i)) {
@@ -149,13 +158,15 @@ void IwbSlideReader::putIntoGroups(Slide &slide, const QVector<int> &groups, int
         if (end - i < 2) {
             items.append(slide.slide.items.at(i));
             elementIds.append(slide.elementIds.at(i));
+            slide.groups.append(-1);
         } else {
             QJsonArray children;
             for (int k = i; k < end; ++k) {
                 children.append(slide.slide.items.at(k));
             }
-            items.append(groupOf(children, ids.take(QStringLiteral("group%1_%2").arg(number).arg(groups.at(i) + 1))));
+            items.append(groupOf(children, ids.take(QStringLiteral("group%1_%2").arg(number).arg(++count))));
             elementIds.append(QString());
+            slide.groups.append(groups.at(i));
         }
         i = end;
     }

@@ -41,15 +41,19 @@ public:
     {
         LessonSlide slide; //!< without ID
         QStringList elementIds; //!< for each item, the identifier that its element has in the page
+        QVector<int> groups; //!< for each, which of the document's groups it belongs to, or -1
     };
 
     //! number counts from 1 and names items that have no identifier. page is changed on the way.
     Slide read(IwbPage page, int number, const SlideLosses &losses);
+    //! The same with all items by themselves.
+    Slide readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids);
+    //! Puts the items of groups into items that are groups, which nothing stands between.
+    static void putIntoGroups(Slide &slide, int number, UniqueIds &ids, const SlideLosses &losses);
 
 private:
     QJsonObject readProperties(IwbPage &page, const SlideLosses &losses);
     QJsonObject readItem(IwbElement item, const SlideLosses &losses);
-    void putIntoGroups(Slide &slide, const QVector<int> &groups, int number, UniqueIds &ids, const SlideLosses &losses);
     QString mediaFile(const IwbElement &item, const SlideLosses &losses);
     void readLink(const IwbElement &item, const SlideLosses &losses, QJsonObject &json);
 

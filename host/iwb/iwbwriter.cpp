@@ -37,16 +37,40 @@ IwbItemWriter::Setting itemSetting(const LessonContext &context, IwbMedia *media
     return setting;
 }
 
-QHash<QString, bool> inkOf(const QVector<IwbPageWriter::WrittenItem> &items)
+// What a picture's file shows is mirrored. Under a matrix, nobody asks for these keys.
+QString flipOf(const ItemView &item)
 {
-    QHash<QString, bool> ink;
-    for (const IwbPageWriter::WrittenItem &written : items) {
-        const QString type = ItemView(written.item).type();
-        if (isInk(type)) {
-            ink.insert(written.id, type == QLatin1String("ZQFluorescentStroke"));
-        }
+    const bool isAcross = item.flag(ItemKeys::flippedAcross);
+    const bool isDown = item.flag(ItemKeys::flippedDown);
+    if (item.type() != QLatin1String("ZQImagePic") || item.matrix() || !(isAcross || isDown)) {
+        return {};
     }
-    return ink;
+    return isAcross && isDown ? QStringLiteral("both")
+        : isAcross            ? QStringLiteral("horizontal")
+                              : QStringLiteral("vertical");
+}
+
+// Items of one group of the slide become one again.
+BoardDress::Items itemsFor(const QVector<IwbPageWriter::WrittenItem> &items)
+{
+    BoardDress::Items dressed;
+    int last = -1;
+    for (const IwbPageWriter::WrittenItem &written : items) {
+        const ItemView item(written.item);
+        if (isInk(item.type())) {
+            dressed.ink.insert(written.id, item.type() == QLatin1String("ZQFluorescentStroke"));
+        }
+        const QString flip = flipOf(item);
+        if (!flip.isEmpty() && !written.isPicture) {
+            dressed.flips.insert(written.id, flip);
+        }
+        if (written.top != last) {
+            dressed.groups.append(QStringList());
+        }
+        last = written.top;
+        dressed.groups.last().append(written.id);
+    }
+    return dressed;
 }
 
 bool isArchiveName(const QString &path)
@@ -70,9 +94,7 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     if (context.verify && m_losses.presentation().isHeard()) {
         m_check = std::make_unique<IwbPageCheck>(context.plugin, m_media);
     }
-    if (m_travels) {
-        m_pages.setUniqueInDocument();
-    }
+    m_pages.setUniqueInDocument();
     if (m_travels && !context.isTrial) {
         m_native = std::make_unique<NativePartWriter>(m_target);
     }
@@ -107,7 +129,7 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
     if (!items.isEmpty() && std::all_of(items.cbegin(), items.cend(), isLeftOut)) {
         losses.emptied({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()});
     }
-    m_dress.dress(page, inkOf(items));
+    m_dress.dress(page, itemsFor(items));
     if (m_check) {
         m_check->compare(m_pages.document(), slide, items, m_slides, losses);
     }

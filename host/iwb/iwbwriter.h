@@ -25,6 +25,11 @@ class IwbWriter : public LessonWriter
 public:
     IwbWriter(const QString &path, const LessonContext &context);
 
+    void expect(int slides, int resources) override
+    {
+        Q_UNUSED(resources)
+        m_dress.setPageCount(slides);
+    }
     void begin(const QJsonObject &presentation) override;
     void addResource(const QString &relativePath, const QString &sourceFile) override;
     void writeSlide(const LessonSlide &slide) override;

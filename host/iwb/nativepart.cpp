@@ -38,6 +38,7 @@ const QLatin1String mark("mark");
 const QLatin1String items("items");
 const QLatin1String item("item");
 const QLatin1String parts("parts");
+const QLatin1String group("group");
 const QLatin1String id("id");
 } // namespace Keys
 
@@ -51,6 +52,9 @@ QHash<QString, QDomElement> elementsOf(const QDomElement &page)
 {
     QHash<QString, QDomElement> elements;
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (isFillBehind(child)) {
+            continue;
+        }
         elements.insert(itemElement(child).attribute(QStringLiteral("id")), child);
     }
     return elements;
@@ -108,22 +112,27 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
     int next = 0;
     for (int i = 0; i < slide.items.size(); ++i) {
         QJsonArray parts;
+        int shown = 0;
         for (; next < items.size() && items.at(next).top == i; ++next) {
             const bool isWhole = items.at(next).given == slide.items.at(i).toObject();
             parts.append(partOf(items.at(next), isWhole, elements, records));
             itemIds.append(items.at(next).id);
+            shown += items.at(next).id.isEmpty() ? 0 : 1;
         }
-        entries.append(QJsonObject{{Keys::item, slide.items.at(i)}, {Keys::parts, parts}});
+        QJsonObject entry{{Keys::item, slide.items.at(i)}, {Keys::parts, parts}};
+        if (shown > 1) {
+            entry.insert(Keys::group, true);
+        }
+        entries.append(entry);
     }
     QVector<QDomElement> background;
     QStringList backgroundIds;
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const QString id = child.attribute(QStringLiteral("id"));
-        if (!elements.contains(id) || !itemIds.contains(id)) {
-            if (child.tagName() != QLatin1String("svg:a")) {
-                background.append(child);
-                backgroundIds.append(id);
-            }
+        const bool isItem = elements.contains(id) && itemIds.contains(id);
+        if (!isItem && !isFillBehind(child) && child.tagName() != QLatin1String("svg:a")) {
+            background.append(child);
+            backgroundIds.append(id);
         }
     }
     const QJsonObject json{{Keys::slide, slide.properties},
@@ -217,6 +226,7 @@ std::optional<NativePage> NativePart::page(const QString &pageId) const
     for (const QJsonValue &value : items) {
         NativePage::Entry entry;
         entry.item = value.toObject().value(Keys::item).toObject();
+        entry.isGroup = value.toObject().value(Keys::group).toBool();
         const QJsonArray parts = value.toObject().value(Keys::parts).toArray();
         for (const QJsonValue &part : parts) {
             entry.parts.append(readPart(part.toObject()));

@@ -33,6 +33,7 @@ struct NativePage
     {
         QJsonObject item;
         QVector<Part> parts;
+        bool isGroup = false; //!< its elements were a group of the document
     };
 
     QJsonObject slide; //!< properties

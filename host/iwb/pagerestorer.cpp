@@ -34,11 +34,7 @@ LessonSlide PageRestorer::restore(int index, const NativePage &native, const Sli
     slide.properties = properties(native, index + 1, losses);
     placeEntries(native);
     placeOthers(index + 1, losses);
-    std::stable_sort(m_placed.begin(), m_placed.end(),
-                     [](const Placed &one, const Placed &other) { return one.child < other.child; });
-    for (const Placed &placed : qAsConst(m_placed)) {
-        slide.items.append(placed.item);
-    }
+    slide.items = grouped(index + 1, losses);
     tell(losses);
     return slide;
 }
@@ -48,12 +44,32 @@ void PageRestorer::lookAtPage()
     for (const XmlPart &layer : qAsConst(m_layers)) {
         for (QDomElement child = layer.element.firstChildElement(); !child.isNull();
              child = child.nextSiblingElement()) {
+            if (isFillBehind(child)) {
+                continue;
+            }
             const QString id = itemElement(child).attribute(QStringLiteral("id"));
+            const int group = m_content.outline().groupOf(id);
+            m_groupSizes[group] += group < 0 ? 0 : 1;
             // Of two, neither is surely the one.
             m_byId.insert(id, m_byId.contains(id) ? -1 : m_children.size());
             m_children.append(child);
         }
     }
+}
+
+// Whether the document still has the elements of an entry, and no others, in one group, as it was written.
+bool PageRestorer::isOneGroup(const NativePage::Entry &entry) const
+{
+    QSet<int> groups;
+    int shown = 0;
+    for (const NativePage::Part &part : entry.parts) {
+        if (!part.id.isEmpty()) {
+            groups.insert(m_content.outline().groupOf(part.id));
+            ++shown;
+        }
+    }
+    const int group = groups.isEmpty() ? -1 : *groups.constBegin();
+    return groups.size() == 1 && group >= 0 && m_groupSizes.value(group) == shown;
 }
 
 bool PageRestorer::isIntact(const NativePage::Part &part) const
@@ -100,22 +116,30 @@ void PageRestorer::placeEntries(const NativePage &native)
     int last = -1;
     for (const NativePage::Entry &entry : native.entries) {
         int first = -1;
+        const bool isOther = entry.isGroup && !isOneGroup(entry);
         bool isWhole = true;
+        int group = -1;
         for (const NativePage::Part &part : entry.parts) {
             const bool isPartIntact = isIntact(part);
             isWhole = isWhole && isPartIntact;
             const int child = part.id.isEmpty() ? -1 : m_byId.value(part.id, -1);
+            group = entry.isGroup && child >= 0 ? qMax(group, m_content.outline().groupOf(part.id)) : group;
             if (isPartIntact && child >= 0 && (first < 0 || child < first)) {
                 first = child;
             }
         }
         last = first >= 0 ? first : last;
-        if (isWhole) {
-            m_placed.append({last, entry.item});
+        if (isWhole && !isOther) {
+            const bool isAlone = entry.parts.size() == 1 && first >= 0;
+            m_placed.append({last, entry.item, isAlone ? m_content.outline().groupOf(entry.parts.first().id) : -1});
             ++m_restored;
+        } else if (group >= 0) {
+            m_groups.insert(group, entry.item);
+            m_changed += isWhole ? 1 : 0; // others are in it
         } else if (entry.parts.size() > 1) {
             ++m_changed; // the group is none any more
         }
+        isWhole = isWhole && !isOther;
         for (const NativePage::Part &part : entry.parts) {
             const int child = part.id.isEmpty() ? -1 : m_byId.value(part.id, -1);
             const bool isPartIntact = isIntact(part);
@@ -126,7 +150,8 @@ void PageRestorer::placeEntries(const NativePage &native)
                 continue;
             }
             if (isPartIntact && !part.item.isEmpty()) {
-                m_placed.append({child >= 0 ? child : last, part.item});
+                m_placed.append(
+                    {child >= 0 ? child : last, part.item, child >= 0 ? m_content.outline().groupOf(part.id) : group});
                 ++m_restored;
             } else if (!isPartIntact) {
                 ++(child >= 0 ? m_changed : m_gone);
@@ -149,16 +174,43 @@ void PageRestorer::placeOthers(int number, const SlideLosses &losses)
         }
         if (end > i) {
             const IwbSlideReader::Slide found =
-                m_reader.read(m_content.page(m_layers, m_children.mid(i, end - i)), number, losses);
-            for (const QJsonValue &value : found.slide.items) {
-                QJsonObject item = value.toObject();
-                item.insert(ItemKeys::id, ids.take(item.value(ItemKeys::id).toString()));
-                m_placed.append({i, item});
+                m_reader.readLoose(m_content.page(m_layers, m_children.mid(i, end - i)), number, losses, ids);
+            for (int k = 0; k < found.slide.items.size(); ++k) {
+                m_placed.append({i, found.slide.items.at(k).toObject(), found.groups.at(k)});
                 ++m_others;
             }
         }
         i = end + 1;
     }
+}
+
+// Items that the document has in a group, with what the group itself was.
+QJsonArray PageRestorer::grouped(int number, const SlideLosses &losses)
+{
+    std::stable_sort(m_placed.begin(), m_placed.end(),
+                     [](const Placed &one, const Placed &other) { return one.child < other.child; });
+    IwbSlideReader::Slide slide;
+    UniqueIds ids;
+    for (const Placed &placed : qAsConst(m_placed)) {
+        slide.slide.items.append(placed.item);
+        slide.elementIds.append(placed.item.value(ItemKeys::id).toString());
+        slide.groups.append(placed.group);
+        ids.take(slide.elementIds.last());
+    }
+    IwbSlideReader::putIntoGroups(slide, number, ids, losses);
+    for (int i = 0; i < slide.groups.size(); ++i) {
+        QJsonObject group = slide.slide.items.at(i).toObject();
+        const QJsonObject given = m_groups.value(slide.groups.at(i));
+        for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
+            const bool isPlace =
+                it.key() == ItemKeys::box || it.key() == ItemKeys::matrix || it.key() == ItemKeys::angle;
+            if (!isPlace && it.key() != HostKeys::children && it.key() != ItemKeys::visible) {
+                group.insert(it.key(), it.value());
+            }
+        }
+        slide.slide.items.replace(i, group);
+    }
+    return slide.slide.items;
 }
 
 void PageRestorer::tell(const SlideLosses &losses) const

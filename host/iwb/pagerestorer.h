@@ -26,12 +26,15 @@ private:
     {
         int child; // of the page where it stands
         QJsonObject item;
+        int group = -1; // of the document, for one that stands by itself
     };
 
     void lookAtPage();
+    bool isOneGroup(const NativePage::Entry &entry) const;
     bool isIntact(const NativePage::Part &part) const;
     void placeEntries(const NativePage &native);
     void placeOthers(int number, const SlideLosses &losses);
+    QJsonArray grouped(int number, const SlideLosses &losses);
     QJsonObject properties(const NativePage &native, int number, const SlideLosses &losses);
     void tell(const SlideLosses &losses) const;
 
@@ -42,6 +45,8 @@ private:
     QVector<XmlPart> m_layers; // of the page
     QVector<QDomElement> m_children; // of these
     QHash<QString, int> m_byId; // the child in which an element stands
+    QHash<int, int> m_groupSizes; // of the document's groups on this page
+    QHash<int, QJsonObject> m_groups; // what they were, where other programs have changed what is in them
     QSet<int> m_taken; // children that need not be read
     QVector<Placed> m_placed;
     int m_restored = 0;

@@ -26,6 +26,8 @@ public:
         return id;
     }
 
+    bool has(const QString &id) const { return m_used.contains(id); }
+
     //! Makes an identifier free again that nobody needs.
     void giveBack(const QString &id) { m_used.remove(id); }
 

@@ -23,7 +23,7 @@ struct MediaFolder
 constexpr MediaFolder mediaFolders[] = {
     {"ZQImagePic", "images"},
     {"ZQMediaVideo", "videos"},
-    {"ZQMediaFlash", "videos"},
+    {"ZQMediaFlash", "flash"},
     {"ZQMediaAudio", "audio"},
 };
 

@@ -139,6 +139,7 @@ quint64 IwbOutline::markOf(const QStringRef &id)
 void IwbOutline::finish()
 {
     m_rules.hasPlainTurns = isOwn();
+    m_rules.isOwn = isOwn() && !m_rules.isNative;
     QHash<int, QString> backgrounds;
     for (const Rectangle &rectangle : qAsConst(m_rectangles)) {
         const auto record = m_rules.records.constFind(rectangle.id);
@@ -267,21 +268,11 @@ bool IwbOutline::isOwn() const
 // What a record says that no item has, and the value of each that says nothing.
 void IwbOutline::nameUnread(const QDomElement &row)
 {
-    constexpr const char *read[] = {"ref",
-                                    "locked",
-                                    "replicate",
-                                    "background",
-                                    "backgorund",
-                                    "background-posture",
-                                    "flip",
-                                    "revealer",
-                                    "freehand",
-                                    "highlight",
-                                    "background-fill",
-                                    "highlight-fill",
-                                    "type",
-                                    "list-style-type",
-                                    "list-style-type-fill",
+    constexpr const char *read[] = {"ref",        "locked",          "replicate",
+                                    "background", "backgorund",      "background-posture",
+                                    "flip",       "revealer",        "freehand",
+                                    "highlight",  "background-fill", "highlight-fill",
+                                    "type",       "list-style-type", "list-style-type-fill",
                                     "file"};
     const QDomNamedNodeMap attributes = row.attributes();
     QMap<QString, QString> unread; // in the same order each time
@@ -347,10 +338,16 @@ QDomElement IwbOutline::sizeElement(QDomDocument &document) const
     document.appendChild(element);
     element.setAttribute(QStringLiteral("width"), QString::number(m_rules.viewBox.width(), 'g', 10));
     element.setAttribute(QStringLiteral("height"), QString::number(m_rules.viewBox.height(), 'g', 10));
-    if (!m_svgId.isEmpty()) {
-        element.setAttribute(QStringLiteral("id"), m_svgId);
+    const QString id = m_meta.value(QLatin1String(identifierMeta), m_svgId);
+    if (!id.isEmpty()) {
+        element.setAttribute(QStringLiteral("id"), id);
     }
     return element;
+}
+
+int IwbOutline::groupOf(const QString &id) const
+{
+    return m_rules.groups.value(id, m_rules.groups.value(id + QLatin1String(soundSign), -1));
 }
 
 } // namespace lessonhost

@@ -33,6 +33,8 @@ public:
     QDomElement sizeElement(QDomDocument &document) const;
     //! What the document says about itself, by the names that it uses: "owner", "description", "creator".
     const QHash<QString, QString> &meta() const { return m_meta; }
+    //! Which of the document's groups an element is in, that of the sign for a sound; -1 for none.
+    int groupOf(const QString &id) const;
     //! About the document as a whole.
     QVector<SvgRemark> remarks() const { return m_sizeRemarks + m_recordRemarks + m_layerRemarks; }
 

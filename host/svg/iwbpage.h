@@ -15,6 +15,15 @@ namespace lessonhost {
 //! What the identifier of the picture ends in that shows a sound, behind that of the sound's link.
 constexpr char soundSign[] = "_sign";
 
+//! The same for the outline that fills an open line and stands behind it.
+constexpr char lineFill[] = "_fill";
+
+//! What the transform of a hidden element begins with: nothing is shown of what stands left of the page.
+constexpr char awayFromPage[] = "translate(-1000000,0)";
+
+//! The name of the meta that has a presentation's identifier.
+constexpr char identifierMeta[] = "identifier";
+
 /*!
  * Something of a page that could not be brought over, or only otherwise than it was.
  */
@@ -97,7 +106,8 @@ struct IwbDocumentRules
     QRectF viewBox;
     bool isIwb = false; //!< a document of IWB, where lines of points are never filled
     bool hasPlainTurns = false; //!< rotate(a,x,y) is in degrees although isNative
-    bool isNative = false; //!< written by this system or the plug-in, with its own conventions
+    bool isNative = false; //!< written by the plug-in, with its own conventions
+    bool isOwn = false; //!< written by this system, where each span is a run and an angle a line of three points
 };
 
 } // namespace lessonhost

@@ -69,6 +69,14 @@ QString unknownFormat(const QDomElement &element)
     return svgName(element) == QLatin1String("image") && isOneOf(undrawn, suffix) ? suffix : QString();
 }
 
+// What fills an open line, and stands behind it.
+bool isFillOf(const QDomElement &line, const QDomElement &area)
+{
+    const QString id = line.attribute(QStringLiteral("id"));
+    return !id.isEmpty() && svgName(line) == QLatin1String("polyline") && svgName(area) == QLatin1String("polygon")
+        && area.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
+}
+
 bool isArrow(const QString &text)
 {
     return text == QLatin1String("arrow") || text.startsWith(QLatin1String("url("));
@@ -171,8 +179,8 @@ QVector<QDomElement> SvgPageBuilder::strokePieces(const QDomElement &first) cons
     QVector<QDomElement> pieces;
     for (QDomElement piece = first; !piece.isNull(); piece = piece.nextSiblingElement()) {
         const IwbRecord record = recordOf(piece);
-        const bool isOfStroke = pieces.isEmpty() || isInSvgGroup
-            || (groupOf(piece) >= 0 && groupOf(piece) == groupOf(first));
+        const bool isOfStroke =
+            pieces.isEmpty() || isInSvgGroup || (groupOf(piece) >= 0 && groupOf(piece) == groupOf(first));
         if (svgName(piece) != QLatin1String("polygon") || !(record.isFreehand || record.isHighlight) || !isOfStroke) {
             break;
         }
@@ -247,6 +255,7 @@ void SvgPageBuilder::convert(const QDomElement &element, const Place &outer)
     }
     Place place = outer;
     place.style = outer.style.child(element, nativeTransform(element), remarkAbout(element));
+    place.isAway = outer.isAway || isAway(element);
     if (!takeBackground(element, name, place.style)) {
         (this->*conversion.value())(element, place);
     }
@@ -282,11 +291,20 @@ void SvgPageBuilder::remarkOnExtras(const QDomElement &element, const QString &n
     }
 }
 
-// rotate(a,x,y) with the angle in degrees, where the plug-in wrote it in radians.
+bool SvgPageBuilder::isAway(const QDomElement &element) const
+{
+    return m_rules.isOwn
+        && element.attribute(QStringLiteral("transform")).trimmed().startsWith(QLatin1String(awayFromPage));
+}
+
+// rotate(a,x,y) with the angle in degrees, where the plug-in wrote it in radians; what is hidden in its place.
 QString SvgPageBuilder::nativeTransform(const QDomElement &element) const
 {
     const QString transform = element.attribute(QStringLiteral("transform")).trimmed();
     const QLatin1String rotate("rotate(");
+    if (isAway(element)) {
+        return transform.mid(int(std::char_traits<char>::length(awayFromPage))).trimmed();
+    }
     if (!m_rules.isNative || m_rules.hasPlainTurns || !transform.startsWith(rotate)
         || transform.count(QLatin1Char(',')) != 2) {
         return transform;
@@ -346,7 +364,7 @@ void SvgPageBuilder::link(const QDomElement &element, const Place &place)
     const QDomElement only = element.firstChildElement();
     if (!only.isNull() && only.nextSiblingElement().isNull() && !id.isEmpty()
         && only.attribute(QStringLiteral("id")) == id + QLatin1String(soundSign)) {
-        media(element, place, QStringLiteral("svg:a"));
+        sound(element, place);
         return;
     }
     if (only.isNull()) {
@@ -456,11 +474,20 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
     if (m_rules.isIwb && !hasOwnFill(element)) {
         inner.style.set(QStringLiteral("fill"), QStringLiteral("none"));
     }
+    const QDomElement area = element.previousSiblingElement();
+    if (isFillOf(element, area)) {
+        for (const char *name : {"fill", "fill-opacity"}) {
+            inner.style.set(QLatin1String(name), area.attribute(QLatin1String(name)));
+        }
+    }
     outline(element, inner, pointsOf(numbers), false);
 }
 
 void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
 {
+    if (isFillOf(element.nextSiblingElement(), element)) {
+        return;
+    }
     const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
     if (numbers.size() % 2 == 1) {
         remark(element, say("its last point has no y and is left out"));
@@ -519,7 +546,8 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
             remark(source, say("an arrow at its end is left out"));
         }
     }
-    if (points.size() == 3 && !isInk && (!m_rules.isNative || paint.fill.alpha() > 0)) {
+    const bool mayBeAngle = m_rules.isNative || m_rules.isOwn;
+    if (points.size() == 3 && !isInk && (!mayBeAngle || paint.fill.alpha() > 0)) {
         points.append(points.last());
     }
     const bool isEvenOdd = m_rules.isIwb || place.style.property(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
@@ -540,7 +568,7 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
 SvgPaint SvgPageBuilder::paintOf(const QDomElement &element, const SvgStyle &style)
 {
     const SvgPaint paint = svgPaint(style, m_rules.isNative, remarkAbout(element));
-    if (!m_rules.isNative && paint.line.alpha() > 0) {
+    if (!m_rules.isNative && !m_rules.isOwn && paint.line.alpha() > 0) {
         for (const Sentence &difference : lineDifferences(style, paint)) {
             remark(element, difference, false);
         }
@@ -553,9 +581,22 @@ void SvgPageBuilder::image(const QDomElement &element, const Place &place)
     media(element, place, QLatin1String("svg:") + svgName(element));
 }
 
+// A sound stands by itself, or where its sign does.
 void SvgPageBuilder::sound(const QDomElement &element, const Place &place)
 {
-    media(element, place, QStringLiteral("svg:a"));
+    const QString tag = QStringLiteral("svg:a");
+    const QDomElement sign = element.firstChildElement();
+    if (sign.isNull() || element.hasAttribute(QStringLiteral("width"))) {
+        media(element, place, tag);
+        return;
+    }
+    Place inner = place;
+    inner.style = place.style.child(sign, nativeTransform(sign), remarkAbout(sign));
+    inner.isAway = place.isAway || isAway(sign);
+    media(sign, inner, tag);
+    IwbElement &item = m_result.items.last();
+    item.id = element.attribute(QStringLiteral("id"));
+    item.reference = linkTarget(element);
 }
 
 void SvgPageBuilder::media(const QDomElement &source, const Place &place, const QString &tag)
@@ -578,7 +619,7 @@ void SvgPageBuilder::media(const QDomElement &source, const Place &place, const 
 
 void SvgPageBuilder::text(const QDomElement &element, const Place &place)
 {
-    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element), m_rules.records);
+    const SvgText content(element, place.style, textKind(), remarkAbout(element), m_rules.records);
     IwbElement &item = addItem(element, place, QStringLiteral("svg:textarea"));
     const QDomElement firstSpan = element.firstChildElement();
     const QDomElement &anchor = element.hasAttribute(QStringLiteral("y")) || firstSpan.isNull() ? element : firstSpan;
@@ -612,7 +653,7 @@ void SvgPageBuilder::finishText(const QDomElement &source, const SvgText &conten
 
 void SvgPageBuilder::textArea(const QDomElement &element, const Place &place)
 {
-    const SvgText content(element, place.style, m_rules.isNative, remarkAbout(element), m_rules.records);
+    const SvgText content(element, place.style, textKind(), remarkAbout(element), m_rules.records);
     IwbElement &item = addItem(element, place, QStringLiteral("svg:textarea"));
     QRectF box(length(element, "x"), length(element, "y"), length(element, "width"), length(element, "height"));
     if (!(box.width() > 0)) {
@@ -724,7 +765,7 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     item.id = source.attribute(QStringLiteral("id"));
     item.link = place.link;
     item.leadsOutside = place.leadsOutside;
-    item.isVisible = place.style.isVisible();
+    item.isVisible = place.style.isVisible() && !place.isAway;
     // A record is of every item of its identifier, on whatever page; the item's own word is of itself.
     const auto isSet = [&source](const QString &attribute, bool isRecorded) {
         const QString own = source.attribute(attribute);
@@ -744,6 +785,11 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     item.group = item.id.isEmpty() ? -1 : m_rules.groups.value(item.id, -1);
     m_result.items.append(item);
     return m_result.items.last();
+}
+
+SvgText::Kind SvgPageBuilder::textKind() const
+{
+    return m_rules.isNative ? SvgText::Native : m_rules.isOwn ? SvgText::Own : SvgText::Foreign;
 }
 
 IwbRecord SvgPageBuilder::recordOf(const QDomElement &element) const

@@ -34,6 +34,7 @@ private:
         SvgStyle style;
         QString link;
         bool leadsOutside = false; // the link
+        bool isAway = false; // stands where nothing is shown
     };
 
     using Convert = void (SvgPageBuilder::*)(const QDomElement &, const Place &);
@@ -77,6 +78,8 @@ private:
     void remark(const QDomElement &element, const Sentence &text, bool isLoss = true);
     std::function<void(const Sentence &)> remarkAbout(const QDomElement &element);
     QString nativeTransform(const QDomElement &element) const;
+    bool isAway(const QDomElement &element) const;
+    SvgText::Kind textKind() const;
 
     const IwbDocumentRules &m_rules;
     IwbPage m_result;

@@ -128,10 +128,11 @@ QFontMetricsF metrics(const SvgStyle &style)
 
 } // namespace
 
-SvgText::SvgText(const QDomElement &source, const SvgStyle &style, bool isNative,
+SvgText::SvgText(const QDomElement &source, const SvgStyle &style, Kind kind,
                  const std::function<void(const Sentence &)> &problem, const QHash<QString, IwbRecord> &records)
     : m_style(style)
-    , m_isNative(isNative)
+    , m_isNative(kind == Native)
+    , m_isOwn(kind == Own)
     , m_isArea(svgName(source).toLower() == QLatin1String("textarea"))
     , m_problem(problem)
     , m_records(records)
@@ -147,7 +148,7 @@ SvgText::SvgText(const QDomElement &source, const SvgStyle &style, bool isNative
     } else {
         read(source, m_style);
     }
-    if (!m_runs.isEmpty() && !m_isNative && m_runs.last().text.endsWith(QLatin1Char(' '))) {
+    if (!m_runs.isEmpty() && !m_isNative && !keepsBlanks(source) && m_runs.last().text.endsWith(QLatin1Char(' '))) {
         m_runs.last().text.chop(1);
     }
     findLinks();
@@ -239,11 +240,11 @@ void SvgText::read(const QDomElement &holder, const SvgStyle &style)
     const bool keeps = keepsBlanks(holder);
     for (QDomNode node = holder.firstChild(); !node.isNull(); node = node.nextSibling()) {
         if (node.isCDATASection()) {
-            append(style, node.nodeValue());
+            append(style, node.nodeValue(), keeps);
         } else if (node.isText()) {
             // The plug-in reads no plain text, so in its own files blanks between spans mean nothing.
             if (!m_isNative || !node.nodeValue().trimmed().isEmpty()) {
-                append(style, keeps ? node.nodeValue() : collapsed(node.nodeValue()));
+                append(style, keeps ? node.nodeValue() : collapsed(node.nodeValue()), keeps);
             }
         } else if (node.isElement()) {
             readSpan(node.toElement(), style);
@@ -290,14 +291,38 @@ void SvgText::readSpan(const QDomElement &span, const SvgStyle &outer)
     if (m_isNative && !span.hasChildNodes()) {
         append(style, {});
     }
-    read(span, style);
+    if (m_isOwn && m_isArea) {
+        readOwnSpan(span, style);
+    } else {
+        read(span, style);
+    }
 }
 
-void SvgText::append(const SvgStyle &style, const QString &text)
+// One run, whatever stands in it; what another program has put into it is read as a foreign one's.
+void SvgText::readOwnSpan(const QDomElement &span, const SvgStyle &style)
+{
+    const QDomElement inner = span.firstChildElement();
+    const bool isPlain = inner.isNull() || (svgName(inner) == QLatin1String("tbreak") && inner.nextSibling().isNull());
+    if (!isPlain) {
+        read(span, style);
+        return;
+    }
+    QString text = withoutControlCharacters(span.text());
+    if (!keepsBlanks(span)) {
+        text = collapsed(text);
+        text.remove(0, (m_runs.isEmpty() || endsLine()) && text.startsWith(QLatin1Char(' ')) ? 1 : 0);
+    }
+    if (!inner.isNull()) {
+        text += QChar::LineSeparator;
+    }
+    m_runs.append({style, text});
+}
+
+void SvgText::append(const SvgStyle &style, const QString &text, bool keepsBlanks)
 {
     QString clean = withoutControlCharacters(text);
     const bool atLineStart = m_runs.isEmpty() || endsLine() || m_needsLine || m_needsMark;
-    if (!m_isNative && atLineStart) {
+    if (!m_isNative && !keepsBlanks && atLineStart) {
         while (clean.startsWith(QLatin1Char(' '))) {
             clean.remove(0, 1);
         }

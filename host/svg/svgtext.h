@@ -19,9 +19,15 @@ namespace lessonhost {
 class SvgText
 {
 public:
-    //! isNative: what isn't said means bold, italic and underlined, and spans inherit nothing.
+    //! What stands in whose files.
+    enum Kind {
+        Foreign,
+        Native, //!< what isn't said means bold, italic and underlined, and spans inherit nothing
+        Own //!< each span is a run; a break within it ends a line, one behind it a paragraph
+    };
+
     //! records: what is said of the text and its spans.
-    SvgText(const QDomElement &source, const SvgStyle &style, bool isNative,
+    SvgText(const QDomElement &source, const SvgStyle &style, Kind kind,
             const std::function<void(const Sentence &)> &problem, const QHash<QString, IwbRecord> &records = {});
 
     //! Puts font attributes and spans into area, sizes multiplied by scale.
@@ -61,7 +67,8 @@ private:
     void addMark(const SvgStyle &style);
     void nameLayout(const QDomElement &element, bool isSpan, bool startsLine);
     void findLinks();
-    void append(const SvgStyle &style, const QString &text);
+    void readOwnSpan(const QDomElement &span, const SvgStyle &style);
+    void append(const SvgStyle &style, const QString &text, bool keepsBlanks = false);
     void endLine(const SvgStyle &style);
     bool endsLine() const;
     void setFont(QDomElement &element, const SvgStyle &style, double scale) const;
@@ -69,6 +76,7 @@ private:
     QVector<Run> m_runs;
     SvgStyle m_style;
     bool m_isNative;
+    bool m_isOwn;
     bool m_isArea;
     std::function<void(const Sentence &)> m_problem;
     QHash<QString, IwbRecord> m_records;

@@ -6389,5 +6389,17 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>Cover</source>
         <translation>Abdeckung</translation>
     </message>
+    <message>
+        <source>it has no place on the page</source>
+        <translation>hat keinen Platz auf der Seite</translation>
+    </message>
+    <message>
+        <source>it has no file to show</source>
+        <translation>hat keine Datei, die es zeigen könnte</translation>
+    </message>
+    <message>
+        <source>some have no form, or are groups</source>
+        <translation>manche haben keine Form oder sind Gruppen</translation>
+    </message>
 </context>
 </TS>

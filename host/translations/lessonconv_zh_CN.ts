@@ -6071,5 +6071,17 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>Cover</source>
         <translation>遮盖</translation>
     </message>
+    <message>
+        <source>it has no place on the page</source>
+        <translation>在页面上没有位置</translation>
+    </message>
+    <message>
+        <source>it has no file to show</source>
+        <translation>没有可显示的文件</translation>
+    </message>
+    <message>
+        <source>some have no form, or are groups</source>
+        <translation>有些没有对应形式，或者是组合</translation>
+    </message>
 </context>
 </TS>
