@@ -500,9 +500,7 @@ QStringList namesOfStep(const QString &step)
 {
     const QString tag = step.section(QLatin1Char('['), 0, 0);
     const QString label = step.section(QLatin1Char('['), 1, 1).section(QLatin1Char(']'), 0, 0);
-    bool isNumber = false;
-    label.toInt(&isNumber);
-    if (label.isEmpty() || isNumber) {
+    if (std::all_of(label.cbegin(), label.cend(), [](QChar letter) { return letter.isDigit(); })) {
         return {tag};
     }
     return {QLatin1Char('[') + label + QLatin1Char(']'), label, tag};

@@ -280,7 +280,7 @@ QVector<LessonText::TextPicture> LessonText::draw(const QDomElement &group, bool
 {
     QVector<TextPicture> pictures;
     SvgPaintDevice device(group);
-    auto lines = m_document ? linesOf(*m_document) : linesOf(*m_paragraph);
+    auto lines = m_paragraph ? linesOf(*m_paragraph) : linesOf(*m_document);
     if (isStretched) {
         const auto isByEnd = [](const SvgPaintDevice::Line &line) { return !(line.alignment & Qt::AlignJustify); };
         lines.erase(std::remove_if(lines.begin(), lines.end(), isByEnd), lines.end());
