@@ -232,9 +232,12 @@ private slots:
             "'InteractiveType':'ACTION_OPENWEB','InteractiveValue':'b.example'}]}]}");
         convertedLesson(written("group", {outer}), m_folder.filePath("group"), "iwb");
         const auto reader = openLesson(m_folder.filePath("group"));
+        const QJsonArray items = reader->slide(0).items;
+        QCOMPARE(items.size(), 1);
         QStringList found;
-        for (const QJsonValue &value : reader->slide(0).items) {
-            const ItemView item(value.toObject());
+        // What groups in it say is said by its items.
+        for (const QJsonObject &object : ItemView(items.first().toObject()).childObjects()) {
+            const ItemView item(object);
             found.append(item.id() + (item.isVisible() ? " seen" : " hidden") + (item.isLocked() ? " locked " : " ")
                          + item.text(ItemKeys::linkValue));
         }
@@ -293,7 +296,9 @@ private slots:
             QVERIFY2(isContainer(type) == (native.tagName() == "group"), qPrintable(type));
             QVERIFY2(isTextBoard(type) == (tag == "svg:textarea"), qPrintable(type));
             QVERIFY2(bool(mediaFolder(type)) == isMedia, qPrintable(type));
-            QVERIFY2(!isMedia || reference == mediaFolder(type) + "/media.x"_s, qPrintable(type + reference));
+            // The host has a folder for Flash alone, as the format has.
+            const QString folder = type == "ZQMediaFlash" ? "videos" : mediaFolder(type);
+            QVERIFY2(!isMedia || reference == folder + "/media.x", qPrintable(type + reference));
             QVERIFY2(bool(shapeForm(type)) == (!tag.isEmpty() && !isMedia && !isTextBoard(type)), qPrintable(type));
         }
     }
