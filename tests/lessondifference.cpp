@@ -403,6 +403,10 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
         for (int i = at + 1; i < all.size(); ++i) {
             all[at].heldIds.insert(all.at(i).id());
         }
+        if (all.size() > at + 1) { // a group of hidden items is hidden
+            all[at].isVisible =
+                std::any_of(all.begin() + at + 1, all.end(), [](const Item &held) { return held.isVisible; });
+        }
     }
 }
 
@@ -459,8 +463,10 @@ private:
             if (!item.isOfKey) {
                 unheldDifferences(owner, {}, item.marked, differences);
             }
+            // What came of a group of such items is a guess.
+            const bool isGuess = m_road == Road::Drawn && holdsOneOfSeveral(item, givenItems);
             if (places.at(i) < 0) {
-                differences.append({owner, {}, "the item", "nothing", item.isOfKey});
+                differences.append({owner, {}, "the item", "nothing", item.isOfKey || isGuess});
                 continue;
             }
             const bool isOnly = std::count_if(givenItems.begin(), givenItems.end(),
@@ -479,16 +485,28 @@ private:
                 childIds[k] = place < 0 ? childIds.at(k) : foundItems.at(place).id();
             }
             if (childIds != back.childIds) {
-                differences.append({owner, "Children", item.childIds.join(' '), back.childIds.join(' ')});
+                differences.append({owner, "Children", item.childIds.join(' '), back.childIds.join(' '), isGuess});
             }
             itemKeys(owner, item, back);
         }
         for (int i = 0; i < foundItems.size(); ++i) {
-            if (!places.contains(i) && !foundItems.at(i).isOfKey) {
-                differences.append(
-                    {{number, foundItems.at(i).type(), foundItems.at(i).id()}, {}, "nothing", "an item"});
+            const Item &item = foundItems.at(i);
+            if (!places.contains(i) && !item.isOfKey) {
+                const bool isGuess = m_road == Road::Drawn && !item.heldIds.isEmpty()
+                    && std::any_of(givenItems.begin(), givenItems.end(), [&](const Item &other) {
+                           return !other.heldIds.isEmpty() && holdsOneOfSeveral(other, givenItems);
+                       });
+                differences.append({{number, item.type(), item.id()}, {}, "nothing", "an item", isGuess});
             }
         }
+    }
+
+    // Whether an identifier of what it holds is that of another item, too.
+    static bool holdsOneOfSeveral(const Item &item, const QVector<Item> &all)
+    {
+        return std::any_of(item.heldIds.begin(), item.heldIds.end(), [&all](const QString &id) {
+            return std::count_if(all.begin(), all.end(), [&id](const Item &other) { return other.id() == id; }) > 1;
+        });
     }
 
     // By identifier, or one that was made of it; what is left over by its type. Of several of one identifier, some of
@@ -529,6 +547,11 @@ private:
                     most = shared;
                     places[i] = j;
                 }
+            }
+            // Or by what came of it, which may have other identifiers than it had.
+            for (const int child : given.at(i).childPlaces) {
+                const int holder = places.at(child) < 0 ? -1 : found.at(places.at(child)).around;
+                places[i] = places.at(i) < 0 && holder >= 0 && !places.contains(holder) ? holder : places.at(i);
             }
         }
         for (const bool isByType : {true, false}) {
