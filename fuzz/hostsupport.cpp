@@ -51,7 +51,7 @@ void convert(const QString &fromFormat, const QString &input, const QString &toF
         convertLesson(lessonFormatByName(fromFormat), input, lessonFormatByName(toFormat), output, context,
                       [](int, int) {});
     } catch (const LessonError &error) {
-        std::fprintf(stderr, "%s\n", qPrintable(error.message()));
+        std::fprintf(stderr, "%s\n", qPrintable(error.message().english()));
         std::exit(1);
     }
 }

@@ -451,9 +451,12 @@ private:
         // What was beside values that are no items is a part of its key.
         for (Item &item : foundItems) {
             const QString holder = item.around < 0 ? QString() : foundItems.at(item.around).id();
-            item.isOfKey = item.around >= 0 && std::any_of(givenItems.begin(), givenItems.end(), [&](const Item &given) {
-                               return given.id() == holder && !given.isWhole && isContainer(given.type());
-                           });
+            const auto isHeldBy = [&](bool isWhole) {
+                return std::any_of(givenItems.begin(), givenItems.end(), [&](const Item &given) {
+                    return given.id() == holder && given.isWhole == isWhole && isContainer(given.type());
+                });
+            };
+            item.isOfKey = item.around >= 0 && isHeldBy(false) && !isHeldBy(true);
         }
         const QVector<int> places = matched(givenItems, foundItems);
         int last = -1;
