@@ -4,12 +4,12 @@
 #include "files/sentence.h"
 
 #include <QDir>
-#include <QMap>
 #include <QTextCodec>
 #include <QTranslator>
 
 #include <clocale>
 #include <limits>
+#include <map>
 #include <memory>
 
 // Outside of namespaces, as the macro needs it.
@@ -29,11 +29,11 @@ const QLatin1String englishName("en");
 // What English needs of it are forms for numbers.
 const QTranslator &translatorOf(const QString &language)
 {
-    static QMap<QString, QTranslator *> translators;
-    QTranslator *&translator = translators[language];
+    static std::map<QString, std::unique_ptr<QTranslator>> translators;
+    std::unique_ptr<QTranslator> &translator = translators[language];
     if (!translator) {
         initTranslations();
-        translator = new QTranslator; // for the process
+        translator = std::make_unique<QTranslator>();
         static_cast<void>(
             translator->load(filePrefix + (language.isEmpty() ? QString(englishName) : language), folder));
     }
