@@ -300,6 +300,9 @@ QString IwbPageWriter::idOf(const QJsonObject &item)
     if (!m_isUniqueInDocument) {
         return m_ids.take(id);
     }
+    // The format's identifiers are of one line.
+    static const QRegularExpression lineBreaks(QStringLiteral("[\\t\\n\\r]+"));
+    id.replace(lineBreaks, QStringLiteral(" "));
     // Pages have identifiers, too, and so have what stands around an element, in it and behind it.
     static const QRegularExpression pageName(QStringLiteral("^page\\d+$"));
     id = pageName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
