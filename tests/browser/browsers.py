@@ -133,7 +133,7 @@ class Firefox:
         self.about("""window.asked = []; Services.console.reset();
             Services.obs.addObserver((channel) => {
                 const from = channel.QueryInterface(Ci.nsIHttpChannel).loadInfo.loadingPrincipal;
-                if (from && from.spec.startsWith('file:')) { window.asked.push(channel.URI.spec); }
+                if (from && from.schemeIs('file')) { window.asked.push(channel.URI.asciiSpec); }
             }, 'http-on-modify-request');""")
 
     def about(self, script, *arguments):
