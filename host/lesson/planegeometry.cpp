@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "lesson/planegeometry.h"
 
+#include <QLineF>
+
 #include <cmath>
 
 namespace lessonhost {
@@ -16,6 +18,25 @@ QPolygonF withoutRepeatedEnd(QPolygonF points)
         points.removeLast();
     }
     return points;
+}
+
+double lengthOf(const QPolygonF &points)
+{
+    double length = 0;
+    for (int i = 1; i < points.size(); ++i) {
+        length += QLineF(points.at(i - 1), points.at(i)).length();
+    }
+    return length;
+}
+
+double areaOf(const QPolygonF &outline)
+{
+    double area = 0;
+    for (int i = 0; i < outline.size(); ++i) {
+        const QPointF &next = outline.at((i + 1) % outline.size());
+        area += (outline.at(i).x() * next.y() - next.x() * outline.at(i).y()) / 2;
+    }
+    return area;
 }
 
 QTransform turnAbout(const QPointF &center, double angle)

@@ -16,6 +16,12 @@ QRectF extentOf(const QPolygonF &points);
 //! The corners of an outline without the first told once more at its end.
 QPolygonF withoutRepeatedEnd(QPolygonF points);
 
+//! The length of an open line through points.
+double lengthOf(const QPolygonF &points);
+
+//! The area of a closed outline; negative where it runs against the clock on the screen.
+double areaOf(const QPolygonF &outline);
+
 //! A turn about a point, in radians, clockwise on the screen.
 QTransform turnAbout(const QPointF &center, double angle);
 

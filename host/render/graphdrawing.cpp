@@ -286,15 +286,6 @@ QPolygonF namedPoints(const ItemView &item, const QByteArray &name, int first, i
     return points;
 }
 
-double lengthOf(const QPolygonF &points)
-{
-    double length = 0;
-    for (int i = 1; i < points.size(); ++i) {
-        length += QLineF(points.at(i - 1), points.at(i)).length();
-    }
-    return length;
-}
-
 // Of the points between there are as many as the item says, or all.
 QPolygonF pointsBetween(const ItemView &item)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/levelliquid.h"
 
+#include "lesson/planegeometry.h"
+
 #include <QPolygonF>
 #include <QVector>
 
@@ -10,17 +12,6 @@
 namespace lessonhost {
 
 namespace {
-
-double areaOf(const QPolygonF &polygon)
-{
-    double twice = 0;
-    for (int i = 0; i < polygon.size(); ++i) {
-        const QPointF &from = polygon.at(i);
-        const QPointF &to = polygon.at((i + 1) % polygon.size());
-        twice += from.x() * to.y() - to.x() * from.y();
-    }
-    return std::abs(twice) / 2;
-}
 
 // What of a polygon lies below a level, and where its edges cross that level.
 QPolygonF below(const QPolygonF &polygon, double level, QVector<double> *crossings = nullptr)
@@ -47,7 +38,7 @@ QPolygonF below(const QPolygonF &polygon, double level, QVector<double> *crossin
 
 double enclosedArea(const QPainterPath &path)
 {
-    return areaOf(path.toFillPolygon());
+    return std::abs(areaOf(path.toFillPolygon()));
 }
 
 LevelLiquid::LevelLiquid(const QPainterPath &vessel, double area)
@@ -58,7 +49,7 @@ LevelLiquid::LevelLiquid(const QPainterPath &vessel, double area)
     constexpr int halvings = 30;
     for (int i = 0; i < halvings; ++i) {
         const double middle = (top + bottom) / 2;
-        (areaOf(below(inside, middle)) < area ? bottom : top) = middle;
+        (std::abs(areaOf(below(inside, middle))) < area ? bottom : top) = middle;
     }
     QVector<double> crossings;
     body.addPolygon(below(inside, top, &crossings));

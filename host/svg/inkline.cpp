@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "svg/inkline.h"
 
+#include "lesson/planegeometry.h"
+
 #include <QImage>
 #include <QLineF>
 #include <QPainter>
@@ -19,26 +21,6 @@ constexpr int aroundCount = 96;
 constexpr double mostDifference = 0.3;
 // Pixels of the pictures in which they are compared, along the longer side.
 constexpr double mostPixels = 400;
-
-double lengthOf(const QPolygonF &line)
-{
-    double length = 0;
-    for (int i = 1; i < line.size(); ++i) {
-        length += QLineF(line.at(i - 1), line.at(i)).length();
-    }
-    return length;
-}
-
-// Above 0 for one that goes round with the clock.
-double areaOf(const QPolygonF &polygon)
-{
-    double area = 0;
-    for (int i = 0; i < polygon.size(); ++i) {
-        const QPointF &next = polygon.at((i + 1) % polygon.size());
-        area += (polygon.at(i).x() * next.y() - next.x() * polygon.at(i).y()) / 2;
-    }
-    return area;
-}
 
 // At even distances from each other; nothing for a polygon without extent.
 QPolygonF pointsAround(QPolygonF polygon)
