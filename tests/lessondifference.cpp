@@ -359,7 +359,7 @@ struct Item
     int around = -1; // the number of the item that holds it; -1 on the slide
     QStringList childIds = {};
     QVector<int> childPlaces = {}; // among all items
-    QSet<QString> heldIds = {}; // of all that it holds
+    int heldCount = 0; // of all that it holds, which come behind it
 
     QString id() const { return idText(keys.value("ID")); }
     QString type() const { return keys.value("Type").toString(); }
@@ -400,13 +400,7 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
             all[around].childPlaces.append(at);
         }
         collect(children, at, road, all);
-        for (int i = at + 1; i < all.size(); ++i) {
-            all[at].heldIds.insert(all.at(i).id());
-        }
-        if (all.size() > at + 1) { // a group of hidden items is hidden
-            all[at].isVisible =
-                std::any_of(all.begin() + at + 1, all.end(), [](const Item &held) { return held.isVisible; });
-        }
+        all[at].heldCount = all.size() - at - 1;
     }
 }
 
@@ -459,6 +453,8 @@ private:
             item.isOfKey = item.around >= 0 && isHeldBy(false) && !isHeldBy(true);
         }
         const QVector<int> places = matched(givenItems, foundItems);
+        showGroups(givenItems, [&places](int i) { return places.at(i) >= 0; });
+        showGroups(foundItems, [](int) { return true; });
         int last = -1;
         for (int i = 0; i < givenItems.size(); ++i) {
             const Item &item = givenItems.at(i);
@@ -466,10 +462,8 @@ private:
             if (!item.isOfKey) {
                 unheldDifferences(owner, {}, item.marked, differences);
             }
-            // What came of a group of such items is a guess.
-            const bool isGuess = m_road == Road::Drawn && holdsOneOfSeveral(item, givenItems);
             if (places.at(i) < 0) {
-                differences.append({owner, {}, "the item", "nothing", item.isOfKey || isGuess});
+                differences.append({owner, {}, "the item", "nothing", item.isOfKey});
                 continue;
             }
             const bool isOnly = std::count_if(givenItems.begin(), givenItems.end(),
@@ -485,76 +479,69 @@ private:
             QStringList childIds = item.childIds;
             for (int k = 0; k < item.childPlaces.size(); ++k) {
                 const int place = places.at(item.childPlaces.at(k));
-                childIds[k] = place < 0 ? childIds.at(k) : foundItems.at(place).id();
+                childIds[k] = place < 0 ? "(gone)" : foundItems.at(place).id();
             }
             if (childIds != back.childIds) {
-                differences.append({owner, "Children", item.childIds.join(' '), back.childIds.join(' '), isGuess});
+                differences.append({owner, "Children", item.childIds.join(' '), back.childIds.join(' ')});
             }
             itemKeys(owner, item, back);
         }
         for (int i = 0; i < foundItems.size(); ++i) {
             const Item &item = foundItems.at(i);
             if (!places.contains(i) && !item.isOfKey) {
-                const bool isGuess = m_road == Road::Drawn && !item.heldIds.isEmpty()
-                    && std::any_of(givenItems.begin(), givenItems.end(), [&](const Item &other) {
-                           return !other.heldIds.isEmpty() && holdsOneOfSeveral(other, givenItems);
-                       });
-                differences.append({{number, item.type(), item.id()}, {}, "nothing", "an item", isGuess});
+                differences.append({{number, item.type(), item.id()}, {}, "nothing", "an item"});
             }
         }
     }
 
-    // Whether an identifier of what it holds is that of another item, too.
-    static bool holdsOneOfSeveral(const Item &item, const QVector<Item> &all)
+    // A drawn group says of its items that came back whether they are to be seen.
+    void showGroups(QVector<Item> &items, const std::function<bool(int place)> &isThere) const
     {
-        return std::any_of(item.heldIds.begin(), item.heldIds.end(), [&all](const QString &id) {
-            return std::count_if(all.begin(), all.end(), [&id](const Item &other) { return other.id() == id; }) > 1;
-        });
+        for (int i = 0; i < items.size(); ++i) {
+            const int count = m_road == Road::Drawn ? items.at(i).heldCount : 0;
+            items[i].isVisible = items.at(i).isVisible && count == 0;
+            for (int k = i + 1; k <= i + count; ++k) {
+                items[i].isVisible = items.at(i).isVisible || (isThere(k) && items.at(k).isVisible);
+            }
+        }
     }
 
-    // By identifier, or one that was made of it; what is left over by its type. Of several of one identifier, some of
-    // which may be gone, those are taken for the ones that came back, in their order, that differ the least.
+    // By identifier, or one that was made of it; groups also by what came of their items, and what is left over by its
+    // type. Drawings keep no identifiers of groups.
     QVector<int> matched(const QVector<Item> &given, const QVector<Item> &found)
     {
+        const auto hasOwnId = [this](const Item &item) { return m_road != Road::Drawn || item.heldCount == 0; };
+        const auto nameOf = [this](const Item &item) {
+            static const QRegularExpression lineBreaks("[\t\n\r]+");
+            return m_road == Road::Drawn ? item.id().replace(lineBreaks, " ") : item.id(); // one line in drawings
+        };
         QMap<QString, QVector<int>> givenOfId;
         for (int i = 0; i < given.size(); ++i) {
-            givenOfId[given.at(i).id()].append(i);
+            hasOwnId(given.at(i)) ? givenOfId[nameOf(given.at(i))].append(i) : void();
         }
         QVector<int> places(given.size(), -1);
         for (auto it = givenOfId.begin(); it != givenOfId.end(); ++it) {
             const QString made = it.key().isEmpty() ? QString("item") : QString(it.key() + '_');
             QVector<int> back;
             for (int j = 0; j < found.size(); ++j) {
-                const QString id = found.at(j).id();
-                if (!found.at(j).isOfKey && (id == it.key() || (id.startsWith(made) && !givenOfId.contains(id)))) {
+                const QString id = nameOf(found.at(j));
+                const bool isOfId = id == it.key() || (id.startsWith(made) && !givenOfId.contains(id));
+                if (isOfId && !found.at(j).isOfKey && hasOwnId(found.at(j))) {
                     back.append(j);
                 }
             }
-            int next = 0;
-            for (int k = 0; k < std::min(back.size(), it->size()); ++k) {
-                int best = next;
-                for (int i = next; i <= it->size() - (back.size() - k); ++i) {
-                    const Item &other = found.at(back.at(k));
-                    best = count(given.at(it->at(i)), other) < count(given.at(it->at(best)), other) ? i : best;
-                }
-                places[it->at(best)] = back.at(k);
-                next = best + 1;
-            }
+            align(given, *it, found, back, places);
         }
-        // A group that has lost its own is known by what it holds.
         for (int i = 0; i < given.size(); ++i) {
-            int most = 0;
-            for (int j = 0; j < found.size() && (places.at(i) < 0 || most > 0); ++j) {
-                const int shared = QSet<QString>(given.at(i).heldIds).intersect(found.at(j).heldIds).size();
-                if (shared > most && !places.contains(j)) {
-                    most = shared;
-                    places[i] = j;
+            QMap<int, int> shared; // items that found groups have of this one
+            for (int k = i + 1; places.at(i) < 0 && k <= i + given.at(i).heldCount; ++k) {
+                int around = places.at(k);
+                while (around >= 0 && (around = found.at(around).around) >= 0) {
+                    shared[around] += places.contains(around) ? 0 : 1;
                 }
             }
-            // Or by what came of it, which may have other identifiers than it had.
-            for (const int child : given.at(i).childPlaces) {
-                const int holder = places.at(child) < 0 ? -1 : found.at(places.at(child)).around;
-                places[i] = places.at(i) < 0 && holder >= 0 && !places.contains(holder) ? holder : places.at(i);
+            for (auto it = shared.begin(); it != shared.end(); ++it) {
+                places[i] = it.value() > shared.value(places.at(i)) ? it.key() : places.at(i);
             }
         }
         for (const bool isByType : {true, false}) {
@@ -562,11 +549,42 @@ private:
                 for (int j = 0; j < found.size() && places.at(i) < 0; ++j) {
                     const bool isSame = isByType ? given.at(i).type() == found.at(j).type()
                                                  : given.at(i).id().isEmpty() && found.at(j).id().isEmpty();
-                    places[i] = isSame && !found.at(j).isOfKey && !places.contains(j) ? j : -1;
+                    const bool isKind = hasOwnId(given.at(i)) == hasOwnId(found.at(j)) && !found.at(j).isOfKey;
+                    places[i] = isSame && isKind && !places.contains(j) ? j : -1;
                 }
             }
         }
         return places;
+    }
+
+    // Of several items of one identifier, some of which may be gone or new: which became which, as many as can be and
+    // in their order, so that the least differs.
+    void align(const QVector<Item> &given, const QVector<int> &ofId, const QVector<Item> &found,
+               const QVector<int> &back, QVector<int> &places)
+    {
+        const int n = ofId.size();
+        const int m = back.size();
+        constexpr int never = 1 << 24;
+        QVector<QVector<int>> costs(n, QVector<int>(m)); // where the one becomes the other
+        QVector<QVector<int>> least(n + 1, QVector<int>(m + 1, never)); // of all from these two on
+        least[n][m] = 0;
+        for (int i = n; i >= 0; --i) {
+            for (int k = m; k >= 0; --k) {
+                if (i < n && k < m && least.at(i + 1).at(k + 1) < never) {
+                    costs[i][k] = n == m ? 0 : count(given.at(ofId.at(i)), found.at(back.at(k)));
+                    least[i][k] = costs.at(i).at(k) + least.at(i + 1).at(k + 1);
+                }
+                least[i][k] = i < n && n > m ? std::min(least.at(i).at(k), least.at(i + 1).at(k)) : least.at(i).at(k);
+                least[i][k] = k < m && m > n ? std::min(least.at(i).at(k), least.at(i).at(k + 1)) : least.at(i).at(k);
+            }
+        }
+        for (int i = 0, k = 0; i < n && k < m;) {
+            if (least.at(i).at(k) == costs.at(i).at(k) + least.at(i + 1).at(k + 1)) {
+                places[ofId.at(i++)] = back.at(k++);
+            } else {
+                n > m ? ++i : ++k;
+            }
+        }
     }
 
     // How much differs if the one became the other, more than if the one were gone.
@@ -578,7 +596,7 @@ private:
                                          [](const Difference &difference) { return !difference.isMinor; });
         differences.resize(before);
         return int(count) + (given.childIds == found.childIds ? 0 : 1)
-            + (given.heldIds.isEmpty() == found.heldIds.isEmpty() ? 0 : 100) - given.keys.size();
+            + ((given.heldCount == 0) == (found.heldCount == 0) ? 0 : 100) - given.keys.size();
     }
 
     void properties(const Owner &owner, const QJsonObject &given, const QJsonObject &found)
