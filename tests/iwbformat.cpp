@@ -101,6 +101,7 @@ const Targets targets[] = {
     {"freehand highlight", "polyline"},
     {"stroke-lineshape-start stroke-lineshape-end", "line polyline"},
     {"background-fill highlight-fill editable list-style-type list-style-type-fill", "text textarea"},
+    {"background-fill highlight-fill list-style-type list-style-type-fill type", "tspan"},
 };
 
 struct Folder
@@ -319,6 +320,8 @@ private:
         }
         if (target.isEmpty()) {
             tell(record, "is about nothing");
+        } else if ((target == "tspan") != (record.localName() == "tspan")) {
+            tell(record, "is about a <" + target + ">");
         }
         checkAttributes(record, {"ref"}, known);
         if (record.attribute("background") == "true") {

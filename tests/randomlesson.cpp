@@ -97,16 +97,16 @@ const Vocabulary &vocabulary()
         Vocabulary found;
         for (const TitledTypes &family : itemFamilies()) {
             for (const QString &type : family.types) {
-                if (type.contains(':')) {
+                if (type.contains(':') && !type.startsWith("General:")) {
                     continue; // a name of ZQTX
                 }
                 found.types.append(type);
-                if (!toSvg({{"Type", type},
-                            {"Control", "0,0,9,9,0,9,9,0"},
-                            {"XYValue", "0,0,9,9,0,9,"},
-                            {"ArtObj_Ln", "5"},
-                            {"BoundingBox", "1,1,9,9"}})
-                         .isNull()) {
+                const QJsonObject item{{"Type", type},
+                                       {"Control", "0,0,9,9,0,9,9,0"},
+                                       {"XYValue", "0,0,9,9,0,9,"},
+                                       {"ArtObj_Ln", "5"},
+                                       {"BoundingBox", "1,1,9,9"}};
+                if (type == "General:curtain" || !toSvg(item).isNull()) {
                     found.drawnTypes.append(type);
                 }
             }

@@ -47,6 +47,8 @@ private slots:
         row("a file", "images/a.png\"/>", "images/b.png\"/>", "<image i> shows no file of the package: images/b.png");
         row("a link", "#p", "#q", "<a a> leads nowhere: #q");
         row("a record of another kind", "freehand", "flip", "<element f> has an attribute \"flip\"");
+        row("a record of a part of a text", "<iwb:element ref=\"r\" background=\"true\"/>",
+            "<iwb:tspan ref=\"r\" background=\"true\"/>", "<tspan r> is about a <rect>");
         row("a group of one", "<iwb:element ref=\"l\"/>", "", "<group > is no group of a page");
         row("the order", "<iwb:meta name=\"creator\" content=\"us\"/>", "<iwb:group/>",
             "<svg > stands in the wrong order; <group > is no group of a page");

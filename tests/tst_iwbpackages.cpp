@@ -406,6 +406,11 @@ private slots:
             "ArtObj_Color LineColor");
         row("a box of three numbers", "'Type':'ZQMath2DEllipse','BoundingBox':'1,2,3'", "BoundingBox");
         row("a text beside HTML", "'Type':'ZQTextBoard','TextHtml':'<p>a</p>','Text':'b','Angle':0.5", "Text");
+        row("a curtain", "'Type':'General:curtain','Angle':'0.5','InfiniteClone':'1','picture':'images/a.png'", "picture");
+        row("a part of a flipped curtain, which hangs at the other side",
+            "'Type':'General:curtain','HorizonFlip':'1','rect':'0,0,40,60'", "BoundingBox HorizonFlip rect");
+        row("letters with a colour behind them",
+            "'Type':'ZQTextBoard','TextHtml':'<p>a<span style=background-color:#ff0>b<b>c</b></span>d</p>'", "");
         row("ink", "'Type':'ZQSmoothStroke','XY':'1,2,3,4,5,6','Width':3,'Color':'#f00','Opacity':'128','Cap':'0'",
             "Cap Opacity Type");
     }

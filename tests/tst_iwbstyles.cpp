@@ -198,7 +198,19 @@ private slots:
             "ZQFluorescentStroke Color=#660000ff", "");
         row("no fill where none is named", ink, "", "ArtObj_Fill,ArtObj_Color1", "ZQMath2DPolyline", "");
         row("a cover", "<svg:rect id='r' x='10' y='20' width='300' height='200' fill='black'/>",
-            "<iwb:element ref='r' revealer='true'/>", "rect", "General:curtain rect=10,20,310,220", "");
+            "<iwb:element ref='r' revealer='true'/>", "rect", "General:curtain rect=10,20,310,220",
+            "a cloth of its own");
+        row("a turned cover of cloth", "<svg:rect id='r' width='30' height='20' fill='#8c1c2b' transform='rotate(90)'/>",
+            "<iwb:element ref='r' revealer='true' replicate='true'/>", "BoundingBox,roughly Angle,InfiniteClone",
+            "General:curtain BoundingBox=-25,5,5,25 Angle=2 InfiniteClone=1", "");
+        row("a round cover", "<svg:circle id='r' r='9' fill='red'/>", "<iwb:element ref='r' revealer='true'/>", "",
+            "ZQMath2DCircle", "rectangles become curtains");
+        row("a mirrored circle", "<svg:circle id='r' r='9' fill='red'/>", "<iwb:element ref='r' flip='both'/>", "",
+            "ZQMath2DCircle", "only pictures");
+        row("a part of a text without the others' background",
+            "<svg:textarea id='t' width='90' height='9' font-size='9'>a<svg:tspan id='s'>b</svg:tspan>c</svg:textarea>",
+            "<iwb:element ref='t' background-fill='yellow'/><iwb:tspan ref='s' background-fill='none'/>", "backgrounds",
+            "ZQTextBoard #ffff00 #ffff00", "");
         row("mirrored", "<svg:image id='p' x='0' y='0' width='9' height='9' xlink:href='images/A.png'/>",
             "<iwb:element ref='p' flip='both'/>", "HorizonFlip,VerticalFlip,resource",
             "ZQImagePic HorizonFlip=1 VerticalFlip=1 resource=images/a.png", "images/A.png was found as images/a.png");
@@ -249,7 +261,7 @@ private slots:
             "", "ZQMath2DPolyline", "where it crosses itself");
         row("a cover with a link", "<svg:a xlink:href='http://e.org'><svg:rect id='r' width='30' height='20'/></svg:a>",
             "<iwb:element ref='r' revealer='true'/>", "InteractiveValue", "General:curtain InteractiveValue=http://e.org",
-            "");
+            "a cloth of its own");
         row("what a document says of itself that no lesson does", line.arg("a"),
             "<iwb:meta name='creator' content='Writer 1.0'/><iwb:meta name='subject' content='maths'/>", "",
             "ZQMath2DSegment", "iwb:meta subject: maths");

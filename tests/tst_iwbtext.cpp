@@ -100,7 +100,8 @@ private slots:
     void namesWhatRunsCantHold_data()
     {
         const Table<QString, QString> row("html", "loss");
-        row("background", "<span style='background-color:yellow'>a</span>", "1 text with a background");
+        row("background", "<span style='background-color:rgba(9,9,9,50%)'>a</span>",
+            "1 text with a translucent background");
         row("link", "<a href='x'>a</a>", "1 link within the text");
         row("capitals", "<span style='text-transform:uppercase'>a</span>", "1 text in another case or spacing");
         row("table", "<table><tr><td>1</td><td>2</td></tr></table>", "2 cells of tables");

@@ -63,7 +63,7 @@ constexpr Vocabulary vocabularies[] = {
     {"svg:textarea",
      "id|x|y|width|height|fill|font-family|font-size|font-style|font-weight|font-stretch|text-align|transform|xml:"
      "space"},
-    {"svg:tspan", "id|fill|font-family|font-size|font-style|font-weight|font-stretch|text-align"},
+    {"svg:tspan", "id|fill|font-family|font-size|font-style|font-weight|font-stretch|text-align|background-fill"},
     {"iwb:element",
      "ref|locked|replicate|background|background-posture|flip|revealer|freehand|highlight|stroke-lineshape-start|"
      "stroke-lineshape-end"},
@@ -259,6 +259,26 @@ void uniteSpans(QDomElement area)
     }
 }
 
+// What lies behind the letters of a span is told by a record of it.
+void dressBackgrounds(const QDomElement &area)
+{
+    const QString behindName = QStringLiteral("background-fill");
+    QDomDocument document = area.ownerDocument();
+    int count = 0;
+    for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+        if (!span.hasAttribute(behindName)) {
+            continue;
+        }
+        const QString id = area.attribute(idName) + QLatin1String(markedSpan) + QString::number(++count);
+        QDomElement record = document.createElement(QStringLiteral("iwb:tspan"));
+        record.setAttribute(refName, id);
+        record.setAttribute(behindName, span.attribute(behindName));
+        document.documentElement().appendChild(record);
+        span.setAttribute(idName, id);
+        span.removeAttribute(behindName);
+    }
+}
+
 // A break behind a span ends a paragraph, one within it a line. Blanks that nobody may take together are said to be so.
 void dressText(QDomElement area)
 {
@@ -270,6 +290,7 @@ void dressText(QDomElement area)
         removeForeignAttributes(span);
     }
     uniteSpans(area);
+    dressBackgrounds(area);
     for (QDomElement span = area.firstChildElement(spanTag); !span.isNull(); span = span.nextSiblingElement(spanTag)) {
         QString content = span.text();
         text += content;
@@ -423,6 +444,9 @@ void BoardDress::dressElement(QDomElement element, const Items &items)
     }
     if (element.attribute(QStringLiteral("infiniteclone")) == QLatin1String("1")) {
         recordOf(element).setAttribute(QStringLiteral("replicate"), isTrue);
+    }
+    if (items.covers.contains(id)) {
+        recordOf(element).setAttribute(QStringLiteral("revealer"), isTrue);
     }
     if (items.flips.contains(id)) {
         recordOf(element).setAttribute(QStringLiteral("flip"), items.flips.value(id));

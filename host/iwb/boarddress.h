@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QJsonObject>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -28,6 +29,7 @@ public:
     struct Items
     {
         QHash<QString, bool> ink; //!< strokes, and whether they are of a marker
+        QSet<QString> covers; //!< curtains
         QHash<QString, QString> flips; //!< "horizontal", "vertical" or "both"
         QVector<QStringList> groups; //!< of the elements of each
     };

@@ -6,6 +6,7 @@
 #include "iwb/shapeplacing.h"
 #include "iwb/textrunloan.h"
 #include "izqtransformation.h"
+#include "lesson/curtain.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/shapeforms.h"
@@ -50,6 +51,19 @@ void setPaintKeys(QJsonObject &prepared, const ShapeForm &form, const SvgPaint &
     if (!dash.isEmpty()) {
         prepared.insert(QLatin1String(form.dashKey), dash);
     }
+}
+
+// What a shape keeps of the item that it stands for, beside its place and looks.
+QJsonObject ownKeys(const QJsonObject &item)
+{
+    QJsonObject keys;
+    for (const QLatin1String key :
+         {ItemKeys::visible, ItemKeys::locked, ItemKeys::endless, ItemKeys::linkType, ItemKeys::linkValue}) {
+        if (item.contains(key)) {
+            keys.insert(key, item.value(key));
+        }
+    }
+    return keys;
 }
 
 // The folders of a package take files of some kinds only.
@@ -126,6 +140,8 @@ QDomElement IwbItemWriter::write(QDomDocument &document, const QJsonObject &item
         element = writeText(item);
     } else if (mediaFolder(type)) {
         element = writeMedia(item);
+    } else if (m_setting.convertsDrawings && type == curtainType) {
+        element = writeCurtain(item);
     } else {
         element = convert(commonKeys(item));
     }
@@ -175,13 +191,7 @@ QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
         return {};
     }
     const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DPolyline"));
-    QJsonObject polyline;
-    for (const QLatin1String key :
-         {ItemKeys::visible, ItemKeys::locked, ItemKeys::endless, ItemKeys::linkType, ItemKeys::linkValue}) {
-        if (item.contains(key)) {
-            polyline.insert(key, item.value(key));
-        }
-    }
+    QJsonObject polyline = ownKeys(item);
     if (!matrix && item.contains(ItemKeys::angle)) {
         polyline.insert(ItemKeys::angle, item.value(ItemKeys::angle));
     }
@@ -192,6 +202,24 @@ QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
     polyline.insert(ItemKeys::lineWidth, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
     ++m_strokes;
     return writeShape(polyline, form);
+}
+
+// Boards have covers of one colour, which is that of the cloth.
+QDomElement IwbItemWriter::writeCurtain(const QJsonObject &item)
+{
+    const auto place = placeOfCurtain(ItemView(item));
+    if (!place) {
+        tellFormless(noPlace());
+        return {};
+    }
+    const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DRectangle"));
+    QJsonObject cover = ownKeys(item);
+    cover.insert(ItemKeys::type, QLatin1String(form.type));
+    cover.insert(ItemKeys::box, boxText(place->box));
+    cover.insert(ItemKeys::angle, exactText(place->angle));
+    cover.insert(QLatin1String(form.lineKey), colorText(Qt::transparent));
+    cover.insert(QLatin1String(form.fillKey), colorText(QColor(curtainCloth)));
+    return writeShape(cover, form);
 }
 
 QDomElement IwbItemWriter::writeText(const QJsonObject &item)
@@ -229,9 +257,13 @@ QDomElement IwbItemWriter::writeText(const QJsonObject &item)
     QDomElement area = innermost(element);
     int run = 0;
     for (QDomElement span = area.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-        const QString shift = text.shifts.value(run++);
+        const QString shift = text.shifts.value(run);
+        const QString background = text.backgrounds.value(run++);
         if (!shift.isEmpty()) {
             span.setAttribute(QStringLiteral("baseline-shift"), shift);
+        }
+        if (!background.isEmpty() && m_setting.convertsDrawings) {
+            span.setAttribute(QStringLiteral("background-fill"), background);
         }
         const QString content = span.text();
         if (content.endsWith(QLatin1Char('\n')) || content.endsWith(QChar::LineSeparator)) {

@@ -56,6 +56,7 @@ private:
     QDomElement writeStroke(const QJsonObject &item);
     QDomElement writeText(const QJsonObject &item);
     QDomElement writeMedia(const QJsonObject &item);
+    QDomElement writeCurtain(const QJsonObject &item);
 
     QString placeMedia(const QString &source, const QString &folder);
     QJsonObject commonKeys(const QJsonObject &item);

@@ -77,7 +77,7 @@ bool haveSameRuns(const TextRuns &one, const TextRuns &other)
             && a.fontFamily == b.fontFamily && a.textDecoration == b.textDecoration && a.textAlign == b.textAlign
             && isSameValue(QStringLiteral("width"), a.fontSize, b.fontSize, writtenDigits);
     };
-    return one.shifts == other.shifts
+    return one.shifts == other.shifts && one.backgrounds == other.backgrounds
         && std::equal(one.runs.cbegin(), one.runs.cend(), other.runs.cbegin(), other.runs.cend(), isSameRun);
 }
 

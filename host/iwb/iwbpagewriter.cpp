@@ -304,8 +304,8 @@ QString IwbPageWriter::idOf(const QJsonObject &item)
     static const QRegularExpression lineBreaks(QStringLiteral("[\\t\\n\\r]+"));
     id.replace(lineBreaks, QStringLiteral(" "));
     // Pages have identifiers, too, and so have what stands around an element, in it and behind it.
-    static const QRegularExpression pageName(QStringLiteral("^page\\d+$"));
-    id = pageName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
+    static const QRegularExpression otherName(QStringLiteral("^page\\d+$|%1\\d+$").arg(QLatin1String(markedSpan)));
+    id = otherName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
     constexpr const char *endings[] = {"_link", soundSign, lineFill};
     QString own = m_ids.take(id);
     const auto isTaken = [&](const char *ending) { return m_ids.has(own + QLatin1String(ending)); };

@@ -4,6 +4,7 @@
 #include "files/pictures.h"
 #include "iwb/uniqueids.h"
 #include "izqtransformation.h"
+#include "lesson/curtain.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/itemview.h"
@@ -78,11 +79,13 @@ void readRecord(const IwbElement &element, QJsonObject &json)
         json = inkOf(element, shape);
     }
     if (element.isRevealer) {
-        json = {{ItemKeys::type, QStringLiteral("General:curtain")},
-                {ItemKeys::box, json.value(ItemKeys::box)},
-                {QStringLiteral("rect"), json.value(ItemKeys::box)},
-                {ItemKeys::visible, json.value(ItemKeys::visible)},
-                {ItemKeys::locked, json.value(ItemKeys::locked)}};
+        json = {{ItemKeys::type, curtainType}, {CurtainKeys::rect, shape.value(ItemKeys::box)}};
+        for (const QLatin1String key :
+             {ItemKeys::box, ItemKeys::angle, ItemKeys::visible, ItemKeys::locked, ItemKeys::endless}) {
+            if (shape.contains(key)) {
+                json.insert(key, shape.value(key));
+            }
+        }
     }
     for (auto it = shape.constBegin(); it != shape.constEnd(); ++it) {
         if (it.key().startsWith(QLatin1String("Interactive"))) {

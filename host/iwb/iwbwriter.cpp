@@ -7,6 +7,7 @@
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
+#include "lesson/curtain.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/slidelimits.h"
@@ -59,6 +60,9 @@ BoardDress::Items itemsFor(const QVector<IwbPageWriter::WrittenItem> &items)
         const ItemView item(written.item);
         if (isInk(item.type())) {
             dressed.ink.insert(written.id, item.type() == QLatin1String("ZQFluorescentStroke"));
+        }
+        if (item.type() == curtainType && !written.isPicture) {
+            dressed.covers.insert(written.id);
         }
         const QString flip = flipOf(item);
         if (!flip.isEmpty() && !written.isPicture) {

@@ -103,13 +103,14 @@ struct Piece
 {
     IwbTextInfo format;
     QString shift;
+    QString background;
     QString text;
 };
 
 void appendPiece(QVector<Piece> &pieces, const Piece &piece)
 {
     if (!pieces.isEmpty() && sameFormat(pieces.constLast().format, piece.format)
-        && pieces.constLast().shift == piece.shift) {
+        && pieces.constLast().shift == piece.shift && pieces.constLast().background == piece.background) {
         pieces.last().text += piece.text;
     } else {
         pieces.append(piece);
@@ -125,6 +126,7 @@ void appendRuns(TextRuns &result, const Piece &piece)
         run.text = piece.text.mid(start, end - start);
         result.runs.append(run);
         result.shifts.append(piece.shift);
+        result.backgrounds.append(piece.background);
         start = end;
     } while (start < piece.text.size());
 }
@@ -139,6 +141,13 @@ QString shiftOf(const QTextCharFormat &format)
     default:
         return {};
     }
+}
+
+// Nothing for letters that have none, or one that nobody sees.
+QString backgroundOf(const QTextCharFormat &format)
+{
+    const QBrush brush = format.background();
+    return brush.style() == Qt::NoBrush || brush.color().alpha() == 0 ? QString() : brush.color().name();
 }
 
 /*!
@@ -161,7 +170,9 @@ public:
 
     void lookAt(const QTextCharFormat &format)
     {
-        count(TO_SAY_NUMBER("%n texts with a background"), format.background().style() != Qt::NoBrush);
+        const int alpha = format.background().color().alpha();
+        count(TO_SAY_NUMBER("%n texts with a translucent background"),
+              format.background().style() != Qt::NoBrush && alpha > 0 && alpha < 255);
         count(TO_SAY_NUMBER("%n texts with a line above"), format.fontOverline());
         count(TO_SAY_NUMBER("%n texts in another case or spacing"),
               format.fontCapitalization() != QFont::MixedCase
@@ -207,7 +218,7 @@ TextRuns runsOf(const QTextDocument &document)
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         losses.lookAt(block);
         const Qt::Alignment alignment = block.blockFormat().alignment();
-        Piece piece{runOf(block.charFormat(), alignment), shiftOf(block.charFormat()), {}};
+        Piece piece{runOf(block.charFormat(), alignment), shiftOf(block.charFormat()), {}, {}};
         QString marker = listMarker(block);
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
@@ -218,7 +229,8 @@ TextRuns runsOf(const QTextDocument &document)
             text.remove(QChar::ObjectReplacementCharacter);
             if (!text.isEmpty()) {
                 losses.lookAt(fragment.charFormat());
-                piece = {runOf(fragment.charFormat(), alignment), shiftOf(fragment.charFormat()), marker + text};
+                piece = {runOf(fragment.charFormat(), alignment), shiftOf(fragment.charFormat()),
+                         backgroundOf(fragment.charFormat()), marker + text};
                 appendPiece(pieces, piece);
                 marker.clear();
             }
@@ -281,7 +293,8 @@ void appendSpan(Paragraph &paragraph, const IwbTextInfo &run, const RunExtras &e
     const QString style = styleOf(run, extras);
     if (paragraph.align.isEmpty()) {
         paragraph.align = run.textAlign;
-        paragraph.firstStyle = style;
+        // What lies behind letters would lie behind all of the paragraph.
+        paragraph.firstStyle = styleOf(run, {extras.shift, {}, {}});
     }
     if (!text.isEmpty()) {
         QString escaped = text.toHtmlEscaped();

@@ -29,6 +29,7 @@ struct TextRuns
 {
     IwbTextInfoList runs; //!< never empty: an empty text is one run with an empty text
     QStringList shifts; //!< one for each run: "sub" and "super" for letters below and above the line, else empty
+    QStringList backgrounds; //!< one for each run: the colour behind its letters as "#rrggbb", or empty
     Sentences losses; //!< what runs have no form for, such as "3 control characters"
 };
 

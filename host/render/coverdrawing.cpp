@@ -2,6 +2,7 @@
 #include "render/coverdrawing.h"
 
 #include "files/drawingbounds.h"
+#include "lesson/curtain.h"
 #include "lesson/planegeometry.h"
 #include "render/itemoutline.h"
 #include "svg/svgstyle.h"
@@ -14,8 +15,6 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String curtainRect("rect");
-const QLatin1String picture("picture");
 const QLatin1String canvasSize("CanvasSize");
 const QLatin1String spotCenter("SpotCenter");
 const QLatin1String spotRadius("SpotRadius");
@@ -25,25 +24,6 @@ std::optional<QRectF> boxWithArea(const ItemView &item)
 {
     const auto box = item.box();
     return box && !box->isEmpty() ? box : std::nullopt;
-}
-
-/*!
- * What a curtain hangs before: its box or, from the box's upper left corner on, as much of it as rect says. Where rect
- * begins elsewhere, its last numbers may be a size or a corner, so it tells nothing.
- */
-std::optional<QRectF> coveredBy(const ItemView &curtain)
-{
-    const auto box = boxWithArea(curtain);
-    const QVector<double> told = curtain.numbers(curtainRect);
-    if (told.size() != 4 || told.at(0) != 0 || told.at(1) != 0 || !(told.at(2) > 0 && told.at(3) > 0)) {
-        return box;
-    }
-    const QSizeF size(told.at(2), told.at(3));
-    if (!box) {
-        return QRectF(QPointF(), size);
-    }
-    const bool isWithin = size.width() <= box->width() && size.height() <= box->height();
-    return isWithin ? QRectF(box->topLeft(), size) : *box;
 }
 
 void drawFolds(PlainSvg &svg, const PlacedBox &box)
@@ -67,18 +47,18 @@ void drawFolds(PlainSvg &svg, const PlacedBox &box)
 // Whatever is on its cloth, nobody sees through it.
 bool drawCurtain(Canvas &canvas, const ItemView &item)
 {
-    const auto area = coveredBy(item);
+    const auto area = coveredByCurtain(item);
     const PlacedBox box(area.value_or(QRectF()), placeOnPage(item));
     if (box.isEmpty()) {
         return false;
     }
     SvgPaint cloth;
-    cloth.fill = QColor(0x8c, 0x1c, 0x2b);
+    cloth.fill = QColor(curtainCloth);
     cloth.line = Qt::transparent;
     QPainterPath whole;
     whole.addRect(QRectF(0, 0, 1, 1));
     canvas.svg().addPath(box.place.map(whole), cloth);
-    if (!canvas.addPicture(item.text(picture), *area, placeOnPage(item))) {
+    if (!canvas.addPicture(item.text(CurtainKeys::picture), *area, placeOnPage(item))) {
         drawFolds(canvas.svg(), box);
     }
     return true;
@@ -162,7 +142,7 @@ std::optional<Spot> spotOn(const ItemView &item)
 SvgDrawing coverDrawing(const QString &type)
 {
     static const QHash<QString, SvgDrawing> drawings{
-        {QStringLiteral("General:curtain"), &drawCurtain},
+        {curtainType, &drawCurtain},
         {QStringLiteral("General:spotlight"), &drawSpotlight},
     };
     return drawings.value(type);

@@ -3,6 +3,7 @@
 
 #include "iwb/iwbmedia.h"
 #include "lesson/closedtext.h"
+#include "lesson/curtain.h"
 #include "lesson/itemview.h"
 #include "lesson/listentries.h"
 #include "render/activitydrawing.h"
@@ -131,7 +132,7 @@ QJsonObject toolOf(const ItemView &item, const QTransform &placed)
 {
     const QString type = item.type();
     const auto kind = [](const char *name) { return QJsonObject{{QStringLiteral("kind"), QLatin1String(name)}}; };
-    if (type == QLatin1String("General:curtain")) {
+    if (type == curtainType) {
         return kind("curtain");
     }
     if (type == QLatin1String("General:spotlight")) {

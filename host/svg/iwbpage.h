@@ -18,6 +18,9 @@ constexpr char soundSign[] = "_sign";
 //! The same for the outline that fills an open line and stands behind it.
 constexpr char lineFill[] = "_fill";
 
+//! The same, before a number, for the parts of a text that have a colour behind them.
+constexpr char markedSpan[] = "_span";
+
 //! What the transform of a hidden element begins with: nothing is shown of what stands left of the page.
 constexpr char awayFromPage[] = "translate(-1000000,0)";
 

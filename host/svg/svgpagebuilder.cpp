@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "svg/svgpagebuilder.h"
 
+#include "lesson/curtain.h"
 #include "lesson/isoneof.h"
 #include "lesson/itemvalues.h"
 #include "lesson/missingfonts.h"
@@ -398,7 +399,11 @@ void SvgPageBuilder::rectangle(const QDomElement &element, const Place &place)
     }
     IwbElement &item = addItem(element, place, QStringLiteral("svg:rect"));
     placeBox(item, box, place.style.matrix);
-    setPluginPaint(item.element, paintOf(element, place.style));
+    const SvgPaint paint = paintOf(element, place.style);
+    setPluginPaint(item.element, paint);
+    if (item.isRevealer && (paint.fill.rgba() != curtainCloth || (paint.line.alpha() > 0 && paint.lineWidth > 0))) {
+        remark(element, say("it became a curtain, which has a cloth of its own"), false);
+    }
 }
 
 void SvgPageBuilder::ellipse(const QDomElement &element, const Place &place)
@@ -778,10 +783,16 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     }
     item.isEndless = isSet(QStringLiteral("infiniteclone"), record.isEndless);
     item.isRevealer = record.isRevealer && tag == QLatin1String("svg:rect");
+    if (record.isRevealer && !item.isRevealer) {
+        remark(source, say("only upright or turned rectangles become curtains"));
+    }
     item.isFreehand = record.isFreehand;
     item.isHighlight = record.isHighlight;
     item.flipsAcross = record.flipsAcross && tag == QLatin1String("svg:image");
     item.flipsDown = record.flipsDown && tag == QLatin1String("svg:image");
+    if ((record.flipsAcross || record.flipsDown) && tag != QLatin1String("svg:image")) {
+        remark(source, say("only pictures can be flipped"));
+    }
     item.group = item.id.isEmpty() ? -1 : m_rules.groups.value(item.id, -1);
     m_result.items.append(item);
     return m_result.items.last();

@@ -75,6 +75,10 @@ bool isBlank(const QString &text)
 
 void setBackground(SvgStyle &style, const IwbRecord &record)
 {
+    // A part of a text may have none where the others have one.
+    if (record.textFill == QLatin1String("none")) {
+        style.set(backgroundProperty, {});
+    }
     for (const QString &fill : {record.textFill, record.highlightFill}) {
         const auto color = svgColor(fill);
         if (color && color->alpha() > 0) {

@@ -1812,13 +1812,6 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n texts with a background</source>
-        <translation>
-            <numerusform>%n Text mit Hintergrund</numerusform>
-            <numerusform>%n Texte mit Hintergrund</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n texts with a line above</source>
         <translation>
             <numerusform>%n Text mit Linie darüber</numerusform>
@@ -6400,6 +6393,25 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
     <message>
         <source>some have no form, or are groups</source>
         <translation>manche haben keine Form oder sind Gruppen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts with a translucent background</source>
+        <translation>
+            <numerusform>%n Text mit durchscheinendem Hintergrund</numerusform>
+            <numerusform>%n Texte mit durchscheinendem Hintergrund</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it became a curtain, which has a cloth of its own</source>
+        <translation>wurde zu einem Vorhang, der seinen eigenen Stoff hat</translation>
+    </message>
+    <message>
+        <source>only upright or turned rectangles become curtains</source>
+        <translation>nur gerade oder gedrehte Rechtecke werden zu Vorhängen</translation>
+    </message>
+    <message>
+        <source>only pictures can be flipped</source>
+        <translation>nur Bilder können gespiegelt werden</translation>
     </message>
 </context>
 </TS>

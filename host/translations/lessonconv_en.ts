@@ -193,13 +193,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n texts with a background</source>
-        <translation>
-            <numerusform>%n text with a background</numerusform>
-            <numerusform>%n texts with a background</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n texts with a line above</source>
         <translation>
             <numerusform>%n text with a line above</numerusform>
@@ -2220,6 +2213,13 @@
         <translation>
             <numerusform>Note: and %n more.</numerusform>
             <numerusform>Note: and %n more.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts with a translucent background</source>
+        <translation>
+            <numerusform>%n text with a translucent background</numerusform>
+            <numerusform>%n texts with a translucent background</numerusform>
         </translation>
     </message>
 </context>

@@ -1784,12 +1784,6 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n texts with a background</source>
-        <translation>
-            <numerusform>%n 段带背景的文本</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n texts with a line above</source>
         <translation>
             <numerusform>%n 段带上划线的文本</numerusform>
@@ -6082,6 +6076,24 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     <message>
         <source>some have no form, or are groups</source>
         <translation>有些没有对应形式，或者是组合</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts with a translucent background</source>
+        <translation>
+            <numerusform>%n 段带半透明背景的文本</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it became a curtain, which has a cloth of its own</source>
+        <translation>变成了幕布，幕布有自己的颜色</translation>
+    </message>
+    <message>
+        <source>only upright or turned rectangles become curtains</source>
+        <translation>只有正放或旋转的矩形才会变成幕布</translation>
+    </message>
+    <message>
+        <source>only pictures can be flipped</source>
+        <translation>只有图片可以翻转</translation>
     </message>
 </context>
 </TS>
