@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "files/closedsvg.h"
 
+#include "files/domtools.h"
 #include "files/drawingbounds.h"
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
@@ -16,11 +17,6 @@ namespace {
 
 // Each rule of a style sheet is held against each element.
 constexpr qint64 mostStyleSteps = 1000000;
-
-QString withoutPrefix(const QString &name)
-{
-    return name.section(QLatin1Char(':'), -1);
-}
 
 // What draws. Fonts, filters, scripts, films and other documents' elements are no part of it.
 bool isKept(const QString &tag)
@@ -90,14 +86,14 @@ public:
     {
         ++m_elements;
         closeAttributes(element);
-        if (withoutPrefix(element.tagName()) == QLatin1String("style")) {
+        if (bareName(element.tagName()) == QLatin1String("style")) {
             closeStyleSheet(element);
         }
         QDomNode next;
         for (QDomNode child = element.firstChild(); !child.isNull(); child = next) {
             next = child.nextSibling();
             if (child.isElement()) {
-                if (!isKept(withoutPrefix(child.toElement().tagName()))) {
+                if (!isKept(bareName(child.toElement().tagName()))) {
                     element.removeChild(child);
                 } else {
                     close(child.toElement());
@@ -127,7 +123,7 @@ private:
         QString picture;
         for (const QString &name : qAsConst(names)) {
             const QString value = element.attribute(name);
-            const QString bare = withoutPrefix(name);
+            const QString bare = bareName(name);
             if (bare == QLatin1String("href") && picture.isEmpty()) {
                 picture = value.trimmed();
             }
@@ -138,7 +134,7 @@ private:
                 element.removeAttribute(name);
             }
         }
-        if (withoutPrefix(element.tagName()) == QLatin1String("image")) {
+        if (bareName(element.tagName()) == QLatin1String("image")) {
             setPicture(element, picture);
         }
     }
@@ -189,7 +185,7 @@ ClosedSvg closedSvg(const QByteArray &svg, const QString &displayName, const Clo
 {
     const QDomDocument document = loadXml(withoutDocumentType(svg), displayName, XmlBlanks::Kept);
     QDomElement root = document.documentElement();
-    if (withoutPrefix(root.tagName()) != QLatin1String("svg")) {
+    if (bareName(root.tagName()) != QLatin1String("svg")) {
         throw LessonError(say("This is no drawing in svg"), say("Check the file")).in(displayName);
     }
     const QString prefix = QStringLiteral("xmlns:xlink");

@@ -5,6 +5,11 @@
 
 namespace lessonhost {
 
+QString bareName(const QString &name)
+{
+    return name.section(QLatin1Char(':'), -1);
+}
+
 QDomElement childWithContent(const QDomElement &parent, const QString &tag, bool withChildren)
 {
     for (QDomElement child = parent.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag)) {

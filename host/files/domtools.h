@@ -7,6 +7,9 @@
 
 namespace lessonhost {
 
+//! A name without the prefix of its namespace.
+QString bareName(const QString &name);
+
 //! The first direct child element of that tag that has child nodes, or that has none, or null.
 QDomElement childWithContent(const QDomElement &parent, const QString &tag, bool withChildren);
 

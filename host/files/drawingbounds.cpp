@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "files/drawingbounds.h"
 
+#include "files/domtools.h"
+
 #include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
@@ -247,7 +249,7 @@ private:
         for (const double length : pattern) {
             sum += std::abs(length);
         }
-        const QString tag = element.tagName().section(QLatin1Char(':'), -1);
+        const QString tag = bareName(element.tagName());
         const double count = longestOutline(element, tag) / sum * pattern.size();
         if (count <= m_dashesLeft) {
             m_dashesLeft -= count;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/innersvg.h"
 
+#include "files/domtools.h"
 #include "files/drawingbounds.h"
 #include "lesson/fontvalues.h"
 #include "lesson/itemvalues.h"
@@ -17,11 +18,6 @@ namespace {
 // A drawing may use its parts in parts that it uses.
 constexpr int mostUses = 16;
 constexpr double lettersOfElement = 100;
-
-QString withoutPrefix(const QString &name)
-{
-    return name.section(QLatin1Char(':'), -1);
-}
 
 bool isGradient(const QString &tag)
 {
@@ -117,7 +113,7 @@ private:
             return;
         }
         m_budget.elements -= 1;
-        const QString tag = withoutPrefix(from.tagName());
+        const QString tag = bareName(from.tagName());
         if (tag == QLatin1String("use")) {
             copyUsed(from, parent);
             return;
@@ -176,7 +172,7 @@ private:
     {
         QDomElement defs = m_document.createElement(QStringLiteral("defs"));
         for (QDomElement e = from.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
-            const QString tag = withoutPrefix(e.tagName());
+            const QString tag = bareName(e.tagName());
             if (isGradient(tag) || tag == QLatin1String("style")) {
                 copy(e, tag == QLatin1String("style") ? parent : defs);
             }
@@ -190,7 +186,7 @@ private:
     {
         const QDomNamedNodeMap attributes = element.attributes();
         for (int i = 0; i < attributes.size(); ++i) {
-            if (withoutPrefix(attributes.item(i).nodeName()) == QLatin1String("href")) {
+            if (bareName(attributes.item(i).nodeName()) == QLatin1String("href")) {
                 return attributes.item(i).nodeValue();
             }
         }
@@ -203,7 +199,7 @@ private:
         const QDomNamedNodeMap attributes = from.attributes();
         for (int i = 0; i < attributes.size(); ++i) {
             const QString name = attributes.item(i).nodeName();
-            const QString bare = withoutPrefix(name);
+            const QString bare = bareName(name);
             const QString value = attributes.item(i).nodeValue();
             m_budget.elements -= value.size() / lettersOfElement;
             if (bare == QLatin1String("href")) {

@@ -2,6 +2,7 @@
 #include "render/plainsvg.h"
 
 #include "files/closedsvg.h"
+#include "files/domtools.h"
 #include "files/drawingbounds.h"
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
@@ -56,11 +57,6 @@ const char *const keptAttributes[] = {
     "preserveAspectRatio",
 };
 const char *const keptTags[] = {"rect", "circle", "ellipse", "line", "polyline", "polygon", "path"};
-
-QString withoutPrefix(const QString &tag)
-{
-    return tag.section(QLatin1Char(':'), -1);
-}
 
 void setBox(QDomElement &element, const QRectF &box)
 {
@@ -177,7 +173,7 @@ QDomElement PlainSvg::append(const QString &tag)
 
 bool PlainSvg::add(const QDomElement &element)
 {
-    const QString tag = withoutPrefix(element.tagName());
+    const QString tag = bareName(element.tagName());
     if (tag == QLatin1String("image")) {
         return addPicture(element);
     }
