@@ -93,7 +93,9 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(LESSONCONV_VERSION));
     const bool asJson = arguments.contains(QLatin1String("--json"));
     try {
-        return command.run();
+        const int code = command.run();
+        endPrinting();
+        return code;
     } catch (const LessonError &error) {
         tell(error, asJson);
     } catch (const std::exception &error) {

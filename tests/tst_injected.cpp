@@ -1,24 +1,37 @@
 // SPDX-License-Identifier: MIT
 #include "hostfixture.h"
 
+#include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QtTest>
 
 #include <cerrno>
 #include <cstring>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using namespace lessonhost;
 
 namespace {
+
+// Where standard output goes, below "out".
+const QString printed = "printed"_s;
 
 // What a run reads and writes, in the folders "in" and "out".
 struct Run
 {
     QStringList arguments; // of the command
     QStringList targets; // all that it makes, below "out"
+    QString report = {}; // of many lessons, which also tells of those that failed
+    QString input = {}; // what comes through standard input
 };
 
 using Contents = QMap<QString, QByteArray>;
@@ -32,6 +45,9 @@ void copyTree(const QString &from, const QString &to)
         const QString target = to + '/' + root.relativeFilePath(it.next());
         QDir().mkpath(QFileInfo(target).path());
         QVERIFY(QFile::copy(it.filePath(), target));
+        QFile copy(target); // with its time, by which results are known
+        QVERIFY(copy.open(QIODevice::ReadWrite)
+                && copy.setFileTime(it.fileInfo().lastModified(), QFileDevice::FileModificationTime));
     }
 }
 
@@ -85,13 +101,26 @@ private:
 
     enum Kind { Once, Staying, Reading };
 
-    CommandProcess::Outcome run(const QStringList &arguments, Kind kind = Once, int failing = 0) const
+    CommandProcess::Outcome run(const Run &run, Kind kind = Once, int failing = 0) const
     {
         putFile(m_counter, QByteArray(sizeof(long), '\0'));
-        return runCommand(arguments, m_folder.path(), [this, kind, failing] {
+        return runCommand(run.arguments, m_folder.path(), [this, run, kind, failing] {
+            const auto give = [this](int number, const QString &name, int flags) {
+                const int file = ::open(QFile::encodeName(path(name)), flags, 0666);
+                ::dup2(file, number);
+                ::close(file);
+            };
+            if (!run.input.isEmpty()) {
+                give(STDIN_FILENO, run.input, O_RDONLY);
+            }
+            if (run.targets.contains(printed)) {
+                give(STDOUT_FILENO, "out/" + printed, O_WRONLY | O_CREAT | O_TRUNC);
+            }
             const QByteArray folder = QFile::encodeName(kind == Reading ? path("in") : m_folder.path());
             ::setenv("TMPDIR", QFile::encodeName(path("tmp")), 1);
-            ::setenv("XDG_RUNTIME_DIR", QFile::encodeName(m_beside.path()), 1);
+            const bool isShown = run.arguments.first() == "show";
+            ::setenv("XDG_RUNTIME_DIR", QFile::encodeName(isShown ? path("out") : m_beside.path()), 1);
+            ::setenv("PATH", QFile::encodeName(m_beside.path()), 1); // has the browser
             ::setenv("FAULT_FOLDER", folder, 1);
             ::setenv("FAULT_COUNTER", QFile::encodeName(m_counter), 1);
             ::setenv("FAULT_AT", QByteArray::number(failing), 1);
@@ -122,6 +151,8 @@ private:
     {
         QDir(path("out")).removeRecursively();
         copyTree(path("before"), path("out"));
+        QVERIFY(
+            QFile::setPermissions(path("out"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)); // for pages
     }
 
     // What is wrong with what a run left, or nothing.
@@ -129,9 +160,15 @@ private:
                            const QVector<Contents> &before, const QVector<Contents> &after,
                            const QVector<Contents> &found, Kind kind)
     {
+        const QString reason = std::strerror(kind == Staying ? ENOSPC : EIO);
         bool isAllNew = true;
         for (int i = 0; i < targets.size(); ++i) {
-            if (found.at(i) != before.at(i) && found.at(i) != after.at(i)) {
+            const QByteArray text = found.at(i).first();
+            // Who waits for a page in the browser gets one that tells the failure; what is printed isn't taken back.
+            const bool isTold = outcome.exitCode != 0
+                && (targets.at(i) == printed
+                    || (text.contains(reason.toUtf8()) && text.endsWith("</p></body></html>\n")));
+            if (found.at(i) != before.at(i) && found.at(i) != after.at(i) && !isTold) {
                 return targets.at(i) + " is broken: " + found.at(i).firstKey();
             }
             isAllNew = isAllNew && found.at(i) == after.at(i);
@@ -140,17 +177,36 @@ private:
             }
         }
         if (outcome.exitCode == 0) {
-            return isAllNew && outcome.errors.isEmpty() ? QString() : "not done, and says it is"_s;
+            // Qt looks for a folder of the session, and does without.
+            const QString errors = QString(outcome.errors).remove(QRegularExpression("lessonconv: QStandardPaths.*\n"));
+            return isAllNew && errors.isEmpty() ? QString() : "not done, and says it is"_s;
         }
-        const QString reason = std::strerror(kind == Staying ? ENOSPC : EIO);
         return outcome.exitCode == 2 && outcome.errors.contains(reason) ? QString() : "the reason isn't told"_s;
+    }
+
+    // A report of many lessons is the old one, or whole, and what it says is done is there.
+    QString problemWithReport(const Run &run, const QVector<Contents> &after, const QVector<Contents> &found) const
+    {
+        const QByteArray report = fileContent(path("out/" + run.report));
+        if (report == fileContent(path("before/" + run.report))) {
+            return {};
+        }
+        const QJsonArray lessons = QJsonDocument::fromJson(report).object().value("lessons").toArray();
+        for (const QJsonValue &lesson : lessons) {
+            const QString state = lesson.toObject().value("state").toString();
+            const int target = run.targets.indexOf(lesson.toObject().value("output").toString());
+            if (target >= 0 && state != "failed" && state != "open" && found.at(target) != after.at(target)) {
+                return run.report + " isn't true";
+            }
+        }
+        return lessons.isEmpty() ? run.report + " is broken" : QString();
     }
 
     void failEach(const Run &run, Kind kind)
     {
         restore();
         const QVector<Contents> before = contents(run.targets);
-        const CommandProcess::Outcome clean = this->run(run.arguments, kind);
+        const CommandProcess::Outcome clean = this->run(run, kind);
         QVERIFY2(clean.exitCode == 0 && clean.errors.isEmpty(), qPrintable(clean.errors));
         const QVector<int> calls = chosenCalls(callsOfLastRun());
         QVERIFY(!calls.isEmpty());
@@ -161,9 +217,12 @@ private:
         int failures = 0;
         for (const int call : calls) {
             restore();
-            const CommandProcess::Outcome outcome = this->run(run.arguments, kind, call);
+            const CommandProcess::Outcome outcome = this->run(run, kind, call);
             const QVector<Contents> found = contents(run.targets);
-            const QString wrong = problem(outcome, run.targets, before, after, found, kind);
+            QString wrong = problem(outcome, run.targets, before, after, found, kind);
+            if (wrong.isEmpty() && !run.report.isEmpty()) {
+                wrong = problemWithReport(run, after, found);
+            }
             QVERIFY2(wrong.isEmpty(),
                      qPrintable("call %1 of %2, kind %3: %4\n%5 %6"_s.arg(call)
                                     .arg(calls.last())
@@ -172,8 +231,8 @@ private:
                                     .arg(outcome.exitCode)
                                     .arg(outcome.errors)));
             failures += outcome.exitCode == 0 ? 0 : 1;
-            if (!leftovers().isEmpty()) {
-                QCOMPARE(this->run(run.arguments).exitCode, 0);
+            if (!leftovers().isEmpty() || run.arguments.contains("--resume")) {
+                QCOMPARE(this->run(run).exitCode, 0);
                 QCOMPARE(contents(run.targets), after);
                 QCOMPARE(leftovers(), QStringList());
             }
@@ -185,8 +244,7 @@ private:
     QStringList leftovers() const
     {
         QStringList names = hiddenEntries(path("out")) + QDir(path("tmp")).entryList({"lessonconv*"});
-        names.removeOne(".lessonconv-done");
-        return names;
+        return names.filter(QRegularExpression("^(?!\\.lessonconv-done)"));
     }
 
     void convertHere(const QString &from, const QString &to, const QStringList &more = {}) const
@@ -220,6 +278,10 @@ private slots:
         }
         putFile(path("in/old.json"),
                 R"({"Width": "400", "Height": "300", "Slides": [{"ID": "old", "color": "255,9,9,9"}, {"ID": "b"}]})");
+        copyTree(path("in/new"), path("in/one"));
+        putFile(
+            path("in/one/index.xml"),
+            "<main version=\"3.0\" width=\"800\" height=\"600\"><slides><file href=\"slides/1.xml\"/></slides></main>");
         convertHere("in/new", "in/new.zqtx");
         convertHere("in/new", "in/new.json");
         convertHere("in/new", "in/new.iwb");
@@ -238,6 +300,15 @@ private slots:
             {"Type":"ZQMediaAudio","resource":"a.wav"},{"Type":"ZQMediaAudio","resource":"b.wav"}]}]})");
         QVERIFY(QDir().mkpath(path("before/p_files")));
         putFile(path("before/p_files/a.wav"), "old");
+        putFile(m_beside.filePath("xdg-open"), "#!/bin/sh\n");
+        QVERIFY(QFile::setPermissions(m_beside.filePath("xdg-open"), QFile::ReadOwner | QFile::ExeOwner));
+        // What was done in earlier nights: one of two lessons, and so often that the notes of it are made shorter.
+        const Run earlier{{"convert", "in/old.json", "--to", "json", "--out-dir", "before", "--report", "in/r1.json"},
+                          {}};
+        const Run later{{"convert", "in/new", "--to", "json", "--out-dir", "later", "--report", "in/r2.json"}, {}};
+        QVERIFY(run(earlier).exitCode == 0 && run(later).exitCode == 0);
+        const QString notes = path("before/.lessonconv-done");
+        putFile(notes, fileContent(notes).repeated(120));
     }
 
     void failsWhileWriting_data()
@@ -255,6 +326,23 @@ private slots:
             Run{{"convert", "in/new", "in/old.json", "--to", "json", "--out-dir", "out", "--jobs", "1", "--report",
                  "out/r.json"},
                 {"new.json"}});
+        row("many, of which one is done",
+            Run{{"convert", "in/new", "in/old.json", "--to", "json", "--out-dir", "out", "--jobs", "1", "--resume",
+                 "--report", "out/r.json"},
+                {"new.json"},
+                "r.json"});
+        row("shard",
+            Run{{"convert", "in/new", "in/old.json", "--to", "json", "--out-dir", "out", "--shard", "2/2", "--report",
+                 "out/r.json"},
+                {"new.json"},
+                "r.json"});
+        row("check", Run{{"check", "in/new", "--report", "out/r.json"}, {"r.json"}});
+        row("many checks",
+            Run{{"check", "in/new", "in/heard.json", "--out-dir", "out", "--jobs", "2", "--resume", "--report",
+                 "out/r.json"},
+                {"new.json", "heard.json"},
+                "r.json"});
+        row("reports", Run{{"report", "in/r1.json", "in/r2.json", "--report", "out/r.json"}, {"r.json"}});
         row("page", Run{{"render", "in/new", "out/p.html"}, {"p.html"}});
         row("page with sounds",
             Run{{"render", "in/heard.json", "out/p.html"}, {"p.html", "p_files/a.wav", "p_files/b.wav"}});
@@ -269,12 +357,31 @@ private slots:
                 {"new.pdf"}});
         row("many folders of pictures",
             Run{{"render", "in/new", "--to", "png", "--out-dir", "out/many", "--jobs", "1"}, {"many/new"}});
+        const QByteArray name = QCryptographicHash::hash(path("in/new").toUtf8(), QCryptographicHash::Sha1).toHex();
+        row("page in the browser",
+            Run{{"show", "in/new"}, {"lessonconv-pages-%1/%2.html"_s.arg(::geteuid()).arg(QString(name))}});
+        row("standard input", Run{{"convert", "-", "out/t.zqtx"}, {"t.zqtx"}, {}, "in/new.json"});
+        const QVector<QStringList> printing{{"convert", "in/new", "-", "--to", "json", "--quiet"},
+                                            {"convert", "in/new", "out/t.json", "--json"},
+                                            {"convert", "in/new", "--to", "json", "--out-dir", "out", "--json"},
+                                            {"render", "in/new", "-", "--to", "pdf"},
+                                            {"report", "in/r1.json", "in/r2.json"},
+                                            {"info", "in/new"},
+                                            {"check", "in/new", "--json"},
+                                            {"check", "in/new", "--out-dir", "out"},
+                                            {"formats"},
+                                            {"completion", "bash"},
+                                            {"--help"},
+                                            {"--version"}};
+        for (const QStringList &arguments : printing) {
+            row("printed: " + arguments.join(' ').toLatin1(), Run{arguments, {printed}});
+        }
     }
 
     void failsWhileWriting()
     {
         QFETCH(Run, run);
-        run.arguments.append("--quiet");
+        run.targets.contains(printed) ? void() : run.arguments.append("--quiet");
         for (const Kind kind : {Once, Staying}) {
             failEach(run, kind);
             if (QTest::currentTestFailed()) {
@@ -285,16 +392,27 @@ private slots:
 
     void failsWhileReading_data()
     {
-        const Table<QString> row("input");
+        const Table<Run> row("run");
         for (const char *input : {"new", "new.zqtx", "new.json", "new.iwb"}) {
-            row(input, "in/"_s + input);
+            row(QByteArray("convert ") + input, Run{{"convert", "in/"_s + input, "out/t.zqtx"}, {"t.zqtx"}});
         }
+        row("convert -", Run{{"convert", "-", "out/t.zqtx"}, {"t.zqtx"}, {}, "in/new.iwb"});
+        row("check", Run{{"check", "in/new", "--report", "out/r.json"}, {"r.json"}});
+        row("render", Run{{"render", "in/heard.json", "out/p.html"}, {"p.html", "p_files/a.wav", "p_files/b.wav"}});
+        row("difference", Run{{"render", "--diff", "in/new", "in/new.iwb", "out/d.html"}, {"d.html"}});
+        for (const char *name : {"t.iwb", "p.html", "p.pdf", "p1.svg", "p1.png"}) {
+            const QString command = name[0] == 't' ? "convert" : "render";
+            row(QByteArray("pictures to ") + name, Run{{command, "in/one", "out/"_s + name}, {name}});
+        }
+        row("report", Run{{"report", "in/r1.json", "in/r2.json", "--report", "out/r.json"}, {"r.json"}});
+        row("info", Run{{"info", "in/new.zqtx"}, {printed}});
     }
 
     void failsWhileReading()
     {
-        QFETCH(QString, input);
-        failEach({{"convert", input, "out/t.zqtx", "--quiet"}, {"t.zqtx"}}, Reading);
+        QFETCH(Run, run);
+        run.targets.contains(printed) ? void() : run.arguments.append("--quiet");
+        failEach(run, Reading);
     }
 };
 

@@ -231,7 +231,7 @@ private:
 };
 
 /*!
- * A format that is tried. What it refuses is told, and the others go on.
+ * A format that is tried. What it refuses is told, and the others go on; where the machine fails, nothing is known.
  */
 class Trial
 {
@@ -276,8 +276,11 @@ private:
                 step();
             }
         } catch (const LessonError &error) {
-            m_told.problem = error.message();
             m_writer.reset();
+            if (error.isOfMachine()) {
+                throw;
+            }
+            m_told.problem = error.message();
         }
     }
 

@@ -67,7 +67,7 @@ struct LessonCheck
 
 /*!
  * Checks a lesson. from: its format. formats: those to try, without what they would write. context: for reading and
- * writing; its losses aren't used. Throws LessonError for a lesson that can't be read.
+ * writing; its losses aren't used. Throws LessonError for a lesson that can't be read, and where the machine fails.
  */
 LessonCheck checkLesson(const LessonFormat &from, const QString &input, const QVector<const LessonFormat *> &formats,
                         const LessonContext &context, const Progress &progress);

@@ -56,7 +56,7 @@ public:
     QString name() const { return m_name; }
 
     //! Empty at the end.
-    QByteArray next()
+    QByteArray next() const
     {
         QByteArray chunk(chunkSize, Qt::Uninitialized);
         ssize_t count = 0;
@@ -99,9 +99,22 @@ QString StandardStreams::input(const QString &name)
     if (!isHandedOver(name) || (name != standardName && QFileInfo(name).isFile())) {
         return name;
     }
-    Source source(name);
+    if (m_failure) {
+        throw LessonError(*m_failure); // what it has taken won't come again
+    }
+    try {
+        take(name);
+    } catch (const LessonError &error) {
+        m_failure = error;
+        throw;
+    }
+    return m_input;
+}
+
+void StandardStreams::take(const QString &name)
+{
+    const Source source(name);
     const QString path = fileFor(QStringLiteral("input"));
-    QFile::remove(path); // of a try that failed
     OutputFile file(path, source.name(), OutputFile::Temporary);
     for (QByteArray chunk = source.next(); !chunk.isEmpty(); chunk = source.next()) {
         file.put(chunk);
@@ -117,7 +130,6 @@ QString StandardStreams::input(const QString &name)
     m_inputArgument = name;
     m_inputName = source.name();
     m_input = path;
-    return m_input;
 }
 
 bool StandardStreams::isStandardOutput(const QString &name)

@@ -6,6 +6,7 @@
 #include "files/workfolder.h"
 
 #include <memory>
+#include <optional>
 
 namespace lessonhost {
 
@@ -17,7 +18,7 @@ namespace lessonhost {
 class StandardStreams
 {
 public:
-    //! The file to read for an input. Waits for the end of what comes, once. Throws.
+    //! The file to read for an input. Waits for the end of what comes, once: what failed fails again. Throws.
     QString input(const QString &name);
 
     //! The file to write for an output; extension is for standard output's. Throws.
@@ -33,11 +34,13 @@ public:
 
 private:
     QString fileFor(const QString &name);
+    void take(const QString &name);
 
     std::unique_ptr<WorkFolder> m_work;
     QString m_input;
     QString m_inputName;
     QString m_inputArgument;
+    std::optional<LessonError> m_failure; // of what came
     QString m_output;
 };
 

@@ -50,6 +50,15 @@ void printBytes(const QByteArray &bytes)
     }
 }
 
+void endPrinting()
+{
+    // A library may still print, and must not print into another file.
+    const int copy = ::dup(STDOUT_FILENO);
+    if (copy >= 0 && ::close(copy) != 0 && errno != EINTR) {
+        throw writeError(QStringLiteral("Standard output"), errno);
+    }
+}
+
 void printJson(const QJsonObject &object)
 {
     print(QString::fromUtf8(QJsonDocument(object).toJson()));

@@ -23,6 +23,9 @@ void printBytes(const QByteArray &bytes);
 //! The same.
 void printJson(const QJsonObject &object);
 
+//! Behind all that is printed: some disks tell only when a file is closed that they are full. Throws like the others.
+void endPrinting();
+
 //! A text with blanks behind it until it fills so many columns; wide letters take two.
 QString padded(const QString &text, int columns);
 

@@ -21,7 +21,8 @@ LessonError readError(const QString &name, int error)
 {
     return LessonError(say("The file can't be read: %1").arg(systemReason(error)),
                        say("Check that it exists and that you may read it"))
-        .in(name);
+        .in(name)
+        .ofMachine();
 }
 
 Sentence noFile(mode_t mode)
@@ -96,7 +97,8 @@ QByteArray InputFile::bytes(qint64 begin, qint64 size)
         if (count == 0) {
             throw LessonError(say("The file was cut short while it was read"),
                               say("Convert it again when no other program writes to it"))
-                .in(m_name);
+                .in(m_name)
+                .ofMachine();
         }
         done += count;
     }

@@ -81,6 +81,12 @@ LessonError &LessonError::in(const QString &file, int line)
     return *this;
 }
 
+LessonError &LessonError::ofMachine()
+{
+    m_isOfMachine = true;
+    return *this;
+}
+
 Sentence LessonError::message() const
 {
     Sentence text = m_problem;
@@ -134,7 +140,8 @@ LessonError writeError(const QString &shownName, int error, bool isTemporary)
                            .arg(systemReason(error)),
                        isTemporary ? say("Make room in the folder for temporary files")
                                    : say("Check that there is room and that you may write there"))
-        .in(shownName);
+        .in(shownName)
+        .ofMachine();
 }
 
 } // namespace lessonhost

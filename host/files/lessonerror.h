@@ -22,9 +22,12 @@ public:
 
     //! Names the file and, with a line above 0, the line in it.
     LessonError &in(const QString &file, int line = 0);
+    //! Says that it lies at the machine, such as at a full disk, and tells nothing of a lesson or a format.
+    LessonError &ofMachine();
 
     QString file() const { return m_file; }
     int line() const { return m_line; }
+    bool isOfMachine() const { return m_isOfMachine; }
     Sentence problem() const { return m_problem; }
     Sentence remedy() const { return m_remedy; }
 
@@ -40,6 +43,7 @@ private:
     Sentence m_remedy;
     QByteArray m_what;
     int m_line = 0;
+    bool m_isOfMachine = false;
 };
 
 //! What nobody has thought of.

@@ -139,7 +139,8 @@ QStringList PackageSource::files() const
         if (error) {
             throw LessonError(say("The folder can't be read: %1").arg(systemReason(error)),
                               say("Check that you may read it"))
-                .in(place.isEmpty() ? m_path : displayName(place));
+                .in(place.isEmpty() ? m_path : displayName(place))
+                .ofMachine();
         }
         for (const Folder::Entry &entry : entries) {
             const QString path = place + entry.text();

@@ -298,7 +298,8 @@ void PackageTarget::makeStaging(const QString &parent)
         const LessonError problem =
             LessonError(say("Nothing can be written in this folder: %1").arg(systemReason(error)),
                         say("Check that you may write there and that there is room"))
-                .in(parent);
+                .in(parent)
+                .ofMachine();
         removeStaging();
         throw problem;
     }

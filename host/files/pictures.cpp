@@ -54,7 +54,10 @@ std::unique_ptr<QIODevice> openedFile(const QString &path)
     }
     try {
         return std::make_unique<InputFile>(path);
-    } catch (const LessonError &) {
+    } catch (const LessonError &error) {
+        if (error.isOfMachine() && QFileInfo(path).isFile()) {
+            throw;
+        }
         return nullptr;
     }
 }
@@ -243,12 +246,17 @@ QSize Picture::size() const
     if (m_format == "svg") {
         try {
             return QSvgRenderer(drawing().text).defaultSize();
-        } catch (const LessonError &) {
+        } catch (const LessonError &error) {
+            if (error.isOfMachine()) {
+                throw;
+            }
             return {};
         }
     }
     m_device->seek(0);
-    return QImageReader(m_device.get(), m_format).size();
+    const QSize size = QImageReader(m_device.get(), m_format).size();
+    checkDevice(m_device.get());
+    return size;
 }
 
 QImage Picture::image(qint64 most) const
@@ -266,8 +274,11 @@ QImage Picture::image(qint64 most, PixelBudget &budget) const
     if (m_format == "svg") {
         try {
             return drawn(drawing(budget).text, most);
-        } catch (const LessonError &) {
+        } catch (const LessonError &error) {
             checkDevice(m_device.get());
+            if (error.isOfMachine()) {
+                throw;
+            }
             return {};
         }
     }

@@ -62,7 +62,8 @@ WorkFolder::WorkFolder()
         if (!::mkdtemp(name.data())) {
             throw LessonError(say("No temporary folder can be made: %1").arg(systemReason(errno)),
                               say("Make room in the folder for temporary files"))
-                .in(QDir::tempPath());
+                .in(QDir::tempPath())
+                .ofMachine();
         }
         m_lock = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
         if (m_lock >= 0) {

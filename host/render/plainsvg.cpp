@@ -257,7 +257,10 @@ bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF
         part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix, m_innerBudget));
         placePictures(part, files);
         return true;
-    } catch (const LessonError &) {
+    } catch (const LessonError &error) {
+        if (error.isOfMachine()) {
+            throw;
+        }
         return false;
     }
 }

@@ -181,6 +181,15 @@ OPEN(openat64, parent, (int parent, const char *path, int flags, ...), (parent, 
         return isPathBelow(parent, path) && fails(kind) ? -1 : real arguments;                                         \
     }
 
+char *mkdtemp(char *path)
+{
+    static char *(*real)(char *);
+    if (!real) {
+        *(void **)&real = dlsym(RTLD_NEXT, "mkdtemp");
+    }
+    return isPathBelow(AT_FDCWD, path) && fails(Writes) ? NULL : real(path);
+}
+
 ON_PATH(rename, Writes, AT_FDCWD, to, (const char *from, const char *to), (from, to))
 ON_PATH(renameat, Writes, newParent, to, (int oldParent, const char *from, int newParent, const char *to),
         (oldParent, from, newParent, to))
