@@ -95,6 +95,13 @@ private slots:
             "{'Type':'ZQTextBoard','BoundingBox':'0,0,300,90','TextHtml':'<p>a<img src=`a.svg` width=`30` height=`20`>"
             "<img src=`file:///etc/hosts`></p>'}",
             "height=\"20.00\" preserveAspectRatio=\"none\" width=\"30.00\"|data:image/|!hosts");
+        row("pictures that a text holds",
+            "{'Type':'ZQTextBoard','BoundingBox':'0,0,300,90','TextHtml':'<p>a<img width=`30` "
+            "src=`data:image/png;base64,"
+            "iVBORw0KGgoAAAANSUhEUgAAAAMAAAACCAIAAAASFvFNAAAAD0lEQVR4nGNg+M8ARXAWADvYBfuy4lFgAAAAAElFTkSuQmCC`><img "
+            "src=`data:image/png;base64,AAAA`>"
+            "<img src=`data:text/plain,b`></p>'}",
+            "height=\"20.00\" preserveAspectRatio=\"none\" width=\"30.00\"|data:image/png;base64,iVBOR|!AAAA\"|!plain");
         row("word art", "{'Type':'ZQCommonYishuzi','BoundingBox':'0,0,200,90','Text':'Ice','Color':'#ff00ff00'}",
             "fill=\"#00ff00\"|>Ice<");
         row("word art without words", "{'Type':'ZQCommonYishuzi','BoundingBox':'0,0,200,90'}", ">Word art<");

@@ -396,7 +396,7 @@ QString Picture::addressOf(const QString &reference, PixelBudget &budget) const
     if (m_depth >= mostDepth) {
         return {};
     }
-    if (reference.startsWith(QLatin1String("data:"))) {
+    if (isEmbedded(reference)) {
         return Picture(embedded(reference), {}, m_depth + 1).address(budget);
     }
     const QString path = fileBeside(m_folder, reference);
@@ -411,9 +411,20 @@ QString addressOf(const ShownPicture &picture)
                                             + QLatin1String(";base64,") + QLatin1String(picture.bytes.toBase64()));
 }
 
+bool isEmbedded(const QString &reference)
+{
+    return reference.startsWith(QLatin1String("data:"), Qt::CaseInsensitive);
+}
+
 QString embeddedPicture(const QString &address, PixelBudget &budget)
 {
     return Picture(embedded(address), {}, 1).address(budget);
+}
+
+QSize embeddedSize(const QString &address)
+{
+    const Picture picture(embedded(address), {}, 1);
+    return picture.problem().isEmpty() ? picture.size() : QSize();
 }
 
 Sentence pictureProblem(const QString &file)

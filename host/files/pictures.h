@@ -89,6 +89,7 @@ private:
     QImage image(qint64 most, PixelBudget &budget) const;
     QString addressOf(const QString &reference, PixelBudget &budget) const;
     friend QString embeddedPicture(const QString &address, PixelBudget &budget);
+    friend QSize embeddedSize(const QString &address);
 
     std::unique_ptr<QIODevice> m_device;
     QString m_folder;
@@ -97,8 +98,14 @@ private:
     Sentence m_problem;
 };
 
-//! Picture::address() of what an address "data:..." holds.
+//! Whether a reference to a picture is an address "data:...", which holds it.
+bool isEmbedded(const QString &reference);
+
+//! Picture::address() of what such an address holds.
 QString embeddedPicture(const QString &address, PixelBudget &budget);
+
+//! Picture::size() of the same.
+QSize embeddedSize(const QString &address);
 
 //! Picture(file).problem().
 Sentence pictureProblem(const QString &file);

@@ -84,6 +84,9 @@ void Canvas::addLetters(const QString &text, double size, const QPointF &middle,
 
 QSize Canvas::pictureSize(const QString &reference) const
 {
+    if (isEmbedded(reference)) {
+        return embeddedSize(reference);
+    }
     const QString file = m_files.find(reference);
     return file.isEmpty() ? QSize() : Picture(file).size();
 }
@@ -96,8 +99,11 @@ QImage Canvas::picture(const QString &reference, qint64 mostPixels) const
 
 bool Canvas::addPicture(const QString &reference, const QRectF &box, const QTransform &placed)
 {
-    const QString file = m_files.find(reference);
     const PlainSvg::Scope scope(m_svg, placed);
+    if (isEmbedded(reference)) {
+        return m_svg.addEmbedded(reference, box);
+    }
+    const QString file = m_files.find(reference);
     return !file.isEmpty() && m_svg.addPicture(file, box);
 }
 

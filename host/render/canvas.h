@@ -38,7 +38,7 @@ public:
     //! path: just this one in the lesson.
     bool holds(const QString &path) const { return !m_files.source(path).isEmpty(); }
 
-    //! Pixels; empty for what is no picture of the lesson.
+    //! Pixels; empty for what is no picture of the lesson, and none that its address "data:..." holds.
     QSize pictureSize(const QString &reference) const;
     //! Its pixels, made smaller if it has more than most; null for what is no picture of the lesson. Throws LessonError
     //! where the disk fails.
@@ -55,8 +55,8 @@ public:
     void addLetters(const QString &text, double size, const QPointF &middle, const QTransform &placed,
                     const TextLook &look = {});
 
-    //! A picture of the lesson, stretched to a box; placed may mirror and slant it. False for a file that the lesson
-    //! hasn't, or that can't be drawn.
+    //! A picture of the lesson, or one that its address "data:..." holds, stretched to a box; placed may mirror and
+    //! slant it. False for a file that the lesson hasn't, or that can't be drawn.
     bool addPicture(const QString &reference, const QRectF &box, const QTransform &placed = {});
 
     //! An area that a picture of the lesson fills side by side, as PlainSvg::addTexture() does it. Null for a file that

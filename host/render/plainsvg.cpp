@@ -225,12 +225,14 @@ void PlainSvg::addHeads(const QDomElement &element, QDomElement &line)
 QDomElement PlainSvg::appendPicture(const QString &file)
 {
     const QString name = file.isEmpty() ? QString() : m_pictures.add(file, m_pixels);
-    if (name.isEmpty()) {
-        return {};
-    }
+    return name.isEmpty() ? QDomElement() : appendImage(QLatin1Char('#') + name);
+}
+
+QDomElement PlainSvg::appendImage(const QString &address)
+{
     QDomElement image = append(QStringLiteral("image"));
     image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
-    image.setAttribute(QStringLiteral("xlink:href"), QString(QLatin1Char('#') + name));
+    image.setAttribute(QStringLiteral("xlink:href"), address);
     return image;
 }
 
@@ -239,7 +241,7 @@ bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF
 {
     QHash<QString, QString> files; // by their pictures
     const auto addressOf = [&](const QString &reference) {
-        if (reference.startsWith(QLatin1String("data:"))) {
+        if (isEmbedded(reference)) {
             return embeddedPicture(reference, m_pixels);
         }
         const QString file = fileOf(reference);
@@ -308,11 +310,19 @@ void PlainSvg::addImage(const QImage &image, const QRectF &box)
     constexpr int quick = 85; // packs little: what is painted has few colours or none that repeat
     image.save(&buffer, "png", quick);
     m_pixels.take(1, qint64(image.width()) * image.height());
-    QDomElement element = append(QStringLiteral("image"));
+    QDomElement element = appendImage(QLatin1String("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()));
     setBox(element, box);
-    element.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
-    element.setAttribute(QStringLiteral("xlink:href"),
-                         QLatin1String("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()));
+}
+
+bool PlainSvg::addEmbedded(const QString &address, const QRectF &box)
+{
+    const QString bounded = embeddedPicture(address, m_pixels);
+    if (bounded.isEmpty()) {
+        return false;
+    }
+    QDomElement image = appendImage(bounded);
+    setBox(image, box);
+    return true;
 }
 
 bool PlainSvg::addPicture(const QString &file, const QRectF &box)

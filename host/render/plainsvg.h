@@ -99,6 +99,9 @@ public:
     //! A picture on disk, stretched to a box. False for one that can't be drawn.
     bool addPicture(const QString &file, const QRectF &box);
 
+    //! What an address "data:..." holds, likewise.
+    bool addEmbedded(const QString &address, const QRectF &box);
+
     //! An element for what is drawn in a place of its own. placed: from there to the page.
     QDomElement addGroup(const QTransform &placed);
 
@@ -133,6 +136,7 @@ private:
     QDomElement append(const QString &tag);
     void addHeads(const QDomElement &element, QDomElement &line);
     QDomElement appendPicture(const QString &file);
+    QDomElement appendImage(const QString &address);
     bool addPicture(const QDomElement &element);
     void placePictures(const QDomElement &drawing, const QHash<QString, QString> &files);
     bool isFree(const QRectF &place) const;

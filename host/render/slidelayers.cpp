@@ -36,13 +36,16 @@ double opacityOf(const QDomElement &element)
     return qBound(0.0, numberOf(element, "opacity", 1), 1.0);
 }
 
-// What was painted for a page stands in it, always in this form.
+// What was painted for a page stands in it, and pictures that a text holds, always in these forms.
 QImage pixelsIn(const QString &address)
 {
-    const QLatin1String form("data:image/png;base64,");
-    return address.startsWith(form)
-        ? QImage::fromData(QByteArray::fromBase64(address.midRef(form.size()).toLatin1()), "png")
-        : QImage();
+    for (const char *type : {"png", "jpeg", "gif"}) {
+        const QString form = QLatin1String("data:image/") + QLatin1String(type) + QLatin1String(";base64,");
+        if (address.startsWith(form)) {
+            return QImage::fromData(QByteArray::fromBase64(address.midRef(form.size()).toLatin1()), type);
+        }
+    }
+    return {};
 }
 
 // Groups with a name are drawings with gradients and style sheets of their own, which stay together.
