@@ -87,6 +87,8 @@ private slots:
         row("capitals", "<span style='text-transform:uppercase'>ab</span>", "AB", ">AB<");
         row("right to left", QString::fromUtf8("<p dir='rtl'>\u05d0\u05d1</p>"), QString::fromUtf8("\u05d0\u05d1"),
             "text-anchor=\"middle\"");
+        row("blanks between letters from the right", QString::fromUtf8("العربية עברית"),
+            QString::fromUtf8("עברית|العربية"), "text-anchor=\"middle\"");
         row("picture that isn't there", "a<img src='/dev/zero'/>b", "a|b", ">b<");
     }
 
@@ -255,6 +257,29 @@ private slots:
                         QCOMPARE(svgOf(text), svgOf("<span style='white-space:pre-wrap'>" + text + "</span>"));
                     }
                 }
+            }
+        }
+    }
+
+    // Words that are filled into markup that is known stand as if they were read with it, which a reference asks for.
+    void fillsMarkupAsDocumentsDo()
+    {
+        const QString page = "<!DOCTYPE html><html><head><title>A</title><style>p, b {margin:0; white-space:pre-wrap}"
+                             "</style></head>\n<body bgcolor='#eeeeff' style='font-size:9pt'>%1</body></html>"_s;
+        const QString words[][2] = {{"water", "ice"},   {"fire engine", "\u00a0"},
+                                    {" 1 > 0", "ש ab"}, {"水\u3000", " a  b\t"},
+                                    {"", ""},           {"\ue000", "<"}};
+        for (const QString &html : {"<p align='center'>A%1 <b>%2</b> x<sup>2</sup></p>"_s,
+                                    " <div>A%1<br/>%2 </div>\n<p style='line-height:150%'>%2<hr/>%1</p>"_s,
+                                    "<pre>A%1\n <i title='>'>%2</i></pre>"_s, page.arg("<p>A%1<b>%2</b></p><p>%1 </p>"),
+                                    "<span style='font-family:KaiTi;font-size:99999px'>A%1</span>%2<p><li>%1<img>"_s,
+                                    "<p dir='rtl'>%1 <u style='background-color:red'>A%2</u><!-- %1 -->"_s}) {
+            for (const auto &pair : words) {
+                const QString text = QString(html).replace("%1", pair[0]).replace("%2", pair[1]);
+                const auto svgOf = [](const QString &content) {
+                    return drawnSvg([&](Canvas &canvas) { canvas.addText(content, {10, 10, 200, 90}); });
+                };
+                QCOMPARE(svgOf(text), svgOf(QString(text).replace(">A", ">&#65;")));
             }
         }
     }

@@ -4,6 +4,7 @@
 #include "lesson/fontshere.h"
 #include "render/svgpaintdevice.h"
 #include "render/textbounds.h"
+#include "render/textpattern.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
@@ -16,6 +17,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <optional>
 
 namespace lessonhost {
 
@@ -79,6 +81,86 @@ QFont fontOf(const QString &family, bool isBold, double points = 0)
         found = fonts.insert({family, points}, font);
     }
     return *found;
+}
+
+// In fonts that are here and sizes that can be drawn. Returns the size of the smallest letters.
+double prepareFonts(QTextDocument &document)
+{
+    struct Part
+    {
+        int position;
+        int length;
+        QTextCharFormat format;
+    };
+    QVector<Part> parts;
+    QHash<int, QTextCharFormat> knownFormats; // empty for those that stay
+    double smallestPixels = pixelsOf(document.defaultFont());
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock(); // a cursor finds its place in a line otherwise, wherever it goes
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            auto known = knownFormats.constFind(fragment.charFormatIndex());
+            if (known == knownFormats.constEnd()) {
+                const QTextCharFormat given = fragment.charFormat();
+                const QTextCharFormat format = prepared(given);
+                known = knownFormats.insert(fragment.charFormatIndex(), format == given ? QTextCharFormat() : format);
+                smallestPixels = qMin(smallestPixels, pixelsOf(format.font().resolve(document.defaultFont())));
+            }
+            if (known->propertyCount() > 0) {
+                parts.append({fragment.position(), fragment.length(), *known});
+            }
+        }
+        const QTextCharFormat blockFormat = prepared(block.charFormat());
+        if (blockFormat != block.charFormat()) {
+            cursor.setPosition(block.position());
+            cursor.setBlockCharFormat(blockFormat);
+        }
+    }
+    for (const Part &part : qAsConst(parts)) {
+        cursor.setPosition(part.position);
+        cursor.setPosition(part.position + part.length, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(part.format);
+    }
+    cursor.endEditBlock();
+    return smallestPixels;
+}
+
+// What comes of markup, with what can be told of it before its words are known.
+struct KnownPattern
+{
+    std::optional<TextPattern> pattern;
+    TextHeight height;
+    double smallestPixels = 0;
+};
+
+// Null for markup whose words can't be filled in. font: of what tells none.
+const KnownPattern *patternOf(const TextParts &parts, const QFont &font)
+{
+    constexpr int mostPatterns = 100;
+    constexpr int longestMarkup = 5000;
+    static QHash<QPair<QString, double>, KnownPattern> known;
+    if (parts.markup.size() > longestMarkup) {
+        return nullptr;
+    }
+    const QPair<QString, double> key(parts.markup, font.pointSizeF());
+    auto found = known.constFind(key);
+    if (found == known.cend()) {
+        if (known.size() >= mostPatterns) {
+            known.clear();
+        }
+        KnownPattern made;
+        ClosedTextDocument document;
+        document.setDefaultFont(font);
+        document.setDocumentMargin(0);
+        document.setLessonHtml(parts.markup);
+        made.height = boundText(document);
+        made.smallestPixels = prepareFonts(document);
+        made.pattern = TextPattern::of(document, parts.words.size());
+        found = known.insert(key, made);
+    }
+    const bool isTooHigh = found->height.all + parts.letters * found->height.letter > highestText;
+    return found->pattern && !isTooHigh ? &*found : nullptr;
 }
 
 constexpr Qt::Alignment placedAlignments = Qt::AlignHCenter | Qt::AlignRight | Qt::AlignJustify;
@@ -160,16 +242,23 @@ void LessonText::makeDocument(const QString &text, const QFont &font, const QTex
     own.setAlignment(option.alignment());
     own.setWrapMode(option.wrapMode());
     m_document->setDefaultTextOption(own);
-    if (text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'))) {
-        m_document->setLessonHtml(text);
+    const bool isHtml = text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'));
+    const auto parts = isHtml ? TextParts::of(text) : std::nullopt;
+    if (const KnownPattern *known = parts ? patternOf(*parts, font) : nullptr) {
+        known->pattern->fill(*m_document, parts->words);
+        m_smallestPixels = known->smallestPixels;
     } else {
-        m_document->setPlainText(text);
+        if (isHtml) {
+            m_document->setLessonHtml(text);
+        } else {
+            m_document->setPlainText(text);
+        }
+        if (sizeOf && text.contains(QLatin1String("<img"), Qt::CaseInsensitive)) {
+            sizePictures(sizeOf);
+        }
+        boundText(*m_document);
+        m_smallestPixels = prepareFonts(*m_document);
     }
-    if (sizeOf && text.contains(QLatin1String("<img"), Qt::CaseInsensitive)) {
-        sizePictures(sizeOf);
-    }
-    boundText(*m_document);
-    prepareFonts();
     // Letters that were measured are drawn from what is known of them.
     for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
         block.layout()->setCacheEnabled(true);
@@ -220,47 +309,6 @@ void LessonText::sizePictures(const PictureSize &sizeOf)
         cursor.setPosition(place.position + 1, QTextCursor::KeepAnchor);
         cursor.setCharFormat(place.format);
     }
-}
-
-void LessonText::prepareFonts()
-{
-    struct Part
-    {
-        int position;
-        int length;
-        QTextCharFormat format;
-    };
-    QVector<Part> parts;
-    QHash<int, QTextCharFormat> knownFormats; // empty for those that stay
-    m_smallestPixels = pixelsOf(m_document->defaultFont());
-    QTextCursor cursor(m_document.get());
-    cursor.beginEditBlock(); // a cursor finds its place in a line otherwise, wherever it goes
-    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            auto known = knownFormats.constFind(fragment.charFormatIndex());
-            if (known == knownFormats.constEnd()) {
-                const QTextCharFormat given = fragment.charFormat();
-                const QTextCharFormat format = prepared(given);
-                known = knownFormats.insert(fragment.charFormatIndex(), format == given ? QTextCharFormat() : format);
-                m_smallestPixels = qMin(m_smallestPixels, pixelsOf(format.font().resolve(m_document->defaultFont())));
-            }
-            if (known->propertyCount() > 0) {
-                parts.append({fragment.position(), fragment.length(), *known});
-            }
-        }
-        const QTextCharFormat blockFormat = prepared(block.charFormat());
-        if (blockFormat != block.charFormat()) {
-            cursor.setPosition(block.position());
-            cursor.setBlockCharFormat(blockFormat);
-        }
-    }
-    for (const Part &part : qAsConst(parts)) {
-        cursor.setPosition(part.position);
-        cursor.setPosition(part.position + part.length, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(part.format);
-    }
-    cursor.endEditBlock();
 }
 
 void LessonText::setWidth(double width)

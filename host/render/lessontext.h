@@ -73,7 +73,6 @@ public:
 private:
     void makeDocument(const QString &text, const QFont &font, const QTextOption &option, const PictureSize &sizeOf);
     void sizePictures(const PictureSize &sizeOf);
-    void prepareFonts();
 
     QImage m_screen; // tells how large a point is, where the application doesn't
     std::unique_ptr<ClosedTextDocument> m_document; // null for a plain paragraph

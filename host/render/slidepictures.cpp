@@ -14,6 +14,8 @@
 #include "render/shownitems.h"
 #include "render/slideplay.h"
 
+#include <QSet>
+
 namespace lessonhost {
 
 namespace {
@@ -28,29 +30,53 @@ QJsonObject sizeFor(QJsonObject presentation, const QJsonObject &slide)
     return presentation;
 }
 
-// The family that is asked for first stands at the beginning of the style.
-void lookAtFonts(const QDomElement &element, int slide, MissingFonts &missing)
+/*!
+ * What the texts of a slide tell that are drawn.
+ */
+class DrawnTexts
 {
-    const QString style = element.attribute(QStringLiteral("style"));
-    const QLatin1String start("font-family:");
-    if (style.startsWith(start)) {
-        const QString family = style.mid(start.size()).section(QLatin1Char(','), 0, 0).section(QLatin1Char(';'), 0, 0);
-        missing.lookAtFamily(family.trimmed().remove(QLatin1Char('\'')), slide);
+public:
+    DrawnTexts(int slide, MissingFonts &missing)
+        : m_slide(slide)
+        , m_missing(missing)
+    {
     }
-}
 
-void lookAtTexts(const QDomElement &svg, int slide, MissingFonts &missing)
-{
-    const QDomNodeList texts = svg.elementsByTagName(QStringLiteral("text"));
-    for (int i = 0; i < texts.size(); ++i) {
-        const QDomElement text = texts.at(i).toElement();
-        missing.lookAt(text.text(), slide);
-        lookAtFonts(text, slide, missing);
-        for (QDomElement span = text.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-            lookAtFonts(span, slide, missing);
+    TextLanguage lookAt(const QDomElement &svg)
+    {
+        TextLanguage language;
+        const QDomNodeList texts = svg.elementsByTagName(QStringLiteral("text"));
+        for (int i = 0; i < texts.size(); ++i) {
+            const QDomElement text = texts.at(i).toElement();
+            const QString words = text.text();
+            m_missing.lookAt(words, m_slide);
+            language.add(words);
+            lookAtFonts(text);
+            for (QDomElement span = text.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
+                lookAtFonts(span);
+            }
         }
+        return language;
     }
-}
+
+private:
+    // The family that is asked for first stands at the beginning of the style.
+    void lookAtFonts(const QDomElement &element)
+    {
+        const QString style = element.attribute(QStringLiteral("style"));
+        const QLatin1String start("font-family:");
+        if (!style.startsWith(start) || m_styles.contains(style)) {
+            return;
+        }
+        m_styles.insert(style);
+        const QString family = style.mid(start.size()).section(QLatin1Char(','), 0, 0).section(QLatin1Char(';'), 0, 0);
+        m_missing.lookAtFamily(family.trimmed().remove(QLatin1Char('\'')), m_slide);
+    }
+
+    int m_slide;
+    MissingFonts &m_missing;
+    QSet<QString> m_styles; // that were looked at
+};
 
 IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 {
@@ -90,16 +116,6 @@ QString titleOf(const QVector<ShownItem> &items)
         title = title.left(end > longest / 2 ? end : longest) + QChar(0x2026);
     }
     return title;
-}
-
-TextLanguage languageOf(const QDomElement &svg)
-{
-    TextLanguage language;
-    const QDomNodeList texts = svg.elementsByTagName(QStringLiteral("text"));
-    for (int i = 0; i < texts.size(); ++i) {
-        language.add(texts.at(i).toElement().text());
-    }
-    return language;
 }
 
 } // namespace
@@ -189,12 +205,11 @@ SlidePicture SlidePictures::picture(int index)
         }
     }
     result.svg = plain.finished();
-    lookAtTexts(result.svg.documentElement(), result.slide, m_missing);
+    result.language = DrawnTexts(result.slide, m_missing).lookAt(result.svg.documentElement());
     result.title = titleOf(items);
     if (m_files) {
         result.play = slidePlay(slide, items, steps, m_media, *m_files);
     }
-    result.language = languageOf(result.svg.documentElement());
     return result;
 }
 

@@ -35,8 +35,11 @@ QString drawnLetters(const QString &text, const QFont &font)
 // One that was found before stands before the list that was asked for.
 QStringList familiesOf(const QFont &font)
 {
-    const QStringList all = font.families().isEmpty() ? QStringList(font.family()) : font.families();
-    return all.mid(1).contains(all.constFirst()) ? QStringList(all.mid(1)) : all;
+    const QStringList all = font.families();
+    if (all.isEmpty()) {
+        return {font.family()};
+    }
+    return all.indexOf(all.constFirst(), 1) > 0 ? QStringList(all.mid(1)) : all;
 }
 
 int lengthWithoutBlanks(const QString &text)
@@ -243,19 +246,18 @@ public:
             return;
         }
         const Letters letters(font, faded(m_pen.color()));
-        if (isRightToLeft || !isNext) {
+        if (isRightToLeft) {
+            addRightToLeft(position, text, item, letters);
+            return;
+        }
+        if (!isNext) {
             startText(position, font, letters);
         }
         addSpan(text, letters);
         m_textEnd = position.x() + item.width();
-        if (isRightToLeft) {
-            // The middle is the same in whichever direction a viewer writes.
-            setAnchor(Qt::AlignHCenter, m_textEnd);
-            m_text = QDomElement();
-        } else if (const int letters = lengthWithoutBlanks(text)) {
-            m_lettersEnd = lines.isEmpty() || letters == text.size()
-                ? m_textEnd
-                : position.x() + NaturalLine(item.text(), font).at(letters);
+        if (const int letters = lengthWithoutBlanks(text)) {
+            m_lettersEnd = m_textEnd;
+            m_blanks = {item.text(), font, position.x(), lines.isEmpty() || letters == text.size() ? 0 : letters};
         }
     }
 
@@ -271,6 +273,16 @@ private:
     QColor fill() const
     {
         return m_brush.style() == Qt::SolidPattern ? faded(m_brush.color()) : QColor(Qt::transparent);
+    }
+
+    // Where the text that is being written ends, without blanks. They are measured when somebody asks.
+    double lettersEnd()
+    {
+        if (m_blanks.letters > 0) {
+            m_lettersEnd = m_blanks.start + NaturalLine(m_blanks.text, m_blanks.font).at(m_blanks.letters);
+            m_blanks.letters = 0;
+        }
+        return m_lettersEnd;
     }
 
     QColor faded(QColor color) const
@@ -334,6 +346,7 @@ private:
         m_baseline = position.y();
         m_textStart = position.x();
         m_lettersEnd = m_textStart;
+        m_blanks.letters = 0;
     }
 
     void addSpan(const QString &text, const Letters &letters)
@@ -346,6 +359,24 @@ private:
         letters.set(span, &m_letters);
         span.appendChild(m_document.createTextNode(text));
         m_text.appendChild(span);
+    }
+
+    // The middle is the same in whichever direction a viewer writes. Blanks are left out: on their own, those at the
+    // end stand where text from the left to the right ends.
+    void addRightToLeft(const QPointF &position, const QString &text, const QTextItem &item, const Letters &letters)
+    {
+        const int end = lengthWithoutBlanks(text);
+        int start = 0;
+        while (start < end && text.at(start).isSpace()) {
+            ++start;
+        }
+        const double blank =
+            start > 0 || end < text.size() ? NaturalLine(QString(QLatin1Char(' ')), item.font()).width() : 0;
+        startText(position + QPointF((text.size() - end) * blank, 0), item.font(), letters);
+        addSpan(text.mid(start, end - start), letters);
+        m_textEnd = position.x() + item.width() - start * blank;
+        setAnchor(Qt::AlignHCenter, m_textEnd);
+        m_text = QDomElement();
     }
 
     // Words that are set apart to fill a line, or letters that are: each where it was painted. False for others.
@@ -399,7 +430,7 @@ private:
         auto line = std::lower_bound(lines.cbegin(), lines.cend(), m_baseline - tolerance,
                                      [](const Line &row, double y) { return row.baseline < y; });
         for (; line != lines.cend() && line->baseline < m_baseline + tolerance; ++line) {
-            if (qAbs(line->left - m_textStart) < tolerance && qAbs(line->right - m_lettersEnd) < tolerance + overhang) {
+            if (qAbs(line->left - m_textStart) < tolerance && qAbs(line->right - lettersEnd()) < tolerance + overhang) {
                 QDomText last = m_text.lastChild().isText() ? m_text.lastChild().toText()
                                                             : m_text.lastChild().firstChild().toText();
                 last.setData(last.data().left(lengthWithoutBlanks(last.data())));
@@ -430,7 +461,14 @@ private:
     double m_baseline = 0;
     double m_textStart = 0;
     double m_textEnd = 0;
-    double m_lettersEnd = 0; // without blanks at the end
+    double m_lettersEnd = 0; // without blanks at the end, but for these
+    struct Blanks
+    {
+        QString text; // with them
+        QFont font;
+        double start = 0; // of the text
+        int letters = 0; // before them; 0 where there are none
+    } m_blanks;
 };
 
 SvgPaintDevice::SvgPaintDevice(const QDomElement &group)

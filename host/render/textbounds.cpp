@@ -19,7 +19,6 @@ namespace {
 constexpr double largestLength = 2000; // of margins and the like, in pixels
 constexpr double widestTable = 20000;
 constexpr int mostIndent = 50;
-constexpr double mostHeight = 4e6; // text documents don't count to more than eight times that
 
 // What a format says of lengths, as a number.
 void boundLengths(QTextFormat &format, std::initializer_list<int> properties)
@@ -38,7 +37,10 @@ QTextBlockFormat bounded(QTextBlockFormat format)
     boundLengths(format,
                  {QTextFormat::BlockTopMargin, QTextFormat::BlockBottomMargin, QTextFormat::BlockLeftMargin,
                   QTextFormat::BlockRightMargin, QTextFormat::TextIndent, QTextFormat::LineHeight});
-    format.setIndent(qBound(0, format.indent(), mostIndent));
+    const int indent = qBound(0, format.indent(), mostIndent);
+    if (indent != format.indent()) {
+        format.setIndent(indent);
+    }
     return format;
 }
 
@@ -118,8 +120,8 @@ double boundFrames(QTextFrame *frame)
     return height;
 }
 
-// How high the lines of a paragraph may become together.
-double heightOf(const QTextBlock &block, const QTextBlockFormat &format, const QFont &font)
+// How high a line of a paragraph may become.
+double lineHeightOf(const QTextBlock &block, const QTextBlockFormat &format, const QFont &font)
 {
     double highest = pixelsOf(font);
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -127,8 +129,7 @@ double heightOf(const QTextBlock &block, const QTextBlockFormat &format, const Q
         const double image = letters.isImageFormat() ? letters.toImageFormat().height() : 0;
         highest = qMax(highest, qMax(image, pixelsOf(letters.font().resolve(font))));
     }
-    return format.topMargin() + format.bottomMargin()
-        + block.length() * lineHeightOf(format, qMin(highest, largestLetters));
+    return lineHeightOf(format, qMin(highest, largestLetters));
 }
 
 // Pictures in the text.
@@ -157,9 +158,10 @@ double pixelsOf(const QFont &font)
     return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * SvgPaintDevice::dotsPerInch / 72;
 }
 
-void boundText(QTextDocument &document)
+TextHeight boundText(QTextDocument &document)
 {
-    double height = boundFrames(document.rootFrame());
+    TextHeight height;
+    height.all = boundFrames(document.rootFrame());
     QTextCursor cursor(&document);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         boundImages(cursor, block);
@@ -168,12 +170,15 @@ void boundText(QTextDocument &document)
             cursor.setPosition(block.position());
             cursor.setBlockFormat(format);
         }
-        height += heightOf(block, format, document.defaultFont());
+        const double line = lineHeightOf(block, format, document.defaultFont());
+        height.all += format.topMargin() + format.bottomMargin() + block.length() * line;
+        height.letter = qMax(height.letter, line);
     }
-    if (height > mostHeight) {
+    if (height.all > highestText) {
         const double line = lineHeightOf({}, pixelsOf(document.defaultFont()));
-        document.setPlainText(document.toPlainText().left(int(mostHeight / line)));
+        document.setPlainText(document.toPlainText().left(int(highestText / line)));
     }
+    return height;
 }
 
 } // namespace lessonhost
