@@ -129,8 +129,10 @@ public:
 
     void write(const QJsonObject &report)
     {
-        put(QJsonDocument(report).toJson());
-        commit();
+        if (m_target) {
+            put(QJsonDocument(report).toJson());
+            commit();
+        }
     }
 
 private:
@@ -569,9 +571,10 @@ int Command::convertOne(const QStringList &files) const
     convertLesson(from, inputFile(input), to, m_streams->output(output, to.extensions.first()),
                   conversionContext(host, &losses), [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
-    report.write(losses.toJson());
+    // Which takes a while where there are many.
+    QJsonObject result = isSet("report") || isSet("json") ? losses.toJson() : QJsonObject();
+    report.write(result);
     if (isSet("json")) {
-        QJsonObject result = losses.toJson();
         result.insert(QStringLiteral("input"), input);
         result.insert(QStringLiteral("output"), output);
         result.insert(QStringLiteral("from"), from.name);
