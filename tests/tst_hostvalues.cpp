@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "files/lessonerror.h"
 #include "files/xmlloader.h"
+#include "files/xmlreadback.h"
 #include "files/xmltext.h"
 #include "formats/zqtxitems.h"
 #include "lesson/itemkeys.h"
@@ -35,7 +37,74 @@ private:
         return items.read(document.documentElement(), {{"pres", presentation}}, nullptr);
     }
 
+    static bool isSameTree(const QDomNode &one, const QDomNode &other)
+    {
+        const QDomNamedNodeMap attributes = one.attributes();
+        bool isSame = one.nodeType() == other.nodeType() && one.nodeName() == other.nodeName()
+            && one.nodeValue() == other.nodeValue() && attributes.count() == other.attributes().count();
+        for (int i = 0; isSame && i < attributes.count(); ++i) {
+            const QString name = attributes.item(i).nodeName();
+            isSame = one.toElement().attribute(name) == other.toElement().attribute(name, "?");
+        }
+        QDomNode partner = other.firstChild();
+        for (QDomNode child = one.firstChild(); isSame && !child.isNull(); child = child.nextSibling()) {
+            isSame = isSameTree(child, partner);
+            partner = partner.nextSibling();
+        }
+        return isSame && partner.isNull();
+    }
+
 private slots:
+    // Trees that a text can't hold, and texts that are no longer those of their tree.
+    void readBackWithoutParser()
+    {
+        const QStringList values{"a", "b c", "<&>\"'", "\u00e9\u4e2d\U0001f600", "\n\t", "x\ny", "", " ", "\r", "]]>", "]",
+                                 QString(QChar(1)), QString(QChar(0xfffe)), QString(QChar(0xd800)), "\ufffd"};
+        const QString letters = "<>&\"/=! \n\ra1]-;#x";
+        QRandomGenerator random(1);
+        const auto anyOf = [&random](const auto &list) { return list.at(int(random.bounded(list.size()))); };
+        int told = 0;
+        for (int round = 0; round < 20000; ++round) {
+            const bool isPlain = round % 2 == 0; // values and a text that nothing is wrong with
+            const auto anyValue = [&] { return isPlain ? values.at(int(random.bounded(4))) : anyOf(values); };
+            QDomDocument document;
+            QDomElement at = document.appendChild(document.createElement("r")).toElement();
+            for (int step = int(random.bounded(8)); step > 0; --step) {
+                const int kind = int(random.bounded(isPlain ? 3 : 6));
+                if (kind == 0) {
+                    at.setAttribute(anyOf(QStringList{"a", "id", "type", "b-1"}), anyValue());
+                } else if (kind == 1) {
+                    at = at.appendChild(document.createElement(anyOf(QStringList{"e", "f.2"}))).toElement();
+                } else if (kind == 2 && at.parentNode().isElement()) {
+                    at = at.parentNode().toElement();
+                } else if (kind == 3 || kind == 4) {
+                    at.appendChild(document.createTextNode(anyValue()));
+                } else if (kind == 5) {
+                    at.appendChild(document.createCDATASection(anyValue()));
+                }
+            }
+            if (isPlain && !at.hasChildNodes()) {
+                at.appendChild(document.createTextNode(anyValue()));
+            }
+            QString text = QString::fromUtf8(xmlDocumentText(document.documentElement()));
+            if (!isPlain && random.bounded(2) == 0) {
+                const int place = int(random.bounded(text.size()));
+                text.replace(place, int(random.bounded(2)), random.bounded(3) == 0 ? QString() : QString(anyOf(letters)));
+            }
+            const bool isSame = readsBackAs(text.toUtf8(), document.documentElement());
+            QVERIFY2(isSame || !isPlain, qPrintable(text));
+            if (isSame) {
+                ++told;
+                try {
+                    QVERIFY2(isSameTree(loadXml(text.toUtf8(), {}), document), qPrintable(text));
+                } catch (const LessonError &error) {
+                    QFAIL(qPrintable(text + error.message().english()));
+                }
+            }
+        }
+        QVERIFY(told > 11000 && told < 19000);
+    }
+
     void survive_data()
     {
         const Table<QJsonObject> row("item"); // with the version of its lesson, 3.0 unless told

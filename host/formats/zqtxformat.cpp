@@ -8,6 +8,7 @@
 #include "files/packagesource.h"
 #include "files/packagetarget.h"
 #include "files/xmlloader.h"
+#include "files/xmlreadback.h"
 #include "files/xmltext.h"
 #include "formats/zqtxitems.h"
 #include "izqtransformation.h"
@@ -87,10 +88,14 @@ public:
 
     bool isHeld(const QString &type) const { return m_items.isHeld(type); }
 
-    // Item by item, so that no more than one of them is there as a DOM. number, name: for messages.
-    QByteArray write(const LessonSlide &slide, int number, const QString &name) const
+    // Item by item, so that no more than one of them is there as a DOM unless tree is to hold them all; it may be null.
+    // number, name: for messages.
+    QByteArray write(const LessonSlide &slide, int number, const QString &name, QDomDocument *tree) const
     {
         const QDomDocument document = writeProperties(slide.properties);
+        if (tree) {
+            *tree = document;
+        }
         const QDomElement root = document.documentElement();
         checkDepth(root, 0, number, name);
         QDomElement items = root.firstChildElement(itemsTag);
@@ -103,11 +108,15 @@ public:
         const int place = text.lastIndexOf(marked);
         const QByteArray end = text.mid(place + marked.size());
         text.truncate(place);
+        items.removeChild(mark);
         for (const QJsonValue &item : slide.items) {
             const QDomElement element = m_items.write(item.toObject());
             checkDepth(element, itemDepth, number, name);
             text += xmlLines(element, itemDepth);
             checkSlideSize(text.size(), number, name);
+            if (tree) {
+                items.appendChild(element);
+            }
         }
         return text + end;
     }
@@ -326,15 +335,19 @@ public:
         const QString id = usableId(valueText(slide.properties.value(SlideKeys::id)), number);
         written.properties.insert(SlideKeys::id, id);
         const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
-        const QByteArray text = m_slides->write(written, number, name);
+        const bool isVerified = m_context.verify && m_losses.presentation().isHeard();
+        QDomDocument tree;
+        const QByteArray text = m_slides->write(written, number, name, isVerified ? &tree : nullptr);
         checkSlideSize(text.size(), number, name);
         if (!m_context.isTrial) {
             m_target.write(slideFile(id), text);
         }
         m_ids.append(id);
         m_usedIds.insert(id);
-        if (m_context.verify && m_losses.presentation().isHeard()) {
-            const LessonSlide found = m_slides->read(loadXml(text, name).documentElement(), m_target.target(), nullptr);
+        if (isVerified) {
+            // What the text says is what stands in the tree, in most cases.
+            const QDomDocument document = readsBackAs(text, tree.documentElement()) ? tree : loadXml(text, name);
+            const LessonSlide found = m_slides->read(document.documentElement(), m_target.target(), nullptr);
             QJsonObject given = keptInPageForm(slide.properties, written.properties);
             const QLatin1String activity("activity");
             if (given.value(activity).toObject().value(QLatin1String("templet")).isObject()) {
