@@ -10,6 +10,8 @@
 #include <QPainter>
 
 #include <cmath>
+#include <cstring>
+#include <vector>
 
 namespace lessonhost {
 
@@ -31,8 +33,13 @@ IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 QRect paintedRect(const QImage &image)
 {
     QRect painted;
+    const std::vector<QRgb> nothing(std::size_t(image.width()));
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        // Most lines are empty, which is told of one as a whole.
+        if (std::memcmp(line, nothing.data(), nothing.size() * sizeof(QRgb)) == 0) {
+            continue;
+        }
         int left = 0;
         while (left < image.width() && qAlpha(line[left]) == 0) {
             ++left;
