@@ -42,6 +42,7 @@ QVector<QJsonValue> otherValues(const QJsonValue &typical)
             QStringLiteral("25"),
             QStringLiteral("Other"),
             QStringLiteral("dash"),
+            QStringLiteral("right"),
             QStringLiteral("square"),
             QStringLiteral("128,1,2,3"),
             QStringLiteral("#ff010203"),
@@ -68,7 +69,8 @@ public:
             raw.insert(QLatin1String("Matrix"), QStringLiteral("1,0,0,1,%1,%2").arg(middle.x()).arg(middle.y()));
         }
         return hasEffectOn(item, key) || hasEffectOn(without(item, places.xml, places.tx), key)
-            || hasEffectOn(raw, key);
+            || hasEffectOn(raw, key) || hasEffectUnnamed(withoutFlags(item), key)
+            || hasEffectUnnamed(withoutBox(item), key);
     }
 
 private:
@@ -82,6 +84,29 @@ private:
             }
         }
         return item;
+    }
+
+    // What is shown may hide what another key tells.
+    static QJsonObject withoutFlags(QJsonObject item)
+    {
+        for (auto it = item.begin(); it != item.end(); ++it) {
+            if (it->toString() == QLatin1String("1")) {
+                *it = QStringLiteral("0");
+            }
+        }
+        return item;
+    }
+
+    // Where a box tells nothing, other keys may.
+    static QJsonObject withoutBox(QJsonObject item)
+    {
+        item.remove(QLatin1String("BoundingBox"));
+        return item;
+    }
+
+    bool hasEffectUnnamed(const QJsonObject &item, const QString &key)
+    {
+        return draw(item).named.isEmpty() && hasEffectOn(item, key);
     }
 
     bool hasEffectOn(const QJsonObject &item, const QString &key)
@@ -285,8 +310,9 @@ Made by `cmake --build build --target documents` from the tables of the plug-in 
 changes by hand are lost, and a test fails where this file is behind them.
 
 Found by drawing a typical item of every type, and again with other values of each of its keys: a key shows if any of them
-changes the picture. What every item has (FORMATS.md) isn't told again: an item stands in its `BoundingBox` and is left out
-where `Visible` is 0; locks, links, animations and copies aren't seen. `docs/sheet` draws all of them to be looked at.
+changes the picture, that of the whole item or of one without a box or with nothing switched on. What every item has
+(FORMATS.md) isn't told again: an item stands in its `BoundingBox` and is left out where `Visible` is 0; locks, links,
+animations and copies aren't seen. `docs/sheet` draws all of them to be looked at.
 
 )";
 
