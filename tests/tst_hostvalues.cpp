@@ -5,6 +5,7 @@
 #include "files/xmltext.h"
 #include "formats/zqtxitems.h"
 #include "lesson/itemkeys.h"
+#include "lesson/numbertexts.h"
 #include "lesson/strokeoffsets.h"
 #include "losses/carriedcheck.h"
 #include "losses/jsontext.h"
@@ -12,7 +13,11 @@
 #include "losses/modelvalues.h"
 #include "pluginfixture.h"
 
+#include <QRandomGenerator>
 #include <QtTest>
+
+#include <cmath>
+#include <cstring>
 
 using namespace lessonhost;
 
@@ -125,6 +130,34 @@ private slots:
             "{'Type':'ZQSmoothStroke','Visible':false,'InteractiveValue':'<&>\\t\\n\\r','InteractiveType':'ACTION_"
             "TOOLTIP',"
             "'animations':{'appearance':{'a':'1'},'emphasis':{},'disappearance':{},'path':{'x':'2'}}}");
+    }
+
+    // What stands in for Qt's own ways, to the bit and to the letter: numbers halfway between two texts and beside
+    // them, at the ends of what is printed plainly, and texts that are none or nearly none.
+    void numbersAreThoseOfQt()
+    {
+        QRandomGenerator random(20);
+        QVector<double> numbers{0.0, -0.0, 1e-3, 999999.5, -99999.5, 1e6, 123456, 2.5, 5e-324, 1e300, qInf(), qQNaN()};
+        QStringList texts{"", "-", "+1", " 1", "1e", "1E5", "1e400", "1e-400", "1.", ".5", ".", "1.5.5", "-0", "nan",
+                          "1,5", "e5", "9007199254740993", "0.0000000000000000000000000000000001"};
+        for (int i = 0; i < 20000; ++i) {
+            const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(-5, 9));
+            numbers << number << std::floor(number * 4096) / (1 << random.bounded(18)) << double(float(number));
+            texts << QString::number(number, 'g', random.bounded(18)) << QString::number(number, 'f', 9).mid(i % 12);
+        }
+        for (const double number : qAsConst(numbers)) {
+            for (const int digits : {1, 5, 6, 10, 12}) {
+                QCOMPARE(numberText(number, digits), QString::number(number, 'g', digits));
+            }
+            QCOMPARE(shortestNumberText(number), QString::number(number, 'g', QLocale::FloatingPointShortest));
+        }
+        for (const QString &text : qAsConst(texts)) {
+            bool isRead = false;
+            bool isNumber = false;
+            const double found = numberOfText(text, &isRead);
+            const double number = text.toDouble(&isNumber);
+            QVERIFY2(std::memcmp(&found, &number, sizeof number) == 0 && isRead == isNumber, qPrintable(text));
+        }
     }
 
     // A key that can't name an attribute would end the document, and a null must not count as "no".

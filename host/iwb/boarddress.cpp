@@ -2,6 +2,7 @@
 #include "iwb/boarddress.h"
 
 #include "lesson/itemvalues.h"
+#include "lesson/numbertexts.h"
 #include "lesson/textruns.h"
 #include "svg/iwbpage.h"
 #include "svg/svggeometry.h"
@@ -139,12 +140,16 @@ bool isSoundOf(const QDomElement &link)
 
 QString pairs(const QPolygonF &points)
 {
-    QStringList texts;
+    QString text;
     for (const QPointF &point : points) {
-        texts.append(svgCoordinate(point.x(), pluginDigits) + QLatin1Char(',')
-                     + svgCoordinate(point.y(), pluginDigits));
+        if (!text.isEmpty()) {
+            text += QLatin1Char(' ');
+        }
+        appendSvgCoordinate(text, point.x(), pluginDigits);
+        text += QLatin1Char(',');
+        appendSvgCoordinate(text, point.y(), pluginDigits);
     }
-    return texts.join(QLatin1Char(' '));
+    return text;
 }
 
 void dressPoints(QDomElement element, bool isInk)
@@ -174,7 +179,7 @@ void dressOpacity(QDomElement element)
     if (!element.hasAttribute(fillOpacity)) {
         element.setAttribute(fillOpacity, QStringLiteral("1"));
     }
-    if (element.attribute(lineOpacity).toDouble() > 1) {
+    if (numberOfText(element.attribute(lineOpacity)) > 1) {
         element.removeAttribute(lineOpacity);
     }
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "iwb/elementmark.h"
 
+#include "lesson/numbertexts.h"
 #include "svg/iwbpage.h"
 #include "svg/svgnames.h"
 
 #include <QCryptographicHash>
 #include <QMap>
-#include <QRegularExpression>
 #include <QVector>
 
 namespace lessonhost {
@@ -18,21 +18,58 @@ QString localName(const QString &name)
     return name.mid(name.indexOf(QLatin1Char(':')) + 1);
 }
 
+int digitsEnd(const QString &text, int at)
+{
+    while (at < text.size() && text.at(at).unicode() >= '0' && text.at(at).unicode() <= '9') {
+        ++at;
+    }
+    return at;
+}
+
+bool isSign(const QString &text, int at)
+{
+    return at < text.size() && (text.at(at) == QLatin1Char('-') || text.at(at) == QLatin1Char('+'));
+}
+
+// Where a number ends that begins at a place; the place itself where none does.
+int numberEnd(const QString &text, int begin)
+{
+    const int whole = isSign(text, begin) ? begin + 1 : begin;
+    int end = digitsEnd(text, whole);
+    int digits = end - whole;
+    if (end < text.size() && text.at(end) == QLatin1Char('.')) {
+        const int fractionEnd = digitsEnd(text, end + 1);
+        digits += fractionEnd - end - 1;
+        end = fractionEnd;
+    }
+    if (digits == 0) {
+        return begin;
+    }
+    if (end < text.size() && (text.at(end) == QLatin1Char('e') || text.at(end) == QLatin1Char('E'))) {
+        const int exponent = isSign(text, end + 1) ? end + 2 : end + 1;
+        const int exponentEnd = digitsEnd(text, exponent);
+        end = exponentEnd > exponent ? exponentEnd : end;
+    }
+    return end;
+}
+
 // Numbers in five digits, with one blank between the parts.
 QString plainValue(const QString &value)
 {
-    static const QRegularExpression number(QStringLiteral("[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?"));
+    constexpr int digits = 5;
     QString text;
-    int at = 0;
-    auto matches = number.globalMatch(value);
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        text += value.midRef(at, match.capturedStart() - at);
-        text += QString::number(match.capturedRef().toDouble(), 'g', 5);
-        at = match.capturedEnd();
+    text.reserve(value.size());
+    for (int at = 0; at < value.size();) {
+        const int end = numberEnd(value, at);
+        if (end > at) {
+            appendNumber(text, numberOfText(QStringView(value).mid(at, end - at)), digits);
+            at = end;
+        } else {
+            text += value.at(at) == QLatin1Char(',') ? QLatin1Char(' ') : value.at(at);
+            ++at;
+        }
     }
-    text += value.midRef(at);
-    return text.replace(QLatin1Char(','), QLatin1Char(' ')).simplified();
+    return text.simplified();
 }
 
 QString attributesOf(const QDomElement &element)

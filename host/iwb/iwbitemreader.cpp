@@ -5,6 +5,7 @@
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
+#include "lesson/numbertexts.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "svg/svggeometry.h"
@@ -49,7 +50,7 @@ constexpr const char *passingKeys[] = {
 
 double number(const QDomElement &element, const char *attribute)
 {
-    return element.attribute(QLatin1String(attribute)).toDouble();
+    return numberOfText(element.attribute(QLatin1String(attribute)));
 }
 
 QString pair(double x, double y)

@@ -9,6 +9,7 @@
 #include "lesson/curtain.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
+#include "lesson/numbertexts.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "svg/pluginoutlines.h"
@@ -102,15 +103,20 @@ QDomElement innermost(QDomElement element)
 bool isDrawn(const QDomElement &element)
 {
     const QString tag = element.tagName();
-    if (tag == QLatin1String("svg:line") || tag == QLatin1String("svg:polyline")) {
-        const bool hasPoints =
-            tag == QLatin1String("svg:line") || !element.attribute(QStringLiteral("points")).isEmpty();
-        return hasPoints && drawnExtent(element).has_value();
+    const QString points = QStringLiteral("points");
+    if (tag == QLatin1String("svg:line")) {
+        return element.hasAttribute(QStringLiteral("x1")) || element.hasAttribute(points);
+    }
+    if (tag == QLatin1String("svg:polyline")) {
+        return !element.attribute(points).isEmpty();
     }
     const bool hasArea =
         tag == QLatin1String("svg:rect") || tag == QLatin1String("svg:circle") || tag == QLatin1String("svg:ellipse");
+    if (!hasArea) {
+        return true;
+    }
     const QRectF extent = drawnExtent(element).value_or(QRectF());
-    return !hasArea || (extent.width() > 0 && extent.height() > 0);
+    return extent.width() > 0 && extent.height() > 0;
 }
 
 } // namespace
@@ -246,8 +252,8 @@ QDomElement IwbItemWriter::writeText(const QJsonObject &item)
     }
     for (int i = 0; i < text.runs.size(); ++i) {
         QString &size = text.runs[i].fontSize;
-        const double pixels = size.toDouble() * view.scale();
-        size = text.shifts.at(i).isEmpty() ? QString::number(pixels) : exactText(pixels * shiftedLetters);
+        const double pixels = numberOfText(size) * view.scale();
+        size = text.shifts.at(i).isEmpty() ? numberText(pixels) : exactText(pixels * shiftedLetters);
     }
     const TextRunLoan loan(prepared, text.runs);
     QDomElement element = convert(prepared);

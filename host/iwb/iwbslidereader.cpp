@@ -8,6 +8,7 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/itemview.h"
+#include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
 
@@ -46,7 +47,7 @@ QJsonObject groupOf(const QJsonArray &children, const QString &id)
 QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
 {
     const QPolygonF points = pointsOf(svgNumbers(element.element.attribute(QStringLiteral("points"))));
-    const double width = element.element.attribute(QStringLiteral("stroke-width")).toDouble();
+    const double width = numberOfText(element.element.attribute(QStringLiteral("stroke-width")));
     QColor color = svgColor(element.element.attribute(QStringLiteral("stroke"))).value_or(QColor(Qt::black));
     constexpr double markerOpacity = 0.4;
     if (element.isHighlight && color.alpha() == 255) {
@@ -61,7 +62,7 @@ QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
          element.isHighlight ? QStringLiteral("ZQFluorescentStroke") : QStringLiteral("ZQSmoothStroke")},
         {ItemKeys::box, boxText(points.boundingRect().adjusted(-width / 2, -width / 2, width / 2, width / 2))},
         {ItemKeys::color, color.name(QColor::HexArgb)},
-        {ItemKeys::width, QString::number(width)},
+        {ItemKeys::width, numberText(width)},
         {ItemKeys::steps, pointsText(steps)},
         {ItemKeys::angle, QStringLiteral("0")}};
     for (const QLatin1String key : {ItemKeys::visible, ItemKeys::locked, ItemKeys::endless}) {
@@ -246,7 +247,7 @@ QString IwbSlideReader::mediaFile(const IwbElement &item, const SlideLosses &los
         losses.file({item.element.tagName(), item.id}, item.reference, problem);
         return {};
     }
-    if (isImage && item.element.attribute(QStringLiteral("width")).toDouble() <= 0) {
+    if (isImage && numberOfText(item.element.attribute(QStringLiteral("width"))) <= 0) {
         const QSize size = Picture(m_references->file(resource)).size();
         QDomElement element = item.element;
         element.setAttribute(QStringLiteral("width"), qMax(0, size.width()));

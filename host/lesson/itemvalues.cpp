@@ -2,8 +2,9 @@
 #include "lesson/itemvalues.h"
 
 #include "lesson/itemkeys.h"
+#include "lesson/numbertexts.h"
+
 #include <QJsonArray>
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -15,10 +16,11 @@ namespace {
 
 const QLatin1String solidKey("Solid");
 const QLatin1String alphaKey("Alpha");
+constexpr int exactDigits = 12;
 
-QString shortestText(double number)
+void appendExact(QString &text, double value)
 {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    appendNumber(text, qAbs(value) < 1e-9 ? 0 : value, exactDigits);
 }
 
 bool isColorObject(const QJsonObject &object)
@@ -77,7 +79,7 @@ QString numberArrayText(const QJsonArray &array)
 {
     QStringList numbers;
     for (const QJsonValue &number : array) {
-        numbers.append(shortestText(number.toDouble()));
+        numbers.append(shortestNumberText(number.toDouble()));
     }
     return numbers.join(QLatin1Char(','));
 }
@@ -99,7 +101,7 @@ QString valueText(const QJsonValue &value)
     case QJsonValue::Bool:
         return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
     case QJsonValue::Double:
-        return shortestText(value.toDouble());
+        return shortestNumberText(value.toDouble());
     case QJsonValue::Array: {
         const QJsonArray array = value.toArray();
         return isNumberArray(array) ? numberArrayText(array) + QLatin1String("") : QString();
@@ -172,7 +174,7 @@ std::optional<QColor> itemColor(const QJsonValue &value)
     }
     const QString text = valueText(value).trimmed();
     const QStringList parts = text.split(QLatin1Char(','));
-    const auto part = [&parts](int i) { return channel(parts.at(i).toDouble()); };
+    const auto part = [&parts](int i) { return channel(numberOfText(parts.at(i))); };
     if (parts.size() == 4) {
         return QColor(part(1), part(2), part(3), part(0));
     }
@@ -186,7 +188,7 @@ std::optional<QColor> itemColor(const QJsonValue &value)
 std::optional<QColor> backColor(const QJsonValue &value)
 {
     bool isNumber = false;
-    const double number = valueText(value).toDouble(&isNumber);
+    const double number = numberOfText(valueText(value), &isNumber);
     return isNumber && qIsFinite(number) ? QColor(rgbOf(number)) : itemColor(value);
 }
 
@@ -208,7 +210,7 @@ double itemNumber(const QJsonValue &value, double missing)
 {
     const double number = value.isDouble() ? value.toDouble()
         : isEmptyValue(value)              ? missing
-                                           : valueText(value).toDouble();
+                                           : numberOfText(valueText(value));
     return qIsFinite(number) ? number : 0;
 }
 
@@ -233,7 +235,8 @@ QVector<double> itemNumbers(const QJsonValue &value)
     do {
         const int begin = end + 1;
         end = text.indexOf(QLatin1Char(','), begin);
-        const double number = text.midRef(begin, end < 0 ? -1 : end - begin).trimmed().toDouble();
+        const int length = (end < 0 ? text.size() : end) - begin;
+        const double number = numberOfText(QStringView(text).mid(begin, length).trimmed());
         numbers.append(qIsFinite(number) ? number : 0);
     } while (end >= 0);
     return numbers;
@@ -264,7 +267,7 @@ std::optional<QVector<double>> wholeNumbers(const QJsonValue &value)
     numbers.reserve(parts.size());
     for (const QStringRef &part : qAsConst(parts)) {
         bool isNumber = false;
-        numbers.append(part.toDouble(&isNumber));
+        numbers.append(numberOfText(part, &isNumber));
         if (!isNumber || !qIsFinite(numbers.last())) {
             return std::nullopt;
         }
@@ -284,15 +287,19 @@ QPolygonF pointsOf(const QVector<double> &numbers)
 
 QString exactText(double value)
 {
-    return QString::number(qAbs(value) < 1e-9 ? 0 : value, 'g', 12);
+    return numberText(qAbs(value) < 1e-9 ? 0 : value, exactDigits);
 }
 
 QString pointsText(const QPolygonF &points)
 {
     QString text;
     for (const QPointF &point : points) {
-        text += (text.isEmpty() ? QLatin1String() : QLatin1String(",")) + exactText(point.x()) + QLatin1Char(',')
-            + exactText(point.y());
+        if (!text.isEmpty()) {
+            text += QLatin1Char(',');
+        }
+        appendExact(text, point.x());
+        text += QLatin1Char(',');
+        appendExact(text, point.y());
     }
     return text;
 }

@@ -4,6 +4,7 @@
 #include "files/xmltext.h"
 #include "lesson/closedtext.h"
 #include "lesson/fontvalues.h"
+#include "lesson/numbertexts.h"
 
 #include <QFont>
 #include <QMap>
@@ -71,7 +72,7 @@ IwbTextInfo runOf(const QTextCharFormat &format, Qt::Alignment alignment)
         format.hasProperty(QTextFormat::FontWeight) ? fontWeightText(format.fontWeight()) : QStringLiteral("normal");
     run.fontStyle = format.fontItalic() ? QStringLiteral("italic") : QStringLiteral("normal");
     run.fontFamily = withoutControlCharacters(familyNames(format));
-    run.fontSize = QString::number(pixelSize(format));
+    run.fontSize = numberText(pixelSize(format));
     run.textDecoration = decoration(format);
     run.textAlign = svgAlignment(alignment);
     return run;
@@ -266,10 +267,10 @@ QString styleOf(const IwbTextInfo &run, const RunExtras &extras)
             families.append(QLatin1Char('\'') + name + QLatin1Char('\''));
         }
     }
-    const double pixels = run.fontSize.toDouble();
+    const double pixels = numberOfText(run.fontSize);
     const double points = (pixels > 0 ? pixels : defaultFontPixels) / pixelsOfPoint;
     return QLatin1String("font-family:") + families.join(QLatin1Char(',')) + QLatin1String("; font-size:")
-        + QString::number(points, 'g', 10) + QLatin1String("pt; font-weight:") + htmlWeight(run.fontWeight)
+        + numberText(points, 10) + QLatin1String("pt; font-weight:") + htmlWeight(run.fontWeight)
         + QLatin1String("; font-style:")
         + (run.fontStyle == QLatin1String("normal") ? QLatin1String("normal") : QLatin1String("italic"))
         + QLatin1String("; text-decoration:") + styleSafe(run.textDecoration) + QLatin1String("; color:")

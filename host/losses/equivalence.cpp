@@ -2,6 +2,7 @@
 #include "losses/equivalence.h"
 
 #include "lesson/itemvalues.h"
+#include "lesson/numbertexts.h"
 #include "losses/jsontext.h"
 
 #include <QColor>
@@ -72,7 +73,7 @@ std::optional<QVector<double>> numbersOf(const QString &text)
     }
     for (const QStringRef &part : qAsConst(parts)) {
         bool isNumber = false;
-        numbers.append(part.toDouble(&isNumber));
+        numbers.append(numberOfText(part, &isNumber));
         if (!isNumber || !qIsFinite(numbers.last())) {
             return std::nullopt;
         }

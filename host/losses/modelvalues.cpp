@@ -4,11 +4,11 @@
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
+#include "lesson/numbertexts.h"
 
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QLocale>
 #include <QStringList>
 #include <QVariant>
 
@@ -59,7 +59,7 @@ std::optional<QString> plainText(const QJsonValue &value)
     case QJsonValue::Bool:
         return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
     case QJsonValue::Double:
-        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+        return shortestNumberText(value.toDouble());
     default:
         return std::nullopt;
     }

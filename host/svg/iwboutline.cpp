@@ -2,6 +2,7 @@
 #include "svg/iwboutline.h"
 
 #include "lesson/isoneof.h"
+#include "lesson/numbertexts.h"
 #include "svg/svgnames.h"
 #include "svg/svgpagebuilder.h"
 #include "svg/svgvalues.h"
@@ -336,8 +337,8 @@ QDomElement IwbOutline::sizeElement(QDomDocument &document) const
 {
     QDomElement element = document.createElement(QStringLiteral("svg:svg"));
     document.appendChild(element);
-    element.setAttribute(QStringLiteral("width"), QString::number(m_rules.viewBox.width(), 'g', 10));
-    element.setAttribute(QStringLiteral("height"), QString::number(m_rules.viewBox.height(), 'g', 10));
+    element.setAttribute(QStringLiteral("width"), numberText(m_rules.viewBox.width(), 10));
+    element.setAttribute(QStringLiteral("height"), numberText(m_rules.viewBox.height(), 10));
     const QString id = m_meta.value(QLatin1String(identifierMeta), m_svgId);
     if (!id.isEmpty()) {
         element.setAttribute(QStringLiteral("id"), id);

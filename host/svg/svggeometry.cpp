@@ -2,6 +2,7 @@
 #include "svg/svggeometry.h"
 
 #include "lesson/itemvalues.h"
+#include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
 
@@ -18,7 +19,7 @@ namespace {
 
 double number(const QDomElement &element, const char *attribute)
 {
-    return element.attribute(QLatin1String(attribute)).toDouble();
+    return numberOfText(element.attribute(QLatin1String(attribute)));
 }
 
 // One turn the same way all around: most of all shapes.
@@ -55,16 +56,26 @@ QImage filled(const QPainterPath &path, const QRectF &extent)
 
 QString svgCoordinate(double value, int digits)
 {
-    return QString::number(qAbs(value) < 1e-9 ? 0 : value, 'g', digits);
+    return numberText(qAbs(value) < 1e-9 ? 0 : value, digits);
+}
+
+void appendSvgCoordinate(QString &text, double value, int digits)
+{
+    appendNumber(text, qAbs(value) < 1e-9 ? 0 : value, digits);
 }
 
 QString svgPoints(const QPolygonF &points)
 {
-    QStringList numbers;
+    QString numbers;
     for (const QPointF &point : points) {
-        numbers << svgCoordinate(point.x()) << svgCoordinate(point.y());
+        if (!numbers.isEmpty()) {
+            numbers += QLatin1Char(',');
+        }
+        appendSvgCoordinate(numbers, point.x());
+        numbers += QLatin1Char(',');
+        appendSvgCoordinate(numbers, point.y());
     }
-    return numbers.join(QLatin1Char(','));
+    return numbers;
 }
 
 void setSvgBox(QDomElement &element, const QRectF &box, int digits)

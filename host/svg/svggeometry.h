@@ -15,6 +15,9 @@ namespace lessonhost {
 //! A coordinate; what a transform makes of 0 by its errors is 0.
 QString svgCoordinate(double value, int digits = 10);
 
+//! The same, at the end of a text.
+void appendSvgCoordinate(QString &text, double value, int digits = 10);
+
 //! x and y in turn with commas between.
 QString svgPoints(const QPolygonF &points);
 

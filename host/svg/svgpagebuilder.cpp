@@ -5,6 +5,7 @@
 #include "lesson/isoneof.h"
 #include "lesson/itemvalues.h"
 #include "lesson/missingfonts.h"
+#include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
 #include "svg/inkline.h"
 #include "svg/svggeometry.h"
@@ -314,9 +315,8 @@ QString SvgPageBuilder::nativeTransform(const QDomElement &element) const
     if (numbers.size() != 3) {
         return transform;
     }
-    return rotate + QString::number(numbers.at(0) * 180 / M_PI, 'g', 12) + QLatin1Char(' ')
-        + QString::number(numbers.at(1), 'g', 12) + QLatin1Char(' ') + QString::number(numbers.at(2), 'g', 12)
-        + QLatin1Char(')');
+    return rotate + numberText(numbers.at(0) * 180 / M_PI, 12) + QLatin1Char(' ') + numberText(numbers.at(1), 12)
+        + QLatin1Char(' ') + numberText(numbers.at(2), 12) + QLatin1Char(')');
 }
 
 void SvgPageBuilder::group(const QDomElement &element, const Place &place)

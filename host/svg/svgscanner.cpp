@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "svg/svgscanner.h"
 
+#include "lesson/numbertexts.h"
+
 #include <cmath>
 
 namespace lessonhost {
@@ -47,7 +49,7 @@ std::optional<double> SvgScanner::number()
     }
     end = exponentEnd(end);
     bool ok = false;
-    const double value = m_text.midRef(m_at, end - m_at).toDouble(&ok);
+    const double value = numberOfText(QStringView(m_text).mid(m_at, end - m_at), &ok);
     if (!ok || !std::isfinite(value)) {
         return std::nullopt;
     }

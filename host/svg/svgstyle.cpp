@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "svg/svgstyle.h"
 
+#include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
 
@@ -142,7 +143,7 @@ SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
     result.m_properties.insert(shift, own.value(shift)); // not inherited
     const QString fontSize = QStringLiteral("font-size");
     if (own.contains(fontSize)) {
-        result.m_properties.insert(fontSize, QString::number(fontSizeOf(own.value(fontSize), inheritedSize), 'g', 10));
+        result.m_properties.insert(fontSize, numberText(fontSizeOf(own.value(fontSize), inheritedSize), 10));
     }
     for (const char *effect : unknownEffects) {
         const QString value = own.value(QLatin1String(effect));
@@ -174,7 +175,7 @@ bool SvgStyle::isVisible() const
 double SvgStyle::fontPixels() const
 {
     bool ok = false;
-    const double pixels = m_properties.value(QStringLiteral("font-size")).toDouble(&ok);
+    const double pixels = numberOfText(m_properties.value(QStringLiteral("font-size")), &ok);
     return ok && pixels > 0 ? pixels : 16;
 }
 
@@ -242,7 +243,7 @@ Sentences lineDifferences(const SvgStyle &style, const SvgPaint &paint)
 void setPluginPaint(QDomElement &element, const SvgPaint &paint)
 {
     element.setAttribute(QStringLiteral("stroke"), rgb(paint.line, paint.line.alpha() < 255));
-    element.setAttribute(QStringLiteral("stroke-width"), QString::number(paint.lineWidth, 'g', 10));
+    element.setAttribute(QStringLiteral("stroke-width"), numberText(paint.lineWidth, 10));
     if (paint.fill.alpha() > 0) {
         element.setAttribute(QStringLiteral("fill"), rgb(paint.fill, false));
         element.setAttribute(QStringLiteral("stroke-opacity"), QString::number(paint.fill.alpha()));
@@ -268,14 +269,14 @@ void setSvgPaint(QDomElement &element, const SvgPaint &paint)
         element.setAttribute(QStringLiteral("fill"), QStringLiteral("none"));
     }
     if (hasFill && (paint.fill.alpha() < 255 || hasTranslucentLine)) {
-        element.setAttribute(fillOpacity, QString::number(paint.fill.alpha() / 255.0));
+        element.setAttribute(fillOpacity, numberText(paint.fill.alpha() / 255.0));
     }
     if (!hasLine) {
         element.setAttribute(QStringLiteral("stroke"), QStringLiteral("none"));
     } else if (hasTranslucentLine) {
-        element.setAttribute(strokeOpacity, QString::number(paint.line.alpha() / 255.0));
+        element.setAttribute(strokeOpacity, numberText(paint.line.alpha() / 255.0));
     }
-    element.setAttribute(QStringLiteral("stroke-width"), QString::number(paint.lineWidth, 'g', 10));
+    element.setAttribute(QStringLiteral("stroke-width"), numberText(paint.lineWidth, 10));
 }
 
 } // namespace lessonhost

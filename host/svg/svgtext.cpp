@@ -2,6 +2,7 @@
 #include "svg/svgtext.h"
 
 #include "lesson/fontvalues.h"
+#include "lesson/numbertexts.h"
 #include "lesson/textruns.h"
 #include "svg/listmarks.h"
 #include "svg/svgnames.h"
@@ -369,7 +370,7 @@ void SvgText::setFont(QDomElement &element, const SvgStyle &style, double scale)
         element.setAttribute(QStringLiteral("baseline-shift"), shift);
         pixels /= shiftedLetters;
     }
-    element.setAttribute(QStringLiteral("font-size"), QString::number(pixels * scale));
+    element.setAttribute(QStringLiteral("font-size"), numberText(pixels * scale));
     element.setAttribute(QStringLiteral("text-align"), alignment(style));
     const QColor color = svgColor(style.property(QStringLiteral("fill"))).value_or(QColor(Qt::black));
     element.setAttribute(QStringLiteral("fill"), color.name());
