@@ -133,7 +133,8 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
     const auto native = m_native.page(m_package.outline().pageId(index));
     LessonSlide slide;
     if (native) {
-        slide = PageRestorer(m_content, m_slides, m_package.recordTexts()).restore(index, *native, losses);
+        slide = PageRestorer(m_content, m_slides, m_package.recordTexts(), m_native.isUntouched())
+                    .restore(index, *native, losses);
     } else {
         slide = m_slides.read(m_content.page(index), index + 1, losses).slide;
         slide.properties.insert(SlideKeys::id, m_slideIds.at(index));

@@ -19,10 +19,12 @@ const QLatin1String backgroundKeys[] = {SlideKeys::color, SlideKeys::backColor, 
 
 } // namespace
 
-PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records)
+PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records,
+                           bool isUntouched)
     : m_content(content)
     , m_reader(reader)
     , m_records(records)
+    , m_isUntouched(isUntouched)
 {
 }
 
@@ -72,13 +74,22 @@ bool PageRestorer::isOneGroup(const NativePage::Entry &entry) const
     return groups.size() == 1 && group >= 0 && m_groupSizes.value(group) == shown;
 }
 
-bool PageRestorer::isIntact(const NativePage::Part &part) const
+bool PageRestorer::isIntact(const NativePage::Part &part)
 {
     if (part.id.isEmpty()) {
         return true;
     }
     const int child = m_byId.value(part.id, -1);
-    return child >= 0 && !m_taken.contains(child) && elementMark(m_children.at(child), m_records) == part.mark;
+    return child >= 0 && !m_taken.contains(child) && (m_isUntouched || markOf(child) == part.mark);
+}
+
+const QString &PageRestorer::markOf(int child)
+{
+    QString &mark = m_marks[child];
+    if (mark.isEmpty()) {
+        mark = elementMark(m_children.at(child), m_records);
+    }
+    return mark;
 }
 
 QJsonObject PageRestorer::properties(const NativePage &native, int number, const SlideLosses &losses)
@@ -90,7 +101,9 @@ QJsonObject PageRestorer::properties(const NativePage &native, int number, const
             background.append(m_children.at(child));
         }
     }
-    if (backgroundMark(background, m_records) == native.backgroundMark) {
+    const bool isSame = (m_isUntouched && background.size() == native.backgroundIds.size())
+        || backgroundMark(background, m_records) == native.backgroundMark;
+    if (isSame) {
         for (const QString &id : native.backgroundIds) {
             m_taken.insert(m_byId.value(id));
         }

@@ -15,8 +15,9 @@ namespace lessonhost {
 class PageRestorer
 {
 public:
-    //! All of them have to live as long. number counts from 1.
-    PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records);
+    //! All of them have to live as long. isUntouched: the document is known to be the one that was written.
+    PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records,
+                 bool isUntouched);
 
     //! ID is that of the slide as it was. index: of the page, from 0.
     LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses);
@@ -31,7 +32,8 @@ private:
 
     void lookAtPage();
     bool isOneGroup(const NativePage::Entry &entry) const;
-    bool isIntact(const NativePage::Part &part) const;
+    bool isIntact(const NativePage::Part &part);
+    const QString &markOf(int child);
     void placeEntries(const NativePage &native);
     void placeOthers(int number, const SlideLosses &losses);
     QJsonArray grouped(int number, const SlideLosses &losses);
@@ -41,10 +43,12 @@ private:
     const SvgNormalizer &m_content;
     IwbSlideReader &m_reader;
     const QHash<QString, QString> &m_records;
+    const bool m_isUntouched;
 
     QVector<XmlPart> m_layers; // of the page
     QVector<QDomElement> m_children; // of these
     QHash<QString, int> m_byId; // the child in which an element stands
+    QHash<int, QString> m_marks; // of children that were asked for
     QHash<int, int> m_groupSizes; // of the document's groups on this page
     QHash<int, QJsonObject> m_groups; // what they were, where other programs have changed what is in them
     QSet<int> m_taken; // children that need not be read
