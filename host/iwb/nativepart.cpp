@@ -86,6 +86,14 @@ QJsonObject objectIn(const QString &file, const QString &shownName)
     return input.size() > 3 * maximumSlideSize ? QJsonObject() : QJsonDocument::fromJson(input.all()).object();
 }
 
+// Whether a text says all of what it was written of. Where a value is read as another that is written alike, the text
+// tells.
+bool isReadAs(const QByteArray &text, const QJsonObject &written)
+{
+    const QJsonDocument read = QJsonDocument::fromJson(text);
+    return read.object() == written || read.toJson(QJsonDocument::Compact) == text;
+}
+
 } // namespace
 
 QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, QString> &records)
@@ -141,7 +149,7 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
                                         {Keys::mark, backgroundMark(background, records)}}},
                            {Keys::items, entries}};
     const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
-    if (text.size() > 3 * maximumSlideSize || QJsonDocument::fromJson(text).toJson(QJsonDocument::Compact) != text) {
+    if (text.size() > 3 * maximumSlideSize || !isReadAs(text, json)) {
         return false;
     }
     m_target.write(pageFile(pagePrefix + QString::number(number)), text);
