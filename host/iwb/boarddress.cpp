@@ -138,20 +138,6 @@ bool isSoundOf(const QDomElement &link)
     return inner.isNull() || inner.attribute(idName) == QString(link.attribute(idName) + QLatin1String(soundSign));
 }
 
-QString pairs(const QPolygonF &points)
-{
-    QString text;
-    for (const QPointF &point : points) {
-        if (!text.isEmpty()) {
-            text += QLatin1Char(' ');
-        }
-        appendSvgCoordinate(text, point.x(), pluginDigits);
-        text += QLatin1Char(',');
-        appendSvgCoordinate(text, point.y(), pluginDigits);
-    }
-    return text;
-}
-
 void dressPoints(QDomElement element, bool isInk)
 {
     const QString name = QStringLiteral("points");
@@ -165,7 +151,7 @@ void dressPoints(QDomElement element, bool isInk)
         points.removeLast();
         element.setTagName(polygonTag);
     }
-    element.setAttribute(name, pairs(points));
+    element.setAttribute(name, coordinateTexts(points, pluginDigits, ',', ' '));
 }
 
 // Where a fill has an opacity of its own, that of the line is one from 0 to 1 alone.

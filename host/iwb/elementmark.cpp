@@ -18,41 +18,6 @@ QString localName(const QString &name)
     return name.mid(name.indexOf(QLatin1Char(':')) + 1);
 }
 
-int digitsEnd(const QString &text, int at)
-{
-    while (at < text.size() && text.at(at).unicode() >= '0' && text.at(at).unicode() <= '9') {
-        ++at;
-    }
-    return at;
-}
-
-bool isSign(const QString &text, int at)
-{
-    return at < text.size() && (text.at(at) == QLatin1Char('-') || text.at(at) == QLatin1Char('+'));
-}
-
-// Where a number ends that begins at a place; the place itself where none does.
-int numberEnd(const QString &text, int begin)
-{
-    const int whole = isSign(text, begin) ? begin + 1 : begin;
-    int end = digitsEnd(text, whole);
-    int digits = end - whole;
-    if (end < text.size() && text.at(end) == QLatin1Char('.')) {
-        const int fractionEnd = digitsEnd(text, end + 1);
-        digits += fractionEnd - end - 1;
-        end = fractionEnd;
-    }
-    if (digits == 0) {
-        return begin;
-    }
-    if (end < text.size() && (text.at(end) == QLatin1Char('e') || text.at(end) == QLatin1Char('E'))) {
-        const int exponent = isSign(text, end + 1) ? end + 2 : end + 1;
-        const int exponentEnd = digitsEnd(text, exponent);
-        end = exponentEnd > exponent ? exponentEnd : end;
-    }
-    return end;
-}
-
 // Numbers in five digits, with one blank between the parts.
 QString plainValue(const QString &value)
 {
@@ -60,10 +25,10 @@ QString plainValue(const QString &value)
     QString text;
     text.reserve(value.size());
     for (int at = 0; at < value.size();) {
-        const int end = numberEnd(value, at);
-        if (end > at) {
-            appendNumber(text, numberOfText(QStringView(value).mid(at, end - at)), digits);
-            at = end;
+        const NumberAt number = numberAt(value, at);
+        if (number.end > at) {
+            appendNumber(text, number.value, digits);
+            at = number.end;
         } else {
             text += value.at(at) == QLatin1Char(',') ? QLatin1Char(' ') : value.at(at);
             ++at;

@@ -18,9 +18,21 @@ const QLatin1String solidKey("Solid");
 const QLatin1String alphaKey("Alpha");
 constexpr int exactDigits = 12;
 
-void appendExact(QString &text, double value)
+// The number of the part of a list that begins at a place, as QString::toDouble() reads it. at: becomes the place
+// behind the comma that ends the part, or one behind the end of the text.
+double takePart(const QString &text, int &at, bool &isNumber)
 {
-    appendNumber(text, qAbs(value) < 1e-9 ? 0 : value, exactDigits);
+    const int begin = at;
+    const NumberAt found = numberAt(text, begin);
+    if (found.end > begin && (found.end == text.size() || text.at(found.end) == QLatin1Char(','))) {
+        at = found.end + 1;
+        isNumber = found.isNumber;
+        return found.value;
+    }
+    const int comma = text.indexOf(QLatin1Char(','), begin);
+    const int end = comma < 0 ? text.size() : comma;
+    at = end + 1;
+    return numberOfText(QStringView(text).mid(begin, end - begin).trimmed(), &isNumber);
 }
 
 bool isColorObject(const QJsonObject &object)
@@ -231,14 +243,11 @@ QVector<double> itemNumbers(const QJsonValue &value)
     }
     // One after the other: a list of the parts would take more memory than the numbers.
     numbers.reserve(text.count(QLatin1Char(',')) + 1);
-    int end = -1;
-    do {
-        const int begin = end + 1;
-        end = text.indexOf(QLatin1Char(','), begin);
-        const int length = (end < 0 ? text.size() : end) - begin;
-        const double number = numberOfText(QStringView(text).mid(begin, length).trimmed());
+    for (int at = 0; at <= text.size();) {
+        bool isNumber = false;
+        const double number = takePart(text, at, isNumber);
         numbers.append(qIsFinite(number) ? number : 0);
-    } while (end >= 0);
+    }
     return numbers;
 }
 
@@ -260,18 +269,15 @@ std::optional<QVector<double>> wholeNumbers(const QJsonValue &value)
         return std::nullopt;
     }
     const QString text = valueText(value);
-    QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
-    if (parts.size() > 1 && parts.last().isEmpty()) {
-        parts.removeLast();
-    }
-    numbers.reserve(parts.size());
-    for (const QStringRef &part : qAsConst(parts)) {
+    numbers.reserve(text.count(QLatin1Char(',')) + 1);
+    int at = 0;
+    do {
         bool isNumber = false;
-        numbers.append(numberOfText(part, &isNumber));
+        numbers.append(takePart(text, at, isNumber));
         if (!isNumber || !qIsFinite(numbers.last())) {
             return std::nullopt;
         }
-    }
+    } while (at < text.size());
     return numbers;
 }
 
@@ -287,21 +293,12 @@ QPolygonF pointsOf(const QVector<double> &numbers)
 
 QString exactText(double value)
 {
-    return numberText(qAbs(value) < 1e-9 ? 0 : value, exactDigits);
+    return numberText(withoutErrorOfZero(value), exactDigits);
 }
 
 QString pointsText(const QPolygonF &points)
 {
-    QString text;
-    for (const QPointF &point : points) {
-        if (!text.isEmpty()) {
-            text += QLatin1Char(',');
-        }
-        appendExact(text, point.x());
-        text += QLatin1Char(',');
-        appendExact(text, point.y());
-    }
-    return text;
+    return coordinateTexts(points, exactDigits, ',', ',');
 }
 
 QString boxText(const QRectF &box)

@@ -7,6 +7,8 @@
 #include <cfloat>
 #include <charconv>
 #include <cmath>
+#include <cstring>
+#include <limits>
 #include <optional>
 
 namespace lessonhost {
@@ -23,43 +25,86 @@ constexpr std::array<quint64, 16> powers{
     1,         10,         100,         1000,         10000,         100000,         1000000,         10000000,
     100000000, 1000000000, 10000000000, 100000000000, 1000000000000, 10000000000000, 100000000000000, 1000000000000000};
 
-// A few digits with a point among them, as they are in most texts: both the digits and the power of ten that divides
-// them are numbers without an error, so that the quotient is the number nearest to the text.
-std::optional<double> shortNumber(QStringView text)
+/*!
+ * A number's letters: a sign, digits with a point before, among or behind them, an exponent.
+ */
+struct NumberLetters
 {
-    constexpr qsizetype mostLetters = 16;
-    const qsizetype length = text.size();
-    const bool isNegative = length > 0 && text.at(0) == QLatin1Char('-');
-    const qsizetype first = isNegative ? 1 : 0;
-    if (length == first || length > mostLetters || FLT_EVAL_METHOD != 0) {
-        return std::nullopt;
-    }
+    bool isNegative = false;
     quint64 digits = 0;
-    qsizetype point = -1;
-    for (qsizetype i = first; i < length; ++i) {
-        const unsigned digit = text.at(i).unicode() - unsigned('0');
-        if (digit <= 9) {
-            digits = digits * 10 + digit;
-        } else if (text.at(i) == QLatin1Char('.') && point < 0 && length > first + 1) {
-            point = i;
-        } else {
-            return std::nullopt;
-        }
+    int count = 0; // of digits; too many for digits to hold, perhaps
+    int decimals = 0;
+    bool hasExponent = false;
+    int end = 0;
+
+    // With so few digits, they and the power of ten that divides them are numbers without an error, so that the
+    // quotient is the number nearest to the text.
+    bool isShort() const { return count > 0 && count <= 15 && !hasExponent && FLT_EVAL_METHOD == 0; }
+
+    double value() const
+    {
+        const double size = double(digits) / double(powers[std::size_t(decimals)]);
+        return isNegative ? -size : size;
     }
-    // With the point, there are 15 digits at most.
-    if (point < 0 && length - first >= mostLetters) {
-        return std::nullopt;
+};
+
+const QChar *digitsEnd(const QChar *at, const QChar *limit)
+{
+    while (at < limit && at->unicode() >= '0' && at->unicode() <= '9') {
+        ++at;
     }
-    const double number = point < 0 ? double(digits) : double(digits) / double(powers[std::size_t(length - 1 - point)]);
-    return isNegative ? -number : number;
+    return at;
 }
 
-// Nothing for texts that Qt alone may judge: with blanks, a plus in front, words.
-std::optional<double> plainNumber(QStringView text)
+const QChar *takeDigits(const QChar *at, const QChar *limit, quint64 &digits)
 {
-    if (const auto number = shortNumber(text)) {
-        return number;
+    for (; at < limit; ++at) {
+        const unsigned digit = at->unicode() - unsigned('0');
+        if (digit > 9) {
+            break;
+        }
+        digits = digits * 10 + digit;
     }
+    return at;
+}
+
+bool isSign(const QChar *at, const QChar *limit)
+{
+    return at < limit && (at->unicode() == '-' || at->unicode() == '+');
+}
+
+NumberLetters lettersAt(QStringView text, int at)
+{
+    NumberLetters letters;
+    letters.end = at;
+    const QChar *const limit = text.data() + text.size();
+    const QChar *const begin = text.data() + at;
+    const QChar *const whole = isSign(begin, limit) ? begin + 1 : begin;
+    letters.isNegative = whole > begin && begin->unicode() == '-';
+    const QChar *end = takeDigits(whole, limit, letters.digits);
+    letters.count = int(end - whole);
+    if (end < limit && end->unicode() == '.') {
+        const QChar *const point = end;
+        end = takeDigits(point + 1, limit, letters.digits);
+        letters.decimals = int(end - point - 1);
+        letters.count += letters.decimals;
+    }
+    if (letters.count == 0) {
+        return letters;
+    }
+    if (end < limit && (end->unicode() == 'e' || end->unicode() == 'E')) {
+        const QChar *const exponent = isSign(end + 1, limit) ? end + 2 : end + 1;
+        const QChar *const exponentEnd = digitsEnd(exponent, limit);
+        letters.hasExponent = exponentEnd > exponent;
+        end = letters.hasExponent ? exponentEnd : end;
+    }
+    letters.end = int(end - text.data());
+    return letters;
+}
+
+// Nothing for texts that Qt alone may judge: with blanks, words, numbers that no double is near to.
+std::optional<double> longNumber(QStringView text)
+{
     std::array<char, 32> latin1{};
     const auto length = std::size_t(text.size());
     if (length > latin1.size()) {
@@ -78,42 +123,77 @@ std::optional<double> plainNumber(QStringView text)
     return result.ec == std::errc() && result.ptr == end ? std::make_optional(number) : std::nullopt;
 }
 
+double longNumberOfText(QStringView text, bool *ok)
+{
+    const auto number = longNumber(text);
+    if (number && ok) {
+        *ok = true;
+    }
+    return number ? *number : text.toString().toDouble(ok);
+}
+
 /*!
- * The letters of a number; none where Qt has to write it.
+ * The letters of a number that is printed plainly.
  */
-class Letters
+class PlainText
 {
 public:
-    bool areThere() const { return m_end != nullptr; }
-    QLatin1String text() const { return QLatin1String(m_letters.data(), int(m_end - m_letters.data())); }
+    static constexpr int mostLetters = 32;
 
-    // Whole numbers read the same as integers, zero without its sign.
-    void writeInteger(double value) { m_end = std::to_chars(m_letters.data(), end(), int(value)).ptr; }
-
-    void writeShortest(double value)
-    {
-        m_end = std::to_chars(m_letters.data(), end(), value, std::chars_format::fixed).ptr;
-    }
-
-    // So many digits in all, of a number between smallest and beyondPlain. What is halfway between two texts goes away
-    // from zero.
-    void writeDigits(double value, int digits)
+    // False for a number that Qt has to write.
+    bool write(double value, int digits)
     {
         const double size = std::fabs(value);
+        if (!(size < beyondPlain) || digits < 1 || digits > mostDigits) {
+            return false;
+        }
+        const auto whole = quint64(size);
         int decimals = digits;
-        for (double limit = 1; size >= limit; limit *= 10) {
+        for (std::size_t i = 0; whole >= powers[i]; ++i) {
             --decimals;
         }
-        decimals += size >= 0.1 ? 0 : size >= 0.01 ? 1 : 2;
         if (decimals < 0) {
-            return;
+            return false;
         }
-        int exponent = 0;
-        const double fraction = std::frexp(size, &exponent);
-        const int shift = DBL_MANT_DIG - exponent;
-        const Wide mantissa = quint64(std::ldexp(fraction, DBL_MANT_DIG));
-        const Wide scaled = mantissa * powers[std::size_t(decimals)];
-        auto number = quint64((scaled + (Wide(1) << (shift - 1))) >> shift);
+        if (double(whole) == size) {
+            writeDigits(value < 0, whole, 0); // zero without its sign
+            return true;
+        }
+        if (size < smallest) {
+            return false;
+        }
+        decimals += size >= 0.1 ? 0 : size >= 0.01 ? 1 : 2;
+        const quint64 number = scaled(size, decimals);
+        if (decimals == 0 && number >= powers[std::size_t(digits)]) {
+            return false; // rounded up to where numbers have an exponent
+        }
+        writeDigits(value < 0, number, decimals);
+        return true;
+    }
+
+    QLatin1String text() const { return QLatin1String(m_begin, size()); }
+    int size() const { return int(m_letters.data() + m_letters.size() - m_begin); }
+    const char *begin() const { return m_begin; }
+
+private:
+    // The number times a power of ten, as an integer. What is halfway between two goes away from zero.
+    static quint64 scaled(double size, int decimals)
+    {
+        static_assert(std::numeric_limits<double>::is_iec559 && DBL_MANT_DIG == 53);
+        constexpr int fractionBits = DBL_MANT_DIG - 1;
+        constexpr int exponentOfOne = 1023;
+        constexpr quint64 leadingBit = quint64(1) << fractionBits;
+        quint64 bits = 0;
+        std::memcpy(&bits, &size, sizeof bits);
+        const int shift = fractionBits + exponentOfOne - int(bits >> fractionBits);
+        const Wide product = Wide((bits & (leadingBit - 1)) | leadingBit) * powers[std::size_t(decimals)];
+        return quint64((product + (Wide(1) << (shift - 1))) >> shift);
+    }
+
+    // Without the zeros at the end of the decimals.
+    void writeDigits(bool isNegative, quint64 number, int decimals)
+    {
+        char *at = m_letters.data() + m_letters.size();
         while (decimals >= 4 && number % 10000 == 0) {
             number /= 10000;
             decimals -= 4;
@@ -122,83 +202,65 @@ public:
             number /= 10;
             --decimals;
         }
-        if (decimals == 0 && number >= powers[std::size_t(digits)]) {
-            return; // rounded up to where numbers have an exponent
+        for (int i = 0; i < decimals; ++i) {
+            *--at = char('0' + number % 10);
+            number /= 10;
         }
-        write(value < 0, number, decimals);
-    }
-
-private:
-    char *end() { return m_letters.data() + m_letters.size(); }
-
-    void write(bool isNegative, quint64 number, int decimals)
-    {
-        char *at = m_letters.data();
-        if (isNegative) {
-            *at++ = '-';
-        }
-        const quint64 whole = number / powers[std::size_t(decimals)];
-        at = std::to_chars(at, end(), whole).ptr;
         if (decimals > 0) {
-            *at++ = '.';
-            quint64 rest = number % powers[std::size_t(decimals)];
-            for (int i = decimals - 1; i >= 0; --i) {
-                at[i] = char('0' + rest % 10);
-                rest /= 10;
-            }
-            at += decimals;
+            *--at = '.';
         }
-        m_end = at;
+        do {
+            *--at = char('0' + number % 10);
+            number /= 10;
+        } while (number > 0);
+        if (isNegative) {
+            *--at = '-';
+        }
+        m_begin = at;
     }
 
-    std::array<char, 40> m_letters;
-    char *m_end = nullptr;
+    std::array<char, mostLetters> m_letters;
+    const char *m_begin = nullptr;
 };
-
-bool isPlainInteger(double value, double beyond)
-{
-    return std::fabs(value) < beyond && value == std::trunc(value);
-}
-
-bool isPlain(double value)
-{
-    const double size = std::fabs(value);
-    return size >= smallest && size < beyondPlain;
-}
-
-Letters lettersOf(double value, int digits)
-{
-    Letters letters;
-    if (digits > 0 && isPlainInteger(value, double(powers[std::size_t(qMin(digits, 6))]))) {
-        letters.writeInteger(value);
-    } else if (isPlain(value) && digits > 0 && digits <= mostDigits) {
-        letters.writeDigits(value, digits);
-    }
-    return letters;
-}
 
 } // namespace
 
 double numberOfText(QStringView text, bool *ok)
 {
-    const auto number = plainNumber(text);
-    if (number && ok) {
+    const NumberLetters letters = lettersAt(text, 0);
+    if (letters.end != text.size() || !letters.isShort()) {
+        return longNumberOfText(text, ok);
+    }
+    if (ok) {
         *ok = true;
     }
-    return number ? *number : text.toString().toDouble(ok);
+    return letters.value();
+}
+
+NumberAt numberAt(QStringView text, int at)
+{
+    const NumberLetters letters = lettersAt(text, at);
+    if (letters.isShort()) {
+        return {letters.value(), true, letters.end};
+    }
+    NumberAt found{0, false, letters.end};
+    if (letters.count > 0) {
+        found.value = longNumberOfText(text.mid(at, letters.end - at), &found.isNumber);
+    }
+    return found;
 }
 
 QString numberText(double value, int digits)
 {
-    const Letters letters = lettersOf(value, digits);
-    return letters.areThere() ? QString(letters.text()) : QString::number(value, 'g', digits);
+    PlainText plain;
+    return plain.write(value, digits) ? QString(plain.text()) : QString::number(value, 'g', digits);
 }
 
 void appendNumber(QString &text, double value, int digits)
 {
-    const Letters letters = lettersOf(value, digits);
-    if (letters.areThere()) {
-        text += letters.text();
+    PlainText plain;
+    if (plain.write(value, digits)) {
+        text += plain.text();
     } else {
         text += QString::number(value, 'g', digits);
     }
@@ -206,13 +268,53 @@ void appendNumber(QString &text, double value, int digits)
 
 QString shortestNumberText(double value)
 {
-    Letters letters;
-    if (isPlainInteger(value, beyondPlain)) {
-        letters.writeInteger(value);
-    } else if (isPlain(value)) {
-        letters.writeShortest(value);
+    const double size = std::fabs(value);
+    PlainText plain;
+    if (size < beyondPlain && size == std::trunc(size) && plain.write(value, mostDigits)) {
+        return plain.text();
     }
-    return letters.areThere() ? QString(letters.text()) : QString::number(value, 'g', QLocale::FloatingPointShortest);
+    if (size < smallest || !(size < beyondPlain)) {
+        return QString::number(value, 'g', QLocale::FloatingPointShortest);
+    }
+    std::array<char, 32> letters{};
+    const auto result = std::to_chars(letters.data(), letters.data() + letters.size(), value, std::chars_format::fixed);
+    return QString::fromLatin1(letters.data(), int(result.ptr - letters.data()));
+}
+
+QString coordinateTexts(const QPolygonF &points, int digits, char inner, char outer)
+{
+    QString text;
+    std::array<char, 1024> piece{};
+    std::size_t length = 0;
+    const auto endPiece = [&] {
+        text += QLatin1String(piece.data(), int(length));
+        length = 0;
+    };
+    const auto write = [&](double coordinate) {
+        PlainText plain;
+        const double value = withoutErrorOfZero(coordinate);
+        if (plain.write(value, digits)) {
+            std::memcpy(piece.data() + length, plain.begin(), std::size_t(plain.size()));
+            length += std::size_t(plain.size());
+        } else {
+            endPiece();
+            text += QString::number(value, 'g', digits);
+        }
+    };
+    for (int i = 0; i < points.size(); ++i) {
+        constexpr std::size_t mostOfPoint = 2 * std::size_t(PlainText::mostLetters + 1);
+        if (piece.size() - length < mostOfPoint) {
+            endPiece();
+        }
+        if (i > 0) {
+            piece[length++] = outer;
+        }
+        write(points.at(i).x());
+        piece[length++] = inner;
+        write(points.at(i).y());
+    }
+    endPiece();
+    return text;
 }
 
 } // namespace lessonhost

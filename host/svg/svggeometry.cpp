@@ -56,26 +56,12 @@ QImage filled(const QPainterPath &path, const QRectF &extent)
 
 QString svgCoordinate(double value, int digits)
 {
-    return numberText(qAbs(value) < 1e-9 ? 0 : value, digits);
-}
-
-void appendSvgCoordinate(QString &text, double value, int digits)
-{
-    appendNumber(text, qAbs(value) < 1e-9 ? 0 : value, digits);
+    return numberText(withoutErrorOfZero(value), digits);
 }
 
 QString svgPoints(const QPolygonF &points)
 {
-    QString numbers;
-    for (const QPointF &point : points) {
-        if (!numbers.isEmpty()) {
-            numbers += QLatin1Char(',');
-        }
-        appendSvgCoordinate(numbers, point.x());
-        numbers += QLatin1Char(',');
-        appendSvgCoordinate(numbers, point.y());
-    }
-    return numbers;
+    return coordinateTexts(points, coordinateDigits, ',', ',');
 }
 
 void setSvgBox(QDomElement &element, const QRectF &box, int digits)

@@ -12,11 +12,10 @@ namespace lessonhost {
 
 // Places in svg elements: what the plug-in's cover, and how boxes and turns are written.
 
-//! A coordinate; what a transform makes of 0 by its errors is 0.
-QString svgCoordinate(double value, int digits = 10);
+constexpr int coordinateDigits = 10;
 
-//! The same, at the end of a text.
-void appendSvgCoordinate(QString &text, double value, int digits = 10);
+//! A coordinate; what a transform makes of 0 by its errors is 0.
+QString svgCoordinate(double value, int digits = coordinateDigits);
 
 //! x and y in turn with commas between.
 QString svgPoints(const QPolygonF &points);
@@ -24,7 +23,7 @@ QString svgPoints(const QPolygonF &points);
 //! The plug-in writes numbers with so many digits.
 constexpr int pluginDigits = 6;
 
-void setSvgBox(QDomElement &element, const QRectF &box, int digits = 10);
+void setSvgBox(QDomElement &element, const QRectF &box, int digits = coordinateDigits);
 
 //! A turn in radians as svg tells it, in degrees, about the very centre of what is written: another would move the
 //! element when it is read. The numbers have blanks between them: with commas they would be in radians. A whole turn or

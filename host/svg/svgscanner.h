@@ -37,9 +37,6 @@ public:
     QString word();
 
 private:
-    int digitsEnd(int at) const;
-    int exponentEnd(int end) const;
-
     const QString m_text;
     int m_at = 0;
 };
