@@ -64,19 +64,15 @@ QString textOn(const ItemView &item)
 
 } // namespace
 
-QString itemKind(const ItemView &item)
-{
-    return isTextBoard(item.type()) && !textOn(item).isEmpty() ? QString() : plainName(item.type());
-}
-
-QString itemLabel(const ItemView &item)
+ItemLabel itemLabel(const ItemView &item)
 {
     const QString text = textOn(item);
     const QString name = plainName(item.type());
-    const QString label = text.isEmpty() ? name
-        : isTextBoard(item.type())       ? text
-                                         : QString(name + QLatin1String(": ") + text);
-    return label.left(longestLabel);
+    if (text.isEmpty()) {
+        return {name.left(longestLabel), name};
+    }
+    return isTextBoard(item.type()) ? ItemLabel{text.left(longestLabel), {}}
+                                    : ItemLabel{QString(name + QLatin1String(": ") + text).left(longestLabel), name};
 }
 
 } // namespace lessonhost

@@ -6,11 +6,16 @@
 
 namespace lessonhost {
 
-//! What is read aloud for an item: what it is, and what stands on it. Of a text that is the text alone.
-QString itemLabel(const ItemView &item);
+/*!
+ * What is read aloud for an item.
+ */
+struct ItemLabel
+{
+    QString text; //!< what it is, and what stands on it; of a text that alone
+    QString kind; //!< the plain name that this begins with, for translations of it; empty for a text alone
+};
 
-//! The plain name that this begins with, for translations of it; empty where it is a text alone.
-QString itemKind(const ItemView &item);
+ItemLabel itemLabel(const ItemView &item);
 
 } // namespace lessonhost
 

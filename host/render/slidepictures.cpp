@@ -16,6 +16,9 @@
 
 #include <QSet>
 
+#include <algorithm>
+#include <optional>
+
 namespace lessonhost {
 
 namespace {
@@ -92,24 +95,20 @@ IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 QString titleOf(const QVector<ShownItem> &items)
 {
     constexpr int longest = 60;
-    QString title;
-    double top = 0;
+    QVector<QPair<double, QJsonObject>> texts; // by their upper ends
     for (const ShownItem &shown : items) {
         const ItemView view(shown.item);
-        const auto place = isTextBoard(view.type()) ? view.place() : std::nullopt;
-        if (!place) {
-            continue;
+        if (const auto place = isTextBoard(view.type()) ? view.place() : std::nullopt) {
+            const double top = shown.placed.mapRect(place->extent()).top();
+            texts.append({qIsNaN(top) ? 0 : top, shown.item});
         }
-        const double own = shown.placed.mapRect(place->extent()).top();
-        if (!title.isEmpty() && own >= top) {
-            continue;
-        }
+    }
+    std::stable_sort(texts.begin(), texts.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+    QString title;
+    for (int i = 0; i < texts.size() && title.isEmpty(); ++i) {
+        const ItemView view(texts.at(i).second);
         const QString html = view.text(ItemKeys::html);
-        const QString words = html.isEmpty() ? view.text(ItemKeys::text).simplified() : plainWords(html);
-        if (!words.isEmpty()) {
-            title = words;
-            top = own;
-        }
+        title = html.isEmpty() ? view.text(ItemKeys::text).simplified() : plainWords(html);
     }
     if (title.size() > longest) {
         const int end = title.lastIndexOf(QLatin1Char(' '), longest);
@@ -184,10 +183,9 @@ SlidePicture SlidePictures::picture(int index)
     for (const ShownItem &shown : items) {
         std::optional<PlainSvg::ItemGroup> group;
         if (m_files) {
-            const QString label =
-                shown.isCover() ? QString(QLatin1String(TO_SAY("Cover"))) : itemLabel(ItemView(shown.item));
-            const QString kind = shown.isCover() ? label : itemKind(ItemView(shown.item));
-            group.emplace(plain, shown.id, kind, label, shown.isHidden,
+            const QString cover = QLatin1String(TO_SAY("Cover"));
+            const ItemLabel label = shown.isCover() ? ItemLabel{cover, cover} : itemLabel(ItemView(shown.item));
+            group.emplace(plain, shown.id, label.kind, label.text, shown.isHidden,
                           shown.isCover() ? PlainSvg::ItemGroup::Cover : PlainSvg::ItemGroup::Front);
         }
         const PlainSvg::Scope scope(plain, shown.placed);

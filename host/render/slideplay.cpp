@@ -196,8 +196,9 @@ QJsonObject slidePlay(const LessonSlide &slide, const QVector<ShownItem> &items,
         put(item, "tool", toolOf(view, placed.placed));
         if (!item.isEmpty()) {
             item.insert(QStringLiteral("id"), placed.id);
-            item.insert(QStringLiteral("label"), itemLabel(view));
-            put(item, "kind", itemKind(view));
+            const ItemLabel label = itemLabel(view);
+            item.insert(QStringLiteral("label"), label.text);
+            put(item, "kind", label.kind);
             described.append(item);
         }
     }
