@@ -191,6 +191,8 @@ private slots:
         row("report that can't be", {"convert", "a.json", "out.zqtx", "--report", "none/r.json"});
         row("picture over it", {"render", "a.json", "p%d.svg"});
         row("picture into it", {"render", "in", "linked/p%d.svg"});
+        row("report over a picture", {"render", "a.json", "q%d.svg", "--report", "q1.svg"});
+        row("report beside a page", {"render", "a.json", "--to", "html", "--out-dir", ".", "--report", "a_files/r"});
         row("two side by side", {"render", "--diff", "a.json", "in", "in/p.html"});
         row("many", {"convert", "in", "--to", "json", "--out-dir", "in/out"});
         row("report of many", {"convert", "a.json", "--to", "iwb", "--out-dir", "out", "--report", "out/a.iwb"});
@@ -206,7 +208,7 @@ private slots:
         for (const char *name : {"a.json", "in/inner.json"}) {
             putFile(path(name), lesson);
         }
-        for (const char *folder : {"in", "old"}) {
+        for (const char *folder : {"in", "old", "a_files"}) {
             putFile(path(folder) + "/index.xml", "<main/>");
         }
         QVERIFY(QFile::link("a.json", path("link.json")) && QFile::link("in", path("linked")));

@@ -213,6 +213,8 @@ private slots:
             {"ArtObj_Color", "1,2,3", "254,1,2,3", false},
             {"LineColor", QJsonObject{{"Solid", 66051}, {"Alpha", 0.5}}, "128,1,2,3", true},
             {"LineColor", QJsonObject{{"Solid", 66051}, {"More", 1}}, "1,2,3", false},
+            {"LineColor", QJsonObject{{"Solid", 4278256131.0}}, "1,2,3", true},
+            {"LineColor", QJsonObject{{"Solid", 4294967296.0}}, "0,0,0", false},
             {"manager", "<a b='1' c='2'/>", "<a c='2' b='1'></a>", true},
             {"TextHtml", "<a b='1'/>", "<a b='1'></a>", false},
         };

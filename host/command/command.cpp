@@ -20,6 +20,7 @@
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
 #include "losses/plainlosses.h"
+#include "render/pagefiles.h"
 #include "render/rendering.h"
 #include "render/slideitempainter.h"
 
@@ -139,23 +140,27 @@ private:
     std::unique_ptr<PackageTarget> m_target;
 };
 
-void checkReport(const QString &report, const InputGuard &inputs, const QStringList &outputs)
+// The guard knows of the report from then on.
+void checkReport(const QString &report, InputGuard &inputs, const QStringList &outputs)
 {
     inputs.check(report);
+    inputs.addReport(report);
     for (const QString &output : outputs) {
-        if (isSamePlace(report, output) || liesIn(report, output)) {
-            throw LessonError(say("The report would stand where %1 does").arg(output), say("Give it another name"))
-                .in(report);
-        }
+        inputs.checkReport(output);
     }
 }
 
-QStringList outputsOf(const BatchPlan &plan, const QString &folder)
+// hasFolders: of files beside pages.
+QStringList outputsOf(const BatchPlan &plan, const QString &folder, bool hasFolders)
 {
     QStringList outputs{BatchJournal::fileIn(folder, plan.shard)};
     for (const BatchPlan::Lesson &lesson : plan.lessons) {
         if (lesson.problem.isEmpty()) {
-            outputs.append(folder + QLatin1Char('/') + lesson.output);
+            const QString output = folder + QLatin1Char('/') + lesson.output;
+            outputs.append(output);
+            if (hasFolders) {
+                outputs.append(QFileInfo(output).path() + QLatin1Char('/') + filesFolderOfPage(output));
+            }
         }
     }
     return outputs;
@@ -638,7 +643,9 @@ int Command::runMany(const QStringList &inputs, const QString &extension, const 
     const LessonFormat *from = isSet("from") ? &lessonFormatByName(value("from")) : nullptr;
     const BatchPlan plan = planBatch(inputs, from, extension, settings.outputFolder, m_line.shard());
     if (isSet("report")) {
-        checkReport(value("report"), plan.inputs, outputsOf(plan, settings.outputFolder));
+        InputGuard inputs = plan.inputs;
+        const bool hasFolders = extension == QLatin1String("html") && !isSet("embed");
+        checkReport(value("report"), inputs, outputsOf(plan, settings.outputFolder, hasFolders));
     }
     errno = 0;
     if (!QDir().mkpath(settings.outputFolder)) {

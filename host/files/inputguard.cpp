@@ -73,6 +73,7 @@ void InputGuard::addLesson(const QString &input, const QString &folderBeside)
 
 void InputGuard::check(const QString &output) const
 {
+    checkReport(output);
     const Sentence remedy = say("Give another name, outside of what is read");
     const QString plain = plainPath(output);
     const auto identity = identityOf(plain);
@@ -89,6 +90,14 @@ void InputGuard::check(const QString &output) const
         if (parent && m_inputs.contains(*parent)) {
             throw LessonError(say("It lies in %1, which is read").arg(m_inputs.value(*parent)), remedy).in(output);
         }
+    }
+}
+
+void InputGuard::checkReport(const QString &output) const
+{
+    if (!m_report.isEmpty() && (isSamePlace(m_report, output) || liesIn(m_report, output))) {
+        throw LessonError(say("The report would stand where %1 does").arg(output), say("Give it another name"))
+            .in(m_report);
     }
 }
 

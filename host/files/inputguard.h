@@ -9,7 +9,7 @@
 namespace lessonhost {
 
 /*!
- * What a run reads, and whether what it writes would take the place of any of it. Paths are told by what they lead to,
+ * What a run reads and where its report goes, and whether what it writes would take the place of any of it. Paths are told by what they lead to,
  * through links and other spellings.
  */
 class InputGuard
@@ -20,14 +20,21 @@ public:
     //! A lesson, with the folder beside it that belongs to its format, if there is one.
     void addLesson(const QString &input, const QString &folderBeside);
 
-    //! Throws LessonError if the output is an input, lies in one, or holds one, whether it is there already or not.
+    //! Where the report goes.
+    void addReport(const QString &report) { m_report = report; }
+
+    //! Throws LessonError if the output is an input, lies in one, or holds one, whether it is there already or not, and
+    //! like checkReport().
     void check(const QString &output) const;
+    //! Throws LessonError if the report would stand in the place of the output or in it.
+    void checkReport(const QString &output) const;
 
 private:
     using Identity = QPair<quint64, quint64>; // device and number on it
 
     QHash<Identity, QString> m_inputs; // as the user called them
     QHash<Identity, QString> m_parents; // the folders that hold an input, and one input of each
+    QString m_report; // empty where there is none
 };
 
 //! Whether two paths lead to one place, whether something is there already or not.

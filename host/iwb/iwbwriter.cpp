@@ -104,6 +104,15 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     }
 }
 
+void IwbWriter::expect(int slides, int resources)
+{
+    Q_UNUSED(resources)
+    m_dress.setPageCount(slides);
+    if (m_travels) {
+        m_target.expectFiles(qint64(slides) + 2); // each has a file beside the document
+    }
+}
+
 void IwbWriter::begin(const QJsonObject &presentation)
 {
     m_presentation = presentation;

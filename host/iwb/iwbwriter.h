@@ -25,11 +25,7 @@ class IwbWriter : public LessonWriter
 public:
     IwbWriter(const QString &path, const LessonContext &context);
 
-    void expect(int slides, int resources) override
-    {
-        Q_UNUSED(resources)
-        m_dress.setPageCount(slides);
-    }
+    void expect(int slides, int resources) override;
     void begin(const QJsonObject &presentation) override;
     void addResource(const QString &relativePath, const QString &sourceFile) override;
     void writeSlide(const LessonSlide &slide) override;

@@ -91,12 +91,13 @@ std::optional<QRgb> colorOfObject(const QJsonObject &object)
     const QLatin1String alphaKey("Alpha");
     const double solid = object.value(QLatin1String("Solid")).toDouble(-1);
     const double alpha = object.contains(alphaKey) ? object.value(alphaKey).toDouble(-1) : 1;
-    const bool isRgb = solid >= 0 && solid <= 0xffffff && solid == std::floor(solid);
+    // What stands before the red doesn't count.
+    const bool isRgb = solid >= 0 && solid <= 0xffffffff && solid == std::floor(solid);
     const int keys = object.contains(alphaKey) ? 2 : 1;
     if (!isRgb || alpha < 0 || alpha > 1 || object.size() != keys) {
         return std::nullopt;
     }
-    return QRgb(solid) | QRgb(qRound(alpha * 255)) << 24;
+    return (QRgb(solid) & 0xffffff) | QRgb(qRound(alpha * 255)) << 24;
 }
 
 const QHash<QString, QString> &impliedValues()

@@ -93,7 +93,7 @@ LessonPage::LessonPage(const QString &path, const QString &title, const RenderSe
     , m_settings(settings)
     , m_files(files)
     , m_target(path)
-    , m_slides(m_target.workFolder() + QLatin1String("/slides"), path, OutputFile::Temporary)
+    , m_slides(m_target.workFolder() + QLatin1String("/slides"), path)
     , m_pictures(store)
 {
 }
@@ -151,11 +151,6 @@ void LessonPage::putSlides()
     put("</main>\n");
 }
 
-QString LessonPage::folderName() const
-{
-    return QFileInfo(m_path).completeBaseName() + QLatin1String("_files");
-}
-
 // A file within the page, as data that its script takes from here.
 void LessonPage::putFile(int number)
 {
@@ -181,7 +176,7 @@ QStringList LessonPage::finish()
         if (m_settings.isEmbedded) {
             putFile(i);
         } else {
-            const QString path = folderName() + QLatin1Char('/') + file.stored;
+            const QString path = filesFolderOfPage(m_path) + QLatin1Char('/') + file.stored;
             const QString place = QFileInfo(m_path).dir().filePath(path);
             m_settings.inputs.check(place);
             if (m_settings.isKept) {

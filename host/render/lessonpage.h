@@ -30,7 +30,6 @@ private:
     void putHead();
     void putSlides();
     void putFile(int number);
-    QString folderName() const;
 
     QString m_path;
     QString m_title;

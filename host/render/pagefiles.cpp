@@ -69,4 +69,9 @@ int PageFiles::add(const QString &source, const QString &reference)
     return m_files.size() - 1;
 }
 
+QString filesFolderOfPage(const QString &page)
+{
+    return QFileInfo(page).completeBaseName() + QLatin1String("_files");
+}
+
 } // namespace lessonhost

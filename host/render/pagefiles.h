@@ -35,6 +35,9 @@ private:
     QSet<QString> m_stored; // in small letters
 };
 
+//! The name of the folder beside a page that they go into.
+QString filesFolderOfPage(const QString &page);
+
 } // namespace lessonhost
 
 #endif // PAGEFILES_H
