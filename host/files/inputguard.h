@@ -9,8 +9,8 @@
 namespace lessonhost {
 
 /*!
- * What a run reads and where its report goes, and whether what it writes would take the place of any of it. Paths are told by what they lead to,
- * through links and other spellings.
+ * What a run reads and where its report goes, and whether what it writes would take the place of any of it. Paths are
+ * told by what they lead to, through links and other spellings.
  */
 class InputGuard
 {

@@ -34,7 +34,7 @@ template <typename Change> QJsonObject changedPictures(QJsonObject templet, Chan
             QJsonObject figure = value.toObject();
             for (const char *name : figurePictures) {
                 const QLatin1String picture(name);
-                if (figure.contains(picture)) {
+                if (figure.value(picture).isString()) { // others are no picture, and stay what they are
                     figure.insert(picture, change(Kind::OfFigure, picture, figure.value(picture).toString(), key));
                 }
             }
