@@ -181,6 +181,9 @@ private:
             const QString errors = QString(outcome.errors).remove(QRegularExpression("lessonconv: QStandardPaths.*\n"));
             return isAllNew && errors.isEmpty() ? QString() : "not done, and says it is"_s;
         }
+        if (outcome.errors.contains("libpng")) {
+            return "a library tells it, too";
+        }
         return outcome.exitCode == 2 && outcome.errors.contains(reason) ? QString() : "the reason isn't told"_s;
     }
 

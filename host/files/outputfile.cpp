@@ -88,8 +88,9 @@ bool OutputFile::seek(qint64 position)
 
 qint64 OutputFile::writeData(const char *data, qint64 size)
 {
+    const qint64 failed = m_tellsLater ? size : -1;
     if (m_error || (m_waiting.size() + size > pieceSize && !flush())) {
-        return -1;
+        return failed;
     }
     if (size < pieceSize) {
         m_waiting.append(data, int(size));
@@ -100,7 +101,7 @@ qint64 OutputFile::writeData(const char *data, qint64 size)
         const qint64 count = qMin(size - done, qint64(pieceSize) * 16);
         m_waiting = QByteArray::fromRawData(data + done, int(count));
         if (!flush()) {
-            return -1;
+            return failed;
         }
         done += count;
     }

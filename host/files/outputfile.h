@@ -32,6 +32,8 @@ public:
 
     //! Throws LessonError.
     void put(const QByteArray &bytes);
+    //! From now on only check() and finish() tell of a failure, not who writes: some libraries complain aloud.
+    void tellLater() { m_tellsLater = true; }
     //! Throws LessonError if any of what was written so far failed, whoever wrote it.
     void check();
 
@@ -60,6 +62,7 @@ private:
     qint64 m_end = 0;
     int m_descriptor;
     int m_error = 0; // the first one
+    bool m_tellsLater = false;
 };
 
 //! Makes a folder and those on the way to it, where they aren't there yet. Throws LessonError.

@@ -139,6 +139,7 @@ void SlideFiles::draw(const SlidePicture &picture, OutputFile &file)
     painter.setClipRect(page);
     m_printer.paint(painter, picture, page);
     painter.end();
+    file.tellLater();
     QImageWriter writer(&file, m_settings.form->name.toLatin1());
     if (m_settings.form->kind != PictureForm::Png) {
         writer.setQuality(photographQuality);
