@@ -9,25 +9,42 @@
 #include <QMap>
 #include <QVector>
 
+#include <cmath>
+
 namespace lessonhost {
 
 namespace {
+
+constexpr int markDigits = 5;
 
 QString localName(const QString &name)
 {
     return name.mid(name.indexOf(QLatin1Char(':')) + 1);
 }
 
+// A number in five digits. What is written has six, so that the border between two of five is where none of six may be:
+// digits behind these don't move a number over it.
+double inFewDigits(double number)
+{
+    constexpr double border = 0.45;
+    constexpr double firstOfSix = 1e5;
+    const double size = std::fabs(number);
+    if (!std::isfinite(number) || (size < firstOfSix && size == std::floor(size))) {
+        return number;
+    }
+    const double last = std::pow(10, std::floor(std::log10(size)) - markDigits + 1);
+    return std::copysign(std::floor(size / last + border) * last, number);
+}
+
 // Numbers in five digits, with one blank between the parts.
 QString plainValue(const QString &value)
 {
-    constexpr int digits = 5;
     QString text;
     text.reserve(value.size());
     for (int at = 0; at < value.size();) {
         const NumberAt number = numberAt(value, at);
         if (number.end > at) {
-            appendNumber(text, number.value, digits);
+            appendNumber(text, inFewDigits(number.value), markDigits);
             at = number.end;
         } else {
             text += value.at(at) == QLatin1Char(',') ? QLatin1Char(' ') : value.at(at);
@@ -37,6 +54,11 @@ QString plainValue(const QString &value)
     return text.simplified();
 }
 
+bool isReference(const QString &name)
+{
+    return localName(name) == QLatin1String("href");
+}
+
 QString attributesOf(const QDomElement &element)
 {
     QMap<QString, QString> attributes;
@@ -44,7 +66,9 @@ QString attributesOf(const QDomElement &element)
     for (int i = 0; i < all.size(); ++i) {
         const QString name = all.item(i).nodeName();
         if (!name.startsWith(QLatin1String("xmlns")) && name != QLatin1String("ref")) {
-            attributes.insert(localName(name), plainValue(all.item(i).nodeValue()));
+            // Numbers in names of files tell one from another.
+            const QString value = all.item(i).nodeValue();
+            attributes.insert(localName(name), isReference(name) ? value.simplified() : plainValue(value));
         }
     }
     QString text;

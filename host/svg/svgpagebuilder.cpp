@@ -15,6 +15,7 @@
 #include "svg/svgvalues.h"
 
 #include <QDomDocument>
+#include <QRegularExpression>
 #include <cmath>
 
 namespace lessonhost {
@@ -77,6 +78,14 @@ bool isFillOf(const QDomElement &line, const QDomElement &area)
     const QString id = line.attribute(QStringLiteral("id"));
     return !id.isEmpty() && svgName(line) == QLatin1String("polyline") && svgName(area) == QLatin1String("polygon")
         && area.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
+}
+
+// The part of a transform that hides an element, as any program may write it.
+QRegularExpressionMatch awayPart(const QString &transform)
+{
+    static const QRegularExpression part(QStringLiteral("translate\\(\\s*-(?:1000000(?:\\.0*)?|1e\\+?0?6)(?:[\\s,]+0(?:\\.0*)?)?\\s*\\)"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    return transform.isEmpty() ? QRegularExpressionMatch() : part.match(transform);
 }
 
 bool isArrow(const QString &text)
@@ -295,8 +304,7 @@ void SvgPageBuilder::remarkOnExtras(const QDomElement &element, const QString &n
 
 bool SvgPageBuilder::isAway(const QDomElement &element) const
 {
-    return m_rules.isOwn
-        && element.attribute(QStringLiteral("transform")).trimmed().startsWith(QLatin1String(awayFromPage));
+    return m_rules.isOwn && awayPart(element.attribute(QStringLiteral("transform"))).hasMatch();
 }
 
 // rotate(a,x,y) with the angle in degrees, where the plug-in wrote it in radians; what is hidden in its place.
@@ -305,7 +313,8 @@ QString SvgPageBuilder::nativeTransform(const QDomElement &element) const
     const QString transform = element.attribute(QStringLiteral("transform")).trimmed();
     const QLatin1String rotate("rotate(");
     if (isAway(element)) {
-        return transform.mid(int(std::char_traits<char>::length(awayFromPage))).trimmed();
+        const QRegularExpressionMatch away = awayPart(transform);
+        return QString(transform).remove(away.capturedStart(), away.capturedLength()).trimmed();
     }
     if (!m_rules.isNative || m_rules.hasPlainTurns || !transform.startsWith(rotate)
         || transform.count(QLatin1Char(',')) != 2) {
