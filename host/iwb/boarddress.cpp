@@ -336,6 +336,18 @@ QJsonObject presentationInMeta(const QHash<QString, QString> &meta)
     return presentation;
 }
 
+QJsonObject changedInMeta(const QHash<QString, QString> &meta, const QJsonObject &presentation)
+{
+    QJsonObject changed = presentationInMeta(meta);
+    for (const auto &[name, key] : metaKeys) {
+        const QString was = withoutControlCharacters(valueText(presentation.value(QLatin1String(key))));
+        if (changed.value(QLatin1String(key)).toString().simplified() == was.simplified()) {
+            changed.remove(QLatin1String(key));
+        }
+    }
+    return changed;
+}
+
 void BoardDress::dress(QDomElement page, const Items &items)
 {
     m_elements.clear();

@@ -64,6 +64,9 @@ constexpr char creatorName[] = "lessonconv";
 //! What a document's meta says about a lesson, by the lesson's keys.
 QJsonObject presentationInMeta(const QHash<QString, QString> &meta);
 
+//! The same, of what it says otherwise than the document that was written of a lesson.
+QJsonObject changedInMeta(const QHash<QString, QString> &meta, const QJsonObject &presentation);
+
 } // namespace lessonhost
 
 #endif // BOARDDRESS_H

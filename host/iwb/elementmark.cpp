@@ -28,8 +28,9 @@ double inFewDigits(double number)
 {
     constexpr double border = 0.45;
     constexpr double firstOfSix = 1e5;
+    constexpr double smallest = 1e-99;
     const double size = std::fabs(number);
-    if (!std::isfinite(number) || (size < firstOfSix && size == std::floor(size))) {
+    if (!std::isfinite(number) || size < smallest || (size < firstOfSix && size == std::floor(size))) {
         return number;
     }
     const double last = std::pow(10, std::floor(std::log10(size)) - markDigits + 1);

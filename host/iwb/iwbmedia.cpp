@@ -10,7 +10,7 @@ QString IwbMedia::place(const QString &folder, const File &file, const QString &
         m_placed.insert(reference, file);
         m_new.append(reference);
         if (!file.isConverted) {
-            m_unchanged.insert(file.source, reference);
+            m_unchanged[file.source].append(reference);
         }
     }
     return reference;
@@ -27,7 +27,7 @@ void IwbMedia::storeNew(const std::function<void(const QString &, const File &)>
     }
 }
 
-QString IwbMedia::unchanged(const QString &relativePath) const
+QStringList IwbMedia::unchanged(const QString &relativePath) const
 {
     return m_unchanged.value(m_files.source(relativePath));
 }

@@ -45,8 +45,8 @@ public:
 
     //! Of all files, ascending.
     QStringList paths() const { return m_files.paths(); }
-    //! The reference under which a file of the lesson goes into the package as it is, or nothing.
-    QString unchanged(const QString &relativePath) const;
+    //! The references under which a file of the lesson goes into the package as it is.
+    QStringList unchanged(const QString &relativePath) const;
 
     //! References of pictures of items, ascending.
     QStringList made() const;
@@ -57,7 +57,7 @@ public:
 private:
     LessonFiles m_files;
     QHash<QString, File> m_placed; // by reference
-    QHash<QString, QString> m_unchanged; // references of files that go as they are, by their sources
+    QHash<QString, QStringList> m_unchanged; // references of files that go as they are, by their sources
     QStringList m_new;
 };
 

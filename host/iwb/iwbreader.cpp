@@ -25,16 +25,10 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
         throw LessonError(say("The document has no svg element with pages"), say("Check that this is an IWB lesson"))
             .in(m_package.displayName());
     }
-    SlideNames names;
-    for (int i = 0; i < outline.pageCount(); ++i) {
-        const QString id = outline.pageId(i);
-        if (!id.isEmpty() && !m_pageNumbers.contains(id)) {
-            m_pageNumbers.insert(id, i + 1);
-        }
-        m_slideIds.append(names.next(outline.backgroundName(i), id));
-    }
+    nameSlides();
     nameResources();
     const SlideLosses losses = m_losses.presentation();
+    tellSlides(losses);
     nameUnreadMeta(losses);
     for (const Sentence &remark : m_package.remarks()) {
         losses.note({QStringLiteral("presentation"), {}}, remark);
@@ -45,6 +39,98 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
         const LossOwner owner(remark.tag, remark.id);
         remark.isLoss ? losses.value(owner, {}, remark.text) : losses.note(owner, remark.text);
     }
+}
+
+// A page that another program has added is none of the lesson's own, and so is the second of an identifier.
+void IwbReader::nameSlides()
+{
+    const IwbOutline &outline = m_package.outline();
+    const QStringList known = m_native.pageIds();
+    int last = -1;
+    for (int i = 0; i < outline.pageCount(); ++i) {
+        const QString id = outline.pageId(i);
+        const int number = known.indexOf(id);
+        m_isNative.append(number >= 0 && !m_pageNumbers.contains(id));
+        m_arePagesMoved = m_arePagesMoved || (m_isNative.last() && number != i);
+        last = m_isNative.last() ? number : last;
+        if (!id.isEmpty() && !m_pageNumbers.contains(id)) {
+            m_pageNumbers.insert(id, i + 1);
+        }
+    }
+    m_arePagesMoved = m_arePagesMoved || last + 1 != known.size();
+    SlideNames names;
+    for (int i = 0; i < outline.pageCount() && m_isNative.contains(false); ++i) {
+        const auto native = m_isNative.at(i) ? m_native.page(outline.pageId(i)) : std::nullopt;
+        if (native) {
+            names.take(valueText(native->slide.value(SlideKeys::id)));
+        }
+    }
+    for (int i = 0; i < outline.pageCount(); ++i) {
+        m_slideIds.append(m_isNative.at(i) ? QString() : names.next(outline.backgroundName(i), outline.pageId(i)));
+    }
+}
+
+// What another program has done to the slides as such, and to what the lesson says of itself.
+void IwbReader::tellSlides(const SlideLosses &losses) const
+{
+    if (!m_native.isThere() || m_native.isUntouched()) {
+        return;
+    }
+    int last = 0;
+    bool isReordered = false;
+    for (int i = 0; i < m_isNative.size(); ++i) {
+        const int number = m_native.pageIds().indexOf(m_package.outline().pageId(i));
+        isReordered = isReordered || (m_isNative.at(i) && number < last);
+        last = m_isNative.at(i) ? number : last;
+    }
+    const QString presentation = QStringLiteral("presentation");
+    if (isReordered) {
+        losses.changed(presentation, say("its slides were put into another order by another program"));
+    }
+    for (const QString &id : m_native.pageIds()) {
+        const auto native = m_pageNumbers.contains(id) ? std::nullopt : m_native.page(id);
+        if (native) {
+            losses.changed({QStringLiteral("slide"), valueText(native->slide.value(SlideKeys::id))},
+                           say("removed by another program"));
+        }
+    }
+    if (!changedInMeta(m_package.outline().meta(), m_native.presentation()).isEmpty()) {
+        losses.changed(presentation, say("changed by another program"));
+    }
+}
+
+// Links to slides follow these. One whose slide is gone leads nowhere.
+void IwbReader::moveLinks(QJsonArray &items, const SlideLosses &losses) const
+{
+    for (int i = 0; i < items.size(); ++i) {
+        if (items.at(i).isObject()) {
+            items.replace(i, movedLinks(items.at(i).toObject(), losses));
+        }
+    }
+}
+
+QJsonObject IwbReader::movedLinks(QJsonObject item, const SlideLosses &losses) const
+{
+    if (item.value(HostKeys::children).isArray()) {
+        QJsonArray children = item.value(HostKeys::children).toArray();
+        moveLinks(children, losses);
+        item.insert(HostKeys::children, children);
+    }
+    const QString target = valueText(item.value(ItemKeys::linkValue));
+    const QString page = m_native.pageIds().value(target.toInt() - 1);
+    if (valueText(item.value(ItemKeys::linkType)) != QLatin1String("ACTION_GOTOSLIDE") || page.isEmpty()) {
+        return item;
+    }
+    const int number = m_pageNumbers.value(page);
+    if (number == 0) {
+        losses.value(item, ItemKeys::linkValue,
+                     say("link to \"%1\": %2").arg(target, say("the slide was removed by another program")));
+        item.remove(ItemKeys::linkType);
+        item.remove(ItemKeys::linkValue);
+    } else if (number != target.toInt()) {
+        item.insert(ItemKeys::linkValue, QString::number(number));
+    }
+    return item;
 }
 
 // What others say of the document, and no lesson does.
@@ -83,6 +169,9 @@ void IwbReader::nameResources()
         m_resources.insert(it.key(), it.value());
         m_lessonPaths.insert(it.value(), it.key());
     }
+    for (auto it = m_native.copies().constBegin(); it != m_native.copies().constEnd(); ++it) {
+        m_lessonPaths.insert(it.key(), it.value());
+    }
     const QSet<QString> used = madePicturesInUse();
     const QStringList inPackage = m_package.resources();
     for (const QString &path : inPackage) {
@@ -114,6 +203,10 @@ QJsonObject IwbReader::presentation()
             presentation.insert(PresentationKeys::width, shown.value(PresentationKeys::width));
             presentation.insert(PresentationKeys::height, shown.value(PresentationKeys::height));
         }
+        const QJsonObject meta = changedInMeta(m_package.outline().meta(), presentation);
+        for (auto it = meta.constBegin(); it != meta.constEnd(); ++it) {
+            presentation.insert(it.key(), it.value());
+        }
         return presentation;
     }
     const QJsonObject meta = presentationInMeta(m_package.outline().meta());
@@ -130,14 +223,20 @@ LessonSlide IwbReader::slide(int index)
 
 LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
 {
-    const auto native = m_native.page(m_package.outline().pageId(index));
+    const auto native = m_isNative.at(index) ? m_native.page(m_package.outline().pageId(index)) : std::nullopt;
     LessonSlide slide;
     if (native) {
         slide = PageRestorer(m_content, m_slides, m_package.recordTexts(), m_native.isUntouched())
                     .restore(index, *native, losses);
+        if (m_arePagesMoved) {
+            moveLinks(slide.items, losses);
+        }
     } else {
         slide = m_slides.read(m_content.page(index), index + 1, losses).slide;
         slide.properties.insert(SlideKeys::id, m_slideIds.at(index));
+        if (m_native.isThere()) {
+            losses.changed({QStringLiteral("slide"), m_slideIds.at(index)}, say("added by another program"));
+        }
     }
     checkSlideItems(slide.items, index + 1, m_package.displayName());
     if (slide.items.isEmpty() && losses.hasItem()) {

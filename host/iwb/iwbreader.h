@@ -28,6 +28,10 @@ public:
 
 private:
     LessonSlide slide(int index, const SlideLosses &losses);
+    void nameSlides();
+    void tellSlides(const SlideLosses &losses) const;
+    void moveLinks(QJsonArray &items, const SlideLosses &losses) const;
+    QJsonObject movedLinks(QJsonObject item, const SlideLosses &losses) const;
     void nameUnreadMeta(const SlideLosses &losses) const;
     QSet<QString> madePicturesInUse();
     void nameResources();
@@ -51,7 +55,9 @@ private:
     QHash<QString, QString> m_lessonPaths; // the other way round
     QSet<QString> m_asked; // paths that the pages show
     QHash<QString, int> m_pageNumbers;
-    QStringList m_slideIds;
+    QStringList m_slideIds; // of slides that are read from their pages
+    QVector<bool> m_isNative; // whether a page was made of a slide that has come along
+    bool m_arePagesMoved = false; // since they were written
 };
 
 } // namespace lessonhost

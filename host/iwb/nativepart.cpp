@@ -29,6 +29,7 @@ const QLatin1String form("form");
 const QLatin1String presentation("presentation");
 const QLatin1String size("size");
 const QLatin1String files("files");
+const QLatin1String copies("copies");
 const QLatin1String made("made");
 const QLatin1String document("document");
 const QLatin1String slide("slide");
@@ -160,22 +161,28 @@ void NativePartWriter::finish(const QJsonObject &presentation, const QSizeF &siz
                               const QByteArray &document)
 {
     QJsonObject files;
+    QJsonObject copies;
     for (const QString &path : media.paths()) {
-        QString place = media.unchanged(path);
-        if (place.isEmpty()) {
-            place = filesFolder + path;
-            m_target.copy(place, media.source(path), path);
+        QStringList places = media.unchanged(path);
+        if (places.isEmpty()) {
+            places.append(filesFolder + path);
+            m_target.copy(places.first(), media.source(path), path);
         }
-        files.insert(path, place);
+        files.insert(path, places.takeLast());
+        for (const QString &place : qAsConst(places)) {
+            copies.insert(place, path);
+        }
     }
-    m_target.write(lessonFile,
-                   QJsonDocument(QJsonObject{{Keys::form, form},
-                                             {Keys::presentation, presentation},
-                                             {Keys::size, QJsonArray{size.width(), size.height()}},
-                                             {Keys::files, files},
-                                             {Keys::made, QJsonArray::fromStringList(media.made())},
-                                             {Keys::document, QString::fromLatin1(document.toHex())}})
-                       .toJson(QJsonDocument::Compact));
+    QJsonObject lesson{{Keys::form, form},
+                       {Keys::presentation, presentation},
+                       {Keys::size, QJsonArray{size.width(), size.height()}},
+                       {Keys::files, files},
+                       {Keys::made, QJsonArray::fromStringList(media.made())},
+                       {Keys::document, QString::fromLatin1(document.toHex())}};
+    if (!copies.isEmpty()) {
+        lesson.insert(Keys::copies, copies);
+    }
+    m_target.write(lessonFile, QJsonDocument(lesson).toJson(QJsonDocument::Compact));
 }
 
 NativePart::NativePart(const IwbPackage &package)
@@ -200,12 +207,21 @@ NativePart::NativePart(const IwbPackage &package)
     InputFile content(package.contentFile(), package.displayName());
     document.addData(&content);
     content.check();
+    for (int number = 1; package.contains(pageFile(pagePrefix + QString::number(number))); ++number) {
+        m_pageIds.append(pagePrefix + QString::number(number));
+    }
     m_isUntouched = lesson.value(Keys::document).toString() == QLatin1String(document.result().toHex());
     const QJsonObject files = lesson.value(Keys::files).toObject();
     for (auto it = files.constBegin(); it != files.constEnd(); ++it) {
         const QString place = it.value().toString();
         if (problemWithPackagePath(it.key()).isEmpty() && package.contains(place)) {
             m_files.insert(it.key(), place);
+        }
+    }
+    const QJsonObject copies = lesson.value(Keys::copies).toObject();
+    for (auto it = copies.constBegin(); it != copies.constEnd(); ++it) {
+        if (m_files.contains(it.value().toString())) {
+            m_copies.insert(it.key(), it.value().toString());
         }
     }
 }

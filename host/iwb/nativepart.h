@@ -46,9 +46,9 @@ struct NativePage
  * The lesson itself, beside the document of an IWB package, in files that programs of other boards pass over:
  *
  *     additional/native/lesson.json   {"form": 1, "presentation": {...}, "size": [w, h], "files": {path in the lesson:
- * path in the package}, "made": [pictures of items], "document": checksum of content.xml} additional/native/page1.json
- * {"slide": {...}, "background": {"ids", "mark"}, "items": [{"item", "parts"}]} additional/native/files/...     files
- * of the lesson that no page shows as they are
+ * path in the package}, "copies": {further path in the package: path in the lesson}, "made": [pictures of items],
+ * "document": checksum of content.xml} additional/native/page1.json {"slide": {...}, "background": {"ids", "mark"},
+ * "items": [{"item", "parts"}]} additional/native/files/...     files of the lesson that no page shows as they are
  *
  * Each item is bound to the elements that stand for it by their identifiers and marks.
  */
@@ -80,11 +80,15 @@ public:
     const QJsonObject &presentation() const { return m_presentation; }
     //! Of the pages, as it was written.
     QSizeF size() const { return m_size; }
+    //! Of the pages that were written, in their order.
+    const QStringList &pageIds() const { return m_pageIds; }
     //! What the page with that identifier was made of. Throws LessonError where the file can't be read.
     std::optional<NativePage> page(const QString &pageId) const;
 
     //! Paths of the lesson's files in the package, by those in the lesson.
     const QHash<QString, QString> &files() const { return m_files; }
+    //! Paths of the same files in the lesson, by further ones in the package.
+    const QHash<QString, QString> &copies() const { return m_copies; }
     //! Whether a picture stands for an item, and is no file of the lesson.
     bool isMade(const QString &packagePath) const { return m_made.contains(packagePath); }
     //! Whether the document is, byte for byte, what was written.
@@ -97,7 +101,9 @@ private:
     QJsonObject m_presentation;
     QSizeF m_size;
     QHash<QString, QString> m_files;
+    QHash<QString, QString> m_copies;
     QSet<QString> m_made;
+    QStringList m_pageIds;
     bool m_isUntouched = false;
 };
 

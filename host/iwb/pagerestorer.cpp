@@ -4,6 +4,8 @@
 #include "iwb/elementmark.h"
 #include "iwb/uniqueids.h"
 #include "lesson/itemkeys.h"
+#include "lesson/itemview.h"
+#include "svg/svgnames.h"
 
 #include <QSet>
 
@@ -14,8 +16,55 @@ namespace lessonhost {
 namespace {
 
 // What a page's background shows of a slide.
-const QLatin1String backgroundKeys[] = {SlideKeys::color, SlideKeys::backColor, SlideKeys::document, SlideKeys::files,
-                                        SlideKeys::texture};
+const QLatin1String colorKeys[] = {SlideKeys::color, SlideKeys::backColor};
+const QLatin1String pictureKeys[] = {SlideKeys::document, SlideKeys::files, SlideKeys::texture};
+
+// Groups of which the document shows one item at most are none there. Here they have numbers behind its own.
+constexpr int ownGroups = 1 << 30;
+
+QString idOf(const QDomElement &element)
+{
+    return element.attribute(QStringLiteral("id"));
+}
+
+bool isPlaceKey(const QString &key)
+{
+    return key == ItemKeys::box || key == ItemKeys::matrix || key == ItemKeys::angle;
+}
+
+void collectLeaves(const QJsonObject &item, QVector<QJsonObject> &leaves)
+{
+    const QVector<QJsonObject> children = ItemView(item).childObjects();
+    if (children.isEmpty()) {
+        leaves.append(item);
+    }
+    for (const QJsonObject &child : children) {
+        collectLeaves(child, leaves);
+    }
+}
+
+// A tree of groups with others in the place of its leaves. Nothing for one of which none is there.
+QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &present, int &leaf)
+{
+    if (ItemView(item).childObjects().isEmpty()) {
+        return present.value(leaf++);
+    }
+    QJsonArray children;
+    bool isThere = false;
+    const QJsonArray all = item.value(HostKeys::children).toArray();
+    for (const QJsonValue &value : all) {
+        const QJsonObject child = value.isObject() ? rebuilt(value.toObject(), present, leaf) : QJsonObject();
+        if (!value.isObject()) {
+            children.append(value);
+        } else if (!child.isEmpty()) {
+            isThere = true;
+            children.append(child);
+        }
+    }
+    QJsonObject result = item;
+    result.insert(HostKeys::children, children);
+    return isThere ? result : QJsonObject();
+}
 
 } // namespace
 
@@ -30,14 +79,15 @@ PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader,
 
 LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses)
 {
+    m_native = &native;
     m_layers = m_content.layers(index);
     lookAtPage();
     LessonSlide slide;
-    slide.properties = properties(native, index + 1, losses);
-    placeEntries(native);
+    slide.properties = properties(index + 1);
+    placeEntries();
     placeOthers(index + 1, losses);
     slide.items = grouped(index + 1, losses);
-    tell(losses);
+    tell(valueText(native.slide.value(SlideKeys::id)), losses);
     return slide;
 }
 
@@ -49,159 +99,253 @@ void PageRestorer::lookAtPage()
             if (isFillBehind(child)) {
                 continue;
             }
-            const QString id = itemElement(child).attribute(QStringLiteral("id"));
+            const QString id = idOf(itemElement(child));
             const int group = m_content.outline().groupOf(id);
             m_groupSizes[group] += group < 0 ? 0 : 1;
-            // Of two, neither is surely the one.
-            m_byId.insert(id, m_byId.contains(id) ? -1 : m_children.size());
+            m_byId[id].append(m_children.size());
             m_children.append(child);
         }
     }
 }
 
+bool PageRestorer::isMarked(int child, const QString &mark) const
+{
+    return m_isUntouched || elementMark(m_children.at(child), m_records) == mark;
+}
+
+bool PageRestorer::isBackgroundIntact(const QString &id, const QString &mark) const
+{
+    const QVector<int> children = m_byId.value(id);
+    return !children.isEmpty() && isMarked(children.first(), mark);
+}
+
+// Where the colour or the picture is another one, the page tells it.
+QJsonObject PageRestorer::properties(int number)
+{
+    const QStringList marks = m_native->backgroundMark.split(QLatin1Char(' '));
+    bool isColorOther = false;
+    bool isPictureOther = false;
+    for (int i = 0; i < m_native->backgroundIds.size(); ++i) {
+        const QString &id = m_native->backgroundIds.at(i);
+        if (isBackgroundIntact(id, marks.value(i))) {
+            m_taken.insert(m_byId.value(id).first());
+        } else {
+            (i == 0 ? isColorOther : isPictureOther) = true;
+        }
+    }
+    const QHash<QString, IwbRecord> &records = m_content.outline().rules().records;
+    for (int i = 0; i < m_children.size(); ++i) {
+        const QDomElement &child = m_children.at(i);
+        const auto record = records.constFind(idOf(child));
+        if (!m_taken.contains(i) && record != records.constEnd() && record->isBackground) {
+            (svgName(child) == QLatin1String("rect") ? isColorOther : isPictureOther) = true;
+        }
+    }
+    QJsonObject properties = m_native->slide;
+    m_hasOtherBackground = isColorOther || isPictureOther;
+    if (!m_hasOtherBackground) {
+        return properties;
+    }
+    // The whole page, since another element may be the background now.
+    const QJsonObject shown = m_reader.read(m_content.page(m_layers), number, {}).slide.properties;
+    const auto takeOver = [&properties, &shown](const auto &keys) {
+        for (const QLatin1String key : keys) {
+            properties.remove(key);
+            if (shown.contains(key)) {
+                properties.insert(key, shown.value(key));
+            }
+        }
+    };
+    if (isColorOther) {
+        takeOver(colorKeys);
+    }
+    if (isPictureOther) {
+        takeOver(pictureKeys);
+    }
+    return properties;
+}
+
+// Of several elements of one identifier, that is meant which is as it was.
+QVector<PageRestorer::Found> PageRestorer::findParts(const NativePage::Entry &entry)
+{
+    QVector<Found> found;
+    for (const NativePage::Part &part : entry.parts) {
+        Found row{-1, part.id.isEmpty()};
+        const QVector<int> children = part.id.isEmpty() ? QVector<int>() : m_byId.value(part.id);
+        for (const int child : children) {
+            if (row.isIntact || m_taken.contains(child)) {
+                continue;
+            }
+            row.isIntact = isMarked(child, part.mark);
+            row.child = row.isIntact || row.child < 0 ? child : row.child;
+        }
+        if (row.isIntact && row.child >= 0) {
+            m_taken.insert(row.child);
+        }
+        found.append(row);
+    }
+    return found;
+}
+
 // Whether the document still has the elements of an entry, and no others, in one group, as it was written.
-bool PageRestorer::isOneGroup(const NativePage::Entry &entry) const
+bool PageRestorer::isOneGroup(const NativePage::Entry &entry, const QVector<Found> &found) const
 {
     QSet<int> groups;
     int shown = 0;
-    for (const NativePage::Part &part : entry.parts) {
-        if (!part.id.isEmpty()) {
-            groups.insert(m_content.outline().groupOf(part.id));
+    int last = -1;
+    bool isInOrder = true;
+    for (int i = 0; i < found.size(); ++i) {
+        const int child = found.at(i).child;
+        if (child >= 0) {
+            isInOrder = isInOrder && (shown == 0 || child == last + 1);
+            last = child;
+            groups.insert(m_content.outline().groupOf(entry.parts.at(i).id));
             ++shown;
         }
     }
     const int group = groups.isEmpty() ? -1 : *groups.constBegin();
-    return groups.size() == 1 && group >= 0 && m_groupSizes.value(group) == shown;
-}
-
-bool PageRestorer::isIntact(const NativePage::Part &part)
-{
-    if (part.id.isEmpty()) {
-        return true;
-    }
-    const int child = m_byId.value(part.id, -1);
-    return child >= 0 && !m_taken.contains(child) && (m_isUntouched || markOf(child) == part.mark);
-}
-
-const QString &PageRestorer::markOf(int child)
-{
-    QString &mark = m_marks[child];
-    if (mark.isEmpty()) {
-        mark = elementMark(m_children.at(child), m_records);
-    }
-    return mark;
-}
-
-QJsonObject PageRestorer::properties(const NativePage &native, int number, const SlideLosses &losses)
-{
-    QVector<QDomElement> background;
-    for (const QString &id : native.backgroundIds) {
-        const int child = m_byId.value(id, -1);
-        if (child >= 0) {
-            background.append(m_children.at(child));
-        }
-    }
-    const bool isSame = (m_isUntouched && background.size() == native.backgroundIds.size())
-        || backgroundMark(background, m_records) == native.backgroundMark;
-    if (isSame) {
-        for (const QString &id : native.backgroundIds) {
-            m_taken.insert(m_byId.value(id));
-        }
-        return native.slide;
-    }
-    ++m_changed;
-    QJsonObject properties = native.slide;
-    for (const QLatin1String key : backgroundKeys) {
-        properties.remove(key);
-    }
-    // The whole page, since another element may be the background now.
-    const QJsonObject shown = m_reader.read(m_content.page(m_layers), number, {}).slide.properties;
-    for (auto it = shown.constBegin(); it != shown.constEnd(); ++it) {
-        properties.insert(it.key(), it.value());
-    }
-    Q_UNUSED(losses)
-    return properties;
+    return groups.size() == 1 && group >= 0 && m_groupSizes.value(group) == shown && isInOrder;
 }
 
 // Items without an element stay behind the one that they stood behind.
-void PageRestorer::placeEntries(const NativePage &native)
+void PageRestorer::placeEntries()
 {
     int last = -1;
-    for (const NativePage::Entry &entry : native.entries) {
+    for (int number = 0; number < m_native->entries.size(); ++number) {
+        const NativePage::Entry &entry = m_native->entries.at(number);
+        const QVector<Found> found = findParts(entry);
         int first = -1;
-        const bool isOther = entry.isGroup && !isOneGroup(entry);
         bool isWhole = true;
-        int group = -1;
-        for (const NativePage::Part &part : entry.parts) {
-            const bool isPartIntact = isIntact(part);
-            isWhole = isWhole && isPartIntact;
-            const int child = part.id.isEmpty() ? -1 : m_byId.value(part.id, -1);
-            group = entry.isGroup && child >= 0 ? qMax(group, m_content.outline().groupOf(part.id)) : group;
-            if (isPartIntact && child >= 0 && (first < 0 || child < first)) {
-                first = child;
-            }
+        for (const Found &part : found) {
+            isWhole = isWhole && part.isIntact;
+            first = part.child >= 0 && (first < 0 || part.child < first) ? part.child : first;
         }
+        m_isReordered = m_isReordered || (first >= 0 && first < last);
         last = first >= 0 ? first : last;
-        if (isWhole && !isOther) {
+        if (isWhole && (!entry.isGroup || isOneGroup(entry, found))) {
             const bool isAlone = entry.parts.size() == 1 && first >= 0;
-            m_placed.append({last, entry.item, isAlone ? m_content.outline().groupOf(entry.parts.first().id) : -1});
+            const int group = isAlone ? m_content.outline().groupOf(entry.parts.first().id) : -1;
+            m_placed.append({last, entry.item, group, {number, 0}, true, first < 0});
             ++m_restored;
-        } else if (group >= 0) {
-            m_groups.insert(group, entry.item);
-            m_changed += isWhole ? 1 : 0; // others are in it
-        } else if (entry.parts.size() > 1) {
-            ++m_changed; // the group is none any more
-        }
-        isWhole = isWhole && !isOther;
-        for (const NativePage::Part &part : entry.parts) {
-            const int child = part.id.isEmpty() ? -1 : m_byId.value(part.id, -1);
-            const bool isPartIntact = isIntact(part);
-            if (isPartIntact && child >= 0) {
-                m_taken.insert(child);
-            }
-            if (isWhole) {
-                continue;
-            }
-            if (isPartIntact && !part.item.isEmpty()) {
-                m_placed.append(
-                    {child >= 0 ? child : last, part.item, child >= 0 ? m_content.outline().groupOf(part.id) : group});
-                ++m_restored;
-            } else if (!isPartIntact) {
-                ++(child >= 0 ? m_changed : m_gone);
-            }
+        } else {
+            placeParts(number, found, &last);
         }
     }
 }
 
-// What the document alone tells, a run of neighbours at a time.
+// What an entry holds, by itself. last: the child behind which it stands, and then the last of its own.
+void PageRestorer::placeParts(int number, const QVector<Found> &found, int *last)
+{
+    const NativePage::Entry &entry = m_native->entries.at(number);
+    int group = -1;
+    int shown = 0;
+    for (int i = 0; i < found.size(); ++i) {
+        shown += found.at(i).child >= 0 ? 1 : 0;
+        group = found.at(i).child >= 0 ? qMax(group, m_content.outline().groupOf(entry.parts.at(i).id)) : group;
+    }
+    const bool isContainer = !ItemView(entry.item).childObjects().isEmpty();
+    // The document has no group of one.
+    const bool isLonely = isContainer && shown < 2 && (group < 0 || m_groupSizes.value(group) == shown);
+    if (isContainer) {
+        m_opened.insert(number);
+    }
+    if (isLonely) {
+        m_lonely.insert(number);
+    }
+    bool isBehind = false; // the first that is shown
+    for (int i = 0; i < found.size(); ++i) {
+        const NativePage::Part &part = entry.parts.at(i);
+        const Found &row = found.at(i);
+        *last = row.child >= 0 ? row.child : *last;
+        isBehind = isBehind || row.child >= 0 || shown == 0;
+        if (row.isIntact) {
+            const int own = row.child >= 0 ? m_content.outline().groupOf(part.id) : group;
+            m_placed.append({*last,
+                             part.item.isEmpty() ? itemAt({number, i}) : part.item,
+                             isLonely ? ownGroups + number : own,
+                             {number, i},
+                             true,
+                             row.child < 0 && isBehind});
+            ++m_restored;
+        } else {
+            m_lostIds.insert(part.id, m_lost.size());
+            m_lost.append({part.id, {number, i}});
+        }
+    }
+}
+
+// What the document alone tells, a run of neighbours at a time; what stands for an item by itself.
 void PageRestorer::placeOthers(int number, const SlideLosses &losses)
 {
     UniqueIds ids;
     for (const Placed &placed : qAsConst(m_placed)) {
         ids.take(placed.item.value(ItemKeys::id).toString());
     }
+    const auto isLost = [this](int child) { return m_lostIds.contains(idOf(itemElement(m_children.at(child)))); };
     for (int i = 0; i < m_children.size();) {
         int end = i;
-        while (end < m_children.size() && !m_taken.contains(end)) {
+        while (end < m_children.size() && !m_taken.contains(end) && (end == i || !isLost(end))
+               && (end == i || !isLost(i))) {
             ++end;
         }
         if (end > i) {
-            const IwbSlideReader::Slide found =
-                m_reader.readLoose(m_content.page(m_layers, m_children.mid(i, end - i)), number, losses, ids);
-            for (int k = 0; k < found.slide.items.size(); ++k) {
-                m_placed.append({i, found.slide.items.at(k).toObject(), found.groups.at(k)});
-                ++m_others;
+            placeRun(i, end, number, losses, ids);
+        }
+        i = qMax(end, i + 1);
+    }
+}
+
+void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &losses, UniqueIds &ids)
+{
+    const IwbSlideReader::Slide found =
+        m_reader.readLoose(m_content.page(m_layers, m_children.mid(begin, end - begin)), number, losses, ids);
+    for (int i = 0; i < found.slide.items.size(); ++i) {
+        Placed placed{begin, found.slide.items.at(i).toObject(), found.groups.at(i), {}, false, false};
+        const int lost = m_lostIds.value(found.elementIds.at(i), -1);
+        if (lost < 0 || m_lost.at(lost).isThere) {
+            m_added.append(placed.item);
+            m_placed.append(placed);
+            continue;
+        }
+        // It is called what it was, and moves as it did.
+        m_lost[lost].isThere = true;
+        placed.origin = m_lost.at(lost).origin;
+        const QJsonObject own = itemAt(placed.origin);
+        for (const QLatin1String key : {ItemKeys::id, ItemKeys::animations}) {
+            if (!valueText(own.value(ItemKeys::id)).isEmpty() && own.contains(key)) {
+                placed.item.insert(key, own.value(key));
             }
         }
-        i = end + 1;
+        const int entry = placed.origin.entry;
+        placed.group = m_lonely.contains(entry) ? ownGroups + entry : placed.group;
+        m_placed.append(placed);
     }
+}
+
+// What stands on a page by itself of an entry, in its order.
+const QVector<QJsonObject> &PageRestorer::leavesOf(int entry)
+{
+    QVector<QJsonObject> &leaves = m_leaves[entry];
+    if (leaves.isEmpty()) {
+        collectLeaves(m_native->entries.at(entry).item, leaves);
+    }
+    return leaves;
+}
+
+// The item as the lesson had it; within a group, as the group held it.
+QJsonObject PageRestorer::itemAt(const Origin &origin)
+{
+    const NativePage::Entry &entry = m_native->entries.at(origin.entry);
+    const QVector<QJsonObject> &leaves = leavesOf(origin.entry);
+    return leaves.size() == entry.parts.size() ? leaves.at(origin.leaf) : entry.parts.at(origin.leaf).item;
 }
 
 // Items that the document has in a group, with what the group itself was.
 QJsonArray PageRestorer::grouped(int number, const SlideLosses &losses)
 {
-    std::stable_sort(m_placed.begin(), m_placed.end(),
-                     [](const Placed &one, const Placed &other) { return one.child < other.child; });
+    std::stable_sort(m_placed.begin(), m_placed.end(), [](const Placed &one, const Placed &other) {
+        return one.child < other.child || (one.child == other.child && !one.isBehind && other.isBehind);
+    });
     IwbSlideReader::Slide slide;
     UniqueIds ids;
     for (const Placed &placed : qAsConst(m_placed)) {
@@ -211,31 +355,121 @@ QJsonArray PageRestorer::grouped(int number, const SlideLosses &losses)
         ids.take(slide.elementIds.last());
     }
     IwbSlideReader::putIntoGroups(slide, number, ids, losses);
-    for (int i = 0; i < slide.groups.size(); ++i) {
-        QJsonObject group = slide.slide.items.at(i).toObject();
-        const QJsonObject given = m_groups.value(slide.groups.at(i));
-        for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
-            const bool isPlace =
-                it.key() == ItemKeys::box || it.key() == ItemKeys::matrix || it.key() == ItemKeys::angle;
-            if (!isPlace && it.key() != HostKeys::children && it.key() != ItemKeys::visible) {
-                group.insert(it.key(), it.value());
-            }
+    for (const Lost &lost : qAsConst(m_lost)) {
+        m_goneOf[lost.origin.entry] += lost.isThere ? 0 : 1;
+    }
+    int begin = 0;
+    for (int i = 0; i < slide.slide.items.size(); ++i) {
+        const int group = m_placed.at(begin).group;
+        int end = begin + 1;
+        while (group >= 0 && end < m_placed.size() && m_placed.at(end).group == group) {
+            ++end;
         }
-        slide.slide.items.replace(i, group);
+        const QVector<Placed> members = m_placed.mid(begin, end - begin);
+        begin = end;
+        const auto own = std::find_if(members.cbegin(), members.cend(),
+                                      [this](const Placed &member) { return m_opened.contains(member.origin.entry); });
+        if (own != members.cend() && (members.size() > 1 || group >= ownGroups)) {
+            QJsonObject made = slide.slide.items.at(i).toObject();
+            if (members.size() == 1) {
+                made = {{ItemKeys::box, made.value(ItemKeys::box)}, {ItemKeys::visible, made.value(ItemKeys::visible)}};
+            }
+            slide.slide.items.replace(i, groupOf(own->origin.entry, members, made));
+        }
     }
     return slide.slide.items;
 }
 
-void PageRestorer::tell(const SlideLosses &losses) const
+// A group with what it was beside its members. made: what the document alone tells of it.
+QJsonObject PageRestorer::groupOf(int entry, const QVector<Placed> &members, const QJsonObject &made)
 {
-    if (m_changed + m_gone + m_others == 0) {
-        return;
+    const QJsonObject &given = m_native->entries.at(entry).item;
+    const bool isVisible = std::any_of(members.cbegin(), members.cend(),
+                                       [](const Placed &member) { return ItemView(member.item).isVisible(); });
+    const bool isShownNow = isVisible && !ItemView(given).isVisible();
+    QHash<int, QJsonObject> present;
+    QJsonArray others;
+    int last = -1;
+    bool isInOrder = leavesOf(entry).size() == m_native->entries.at(entry).parts.size();
+    for (const Placed &member : members) {
+        if (member.origin.entry != entry) {
+            others.append(member.item);
+            continue;
+        }
+        isInOrder = isInOrder && member.origin.leaf > last && others.isEmpty();
+        last = member.origin.leaf;
+        present.insert(last, member.isIntact && !isShownNow ? itemAt(member.origin) : member.item);
     }
-    losses.note(QStringLiteral("page"),
-                say("%1, %2 and %3 by another program; %4")
-                    .arg(sayNumber("%n things changed", m_changed), sayNumber("%n items removed", m_gone),
-                         sayNumber("%n added", qMax(0, m_others - m_changed)),
-                         sayNumber("%n items are as they were", m_restored)));
+    QJsonObject group = made;
+    if (isInOrder) {
+        int leaf = 0;
+        QJsonArray children = rebuilt(given, present, leaf).value(HostKeys::children).toArray();
+        for (const QJsonValue &other : qAsConst(others)) {
+            children.append(other);
+        }
+        group.insert(HostKeys::children, children);
+    }
+    const bool staysPut = others.isEmpty() && holdsPlaces(entry, members);
+    for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
+        const bool isOther = (isPlaceKey(it.key()) && !staysPut) || it.key() == HostKeys::children
+            || (it.key() == ItemKeys::visible && isShownNow);
+        if (!isOther) {
+            group.insert(it.key(), it.value());
+        }
+    }
+    for (const QLatin1String key : {ItemKeys::visible, ItemKeys::box}) {
+        if (!given.contains(key) && (key == ItemKeys::visible ? !isShownNow : staysPut)) {
+            group.remove(key);
+        }
+    }
+    // A group is told only where others are in it, or some of it is elsewhere.
+    if (others.isEmpty() && present.size() + m_goneOf.value(entry) == m_native->entries.at(entry).parts.size()) {
+        m_opened.remove(entry);
+    }
+    return group;
+}
+
+// Whether all that a group held covers what it covered.
+bool PageRestorer::holdsPlaces(int entry, const QVector<Placed> &members)
+{
+    constexpr double tolerance = 0.5;
+    const auto isInPlace = [this](const Placed &member) {
+        const auto was = ItemView(itemAt(member.origin)).place();
+        const auto is = ItemView(member.item).place();
+        const QRectF one = was ? was->extent() : QRectF();
+        const QRectF other = is ? is->extent() : QRectF();
+        return member.isIntact
+            || (was && is && qAbs(one.left() - other.left()) < tolerance && qAbs(one.top() - other.top()) < tolerance
+                && qAbs(one.right() - other.right()) < tolerance && qAbs(one.bottom() - other.bottom()) < tolerance);
+    };
+    return members.size() == m_native->entries.at(entry).parts.size()
+        && std::all_of(members.cbegin(), members.cend(), isInPlace);
+}
+
+void PageRestorer::tell(const QString &slideId, const SlideLosses &losses)
+{
+    const LossOwner slide(QStringLiteral("slide"), slideId);
+    if (m_hasOtherBackground) {
+        losses.changed(slide, say("its background was changed by another program"));
+    }
+    if (m_isReordered) {
+        losses.changed(slide, say("its items were put into another order by another program"));
+    }
+    for (const Lost &lost : qAsConst(m_lost)) {
+        losses.changed(itemAt(lost.origin),
+                       lost.isThere ? say("changed by another program") : say("removed by another program"));
+    }
+    for (int entry = 0; entry < m_native->entries.size(); ++entry) {
+        if (m_opened.contains(entry) && m_goneOf.value(entry) < m_native->entries.at(entry).parts.size()) {
+            losses.changed(m_native->entries.at(entry).item, say("its items were put elsewhere by another program"));
+        }
+    }
+    for (const LossOwner &owner : qAsConst(m_added)) {
+        losses.changed(owner, say("added by another program"));
+    }
+    if (m_hasOtherBackground || m_isReordered || !m_lost.isEmpty() || !m_opened.isEmpty() || !m_added.isEmpty()) {
+        losses.note(QStringLiteral("page"), sayNumber("%n items are as they were", m_restored));
+    }
 }
 
 } // namespace lessonhost

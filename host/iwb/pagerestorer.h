@@ -23,40 +23,74 @@ public:
     LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses);
 
 private:
+    // Which of the lesson's own items something was: the entry, and the number of the item among those that it holds.
+    struct Origin
+    {
+        int entry = -1;
+        int leaf = -1;
+    };
+    // The element of a part.
+    struct Found
+    {
+        int child = -1; // of the page; -1 where it isn't there, or never was
+        bool isIntact = false;
+    };
     struct Placed
     {
         int child; // of the page where it stands
         QJsonObject item;
         int group = -1; // of the document, for one that stands by itself
+        Origin origin;
+        bool isIntact = false;
+        bool isBehind = false; // has no element and stands behind the child's item
+    };
+    // A part whose element is another, or none, now.
+    struct Lost
+    {
+        QString id;
+        Origin origin;
+        bool isThere = false;
     };
 
     void lookAtPage();
-    bool isOneGroup(const NativePage::Entry &entry) const;
-    bool isIntact(const NativePage::Part &part);
-    const QString &markOf(int child);
-    void placeEntries(const NativePage &native);
+    QJsonObject properties(int number);
+    bool isMarked(int child, const QString &mark) const;
+    bool isBackgroundIntact(const QString &id, const QString &mark) const;
+    QVector<Found> findParts(const NativePage::Entry &entry);
+    bool isOneGroup(const NativePage::Entry &entry, const QVector<Found> &found) const;
+    void placeEntries();
+    void placeParts(int number, const QVector<Found> &found, int *last);
     void placeOthers(int number, const SlideLosses &losses);
+    void placeRun(int begin, int end, int number, const SlideLosses &losses, UniqueIds &ids);
     QJsonArray grouped(int number, const SlideLosses &losses);
-    QJsonObject properties(const NativePage &native, int number, const SlideLosses &losses);
-    void tell(const SlideLosses &losses) const;
+    QJsonObject groupOf(int entry, const QVector<Placed> &members, const QJsonObject &made);
+    bool holdsPlaces(int entry, const QVector<Placed> &members);
+    const QVector<QJsonObject> &leavesOf(int entry);
+    QJsonObject itemAt(const Origin &origin);
+    void tell(const QString &slideId, const SlideLosses &losses);
 
     const SvgNormalizer &m_content;
     IwbSlideReader &m_reader;
     const QHash<QString, QString> &m_records;
     const bool m_isUntouched;
 
+    const NativePage *m_native = nullptr;
     QVector<XmlPart> m_layers; // of the page
     QVector<QDomElement> m_children; // of these
-    QHash<QString, int> m_byId; // the child in which an element stands
-    QHash<int, QString> m_marks; // of children that were asked for
+    QHash<QString, QVector<int>> m_byId; // the children that stand for an identifier
     QHash<int, int> m_groupSizes; // of the document's groups on this page
-    QHash<int, QJsonObject> m_groups; // what they were, where other programs have changed what is in them
     QSet<int> m_taken; // children that need not be read
     QVector<Placed> m_placed;
+    QVector<Lost> m_lost;
+    QHash<QString, int> m_lostIds; // places in m_lost
+    QHash<int, QVector<QJsonObject>> m_leaves; // what entries hold that were asked for
+    QHash<int, int> m_goneOf; // how many parts of an entry aren't there
+    QSet<int> m_lonely; // those of which the document shows one part at most
+    QSet<int> m_opened; // entries that hold several items and aren't there as they were
+    QVector<LossOwner> m_added;
+    bool m_hasOtherBackground = false;
+    bool m_isReordered = false;
     int m_restored = 0;
-    int m_changed = 0;
-    int m_gone = 0;
-    int m_others = 0;
 };
 
 } // namespace lessonhost

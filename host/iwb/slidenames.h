@@ -17,6 +17,9 @@ public:
     //! The identifier of the next slide; made: what its page was made of, page: its page. Both may be empty.
     QString next(const QString &made, const QString &page);
 
+    //! A slide has this name, wherever it comes.
+    void take(const QString &name) { m_used.insert(name); }
+
 private:
     QSet<QString> m_used;
 };

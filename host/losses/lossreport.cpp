@@ -178,6 +178,7 @@ Sentence listedOf(Loss::Kind kind, const QVector<Loss> &losses)
     case Loss::AsPicture:
     case Loss::NotShown:
         return countedByType(losses);
+    case Loss::Changed:
     case Loss::Note:
         break;
     }
@@ -217,6 +218,8 @@ QLatin1String lossKindName(Loss::Kind kind)
         return QLatin1String("emptied");
     case Loss::EmptiedElsewhere:
         return QLatin1String("emptiedElsewhere");
+    case Loss::Changed:
+        return QLatin1String("changed");
     case Loss::Note:
         break;
     }
@@ -227,7 +230,8 @@ const QVector<Loss::Kind> &lossKinds()
 {
     static const QVector<Loss::Kind> kinds{
         Loss::Value,    Loss::Item,      Loss::File,             Loss::Emptied, Loss::Absent, Loss::AsPicture,
-        Loss::NotShown, Loss::Otherwise, Loss::EmptiedElsewhere, Loss::Kept,    Loss::Note};
+        Loss::NotShown, Loss::Otherwise, Loss::EmptiedElsewhere, Loss::Changed, Loss::Kept,
+        Loss::Note};
     return kinds;
 }
 
@@ -263,6 +267,8 @@ Sentence lossLine(Loss::Kind kind, qint64 count, const Sentence &listed, const Q
         return sayNumber("%n slides are empty in the result: %1", count).arg(listed);
     case Loss::EmptiedElsewhere:
         return sayNumber("%n slides are empty on other boards: %1", count).arg(listed);
+    case Loss::Changed:
+        return sayNumber("%n things are another program's work: %1", count).arg(listed);
     case Loss::Note:
         break;
     }
@@ -297,6 +303,7 @@ Loss::Group groupOf(const Loss &loss)
     case Loss::EmptiedElsewhere:
         return Loss::Missing;
     case Loss::Kept:
+    case Loss::Changed:
     case Loss::Note:
         break;
     }

@@ -22,6 +22,7 @@ struct Loss
         Item, //!< an item has no form in the format written, and isn't there
         Kept, //!< an item nobody can convert went over as it came: named, but no loss
         File, //!< a file that the lesson names isn't there or can't be taken
+        Changed, //!< what another program has done to the lesson since it was written: named, but no loss
         Note, //!< done otherwise than one would expect: named, but no loss
         AsPicture, //!< an item that other boards show as a picture; it travels along and comes back, so no loss
         NotShown, //!< an item that other boards don't show; it travels along and comes back, so no loss

@@ -307,7 +307,7 @@ private:
             const bool isOfItem = loss.slide > 0 || !loss.itemId.isEmpty();
             if (loss.kind == Loss::Kept) {
                 kept.add(say("nobody knows what it is, so it is kept as it came"), loss);
-            } else if (loss.kind == Loss::Note && isOfItem) {
+            } else if ((loss.kind == Loss::Note && isOfItem) || loss.kind == Loss::Changed) {
                 items.add(loss.detail, loss);
             } else if (loss.kind == Loss::Note) {
                 lines.append(say("%1.").arg(capitalized(loss.detail)));

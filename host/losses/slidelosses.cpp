@@ -71,6 +71,11 @@ void SlideLosses::file(const LossOwner &owner, const QString &reference, const S
     add(m_isElsewhere ? Loss::Otherwise : Loss::File, owner, reference, why);
 }
 
+void SlideLosses::changed(const LossOwner &owner, const Sentence &how) const
+{
+    add(Loss::Changed, owner, {}, how);
+}
+
 void SlideLosses::note(const LossOwner &owner, const Sentence &detail, const QString &key) const
 {
     add(Loss::Note, owner, key, detail);

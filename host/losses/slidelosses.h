@@ -62,6 +62,8 @@ public:
     void kept(const LossOwner &owner) const;
     //! A file that isn't there or can't be taken.
     void file(const LossOwner &owner, const QString &reference, const Sentence &why) const;
+    //! What another program has done to an item or a slide since the lesson was written.
+    void changed(const LossOwner &owner, const Sentence &how) const;
     //! What is done otherwise than one would expect, and loses nothing.
     void note(const LossOwner &owner, const Sentence &detail, const QString &key = {}) const;
 

@@ -1575,31 +1575,6 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>no page shows them, so they stay behind: %1</source>
         <translation>keine Seite zeigt sie, deshalb bleiben sie zurück: %1</translation>
     </message>
-    <message>
-        <source>%1, %2 and %3 by another program; %4</source>
-        <translation>von einem anderen Programm: %1, %2 und %3; %4</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n things changed</source>
-        <translation>
-            <numerusform>%n Sache geändert</numerusform>
-            <numerusform>%n Sachen geändert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n items removed</source>
-        <translation>
-            <numerusform>%n Element entfernt</numerusform>
-            <numerusform>%n Elemente entfernt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n hinzugefügt</numerusform>
-            <numerusform>%n hinzugefügt</numerusform>
-        </translation>
-    </message>
     <message numerus="yes">
         <source>%n items are as they were</source>
         <translation>
@@ -6412,6 +6387,45 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
     <message>
         <source>only pictures can be flipped</source>
         <translation>nur Bilder können gespiegelt werden</translation>
+    </message>
+    <message>
+        <source>its slides were put into another order by another program</source>
+        <translation>ihre Folien wurden von einem anderen Programm umgeordnet</translation>
+    </message>
+    <message>
+        <source>removed by another program</source>
+        <translation>von einem anderen Programm entfernt</translation>
+    </message>
+    <message>
+        <source>changed by another program</source>
+        <translation>von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>the slide was removed by another program</source>
+        <translation>die Folie wurde von einem anderen Programm entfernt</translation>
+    </message>
+    <message>
+        <source>added by another program</source>
+        <translation>von einem anderen Programm hinzugefügt</translation>
+    </message>
+    <message>
+        <source>its background was changed by another program</source>
+        <translation>ihr Hintergrund wurde von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>its items were put into another order by another program</source>
+        <translation>ihre Objekte wurden von einem anderen Programm umgeordnet</translation>
+    </message>
+    <message>
+        <source>its items were put elsewhere by another program</source>
+        <translation>ihre Objekte wurden von einem anderen Programm woandershin gestellt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are another program&apos;s work: %1</source>
+        <translation>
+            <numerusform>%n Sache ist das Werk eines anderen Programms: %1</numerusform>
+            <numerusform>%n Sachen sind das Werk eines anderen Programms: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -109,27 +109,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n things changed</source>
-        <translation>
-            <numerusform>%n thing changed</numerusform>
-            <numerusform>%n things changed</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n items removed</source>
-        <translation>
-            <numerusform>%n item removed</numerusform>
-            <numerusform>%n items removed</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n added</numerusform>
-            <numerusform>%n added</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n items are as they were</source>
         <translation>
             <numerusform>%n item is as it was</numerusform>
@@ -2220,6 +2199,13 @@
         <translation>
             <numerusform>%n text with a translucent background</numerusform>
             <numerusform>%n texts with a translucent background</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are another program&apos;s work: %1</source>
+        <translation>
+            <numerusform>%n thing is another program&apos;s work: %1</numerusform>
+            <numerusform>%n things are another program&apos;s work: %1</numerusform>
         </translation>
     </message>
 </context>

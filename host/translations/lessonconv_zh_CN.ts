@@ -1559,28 +1559,6 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>no page shows them, so they stay behind: %1</source>
         <translation>没有页面显示它们，因此不随附：%1</translation>
     </message>
-    <message>
-        <source>%1, %2 and %3 by another program; %4</source>
-        <translation>其他程序已将%1，%2，%3；%4</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n things changed</source>
-        <translation>
-            <numerusform>%n 项更改</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n items removed</source>
-        <translation>
-            <numerusform>%n 个对象移除</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n 个对象添加</numerusform>
-        </translation>
-    </message>
     <message numerus="yes">
         <source>%n items are as they were</source>
         <translation>
@@ -6094,6 +6072,44 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     <message>
         <source>only pictures can be flipped</source>
         <translation>只有图片可以翻转</translation>
+    </message>
+    <message>
+        <source>its slides were put into another order by another program</source>
+        <translation>其幻灯片的顺序被其他程序改变</translation>
+    </message>
+    <message>
+        <source>removed by another program</source>
+        <translation>被其他程序删除</translation>
+    </message>
+    <message>
+        <source>changed by another program</source>
+        <translation>被其他程序修改</translation>
+    </message>
+    <message>
+        <source>the slide was removed by another program</source>
+        <translation>该幻灯片被其他程序删除</translation>
+    </message>
+    <message>
+        <source>added by another program</source>
+        <translation>由其他程序添加</translation>
+    </message>
+    <message>
+        <source>its background was changed by another program</source>
+        <translation>其背景被其他程序修改</translation>
+    </message>
+    <message>
+        <source>its items were put into another order by another program</source>
+        <translation>其对象的顺序被其他程序改变</translation>
+    </message>
+    <message>
+        <source>its items were put elsewhere by another program</source>
+        <translation>其中的对象被其他程序移到别处</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are another program&apos;s work: %1</source>
+        <translation>
+            <numerusform>%n 处是其他程序所为：%1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>
