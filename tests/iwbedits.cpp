@@ -426,7 +426,7 @@ bool IwbEdits::rename(int slide)
     const QString other = "named%1"_s.arg(id);
     for (QDomElement element : elementsIn(m_document.documentElement())) {
         for (const char *name : {"id", "ref"}) {
-            for (const char *ending : {"", "_fill", "_sign"}) {
+            for (const char *ending : {"", "_fill", "_sign", "_film"}) {
                 if (element.attribute(name) == id + ending) {
                     element.setAttribute(name, other + ending);
                 }

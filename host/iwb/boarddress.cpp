@@ -132,10 +132,11 @@ bool isWebAddress(const QString &target)
     return target.startsWith(QLatin1String("http://")) || target.startsWith(QLatin1String("https://"));
 }
 
+// A sound, or a film that is opened.
 bool isSoundOf(const QDomElement &link)
 {
     const QDomElement inner = link.firstChildElement();
-    return inner.isNull() || inner.attribute(idName) == QString(link.attribute(idName) + QLatin1String(soundSign));
+    return inner.isNull() || inner.attribute(idName) == signIdOf(link);
 }
 
 void dressPoints(QDomElement element, bool isInk)
@@ -336,6 +337,11 @@ QJsonObject presentationInMeta(const QHash<QString, QString> &meta)
     return presentation;
 }
 
+QString signIdOf(const QDomElement &link)
+{
+    return link.attribute(idName) + QLatin1String(link.hasAttribute(QLatin1String(filmMark)) ? filmSign : soundSign);
+}
+
 QJsonObject changedInMeta(const QHash<QString, QString> &meta, const QJsonObject &presentation)
 {
     QJsonObject changed = presentationInMeta(meta);
@@ -399,7 +405,7 @@ QDomElement BoardDress::dressSound(QDomElement link, const Items &items)
     QDomElement sign = link.firstChildElement();
     if (sign.isNull()) {
         sign = link.ownerDocument().createElement(rectTag);
-        sign.setAttribute(idName, link.attribute(idName) + QLatin1String(soundSign));
+        sign.setAttribute(idName, signIdOf(link));
         sign.setAttribute(fillName, QStringLiteral("white"));
         sign.setAttribute(QStringLiteral("fill-opacity"), QStringLiteral("0"));
         sign.setAttribute(QStringLiteral("stroke"), nothing);

@@ -61,6 +61,12 @@ private:
 //! The name that this program writes as a document's creator, before its version.
 constexpr char creatorName[] = "lessonconv";
 
+//! An attribute of links that stand for films, which isn't written.
+constexpr char filmMark[] = "film";
+
+//! What the sign within a link is called that stands for a sound or a film.
+QString signIdOf(const QDomElement &link);
+
 //! What a document's meta says about a lesson, by the lesson's keys.
 QJsonObject presentationInMeta(const QHash<QString, QString> &meta);
 

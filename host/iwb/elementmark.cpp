@@ -113,7 +113,8 @@ QDomElement itemElement(QDomElement element)
     while (svgName(element) == QLatin1String("a")) {
         const QDomElement inner = element.lastChildElement();
         const QString id = element.attribute(QStringLiteral("id"));
-        if (inner.isNull() || inner.attribute(QStringLiteral("id")) == id + QLatin1String(soundSign)) {
+        const QString innerId = inner.attribute(QStringLiteral("id"));
+        if (inner.isNull() || innerId == id + QLatin1String(soundSign) || innerId == id + QLatin1String(filmSign)) {
             break;
         }
         element = inner;

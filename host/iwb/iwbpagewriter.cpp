@@ -3,6 +3,7 @@
 
 #include "files/packagenames.h"
 #include "files/pictures.h"
+#include "iwb/boarddress.h"
 #include "iwb/iwbmedia.h"
 #include "izqtransformation.h"
 #include "lesson/itemtypes.h"
@@ -22,6 +23,7 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String svgTag("svg:svg");
+const QLatin1String linkTag("svg:a");
 
 // The name of a background's colour.
 QString backgroundColor(const QJsonObject &properties)
@@ -43,6 +45,26 @@ QString fileTitle(const QString &type)
         title += isPlain ? c : QLatin1Char('_');
     }
     return title;
+}
+
+QDomElement innermost(QDomElement element)
+{
+    while (element.tagName() == linkTag && !element.firstChildElement().isNull()) {
+        element = element.firstChildElement();
+    }
+    return element;
+}
+
+// A film of a kind that the format hasn't is a file to open.
+QDomElement withFilmLinked(QDomElement element)
+{
+    QDomElement film = innermost(element);
+    const QString reference = film.attribute(QStringLiteral("xlink:href"));
+    if (film.tagName() == QLatin1String("svg:video") && reference.startsWith(QLatin1String("additional/"))) {
+        film.setTagName(linkTag);
+        film.setAttribute(QLatin1String(filmMark), QStringLiteral("1"));
+    }
+    return element;
 }
 
 // A painted item in a frame of its own instead of the smallest around it.
@@ -227,8 +249,15 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         row.isPicture ? losses.picture(given)
                       : losses.item(given, isHidden ? say("it is hidden") : m_items.whyNot());
     }
-    if (m_painter && element.tagName() == QLatin1String("svg:a") && element.firstChildElement().isNull()) {
-        addSign(element, item);
+    if (m_isUniqueInDocument) {
+        element = withFilmLinked(element);
+    }
+    const QDomElement media = innermost(element);
+    if (m_painter && media.tagName() == linkTag) {
+        addSign(media, item);
+    }
+    if (media.hasAttribute(QLatin1String(filmMark))) {
+        losses.note(given, say("other boards show a picture that opens it"));
     }
     if (element.isNull()) {
         m_ids.giveBack(row.id);
@@ -274,8 +303,8 @@ QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id,
     return m_items.writePicture(m_document, item, id, reference, picture->box);
 }
 
-// Others see a sound only where its link holds something.
-void IwbPageWriter::addSign(QDomElement &link, const QJsonObject &item)
+// Others see a sound only where its link holds something, and so it is with films that they can't play.
+void IwbPageWriter::addSign(QDomElement link, const QJsonObject &item)
 {
     QJsonObject sound = item;
     for (const QLatin1String key : {ItemKeys::linkType, ItemKeys::locked, ItemKeys::angle, ItemKeys::matrix}) {
@@ -286,7 +315,7 @@ void IwbPageWriter::addSign(QDomElement &link, const QJsonObject &item)
     if (place) {
         sound.insert(ItemKeys::box, boxText(frame));
     }
-    const QDomElement sign = pictureOf(sound, link.attribute(QStringLiteral("id")) + QLatin1String(soundSign), frame);
+    const QDomElement sign = pictureOf(sound, signIdOf(link), frame);
     if (!sign.isNull() && sign.tagName() == QLatin1String("svg:image")) {
         link.appendChild(sign);
     }
@@ -306,7 +335,7 @@ QString IwbPageWriter::idOf(const QJsonObject &item)
     // Pages have identifiers, too, and so have what stands around an element, in it and behind it.
     static const QRegularExpression otherName(QStringLiteral("^page\\d+$|%1\\d+$").arg(QLatin1String(markedSpan)));
     id = otherName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
-    constexpr const char *endings[] = {"_link", soundSign, lineFill};
+    constexpr const char *endings[] = {"_link", soundSign, filmSign, lineFill};
     QString own = m_ids.take(id);
     const auto isTaken = [&](const char *ending) { return m_ids.has(own + QLatin1String(ending)); };
     while (std::any_of(std::begin(endings), std::end(endings), isTaken)) {

@@ -59,7 +59,7 @@ private:
     void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
                  QVector<WrittenItem> &written, bool isInGroup = false);
     QDomElement pictureOf(const QJsonObject &item, const QString &id, const QRectF &frame = {});
-    void addSign(QDomElement &link, const QJsonObject &item);
+    void addSign(QDomElement link, const QJsonObject &item);
     QString idOf(const QJsonObject &item);
     QString background(const QJsonObject &slide, const QString &id, const SlideLosses &losses);
     void fillPage(QDomElement &page, const QString &picture) const;

@@ -348,7 +348,13 @@ QDomElement IwbOutline::sizeElement(QDomDocument &document) const
 
 int IwbOutline::groupOf(const QString &id) const
 {
-    return m_rules.groups.value(id, m_rules.groups.value(id + QLatin1String(soundSign), -1));
+    for (const char *ending : {"", soundSign, filmSign}) {
+        const auto group = m_rules.groups.constFind(id + QLatin1String(ending));
+        if (group != m_rules.groups.constEnd()) {
+            return *group;
+        }
+    }
+    return -1;
 }
 
 } // namespace lessonhost

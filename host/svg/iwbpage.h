@@ -15,6 +15,9 @@ namespace lessonhost {
 //! What the identifier of the picture ends in that shows a sound, behind that of the sound's link.
 constexpr char soundSign[] = "_sign";
 
+//! The same for the still of a film that other boards can't play, behind that of the link to it.
+constexpr char filmSign[] = "_film";
+
 //! The same for the outline that fills an open line and stands behind it.
 constexpr char lineFill[] = "_fill";
 

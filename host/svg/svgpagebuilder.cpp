@@ -80,6 +80,12 @@ bool isFillOf(const QDomElement &line, const QDomElement &area)
         && area.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
 }
 
+bool isSignOf(const QDomElement &element, const QString &linkId)
+{
+    const QString id = element.attribute(QStringLiteral("id"));
+    return id == linkId + QLatin1String(soundSign) || id == linkId + QLatin1String(filmSign);
+}
+
 // The part of a transform that hides an element, as any program may write it.
 QRegularExpressionMatch awayPart(const QString &transform)
 {
@@ -373,7 +379,7 @@ void SvgPageBuilder::link(const QDomElement &element, const Place &place)
     const QString id = element.attribute(QStringLiteral("id"));
     const QDomElement only = element.firstChildElement();
     if (!only.isNull() && only.nextSiblingElement().isNull() && !id.isEmpty()
-        && only.attribute(QStringLiteral("id")) == id + QLatin1String(soundSign)) {
+        && isSignOf(only, id)) {
         sound(element, place);
         return;
     }
@@ -595,11 +601,12 @@ void SvgPageBuilder::image(const QDomElement &element, const Place &place)
     media(element, place, QLatin1String("svg:") + svgName(element));
 }
 
-// A sound stands by itself, or where its sign does.
+// A sound stands by itself, or where its sign does; a film that is linked where its still does.
 void SvgPageBuilder::sound(const QDomElement &element, const Place &place)
 {
-    const QString tag = QStringLiteral("svg:a");
     const QDomElement sign = element.firstChildElement();
+    const bool isFilm = sign.attribute(QStringLiteral("id")).endsWith(QLatin1String(filmSign));
+    const QString tag = isFilm ? QStringLiteral("svg:video") : QStringLiteral("svg:a");
     if (sign.isNull() || element.hasAttribute(QStringLiteral("width"))) {
         media(element, place, tag);
         return;

@@ -6427,5 +6427,9 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
             <numerusform>%n Sachen sind das Werk eines anderen Programms: %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>other boards show a picture that opens it</source>
+        <translation>andere Tafeln zeigen ein Bild, das es öffnet</translation>
+    </message>
 </context>
 </TS>

@@ -6111,5 +6111,9 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
             <numerusform>%n 处是其他程序所为：%1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>other boards show a picture that opens it</source>
+        <translation>其他白板显示一张可以打开它的图片</translation>
+    </message>
 </context>
 </TS>
