@@ -130,6 +130,36 @@ private slots:
         QCOMPARE(all("zh_CN"), english);
     }
 
+    // Names on what is drawn, but not in packages, which are the same everywhere.
+    void drawingsSpeak_data()
+    {
+        const Table<QByteArray, QStringList> row("language", "labels");
+        row("English", "", {">Picture that is missing<", ">Sound, MP3<", ">Physics: New Part 2<"});
+        row("German", "de", {"\"de\"><text", ">Bild (fehlt)<", ">Ton, MP3<", ">Physik: New Part 2<"});
+        row("Chinese", "zh_CN", {"\"zh-CN\"><text", ">缺失的图片<", ">声音、MP3<", ">物理：New Part 2<"});
+    }
+    void drawingsSpeak()
+    {
+        const auto [language, labels] = Table<QByteArray, QStringList>::cells();
+        putFile(path("named.json"), R"({"Width": "1280", "Height": "720", "Slides": [{"Items": [
+            {"Type": "ZQImagePic", "BoundingBox": "0,0,400,200", "resource": "none.png"},
+            {"Type": "ZQMediaAudio", "BoundingBox": "0,300,400,500", "resource": "song.mp3"},
+            {"Type": "ZQPhysicsNewPart2", "BoundingBox": "500,300,900,500"}]}]})");
+        const auto written = [this](const QByteArray &by, const QStringList &call) {
+            return spoken(by, call).exitCode == 0 ? contentOfTarget(path(call.at(2))) : QMap<QString, QByteArray>();
+        };
+        const QStringList toPackage{"convert", "named.json", "named.iwb", "--quiet"};
+        const auto package = written({}, toPackage);
+        QVERIFY(package.size() > 2); // with the picture of an item
+        QCOMPARE(written(language, toPackage), package);
+        const QString svg = written(language, {"render", "named.json", "named.svg", "--quiet"}).first();
+        for (const QString &label : labels) {
+            QVERIFY2(svg.contains(label), qPrintable(svg));
+        }
+        QCOMPARE(svg.contains("xml:lang"), !language.isEmpty());
+        QVERIFY(!written(language, {"render", "named.json", "named.html", "--quiet"}).first().contains("Slide 1\" lang"));
+    }
+
     // Where decimals have a comma.
     void numbersHavePoints()
     {
@@ -151,7 +181,7 @@ private slots:
             }
             QCOMPARE(spoken({}, call).exitCode, 0);
             const auto english = contentOfTarget(path(name));
-            QCOMPARE(spoken({}, call, german).exitCode, 0);
+            QCOMPARE(spoken("en", call, german).exitCode, 0);
             QCOMPARE(contentOfTarget(path(name)), english);
         }
     }

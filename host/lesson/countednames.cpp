@@ -16,7 +16,7 @@ struct Counted
     const char *many;
 };
 
-const Counted names[] = {
+const Counted countedWords[] = {
     {"Acid burette", TO_SAY_NUMBER("%n acid burettes")},
     {"Aeroplane", TO_SAY_NUMBER("%n aeroplanes")},
     {"Alkali burette", TO_SAY_NUMBER("%n alkali burettes")},
@@ -276,13 +276,13 @@ Sentence countedName(const QString &itemType, int count)
 {
     static const QHash<QString, const char *> rows = [] {
         QHash<QString, const char *> result;
-        for (const Counted &name : names) {
+        for (const Counted &name : countedWords) {
             result.insert(QLatin1String(name.one), name.many);
         }
         return result;
     }();
-    const QString name = plainName(itemType);
-    const char *many = rows.value(name);
+    const Sentence name = saidName(itemType);
+    const char *many = rows.value(name.english());
     return many ? sayNumber(many, count) : say("%1 x %2").arg(count, name);
 }
 

@@ -13,7 +13,7 @@ struct Name
     const char *plain;
 };
 
-const Name names[] = {
+const Name typeAndKeyNames[] = {
     {"General:connection", TO_SAY("Things to connect")},
     {"General:curtain", TO_SAY("Curtain")},
     {"General:everCard", TO_SAY("Cards")},
@@ -336,16 +336,20 @@ const Name names[] = {
 };
 
 // The first that fits is taken off and said in words.
-const Name families[] = {
-    {"ZQChemistry", "Chemistry"}, {"ZQPhysics", "Physics"}, {"ZQMath", "Mathematics"},
-    {"ZQShape", "Figure"},        {"ZQVector", "Shape"},    {"ZQ", ""},
+const Name familyWords[] = {
+    {"ZQChemistry", TO_SAY("Chemistry")},
+    {"ZQPhysics", TO_SAY("Physics")},
+    {"ZQMath", TO_SAY("Mathematics")},
+    {"ZQShape", TO_SAY("Figure")},
+    {"ZQVector", TO_SAY("Shape")},
+    {"ZQ", ""},
 };
 
 const QHash<QString, const char *> &namesByType()
 {
     static const QHash<QString, const char *> hash = [] {
         QHash<QString, const char *> result;
-        for (const Name &name : names) {
+        for (const Name &name : typeAndKeyNames) {
             result.insert(QLatin1String(name.type), name.plain);
         }
         return result;
@@ -372,26 +376,25 @@ QString spaced(const QString &word)
 
 QString plainName(const QString &itemType)
 {
-    if (const char *name = namesByType().value(itemType)) {
-        return QLatin1String(name);
-    }
-    const int colon = itemType.indexOf(QLatin1Char(':'));
-    if (colon > 0) {
-        return itemType.left(colon) + QLatin1String(": ") + spaced(itemType.mid(colon + 1)).toLower();
-    }
-    for (const Name &family : families) {
-        if (itemType.startsWith(QLatin1String(family.type))) {
-            const QString rest = spaced(itemType.mid(int(qstrlen(family.type))));
-            return *family.plain ? QString(QLatin1String(family.plain) + QLatin1String(": ") + rest) : rest;
-        }
-    }
-    return itemType.isEmpty() ? QStringLiteral("Item of no type") : spaced(itemType);
+    return saidName(itemType).english();
 }
 
 Sentence saidName(const QString &itemType)
 {
-    const char *name = namesByType().value(itemType);
-    return name ? say(name) : Sentence(plainName(itemType));
+    if (const char *name = namesByType().value(itemType)) {
+        return say(name);
+    }
+    const int colon = itemType.indexOf(QLatin1Char(':'));
+    if (colon > 0) {
+        return Sentence(itemType.left(colon) + QLatin1String(": ") + spaced(itemType.mid(colon + 1)).toLower());
+    }
+    for (const Name &family : familyWords) {
+        if (itemType.startsWith(QLatin1String(family.type))) {
+            const QString rest = spaced(itemType.mid(int(qstrlen(family.type))));
+            return *family.plain ? say("%1: %2").arg(say(family.plain), rest) : Sentence(rest);
+        }
+    }
+    return itemType.isEmpty() ? say("Item of no type") : Sentence(spaced(itemType));
 }
 
 } // namespace lessonhost

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/mediadrawing.h"
 
+#include "files/sentence.h"
 #include "lesson/plainnames.h"
 #include "lesson/planegeometry.h"
 #include "render/itemoutline.h"
@@ -51,7 +52,7 @@ const Sign *signOf(const QString &type)
 const QColor ink(0x3d, 0x4f, 0x66);
 const QColor paper(0xf3, 0xf5, 0xf8);
 constexpr double lineHeight = 1.3;
-constexpr double largestLetters = 30;
+constexpr double largestName = 30;
 
 // What an item's file is called in the lesson. A worksheet stands behind its picture.
 QString fileOf(const ItemView &item)
@@ -68,55 +69,58 @@ QString fileOf(const ItemView &item)
     return {};
 }
 
-QString pictureOf(const ItemView &item)
+QString coverOf(const ItemView &item)
 {
     const QJsonValue document = item.json().value(ItemKeys::document);
     return valueText(document.isArray() ? document.toArray().at(0) : document);
 }
 
 // The name, and the kind below.
-QStringList linesOf(const ItemView &item)
+Sentences linesToShow(const ItemView &item)
 {
     const QString file = fileOf(item).replace(QLatin1Char('\\'), QLatin1Char('/'));
     const QString fileName = QFileInfo(file).fileName();
     const QString ownName = item.text(QLatin1String("name")).simplified();
-    QString kind = plainName(item.type());
+    Sentence kind = saidName(item.type());
     const QString suffix = QFileInfo(fileName).suffix();
     constexpr int longestSuffix = 5;
     if (!suffix.isEmpty() && suffix.size() <= longestSuffix) {
-        kind += QLatin1String(", ") + suffix.toUpper();
+        kind = say("%1, %2").arg(kind, suffix.toUpper());
     }
     const QString name = ownName.isEmpty() ? fileName : ownName;
-    return name.isEmpty() ? QStringList{kind} : QStringList{name, kind};
+    return name.isEmpty() ? Sentences{kind} : Sentences{Sentence(name), kind};
 }
 
 // As many of the lines as can be read in an area of this height.
-QStringList linesThatFit(const PlainSvg &svg, const QStringList &lines, double height)
+Sentences linesWithin(const PlainSvg &svg, const Sentences &lines, double height)
 {
     return lines.mid(0, int(height / (svg.readableSize() * lineHeight)));
 }
 
 // Lines of the same size in an area, shortened where they would be small.
-void addLines(PlainSvg &svg, const QStringList &lines, const QRectF &area)
+void addLines(PlainSvg &svg, const Sentences &lines, const QRectF &area)
 {
     if (lines.isEmpty()) {
         return;
     }
     const double height = area.height() / lines.size();
     const double width = area.width() * 0.92;
-    const double highest = qMin(largestLetters, height / lineHeight);
+    const double highest = qMin(largestName, height / lineHeight);
     constexpr int pixels = 100;
     QFont font;
     font.setFamilies(labelFamilies());
     font.setPixelSize(pixels);
     const QFontMetricsF metrics(font);
     double needed = 1; // for letters one pixel high
-    for (const QString &line : lines) {
-        needed = qMax(needed, metrics.horizontalAdvance(line) / pixels);
+    for (const Sentence &line : lines) {
+        needed = qMax(needed, metrics.horizontalAdvance(svg.said(line)) / pixels);
     }
     const double size = qMin(highest, qMax(width / needed, qMax(svg.readableSize(), highest / 2)));
+    const auto shortened = [&](const QString &text) {
+        return metrics.elidedText(text, Qt::ElideMiddle, width / size * pixels + 1);
+    };
     for (int i = 0; i < lines.size(); ++i) {
-        svg.addLabel(metrics.elidedText(lines.at(i), Qt::ElideMiddle, width / size * pixels + 1),
+        svg.addLabel(Sentence(shortened(lines.at(i).english()), shortened(lines.at(i).local())),
                      QRectF(area.left(), area.top() + i * height, area.width(), height), size,
                      i == 0 ? QColor(Qt::black) : ink);
     }
@@ -150,7 +154,7 @@ bool drawCard(Canvas &canvas, const ItemView &item)
         return false;
     }
     const Sign &sign = *signOf(item.type());
-    const bool hasPicture = canvas.addPicture(pictureOf(item), item.box().value_or(QRectF()), placeOnPage(item));
+    const bool hasPicture = canvas.addPicture(coverOf(item), item.box().value_or(QRectF()), placeOnPage(item));
     if (hasPicture && item.type() == QLatin1String("ZQDyCoursewareItem")) {
         return true;
     }
@@ -158,17 +162,17 @@ bool drawCard(Canvas &canvas, const ItemView &item)
     const PlainSvg::Scope turn(svg, turnAbout(place->box.center(), place->angle));
     const QRectF &box = place->box;
     svg.addRectangle(box, QColor(0x8a, 0x94, 0xa3), hasPicture ? QColor(255, 255, 255, 0) : paper);
-    QStringList lines = linesOf(item);
+    Sentences lines = linesToShow(item);
     QRectF signArea = box;
     QRectF textArea;
     if (box.width() > 2.2 * box.height()) {
         signArea.setWidth(box.height());
         textArea = box.adjusted(box.height(), 0, 0, 0);
-        lines = linesThatFit(svg, lines, textArea.height());
+        lines = linesWithin(svg, lines, textArea.height());
     } else {
         constexpr double textShare = 0.42;
-        lines = linesThatFit(svg, lines, box.height() * textShare);
-        const double height = qMin(box.height() * textShare, lines.size() * largestLetters * lineHeight);
+        lines = linesWithin(svg, lines, box.height() * textShare);
+        const double height = qMin(box.height() * textShare, lines.size() * largestName * lineHeight);
         textArea = box.adjusted(0, box.height() - height, 0, 0);
         signArea.setBottom(textArea.top());
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/namedboxes.h"
 
+#include "files/sentence.h"
 #include "lesson/closedtext.h"
 #include "lesson/itemview.h"
 #include "lesson/plainnames.h"
@@ -12,14 +13,14 @@ namespace lessonhost {
 namespace {
 
 // Keys whose texts stand on an item that has no drawing, the first that has one. HTML and svg are shown as plain text.
-constexpr const char *textKeys[] = {
+constexpr const char *wordKeys[] = {
     "frontContent", "TextHtml", "R_Content_svg", "current_text", "TextPhonetic",      "ChineseWord",
     "EnglishWord",  "Text",     "Title",         "ArtObj_Text",  "GapFillingContent", "original_alphabet",
 };
 
-QString textOn(const ItemView &item)
+QString wordsOn(const ItemView &item)
 {
-    for (const char *key : textKeys) {
+    for (const char *key : wordKeys) {
         const QString text = item.text(QLatin1String(key));
         const QString plain = text.startsWith(QLatin1Char('<')) ? plainWords(text) : text.simplified();
         if (!plain.isEmpty()) {
@@ -65,10 +66,10 @@ void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
 {
     const ItemView view(item);
     const QString type = view.type();
-    QString name = plainName(type);
+    Sentence name = saidName(type);
     // A picture has a box with a name only where its file can't be shown.
     if (type == QLatin1String("ZQImagePic") && !hasPicture) {
-        name += QLatin1String(" that is missing");
+        name = say("%1 that is missing").arg(name);
     }
     const auto place = view.place();
     const QRectF box = boxOf(view);
@@ -83,7 +84,7 @@ void NamedBoxes::drawBox(const QJsonObject &item, bool hasPicture)
                                .arg(box.center().y()));
     }
     const QColor nameColor(0x55, 0x55, 0x55);
-    const QString text = textOn(view);
+    const QString text = wordsOn(view);
     if (text.isEmpty() && !hasPicture) {
         m_svg.addLabel(name, box, 28, nameColor);
         return;

@@ -4,6 +4,7 @@
 #include "files/closedsvg.h"
 #include "files/domtools.h"
 #include "files/drawingbounds.h"
+#include "files/language.h"
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "iwb/iwbmedia.h"
@@ -438,9 +439,10 @@ double PlainSvg::readableSize() const
     return m_size.width() * size / pageWidth;
 }
 
-void PlainSvg::addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color)
+void PlainSvg::addLabel(const Sentence &sentence, const QRectF &box, double pixelSize, const QColor &color)
 {
     constexpr int longestText = 600; // what follows would be too small to read
+    const QString text = said(sentence);
     const QString shown = text.left(longestText);
     const double smallest = readableSize();
     LabelLines label = linesThatFit(shown, box.size(), pixelSize, smallest);
@@ -460,7 +462,10 @@ void PlainSvg::addLabel(const QString &text, const QRectF &box, double pixelSize
     }
     if (!place.isNull()) {
         m_labels.append(place);
-        putLabel(label, place, isUpright && place.width() < place.height(), color);
+        QDomElement group = putLabel(label, place, isUpright && place.width() < place.height(), color);
+        if (text != sentence.english()) {
+            group.setAttribute(QStringLiteral("xml:lang"), languageTag(spokenLanguage()));
+        }
     }
 }
 
@@ -506,7 +511,7 @@ QRectF PlainSvg::freePlaceBeside(const QRectF &box, const QSizeF &size) const
     return {};
 }
 
-void PlainSvg::putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color)
+QDomElement PlainSvg::putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color)
 {
     QDomElement group = append(QStringLiteral("g"));
     const QPointF center = place.center();
@@ -527,6 +532,7 @@ void PlainSvg::putLabel(const LabelLines &label, const QRectF &place, bool isUpr
         group.appendChild(element);
         y += label.size * LabelLines::lineHeight;
     }
+    return group;
 }
 
 void PlainSvg::addMarks(const QVector<SvgMark> &marks, double pixelSize, const QColor &color)

@@ -3,6 +3,7 @@
 #define PLAINSVG_H
 
 #include "files/pictures.h"
+#include "files/sentence.h"
 #include "render/innersvg.h"
 
 #include <QColor>
@@ -49,6 +50,8 @@ public:
     QSizeF size() const { return m_size; }
     //! What the names of its parts begin with, so that pages can stand in one document.
     void setNames(const QString &prefix) { m_names = prefix; }
+    //! Has its sentences in English, so that it is the same for everyone. They are in the language of the user otherwise.
+    void sayInEnglish() { m_isEnglish = true; }
 
     /*!
      * As long as it lives, what is added stands under a transform, and under those of the scopes around it: lines,
@@ -126,7 +129,13 @@ public:
     //! Text in the middle of a box, broken into lines and made smaller until it fits; upright in a narrow box where
     //! that lets it be larger. No smaller than can be read: what doesn't fit then is left out, and a box too small for
     //! any of it has its text beside it. Labels make room for each other; one that finds none isn't there.
-    void addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color);
+    void addLabel(const QString &text, const QRectF &box, double pixelSize, const QColor &color)
+    {
+        addLabel(Sentence(text), box, pixelSize, color);
+    }
+    void addLabel(const Sentence &sentence, const QRectF &box, double pixelSize, const QColor &color);
+    //! A sentence as its labels say it.
+    QString said(const Sentence &sentence) const { return m_isEnglish ? sentence.english() : sentence.local(); }
     //! Smaller letters, in pixels, can't be read: 9 pixels of a page that is 1280 wide.
     double readableSize() const;
     //! Numbers of a scale and the like.
@@ -142,7 +151,7 @@ private:
     bool isFree(const QRectF &place) const;
     QRectF freePlaceIn(const QRectF &box, const QSizeF &size) const;
     QRectF freePlaceBeside(const QRectF &box, const QSizeF &size) const;
-    void putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color);
+    QDomElement putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color);
 
     QSizeF m_size;
     const IwbMedia &m_media;
@@ -158,6 +167,7 @@ private:
     InnerSvgBudget m_innerBudget;
     QHash<QString, QString> m_textures; // patterns by file
     QString m_names;
+    bool m_isEnglish = false;
     int m_drawings = 0;
 };
 

@@ -19,9 +19,9 @@ namespace {
 
 constexpr double sharpness = 2; // pixels for each of the page
 constexpr double overview = 0.5; // the same, to find where an item is
-constexpr double largestSide = 16384;
+constexpr double largestPicture = 16384;
 
-IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
+IwbItemWriter::Setting paintedSetting(IZQTransformation *plugin, IwbMedia *media)
 {
     IwbItemWriter::Setting setting;
     setting.plugin = plugin;
@@ -62,7 +62,7 @@ SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plug
     : m_reader(reader)
     , m_plugin(plugin)
     , m_printer(m_store)
-    , m_pages(drawnSetting(plugin, &m_media))
+    , m_pages(paintedSetting(plugin, &m_media))
 {
     const QStringList files = reader.resources();
     for (const QString &file : files) {
@@ -77,7 +77,9 @@ QImage SlideItemPainter::thumbnail(int width)
     }
     LessonContext context;
     context.plugin = m_plugin;
-    const SlidePicture picture = SlidePictures(m_reader, context, m_store).picture(0);
+    SlidePictures pictures(m_reader, context, m_store);
+    pictures.sayInEnglish();
+    const SlidePicture picture = pictures.picture(0);
     QImage image(width, qBound(1, qRound(width * picture.size.height() / picture.size.width()), 4 * width),
                  QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -93,6 +95,7 @@ std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, cons
     m_pages.start(
         {{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}}, {});
     PlainSvg plain(page, m_media, m_store, Qt::transparent);
+    plain.sayInEnglish();
     Drawings(plain, m_pages, m_media).draw(item);
     SlidePicture drawn;
     drawn.size = page;
@@ -101,8 +104,8 @@ std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, cons
 
     const auto painted = [&](const QRectF &area, double scale) {
         const QSizeF size = area.size() * scale;
-        QImage image(QSizeF(qBound(1.0, std::ceil(size.width()), largestSide),
-                            qBound(1.0, std::ceil(size.height()), largestSide))
+        QImage image(QSizeF(qBound(1.0, std::ceil(size.width()), largestPicture),
+                            qBound(1.0, std::ceil(size.height()), largestPicture))
                          .toSize(),
                      QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);

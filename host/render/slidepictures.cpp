@@ -53,7 +53,10 @@ public:
             const QDomElement text = texts.at(i).toElement();
             const QString words = text.text();
             m_missing.lookAt(words, m_slide);
-            language.add(words);
+            // Names of items are in the language of who looks at them.
+            if (!text.parentNode().toElement().hasAttribute(QStringLiteral("xml:lang"))) {
+                language.add(words);
+            }
             lookAtFonts(text);
             for (QDomElement span = text.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
                 lookAtFonts(span);
@@ -151,6 +154,9 @@ SlidePicture SlidePictures::picture(int index)
 
     PlainSvg plain(result.size, m_media, m_store, m_ground.value_or(Qt::white));
     plain.setNames(QLatin1Char('s') + QString::number(result.slide));
+    if (m_isEnglish) {
+        plain.sayInEnglish();
+    }
     const QDomElement page = m_pages.addPage(slide.properties, 1, {});
     for (QDomElement e = page.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
         const bool isColor = e.tagName() == QLatin1String("svg:rect");

@@ -60,6 +60,9 @@ public:
     //! hidden until a step brings it in. files takes those that play or open, and has to live as long.
     void play(PageFiles &files) { m_files = &files; }
 
+    //! From now on what slides say of items is English, and the same for everyone.
+    void sayInEnglish() { m_isEnglish = true; }
+
     //! The picture of a slide, counted from 0. Throws LessonError.
     SlidePicture picture(int index);
 
@@ -71,6 +74,7 @@ private:
     PictureStore &m_store;
     std::optional<QColor> m_ground;
     PageFiles *m_files = nullptr;
+    bool m_isEnglish = false;
     IwbMedia m_media;
     IwbPageWriter m_pages;
     MissingFonts m_missing;

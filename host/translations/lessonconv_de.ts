@@ -6431,5 +6431,28 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>other boards show a picture that opens it</source>
         <translation>andere Tafeln zeigen ein Bild, das es öffnet</translation>
     </message>
+        <source>Chemistry</source>
+        <translation>Chemie</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Physik</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>Mathematik</translation>
+    </message>
+    <message>
+        <source>Figure</source>
+        <translation>Figur</translation>
+    </message>
+    <message>
+        <source>Item of no type</source>
+        <translation>Element ohne Typ</translation>
+    </message>
+    <message>
+        <source>%1 that is missing</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
 </context>
 </TS>

@@ -6115,5 +6115,28 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>other boards show a picture that opens it</source>
         <translation>其他白板显示一张可以打开它的图片</translation>
     </message>
+        <source>Chemistry</source>
+        <translation>化学</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>物理</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>数学</translation>
+    </message>
+    <message>
+        <source>Figure</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>Item of no type</source>
+        <translation>没有类型的元素</translation>
+    </message>
+    <message>
+        <source>%1 that is missing</source>
+        <translation>缺失的%1</translation>
+    </message>
 </context>
 </TS>
