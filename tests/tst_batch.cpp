@@ -311,6 +311,41 @@ private slots:
         QCOMPARE(before, 23);
     }
 
+    // What checks find in shards comes together, also what is taken over from a run before.
+    void checksInShards()
+    {
+        for (int i = 0; i < 9; ++i) {
+            putLesson("in/%1.json"_s.arg(i));
+        }
+        putFile(path("in/a.json"), R"({"Slides":[{"Items":[{"Type":"ZQImagePic","resource":"none.png"}]}]})");
+        putFile(path("in/b.json"), "{");
+        const auto call = [this](const QStringList &arguments) { return runCommand(arguments, m_folder->path()); };
+        const QStringList check{"check", "in", "--out-dir", "out", "--resume", "--report"};
+        QCOMPARE(call(check + QStringList{"report.json"}).exitCode, 2);
+        const QJsonObject whole = report();
+        QVERIFY(QDir(path("out")).removeRecursively());
+        for (const QString shard : {"1/3", "2/3", "3/3", "2/3"}) {
+            call(check + QStringList{"r%1.json"_s.arg(shard.front()), "--shard", shard});
+        }
+        const auto all = call({"report", "r1.json", "r2.json", "r3.json", "--report", "report.json"});
+        QCOMPARE(all.exitCode, 2);
+        QVERIFY2(all.output.contains("\n1 thing is missing or wrong; "), qPrintable(all.output));
+        QVERIFY2(all.output.contains("\nNot checked:\nin/b.json, line 1"), qPrintable(all.output));
+        const QJsonObject counts = report().value("counts").toObject();
+        QCOMPARE(counts.value("checked").toInt() + counts.value("done before").toInt(), 10);
+        QVERIFY(counts.value("done before").toInt() > 0);
+        const auto checks = [](const QJsonObject &report) {
+            QMap<QString, QJsonValue> found;
+            const QJsonArray lessons = report.value("lessons").toArray();
+            for (const QJsonValue &lesson : lessons) {
+                found.insert(lesson["input"].toString(), lesson["check"]);
+            }
+            return found;
+        };
+        QCOMPARE(checks(report()).size(), 11);
+        QCOMPARE(checks(report()), checks(whole));
+    }
+
     void shardHasOneRun()
     {
         putSlowLesson("0.json");
