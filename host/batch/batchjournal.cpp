@@ -26,10 +26,10 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String outputKey("output");
+const QLatin1String doneOutputKey("output");
 const QLatin1String lessonKey("lesson");
 const QLatin1String madeKey("made");
-const QLatin1String resultKey("result");
+const QLatin1String doneResultKey("result");
 const QLatin1String journalName(".lessonconv-done");
 
 constexpr qint64 pieceSize = qint64(256) * 1024;
@@ -180,7 +180,7 @@ void BatchJournal::write(const QByteArray &text) const
 void BatchJournal::read()
 {
     eachLine(m_file, [this](const QJsonObject &line) {
-        m_lines.insert(line.value(outputKey).toString(), line);
+        m_lines.insert(line.value(doneOutputKey).toString(), line);
         ++m_lineCount;
     });
 }
@@ -201,7 +201,7 @@ void BatchJournal::readOthers(const BatchPlan &plan)
             continue;
         }
         eachLine(m_folder + QLatin1Char('/') + name, [this, &outputs](const QJsonObject &line) {
-            const QString output = line.value(outputKey).toString();
+            const QString output = line.value(doneOutputKey).toString();
             if (outputs.contains(output)) {
                 m_lines.insert(output, line);
             }
@@ -248,15 +248,15 @@ QJsonObject BatchJournal::doneBefore(const BatchPlan::Lesson &lesson)
     const QFileInfo made(pathOf(lesson));
     const bool isUnchanged = !line.isEmpty() && made.exists() && line.value(lessonKey).toString() == stateOf(lesson)
         && line.value(madeKey).toString() == shortened(stateOfPath(made.filePath()));
-    return isUnchanged ? line.value(resultKey).toObject() : QJsonObject();
+    return isUnchanged ? line.value(doneResultKey).toObject() : QJsonObject();
 }
 
 void BatchJournal::note(const BatchPlan::Lesson &lesson, const QString &state, const QJsonObject &result)
 {
-    const QJsonObject line{{outputKey, lesson.output},
+    const QJsonObject line{{doneOutputKey, lesson.output},
                            {lessonKey, state},
                            {madeKey, shortened(stateOfPath(pathOf(lesson)))},
-                           {resultKey, result}};
+                           {doneResultKey, result}};
     write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
 }
 

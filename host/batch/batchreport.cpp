@@ -16,7 +16,7 @@ namespace {
 const QLatin1String recordsFile("records");
 constexpr int depthOfLists = 8; // blanks before an element
 
-QByteArray indented(const QByteArray &json, int blanks)
+QByteArray indentedJson(const QByteArray &json, int blanks)
 {
     QByteArray text = json.trimmed();
     return QByteArray(blanks, ' ') + text.replace('\n', '\n' + QByteArray(blanks, ' '));
@@ -38,7 +38,7 @@ void BatchReportWriter::begin(const QJsonObject &head)
 
 void BatchReportWriter::put(const QByteArray &json)
 {
-    m_sink((m_isFirst ? "\n" : ",\n") + indented(json, depthOfLists));
+    m_sink((m_isFirst ? "\n" : ",\n") + indentedJson(json, depthOfLists));
     m_isFirst = false;
 }
 

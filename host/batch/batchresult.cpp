@@ -18,7 +18,7 @@ const QLatin1String notTakenKey("not taken");
 const QLatin1String countsKey("counts");
 const QLatin1String interruptedKey("interrupted");
 const QLatin1String kindsKey("kinds");
-const QLatin1String notesKey("notes");
+const QLatin1String toldNotesKey("notes");
 const QLatin1String shardsKey("shards");
 const QLatin1String ofKey("of");
 const QLatin1String numbersKey("numbers");
@@ -66,7 +66,7 @@ const BatchWork BatchWork::drawing{QStringLiteral("drawn"),
                                    TO_SAY_NUMBER("Not drawn, of %n lessons the first %1:"),
                                    TO_SAY("The drawing took longer than %1 s"),
                                    QStringLiteral("drawn"),
-                                   {QStringLiteral("files"), namedKey, QStringLiteral("missingFonts"), notesKey}};
+                                   {QStringLiteral("files"), namedKey, QStringLiteral("missingFonts"), toldNotesKey}};
 const BatchWork BatchWork::checking{QStringLiteral("checked"),
                                     TO_SAY_NUMBER("%n checked"),
                                     TO_SAY_NUMBER("%n not checked"),

@@ -25,13 +25,13 @@ std::optional<QPair<quint64, quint64>> identityOf(const QString &path)
 }
 
 // Without links, as far as it exists.
-QString plainPath(const QString &path)
+QString resolvedPath(const QString &path)
 {
     const QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
     if (info.exists()) {
         return info.canonicalFilePath();
     }
-    return info.isRoot() ? info.filePath() : QDir(plainPath(info.path())).filePath(info.fileName());
+    return info.isRoot() ? info.filePath() : QDir(resolvedPath(info.path())).filePath(info.fileName());
 }
 
 QString parentOf(const QString &path)
@@ -53,7 +53,7 @@ void InputGuard::add(const QString &input)
         return;
     }
     m_inputs.insert(*identity, input);
-    for (QString path = plainPath(input); !isTop(path);) {
+    for (QString path = resolvedPath(input); !isTop(path);) {
         path = parentOf(path);
         const auto parent = identityOf(path);
         if (!parent || m_parents.contains(*parent)) {
@@ -75,7 +75,7 @@ void InputGuard::check(const QString &output) const
 {
     checkReport(output);
     const Sentence remedy = say("Give another name, outside of what is read");
-    const QString plain = plainPath(output);
+    const QString plain = resolvedPath(output);
     const auto identity = identityOf(plain);
     if (identity && m_inputs.contains(*identity)) {
         throw LessonError(say("It would take the place of %1, which is read").arg(m_inputs.value(*identity)), remedy)
@@ -104,7 +104,7 @@ void InputGuard::checkReport(const QString &output) const
 bool liesIn(const QString &path, const QString &folder)
 {
     const auto identity = identityOf(folder);
-    for (QString parent = plainPath(path); identity && !isTop(parent);) {
+    for (QString parent = resolvedPath(path); identity && !isTop(parent);) {
         parent = parentOf(parent);
         if (identityOf(parent) == identity) {
             return true;
@@ -117,7 +117,7 @@ bool isSamePlace(const QString &one, const QString &other)
 {
     const auto identity = identityOf(one);
     const auto otherIdentity = identityOf(other);
-    return identity || otherIdentity ? identity == otherIdentity : plainPath(one) == plainPath(other);
+    return identity || otherIdentity ? identity == otherIdentity : resolvedPath(one) == resolvedPath(other);
 }
 
 } // namespace lessonhost

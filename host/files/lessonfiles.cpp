@@ -10,7 +10,7 @@ namespace lessonhost {
 
 namespace {
 
-QString bareName(const QString &path)
+QString fileNameOf(const QString &path)
 {
     return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
@@ -27,7 +27,7 @@ QString pathOf(const QString &reference)
 void LessonFiles::add(const QString &relativePath, const QString &sourceFile)
 {
     m_sources.insert(relativePath, sourceFile);
-    m_pathsByName[bareName(relativePath)].append(relativePath);
+    m_pathsByName[fileNameOf(relativePath)].append(relativePath);
 }
 
 QString LessonFiles::find(const QString &reference)
@@ -35,7 +35,7 @@ QString LessonFiles::find(const QString &reference)
     const QString plain = pathOf(reference);
     QString path = plain;
     if (!m_sources.contains(path)) {
-        const QStringList candidates = m_pathsByName.value(bareName(plain));
+        const QStringList candidates = m_pathsByName.value(fileNameOf(plain));
         if (candidates.size() != 1) {
             return {};
         }
@@ -51,7 +51,7 @@ QString LessonFiles::nameIn(const QString &folder, const QString &sourceFile, co
     if (m_names.contains(key)) {
         return m_names.value(key);
     }
-    QString wanted = wantedName.isEmpty() ? bareName(sourceFile) : wantedName;
+    QString wanted = wantedName.isEmpty() ? fileNameOf(sourceFile) : wantedName;
     for (const char c : {'#', '%', '?', '&', '"', '<', '>'}) {
         // They mean something else in a reference.
         wanted.replace(QLatin1Char(c), QLatin1Char('_'));

@@ -36,7 +36,7 @@ LessonError linkError(const QString &shownName)
 }
 
 // What is left out here would be missing in the output without a word.
-void checkEntry(const Folder::Entry &entry, const QString &shownName)
+void checkFolderEntry(const Folder::Entry &entry, const QString &shownName)
 {
     if (entry.isLink()) {
         throw linkError(shownName);
@@ -144,7 +144,7 @@ QStringList PackageSource::files() const
         }
         for (const Folder::Entry &entry : entries) {
             const QString path = place + entry.text();
-            checkEntry(entry, displayName(place + entry.shown()));
+            checkFolderEntry(entry, displayName(place + entry.shown()));
             if (entry.isFolder()) {
                 waiting.append(path + QLatin1Char('/'));
             } else {

@@ -23,7 +23,7 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String netId("NetID");
+const QLatin1String echoedId("NetID");
 const QLatin1String boundName("Bound");
 const QLatin1String matrixName("TransformMatrix");
 const QLatin1String innerPrefix("ArtInner_");
@@ -271,7 +271,7 @@ bool isArcAngle(const QString &type, const QString &name)
 }
 
 // Ink has a colour as a text.
-bool isInk(const QJsonObject &item)
+bool isInkItem(const QJsonObject &item)
 {
     return item.value(ItemKeys::color).isString();
 }
@@ -330,13 +330,13 @@ QString RawEcho::attributeOfItem(const QDomElement &element, const QString &name
                                  const QJsonObject &item)
 {
     const QString type = element.tagName();
-    if (name == netId) {
+    if (name == echoedId) {
         return item.value(ItemKeys::id).toString();
     }
     if (isReference(name)) {
         return echoedFiles(given, item.value(name).toString());
     }
-    if (isInk(item) && isInkValue(name)) {
+    if (isInkItem(item) && isInkValue(name)) {
         return echoedInk(name, given, item);
     }
     const int control = item.contains(name) ? -1 : controlIndex(name);
@@ -451,7 +451,7 @@ QDomElement RawEcho::ofSlide(const QDomElement &element, const QJsonObject &prop
     QDomElement echo = looseElement(element.tagName());
     const auto attributes = attributesOf(element);
     for (const auto &[name, given] : attributes) {
-        const QJsonValue value = properties.value(name == netId ? QString(ItemKeys::id) : name);
+        const QJsonValue value = properties.value(name == echoedId ? QString(ItemKeys::id) : name);
         QString text = valueText(value);
         if (name == QLatin1String("BackColor") && value.isDouble()) {
             const auto color = given.contains(QLatin1Char(',')) ? opaqueColor(given) : std::nullopt;
@@ -469,7 +469,7 @@ QDomElement RawEcho::ofPresentation(const QDomElement &element, const QJsonObjec
     QDomElement echo = looseElement(element.tagName());
     const auto attributes = attributesOf(element);
     for (const auto &[name, given] : attributes) {
-        echo.setAttribute(name, valueText(presentation.value(name == netId ? QString(ItemKeys::id) : name)));
+        echo.setAttribute(name, valueText(presentation.value(name == echoedId ? QString(ItemKeys::id) : name)));
     }
     return echo;
 }

@@ -32,7 +32,7 @@ namespace {
 
 const QLatin1String indexFile("index.xml");
 const QLatin1String indexTag("main");
-const QLatin1String slideTag("slide");
+const QLatin1String slideFileTag("slide");
 const QLatin1String itemsTag("items");
 const QLatin1String slidesTag("slides");
 // How many elements stand around an item.
@@ -75,7 +75,7 @@ public:
         LessonSlide slide;
         slide.properties = readProperties(root, context);
         if (check) {
-            check->compare({slideTag, slide.properties.value(SlideKeys::id).toString()}, root,
+            check->compare({slideFileTag, slide.properties.value(SlideKeys::id).toString()}, root,
                            writeProperties(slide.properties).documentElement());
         }
         QJsonObject itemContext = context;
@@ -199,7 +199,7 @@ public:
         const QString file = m_files.at(index);
         checkSlideSize(QFileInfo(m_source.file(file)).size(), index + 1, m_source.displayName(file));
         const QDomDocument document = loadXmlFile(m_source.file(file), m_source.displayName(file));
-        const QDomElement root = rootOf(document, slideTag, m_source.displayName(file));
+        const QDomElement root = rootOf(document, slideFileTag, m_source.displayName(file));
         const SlideLosses losses = m_losses.slide(index + 1);
         const CarriedCheck check(losses);
         const bool isChecked = m_context.verify && losses.isHeard();
@@ -268,7 +268,7 @@ private:
         if (slideFile(id) == m_files.at(index)) {
             return;
         }
-        losses.note(QString(slideTag),
+        losses.note(QString(slideFileTag),
                     say("the file %1 is called %2 when it is written again").arg(m_files.at(index), slideFile(id)),
                     SlideKeys::id);
     }
@@ -354,7 +354,7 @@ public:
                 given.insert(activity, written.properties.value(activity)); // pictures by their short names
             }
             const Comparison comparison(m_losses.slide(number));
-            comparison.compareProperties({slideTag, id}, given, found.properties);
+            comparison.compareProperties({slideFileTag, id}, given, found.properties);
             comparison.compareItems(slide.items, written.items, found.items);
         }
     }

@@ -31,7 +31,7 @@ bool hasPairs(const QJsonObject &item, QLatin1String key)
     return isNothing(value) || (numbers && numbers->size() % 2 == 0);
 }
 
-bool isInk(const QJsonObject &item, const ShapeForm *form)
+bool isInkItem(const QJsonObject &item, const ShapeForm *form)
 {
     return !form && !isNothing(item.value(ItemKeys::steps));
 }
@@ -44,7 +44,7 @@ bool isWhole(const QJsonObject &item, const ShapeForm *form)
     if (!hasNumbers(item, isUnderMatrix ? ItemKeys::matrix : ItemKeys::angle, isUnderMatrix ? 6 : 1)) {
         return false;
     }
-    if (isInk(item, form)) {
+    if (isInkItem(item, form)) {
         return hasPairs(item, ItemKeys::steps);
     }
     if (!hasNumbers(item, ItemKeys::box, 4)) {
@@ -73,7 +73,7 @@ QPolygonF turnedCorners(const QRectF &box, double angle)
 QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const OutlineSource &outlines)
 {
     const ItemView view(item);
-    if (isInk(item, form)) {
+    if (isInkItem(item, form)) {
         const QPolygonF points = view.strokePoints();
         if (const auto matrix = view.matrix()) {
             return matrix->map(points);
@@ -105,7 +105,7 @@ QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const Outl
     return points;
 }
 
-bool isNear(const QPointF &one, const QPointF &other)
+bool isSamePoint(const QPointF &one, const QPointF &other)
 {
     return std::hypot(one.x() - other.x(), one.y() - other.y()) < smallestDistance;
 }
@@ -113,7 +113,7 @@ bool isNear(const QPointF &one, const QPointF &other)
 // Without points that only repeat the one before them.
 QPolygonF withoutRepeats(QPolygonF points)
 {
-    points.erase(std::unique(points.begin(), points.end(), isNear), points.end());
+    points.erase(std::unique(points.begin(), points.end(), isSamePoint), points.end());
     return points;
 }
 
@@ -129,15 +129,15 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const Outl
     const bool isUnderMatrix = !isNothing(given.value(ItemKeys::matrix));
     const QJsonObject placed =
         isUnderMatrix ? slideInPageForm({{}, {given}}, outlines).items.first().toObject() : given;
-    const bool hasPlace = isInk(placed, form) || !isNothing(placed.value(ItemKeys::box));
+    const bool hasPlace = isInkItem(placed, form) || !isNothing(placed.value(ItemKeys::box));
     // What a slanted rectangle becomes has points of its own, a slanted picture nothing that tells.
     const bool isUnplaced = !isNothing(placed.value(ItemKeys::matrix));
-    if (!hasPlace || (isUnplaced && !form && !isInk(given, form) && ItemView(given).isSetUpright())) {
+    if (!hasPlace || (isUnplaced && !form && !isInkItem(given, form) && ItemView(given).isSetUpright())) {
         return false;
     }
     const QPolygonF one = withoutRepeats(drawnPoints(isUnplaced ? given : placed, form, outlines));
     const QPolygonF other = withoutRepeats(drawnPoints(found, foundForm, outlines));
-    return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isNear);
+    return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isSamePoint);
 }
 
 } // namespace lessonhost

@@ -17,7 +17,7 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String pagePrefix("page");
+const QLatin1String pageIdPrefix("page");
 
 // What is written has six digits.
 constexpr double writtenDigits = 1e-4;
@@ -136,8 +136,8 @@ QString IwbPageCheck::resolve(const QString &reference, Sentence *problem)
 // Pages that are still to be written count as well.
 int IwbPageCheck::pageNumber(const QString &id)
 {
-    const int number = id.startsWith(pagePrefix) ? id.mid(pagePrefix.size()).toInt() : 0;
-    return number > 0 && id == pagePrefix + QString::number(number) ? number : 0;
+    const int number = id.startsWith(pageIdPrefix) ? id.mid(pageIdPrefix.size()).toInt() : 0;
+    return number > 0 && id == pageIdPrefix + QString::number(number) ? number : 0;
 }
 
 void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slide,

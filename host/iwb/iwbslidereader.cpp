@@ -25,7 +25,7 @@ namespace {
 // and the host names them.
 const QLatin1String noFolder("/dev/null/");
 
-QJsonObject groupOf(const QJsonArray &children, const QString &id)
+QJsonObject groupWith(const QJsonArray &children, const QString &id)
 {
     QRectF extent;
     bool isVisible = false;
@@ -168,7 +168,7 @@ void IwbSlideReader::putIntoGroups(Slide &slide, int number, UniqueIds &ids, con
             for (int k = i; k < end; ++k) {
                 children.append(slide.slide.items.at(k));
             }
-            items.append(groupOf(children, ids.take(QStringLiteral("group%1_%2").arg(number).arg(++count))));
+            items.append(groupWith(children, ids.take(QStringLiteral("group%1_%2").arg(number).arg(++count))));
             elementIds.append(QString());
             slide.groups.append(groups.at(i));
         }

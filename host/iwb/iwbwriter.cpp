@@ -21,7 +21,7 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String contentFile("content.xml");
-const QLatin1String svgTag("svg:svg");
+const QLatin1String svgPartTag("svg:svg");
 constexpr int thumbnailWidth = 320;
 // How many elements stand around a page and around a record about an item.
 constexpr int pageDepth = 3;
@@ -201,7 +201,7 @@ void IwbWriter::writePage(const QDomElement &page)
     append(text);
     m_pages.pageSet().removeChild(page);
     QDomElement root = m_pages.document().documentElement();
-    const QDomElement svg = root.firstChildElement(svgTag);
+    const QDomElement svg = root.firstChildElement(svgPartTag);
     for (QDomElement record = svg.nextSiblingElement(); !record.isNull(); record = svg.nextSiblingElement()) {
         m_records += xmlLines(record, recordDepth);
         root.removeChild(record);

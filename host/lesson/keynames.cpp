@@ -20,7 +20,7 @@ struct KeyName
 };
 
 // What several keys say for a teacher has one name. Keys that only an editor knows what to do with are its settings.
-const KeyName names[] = {
+const KeyName keyWords[] = {
     // General.
     {"ID", TO_SAY("identifier"), KeyName::Internal},
     {"NetID", TO_SAY("identifier"), KeyName::Internal},
@@ -480,7 +480,7 @@ const KeyName *rowOf(const QString &key)
 {
     static const QHash<QString, const KeyName *> rows = [] {
         QHash<QString, const KeyName *> result;
-        for (const KeyName &name : names) {
+        for (const KeyName &name : keyWords) {
             result.insert(folded(QLatin1String(name.key)), &name);
         }
         return result;

@@ -86,7 +86,7 @@ struct Family
     const char *name;
     const char *package;
 };
-constexpr Family families[] = {
+constexpr Family packagedFamilies[] = {
     {"Arial", "fonts-liberation"},          {"Helvetica", "fonts-liberation"},
     {"Times", "fonts-liberation"},          {"Times New Roman", "fonts-liberation"},
     {"Courier", "fonts-liberation"},        {"Courier New", "fonts-liberation"},
@@ -95,7 +95,7 @@ constexpr Family families[] = {
 
 QString packageOfFamily(const QString &name)
 {
-    for (const Family &row : families) {
+    for (const Family &row : packagedFamilies) {
         if (name.compare(QLatin1String(row.name), Qt::CaseInsensitive) == 0) {
             return QLatin1String(row.package);
         }
@@ -117,7 +117,7 @@ QJsonObject entry(const char *key, const QString &name, const QString &package, 
 }
 
 // "a, b and 3 more"
-Sentence firstOf(const QStringList &names)
+Sentence someOf(const QStringList &names)
 {
     constexpr int mostNamed = 5;
     return names.size() <= mostNamed
@@ -177,7 +177,7 @@ Sentences MissingFonts::sentences() const
     for (auto it = names.cbegin(); it != names.cend(); ++it) {
         const bool isOne = it.value().size() == 1;
         const Sentence what = isOne ? say("the font %1, which isn't here").arg(it.value().first())
-                                    : say("the fonts %1, which aren't here").arg(firstOf(it.value()));
+                                    : say("the fonts %1, which aren't here").arg(someOf(it.value()));
         const Sentence remedy = it.key().isEmpty() ? say("letters look otherwise") : say("install %1").arg(it.key());
         sentences.append(sayNumber("%n slides have %1: %2", int(slides.value(it.key()).size())).arg(what, remedy));
     }

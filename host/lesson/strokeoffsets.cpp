@@ -14,7 +14,7 @@ namespace {
 constexpr int digitsOfOffset = 15;
 // Steps as short as the plug-in's where they are exact.
 constexpr int fewestDigits = 6;
-constexpr int mostDigits = 17;
+constexpr int mostExactDigits = 17;
 // Of the numbers that a sum is made of.
 constexpr double roundingError = 2e-15;
 
@@ -35,7 +35,7 @@ public:
         QString text;
         double reached = m_offset;
         const double error = roundingError * (std::abs(m_offset) + std::abs(offset));
-        for (int digits = fewestDigits; digits <= mostDigits; ++digits) {
+        for (int digits = fewestDigits; digits <= mostExactDigits; ++digits) {
             text = QString::number(offset - m_offset, 'g', digits);
             reached = sum(text.toDouble());
             if (std::abs(reached - offset) <= error) {

@@ -14,10 +14,10 @@ namespace lessonhost {
 
 namespace {
 
-constexpr int longestDetail = 60;
+constexpr int longestValue = 60;
 // Longer ways to a value are told by their two ends, longer names as well: places are told for each value of a deep
 // tree.
-constexpr int toldSteps = 64;
+constexpr int toldPlaces = 64;
 constexpr int longestName = 200;
 // How far a list is looked through for the next element that came through.
 constexpr int furthestPartner = 8;
@@ -331,9 +331,9 @@ private:
     {
         QString place;
         for (int i = 0; i < m_steps.size(); ++i) {
-            if (i == toldSteps / 2 && m_steps.size() > toldSteps) {
+            if (i == toldPlaces / 2 && m_steps.size() > toldPlaces) {
                 place += QLatin1String("/...");
-                i = m_steps.size() - toldSteps / 2;
+                i = m_steps.size() - toldPlaces / 2;
             }
             const Step &step = m_steps.at(i);
             place += (place.isEmpty() ? QString() : QStringLiteral("/")) + shortened(step.tag);
@@ -349,7 +349,7 @@ private:
 
     void lose(const QString &attribute, const QString &value)
     {
-        m_losses.value(m_owner, placeOf(attribute), Sentence(value.left(longestDetail)));
+        m_losses.value(m_owner, placeOf(attribute), Sentence(value.left(longestValue)));
     }
 
     SlideLosses m_losses;

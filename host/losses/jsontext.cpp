@@ -79,7 +79,7 @@ bool isHeldByDouble(const QByteArray &number)
     return qAbs(value) < limit && std::floor(value) == value && decimal == decimalOf(QByteArray::number(qint64(value)));
 }
 
-QByteArray plainName(const QByteArray &text)
+QByteArray unescapedName(const QByteArray &text)
 {
     if (!text.contains('\\')) {
         return text;
@@ -171,7 +171,7 @@ private:
         if (m_levels.isEmpty() || !m_levels.last().isObject || !m_path.last().name.isNull()) {
             return;
         }
-        m_path.last().name = plainName(QByteArray::fromRawData(m_json.constData() + begin, end - begin));
+        m_path.last().name = unescapedName(QByteArray::fromRawData(m_json.constData() + begin, end - begin));
         while (m_at < m_json.size() && m_json.at(m_at) != ':') {
             ++m_at;
         }

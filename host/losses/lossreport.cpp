@@ -110,7 +110,7 @@ Sentence countedByKey(const QVector<Loss> &losses)
     return counted(counts);
 }
 
-Sentence listed(const QVector<Loss> &losses, Details details = Details::Hidden);
+Sentence listedLosses(const QVector<Loss> &losses, Details details = Details::Hidden);
 
 // Where there is much to name: what slides and the presentation lose as always, and the keys of items by their number.
 Sentence listedByKey(const QVector<Loss> &losses)
@@ -120,11 +120,11 @@ Sentence listedByKey(const QVector<Loss> &losses)
     std::partition_copy(losses.cbegin(), losses.cend(), std::back_inserter(items), std::back_inserter(others),
                         isOfItem);
     const Sentence ofItems = say("of items %1").arg(countedByKey(items));
-    return others.isEmpty() ? ofItems : say("%1, %2").arg(listed(others), ofItems);
+    return others.isEmpty() ? ofItems : say("%1, %2").arg(listedLosses(others), ofItems);
 }
 
 // What is the same but for its slide is named once, in the order in which it came up.
-Sentence listed(const QVector<Loss> &losses, Details details)
+Sentence listedLosses(const QVector<Loss> &losses, Details details)
 {
     struct Group
     {
@@ -172,7 +172,7 @@ Sentence listedOf(Loss::Kind kind, const QVector<Loss> &losses)
     case Loss::Absent:
     case Loss::Emptied:
     case Loss::EmptiedElsewhere:
-        return listed(losses);
+        return listedLosses(losses);
     case Loss::Item:
     case Loss::Kept:
     case Loss::AsPicture:
@@ -182,11 +182,11 @@ Sentence listedOf(Loss::Kind kind, const QVector<Loss> &losses)
     case Loss::Note:
         break;
     }
-    return listed(losses, Details::Shown);
+    return listedLosses(losses, Details::Shown);
 }
 
 // Under what a loss is counted in tables over many lessons: keys that tell a place in the lesson are cut.
-QString countedName(const Loss &loss)
+QString nameInTables(const Loss &loss)
 {
     static const QRegularExpression place(QStringLiteral("[./[].*"), QRegularExpression::DotMatchesEverythingOption);
     const QString key = loss.kind == Loss::File ? QString() : QString(loss.key).remove(place);
@@ -350,7 +350,7 @@ QJsonObject LossReport::toJson() const
     QJsonArray entries;
     QMap<QString, QMap<QString, int>> kinds;
     for (const Loss &loss : m_entries) {
-        ++kinds[lossKindName(loss.kind)][countedName(loss)];
+        ++kinds[lossKindName(loss.kind)][nameInTables(loss)];
         QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)},
                           {QStringLiteral("group"), groupName(groupOf(loss))},
                           {QStringLiteral("type"), loss.itemType}};

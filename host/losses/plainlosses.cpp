@@ -17,7 +17,7 @@ namespace {
 
 // Who reads more of them than these opens the report.
 constexpr int mostLines = 10;
-constexpr int mostNames = 6;
+constexpr int mostTold = 6;
 
 const QLatin1String slideOwner("slide");
 
@@ -101,7 +101,7 @@ private:
         Sentences names;
         int rest = 0;
         for (const auto &[type, count] : qAsConst(rows)) {
-            if (names.size() < mostNames) {
+            if (names.size() < mostTold) {
                 names.append(countedName(type, count));
             } else {
                 rest += count;

@@ -31,7 +31,7 @@ namespace {
 // Each family tells which of its types it has a drawing for. Symbols are last: of types whose items tell their outline,
 // they are the usual look of one that doesn't.
 // clang-format off
-constexpr SvgDrawing (*families[])(const QString &type) = {
+constexpr SvgDrawing (*drawingsOfFamilies[])(const QString &type) = {
     &vectorDrawing,
     &mathDrawing,
     &graphDrawing,
@@ -52,7 +52,7 @@ constexpr SvgDrawing (*families[])(const QString &type) = {
 
 bool drawFromFamilies(Canvas &canvas, const ItemView &item)
 {
-    for (const auto drawingOf : families) {
+    for (const auto drawingOf : drawingsOfFamilies) {
         const SvgDrawing drawing = drawingOf(item.type());
         if (drawing && drawing(canvas, item)) {
             return true;

@@ -13,27 +13,27 @@ namespace lessonhost {
 
 namespace {
 
-constexpr double gap = 10; // pixels between cells
-constexpr double largestLetters = 30;
+constexpr double cardGap = 10; // pixels between cells
+constexpr double largestCardLetters = 30;
 
-double lettersFor(const QRectF &cell)
+double cardLetters(const QRectF &cell)
 {
-    return qMin(largestLetters, cell.height() * 0.45);
+    return qMin(largestCardLetters, cell.height() * 0.45);
 }
 
 // The front of each card.
 void drawCards(Canvas &canvas, const QVector<ListEntry> &cards, const QRectF &area)
 {
-    const QVector<QRectF> cells = gridCells(area, cards.size(), {1.5, {330, 220}}, gap);
+    const QVector<QRectF> cells = gridCells(area, cards.size(), {1.5, {330, 220}}, cardGap);
     for (int i = 0; i < cells.size(); ++i) {
-        addChip(canvas, cells.at(i), cards.at(i).texts().value(0), cardLook(lettersFor(cells.at(i))));
+        addChip(canvas, cells.at(i), cards.at(i).texts().value(0), cardLook(cardLetters(cells.at(i))));
     }
 }
 
 // A basket for each kind, with what is sorted into it below its name.
 void drawBaskets(Canvas &canvas, const QVector<ListEntry> &kinds, const QRectF &area)
 {
-    const QVector<QRectF> cells = gridCells(area, kinds.size(), {0.9}, gap);
+    const QVector<QRectF> cells = gridCells(area, kinds.size(), {0.9}, cardGap);
     ChipLook basket = cardLook(0);
     basket.face = QColor(0xe6, 0xf0, 0xe4);
     basket.edge = QColor(0x6f, 0x9a, 0x6a);
@@ -47,12 +47,12 @@ void drawBaskets(Canvas &canvas, const QVector<ListEntry> &kinds, const QRectF &
         const bool isEmpty = kind.entries.isEmpty();
         QRectF head = cell;
         head.setHeight(isEmpty ? cell.height() : cell.height() * 0.24);
-        name.text.pixels = lettersFor(head);
+        name.text.pixels = cardLetters(head);
         addChip(canvas, head, kind.text, name);
-        const QRectF room = cell.adjusted(gap, head.height(), -gap, -gap);
-        const QVector<QRectF> things = gridCells(room, kind.entries.size(), {2, {240, 110}}, gap);
+        const QRectF room = cell.adjusted(cardGap, head.height(), -cardGap, -cardGap);
+        const QVector<QRectF> things = gridCells(room, kind.entries.size(), {2, {240, 110}}, cardGap);
         for (int j = 0; j < things.size(); ++j) {
-            addChip(canvas, things.at(j), kind.entries.at(j).texts().value(0), cardLook(lettersFor(things.at(j))));
+            addChip(canvas, things.at(j), kind.entries.at(j).texts().value(0), cardLook(cardLetters(things.at(j))));
         }
     }
 }
@@ -84,7 +84,7 @@ void drawPairs(Canvas &canvas, const QVector<ListEntry> &entries, const QRectF &
     QRectF column = area;
     column.setWidth(area.width() * 0.34);
     // One column of cells, whatever their number.
-    const QVector<QRectF> cells = gridCells(column, pairs.size(), {1e6, {column.width(), 110}}, gap);
+    const QVector<QRectF> cells = gridCells(column, pairs.size(), {1e6, {column.width(), 110}}, cardGap);
     SvgPaint knobs;
     knobs.fill = QColor(0x4d, 0x69, 0x80);
     knobs.line = Qt::transparent;
@@ -97,7 +97,7 @@ void drawPairs(Canvas &canvas, const QVector<ListEntry> &entries, const QRectF &
                 continue;
             }
             const QRectF cell = cells.at(i).translated(isLeft ? 0 : area.width() - column.width(), 0);
-            addChip(canvas, cell, text, cardLook(lettersFor(cell)));
+            addChip(canvas, cell, text, cardLook(cardLetters(cell)));
             const double away = 2 * radius;
             knob.addEllipse(QPointF(isLeft ? cell.right() + away : cell.left() - away, cell.center().y()), radius,
                             radius);
@@ -145,7 +145,7 @@ bool drawExercise(Canvas &canvas, const ItemView &item)
     ChipLook board = cardLook(0);
     board.face = QColor(0xf4, 0xf7, 0xfa);
     addFrame(canvas.svg(), area, board);
-    const double margin = qMin(gap, qMin(box.width, box.height) / 20);
+    const double margin = qMin(cardGap, qMin(box.width, box.height) / 20);
     area.adjust(margin, margin, -margin, -margin);
     if (!title.isEmpty()) {
         constexpr double highest = 56;

@@ -28,7 +28,7 @@ QVector<QDomElement> childrenOf(const QDomElement &element)
 }
 
 // A number of ems, pixels or parts; nothing for what is none.
-double lengthOf(const QString &text, double size)
+double lengthFrom(const QString &text, double size)
 {
     int end = 0;
     while (end < text.size()
@@ -131,7 +131,7 @@ private:
     FormulaBox space(const QDomElement &element, const FormulaStyle &style)
     {
         FormulaBox box;
-        box.width = qBound(0.0, lengthOf(element.attribute(QStringLiteral("width")), style.size), 20 * style.size);
+        box.width = qBound(0.0, lengthFrom(element.attribute(QStringLiteral("width")), style.size), 20 * style.size);
         return box;
     }
 

@@ -13,8 +13,8 @@ namespace lessonhost {
 
 namespace {
 
-constexpr double gap = 16; // pixels between cells
-constexpr double largestLetters = 36;
+constexpr double gameGap = 16; // pixels between cells
+constexpr double largestGameLetters = 36;
 constexpr int mostThings = 200;
 const CellForm rowForm{9, {1400, 140}};
 
@@ -77,9 +77,9 @@ void addFigure(Canvas &canvas, const Game &game, const char *figure, const QRect
     addChip(canvas, cell, text, look);
 }
 
-double lettersFor(const QRectF &cell)
+double gameLetters(const QRectF &cell)
 {
-    return qMin(largestLetters, cell.height() * 0.45);
+    return qMin(largestGameLetters, cell.height() * 0.45);
 }
 
 // To be marked as right or wrong.
@@ -98,11 +98,11 @@ void addMarks(PlainSvg &svg, const QRectF &cell)
 
 void drawQuestions(Canvas &canvas, const Game &game, const QRectF &area)
 {
-    const QVector<QRectF> cells = gridCells(area, game.matches.size(), rowForm, gap);
+    const QVector<QRectF> cells = gridCells(area, game.matches.size(), rowForm, gameGap);
     for (int i = 0; i < cells.size(); ++i) {
         addFrame(canvas.svg(), cells.at(i), cardLook(0));
         addMarks(canvas.svg(), cells.at(i));
-        ChipLook look = lookOf(game, "container", lettersFor(cells.at(i)));
+        ChipLook look = lookOf(game, "container", gameLetters(cells.at(i)));
         look.face = look.edge = Qt::transparent;
         addChip(canvas, cells.at(i).adjusted(0, 0, -1.6 * cells.at(i).height(), 0),
                 textOf(game.matches.at(i).toObject(), "question"), look);
@@ -112,13 +112,13 @@ void drawQuestions(Canvas &canvas, const Game &game, const QRectF &area)
 // Terms, and an empty place for each sign between them.
 void drawComparisons(Canvas &canvas, const Game &game, const QRectF &area)
 {
-    const QVector<QRectF> rows = gridCells(area, game.matches.size(), rowForm, gap);
+    const QVector<QRectF> rows = gridCells(area, game.matches.size(), rowForm, gameGap);
     for (int i = 0; i < rows.size(); ++i) {
         const QJsonArray parts = game.matches.at(i).toArray();
-        const QVector<QRectF> cells = gridCells(rows.at(i), qMin(parts.size(), mostThings), {2, {280, 140}}, gap);
+        const QVector<QRectF> cells = gridCells(rows.at(i), qMin(parts.size(), mostThings), {2, {280, 140}}, gameGap);
         for (int j = 0; j < cells.size(); ++j) {
             const QString term = textOf(parts.at(j).toObject(), "condition");
-            ChipLook look = lookOf(game, "container", lettersFor(cells.at(j)));
+            ChipLook look = lookOf(game, "container", gameLetters(cells.at(j)));
             look.isDashed = term.isEmpty();
             addChip(canvas, cells.at(j), term, look);
         }
@@ -127,10 +127,10 @@ void drawComparisons(Canvas &canvas, const Game &game, const QRectF &area)
 
 void drawTexts(Canvas &canvas, const Game &game, const QRectF &area)
 {
-    const QVector<QRectF> cells = gridCells(area, game.matches.size(), rowForm, gap);
+    const QVector<QRectF> cells = gridCells(area, game.matches.size(), rowForm, gameGap);
     for (int i = 0; i < cells.size(); ++i) {
         addFigure(canvas, game, "container", cells.at(i), valueText(game.matches.at(i)),
-                  lookOf(game, "container", lettersFor(cells.at(i))));
+                  lookOf(game, "container", gameLetters(cells.at(i))));
     }
 }
 
@@ -155,19 +155,19 @@ void drawBaskets(Canvas &canvas, const Game &game, const QRectF &area)
     QRectF upper = area;
     QRectF lower = area;
     if (!baskets.isEmpty() && !things.isEmpty()) {
-        upper.setHeight((area.height() - 2 * gap) / 2);
-        lower.setTop(upper.bottom() + 2 * gap);
+        upper.setHeight((area.height() - 2 * gameGap) / 2);
+        lower.setTop(upper.bottom() + 2 * gameGap);
     }
-    const QVector<QRectF> places = gridCells(upper, baskets.size(), {1.4, {600, 360}}, gap);
+    const QVector<QRectF> places = gridCells(upper, baskets.size(), {1.4, {600, 360}}, gameGap);
     for (int i = 0; i < places.size(); ++i) {
-        ChipLook look = lookOf(game, "container", lettersFor(places.at(i)));
+        ChipLook look = lookOf(game, "container", gameLetters(places.at(i)));
         look.isDashed = true;
         addFigure(canvas, game, "container", places.at(i), baskets.at(i), look);
     }
-    const QVector<QRectF> cards = gridCells(lower, things.size(), {1.8, {280, 150}}, gap);
+    const QVector<QRectF> cards = gridCells(lower, things.size(), {1.8, {280, 150}}, gameGap);
     for (int i = 0; i < cards.size(); ++i) {
         addFigure(canvas, game, "material", cards.at(i), things.at(i),
-                  lookOf(game, "material", lettersFor(cards.at(i))));
+                  lookOf(game, "material", gameLetters(cards.at(i))));
     }
 }
 
@@ -217,7 +217,7 @@ void drawGameRecord(Canvas &canvas, const QJsonObject &slide, const QRectF &occu
         look.face = look.edge = QColor(255, 255, 255, canvas.holds(textOf(game.templet, "background")) ? 220 : 0);
         look.text.isBold = true;
         addChip(canvas, head, game.title, look);
-        area.setTop(head.bottom() + gap);
+        area.setTop(head.bottom() + gameGap);
     }
     if (game.matches.isEmpty()) {
         return;

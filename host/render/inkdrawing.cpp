@@ -105,7 +105,7 @@ Ink inkOf(const ItemView &item)
 }
 
 // What the ink covers, by the winding rule.
-QPainterPath areaOf(const Ink &ink)
+QPainterPath inkedArea(const Ink &ink)
 {
     QPainterPath area;
     if (ink.track.isDot()) {
@@ -206,7 +206,7 @@ bool addPainted(Canvas &canvas, const ItemView &item, const QRectF &box, const s
 // What is left of a stroke: as an area where that can be found in time, else as a picture.
 bool drawRest(Canvas &canvas, const ItemView &item, const Ink &ink)
 {
-    const QPainterPath area = areaOf(ink);
+    const QPainterPath area = inkedArea(ink);
     if (const auto rest = canvas.rubbing().rest(area, canvas.svg().transform())) {
         addArea(canvas.svg(), ink, *rest).setAttribute(QStringLiteral("fill-rule"), QStringLiteral("evenodd"));
         return true;
@@ -225,7 +225,7 @@ bool drawLine(Canvas &canvas, const ItemView &item)
         return true;
     }
     if (ink.track.isDot() || !ink.track.widths.isEmpty()) {
-        addArea(canvas.svg(), ink, areaOf(ink));
+        addArea(canvas.svg(), ink, inkedArea(ink));
     } else {
         addLine(canvas.svg(), ink);
     }
@@ -235,7 +235,7 @@ bool drawLine(Canvas &canvas, const ItemView &item)
 // What is left of a stroke that shows a texture. False where that has to be found by painting it.
 bool addTexture(Canvas &canvas, const ItemView &item, const Ink &ink)
 {
-    std::optional<QPainterPath> area = areaOf(ink);
+    std::optional<QPainterPath> area = inkedArea(ink);
     const bool isRubbed = isRubbedOut(canvas, item, boundsOf(ink));
     if (isRubbed) {
         area = canvas.rubbing().rest(*area, canvas.svg().transform());
@@ -258,7 +258,7 @@ bool drawTexture(Canvas &canvas, const ItemView &item)
     if (ink.track.points.isEmpty() || texture.isNull() || !canvas.rubbing().mayPaint()) {
         return drawLine(canvas, item);
     }
-    const QPainterPath area = areaOf(ink);
+    const QPainterPath area = inkedArea(ink);
     return addPainted(canvas, item, area.boundingRect(),
                       [&](QPainter &painter) {
                           painter.setOpacity(ink.color.alphaF());
@@ -341,7 +341,7 @@ std::optional<QPainterPath> rubbedArea(const ItemView &item)
         return std::nullopt;
     }
     const Ink ink = inkOf(item);
-    return ink.track.points.isEmpty() ? std::nullopt : std::optional<QPainterPath>(areaOf(ink));
+    return ink.track.points.isEmpty() ? std::nullopt : std::optional<QPainterPath>(inkedArea(ink));
 }
 
 } // namespace lessonhost

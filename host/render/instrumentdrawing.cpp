@@ -15,7 +15,7 @@ namespace lessonhost {
 
 namespace {
 
-const QLatin1String length("Length");
+const QLatin1String lengthKey("Length");
 const QLatin1String translateX("Translate_X");
 const QLatin1String translateY("Translate_Y");
 const QLatin1String rotateAngle("RotateAngle");
@@ -198,7 +198,7 @@ struct Form
     QPointF handle;
 };
 
-constexpr Form forms[] = {
+constexpr Form instruments[] = {
     {"Math:ruler", 800, 90, &drawRuler, {.5, .5}, {1, .5}},
     {"Math:triangle3060", 400, 231, &drawLongSetSquare, {.5, .5}, {1, 1}},
     {"Math:triangle4545", 300, 300, &drawEvenSetSquare, {.5, .5}, {1, 1}},
@@ -206,9 +206,9 @@ constexpr Form forms[] = {
     {"Math:compasses", 200, 240, &drawCompasses, {.04, 1}, {.96, 1}},
 };
 
-const Form *formOf(const QString &type)
+const Form *instrumentOf(const QString &type)
 {
-    for (const Form &form : forms) {
+    for (const Form &form : instruments) {
         if (type == QLatin1String(form.type)) {
             return &form;
         }
@@ -223,7 +223,7 @@ const Form *formOf(const QString &type)
 std::optional<QRectF> boxOf(const ItemView &item, const Form &form)
 {
     const auto own = item.box();
-    const double told = item.number(length);
+    const double told = item.number(lengthKey);
     if (!own || own->isEmpty()) {
         if (!item.has(translateX) || !item.has(translateY)) {
             return std::nullopt;
@@ -259,7 +259,7 @@ QTransform fromPixels(const PlacedBox &placed)
 
 bool drawInstrument(Canvas &canvas, const ItemView &item)
 {
-    const Form *const form = formOf(item.type());
+    const Form *const form = instrumentOf(item.type());
     const auto placed = form ? placeOf(item, *form) : std::nullopt;
     if (placed) {
         form->draw({canvas.svg(), {placed->width, placed->height}, fromPixels(*placed)});
@@ -271,12 +271,12 @@ bool drawInstrument(Canvas &canvas, const ItemView &item)
 
 SvgDrawing instrumentDrawing(const QString &type)
 {
-    return formOf(type) ? &drawInstrument : nullptr;
+    return instrumentOf(type) ? &drawInstrument : nullptr;
 }
 
 std::optional<InstrumentHandle> instrumentHandle(const ItemView &item)
 {
-    const Form *const form = formOf(item.type());
+    const Form *const form = instrumentOf(item.type());
     const auto placed = form ? placeOf(item, *form) : std::nullopt;
     if (!placed) {
         return std::nullopt;

@@ -17,7 +17,7 @@ namespace {
 constexpr double measuredSize = 100;
 
 // How long a text is. The same words are tried in many sizes.
-double lengthOf(const QString &text)
+double widthOf(const QString &text)
 {
     static const QFontMetricsF metrics = [] {
         QFont font(familyHere(labelFamilies()));
@@ -43,7 +43,7 @@ QStringList brokenIntoLines(const QString &text, double width)
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : words) {
         const QString longer = lines.isEmpty() ? word : QString(lines.constLast() + QLatin1Char(' ') + word);
-        if (!lines.isEmpty() && lengthOf(longer) <= width) {
+        if (!lines.isEmpty() && widthOf(longer) <= width) {
             lines.last() = longer;
         } else {
             lines.append(word);
@@ -56,7 +56,7 @@ QStringList brokenIntoLines(const QString &text, double width)
 int lettersThatFit(const QString &text, double width)
 {
     int fitting = 1;
-    while (fitting < text.size() && lengthOf(text.left(fitting + 1)) <= width) {
+    while (fitting < text.size() && widthOf(text.left(fitting + 1)) <= width) {
         ++fitting;
     }
     return fitting < text.size() && text.at(fitting).isLowSurrogate() ? qMax(1, fitting - 1) : fitting;
@@ -67,7 +67,7 @@ QStringList cutToLines(const QStringList &lines, double width, int count)
 {
     QStringList cut;
     for (QString line : lines) {
-        while (lengthOf(line) > width && cut.size() <= count) {
+        while (widthOf(line) > width && cut.size() <= count) {
             const int fitting = lettersThatFit(line, width);
             cut.append(line.left(fitting));
             line = line.mid(fitting);
@@ -78,7 +78,7 @@ QStringList cutToLines(const QStringList &lines, double width, int count)
         cut = cut.mid(0, count);
         const QString sign(QChar(0x2026));
         QString &last = cut.last();
-        while (!last.isEmpty() && lengthOf(last + sign) > width) {
+        while (!last.isEmpty() && widthOf(last + sign) > width) {
             last.chop(last.size() > 1 && last.at(last.size() - 1).isLowSurrogate() ? 2 : 1);
         }
         last = last.trimmed() + sign;
@@ -90,7 +90,7 @@ double longestOf(const QStringList &lines)
 {
     double longest = 0;
     for (const QString &line : lines) {
-        longest = qMax(longest, lengthOf(line));
+        longest = qMax(longest, widthOf(line));
     }
     return longest;
 }
@@ -110,7 +110,7 @@ LabelLines linesThatFit(const QString &text, const QSizeF &box, double largestSi
         label.lines = brokenIntoLines(text, width);
         label.isWhole = longestOf(label.lines) <= width && label.lines.size() <= count;
         if (!label.isWhole && label.size <= smallestSize) {
-            const bool isTiny = count < 1 || width < lengthOf(QStringLiteral("mm"));
+            const bool isTiny = count < 1 || width < widthOf(QStringLiteral("mm"));
             label.lines = isTiny ? QStringList() : cutToLines(label.lines, width, count);
         }
         if (label.isWhole || label.size <= smallestSize) {

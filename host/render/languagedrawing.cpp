@@ -15,7 +15,7 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String wordArt("ZQCommonYishuzi");
-constexpr int mostLetters = 400; // of an item, in squares
+constexpr int mostSquares = 400; // of an item, in squares
 constexpr int dashedLine = 2;
 constexpr double usedWidth = 0.96; // of lines that are full
 
@@ -56,7 +56,7 @@ QString wordsOf(const QString &text)
 QStringList lettersOf(const QString &text)
 {
     QStringList letters;
-    for (int i = 0; i < text.size() && letters.size() < mostLetters; ++i) {
+    for (int i = 0; i < text.size() && letters.size() < mostSquares; ++i) {
         const QChar c = text.at(i);
         if (!letters.isEmpty() && (c.isLowSurrogate() || c.isMark())) {
             letters.last() += c;
@@ -351,7 +351,7 @@ void drawWordArt(const Sheet &sheet, const ItemView &item)
     }
     QStringList rows;
     for (const QString &row :
-         text.left(mostLetters).replace(QChar::LineSeparator, QLatin1Char('\n')).split(QLatin1Char('\n'))) {
+         text.left(mostSquares).replace(QChar::LineSeparator, QLatin1Char('\n')).split(QLatin1Char('\n'))) {
         if (!row.simplified().isEmpty()) {
             rows.append(row.simplified());
         }

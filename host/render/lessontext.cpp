@@ -26,7 +26,7 @@ namespace {
 constexpr double largestPoints = largestLetters * 72 / SvgPaintDevice::dotsPerInch;
 
 // The one that is here before the list that is asked for.
-QStringList families(const QStringList &asked)
+QStringList familiesHere(const QStringList &asked)
 {
     static QHash<QStringList, QStringList> known;
     auto found = known.constFind(asked);
@@ -44,7 +44,7 @@ QTextCharFormat prepared(QTextCharFormat format)
         asked.append(format.fontFamily());
     }
     if (!asked.isEmpty()) {
-        format.setFontFamilies(families(asked));
+        format.setFontFamilies(familiesHere(asked));
         format.clearProperty(QTextFormat::FontFamily);
     }
     if (format.hasProperty(QTextFormat::FontPointSize)) {
@@ -70,7 +70,7 @@ QFont fontOf(const QString &family, bool isBold, double points = 0)
             fonts.clear();
         }
         QFont font;
-        font.setFamilies(families({family}));
+        font.setFamilies(familiesHere({family}));
         if (points > 0) {
             font.setPointSizeF(points);
         } else {

@@ -29,7 +29,7 @@ struct MathForm
 };
 
 // clang-format off
-constexpr MathForm forms[] = {
+constexpr MathForm mathForms[] = {
     {"ZQTriangle", 3, "M .5 0 L 1 1 L 0 1 Z", true, "", ""},
     {"ZQMath2DRhombus", 4, "M .5 0 L 1 .5 L .5 1 L 0 .5 Z", true, "", ""},
     {"ZQMath2DTrapezoid", 4, "M .25 0 L .75 0 L 1 1 L 0 1 Z", true, "", ""},
@@ -84,11 +84,11 @@ constexpr MathForm forms[] = {
 };
 // clang-format on
 
-const MathForm *formOf(const QString &type)
+const MathForm *mathFormOf(const QString &type)
 {
-    const auto *const found = std::find_if(std::begin(forms), std::end(forms),
+    const auto *const found = std::find_if(std::begin(mathForms), std::end(mathForms),
                                            [&type](const MathForm &form) { return type == QLatin1String(form.type); });
-    return found == std::end(forms) ? nullptr : found;
+    return found == std::end(mathForms) ? nullptr : found;
 }
 
 constexpr int dashOfHidden = 2;
@@ -156,7 +156,7 @@ QPainterPath axis(double length, double step, double arrow)
 // A figure or a body of the table: the corners of the item if it has as many as the type, else the type's own form.
 bool drawForm(Canvas &canvas, const ItemView &item)
 {
-    const MathForm *const form = formOf(item.type());
+    const MathForm *const form = mathFormOf(item.type());
     if (!form) {
         return false;
     }
@@ -311,7 +311,7 @@ SvgDrawing mathDrawing(const QString &type)
         {QStringLiteral("ZQMathToolCoordinateParam"), &drawAxes},
         {QStringLiteral("ZQMathToolCoordinatePolar"), &drawPolarAxes},
     };
-    return drawings.value(type, formOf(type) ? &drawForm : nullptr);
+    return drawings.value(type, mathFormOf(type) ? &drawForm : nullptr);
 }
 
 } // namespace lessonhost

@@ -45,7 +45,7 @@ QPolygonF cornersOfAngle(const ItemView &item)
     return placedOnPage(item, corners);
 }
 
-QColor inkOf(const ItemView &item)
+QColor markInk(const ItemView &item)
 {
     return firstColor(item, {"ArtObj_Color1", "LineColor"}, Qt::black);
 }
@@ -83,14 +83,14 @@ void addAngles(PlainSvg &svg, const ItemView &item, const QPolygonF &corners, bo
         addDegrees(marks, corners.at(i), corners.at((i + count - 1) % count), corners.at((i + 1) % count), letters);
     }
     if (!marks.isEmpty()) {
-        svg.addMarks(marks, letters, inkOf(item));
+        svg.addMarks(marks, letters, markInk(item));
     }
 }
 
 void addDot(PlainSvg &svg, const ItemView &item, const QPointF &middle)
 {
     SvgPaint paint;
-    paint.fill = inkOf(item);
+    paint.fill = markInk(item);
     paint.line = Qt::transparent;
     const double radius = outlineWidth(item) + 1;
     QPainterPath dot;

@@ -37,7 +37,7 @@ QVector<XmlAttribute> usingAttributes(const QDomElement &image, const QVector<Xm
     return attributes;
 }
 
-qint64 areaOf(const QSize &size)
+qint64 pixelCount(const QSize &size)
 {
     return qint64(size.width()) * size.height();
 }
@@ -58,20 +58,20 @@ QString PictureStore::add(const QString &file, PixelBudget &budget)
     if (most <= 0) {
         return {};
     }
-    if (index == none || areaOf(m_entries.at(index).size) > most) {
+    if (index == none || pixelCount(m_entries.at(index).size) > most) {
         index = m_indices.value({print, most}, none);
     }
     if (index == none) {
         const Picture picture(file);
         index = m_entries.size();
-        const bool isWhole = areaOf(picture.size()) <= most;
+        const bool isWhole = pixelCount(picture.size()) <= most;
         m_entries.append({file, picture.shown(most, budget).size, most, picture.format() == "svg"});
         m_indices.insert({print, isWhole ? 0 : most}, index);
     }
     if (m_entries.at(index).size.isEmpty()) {
         return {};
     }
-    budget.take(pixels, areaOf(m_entries.at(index).size));
+    budget.take(pixels, pixelCount(m_entries.at(index).size));
     return namePrefix + QString::number(index);
 }
 

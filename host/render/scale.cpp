@@ -54,7 +54,7 @@ double partOfTick(int index, int parts)
     return index == 0 ? 1 : index * 2 == parts ? 0.75 : 0.5;
 }
 
-QString numberText(double value, int decimals)
+QString markText(double value, int decimals)
 {
     constexpr int most = 6;
     return decimals < 0 ? QString::number(value, 'g', most) : QString::number(value, 'f', qMin(decimals, most));
@@ -63,8 +63,8 @@ QString numberText(double value, int decimals)
 // Of the first number or the last, whichever is longer.
 int mostLetters(const Scale &scale, const Steps &steps)
 {
-    return qMax(numberText(scale.first, scale.decimals).size(),
-                numberText(scale.first + steps.count * scale.step, scale.decimals).size());
+    return qMax(markText(scale.first, scale.decimals).size(),
+                markText(scale.first + steps.count * scale.step, scale.decimals).size());
 }
 
 // How large numbers may be, as part of what they would be: half of one reaches beyond the end of a line, and no further
@@ -188,7 +188,7 @@ void addScale(PlainSvg &svg, const ScaleCourse &course, const Scale &scale, cons
         const QLineF tick = course.tick(step * steps.part, scale.tickLength);
         const QPointF inwards = (tick.p2() - tick.p1()) / qMax(tick.length(), 1e-9);
         SvgMark mark;
-        mark.text = numberText(qAbs(value) < qAbs(scale.step) * 1e-6 ? 0 : value, scale.decimals);
+        mark.text = markText(qAbs(value) < qAbs(scale.step) * 1e-6 ? 0 : value, scale.decimals);
         mark.middle = placed.map(
             tick.p2()
             + inwards * (reach(mark.text, scale.numberSize, inwards, scale.turnsNumbers) + scale.numberSize * 0.25));

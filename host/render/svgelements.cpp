@@ -30,7 +30,7 @@ QString factor(double value)
 }
 
 // Two digits behind the point. A drawing is mostly numbers, and these are quick to write.
-void appendNumber(QString &text, double value)
+void appendDrawnNumber(QString &text, double value)
 {
     constexpr int mostLetters = 16;
     QChar letters[mostLetters];
@@ -54,7 +54,7 @@ void appendNumber(QString &text, double value)
 QString drawnNumber(double value)
 {
     QString text;
-    appendNumber(text, value);
+    appendDrawnNumber(text, value);
     return text;
 }
 
@@ -80,9 +80,9 @@ QString drawnPath(const QPainterPath &path)
         const QPainterPath::Element element = path.elementAt(i);
         start = element.isMoveTo() ? QPointF(element) : start;
         data += QLatin1Char(element.isMoveTo() ? 'M' : element.isLineTo() ? 'L' : element.isCurveTo() ? 'C' : ' ');
-        appendNumber(data, element.x);
+        appendDrawnNumber(data, element.x);
         data += QLatin1Char(' ');
-        appendNumber(data, element.y);
+        appendDrawnNumber(data, element.y);
         const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
         if (isLast && !element.isMoveTo() && QPointF(element) == start) {
             data += QLatin1Char('Z');

@@ -31,7 +31,7 @@ struct FamilyColors
     const char *colors;
 };
 
-constexpr FamilyColors families[] = {
+constexpr FamilyColors familyColors[] = {
     {"ZQPhysics", "edge:ArtObj_Color0 fill:ArtObj_Color1"},
     {"ZQChemistry", "liquid:ArtObj_LiquidColor"},
     {"ZQVector", "edge:ArtVectObj_FrameColor fill:ArtVectObj_RegionColor"},
@@ -131,7 +131,7 @@ SymbolFile::SymbolFile(const QDomDocument &document, const QString &type)
     m_across = stretching(QStringLiteral("data-stretch-x"), m_size.width());
     m_down = stretching(QStringLiteral("data-stretch-y"), m_size.height());
     m_keys.insert(QStringLiteral("edge"), {});
-    for (const FamilyColors &family : families) {
+    for (const FamilyColors &family : familyColors) {
         if (type.startsWith(QLatin1String(family.prefix))) {
             addColors(m_keys, QLatin1String(family.colors));
         }

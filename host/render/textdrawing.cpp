@@ -10,7 +10,7 @@ namespace lessonhost {
 namespace {
 
 // A text without a box goes on to the right end of the page.
-QRectF areaOf(const ItemView &item, const QSizeF &page)
+QRectF textArea(const ItemView &item, const QSizeF &page)
 {
     if (const auto box = item.box()) {
         return *box;
@@ -45,7 +45,7 @@ bool drawTextBoard(Canvas &canvas, const ItemView &item)
         text = QLatin1String("<p style=\"margin:0px; white-space:pre-wrap\">") + text.toHtmlEscaped()
             + QLatin1String("</p>");
     }
-    const QRectF area = areaOf(item, canvas.svg().size());
+    const QRectF area = textArea(item, canvas.svg().size());
     drawBackground(canvas, item, area);
     TextPlace place;
     place.isInMiddle = false;
