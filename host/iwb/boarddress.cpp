@@ -18,7 +18,7 @@ namespace lessonhost {
 namespace {
 
 const QLatin1String recordTag("iwb:element");
-const QLatin1String linkTag("svg:a");
+const QLatin1String boardLinkTag("svg:a");
 const QLatin1String lineTag("svg:line");
 const QLatin1String polylineTag("svg:polyline");
 const QLatin1String polygonTag("svg:polygon");
@@ -359,7 +359,7 @@ void BoardDress::dress(QDomElement page, const Items &items)
     m_elements.clear();
     dressBackground(page);
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.tagName() != linkTag) {
+        if (child.tagName() != boardLinkTag) {
             dressElement(child, items);
         } else {
             child = isSoundOf(child) ? dressSound(child, items) : dressLink(child, items);
@@ -382,7 +382,7 @@ void BoardDress::dress(QDomElement page, const Items &items)
 QDomElement BoardDress::dressLink(QDomElement link, const Items &items)
 {
     QDomElement inner = link.firstChildElement();
-    const bool isSound = inner.tagName() == linkTag;
+    const bool isSound = inner.tagName() == boardLinkTag;
     const QString target = link.attribute(QStringLiteral("xlink:href"));
     const bool stays = !isSound && canBeFollowed(target);
     if (!stays || isWebAddress(target)) {

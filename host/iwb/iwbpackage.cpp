@@ -24,7 +24,7 @@ const QLatin1String contentName("content.xml");
 const QLatin1String embeddedScheme("data:");
 constexpr qint64 pieceSize = qint64(64) * 1024;
 
-template <typename Text> bool isReference(const Text &attribute)
+template <typename Text> bool isReferenceOfSvg(const Text &attribute)
 {
     return attribute.endsWith(QLatin1String("href"));
 }
@@ -90,7 +90,7 @@ public:
         const int embedded = m_package.m_embeddedPaths.size();
         const QDomNamedNodeMap attributes = element.attributes();
         for (int i = 0; i < attributes.size(); ++i) {
-            if (isReference(attributes.item(i).nodeName())) {
+            if (isReferenceOfSvg(attributes.item(i).nodeName())) {
                 m_package.takeReference(attributes.item(i).nodeValue());
             }
         }
@@ -119,7 +119,7 @@ public:
     void pass(const Passed &passed) override
     {
         for (const QXmlStreamAttribute &attribute : passed.attributes) {
-            if (isReference(attribute.qualifiedName())) {
+            if (isReferenceOfSvg(attribute.qualifiedName())) {
                 m_package.takeReference(attribute.value().toString());
             }
         }
@@ -228,7 +228,7 @@ int IwbPackage::findReferences(QDomElement element, int embedded) const
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
         QDomAttr attribute = attributes.item(i).toAttr();
-        if (!isReference(attribute.name())) {
+        if (!isReferenceOfSvg(attribute.name())) {
             continue;
         }
         const QString other = otherName(attribute.value());

@@ -47,7 +47,7 @@ QString fileTitle(const QString &type)
     return title;
 }
 
-QDomElement innermost(QDomElement element)
+QDomElement withinLink(QDomElement element)
 {
     while (element.tagName() == linkTag && !element.firstChildElement().isNull()) {
         element = element.firstChildElement();
@@ -58,7 +58,7 @@ QDomElement innermost(QDomElement element)
 // A film of a kind that the format hasn't is a file to open.
 QDomElement withFilmLinked(QDomElement element)
 {
-    QDomElement film = innermost(element);
+    QDomElement film = withinLink(element);
     const QString reference = film.attribute(QStringLiteral("xlink:href"));
     if (film.tagName() == QLatin1String("svg:video") && reference.startsWith(QLatin1String("additional/"))) {
         film.setTagName(linkTag);
@@ -252,7 +252,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
     if (m_isUniqueInDocument) {
         element = withFilmLinked(element);
     }
-    const QDomElement media = innermost(element);
+    const QDomElement media = withinLink(element);
     if (m_painter && media.tagName() == linkTag) {
         addSign(media, item);
     }

@@ -6431,6 +6431,7 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <source>other boards show a picture that opens it</source>
         <translation>andere Tafeln zeigen ein Bild, das es öffnet</translation>
     </message>
+    <message>
         <source>Chemistry</source>
         <translation>Chemie</translation>
     </message>

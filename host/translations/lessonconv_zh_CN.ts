@@ -6115,6 +6115,7 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <source>other boards show a picture that opens it</source>
         <translation>其他白板显示一张可以打开它的图片</translation>
     </message>
+    <message>
         <source>Chemistry</source>
         <translation>化学</translation>
     </message>
