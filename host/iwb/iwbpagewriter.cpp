@@ -115,6 +115,8 @@ QDomElement IwbPageWriter::pageSet() const
 QDomElement IwbPageWriter::addPage(const QJsonObject &slide, int number, const SlideLosses &losses)
 {
     m_number = number;
+    m_paintedWords.clear();
+    m_paintedFamilies.clear();
     if (!m_isUniqueInDocument) {
         m_ids = {};
     }
@@ -291,8 +293,11 @@ QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id,
         return {};
     }
     if (!frame.isEmpty()) {
-        picture = PaintedItem{inFrame(*picture, frame), frame};
+        picture->image = inFrame(*picture, frame);
+        picture->box = frame;
     }
+    m_paintedWords += picture->words;
+    m_paintedFamilies += picture->families;
     IwbMedia::File file;
     file.source = QStringLiteral("page%1/%2.png").arg(m_number).arg(id);
     file.isConverted = true;

@@ -7,6 +7,7 @@
 #include "lesson/lesson.h"
 
 #include <QSizeF>
+#include <QStringList>
 
 namespace lessonhost {
 
@@ -46,6 +47,10 @@ public:
     //! Adds the items of the slide to a page, those of groups by themselves.
     QVector<WrittenItem> addItems(QDomElement &page, const QJsonArray &items, const SlideLosses &losses);
 
+    //! What stands on the pictures that items of the last page became, and the fonts that it asks for.
+    const QStringList &paintedWords() const { return m_paintedWords; }
+    const QStringList &paintedFamilies() const { return m_paintedFamilies; }
+
     IwbItemWriter &items() { return m_items; }
 
     //! Records know elements by their identifiers, whatever page they stand on, and links know pages so. Without this,
@@ -76,6 +81,8 @@ private:
     bool m_isUniqueInDocument = false;
     int m_generatedIds = 0;
     int m_pictures = 0; // of items
+    QStringList m_paintedWords;
+    QStringList m_paintedFamilies;
 };
 
 } // namespace lessonhost

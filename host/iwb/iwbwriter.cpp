@@ -161,6 +161,7 @@ void IwbWriter::lookAtTexts(const QDomElement &page)
     for (int i = 0; i < spans.size(); ++i) {
         m_missing.lookAt(spans.at(i).toElement().text(), m_slides);
     }
+    m_missing.lookAt(m_pages.paintedWords(), m_pages.paintedFamilies(), m_slides);
 }
 
 void IwbWriter::start(const QJsonObject &firstSlide)

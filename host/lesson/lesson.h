@@ -83,6 +83,8 @@ struct PaintedItem
 {
     QImage image; //!< with nothing where the item isn't
     QRectF box; //!< where it stands on the page, upright
+    QStringList words; //!< of each text in it
+    QStringList families; //!< the fonts that these ask for first
 };
 
 /*!

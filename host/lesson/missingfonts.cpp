@@ -153,10 +153,15 @@ void MissingFonts::lookAt(const QString &text, int slide)
     }
 }
 
-void MissingFonts::lookAtFamily(const QString &family, int slide)
+void MissingFonts::lookAt(const QStringList &texts, const QStringList &families, int slide)
 {
-    if (!family.isEmpty() && !hasFamily(family)) {
-        m_families[family].insert(slide);
+    for (const QString &text : texts) {
+        lookAt(text, slide);
+    }
+    for (const QString &family : families) {
+        if (!hasFamily(family)) {
+            m_families[family].insert(slide);
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <set>
 
@@ -20,8 +21,8 @@ class MissingFonts
 public:
     //! Looks at the letters of a text. slide is counted from 1.
     void lookAt(const QString &text, int slide);
-    //! Looks at the font that a text asks for.
-    void lookAtFamily(const QString &family, int slide);
+    //! Looks at texts that are drawn here, and the fonts that they ask for.
+    void lookAt(const QStringList &texts, const QStringList &families, int slide);
 
     bool isEmpty() const { return m_letters.isEmpty() && m_families.isEmpty(); }
 

@@ -4,6 +4,7 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "render/drawings.h"
+#include "render/drawntexts.h"
 #include "render/plainsvg.h"
 #include "render/slidepictures.h"
 
@@ -128,8 +129,10 @@ std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, cons
     if (exact.isEmpty()) {
         return {};
     }
+    const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
     return PaintedItem{image.copy(exact),
-                       QRectF(area.topLeft() + QPointF(exact.topLeft()) / sharpness, QSizeF(exact.size()) / sharpness)};
+                       QRectF(area.topLeft() + QPointF(exact.topLeft()) / sharpness, QSizeF(exact.size()) / sharpness),
+                       texts.words, texts.families};
 }
 
 } // namespace lessonhost

@@ -6,6 +6,7 @@
 #include "lesson/itemview.h"
 #include "render/activitydrawing.h"
 #include "render/drawings.h"
+#include "render/drawntexts.h"
 #include "render/inkdrawing.h"
 #include "render/itemlabel.h"
 #include "render/itemoutline.h"
@@ -13,8 +14,6 @@
 #include "render/playsteps.h"
 #include "render/shownitems.h"
 #include "render/slideplay.h"
-
-#include <QSet>
 
 #include <algorithm>
 #include <optional>
@@ -32,57 +31,6 @@ QJsonObject sizeFor(QJsonObject presentation, const QJsonObject &slide)
     }
     return presentation;
 }
-
-/*!
- * What the texts of a slide tell that are drawn.
- */
-class DrawnTexts
-{
-public:
-    DrawnTexts(int slide, MissingFonts &missing)
-        : m_slide(slide)
-        , m_missing(missing)
-    {
-    }
-
-    TextLanguage lookAt(const QDomElement &svg)
-    {
-        TextLanguage language;
-        const QDomNodeList texts = svg.elementsByTagName(QStringLiteral("text"));
-        for (int i = 0; i < texts.size(); ++i) {
-            const QDomElement text = texts.at(i).toElement();
-            const QString words = text.text();
-            m_missing.lookAt(words, m_slide);
-            // Names of items are in the language of who looks at them.
-            if (!text.parentNode().toElement().hasAttribute(QStringLiteral("xml:lang"))) {
-                language.add(words);
-            }
-            lookAtFonts(text);
-            for (QDomElement span = text.firstChildElement(); !span.isNull(); span = span.nextSiblingElement()) {
-                lookAtFonts(span);
-            }
-        }
-        return language;
-    }
-
-private:
-    // The family that is asked for first stands at the beginning of the style.
-    void lookAtFonts(const QDomElement &element)
-    {
-        const QString style = element.attribute(QStringLiteral("style"));
-        const QLatin1String start("font-family:");
-        if (!style.startsWith(start) || m_styles.contains(style)) {
-            return;
-        }
-        m_styles.insert(style);
-        const QString family = style.mid(start.size()).section(QLatin1Char(','), 0, 0).section(QLatin1Char(';'), 0, 0);
-        m_missing.lookAtFamily(family.trimmed().remove(QLatin1Char('\'')), m_slide);
-    }
-
-    int m_slide;
-    MissingFonts &m_missing;
-    QSet<QString> m_styles; // that were looked at
-};
 
 IwbItemWriter::Setting drawnSetting(IZQTransformation *plugin, IwbMedia *media)
 {
@@ -209,7 +157,9 @@ SlidePicture SlidePictures::picture(int index)
         }
     }
     result.svg = plain.finished();
-    result.language = DrawnTexts(result.slide, m_missing).lookAt(result.svg.documentElement());
+    const DrawnTexts texts = DrawnTexts::of(result.svg.documentElement());
+    m_missing.lookAt(texts.words, texts.families, result.slide);
+    result.language = texts.language;
     result.title = titleOf(items);
     if (m_files) {
         result.play = slidePlay(slide, items, steps, m_media, *m_files);
