@@ -62,7 +62,7 @@ const char *const usageExamples = R"(
 
 const char *const usageEnd = TO_SAY("The lesson that is read is never changed. What the other format can't hold is\n"
                                     "named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,\n"
-                                    "2 not done.");
+                                    "or something is wrong that check looks for, 2 not done.");
 
 const char *const serveWord = "serve";
 const char *const servePicturesWord = "serve-pictures";

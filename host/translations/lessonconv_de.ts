@@ -253,10 +253,10 @@
     <message>
         <source>The lesson that is read is never changed. What the other format can&apos;t hold is
 named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
-2 not done.</source>
+or something is wrong that check looks for, 2 not done.</source>
         <translation>Die gelesene Lektion wird nie verändert. Was das andere Format nicht aufnehmen
 kann, wird mit Folie und Element genannt. Rückgabewert: 0 erledigt, 1 erledigt
-mit Verlusten und --strict, 2 nicht erledigt.</translation>
+mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation>
     </message>
     <message>
         <source>Examples:</source>
@@ -447,20 +447,20 @@ mit Verlusten und --strict, 2 nicht erledigt.</translation>
         <translation>Viele: auslassen, was erledigt und unverändert ist.</translation>
     </message>
     <message>
-        <source>Write everything that was lost or kept aside, or how it was drawn, into this file, as JSON.</source>
-        <translation>Alles, was verloren ging oder beiseitegelegt wurde, oder wie gezeichnet wurde, als JSON in diese Datei schreiben.</translation>
+        <source>Write everything that was lost or kept aside, what is wrong, or how it was drawn, into this file, as JSON.</source>
+        <translation>Alles, was verloren ging oder beiseitegelegt wurde, was nicht stimmt oder wie gezeichnet wurde, als JSON in diese Datei schreiben.</translation>
     </message>
     <message>
         <source>Treat losses as a failure: exit code 1.</source>
         <translation>Verluste als Fehler behandeln: Rückgabewert 1.</translation>
     </message>
     <message>
-        <source>Don&apos;t read back what was written. Faster, but losses stay unnoticed.</source>
-        <translation>Nicht zurücklesen, was geschrieben wurde. Schneller, aber Verluste bleiben unbemerkt.</translation>
+        <source>Don&apos;t read back what was written, nor try formats. Faster, but losses stay unnoticed.</source>
+        <translation>Geschriebenes nicht zurücklesen und keine Formate probieren. Schneller, aber Verluste bleiben unbemerkt.</translation>
     </message>
     <message>
-        <source>Replace nothing: what is there already makes the run fail, or is left out of many.</source>
-        <translation>Nichts ersetzen: Was schon da ist, lässt den Lauf scheitern oder wird bei vielen ausgelassen.</translation>
+        <source>Replace nothing: what is there already makes the run fail, and of many those lessons.</source>
+        <translation>Nichts ersetzen: Was schon da ist, lässt den Lauf scheitern, bei vielen nur diese Lektionen.</translation>
     </message>
     <message>
         <source>What becomes of handwriting in IWB: polyline (the default) or drop.</source>

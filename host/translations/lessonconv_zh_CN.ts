@@ -241,9 +241,9 @@
     <message>
         <source>The lesson that is read is never changed. What the other format can&apos;t hold is
 named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
-2 not done.</source>
+or something is wrong that check looks for, 2 not done.</source>
         <translation>读取的课件绝不会被修改。另一种格式无法容纳的内容会按幻灯片和对象
-逐一列出。退出码：0 完成，1 使用 --strict 且有丢失，2 未完成。</translation>
+逐一列出。退出码：0 完成，1 使用 --strict 且有丢失，或 check 发现问题，2 未完成。</translation>
     </message>
     <message>
         <source>Examples:</source>
@@ -434,20 +434,20 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
         <translation>多个课件：跳过已完成且未更改的课件。</translation>
     </message>
     <message>
-        <source>Write everything that was lost or kept aside, or how it was drawn, into this file, as JSON.</source>
-        <translation>将所有丢失或另存的内容，或绘制情况，以 JSON 写入此文件。</translation>
+        <source>Write everything that was lost or kept aside, what is wrong, or how it was drawn, into this file, as JSON.</source>
+        <translation>将所有丢失或另存的内容、发现的问题或绘制情况，以 JSON 写入此文件。</translation>
     </message>
     <message>
         <source>Treat losses as a failure: exit code 1.</source>
         <translation>将丢失视为失败：退出码 1。</translation>
     </message>
     <message>
-        <source>Don&apos;t read back what was written. Faster, but losses stay unnoticed.</source>
-        <translation>不回读写出的内容。速度更快，但不会发现丢失。</translation>
+        <source>Don&apos;t read back what was written, nor try formats. Faster, but losses stay unnoticed.</source>
+        <translation>不回读写出的内容，也不尝试各种格式。速度更快，但不会发现丢失。</translation>
     </message>
     <message>
-        <source>Replace nothing: what is there already makes the run fail, or is left out of many.</source>
-        <translation>不替换任何内容：已存在时运行失败，处理多个课件时则跳过。</translation>
+        <source>Replace nothing: what is there already makes the run fail, and of many those lessons.</source>
+        <translation>不替换任何内容：已存在时运行失败，处理多个课件时仅这些课件失败。</translation>
     </message>
     <message>
         <source>What becomes of handwriting in IWB: polyline (the default) or drop.</source>
@@ -6133,7 +6133,7 @@ named, by slide and item. Exit code: 0 done, 1 done with losses and --strict,
     </message>
     <message>
         <source>Item of no type</source>
-        <translation>没有类型的元素</translation>
+        <translation>没有类型的对象</translation>
     </message>
     <message>
         <source>%1 that is missing</source>
