@@ -182,7 +182,8 @@ QVector<QDomElement> IwbEdits::elementsOf(const QJsonObject &item) const
         if (!element.isNull()) {
             const QDomElement child = childOfPage(element);
             const QDomElement area = fillBehind(element);
-            elements += area.isNull() ? QVector<QDomElement>{child} : QVector<QDomElement>{area, child};
+            elements += area.isNull() || area.parentNode() != child.parentNode() ? QVector<QDomElement>{child}
+                                                                                 : QVector<QDomElement>{area, child};
         }
     }
     return elements;
@@ -298,7 +299,9 @@ QJsonObject IwbEdits::moved(const QString &id)
 // Nothing for what has no colour.
 QJsonObject IwbEdits::colored(const QString &id)
 {
-    QDomElement element = innermost(id);
+    const QDomElement area = fillBehind(innermost(id));
+    // One of two elements that are one item.
+    QDomElement element = !area.isNull() && oneIn(2) ? area : innermost(id);
     QJsonObject item = m_plain.value(id);
     const QColor color(m_random.bounded(256), m_random.bounded(256), m_random.bounded(256));
     const QString text =
@@ -587,8 +590,9 @@ QStringList IwbEdits::told() const
     return sorted;
 }
 
-QByteArray IwbEdits::written()
+QByteArray IwbEdits::written(bool isExact)
 {
+    m_isExact = isExact;
     m_prefixes = {
         {"svg", oneIn(2) ? "svg" : "s"}, {"iwb", oneIn(2) ? "iwb" : "board"}, {"xlink", oneIn(2) ? "xlink" : "x"}};
     m_isIndented = oneIn(2);
@@ -610,7 +614,7 @@ QString IwbEdits::nameOf(const QString &name) const
 QString IwbEdits::valueOf(const QString &name, const QString &value)
 {
     static const QStringList numbers{"x", "y", "width", "height", "cx", "cy", "r", "rx", "ry", "x1", "y1", "x2", "y2"};
-    if (numbers.contains(name) && oneIn(2) && !value.contains('e')) {
+    if (!m_isExact && numbers.contains(name) && oneIn(2) && !value.contains('e')) {
         return value + (value.contains('.') ? "00000001" : ".0");
     }
     QString text = value.toHtmlEscaped();

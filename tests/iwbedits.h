@@ -26,7 +26,8 @@ public:
 
     //! The document written anew: with other prefixes, attributes in another order, other digits behind the fifth,
     //! other blanks, sections as text and the other way round.
-    QByteArray written();
+    //! isExact: with the same digits.
+    QByteArray written(bool isExact = false);
 
     const QJsonArray &slides() const { return m_slides; }
     //! What has to be told, sorted: "number of the slide/identifier: what".
@@ -83,6 +84,7 @@ private:
     QStringList m_done;
     QHash<QString, QString> m_prefixes;
     bool m_isIndented = false;
+    bool m_isExact = false;
     int m_new = 0;
 };
 
