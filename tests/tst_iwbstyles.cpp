@@ -349,6 +349,33 @@ private slots:
         }
     }
 
+    void repeatsBackgrounds()
+    {
+        QImage two(20, 10, QImage::Format_RGB32);
+        for (int i = 0; i < 200; ++i) {
+            two.setPixelColor(i % 20, i / 20, i % 20 < 10 ? Qt::red : Qt::blue);
+        }
+        putFile(path("tiles/images/a.png"), {});
+        two.save(path("tiles/images/a.png"));
+        putFile(path("tiles/content.xml"),
+                documentOf("<svg:rect id='r' width='800' height='600' fill='#ff0'/><svg:image id='b' width='100' height='50' "
+                           "xlink:href='images/a.png'/>",
+                           "<iwb:element ref='r' background='true'/>"
+                           "<iwb:element ref='b' background='true' background-posture='repeated'/>"));
+        LossReport losses;
+        const auto reader = openLesson(path("tiles"), &losses);
+        QVERIFY(reader->resources().contains("images/a_repeated.png"));
+        const LessonSlide slide = reader->slide(0);
+        QCOMPARE(slide.properties.value("document").toString(), "images/a_repeated.png");
+        const QImage all(reader->resourceFile("images/a_repeated.png"));
+        QCOMPARE(all.size(), QSize(800, 600));
+        for (const auto &[x, y, color] : {std::tuple(5, 5, Qt::red), {95, 45, Qt::blue}, {605, 301, Qt::red}, {795, 599, Qt::blue}}) {
+            QCOMPARE(all.pixelColor(x, y), QColor(color));
+        }
+        QVERIFY(detailsOf(losses).join(' ').contains("all its repetitions"));
+        QVERIFY(losses.lossCount() == 0 && slide.items.isEmpty());
+    }
+
     // What svg, records and links are called is up to the writer.
     void readsOtherPrefixes()
     {

@@ -2,6 +2,8 @@
 #include "iwb/iwbreader.h"
 
 #include "files/lessonerror.h"
+#include "files/outputfile.h"
+#include "files/pictures.h"
 #include "iwb/boarddress.h"
 #include "iwb/pagerestorer.h"
 #include "iwb/slidenames.h"
@@ -9,6 +11,13 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/slidelimits.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
 
 namespace lessonhost {
 
@@ -27,6 +36,7 @@ IwbReader::IwbReader(const QString &path, const LessonContext &context)
     }
     nameSlides();
     nameResources();
+    repeatBackgrounds();
     const SlideLosses losses = m_losses.presentation();
     tellSlides(losses);
     nameUnreadMeta(losses);
@@ -187,6 +197,63 @@ void IwbReader::nameResources()
         m_resources.insert(name, path);
         m_lessonPaths.insert(path, name);
     }
+}
+
+// Pictures that are made have to be known before the slides that show them.
+void IwbReader::repeatBackgrounds()
+{
+    const auto &records = m_package.outline().rules().records;
+    const bool isAsked = std::any_of(records.cbegin(), records.cend(), [](const IwbRecord &record) {
+        return record.isBackground && record.posture == QLatin1String("repeated");
+    });
+    for (int i = 0; isAsked && i < m_package.outline().pageCount(); ++i) {
+        slide(i, {});
+    }
+}
+
+// A page of more pixels gets a picture of fewer.
+QString IwbReader::repeated(const QString &picture, const QSizeF &tile)
+{
+    constexpr double mostPixels = 4e6;
+    constexpr double largestSide = 8192;
+    const QString key = QStringLiteral("%1 %2 %3").arg(picture).arg(tile.width()).arg(tile.height());
+    if (m_repetitions.contains(key)) {
+        return m_repetitions.value(key);
+    }
+    QImage one = Picture(resourceFile(picture)).image();
+    const QSizeF page = m_package.outline().rules().viewBox.size();
+    const double scale = std::min({1.0, std::sqrt(mostPixels / (page.width() * page.height())),
+                                   largestSide / std::max(page.width(), page.height())});
+    QImage all((page * scale).toSize().expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+    if (one.isNull() || all.isNull()) {
+        return picture;
+    }
+    all.fill(Qt::transparent);
+    const QSizeF size = tile.isEmpty() ? QSizeF(one.size()) : tile;
+    const QSizeF drawn = size * scale;
+    // Of one that is made smaller or larger as it is drawn, the edges would run into each other.
+    if (drawn.width() >= 1 && drawn.height() >= 1 && drawn.width() * drawn.height() <= mostPixels) {
+        one = one.scaled(drawn.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    QBrush brush(one);
+    brush.setTransform(QTransform::fromScale(drawn.width() / one.width(), drawn.height() / one.height()));
+    QPainter painter(&all);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.fillRect(all.rect(), brush);
+    painter.end();
+    QBuffer bytes;
+    all.save(&bytes, "png");
+    const QString file = m_package.workFolder() + QStringLiteral("/repeated-%1.png").arg(m_repeated.size() + 1);
+    writeFile(file, bytes.data(), m_package.displayName(), OutputFile::Temporary);
+    QString path = picture.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/') + QFileInfo(picture).completeBaseName()
+        + QLatin1String("_repeated.png");
+    path = path.startsWith(QLatin1Char('/')) ? path.mid(1) : path;
+    while (m_resources.contains(path) || m_repeated.contains(path)) {
+        path.insert(path.lastIndexOf(QLatin1Char('.')), QLatin1Char('_'));
+    }
+    m_repeated.insert(path, file);
+    m_repetitions.insert(key, path);
+    return path;
 }
 
 QJsonObject IwbReader::presentation()

@@ -20,10 +20,11 @@ public:
     QJsonObject presentation() override;
     int slideCount() override { return m_package.outline().pageCount(); }
     LessonSlide slide(int index) override;
-    QStringList resources() override { return m_resources.keys(); }
+    QStringList resources() override { return m_resources.keys() + m_repeated.keys(); }
     QString resourceFile(const QString &relativePath) override
     {
-        return m_package.file(m_resources.value(relativePath, relativePath));
+        const QString made = m_repeated.value(relativePath);
+        return made.isEmpty() ? m_package.file(m_resources.value(relativePath, relativePath)) : made;
     }
 
 private:
@@ -42,6 +43,8 @@ private:
         return m_lessonPaths.value(path, path);
     }
     QString file(const QString &path) override { return resourceFile(path); }
+    void repeatBackgrounds();
+    QString repeated(const QString &picture, const QSizeF &tile) override;
     int pageNumber(const QString &id) override { return m_pageNumbers.value(id); }
     int pageOfElement(const QString &id) override { return m_package.outline().pageOf(id) + 1; }
 
@@ -53,6 +56,8 @@ private:
     NativePart m_native;
     QMap<QString, QString> m_resources; // paths in the package by those in the lesson
     QHash<QString, QString> m_lessonPaths; // the other way round
+    QMap<QString, QString> m_repeated; // files on disk of pictures that were made here, by their paths in the lesson
+    QHash<QString, QString> m_repetitions; // their paths, by what they repeat
     QSet<QString> m_asked; // paths that the pages show
     QHash<QString, int> m_pageNumbers;
     QStringList m_slideIds; // of slides that are read from their pages

@@ -199,7 +199,8 @@ QJsonObject IwbSlideReader::readProperties(IwbPage &page, const SlideLosses &los
         problem = pictureProblem(m_references->file(picture));
     }
     if (problem.isEmpty()) {
-        properties.insert(QLatin1String("document"), picture);
+        properties.insert(QLatin1String("document"),
+                          page.isBackgroundRepeated ? m_references->repeated(picture, page.backgroundTile) : picture);
     } else {
         losses.file(QStringLiteral("slide"), page.backgroundReference, problem);
     }

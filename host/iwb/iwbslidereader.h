@@ -22,6 +22,13 @@ public:
     virtual QString resolve(const QString &reference, Sentence *problem) = 0;
     //! Where a path in the lesson lies on disk.
     virtual QString file(const QString &path) = 0;
+    //! The path in the lesson of a picture as large as a page that shows a smaller one again and again. picture: its
+    //! path; tile: how large it is each time, empty for its own size.
+    virtual QString repeated(const QString &picture, const QSizeF &tile)
+    {
+        Q_UNUSED(tile)
+        return picture;
+    }
     //! The number of the page with that identifier, from 1; 0 for none.
     virtual int pageNumber(const QString &id) = 0;
     //! The same of the page on which the element with that identifier stands.

@@ -73,6 +73,8 @@ struct IwbPage
     QDomElement root;
     QDomElement page;
     QString backgroundReference; //!< the background picture as the file has it, or empty
+    bool isBackgroundRepeated = false; //!< beside and below itself, from the page's upper left corner on
+    QSizeF backgroundTile; //!< of one repetition; empty for the picture's own size
     QVector<IwbElement> items;
     QVector<SvgRemark> remarks;
 };

@@ -720,7 +720,10 @@ bool SvgPageBuilder::fillsPage(const QDomElement &element, const IwbRecord &reco
         return true;
     }
     if (record.posture == QLatin1String("repeated")) {
-        remark(element, say("the picture fills the page once instead of many times"));
+        m_result.isBackgroundRepeated = true;
+        m_result.backgroundTile =
+            style.matrix.mapRect(QRectF(0, 0, length(element, "width"), length(element, "height"))).size();
+        remark(element, say("a picture of all its repetitions took its place"), false);
         return true;
     }
     const QRectF box(length(element, "x"), length(element, "y"), length(element, "width", m_rules.viewBox.width()),

@@ -2186,10 +2186,6 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <translation>die Größe ist geschätzt, weil hier keine Schriftart %1 hat: Installieren Sie %2</translation>
     </message>
     <message>
-        <source>the picture fills the page once instead of many times</source>
-        <translation>das Bild füllt die Seite einmal statt viele Male</translation>
-    </message>
-    <message>
         <source>it doesn&apos;t fill the page, so it became a picture that can&apos;t be moved</source>
         <translation>füllt die Seite nicht und wurde deshalb ein Bild, das sich nicht bewegen lässt</translation>
     </message>
@@ -6454,6 +6450,10 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
     <message>
         <source>%1 that is missing</source>
         <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>a picture of all its repetitions took its place</source>
+        <translation>ein Bild aller Wiederholungen trat an seine Stelle</translation>
     </message>
 </context>
 </TS>

@@ -2144,10 +2144,6 @@ or something is wrong that check looks for, 2 not done.</source>
         <translation>大小是估计的，因为这里没有%1的字体：请安装 %2</translation>
     </message>
     <message>
-        <source>the picture fills the page once instead of many times</source>
-        <translation>图片只填充页面一次，而不是多次</translation>
-    </message>
-    <message>
         <source>it doesn&apos;t fill the page, so it became a picture that can&apos;t be moved</source>
         <translation>没有填满页面，因此变成不能移动的图片</translation>
     </message>
@@ -6138,6 +6134,10 @@ or something is wrong that check looks for, 2 not done.</source>
     <message>
         <source>%1 that is missing</source>
         <translation>缺失的%1</translation>
+    </message>
+    <message>
+        <source>a picture of all its repetitions took its place</source>
+        <translation>由一张包含其全部平铺的图片代替</translation>
     </message>
 </context>
 </TS>
