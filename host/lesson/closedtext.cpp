@@ -23,6 +23,7 @@ constexpr int mostOpenTables = 8; // each takes twice the time of that within
 constexpr int mostTables = 2000; // a row or cell that is in none makes one
 constexpr int widestCell = 100;
 constexpr qint64 mostCells = 100000; // of all tables, the empty places in their grids among them
+constexpr qint64 mostInnerSteps = 20000; // what is laid out for the cells of tables in tables
 constexpr qint64 mostStyleSteps = 1000000; // each rule of a style sheet is held against each tag
 
 bool isAnyOf(const QString &name, std::initializer_list<const char *> names)
@@ -292,11 +293,14 @@ private:
             grown.highest = qMax<qint64>(grown.highest, rows);
             grown.higherCells += rows > 1 ? columns : 0;
         }
-        const qint64 cells = m_cells + grown.area() - m_tables.constLast().area();
-        if (cells > mostCells) {
+        const qint64 growth = grown.area() - m_tables.constLast().area();
+        const int around = m_tables.size() - 1;
+        const qint64 inner = around > 0 ? growth << around : 0;
+        if (m_cells + growth > mostCells || m_innerSteps + inner > mostInnerSteps) {
             return false;
         }
-        m_cells = cells;
+        m_cells += growth;
+        m_innerSteps += inner;
         m_tables.last() = grown;
         return true;
     }
@@ -309,6 +313,7 @@ private:
     QHash<QString, int> m_leftOutOpen; // by name
     QVector<Table> m_tables; // those of m_open
     qint64 m_cells = 0; // of all tables so far
+    qint64 m_innerSteps = 0;
     qint64 m_rules = 0;
     int m_listItems = 0;
     int m_pictures = 0;
