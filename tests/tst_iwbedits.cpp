@@ -153,7 +153,12 @@ class TestIwbEdits : public QObject
     // The folder without the lesson itself, with files where the pages name them.
     QJsonObject elementsAlone()
     {
-        const QJsonObject files = model("there/additional/native/lesson.json").value("files").toObject();
+        const QJsonObject lesson = model("there/additional/native/lesson.json");
+        const QJsonObject files = lesson.value("files").toObject();
+        QJsonObject paths = lesson.value("copies").toObject(); // in the lesson, by those in the package
+        for (auto it = files.begin(); it != files.end(); ++it) {
+            paths.insert(it.value().toString(), it.key());
+        }
         QDir(path("plain")).removeRecursively();
         const QMap<QString, QByteArray> all = filesBelow(path("there"));
         for (auto it = all.begin(); it != all.end(); ++it) {
@@ -161,10 +166,10 @@ class TestIwbEdits : public QObject
         }
         convert("plain", "plain.json");
         QByteArray text = fileContent(path("plain.json"));
-        for (auto it = files.begin(); it != files.end(); ++it) {
-            text.replace('"' + it.value().toString().toUtf8() + '"', '"' + it.key().toUtf8() + '"');
+        for (auto it = paths.begin(); it != paths.end(); ++it) {
+            text.replace('"' + it.key().toUtf8() + '"', "\"\a" + it.value().toString().toUtf8() + '"');
         }
-        return QJsonDocument::fromJson(text).object();
+        return QJsonDocument::fromJson(text.replace("\a", "")).object();
     }
 
     static QStringList toldIn(const LossReport &report)
