@@ -468,7 +468,7 @@ void PageRestorer::tell(const QString &slideId, const SlideLosses &losses)
         losses.changed(owner, say("added by another program"));
     }
     if (m_hasOtherBackground || m_isReordered || !m_lost.isEmpty() || !m_opened.isEmpty() || !m_added.isEmpty()) {
-        losses.note(QStringLiteral("page"), sayNumber("%n items are as they were", m_restored));
+        losses.note(slide, sayNumber("%n items are as they were", m_restored));
     }
 }
 
