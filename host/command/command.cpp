@@ -18,6 +18,7 @@
 #include "files/outputfile.h"
 #include "files/packagetarget.h"
 #include "formats/conversion.h"
+#include "lesson/isoneof.h"
 #include "losses/lossreport.h"
 #include "losses/plainlosses.h"
 #include "render/pagefiles.h"
@@ -34,6 +35,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <limits>
+#include <thread>
 
 namespace lessonhost {
 
@@ -67,6 +69,7 @@ const char *const usageEnd = TO_SAY("The lesson that is read is never changed. W
 const char *const serveWord = "serve";
 const char *const servePicturesWord = "serve-pictures";
 const char *const serveChecksWord = "serve-checks";
+const char *const serveWords[] = {serveWord, servePicturesWord, serveChecksWord};
 const char *const manyOption = "out-dir";
 
 // What stands before a purpose in the help.
@@ -527,11 +530,18 @@ int Command::serveChecks(const QStringList &) const
     return Done;
 }
 
+// The workers of a batch have a core each.
+bool Command::hasIdleCores() const
+{
+    return !isOneOf(serveWords, m_line.words().first()) && std::thread::hardware_concurrency() > 1;
+}
+
 LessonContext Command::readingContext(const PluginHost &host) const
 {
     LessonContext context;
     context.plugin = host.plugin();
     context.verify = false;
+    context.readsAhead = hasIdleCores();
     return context;
 }
 
@@ -541,6 +551,7 @@ LessonContext Command::conversionContext(const PluginHost &host, LossReport *los
     context.plugin = host.plugin();
     context.losses = losses;
     context.verify = !isSet("no-check");
+    context.readsAhead = hasIdleCores();
     context.options = m_line.formatOptions();
     if (value("items") != QLatin1String("drop")) {
         context.makePainter = [plugin = context.plugin](LessonReader &reader) {

@@ -94,6 +94,7 @@ private:
     void tellName(const QString &input, const LessonFormat &format) const;
     const LessonFormat &inputFormat(const QString &input) const;
     const LessonFormat &outputFormat(const QString &output) const;
+    bool hasIdleCores() const;
     LessonContext readingContext(const PluginHost &host) const;
     LessonContext conversionContext(const PluginHost &host, LossReport *losses) const;
     LessonCheck checked(const LessonFormat &from, const QString &input, const PluginHost &host,

@@ -5,6 +5,7 @@
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagesource.h"
+#include "files/readahead.h"
 #include "files/xmlparts.h"
 #include "formats/keptitem.h"
 #include "formats/rawattributes.h"
@@ -146,8 +147,7 @@ public:
         const CarriedCheck *check = m_context.verify && losses.isHeard() ? &slideCheck : nullptr;
 
         // It stands alone: reading changes elements.
-        checkSlideSize(m_parts.size(index), index + 1, m_path);
-        const XmlPart part = m_parts.part(index);
+        const XmlPart part = m_slides.take(index, m_parts.count());
         const QDomElement element = part.element;
         element.parentNode().removeChild(element);
         const QVector<QDomElement> items = takeElements(element, element.firstChildElement());
@@ -189,6 +189,12 @@ public:
     }
 
 private:
+    XmlPart part(int index) const
+    {
+        checkSlideSize(m_parts.size(index), index + 1, m_path);
+        return m_parts.part(index);
+    }
+
     static constexpr qint64 idsOfSlide = 1000000;
 
     // The identifiers that the plug-in makes up are others each time; a lesson that is read twice has the same.
@@ -312,6 +318,7 @@ private:
     RawAttributes m_attributes;
     qint64 m_nextId = 1;
     QJsonObject m_presentation;
+    ReadAhead<XmlPart> m_slides{m_context.readsAhead, [this](int index) { return part(index); }};
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "files/packagenames.h"
 #include "files/packagesource.h"
 #include "files/packagetarget.h"
+#include "files/readahead.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
@@ -197,8 +198,7 @@ public:
     LessonSlide slide(int index) override
     {
         const QString file = m_files.at(index);
-        checkSlideSize(QFileInfo(m_source.file(file)).size(), index + 1, m_source.displayName(file));
-        const QDomDocument document = loadXmlFile(m_source.file(file), m_source.displayName(file));
+        const QDomDocument document = m_documents.take(index, m_files.size());
         const QDomElement root = rootOf(document, slideFileTag, m_source.displayName(file));
         const SlideLosses losses = m_losses.slide(index + 1);
         const CarriedCheck check(losses);
@@ -226,6 +226,14 @@ public:
     QString resourceFile(const QString &relativePath) override { return m_source.file(relativePath); }
 
 private:
+    QDomDocument document(int index) const
+    {
+        const QString file = m_source.file(m_files.at(index));
+        const QString name = m_source.displayName(m_files.at(index));
+        checkSlideSize(QFileInfo(file).size(), index + 1, name);
+        return loadXmlFile(file, name);
+    }
+
     QString location() const { return m_source.directory() + QLatin1Char('/') + indexFile; }
 
     // Takes the files out of the index, so that what is left there is the presentation's own.
@@ -279,6 +287,7 @@ private:
     QStringList m_files;
     QJsonObject m_presentation;
     std::unique_ptr<ZqtxSlides> m_slides;
+    ReadAhead<QDomDocument> m_documents{m_context.readsAhead, [this](int index) { return document(index); }};
 };
 
 // An archive for a name that ends in .zqtx, a folder for others.
