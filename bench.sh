@@ -14,7 +14,7 @@ trap 'rm -f "$LESSON_MARKS"' EXIT
 
 # What came out, beside what it may be at most.
 print_table() {
-    awk -F '\t' '{ printf "%-62s %6.2f %6.2f  %s\n", $1, $2, $3, $2 <= $3 ? "met" : "MISSED" }' "$LESSON_MARKS"
+    awk -F '\t' '{ printf "%-62s %6.2f %6.2f  %-6s  %s\n", $1, $2, $3, $2 <= $3 ? "met" : "MISSED", $4 }' "$LESSON_MARKS"
 }
 
 if [ $# -gt 0 ]; then
