@@ -133,7 +133,8 @@ private slots:
             edit(from, to);
         }
         QStringList told;
-        const QJsonArray entries = QJsonDocument::fromJson(convert("there", "back.json").toUtf8()).object().value("entries").toArray();
+        const QJsonArray entries =
+            QJsonDocument::fromJson(convert("there", "back.json").toUtf8()).object().value("entries").toArray();
         for (const QJsonValue &entry : entries) {
             const QString detail = entry.toObject().value("detail").toString();
             told += entry.toObject().value("kind") == "changed"
@@ -147,6 +148,27 @@ private slots:
         const QJsonObject files =
             QJsonDocument::fromJson(fileContent(path("back.json"))).object().value("Resources").toObject();
         QCOMPARE(files.size(), from == "ref-r" ? 1 : 0);
+    }
+
+    // What the format has beside elements of the same shape.
+    void writesWhatOthersKnow()
+    {
+        QDir(path("there")).removeRecursively();
+        putFile(path("in.json"),
+                "{\"Width\":\"800\",\"Height\":\"600\",\"Resources\":{\"a.webm\":\"eA==\"},\"Slides\":[{\"ID\":\"1\","
+                "\"Items\":["
+                "{\"Type\":\"General:curtain\",\"ID\":\"c\",\"BoundingBox\":\"10,20,110,60\",\"rect\":\"0,0,100,30\"},"
+                "{\"Type\":\"ZQMediaVideo\",\"ID\":\"f\",\"BoundingBox\":\"200,10,300,110\",\"resource\":\"a.webm\"},"
+                "{\"Type\":\"ZQTextBoard\",\"ID\":\"t\",\"BoundingBox\":\"0,200,300,250\",\"TextHtml\":"
+                "\"a<span style='background-color:#ff0'>b</span>\"}]}]}");
+        convert("in.json", "there");
+        const QString text = QString::fromUtf8(fileContent(path("there/content.xml")));
+        for (const char *part : {"<svg:rect id=\"c\" fill=\"rgb(140,28,43)\" fill-opacity=\"1\" height=\"30\"",
+                                 "ref=\"c\" revealer=\"true\"", "<svg:a id=\"f\" xlink:href=\"additional/a.webm\">",
+                                 "<svg:image id=\"f_film\"", "<svg:tspan id=\"t_span1\"",
+                                 "<iwb:tspan background-fill=\"#ffff00\" ref=\"t_span1\"/>"}) {
+            QVERIFY2(text.contains(part), part);
+        }
     }
 
     void damagedPartsCountAsNone()
