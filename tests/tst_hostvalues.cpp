@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "files/lessonerror.h"
+#include "files/compactjson.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
@@ -13,6 +14,7 @@
 #include "losses/modelvalues.h"
 #include "pluginfixture.h"
 
+#include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QtTest>
 
@@ -158,6 +160,24 @@ private slots:
             const double number = text.toDouble(&isNumber);
             QVERIFY2(std::memcmp(&found, &number, sizeof number) == 0 && isRead == isNumber, qPrintable(text));
         }
+    }
+
+    // The same of JSON: letters that are escaped or no letters, numbers of all sizes, empty lists, lists in lists.
+    void jsonIsThatOfQt()
+    {
+        QRandomGenerator random(21);
+        QJsonObject object{{"", QJsonArray{QJsonArray{}, QJsonObject{}, QJsonValue(), true, -0.0, 1e6, 1e21, qInf()}}};
+        for (int i = 0; i < 20000; ++i) {
+            QString text;
+            for (int k = random.bounded(8); k > 0; --k) {
+                constexpr uint firsts[] = {0, 0, 0xd800, 0x1f600, 0x80, 'a', '"', '\\'};
+                const uint code = firsts[random.bounded(8)] + random.bounded(i % 2 ? 0x20u : 0x800u);
+                code > 0xffff ? text += QString::fromUcs4(&code, 1) : text += QChar(ushort(code));
+            }
+            const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(-9, 24));
+            object.insert(text, QJsonArray{text, number, std::round(number), QJsonObject{{text, number < 0}}});
+        }
+        QCOMPARE(compactJson(object), QJsonDocument(object).toJson(QJsonDocument::Compact));
     }
 
     // A key that can't name an attribute would end the document, and a null must not count as "no".

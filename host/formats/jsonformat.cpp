@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "formats/lessonformats.h"
 
+#include "files/compactjson.h"
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
@@ -18,7 +19,6 @@
 #include "losses/slidelosses.h"
 
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QSet>
 
 #include <vector>
@@ -189,12 +189,6 @@ private:
     ReadAhead<ReadSlide> m_slides{m_context.readsAhead, [this](int index) { return read(index); }};
 };
 
-QByteArray compact(const QJsonValue &value)
-{
-    const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return array.mid(1, array.size() - 2);
-}
-
 /*!
  * Writes slide by slide, each item on a line of its own, so that two versions of a lesson can be compared line by line.
  */
@@ -221,7 +215,7 @@ public:
     {
         put("{\n");
         for (auto it = presentation.constBegin(); it != presentation.constEnd(); ++it) {
-            put("  " + compact(it.key()) + ": " + compact(it.value()) + ",\n");
+            put("  " + compactJson(it.key()) + ": " + compactJson(it.value()) + ",\n");
         }
         put("  \"Slides\": [");
     }
@@ -245,11 +239,11 @@ public:
         put(m_slides > 0 ? ",\n    {\n" : "\n    {\n");
         ++m_slides;
         for (auto it = slide.properties.constBegin(); it != slide.properties.constEnd(); ++it) {
-            put("      " + compact(it.key()) + ": " + compact(it.value()) + ",\n");
+            put("      " + compactJson(it.key()) + ": " + compactJson(it.value()) + ",\n");
         }
         put("      \"Items\": [");
         for (int i = 0; i < slide.items.size(); ++i) {
-            put((i > 0 ? ",\n        " : "\n        ") + compact(slide.items.at(i)));
+            put((i > 0 ? ",\n        " : "\n        ") + compactJson(slide.items.at(i)));
         }
         put(slide.items.isEmpty() ? "]\n    }" : "\n      ]\n    }");
         checkSlideSize(m_file.pos() - begin, m_slides, m_target.target());
@@ -261,7 +255,7 @@ public:
         if (!m_resources.isEmpty()) {
             put(",\n  \"Resources\": {");
             for (int i = 0; i < m_resources.size(); ++i) {
-                put((i > 0 ? ",\n    " : "\n    ") + compact(m_resources.at(i).first) + ": \"");
+                put((i > 0 ? ",\n    " : "\n    ") + compactJson(m_resources.at(i).first) + ": \"");
                 putBase64(m_resources.at(i).first, m_resources.at(i).second);
                 put("\"");
             }

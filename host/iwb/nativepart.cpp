@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "iwb/nativepart.h"
 
+#include "files/compactjson.h"
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagenames.h"
@@ -149,7 +150,7 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
                             QJsonObject{{Keys::ids, QJsonArray::fromStringList(backgroundIds)},
                                         {Keys::mark, backgroundMark(background, records)}}},
                            {Keys::items, entries}};
-    const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
+    const QByteArray text = compactJson(json);
     if (text.size() > 3 * maximumSlideSize || !isReadAs(text, json)) {
         return false;
     }
