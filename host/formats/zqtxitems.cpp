@@ -285,10 +285,14 @@ void ZqtxItems::compare(const QJsonObject &item, const QDomElement &read, QDomEl
                         const CarriedCheck &check) const
 {
     const QString type = item.value(ItemKeys::type).toString();
-    if (read.attribute(typeAttribute) != written.attribute(typeAttribute)
-        && m_plugin->tranItemZQTX2JSON(written, {}).value(ItemKeys::type) == type) {
-        // Two names of one type.
-        written.setAttribute(typeAttribute, read.attribute(typeAttribute));
+    const QString name = written.attribute(typeAttribute);
+    if (read.attribute(typeAttribute) != name) {
+        QDomElement named = looseElement(written.tagName());
+        named.setAttribute(typeAttribute, name);
+        if (m_plugin->tranItemZQTX2JSON(named, {}).value(ItemKeys::type) == type) {
+            // Two names of one type.
+            written.setAttribute(typeAttribute, read.attribute(typeAttribute));
+        }
     }
     takeOpacityOutOfColor(read, written);
     check.compare(item, read, written);

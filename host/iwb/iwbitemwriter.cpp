@@ -148,8 +148,13 @@ QDomElement IwbItemWriter::write(QDomDocument &document, const QJsonObject &item
         element = writeMedia(item);
     } else if (m_setting.convertsDrawings && type == curtainType) {
         element = writeCurtain(item);
+    } else if (m_formless.contains(type) && view.text(ItemKeys::linkType).isEmpty()) {
+        tellFormless({});
     } else {
         element = convert(commonKeys(item));
+        if (element.isNull() && m_whyNot.isEmpty()) {
+            m_formless.insert(type);
+        }
     }
     if (!element.isNull()) {
         complete(item, element);
@@ -179,9 +184,9 @@ QDomElement IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &
             shape.setAttribute(QStringLiteral("stroke-linecap"), QStringLiteral("round"));
         }
     }
-    const QRectF extent = drawnExtent(shape).value_or(QRectF());
-    const QRectF box = placed.form->outline == ShapeForm::Rectangle ? placed.box.value_or(extent) : extent;
-    setSvgBox(shape, box, pluginDigits);
+    if (placed.form->outline == ShapeForm::Rectangle) {
+        setSvgBox(shape, placed.box.value_or(drawnExtent(shape).value_or(QRectF())), pluginDigits);
+    }
     setSvgTurn(shape, placed.angle);
     return element;
 }

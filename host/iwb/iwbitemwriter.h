@@ -6,6 +6,7 @@
 #include "losses/slidelosses.h"
 
 #include <QDomDocument>
+#include <QSet>
 
 class IZQTransformation;
 
@@ -73,6 +74,7 @@ private:
     SlideLosses m_losses; // of its slide
     QString m_linkedFile; // the reference of the file that the item being written opens
     QString m_missingFile; // that it would open
+    QSet<QString> m_formless; // types that the plug-in gave no element for
     Sentence m_whyNot;
     bool m_tellsFormless = true;
     int m_strokes = 0;

@@ -114,9 +114,11 @@ private:
         {
             const QString name = label.isEmpty() ? tag : QString(tag + QLatin1Char(' ') + label);
             if (name != m_last) {
-                m_counts[m_last] = m_count;
+                if (m_count > 0) {
+                    m_counts.insert(m_last, m_count);
+                }
                 m_last = name;
-                m_count = m_counts.value(name);
+                m_count = m_counts.isEmpty() ? 0 : m_counts.value(name);
             }
             return ++m_count;
         }
@@ -198,15 +200,19 @@ private:
         const bool isRow = !m_steps.isEmpty() && !m_steps.last().label.isEmpty();
         const bool isEmptyRow = isRow && read.attribute(QStringLiteral("value")).isEmpty();
         const auto attributes = attributesOf(read);
-        for (const auto &[name, value] : attributes) {
+        const auto others = attributesOf(written);
+        // As a rule, the written element has the same ones in the same order.
+        const bool arePaired = std::equal(attributes.cbegin(), attributes.cend(), others.cbegin(), others.cend(),
+                                          [](const auto &one, const auto &other) { return one.first == other.first; });
+        for (int i = 0; i < attributes.size(); ++i) {
+            const auto &[name, value] = attributes.at(i);
             // A label says nothing without a value.
             if (!(isEmptyRow && name == labelName)) {
-                compareValue(read, name, value, written.attribute(name));
+                compareValue(read, name, value, arePaired ? others.at(i).second : written.attribute(name));
             }
         }
-        const auto others = attributesOf(written);
         for (const auto &[name, value] : others) {
-            if (!read.hasAttribute(name)) {
+            if (!arePaired && !read.hasAttribute(name)) {
                 compareValue(read, name, {}, value);
             }
         }
