@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "files/lessonerror.h"
+#include "files/readahead.h"
 #include "files/compactjson.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
@@ -62,6 +63,28 @@ private:
     }
 
 private slots:
+    // Whichever thread makes them, parts and failures come when they are asked for.
+    void readAheadInOrder()
+    {
+        for (const bool isAhead : {false, true}) {
+            QStringList told;
+            ReadAhead<QString> parts(isAhead, [](int index) {
+                if (index == 2) {
+                    throw LessonError(Sentence("two"));
+                }
+                return QString::number(index * index);
+            });
+            for (const int index : {0, 1, 2, 3, 4, 1, 0, 1, 3, 2, 3}) {
+                try {
+                    told.append(parts.take(index, 5));
+                } catch (const LessonError &error) {
+                    told.append(error.problem().english());
+                }
+            }
+            QCOMPARE(told.join(' '), QString("0 1 two 9 16 1 0 1 9 two 9"));
+        }
+    }
+
     // Trees that a text can't hold, and texts that are no longer those of their tree.
     void readBackWithoutParser()
     {
