@@ -39,34 +39,14 @@ QTextCodec *firstCodec(const QByteArray &head)
 
 XmlProblem XmlScan::take(const QByteArray &piece)
 {
-    const char *const end = piece.constData() + piece.size();
-    const char *at = passPlain(piece.constData(), end);
-    while (at < end) {
-        const XmlProblem problem = takeByte(uchar(*at));
+    for (const char c : piece) {
+        const XmlProblem problem = takeByte(uchar(c));
         if (problem != XmlProblem::None) {
             return problem;
         }
         ++m_at;
-        at = passPlain(at + 1, end);
     }
     return XmlProblem::None;
-}
-
-// What stands in texts and values, which is most of a document, up to what ends it.
-inline const char *XmlScan::passPlain(const char *at, const char *end)
-{
-    if (m_place != Text && m_place != Value) {
-        return at;
-    }
-    const char last = m_place == Text ? '<' : char(m_quote);
-    const char *const begin = at;
-    int lines = 0;
-    for (; at < end && *at != last; ++at) {
-        lines += *at == '\n' ? 1 : 0;
-    }
-    m_line += lines;
-    m_at += at - begin;
-    return at;
 }
 
 inline XmlProblem XmlScan::takeByte(uchar c)

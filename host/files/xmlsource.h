@@ -48,7 +48,6 @@ public:
 private:
     enum Place { Text, Open, Mark, Comment, CData, Instruction, Tag, Value };
 
-    const char *passPlain(const char *at, const char *end);
     XmlProblem takeByte(uchar c);
     void takeOpen(uchar c);
     void endTag();
