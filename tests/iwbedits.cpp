@@ -263,8 +263,11 @@ bool IwbEdits::changeOne(int slide)
     }
     QJsonObject item = oneIn(2) ? moved(id) : colored(id);
     item = item.isEmpty() ? moved(id) : item;
-    if (given.contains("animations")) {
-        item.insert("animations", given.value("animations"));
+    item.remove("CoverLayer");
+    for (const char *key : {"animations", "CoverLayer"}) {
+        if (given.contains(key)) {
+            item.insert(key, given.value(key));
+        }
     }
     setItems(slide, withItem(items(slide), id, item));
     tell(slide, id, "changed");

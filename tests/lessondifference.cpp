@@ -279,7 +279,7 @@ bool hasSteps(const QString &type)
 
 // Where an item stands on the page: its points, stretched into its box and turned, or its corners. Nothing where one of
 // its values isn't what it should be. Points that are there twice in a row draw nothing.
-std::optional<QPolygonF> drawing(const QJsonObject &item)
+std::optional<QPolygonF> drawing(const QJsonObject &item, bool isFlipped = false)
 {
     const QString type = item.value("Type").toString();
     const auto matrix = matrixOf(item);
@@ -290,6 +290,10 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
     if (!matrix || !angle) {
         return std::nullopt;
     }
+    std::optional<QRectF> frame;
+    if (box && box->size() == 4) {
+        frame = QRectF(QPointF(box->at(0), box->at(1)), QPointF(box->at(2), box->at(3))).normalized();
+    }
     QPolygonF points;
     QPointF center;
     if (line && hasSteps(type)) {
@@ -297,21 +301,26 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
         for (int i = 1; i < points.size(); ++i) {
             points[i] += points.at(i - 1);
         }
-        center = points.boundingRect().center();
-    } else if (box && box->size() == 4) {
-        const QRectF frame = QRectF(QPointF(box->at(0), box->at(1)), QPointF(box->at(2), box->at(3))).normalized();
-        points = QPolygonF({frame.topLeft(), frame.topRight(), frame.bottomRight(), frame.bottomLeft()});
-        center = frame.center();
+        center = frame ? frame->center() : points.boundingRect().center();
+    } else if (frame) {
+        points = QPolygonF({frame->topLeft(), frame->topRight(), frame->bottomRight(), frame->bottomLeft()});
+        center = frame->center();
         if (hasOwnPoints(type)) {
             const auto own = pairsOf(item.value(type == "ZQMath2DPolyline" ? "XYValue" : "Control"));
             if (!own || (type.contains("Segment") && own->size() != 2)) {
                 return std::nullopt;
             }
             // A matrix is around an origin of the points' own.
-            points = hasMatrix(item) ? *own : stretched(*own, frame);
+            points = hasMatrix(item) ? *own : stretched(*own, *frame);
         }
     } else {
         return std::nullopt;
+    }
+    if (isFlipped && !hasMatrix(item)) {
+        QTransform flips = QTransform::fromTranslate(center.x(), center.y());
+        flips.scale(itemFlag(item.value("HorizonFlip"), false) ? -1 : 1,
+                    itemFlag(item.value("VerticalFlip"), false) ? -1 : 1);
+        points = flips.translate(-center.x(), -center.y()).map(points);
     }
     points = hasMatrix(item) ? matrix->map(points) : turned(points, center, *angle); // a matrix has its own turn
     const auto isNear = [](const QPointF &one, const QPointF &other) { return QLineF(one, other).length() < 1e-4; };
@@ -319,17 +328,28 @@ std::optional<QPolygonF> drawing(const QJsonObject &item)
     return points;
 }
 
-// A closed outline may name its first point again.
-bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found)
+// A closed outline may name its first point again, and the curve of ink have more points between its own.
+bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, bool isFlipped)
 {
-    auto one = drawing(given);
+    auto one = drawing(given, isFlipped);
     const auto other = drawing(found);
-    if (one && other && other->size() == one->size() + 1 && other->size() > 2) {
+    const bool isInk = pairsOf(given.value("XY")) && hasSteps(given.value("Type").toString());
+    if (!isInk && one && other && other->size() == one->size() + 1 && other->size() > 2) {
         one->append(one->first());
     }
-    return one && other
-        && std::equal(one->begin(), one->end(), other->begin(), other->end(),
-                      [](const QPointF &a, const QPointF &b) { return QLineF(a, b).length() < 0.01; });
+    if (!one || !other) {
+        return false;
+    }
+    auto at = other->begin();
+    for (const QPointF &point : *one) {
+        const auto isThere = [&point](const QPointF &there) { return QLineF(point, there).length() < 0.01; };
+        at = isInk ? std::find_if(at, other->end(), isThere) : at;
+        if (at == other->end() || !isThere(*at)) {
+            return false;
+        }
+        ++at;
+    }
+    return at == other->end();
 }
 
 // ---- Items ---------------------------------------------------------------------------------------------------------
@@ -356,6 +376,7 @@ struct Item
     bool isLocked;
     bool isWhole = false; // holds items and nothing else
     bool isAroundPlaced = false; // around items with a matrix, which its own box follows
+    bool isTurnedAround = false; // by what is around it, as drawings have it
     int around = -1; // the number of the item that holds it; -1 on the slide
     QStringList childIds = {};
     QVector<int> childPlaces = {}; // among all items
@@ -394,6 +415,11 @@ void collect(const QJsonArray &items, int around, Road road, QVector<Item> &all)
         }
         item.isAroundPlaced = haveMatrix(children);
         item.around = around;
+        if (!isOuter) {
+            const QJsonObject outer = all.at(around).marked;
+            item.isTurnedAround = all.at(around).isTurnedAround || !isNothing(outer.value("Angle")) || hasMatrix(outer)
+                || !isNothing(outer.value("HorizonFlip")) || !isNothing(outer.value("VerticalFlip"));
+        }
         const int at = all.size();
         all.append(item);
         if (!isOuter) {
@@ -670,7 +696,8 @@ private:
         QJsonObject keys = given.keys;
         QJsonObject back = found.keys;
         if (m_road != Road::Kept) {
-            place(owner, keys, back);
+            given.isTurnedAround &&m_road == Road::Drawn ? removePlace(owner, true, keys, back)
+                                                         : place(owner, keys, back);
             if (given.isAroundPlaced) {
                 // It is worked out anew only where the matrices are of use.
                 minor(owner, "BoundingBox");
@@ -704,6 +731,7 @@ private:
     {
         const QString type = owner.type;
         const bool isShape = type.startsWith("ZQMath2D");
+        const bool isFlipped = m_road == Road::Drawn && (isShape || hasSteps(type));
         const auto matrix = matrixOf(given);
         const bool isUnderMatrix = hasMatrix(given) && matrix && (m_road == Road::Drawn || !matrix->isIdentity());
         // Ink under a matrix is as much wider as its points are farther apart.
@@ -718,7 +746,7 @@ private:
         if (m_road == Road::Drawn && hasMatrix(given)) {
             minor(owner, "TextHtml"); // the size of letters that have none of their own follows it
         }
-        if ((m_road == Road::Drawn || hasMatrix(given)) && isDrawnAlike(given, found)) {
+        if ((m_road == Road::Drawn || hasMatrix(given)) && isDrawnAlike(given, found, isFlipped)) {
             // A shape of one point draws nothing, wherever it is told to stand.
             const auto points = pairsOf(given.value("Control"));
             removePlace(owner, m_road == Road::Packed && hasOwnPoints(type) && points && points->size() < 2, given,

@@ -105,6 +105,9 @@ private slots:
             "new added");
         row("locked by a record", "</iwb>", "<iwb:element ref='s' locked='true'/></iwb>",
             "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s", "s changed");
+        row("without its cover", "id=\"s_cover\"", "id='else'",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s, ZQMath2DPolyline else",
+            "else added");
     }
 
     void editsWin()
@@ -118,11 +121,12 @@ private slots:
             "{\"Type\":\"ZQPhysicsDianZu\",\"ID\":\"r\",\"BoundingBox\":\"10,10,110,60\"},"
             "{\"Type\":\"ZQMath2DNormalHexagon\",\"ID\":\"h\",\"BoundingBox\":\"200,10,300,110\",\"ArtObj_Ln\":\"6\","
             "\"LineColor\":\"255,1,2,3\",\"ArtObj_Width\":\"3\"},"
-            "{\"Type\":\"ZQGroupItem\",\"ID\":\"g\",\"Children\":["
+            "{\"Type\":\"ZQGroupItem\",\"ID\":\"g\",\"Angle\":\"0.5\",\"Children\":["
             "{\"Type\":\"ZQMath2DCircle\",\"ID\":\"a\",\"BoundingBox\":\"400,10,450,60\",\"ArtObj_Color\":\"255,4,5,"
             "6\"},"
             "{\"Type\":\"ZQMath2DCircle\",\"ID\":\"b\",\"BoundingBox\":\"460,10,510,60\"}]},"
-            "{\"Type\":\"ZQSmoothStroke\",\"ID\":\"s\",\"XY\":\"10,300,20,5,20,-5\",\"Width\":\"4\"}]}]}");
+            "{\"Type\":\"ZQSmoothStroke\",\"ID\":\"s\",\"XY\":\"10,300,20,5,20,-5\",\"Width\":\"4\",\"CoverLayer\":"
+            "\"1\"}]}]}");
         convert("in.json", "there");
         if (from == "ref-r") {
             const QString text = QString::fromUtf8(fileContent(path("there/content.xml")));

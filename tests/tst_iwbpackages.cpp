@@ -412,7 +412,7 @@ private slots:
         row("letters with a colour behind them",
             "'Type':'ZQTextBoard','TextHtml':'<p>a<span style=background-color:#ff0>b<b>c</b></span>d</p>'", "");
         row("ink", "'Type':'ZQSmoothStroke','XY':'1,2,3,4,5,6','Width':3,'Color':'#f00','Opacity':'128','Cap':'0'",
-            "Cap Opacity Type");
+            "Cap Color Opacity Type");
     }
 
     void tellsWhatComesBackOtherwise()
@@ -443,9 +443,10 @@ private slots:
     {
         const LossReport losses = convertedLesson(EXAMPLES_DIR "/geometry", path("a"), "iwb");
         QVERIFY(losses.summary().english().contains("2 strokes became polylines"));
-        // Steps of 300,6 and 300,-4 from 120,930; three points are padded to four. An alpha of 128 / 255.
+        // Steps of 300,6 and 300,-4 from 120,930, as the curve that is drawn. An alpha of 128 / 255.
         QCOMPARE(differences(attributesOf(byId(contentOf(path("a")), "marker")),
-                             json("{'points':'120,930 420,936 720,932 720,932','stroke':'rgb(255,238,0)',"
+                             json("{'points':'120,930 194.977,932.437 269.975,934.25 344.985,935.437 420,936 "
+                                  "495.009,935.937 570.017,935.25 645.016,933.937 720,932','stroke':'rgb(255,238,0)',"
                                   "'stroke-width':'24','stroke-opacity':'0.501961'}")),
                  QString());
         LessonContext dropping;

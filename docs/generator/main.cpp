@@ -31,12 +31,13 @@ bool writeDocuments(const QString &folder)
 {
     return write(folder + QLatin1String("/FORMATS.md"), formatsDocument().toUtf8())
         && write(folder + QLatin1String("/LOSSES.md"), lossesDocument().toUtf8())
-        && write(folder + QLatin1String("/DRAWINGS.md"), drawingsDocument().toUtf8());
+        && write(folder + QLatin1String("/DRAWINGS.md"), drawingsDocument().toUtf8())
+        && write(folder + QLatin1String("/BOARDS.md"), boardsDocument().toUtf8());
 }
 
 } // namespace
 
-// generatedocuments FOLDER: writes FORMATS.md, LOSSES.md and DRAWINGS.md.
+// generatedocuments FOLDER: writes FORMATS.md, LOSSES.md, DRAWINGS.md and BOARDS.md.
 // generatedocuments --sheet FILE [WORD]: writes the lesson of the contact sheet.
 int main(int argc, char **argv)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "iwb/boarddress.h"
 
+#include "iwb/elementmark.h"
 #include "lesson/itemvalues.h"
 #include "lesson/numbertexts.h"
 #include "lesson/textruns.h"
@@ -359,7 +360,14 @@ void BoardDress::dress(QDomElement page, const Items &items)
     m_elements.clear();
     dressBackground(page);
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.tagName() != boardLinkTag) {
+        if (isCover(child)) {
+            dressElement(child, items);
+            const QStringList cover = m_elements.take(child.attribute(idName));
+            const QString item = cover.first().chopped(int(qstrlen(coverBefore)));
+            if (m_elements.contains(item)) {
+                m_elements[item] += cover;
+            }
+        } else if (child.tagName() != boardLinkTag) {
             dressElement(child, items);
         } else {
             child = isSoundOf(child) ? dressSound(child, items) : dressLink(child, items);

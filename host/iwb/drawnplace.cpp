@@ -2,10 +2,12 @@
 #include "iwb/drawnplace.h"
 
 #include "iwb/shapeplacing.h"
+#include "lesson/groupplace.h"
 #include "lesson/itemview.h"
 #include "lesson/pageplace.h"
 #include "lesson/planegeometry.h"
 #include "losses/modelvalues.h"
+#include "svg/inkpath.h"
 
 #include <algorithm>
 #include <cmath>
@@ -45,7 +47,8 @@ bool isWhole(const QJsonObject &item, const ShapeForm *form)
         return false;
     }
     if (isInkItem(item, form)) {
-        return hasPairs(item, ItemKeys::steps);
+        return hasPairs(item, ItemKeys::steps)
+            && (isUnderMatrix || hasNumbers(item, ItemKeys::box, 4) || !ItemView(item).box());
     }
     if (!hasNumbers(item, ItemKeys::box, 4)) {
         return false;
@@ -74,11 +77,7 @@ QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const Outl
 {
     const ItemView view(item);
     if (isInkItem(item, form)) {
-        const QPolygonF points = view.strokePoints();
-        if (const auto matrix = view.matrix()) {
-            return matrix->map(points);
-        }
-        return turnAbout(extentOf(points).center(), view.angle()).map(points);
+        return placeOfStroke(view).map(view.strokePoints());
     }
     if (!form) {
         const auto place = view.place();
@@ -119,7 +118,8 @@ QPolygonF withoutRepeats(QPolygonF points)
 
 } // namespace
 
-bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const OutlineSource &outlines)
+bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const OutlineSource &outlines,
+                  const QTransform &moved)
 {
     const ShapeForm *form = shapeForm(given.value(ItemKeys::type).toString());
     const ShapeForm *foundForm = shapeForm(found.value(ItemKeys::type).toString());
@@ -135,7 +135,9 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const Outl
     if (!hasPlace || (isUnplaced && !form && !isInkItem(given, form) && ItemView(given).isSetUpright())) {
         return false;
     }
-    const QPolygonF one = withoutRepeats(drawnPoints(isUnplaced ? given : placed, form, outlines));
+    QPolygonF drawn = drawnPoints(isUnplaced || isInkItem(given, form) ? given : placed, form, outlines);
+    drawn = isInkItem(given, form) ? fineLine(drawn) : drawn;
+    const QPolygonF one = withoutRepeats(moved.map(drawn));
     const QPolygonF other = withoutRepeats(drawnPoints(found, foundForm, outlines));
     return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isSamePoint);
 }

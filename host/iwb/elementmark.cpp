@@ -157,6 +157,12 @@ bool isFillBehind(const QDomElement &element)
         && element.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
 }
 
+bool isCover(const QDomElement &element)
+{
+    return svgName(element) == QLatin1String("polygon")
+        && element.attribute(QStringLiteral("id")).endsWith(QLatin1String(coverBefore));
+}
+
 QHash<QString, QString> recordTexts(const QDomElement &root)
 {
     RecordTexts records;

@@ -37,6 +37,9 @@ QDomElement itemElement(QDomElement element);
 //! Whether an element is what fills the open line that it stands behind, and is part of that line's item.
 bool isFillBehind(const QDomElement &element);
 
+//! Whether it is what covers an item or a group. Nothing is called so but by this system.
+bool isCover(const QDomElement &element);
+
 //! Tells an element with all that is in it, its place and what records say of it, from any other. It stays the same
 //! where a program writes the document anew: with other prefixes, another order of attributes, other blanks and digits
 //! beyond the fifth.

@@ -152,6 +152,9 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
     json.insert(ItemKeys::visible, item.isVisible);
     json.insert(ItemKeys::locked, item.isLocked ? QStringLiteral("1") : QStringLiteral("0"));
     json.insert(ItemKeys::endless, item.isEndless ? QStringLiteral("1") : QStringLiteral("0"));
+    if (item.isCovered) {
+        json.insert(ItemKeys::cover, QStringLiteral("1"));
+    }
     return json;
 }
 

@@ -7,11 +7,13 @@
 #include "iwb/textrunloan.h"
 #include "izqtransformation.h"
 #include "lesson/curtain.h"
+#include "lesson/groupplace.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/numbertexts.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
+#include "svg/inkpath.h"
 #include "svg/pluginoutlines.h"
 #include "svg/svggeometry.h"
 #include "svg/svgstyle.h"
@@ -119,6 +121,24 @@ bool isDrawn(const QDomElement &element)
     return extent.width() > 0 && extent.height() > 0;
 }
 
+// How a stroke ends and is dashed.
+void setEnds(QDomElement line, const ItemView &stroke)
+{
+    const QVector<double> dashes = inkDashes(stroke.text(QLatin1String("DashStyle")));
+    const Qt::PenCapStyle cap = dashes.isEmpty() ? inkCap(stroke.text(QLatin1String("Cap"))) : Qt::FlatCap;
+    if (cap != Qt::RoundCap) {
+        line.setAttribute(QStringLiteral("stroke-linecap"),
+                          cap == Qt::FlatCap ? QStringLiteral("butt") : QStringLiteral("square"));
+    }
+    QStringList lengths;
+    for (const double length : dashes) {
+        lengths.append(svgCoordinate(length * line.attribute(QStringLiteral("stroke-width")).toDouble()));
+    }
+    if (!lengths.isEmpty()) {
+        line.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
+    }
+}
+
 } // namespace
 
 IwbItemWriter::IwbItemWriter(const Setting &setting)
@@ -194,8 +214,7 @@ QDomElement IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &
 QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
 {
     const ItemView view(item);
-    const auto matrix = view.matrix();
-    const QPolygonF points = matrix ? matrix->map(view.strokePoints()) : view.strokePoints();
+    const QPolygonF points = fineLine(placeOfStroke(view).map(view.strokePoints()));
     if (!m_setting.keepsInk || points.isEmpty()) {
         ++m_strokesLeftOut;
         tellFormless(m_setting.keepsInk ? say("it has no points") : Sentence(QStringLiteral("--ink drop")));
@@ -203,16 +222,20 @@ QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
     }
     const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DPolyline"));
     QJsonObject polyline = ownKeys(item);
-    if (!matrix && item.contains(ItemKeys::angle)) {
-        polyline.insert(ItemKeys::angle, item.value(ItemKeys::angle));
+    QColor color = view.color(ItemKeys::color).value_or(QColor(Qt::red));
+    if (view.has(ItemKeys::opacity)) {
+        color.setAlphaF(qBound(0.0, view.number(ItemKeys::opacity) / 255, 1.0));
     }
-    const QColor color = view.color(ItemKeys::color).value_or(QColor(Qt::red));
     polyline.insert(ItemKeys::type, QLatin1String(form.type));
     polyline.insert(ItemKeys::polyline, QString(pointsText(points) + QLatin1Char(',')));
     polyline.insert(QLatin1String(form.lineKey), colorText(color));
     polyline.insert(ItemKeys::lineWidth, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
     ++m_strokes;
-    return writeShape(polyline, form);
+    QDomElement element = writeShape(polyline, form);
+    if (!element.isNull()) {
+        setEnds(innermost(element), view);
+    }
+    return element;
 }
 
 // Boards have covers of one colour, which is that of the cloth.

@@ -6,17 +6,24 @@
 #include "iwb/boarddress.h"
 #include "iwb/iwbmedia.h"
 #include "izqtransformation.h"
+#include "lesson/groupplace.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
 #include "lesson/pagesize.h"
 #include "lesson/plainnames.h"
+#include "lesson/planegeometry.h"
+#include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "svg/iwbpage.h"
+#include "svg/svggeometry.h"
+#include "svg/svgstyle.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 namespace lessonhost {
 
@@ -78,12 +85,96 @@ QImage inFrame(const PaintedItem &item, const QRectF &frame)
     return image;
 }
 
+const QLatin1String rubbedType("ZQStrokesDeletePixel");
+
+// What a shape's flips do beside its turn, which its element has. Pictures have records for them.
+QTransform ownFlips(const ItemView &item)
+{
+    const bool isFlipped = item.flag(ItemKeys::flippedAcross) || item.flag(ItemKeys::flippedDown);
+    const auto box = isFlipped && shapeForm(item.type()) && !item.matrix() ? item.box() : std::nullopt;
+    return box ? turnAbout(box->center(), item.angle()).inverted() * turnAndFlips(item, box->center()) : QTransform();
+}
+
+// Elements are turned as they are; lines and boxes without an upper side look the same from behind.
+bool canMove(const QTransform &moved, const ItemView &item)
+{
+    if (moved.isIdentity()) {
+        return true;
+    }
+    constexpr double tolerance = 1e-6;
+    const auto parts = scaleAndTurn(moved);
+    const bool isRigid = parts && qAbs(parts->scaleX - 1) < tolerance && qAbs(qAbs(parts->scaleY) - 1) < tolerance;
+    return isRigid && (parts->scaleY > 0 || shapeForm(item.type()) || isInk(item.type()));
+}
+
+/*!
+ * A stroke on the page, to be asked whether others come near.
+ */
+struct Track
+{
+    QPolygonF points;
+    double reach; //!< to each side
+    QRectF extent;
+
+    explicit Track(const PlacedItem &stroke)
+    {
+        const ItemView view(stroke.item);
+        points = (placeOfStroke(view) * stroke.placed).map(view.strokePoints());
+        double width = view.numbers(ItemKeys::width).value(0, strokeWidth);
+        const QVector<double> widths = view.numbers(QLatin1String("PointBrushWid"));
+        for (const double other : widths) {
+            width = qMax(width, other);
+        }
+        reach = width * view.scale() / 2;
+        extent = extentOf(points).adjusted(-reach, -reach, reach, reach);
+    }
+};
+
+double distanceTo(const QPointF &point, const QPointF &from, const QPointF &to)
+{
+    const QPointF along = to - from;
+    const double length = QPointF::dotProduct(along, along);
+    const double part = length > 0 ? qBound(0.0, QPointF::dotProduct(point - from, along) / length, 1.0) : 0;
+    const QPointF apart = point - (from + part * along);
+    return std::hypot(apart.x(), apart.y());
+}
+
+// Whether one stroke comes over the other. Of lines that are too long to be told, their boxes count.
+bool meet(const PlacedItem &stroke, const PlacedItem &other)
+{
+    constexpr double mostWork = 1e7;
+    const Track one(stroke);
+    const Track two(other);
+    if (one.points.isEmpty() || two.points.isEmpty() || !one.extent.intersects(two.extent)) {
+        return false;
+    }
+    if (double(one.points.size()) * two.points.size() > mostWork) {
+        return true;
+    }
+    const double reach = one.reach + two.reach;
+    const auto last = [](const Track &track, int i) { return track.points.at(qMin(i + 1, track.points.size() - 1)); };
+    for (int i = 0; i < one.points.size(); ++i) {
+        const QLineF piece(one.points.at(i), last(one, i));
+        for (int k = 0; k < two.points.size(); ++k) {
+            const QLineF rubbed(two.points.at(k), last(two, k));
+            const double apart = std::min(
+                {distanceTo(piece.p1(), rubbed.p1(), rubbed.p2()), distanceTo(rubbed.p1(), piece.p1(), piece.p2()),
+                 distanceTo(piece.p2(), rubbed.p1(), rubbed.p2()), distanceTo(rubbed.p2(), piece.p1(), piece.p2())});
+            if (apart < reach || piece.intersects(rubbed, nullptr) == QLineF::BoundedIntersection) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 IwbPageWriter::IwbPageWriter(const IwbItemWriter::Setting &setting)
     : m_plugin(setting.plugin)
     , m_media(setting.media)
     , m_isStored(setting.isStored)
+    , m_keepsInk(setting.keepsInk)
     , m_items(setting)
 {
 }
@@ -208,13 +299,21 @@ void IwbPageWriter::fillPage(QDomElement &page, const QString &picture) const
     image.setAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
 }
 
-QVector<IwbPageWriter::WrittenItem> IwbPageWriter::addItems(QDomElement &page, const QJsonArray &items,
+QVector<IwbPageWriter::WrittenItem> IwbPageWriter::addItems(QDomElement &page, const LessonSlide &slide,
                                                             const SlideLosses &losses)
 {
+    m_rubbing.clear();
+    m_place = 0;
+    int place = 0;
+    for (const QJsonValue &item : slide.items) {
+        findRubbing(item.toObject(), {}, place);
+    }
+    addGame(page, slide);
     QVector<WrittenItem> written;
-    for (int i = 0; i < items.size(); ++i) {
+    for (int i = 0; i < slide.items.size(); ++i) {
         const int first = written.size();
-        addItem(page, items.at(i).toObject(), items.at(i).toObject(), losses, written);
+        const QJsonObject item = slide.items.at(i).toObject();
+        addItem(page, item, item, losses, written, Around());
         for (int k = first; k < written.size(); ++k) {
             written[k].top = i;
         }
@@ -222,35 +321,57 @@ QVector<IwbPageWriter::WrittenItem> IwbPageWriter::addItems(QDomElement &page, c
     return written;
 }
 
-void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item,
-                            const SlideLosses &losses, QVector<WrittenItem> &written, bool isInGroup)
+// Places are counted as addItem() comes by.
+void IwbPageWriter::findRubbing(const QJsonObject &item, const QTransform &placed, int &place)
 {
-    const QVector<QJsonObject> children = ItemView(item).looseChildren();
+    const ItemView view(item);
+    const QVector<QJsonObject> children = view.looseChildren();
+    if (!children.isEmpty()) {
+        const QTransform inner = placeOfChildren(view) * placed;
+        for (const QJsonObject &child : children) {
+            findRubbing(child, inner, place);
+        }
+        return;
+    }
+    ++place;
+    if (view.type() == rubbedType && view.isVisible()) {
+        m_rubbing.append({place, {item, placed}});
+    }
+}
+
+void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item,
+                            const SlideLosses &losses, QVector<WrittenItem> &written, const Around &around)
+{
+    const ItemView view(item);
+    const QVector<QJsonObject> children = view.looseChildren();
+    const bool isCovered = m_isUniqueInDocument && view.flag(ItemKeys::cover) && view.isVisible();
     if (!children.isEmpty()) {
         const QVector<QJsonObject> own = ItemView(given).childObjects();
         const int first = written.size();
+        const Around inner{true, placeOfChildren(view) * around.placed,
+                           around.ignoresEraser || view.flag(ItemKeys::ignoresEraser)};
         for (int i = 0; i < children.size(); ++i) {
-            addItem(page, own.at(i), children.at(i), losses, written, true);
+            addItem(page, own.at(i), children.at(i), losses, written, inner);
         }
         const auto shown = std::count_if(written.cbegin() + first, written.cend(),
                                          [](const WrittenItem &row) { return !row.id.isEmpty(); });
+        if (isCovered) {
+            addCover(page, idOf(given), extentOfChildren(view), inner.placed);
+        }
         // Boards have groups, but none within groups.
-        const bool staysGroup =
-            m_isUniqueInDocument && !isInGroup && shown > 1 && ItemView(given).type() == QLatin1String("ZQGroupItem");
+        const bool staysGroup = m_isUniqueInDocument && !around.isGroup && shown > 1
+            && ItemView(given).type() == QLatin1String("ZQGroupItem");
         if (!staysGroup) {
             losses.takenApart(given);
         }
         return;
     }
-    WrittenItem row{given, item, idOf(given), false, 0};
-    QDomElement element = m_items.write(m_document, item, row.id, losses);
-    if (element.isNull() && m_painter) {
-        element = pictureOf(item, row.id);
-        row.isPicture = !element.isNull();
-        const bool isHidden = m_items.whyNot().isEmpty() && !ItemView(item).isVisible();
-        row.isPicture ? losses.picture(given)
-                      : losses.item(given, isHidden ? say("it is hidden") : m_items.whyNot());
-    }
+    ++m_place;
+    WrittenItem row;
+    row.given = given;
+    row.item = item;
+    row.id = idOf(given);
+    QDomElement element = write({item, around.placed}, row, around, losses);
     if (m_isUniqueInDocument) {
         element = withFilmLinked(element);
     }
@@ -266,6 +387,11 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         row.id.clear();
     } else {
         page.appendChild(element);
+        if (isCovered) {
+            const auto place = view.place();
+            const QTransform turned = place ? turnAbout(place->box.center(), place->angle) : QTransform();
+            addCover(page, row.id, place ? place->box : toldExtent(view), turned * around.placed);
+        }
     }
     // What the group would open is lost with the group. A number names no file.
     if (!element.isNull() && !m_items.missingFile().isEmpty() && ItemView(given).has(ItemKeys::linkType)
@@ -275,20 +401,78 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
     written.append(row);
 }
 
+// The element of an item, or of a picture of it.
+QDomElement IwbPageWriter::write(const PlacedItem &item, WrittenItem &row, const Around &around,
+                                 const SlideLosses &losses)
+{
+    const ItemView view(item.item);
+    const QVector<PlacedItem> rubbing = around.ignoresEraser ? QVector<PlacedItem>() : rubbingOf(item);
+    const QTransform moved = ownFlips(view) * item.placed;
+    const bool isDrawn = needsPicture(item, rubbing, moved);
+    QDomElement element;
+    if (!isDrawn) {
+        element = m_items.write(m_document, item.item, row.id, losses);
+        QDomElement inner = withinLink(element);
+        if (canMove(moved, view) && !inner.isNull()) {
+            moveOnPage(inner, moved);
+            row.placed = moved;
+        }
+    }
+    const bool isLine = isInk(view.type()) && !isDrawn; // that was asked to be left out, or has no points
+    if (element.isNull() && m_painter) {
+        element = isLine ? QDomElement() : pictureOf(item, row.id, rubbing);
+        row.isPicture = !element.isNull();
+        const Sentence why = isDrawn ? Sentence() : m_items.whyNot();
+        const bool isHidden = why.isEmpty() && !view.isVisible();
+        row.isPicture ? losses.picture(row.given) : losses.item(row.given, isHidden ? say("it is hidden") : why);
+    }
+    return element;
+}
+
+// What rubs out a part of a stroke.
+QVector<PlacedItem> IwbPageWriter::rubbingOf(const PlacedItem &item) const
+{
+    const ItemView view(item.item);
+    QVector<PlacedItem> rubbing;
+    if (!isInk(view.type()) || view.flag(ItemKeys::ignoresEraser)) {
+        return rubbing;
+    }
+    for (const Rubbing &other : m_rubbing) {
+        if (other.place > m_place && meet(item, other.item)) {
+            rubbing.append(other.item);
+        }
+    }
+    return rubbing;
+}
+
+// Whether an element of an item wouldn't show what the slide does.
+bool IwbPageWriter::needsPicture(const PlacedItem &item, const QVector<PlacedItem> &rubbing, const QTransform &moved)
+{
+    const ItemView view(item.item);
+    const bool isStroke = isInk(view.type());
+    if (!m_painter || !view.isVisible() || (isStroke && !m_keepsInk)) {
+        return false;
+    }
+    const bool hasTexture = view.type() == QLatin1String("ZQStrokeTexture")
+        && !m_media->find(view.text(QLatin1String("DrawTexture"))).isEmpty();
+    return !rubbing.isEmpty() || hasTexture || !canMove(moved, view);
+}
+
 void IwbPageWriter::setPainter(ItemPainter *painter)
 {
     m_painter = painter;
     m_items.setTellsFormless(!painter);
 }
 
-// Nothing for an item that isn't to be seen, or was asked to be left out.
-QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id, const QRectF &frame)
+// Nothing for an item that isn't to be seen.
+QDomElement IwbPageWriter::pictureOf(const PlacedItem &item, const QString &id, const QVector<PlacedItem> &rubbing,
+                                     const QRectF &frame)
 {
-    const ItemView view(item);
-    if (!view.isVisible() || isInk(view.type())) {
+    const ItemView view(item.item);
+    if (!view.isVisible()) {
         return {};
     }
-    auto picture = m_painter->paint(item, m_pageSize);
+    auto picture = m_painter->paint(item, rubbing, m_pageSize);
     if (!picture) {
         return {};
     }
@@ -296,16 +480,56 @@ QDomElement IwbPageWriter::pictureOf(const QJsonObject &item, const QString &id,
         picture->image = inFrame(*picture, frame);
         picture->box = frame;
     }
-    m_paintedWords += picture->words;
-    m_paintedFamilies += picture->families;
+    return addPicture(*picture, item.item, id, fileTitle(view.type()));
+}
+
+QDomElement IwbPageWriter::addPicture(const PaintedItem &picture, const QJsonObject &item, const QString &id,
+                                      const QString &title)
+{
+    m_paintedWords += picture.words;
+    m_paintedFamilies += picture.families;
     IwbMedia::File file;
     file.source = QStringLiteral("page%1/%2.png").arg(m_number).arg(id);
     file.isConverted = true;
     file.isMade = true;
-    file.picture = picture->image;
-    const QString name = QStringLiteral("%1_%2-%3.png").arg(fileTitle(view.type())).arg(m_number).arg(++m_pictures);
+    file.picture = picture.image;
+    const QString name = QStringLiteral("%1_%2-%3.png").arg(title).arg(m_number).arg(++m_pictures);
     const QString reference = m_media->place(QStringLiteral("images"), file, name);
-    return m_items.writePicture(m_document, item, id, reference, picture->box);
+    return m_items.writePicture(m_document, item, id, reference, picture.box);
+}
+
+// It moves with nothing.
+void IwbPageWriter::addGame(QDomElement &page, const LessonSlide &slide)
+{
+    const auto picture = m_painter ? m_painter->paintGame(slide, m_pageSize) : std::nullopt;
+    if (picture) {
+        const QString id = m_ids.take(page.attribute(QStringLiteral("id")) + QLatin1String(slideGame));
+        page.appendChild(addPicture(*picture, {}, id, QStringLiteral("Game")));
+    }
+}
+
+// Whatever groups do to its box, it keeps its corners.
+void IwbPageWriter::addCover(QDomElement &page, const QString &id, const QRectF &box, const QTransform &placed)
+{
+    if (box.isEmpty()) {
+        return;
+    }
+    QDomElement cover = m_document.createElement(QStringLiteral("svg:polygon"));
+    QPolygonF corners = placed.map(QPolygonF(box));
+    corners.removeLast();
+    QStringList points;
+    for (const QPointF &corner : qAsConst(corners)) {
+        points.append(svgCoordinate(corner.x(), pluginDigits) + QLatin1Char(',')
+                      + svgCoordinate(corner.y(), pluginDigits));
+    }
+    cover.setAttribute(QStringLiteral("id"), id + QLatin1String(coverBefore));
+    cover.setAttribute(QStringLiteral("points"), points.join(QLatin1Char(' ')));
+    const SvgPaint paint = coverPaint();
+    cover.setAttribute(QStringLiteral("fill"), paint.fill.name());
+    cover.setAttribute(QStringLiteral("fill-opacity"), svgCoordinate(paint.fill.alphaF(), pluginDigits));
+    cover.setAttribute(QStringLiteral("stroke"), paint.line.name());
+    cover.setAttribute(QStringLiteral("stroke-width"), svgCoordinate(paint.lineWidth));
+    page.appendChild(cover);
 }
 
 // Others see a sound only where its link holds something, and so it is with films that they can't play.
@@ -320,7 +544,7 @@ void IwbPageWriter::addSign(QDomElement link, const QJsonObject &item)
     if (place) {
         sound.insert(ItemKeys::box, boxText(frame));
     }
-    const QDomElement sign = pictureOf(sound, signIdOf(link), frame);
+    const QDomElement sign = pictureOf({sound, {}}, signIdOf(link), {}, frame);
     if (!sign.isNull() && sign.tagName() == QLatin1String("svg:image")) {
         link.appendChild(sign);
     }
@@ -338,9 +562,11 @@ QString IwbPageWriter::idOf(const QJsonObject &item)
     static const QRegularExpression lineBreaks(QStringLiteral("[\\t\\n\\r]+"));
     id.replace(lineBreaks, QStringLiteral(" "));
     // Pages have identifiers, too, and so have what stands around an element, in it and behind it.
-    static const QRegularExpression otherName(QStringLiteral("^page\\d+$|%1\\d+$").arg(QLatin1String(markedSpan)));
+    static const QRegularExpression otherName(
+        QStringLiteral("^page\\d+$|%1\\d+$|%2$|%3$")
+            .arg(QLatin1String(markedSpan), QLatin1String(coverBefore), QLatin1String(slideGame)));
     id = otherName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
-    constexpr const char *endings[] = {"_link", soundSign, filmSign, lineFill};
+    constexpr const char *endings[] = {"_link", soundSign, filmSign, lineFill, coverBefore};
     QString own = m_ids.take(id);
     const auto isTaken = [&](const char *ending) { return m_ids.has(own + QLatin1String(ending)); };
     while (std::any_of(std::begin(endings), std::end(endings), isTaken)) {

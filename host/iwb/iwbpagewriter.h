@@ -27,6 +27,7 @@ public:
         QJsonObject item; //!< the same, hidden, locked and linked by the groups that were around it
         QString id; //!< of its element; empty for an item that has no form
         bool isPicture = false; //!< its element is a picture of it
+        QTransform placed; //!< from where the item says that it is to where its element is
         int top = 0; //!< which of the slide's own items it is, or stands in
     };
 
@@ -44,8 +45,8 @@ public:
     //! plug-in makes none.
     QDomElement addPage(const QJsonObject &slide, int number, const SlideLosses &losses);
 
-    //! Adds the items of the slide to a page, those of groups by themselves.
-    QVector<WrittenItem> addItems(QDomElement &page, const QJsonArray &items, const SlideLosses &losses);
+    //! Adds the items of the slide to a page, those of groups by themselves, and before them its classroom game.
+    QVector<WrittenItem> addItems(QDomElement &page, const LessonSlide &slide, const SlideLosses &losses);
 
     //! What stands on the pictures that items of the last page became, and the fonts that it asks for.
     const QStringList &paintedWords() const { return m_paintedWords; }
@@ -61,9 +62,32 @@ public:
     void setPainter(ItemPainter *painter);
 
 private:
+    //! What the groups around an item do with it.
+    struct Around
+    {
+        bool isGroup = false;
+        QTransform placed;
+        bool ignoresEraser = false;
+    };
+    //! What rubs out the ink before it.
+    struct Rubbing
+    {
+        int place = 0; // among the items of the slide
+        PlacedItem item;
+    };
+
     void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
-                 QVector<WrittenItem> &written, bool isInGroup = false);
-    QDomElement pictureOf(const QJsonObject &item, const QString &id, const QRectF &frame = {});
+                 QVector<WrittenItem> &written, const Around &around);
+    QDomElement write(const PlacedItem &item, WrittenItem &row, const Around &around, const SlideLosses &losses);
+    void findRubbing(const QJsonObject &item, const QTransform &placed, int &place);
+    QVector<PlacedItem> rubbingOf(const PlacedItem &item) const;
+    bool needsPicture(const PlacedItem &item, const QVector<PlacedItem> &rubbing, const QTransform &moved);
+    QDomElement pictureOf(const PlacedItem &item, const QString &id, const QVector<PlacedItem> &rubbing = {},
+                          const QRectF &frame = {});
+    QDomElement addPicture(const PaintedItem &picture, const QJsonObject &item, const QString &id,
+                           const QString &title);
+    void addGame(QDomElement &page, const LessonSlide &slide);
+    void addCover(QDomElement &page, const QString &id, const QRectF &box, const QTransform &placed);
     void addSign(QDomElement link, const QJsonObject &item);
     QString idOf(const QJsonObject &item);
     QString background(const QJsonObject &slide, const QString &id, const SlideLosses &losses);
@@ -72,6 +96,7 @@ private:
     IZQTransformation *m_plugin;
     IwbMedia *m_media;
     bool m_isStored; // what it names
+    bool m_keepsInk;
     IwbItemWriter m_items;
     ItemPainter *m_painter = nullptr;
     QDomDocument m_document;
@@ -83,6 +108,8 @@ private:
     int m_pictures = 0; // of items
     QStringList m_paintedWords;
     QStringList m_paintedFamilies;
+    QVector<Rubbing> m_rubbing; // of the slide
+    int m_place = 0; // of the item that is written, among those of the slide
 };
 
 } // namespace lessonhost

@@ -137,7 +137,7 @@ void IwbWriter::writeSlide(const LessonSlide &slide)
     if (page.isNull()) {
         failWithoutPages();
     }
-    const QVector<IwbPageWriter::WrittenItem> items = m_pages.addItems(page, slide.items, losses);
+    const QVector<IwbPageWriter::WrittenItem> items = m_pages.addItems(page, slide, losses);
     const auto isLeftOut = [](const IwbPageWriter::WrittenItem &item) { return item.id.isEmpty(); };
     if (!items.isEmpty() && std::all_of(items.cbegin(), items.cend(), isLeftOut)) {
         losses.emptied({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()});
@@ -276,8 +276,7 @@ void IwbWriter::finish()
     }
     const QStringList unused = m_media.unused();
     if (!m_travels && !unused.isEmpty()) {
-        losses.note(QStringLiteral("files"),
-                    say("no page shows them, so they stay behind: %1").arg(listed(unused)));
+        losses.note(QStringLiteral("files"), say("no page shows them, so they stay behind: %1").arg(listed(unused)));
     }
     if (m_context.isTrial) {
         return;

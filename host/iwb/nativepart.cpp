@@ -54,7 +54,7 @@ QHash<QString, QDomElement> elementsOf(const QDomElement &page)
 {
     QHash<QString, QDomElement> elements;
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (isFillBehind(child)) {
+        if (isFillBehind(child) || isCover(child)) {
             continue;
         }
         elements.insert(itemElement(child).attribute(QStringLiteral("id")), child);
@@ -70,7 +70,8 @@ QJsonObject partOf(const IwbPageWriter::WrittenItem &written, bool isWhole, cons
         part.insert(Keys::id, written.id);
         part.insert(Keys::mark, elementMark(elements.value(written.id), records));
     }
-    if (!isWhole) {
+    // What its group has turned stands elsewhere by itself.
+    if (!isWhole && written.placed.isIdentity()) {
         part.insert(Keys::item, written.item);
     }
     return part;
@@ -140,7 +141,7 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const QString id = child.attribute(QStringLiteral("id"));
         const bool isItem = elements.contains(id) && itemIds.contains(id);
-        if (!isItem && !isFillBehind(child) && child.tagName() != QLatin1String("svg:a")) {
+        if (!isItem && !isFillBehind(child) && !isCover(child) && child.tagName() != QLatin1String("svg:a")) {
             background.append(child);
             backgroundIds.append(id);
         }

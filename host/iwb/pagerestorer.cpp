@@ -5,6 +5,7 @@
 #include "iwb/uniqueids.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemview.h"
+#include "svg/iwbpage.h"
 #include "svg/svgnames.h"
 
 #include <QSet>
@@ -29,7 +30,8 @@ QString idOf(const QDomElement &element)
 
 bool isPlaceKey(const QString &key)
 {
-    return key == ItemKeys::box || key == ItemKeys::matrix || key == ItemKeys::angle;
+    return key == ItemKeys::box || key == ItemKeys::matrix || key == ItemKeys::angle || key == ItemKeys::flippedAcross
+        || key == ItemKeys::flippedDown;
 }
 
 void collectLeaves(const QJsonObject &item, QVector<QJsonObject> &leaves)
@@ -43,8 +45,16 @@ void collectLeaves(const QJsonObject &item, QVector<QJsonObject> &leaves)
     }
 }
 
-// A tree of groups with others in the place of its leaves. Nothing for one of which none is there.
-QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &present, int &leaf)
+// Whether groups have turned what they hold: then it is elsewhere by itself, and its part tells no item.
+bool isTurned(const NativePage::Entry &entry)
+{
+    return !ItemView(entry.item).childObjects().isEmpty()
+        && std::any_of(entry.parts.cbegin(), entry.parts.cend(),
+                       [](const NativePage::Part &part) { return !part.id.isEmpty() && part.item.isEmpty(); });
+}
+
+// A tree of groups with others in the place of its leaves, turned or not. Nothing for one of which none is there.
+QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &present, int &leaf, bool staysTurned)
 {
     if (ItemView(item).childObjects().isEmpty()) {
         return present.value(leaf++);
@@ -53,7 +63,8 @@ QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &pres
     bool isThere = false;
     const QJsonArray all = item.value(HostKeys::children).toArray();
     for (const QJsonValue &value : all) {
-        const QJsonObject child = value.isObject() ? rebuilt(value.toObject(), present, leaf) : QJsonObject();
+        const QJsonObject child =
+            value.isObject() ? rebuilt(value.toObject(), present, leaf, staysTurned) : QJsonObject();
         if (!value.isObject()) {
             children.append(value);
         } else if (!child.isEmpty()) {
@@ -62,6 +73,11 @@ QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &pres
         }
     }
     QJsonObject result = item;
+    for (const QString &key : item.keys()) {
+        if (!staysTurned && isPlaceKey(key)) {
+            result.remove(key);
+        }
+    }
     result.insert(HostKeys::children, children);
     return isThere ? result : QJsonObject();
 }
@@ -96,7 +112,7 @@ void PageRestorer::lookAtPage()
     for (const XmlPart &layer : qAsConst(m_layers)) {
         for (QDomElement child = layer.element.firstChildElement(); !child.isNull();
              child = child.nextSiblingElement()) {
-            if (isFillBehind(child)) {
+            if (isFillBehind(child) || isCover(child)) {
                 continue;
             }
             const QString id = idOf(itemElement(child));
@@ -127,7 +143,9 @@ QJsonObject PageRestorer::properties(int number)
     bool isPictureOther = false;
     for (int i = 0; i < m_native->backgroundIds.size(); ++i) {
         const QString &id = m_native->backgroundIds.at(i);
-        if (isBackgroundIntact(id, marks.value(i))) {
+        if (id.endsWith(QLatin1String(slideGame))) {
+            m_taken.insert(m_byId.value(id).value(0, -1));
+        } else if (isBackgroundIntact(id, marks.value(i))) {
             m_taken.insert(m_byId.value(id).first());
         } else {
             (i == 0 ? isColorOther : isPictureOther) = true;
@@ -258,7 +276,8 @@ void PageRestorer::placeParts(int number, const QVector<Found> &found, int *last
         const Found &row = found.at(i);
         *last = row.child >= 0 ? row.child : *last;
         isBehind = isBehind || row.child >= 0 || shown == 0;
-        if (row.isIntact) {
+        const bool isElsewhere = row.child >= 0 && isTurned(entry);
+        if (row.isIntact && !isElsewhere) {
             const int own = row.child >= 0 ? m_content.outline().groupOf(part.id) : group;
             m_placed.append({*last,
                              part.item.isEmpty() ? itemAt({number, i}) : part.item,
@@ -268,8 +287,12 @@ void PageRestorer::placeParts(int number, const QVector<Found> &found, int *last
                              row.child < 0 && isBehind});
             ++m_restored;
         } else {
+            if (row.isIntact) {
+                m_taken.remove(row.child);
+            }
             m_lostIds.insert(part.id, m_lost.size());
             m_lost.append({part.id, {number, i}});
+            m_lost.last().isIntact = row.isIntact;
         }
     }
 }
@@ -307,11 +330,12 @@ void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &l
             m_placed.append(placed);
             continue;
         }
-        // It is called what it was, and moves as it did.
+        // It is called what it was, and is covered and moves as it was.
+        placed.item.remove(ItemKeys::cover);
         m_lost[lost].isThere = true;
         placed.origin = m_lost.at(lost).origin;
         const QJsonObject own = itemAt(placed.origin);
-        for (const QLatin1String key : {ItemKeys::id, ItemKeys::animations}) {
+        for (const QLatin1String key : {ItemKeys::id, ItemKeys::animations, ItemKeys::cover}) {
             if (!valueText(own.value(ItemKeys::id)).isEmpty() && own.contains(key)) {
                 placed.item.insert(key, own.value(key));
             }
@@ -403,13 +427,14 @@ QJsonObject PageRestorer::groupOf(int entry, const QVector<Placed> &members, con
     QJsonObject group = made;
     if (isInOrder) {
         int leaf = 0;
-        QJsonArray children = rebuilt(given, present, leaf).value(HostKeys::children).toArray();
+        QJsonArray children =
+            rebuilt(given, present, leaf, !isTurned(m_native->entries.at(entry))).value(HostKeys::children).toArray();
         for (const QJsonValue &other : qAsConst(others)) {
             children.append(other);
         }
         group.insert(HostKeys::children, children);
     }
-    const bool staysPut = others.isEmpty() && holdsPlaces(entry, members);
+    const bool staysPut = others.isEmpty() && !isTurned(m_native->entries.at(entry)) && holdsPlaces(entry, members);
     for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
         const bool isOther = (isPlaceKey(it.key()) && !staysPut) || it.key() == HostKeys::children
             || (it.key() == ItemKeys::visible && isShownNow);
@@ -456,6 +481,9 @@ void PageRestorer::tell(const QString &slideId, const SlideLosses &losses)
         losses.changed(slide, say("its items were put into another order by another program"));
     }
     for (const Lost &lost : qAsConst(m_lost)) {
+        if (lost.isIntact) {
+            continue; // it stands where its group had it
+        }
         losses.changed(itemAt(lost.origin),
                        lost.isThere ? say("changed by another program") : say("removed by another program"));
     }

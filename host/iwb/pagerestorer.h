@@ -50,6 +50,7 @@ private:
         QString id;
         Origin origin;
         bool isThere = false;
+        bool isIntact = false; //!< and is only read from its element because its group had turned it
     };
 
     void lookAtPage();

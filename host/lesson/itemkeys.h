@@ -21,6 +21,7 @@ const QLatin1String box("BoundingBox"); //!< left,top,right,bottom
 const QLatin1String matrix("Matrix"); //!< m11,m12,m21,m22,dx,dy
 const QLatin1String slideMatrix("SlideMatrix"); //!< the part of Matrix that fits the slide to the page
 const QLatin1String angle("Angle"); //!< radians
+const QLatin1String cover("CoverLayer"); //!< an item with another number than 0 is covered
 const QLatin1String flippedAcross("HorizonFlip");
 const QLatin1String flippedDown("VerticalFlip");
 const QLatin1String createdX("Discipline_xCreate");

@@ -9,6 +9,8 @@
 #include <QRectF>
 #include <QString>
 #include <QStringList>
+#include <QTransform>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -88,14 +90,28 @@ struct PaintedItem
 };
 
 /*!
+ * An item where the groups around it have it.
+ */
+struct PlacedItem
+{
+    QJsonObject item;
+    QTransform placed; //!< from where the item says that it is to the page
+};
+
+/*!
  * Paints items for formats that have no form for them.
  */
 class ItemPainter
 {
 public:
     virtual ~ItemPainter() = default;
-    //! page: pixels. Nothing for an item that shows nothing. Throws LessonError.
-    virtual std::optional<PaintedItem> paint(const QJsonObject &item, const QSizeF &page) = 0;
+    //! What is left of an item where others rub out ink. page: pixels. Nothing for an item that shows nothing. Throws
+    //! LessonError.
+    virtual std::optional<PaintedItem> paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
+                                             const QSizeF &page) = 0;
+    //! What a slide shows of its classroom game below its items. Nothing for one without such a game. Throws
+    //! LessonError.
+    virtual std::optional<PaintedItem> paintGame(const LessonSlide &slide, const QSizeF &page) = 0;
     //! The lesson's first slide, so many pixels wide; null for a lesson without slides. Throws LessonError.
     virtual QImage thumbnail(int width) = 0;
 };

@@ -69,8 +69,26 @@ Drawings::Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files)
 {
 }
 
-void Drawings::drawGame(const QJsonObject &slide, const QRectF &occupied, bool hasGameItems)
+void Drawings::rubOut(const QJsonObject &item, const QTransform &placed)
 {
+    if (const auto area = rubbedArea(ItemView(item))) {
+        m_canvas.rubbing().add(placed.map(*area));
+    }
+}
+
+void Drawings::drawGame(const QJsonObject &slide, const QVector<ShownItem> &items)
+{
+    if (!slide.contains(QLatin1String("activity"))) {
+        return;
+    }
+    QRectF occupied;
+    bool hasGameItems = false;
+    for (const ShownItem &shown : items) {
+        const ItemView view(shown.item);
+        const QRectF extent = shown.placed.mapRect(toldExtent(view));
+        occupied = occupied.isNull() ? extent : occupied.united(extent);
+        hasGameItems = hasGameItems || activityDrawing(view.type());
+    }
     drawGameBackground(m_canvas, slide);
     if (!hasGameItems) {
         drawGameRecord(m_canvas, slide, occupied);
@@ -90,12 +108,9 @@ bool Drawings::draw(const QJsonObject &json)
 
 void Drawings::drawCover(const QRectF &box)
 {
-    SvgPaint paint;
-    paint.fill = QColor(0x6b, 0x76, 0x85, 0x66);
-    paint.line = QColor(0x6b, 0x76, 0x85);
     QPainterPath path;
     path.addRect(box);
-    m_canvas.svg().addPath(path, paint);
+    m_canvas.svg().addPath(path, coverPaint());
 }
 
 // IWB knows no flips: what it has of an item is turned already.

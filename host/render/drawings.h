@@ -4,6 +4,7 @@
 
 #include "render/canvas.h"
 #include "render/namedboxes.h"
+#include "render/shownitems.h"
 
 namespace lessonhost {
 
@@ -17,18 +18,17 @@ public:
     //! The arguments of Canvas.
     Drawings(PlainSvg &svg, IwbPageWriter &pages, IwbMedia &files);
 
-    //! Before the items are drawn: what is rubbed out of those before, for each record of it in the order of the slide,
-    //! where it is on the page.
-    void rubOut(const QPainterPath &area) { m_canvas.rubbing().add(area); }
+    //! Before the items are drawn: what is rubbed out of those before, for each record of it in the order of the slide.
+    //! Nothing for other items. placed: to where it is on the page.
+    void rubOut(const QJsonObject &item, const QTransform &placed);
 
-    //! What the slide's classroom game shows below the items. occupied: what they cover. hasGameItems: some of them are
-    //! of the game.
-    void drawGame(const QJsonObject &slide, const QRectF &occupied, bool hasGameItems);
+    //! What the slide's classroom game shows below the items of the slide, if it has one.
+    void drawGame(const QJsonObject &slide, const QVector<ShownItem> &items);
 
     //! False for an item that is shown by its name alone.
     bool draw(const QJsonObject &item);
 
-    //! What covers an item. It lets through what it hides, so that a picture of a lesson tells both.
+    //! What covers an item.
     void drawCover(const QRectF &box);
 
 private:

@@ -3,8 +3,8 @@
 
 #include "lesson/itemtypes.h"
 #include "lesson/planegeometry.h"
-#include "render/inkpath.h"
 #include "render/itemoutline.h"
+#include "svg/inkpath.h"
 #include "svg/svgstyle.h"
 
 #include <QImage>
@@ -36,15 +36,6 @@ struct Ink
     QVector<double> dashes; //!< in widths
 };
 
-// What takes a stroke to the page. One without a box turns about the middle of its points.
-QTransform inkPlace(const ItemView &item)
-{
-    if (item.matrix() || item.box()) {
-        return placeOnPage(item);
-    }
-    return turnAndFlips(item, extentOf(item.strokePoints()).center());
-}
-
 double inkWidth(const ItemView &item)
 {
     constexpr double widest = 1000;
@@ -71,33 +62,10 @@ QColor inkColor(const ItemView &item)
     return color;
 }
 
-// Line styles by their names, such as "dash", "DashDotLine" and "dash dot dot". What a number means nobody tells.
-QVector<double> dashesOf(const QString &style)
-{
-    QString name;
-    for (const QChar c : style) {
-        name += c.isLetter() ? QString(c.toLower()) : QString();
-    }
-    name.remove(QLatin1String("line"));
-    static const QHash<QString, QVector<double>> named{
-        {QStringLiteral("dash"), {4, 3}},          {QStringLiteral("dashed"), {4, 3}},
-        {QStringLiteral("dot"), {1, 2}},           {QStringLiteral("dotted"), {1, 2}},
-        {QStringLiteral("dashdot"), {4, 2, 1, 2}}, {QStringLiteral("dashdotdot"), {4, 2, 1, 2, 1, 2}},
-    };
-    return named.value(name);
-}
-
-Qt::PenCapStyle capOf(const QString &name)
-{
-    return name == QLatin1String("flat") || name == QLatin1String("butt") ? Qt::FlatCap
-        : name == QLatin1String("square")                                 ? Qt::SquareCap
-                                                                          : Qt::RoundCap;
-}
-
 Ink inkOf(const ItemView &item)
 {
-    Ink ink{InkTrack(inkPlace(item).map(item.strokePoints()), pointWidths(item)), inkWidth(item), inkColor(item),
-            capOf(item.text(QLatin1String("Cap"))), dashesOf(item.text(QLatin1String("DashStyle")))};
+    Ink ink{InkTrack(placeOfStroke(item).map(item.strokePoints()), pointWidths(item)), inkWidth(item), inkColor(item),
+            inkCap(item.text(QLatin1String("Cap"))), inkDashes(item.text(QLatin1String("DashStyle")))};
     if (!ink.dashes.isEmpty()) {
         ink.cap = Qt::FlatCap;
     }
@@ -292,7 +260,7 @@ bool drawStamps(Canvas &canvas, const ItemView &item)
         return false;
     }
     const QVector<QRectF> boxes = stampBoxes(item, picture);
-    const QTransform placed = inkPlace(item);
+    const QTransform placed = placeOfStroke(item);
     QRectF all;
     for (const QRectF &box : boxes) {
         all |= placed.mapRect(box);

@@ -7,51 +7,6 @@
 
 namespace lessonhost {
 
-namespace {
-
-// Points of figures and wires are keys of their own.
-QPolygonF toldPoints(const ItemView &item)
-{
-    QPolygonF points = item.has(ItemKeys::steps) ? item.strokePoints() : item.points(ItemKeys::control);
-    constexpr int mostPoints = 8;
-    for (int i = 0; i < mostPoints; ++i) {
-        const QByteArray name = "ArtObj_Point" + QByteArray::number(i);
-        const QByteArray x = name + 'x';
-        const QByteArray y = name + 'y';
-        if (item.has(QLatin1String(x)) && item.has(QLatin1String(y))) {
-            points.append(QPointF(item.number(QLatin1String(x)), item.number(QLatin1String(y))));
-        }
-    }
-    return points;
-}
-
-} // namespace
-
-QTransform placeOnPage(const ItemView &item)
-{
-    if (const auto matrix = item.matrix()) {
-        return *matrix;
-    }
-    const auto box = item.box();
-    return box ? turnAndFlips(item, box->center()) : QTransform();
-}
-
-QTransform turnAndFlips(const ItemView &item, const QPointF &center)
-{
-    const QTransform flips = QTransform::fromTranslate(-center.x(), -center.y())
-        * QTransform::fromScale(item.flag(ItemKeys::flippedAcross) ? -1 : 1, item.flag(ItemKeys::flippedDown) ? -1 : 1)
-        * QTransform::fromTranslate(center.x(), center.y());
-    return flips * turnAbout(center, item.angle());
-}
-
-QRectF toldExtent(const ItemView &item)
-{
-    if (const auto place = item.place()) {
-        return place->extent();
-    }
-    return item.matrix().value_or(QTransform()).mapRect(extentOf(toldPoints(item)));
-}
-
 QTransform fitInto(const QRectF &from, const QRectF &to)
 {
     constexpr double noLength = 1e-6;

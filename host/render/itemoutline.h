@@ -2,23 +2,13 @@
 #ifndef ITEMOUTLINE_H
 #define ITEMOUTLINE_H
 
-#include "lesson/itemview.h"
+#include "lesson/groupplace.h"
 
 #include <QPainterPath>
 
 namespace lessonhost {
 
 // Where what an item draws of itself comes to stand, and with which colours.
-
-//! Takes what lies in an item's own box to the page: its Matrix; without one, its flips and its Angle.
-QTransform placeOnPage(const ItemView &item);
-
-//! The flips and the turn that an item without a Matrix says, about its middle.
-QTransform turnAndFlips(const ItemView &item, const QPointF &center);
-
-//! What an item covers where it says that it is: its box, or without one the points that it tells. Empty where it tells
-//! neither.
-QRectF toldExtent(const ItemView &item);
 
 //! Moves and stretches what covers one box so that it covers another. A side without length stays in the middle.
 QTransform fitInto(const QRectF &from, const QRectF &to);

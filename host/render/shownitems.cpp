@@ -1,59 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "render/shownitems.h"
 
-#include "lesson/itemview.h"
+#include "lesson/groupplace.h"
 #include "lesson/planegeometry.h"
-#include "render/itemoutline.h"
 
 namespace lessonhost {
 
 namespace {
-
-const QLatin1String coverKey("CoverLayer"); // an item with another number than 0 is covered
-
-QRectF extentOfChildren(const ItemView &group)
-{
-    QRectF extent;
-    const QVector<QJsonObject> children = group.childObjects();
-    for (const QJsonObject &child : children) {
-        const ItemView view(child);
-        const QRectF own = view.childObjects().isEmpty() ? toldExtent(view)
-            : view.box()                                 ? *view.box()
-                                                         : extentOfChildren(view);
-        extent = extent.isNull() ? own : own.isNull() ? extent : extent.united(own);
-    }
-    return extent;
-}
-
-// The fit of a raw slide to the page, as the first item below a group has it.
-QTransform fitOfChildren(const ItemView &group)
-{
-    const QVector<QJsonObject> children = group.childObjects();
-    for (const QJsonObject &child : children) {
-        const auto fit = itemTransform(child.value(ItemKeys::slideMatrix));
-        if (fit && fit->isInvertible()) {
-            return *fit;
-        }
-    }
-    return children.isEmpty() ? QTransform() : fitOfChildren(ItemView(children.constFirst()));
-}
-
-// What a group does with its children. The Matrix of a raw group is one of its slide, not of the page.
-QTransform placeOfChildren(const ItemView &group)
-{
-    if (const auto matrix = group.matrix()) {
-        if (matrix->isIdentity()) {
-            return {};
-        }
-        const QTransform fit = fitOfChildren(group);
-        return fit.inverted() * *matrix * fit;
-    }
-    if (turnAndFlips(group, {}).isIdentity()) {
-        return {};
-    }
-    const auto box = group.box();
-    return turnAndFlips(group, (box ? *box : extentOfChildren(group)).center());
-}
 
 void addCover(const ItemView &item, ShownItem cover, QVector<ShownItem> &result)
 {
@@ -82,7 +35,7 @@ void takeApart(ShownItem shown, const QSet<QString> &brought, QVector<ShownItem>
     const QVector<QJsonObject> children = view.looseChildren();
     if (children.isEmpty()) {
         result.append(shown);
-        if (view.flag(coverKey)) {
+        if (view.flag(ItemKeys::cover)) {
             addCover(view, shown, result);
         }
         return;
@@ -97,7 +50,7 @@ void takeApart(ShownItem shown, const QSet<QString> &brought, QVector<ShownItem>
         }
         takeApart(inner, brought, result);
     }
-    if (view.flag(coverKey)) {
+    if (view.flag(ItemKeys::cover)) {
         ShownItem cover = shown;
         cover.item = {};
         cover.cover = extentOfChildren(view);

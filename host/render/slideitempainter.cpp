@@ -57,6 +57,13 @@ QRect paintedRect(const QImage &image)
     return painted;
 }
 
+QRect aligned(const QRect &rect, int step)
+{
+    const QPoint corner(rect.left() / step * step, rect.top() / step * step);
+    const QPoint end((rect.right() / step + 1) * step, (rect.bottom() / step + 1) * step);
+    return rect.isEmpty() ? QRect() : QRect(corner, end - QPoint(1, 1));
+}
+
 } // namespace
 
 SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plugin)
@@ -90,20 +97,43 @@ QImage SlideItemPainter::thumbnail(int width)
     return image;
 }
 
+std::optional<PaintedItem> SlideItemPainter::paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
+                                                   const QSizeF &page)
+{
+    const auto draw = [&](PlainSvg &plain, Drawings &drawings) {
+        for (const PlacedItem &rubbed : rubbing) {
+            drawings.rubOut(rubbed.item, rubbed.placed);
+        }
+        const PlainSvg::Scope scope(plain, item.placed);
+        drawings.draw(item.item);
+    };
+    return painted(draw, page);
+}
+
+std::optional<PaintedItem> SlideItemPainter::paintGame(const LessonSlide &slide, const QSizeF &page)
+{
+    const auto draw = [&slide](PlainSvg &, Drawings &drawings) {
+        drawings.drawGame(slide.properties, shownItems(slide.items));
+    };
+    return painted(draw, page);
+}
+
 // First where it is, in an area larger than the page, then what it is.
-std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, const QSizeF &page)
+std::optional<PaintedItem>
+SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &drawings)> &draw, const QSizeF &page)
 {
     m_pages.start(
         {{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}}, {});
     PlainSvg plain(page, m_media, m_store, Qt::transparent);
     plain.sayInEnglish();
-    Drawings(plain, m_pages, m_media).draw(item);
+    Drawings drawings(plain, m_pages, m_media);
+    draw(plain, drawings);
     SlidePicture drawn;
     drawn.size = page;
     drawn.svg = plain.finished();
     m_media.storeNew([](const QString &, const IwbMedia::File &) {});
 
-    const auto painted = [&](const QRectF &area, double scale) {
+    const auto paintedArea = [&](const QRectF &area, double scale) {
         const QSizeF size = area.size() * scale;
         QImage image(QSizeF(qBound(1.0, std::ceil(size.width()), largestPicture),
                             qBound(1.0, std::ceil(size.height()), largestPicture))
@@ -117,15 +147,16 @@ std::optional<PaintedItem> SlideItemPainter::paint(const QJsonObject &item, cons
     };
     const QSizeF half = page / 2;
     const QRectF around = QRectF(QPointF(), page).adjusted(-half.width(), -half.height(), half.width(), half.height());
-    const QRect found = paintedRect(painted(around, overview));
+    const QRect found = paintedRect(paintedArea(around, overview));
     if (found.isEmpty()) {
         return {};
     }
     const QRectF near(around.topLeft() + QPointF(found.topLeft()) / overview, QSizeF(found.size()) / overview);
     const QRectF area(QPointF(std::floor(near.x()) - 2, std::floor(near.y()) - 2),
                       QSizeF(std::ceil(near.width()) + 4, std::ceil(near.height()) + 4));
-    const QImage image = painted(area, sharpness);
-    const QRect exact = paintedRect(image);
+    const QImage image = paintedArea(area, sharpness);
+    // On whole pixels of the page, where nobody has to blur it.
+    const QRect exact = aligned(paintedRect(image), int(sharpness)) & image.rect();
     if (exact.isEmpty()) {
         return {};
     }

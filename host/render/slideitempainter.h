@@ -8,7 +8,12 @@
 #include "render/pageprinter.h"
 #include "render/picturestore.h"
 
+#include <functional>
+
 namespace lessonhost {
+
+class Drawings;
+class PlainSvg;
 
 /*!
  * Paints items one by one as slides show them, at twice their size, on nothing.
@@ -19,10 +24,15 @@ public:
     //! reader: of the lesson; it has to live as long. Throws LessonError.
     SlideItemPainter(LessonReader &reader, IZQTransformation *plugin);
 
-    std::optional<PaintedItem> paint(const QJsonObject &item, const QSizeF &page) override;
+    std::optional<PaintedItem> paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
+                                     const QSizeF &page) override;
+    std::optional<PaintedItem> paintGame(const LessonSlide &slide, const QSizeF &page) override;
     QImage thumbnail(int width) override;
 
 private:
+    std::optional<PaintedItem> painted(const std::function<void(PlainSvg &plain, Drawings &drawings)> &draw,
+                                       const QSizeF &page);
+
     LessonReader &m_reader;
     IZQTransformation *m_plugin;
     IwbMedia m_media;

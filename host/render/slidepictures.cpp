@@ -7,9 +7,7 @@
 #include "render/activitydrawing.h"
 #include "render/drawings.h"
 #include "render/drawntexts.h"
-#include "render/inkdrawing.h"
 #include "render/itemlabel.h"
-#include "render/itemoutline.h"
 #include "render/plainsvg.h"
 #include "render/playsteps.h"
 #include "render/shownitems.h"
@@ -118,21 +116,9 @@ SlidePicture SlidePictures::picture(int index)
     }
     const QVector<ShownItem> items = shownItems(slide.items, steps.brought());
     Drawings drawings(plain, m_pages, m_media);
-    if (slide.properties.contains(QLatin1String("activity"))) {
-        QRectF occupied;
-        bool hasGameItems = false;
-        for (const ShownItem &shown : items) {
-            const ItemView view(shown.item);
-            const QRectF extent = shown.placed.mapRect(toldExtent(view));
-            occupied = occupied.isNull() ? extent : occupied.united(extent);
-            hasGameItems = hasGameItems || activityDrawing(view.type());
-        }
-        drawings.drawGame(slide.properties, occupied, hasGameItems);
-    }
+    drawings.drawGame(slide.properties, items);
     for (const ShownItem &shown : items) {
-        if (const auto rubbed = rubbedArea(ItemView(shown.item))) {
-            drawings.rubOut(shown.placed.map(*rubbed));
-        }
+        drawings.rubOut(shown.item, shown.placed);
     }
     for (const ShownItem &shown : items) {
         std::optional<PlainSvg::ItemGroup> group;

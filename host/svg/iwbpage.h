@@ -24,6 +24,12 @@ constexpr char lineFill[] = "_fill";
 //! The same, before a number, for the parts of a text that have a colour behind them.
 constexpr char markedSpan[] = "_span";
 
+//! The same for what covers an item and stands before it.
+constexpr char coverBefore[] = "_cover";
+
+//! The same for the picture of the classroom game that a slide holds, behind that of the slide.
+constexpr char slideGame[] = "_game";
+
 //! What the transform of a hidden element begins with: nothing is shown of what stands left of the page.
 constexpr char awayFromPage[] = "translate(-1000000,0)";
 
@@ -56,6 +62,7 @@ struct IwbElement
     bool isLocked = false;
     bool isEndless = false; //!< gives copies of itself without end
     bool isRevealer = false; //!< a cover that is drawn away
+    bool isCovered = false; //!< by an outline of this system's
     bool isFreehand = false; //!< ink of a pen
     bool isHighlight = false; //!< ink of a marker
     bool flipsAcross = false; //!< left and right are exchanged

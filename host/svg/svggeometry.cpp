@@ -88,6 +88,47 @@ void setSvgTurn(QDomElement &element, double angle)
         QStringLiteral("rotate(%1 %2 %3)").arg(degrees).arg(exactText(center.x()), exactText(center.y())));
 }
 
+void moveOnPage(QDomElement &element, const QTransform &moved)
+{
+    if (moved.isIdentity()) {
+        return;
+    }
+    const auto set = [&element](const char *name, double value) {
+        element.setAttribute(QLatin1String(name), svgCoordinate(value, pluginDigits));
+    };
+    const QString tag = element.tagName();
+    if (tag == QLatin1String("svg:line")) {
+        for (const auto &[x, y] : {std::pair("x1", "y1"), {"x2", "y2"}}) {
+            const QPointF point = moved.map(QPointF(number(element, x), number(element, y)));
+            set(x, point.x());
+            set(y, point.y());
+        }
+        return;
+    }
+    if (element.hasAttribute(QStringLiteral("points"))) {
+        const QPolygonF points = pointsOf(svgNumbers(element.attribute(QStringLiteral("points"))));
+        element.setAttribute(QStringLiteral("points"), svgPoints(moved.map(points)));
+        return;
+    }
+    const QRectF box = drawnExtent(element).value_or(QRectF());
+    const QPointF center = moved.map(box.center());
+    if (tag == QLatin1String("svg:circle") || tag == QLatin1String("svg:ellipse")) {
+        set("cx", center.x());
+        set("cy", center.y());
+    } else {
+        set("x", center.x() - box.width() / 2);
+        set("y", center.y() - box.height() / 2);
+    }
+    if (tag == QLatin1String("svg:circle")) {
+        return;
+    }
+    const QString turn = element.attribute(QStringLiteral("transform"));
+    const double angle =
+        svgNumbers(turn.mid(turn.indexOf(QLatin1Char('(')) + 1).remove(QLatin1Char(')'))).value(0) * M_PI / 180;
+    const QPointF along = moved.map(QPointF(std::cos(angle), std::sin(angle))) - moved.map(QPointF());
+    setSvgTurn(element, std::atan2(along.y(), along.x()));
+}
+
 bool isFilledAlike(const QPolygonF &polygon)
 {
     const QRectF extent = polygon.boundingRect();

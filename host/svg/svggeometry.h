@@ -5,6 +5,7 @@
 #include <QDomElement>
 #include <QPolygonF>
 #include <QRectF>
+#include <QTransform>
 
 #include <optional>
 
@@ -32,6 +33,10 @@ void setSvgTurn(QDomElement &element, double angle);
 
 //! What a svg element of the plug-in covers before its transform, or nothing for one without geometry.
 std::optional<QRectF> drawnExtent(const QDomElement &element);
+
+//! Takes an element of the plug-in's, turned by setSvgTurn(), to another place of the page. Lines go wherever the
+//! transform takes their points, boxes keep their size and have what the transform makes of their turn.
+void moveOnPage(QDomElement &element, const QTransform &moved);
 
 //! True for a polygon that is filled the same by both rules: where an outline crosses itself, one leaves holes.
 bool isFilledAlike(const QPolygonF &polygon);

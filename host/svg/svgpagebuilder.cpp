@@ -89,9 +89,27 @@ bool isSignOf(const QDomElement &element, const QString &linkId)
 // The part of a transform that hides an element, as any program may write it.
 QRegularExpressionMatch awayPart(const QString &transform)
 {
-    static const QRegularExpression part(QStringLiteral("translate\\(\\s*-(?:1000000(?:\\.0*)?|1e\\+?0?6)(?:[\\s,]+0(?:\\.0*)?)?\\s*\\)"),
-                                         QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression part(
+        QStringLiteral("translate\\(\\s*-(?:1000000(?:\\.0*)?|1e\\+?0?6)(?:[\\s,]+0(?:\\.0*)?)?\\s*\\)"),
+        QRegularExpression::CaseInsensitiveOption);
     return transform.isEmpty() ? QRegularExpressionMatch() : part.match(transform);
+}
+
+// What covers an item, or a group.
+bool isCover(const QDomElement &element)
+{
+    return svgName(element) == QLatin1String("polygon")
+        && element.attribute(QStringLiteral("id")).endsWith(QLatin1String(coverBefore));
+}
+
+// Whether what covers an item comes next to it and the links around it.
+bool hasCover(QDomElement element, const QString &id)
+{
+    while (svgName(element.parentNode().toElement()) == QLatin1String("a")) {
+        element = element.parentNode().toElement();
+    }
+    return !id.isEmpty()
+        && element.nextSiblingElement().attribute(QStringLiteral("id")) == QString(id + QLatin1String(coverBefore));
 }
 
 bool isArrow(const QString &text)
@@ -378,8 +396,7 @@ void SvgPageBuilder::link(const QDomElement &element, const Place &place)
 {
     const QString id = element.attribute(QStringLiteral("id"));
     const QDomElement only = element.firstChildElement();
-    if (!only.isNull() && only.nextSiblingElement().isNull() && !id.isEmpty()
-        && isSignOf(only, id)) {
+    if (!only.isNull() && only.nextSiblingElement().isNull() && !id.isEmpty() && isSignOf(only, id)) {
         sound(element, place);
         return;
     }
@@ -508,6 +525,10 @@ void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
     if (isFillOf(element.nextSiblingElement(), element)) {
         return;
     }
+    // What it covers says so; that of a group was told when it was written.
+    if (m_rules.isOwn && isCover(element)) {
+        return;
+    }
     const QVector<double> numbers = svgNumbers(element.attribute(QStringLiteral("points")));
     if (numbers.size() % 2 == 1) {
         remark(element, say("its last point has no y and is left out"));
@@ -570,7 +591,8 @@ void SvgPageBuilder::outline(const QDomElement &source, const Place &place, QPol
     if (points.size() == 3 && !isInk && (!mayBeAngle || paint.fill.alpha() > 0)) {
         points.append(points.last());
     }
-    const bool isEvenOdd = m_rules.isIwb || place.style.property(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
+    const bool isEvenOdd =
+        m_rules.isIwb || place.style.property(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
     if (!m_rules.isNative && paint.fill.alpha() > 0 && isEvenOdd && !isFilledAlike(points)) {
         remark(source, say("it is filled also where it crosses itself"), false);
     }
@@ -805,6 +827,7 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     if (record.isRevealer && !item.isRevealer) {
         remark(source, say("only upright or turned rectangles become curtains"));
     }
+    item.isCovered = m_rules.isOwn && hasCover(source, item.id);
     item.isFreehand = record.isFreehand;
     item.isHighlight = record.isHighlight;
     item.flipsAcross = record.flipsAcross && tag == QLatin1String("svg:image");

@@ -54,6 +54,15 @@ struct SvgPaint
     int dashParts = 0; //!< 0 for a solid line, else 2 (dash), 3 (dash dot) or 4 (dash dot dot)
 };
 
+//! Of what covers an item: it lets through what it hides, so that a picture of a lesson tells both.
+inline SvgPaint coverPaint()
+{
+    SvgPaint paint;
+    paint.fill = QColor(0x6b, 0x76, 0x85, 0x66);
+    paint.line = QColor(0x6b, 0x76, 0x85);
+    return paint;
+}
+
 /*!
  * Reads what a shape is painted with. isNative: the file was written with this system's own reading of
  * "stroke-opacity", where a number above 1 is the alpha of the fill out of 255, and a missing "fill" is none. What

@@ -6,7 +6,7 @@ execute_process(COMMAND ${GENERATOR} ${WORK} RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "The documents can't be made")
 endif()
-foreach(document FORMATS.md LOSSES.md DRAWINGS.md)
+foreach(document FORMATS.md LOSSES.md DRAWINGS.md BOARDS.md)
     execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK}/${document} ${DOCS}/${document}
         RESULT_VARIABLE result)
     if(NOT result EQUAL 0)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "render/inkpath.h"
+#include "svg/inkpath.h"
 
 #include "files/drawingbounds.h"
 
+#include <QHash>
 #include <QLineF>
 
 #include <cmath>
@@ -15,19 +16,19 @@ constexpr double samePlace = 0.01;
 // Closer points are smooth enough.
 constexpr double shortStep = 2;
 
-double dot(const QPointF &a, const QPointF &b)
+double dotProduct(const QPointF &a, const QPointF &b)
 {
     return QPointF::dotProduct(a, b);
 }
 
-double length(const QPointF &vector)
+double vectorLength(const QPointF &vector)
 {
     return std::hypot(vector.x(), vector.y());
 }
 
-QPointF unit(const QPointF &vector)
+QPointF unitVector(const QPointF &vector)
 {
-    const double size = length(vector);
+    const double size = vectorLength(vector);
     return size > 0 ? vector / size : QPointF();
 }
 
@@ -53,7 +54,7 @@ struct Bend
     Bend(const QPointF &before, const QPointF &at, const QPointF &after)
         : in(at - before)
         , out(after - at)
-        , turn(std::atan2(in.x() * out.y() - in.y() * out.x(), dot(in, out)))
+        , turn(std::atan2(in.x() * out.y() - in.y() * out.x(), dotProduct(in, out)))
     {
     }
 };
@@ -66,25 +67,26 @@ bool isCorner(const Bend &before, const Bend &bend, const Bend &after)
     constexpr double longStep = 50;
     const double turn = std::abs(bend.turn);
     const bool isAlone = std::abs(before.turn) < small * turn && std::abs(after.turn) < small * turn;
-    return turn > sharp && (isAlone || (length(bend.in) > longStep && length(bend.out) > longStep));
+    return turn > sharp && (isAlone || (vectorLength(bend.in) > longStep && vectorLength(bend.out) > longStep));
 }
 
 // As a circle through the point and those beside it goes.
 Tangents smoothTangents(const Bend &bend)
 {
-    const QPointF both = unit(unit(bend.in) * length(bend.out) + unit(bend.out) * length(bend.in));
+    const QPointF both =
+        unitVector(unitVector(bend.in) * vectorLength(bend.out) + unitVector(bend.out) * vectorLength(bend.in));
     return {both, both};
 }
 
 Tangents tangentsAt(const Bend &before, const Bend &bend, const Bend &after)
 {
-    return isCorner(before, bend, after) ? Tangents{unit(bend.in), unit(bend.out)} : smoothTangents(bend);
+    return isCorner(before, bend, after) ? Tangents{unitVector(bend.in), unitVector(bend.out)} : smoothTangents(bend);
 }
 
 // At the end of a line that bends as at the point beside it.
-QPointF mirrored(const QPointF &tangent, const QPointF &along)
+QPointF mirroredTangent(const QPointF &tangent, const QPointF &along)
 {
-    return 2 * dot(tangent, along) * along - tangent;
+    return 2 * dotProduct(tangent, along) * along - tangent;
 }
 
 QVector<Tangents> tangentsOf(const QPolygonF &points)
@@ -102,13 +104,13 @@ QVector<Tangents> tangentsOf(const QPolygonF &points)
     for (int i = 1; i < last; ++i) {
         tangents[i] = tangentsAt(bends.at(i - 1), bends.at(i), bends.at(i + 1));
     }
-    const QPointF first = unit(points.at(1) - points.at(0));
-    const QPointF end = unit(points.at(last) - points.at(last - 1));
+    const QPointF first = unitVector(points.at(1) - points.at(0));
+    const QPointF end = unitVector(points.at(last) - points.at(last - 1));
     if (isClosed) {
         tangents[0] = tangents[last] = tangentsAt(bends.at(last - 1), bends.at(0), bends.at(1));
     } else if (last > 1) {
-        tangents[0].out = mirrored(tangents.at(1).in, first);
-        tangents[last].in = mirrored(tangents.at(last - 1).out, end);
+        tangents[0].out = mirroredTangent(tangents.at(1).in, first);
+        tangents[last].in = mirroredTangent(tangents.at(last - 1).out, end);
     } else {
         tangents[0].out = first;
         tangents[last].in = end;
@@ -203,7 +205,7 @@ FineTrack refined(const InkTrack &track)
     for (int i = 0; i + 1 < track.points.size(); ++i) {
         const QPointF &from = track.points.at(i);
         const QPointF &to = track.points.at(i + 1);
-        const double chord = length(to - from);
+        const double chord = vectorLength(to - from);
         const QPointF first = from + tangents.at(i).out * chord / 3;
         const QPointF second = to - tangents.at(i + 1).in * chord / 3;
         const int steps = int(qBound(1.0, chord / stepLength, double(most)));
@@ -214,7 +216,8 @@ FineTrack refined(const InkTrack &track)
             const double u = 1 - t;
             fine.points.append(u * u * u * from + 3 * u * u * t * first + 3 * u * t * t * second + t * t * t * to);
             fine.widths.append(u * track.widths.at(i) + t * track.widths.at(i + 1));
-            fine.tangents.append(unit(u * u * (first - from) + 2 * u * t * (second - first) + t * t * (to - second)));
+            fine.tangents.append(
+                unitVector(u * u * (first - from) + 2 * u * t * (second - first) + t * t * (to - second)));
         }
     }
     return fine;
@@ -259,11 +262,11 @@ QPainterPath smoothLine(const InkTrack &track)
     const QVector<Tangents> tangents = tangentsOf(points);
     for (int i = 1; i < points.size(); ++i) {
         const QPointF along = points.at(i) - points.at(i - 1);
-        const double chord = length(along);
+        const double chord = vectorLength(along);
         const QPointF &out = tangents.at(i - 1).out;
         const QPointF &in = tangents.at(i).in;
         constexpr double straight = 0.9999;
-        const bool isStraight = dot(out, along) > straight * chord && dot(in, along) > straight * chord;
+        const bool isStraight = dotProduct(out, along) > straight * chord && dotProduct(in, along) > straight * chord;
         if (chord < shortStep || isStraight) {
             path.lineTo(points.at(i));
         } else {
@@ -271,6 +274,65 @@ QPainterPath smoothLine(const InkTrack &track)
         }
     }
     return path;
+}
+
+QPolygonF fineLine(const QPolygonF &points)
+{
+    constexpr int mostPoints = 50000;
+    if (points.size() < 3 || points.size() > mostPoints) {
+        return points;
+    }
+    const QPainterPath path = smoothLine(InkTrack(points, {}));
+    constexpr double invisible = 0.1;
+    constexpr double mostPieces = 24;
+    QPolygonF fine;
+    bool isFiner = false;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element end = path.elementAt(i);
+        if (end.type != QPainterPath::CurveToElement) {
+            fine.append(end);
+            continue;
+        }
+        const QPointF from = fine.last();
+        const QPointF first = end;
+        const QPointF second = path.elementAt(i + 1);
+        const QPointF to = path.elementAt(i + 2);
+        i += 2;
+        const double bend = qMax(vectorLength(from - 2 * first + second), vectorLength(first - 2 * second + to));
+        // So many chords stay this close to a curve.
+        const int pieces = int(qBound(1.0, std::ceil(std::sqrt(0.75 * bend / invisible)), mostPieces));
+        isFiner = isFiner || pieces > 1;
+        for (int piece = 1; piece < pieces; ++piece) {
+            const double t = double(piece) / pieces;
+            const double u = 1 - t;
+            fine.append(u * u * u * from + 3 * u * u * t * first + 3 * u * t * t * second + t * t * t * to);
+        }
+        fine.append(to);
+    }
+    return isFiner ? fine : points;
+}
+
+// What a number means nobody tells.
+QVector<double> inkDashes(const QString &style)
+{
+    QString name;
+    for (const QChar c : style) {
+        name += c.isLetter() ? QString(c.toLower()) : QString();
+    }
+    name.remove(QLatin1String("line"));
+    static const QHash<QString, QVector<double>> named{
+        {QStringLiteral("dash"), {4, 3}},          {QStringLiteral("dashed"), {4, 3}},
+        {QStringLiteral("dot"), {1, 2}},           {QStringLiteral("dotted"), {1, 2}},
+        {QStringLiteral("dashdot"), {4, 2, 1, 2}}, {QStringLiteral("dashdotdot"), {4, 2, 1, 2, 1, 2}},
+    };
+    return named.value(name);
+}
+
+Qt::PenCapStyle inkCap(const QString &name)
+{
+    return name == QLatin1String("flat") || name == QLatin1String("butt") ? Qt::FlatCap
+        : name == QLatin1String("square")                                 ? Qt::SquareCap
+                                                                          : Qt::RoundCap;
 }
 
 QPainterPath brushOutline(const InkTrack &track)

@@ -4,6 +4,7 @@
 
 #include <QPainterPath>
 #include <QPolygonF>
+#include <QString>
 #include <QVector>
 
 namespace lessonhost {
@@ -25,6 +26,16 @@ struct InkTrack
 
 //! A smooth line through the points; where they turn sharply it has a corner. Ends that meet are smooth, too.
 QPainterPath smoothLine(const InkTrack &track);
+
+//! The same line as points so close to each other that nobody sees corners; the given ones where they are.
+QPolygonF fineLine(const QPolygonF &points);
+
+//! The lengths of dashes and gaps, in widths of the line, of a style by its name, such as "dash", "DashDotLine" and
+//! "dash dot dot"; none for a solid line.
+QVector<double> inkDashes(const QString &style);
+
+//! How a stroke ends, by the name of it; round where that says nothing.
+Qt::PenCapStyle inkCap(const QString &name);
 
 //! The outline of a track with widths: what is within it by the winding rule is ink.
 QPainterPath brushOutline(const InkTrack &track);
