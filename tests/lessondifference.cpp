@@ -621,8 +621,11 @@ private:
         const auto count = std::count_if(differences.begin() + before, differences.end(),
                                          [](const Difference &difference) { return !difference.isMinor; });
         differences.resize(before);
+        constexpr int elsewhere = 10; // out of its group, or in one
+        constexpr int other = 100; // a group or none
         return int(count) + (given.childIds == found.childIds ? 0 : 1)
-            + ((given.heldCount == 0) == (found.heldCount == 0) ? 0 : 100) - given.keys.size();
+            + ((given.around < 0) == (found.around < 0) ? 0 : elsewhere)
+            + ((given.heldCount == 0) == (found.heldCount == 0) ? 0 : other) - given.keys.size();
     }
 
     void properties(const Owner &owner, const QJsonObject &given, const QJsonObject &found)
