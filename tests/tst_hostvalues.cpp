@@ -351,6 +351,9 @@ private slots:
         row("other words", "{'Angle': '1', 'Angle': 1.0, 'a': {}, 'a': 2, 'b': {'c': 1}, 'b': {'c': '1', 'd': 2}}", "");
         row("many names", "[{" + QByteArray("'a': 1, 'b': 1, 'a': 1, 'c': 1, 'd': 1,").repeated(4) + "'b': 2}]",
             "[0].b=1");
+        row("one of many names",
+            "{'a': 1, 'b': 2, 'c': 1, 'd': 1, 'e': 1, 'f': 1, 'g': 1, 'h': 1, 'i': 1, 'j': 1, 'k': 1, 'l': 1, 'b': 3}",
+            "b=2");
     }
 
     void tellsWhatAParserDrops()

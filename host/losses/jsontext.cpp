@@ -224,7 +224,8 @@ private:
             }
             return i;
         }
-        for (int i = 0; level.indexes.isEmpty() && i < last; ++i) {
+        const int unlisted = level.indexes.isEmpty() ? last : 0;
+        for (int i = 0; i < unlisted; ++i) {
             level.indexes.insert(level.members.at(i).name, i);
         }
         const int before = level.indexes.value(name, -1);
