@@ -546,6 +546,7 @@ private:
             hasOwnId(given.at(i)) ? givenOfId[nameOf(given.at(i))].append(i) : void();
         }
         QVector<int> places(given.size(), -1);
+        QVector<QPair<QVector<int>, QVector<int>>> ofIds; // given and found
         for (auto it = givenOfId.begin(); it != givenOfId.end(); ++it) {
             const QString made = it.key().isEmpty() ? QString("item") : QString(it.key() + '_');
             QVector<int> back;
@@ -556,7 +557,15 @@ private:
                     back.append(j);
                 }
             }
-            align(given, *it, found, back, places);
+            ofIds.append({*it, back});
+        }
+        // What is known first: it tells of groups.
+        for (const bool isKnown : {true, false}) {
+            for (const auto &[givenOnes, back] : qAsConst(ofIds)) {
+                if ((givenOnes.size() == back.size()) == isKnown) {
+                    align(given, givenOnes, found, back, places);
+                }
+            }
         }
         for (int i = 0; i < given.size(); ++i) {
             QMap<int, int> shared; // items that found groups have of this one
@@ -583,33 +592,64 @@ private:
         return places;
     }
 
+    // The one that an item is in, which no other is around; itself where it is in none.
+    static int outermost(const QVector<Item> &items, int place)
+    {
+        while (items.at(place).around >= 0) {
+            place = items.at(place).around;
+        }
+        return place;
+    }
+
     // Of several items of one identifier, some of which may be gone or new: which became which, as many as can be and
-    // in their order, so that the least differs.
+    // in their order, so that the least differs. A group of a drawing has come of one group.
     void align(const QVector<Item> &given, const QVector<int> &ofId, const QVector<Item> &found,
                const QVector<int> &back, QVector<int> &places)
     {
         const int n = ofId.size();
         const int m = back.size();
         constexpr int never = 1 << 24;
-        QVector<QVector<int>> costs(n, QVector<int>(m)); // where the one becomes the other
-        QVector<QVector<int>> least(n + 1, QVector<int>(m + 1, never)); // of all from these two on
-        least[n][m] = 0;
-        for (int i = n; i >= 0; --i) {
-            for (int k = m; k >= 0; --k) {
-                if (i < n && k < m && least.at(i + 1).at(k + 1) < never) {
-                    costs[i][k] = n == m ? 0 : count(given.at(ofId.at(i)), found.at(back.at(k)));
-                    least[i][k] = costs.at(i).at(k) + least.at(i + 1).at(k + 1);
+        constexpr int otherGroup = 1000;
+        const auto isOfOtherGroup = [&](int one, int oneBack, int other, int otherBack) {
+            const int group = outermost(found, oneBack);
+            return m_road == Road::Drawn && found.at(oneBack).around >= 0 && found.at(otherBack).around >= 0
+                && group == outermost(found, otherBack) && outermost(given, one) != outermost(given, other);
+        };
+        const auto cost = [&](int i, int k) {
+            int sum = count(given.at(ofId.at(i)), found.at(back.at(k)));
+            for (int other = 0; other < given.size(); ++other) {
+                const bool isPlaced = places.at(other) >= 0;
+                sum += isPlaced && isOfOtherGroup(ofId.at(i), back.at(k), other, places.at(other)) ? otherGroup : 0;
+            }
+            return sum;
+        };
+        // What differs at least from a pair on, and the next pair. All of the fewer ones are in a pair.
+        QVector<QVector<int>> least(n, QVector<int>(m, never));
+        QVector<QVector<QPair<int, int>>> next(n, QVector<QPair<int, int>>(m, {n, m}));
+        for (int i = n - 1; i >= 0; --i) {
+            for (int k = m - 1; k >= 0; --k) {
+                const bool isLast = n >= m ? k == m - 1 : i == n - 1;
+                int rest = isLast ? 0 : never;
+                for (int step = 1; !isLast && (n >= m ? i + step < n : k + step < m); ++step) {
+                    const int j = n >= m ? i + step : i + 1;
+                    const int l = n >= m ? k + 1 : k + step;
+                    const bool isOther = isOfOtherGroup(ofId.at(i), back.at(k), ofId.at(j), back.at(l));
+                    const int sum = least.at(j).at(l) + (isOther ? otherGroup : 0);
+                    if (least.at(j).at(l) < never && sum < rest) {
+                        rest = sum;
+                        next[i][k] = {j, l};
+                    }
                 }
-                least[i][k] = i < n && n > m ? std::min(least.at(i).at(k), least.at(i + 1).at(k)) : least.at(i).at(k);
-                least[i][k] = k < m && m > n ? std::min(least.at(i).at(k), least.at(i).at(k + 1)) : least.at(i).at(k);
+                least[i][k] = rest == never ? never : rest + (n == m ? 0 : cost(i, k));
             }
         }
-        for (int i = 0, k = 0; i < n && k < m;) {
-            if (least.at(i).at(k) == costs.at(i).at(k) + least.at(i + 1).at(k + 1)) {
-                places[ofId.at(i++)] = back.at(k++);
-            } else {
-                n > m ? ++i : ++k;
-            }
+        QPair<int, int> pair(0, 0);
+        for (int first = 1; first < std::max(n, m) && std::min(n, m) > 0; ++first) {
+            const QPair<int, int> other = n >= m ? qMakePair(first, 0) : qMakePair(0, first);
+            pair = least.at(other.first).at(other.second) < least.at(pair.first).at(pair.second) ? other : pair;
+        }
+        for (; pair.first < n && pair.second < m; pair = next.at(pair.first).at(pair.second)) {
+            places[ofId.at(pair.first)] = back.at(pair.second);
         }
     }
 
@@ -788,7 +828,9 @@ private:
             const QJsonValue wrong = given.take(key);
             found.remove(key);
             // Steps of ink may be rounded on the way, and what is no place can't be kept.
-            if (isGuess || key == "XY" || (!isNothing(wrong) && !wholeNumbers(wrong))) {
+            const auto numbers = wholeNumbers(wrong);
+            const bool isPlace = numbers && (key != "BoundingBox" || numbers->size() == 4);
+            if (isGuess || key == "XY" || (!isNothing(wrong) && !isPlace)) {
                 minor(owner, key);
             }
         }
