@@ -361,10 +361,11 @@ std::optional<QTransform> matrixIn(const QString &text)
                                : std::nullopt;
 }
 
-bool areNear(const QPolygonF &one, const QPolygonF &other, double tolerance)
+// size: of the numbers that points were made of, which were rounded.
+bool areNear(const QPolygonF &one, const QPolygonF &other, double tolerance, double size = 1)
 {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [tolerance](QPointF a, QPointF b) {
-        return QLineF(a, b).length() <= tolerance * (1 + qAbs(a.x()) + qAbs(a.y()));
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [tolerance, size](QPointF a, QPointF b) {
+        return QLineF(a, b).length() <= tolerance * (size + qAbs(a.x()) + qAbs(a.y()));
     });
 }
 
@@ -385,7 +386,8 @@ QString misplacedBy(const QDomElement &element, const QJsonObject &keyPlaces, co
     }
     const QTransform onPage = *own * *fit;
     const QPolygonF page(QRectF(0, 0, 1000, 1000));
-    const bool isFolded = !areNear(onPage.map(page), matrix->map(page), 2e-5);
+    const double size = 1 + qAbs(fit->dx()) + qAbs(fit->dy());
+    const bool isFolded = !areNear(onPage.map(page), matrix->map(page), 2e-5, size);
     const bool hasBox = box && box->size() == 4;
     const QPolygonF given(QRectF({bound->at(4), bound->at(5)}, QPointF(bound->at(0), bound->at(1))));
     const QPolygonF found(hasBox ? QRectF({box->at(0), box->at(1)}, QPointF(box->at(2), box->at(3))) : QRectF());
