@@ -738,6 +738,9 @@ private:
     {
         QJsonObject keys = given.keys;
         QJsonObject back = found.keys;
+        if (m_road == Road::Drawn && hasMatrix(keys)) {
+            minor(owner, "TextHtml"); // the size of letters that have none of their own follows it
+        }
         if (m_road != Road::Kept) {
             given.isTurnedAround &&m_road == Road::Drawn ? removePlace(owner, true, keys, back)
                                                          : place(owner, keys, back);
@@ -786,9 +789,6 @@ private:
                 given.remove("Width");
             }
         }
-        if (m_road == Road::Drawn && hasMatrix(given)) {
-            minor(owner, "TextHtml"); // the size of letters that have none of their own follows it
-        }
         if ((m_road == Road::Drawn || hasMatrix(given)) && isDrawnAlike(given, found, isFlipped)) {
             // A shape of one point draws nothing, wherever it is told to stand.
             const auto points = pairsOf(given.value("Control"));
@@ -800,12 +800,15 @@ private:
             // A shape under a matrix is drawn around an origin of its own.
             removePlace(owner, true, given, found);
         } else if (isUnderMatrix) {
-            // The lost matrix tells it all.
-            const QJsonValue lost = given.value("Matrix");
-            const QJsonValue back = found.value("Matrix");
+            // The lost matrix tells it all, or the box that it was worked into, where another key takes its place.
+            const bool isBoxTaken = m_road == Road::Packed && !isNothing(found.value("InitBound"))
+                && found.value("InitBound") == found.value("BoundingBox");
+            const QString key = isBoxTaken ? "BoundingBox" : "Matrix";
+            const QJsonValue lost = given.value(key);
+            const QJsonValue back = found.value(key);
             removePlace(owner, true, given, found);
-            given.insert("Matrix", lost);
-            found.insert("Matrix", back);
+            given.insert(key, lost);
+            found.insert(key, back);
         }
     }
 
@@ -817,7 +820,8 @@ private:
         const auto angle = numberOf(given.value("Angle"));
         const bool isTurnOfMatrix =
             angle && std::fabs(std::remainder(*angle - std::atan2(matrix.m12(), matrix.m11()), 2 * M_PI)) < 1e-4;
-        const bool hasOwnTurn = hasMatrix(given) && !isNothing(given.value("Angle")) && !isTurnOfMatrix;
+        const bool hasOwnMatrix = hasMatrix(given);
+        const bool hasOwnTurn = hasOwnMatrix && !isNothing(given.value("Angle")) && !isTurnOfMatrix;
         const QJsonValue control = given.value("Control");
         const bool isControlOther = m_road == Road::Drawn ? !isNothing(control) && !pairsOf(control)
                                                           : !hasOwnPoints(owner.type) && owner.type != "ZQMath2DAngle";
@@ -830,7 +834,8 @@ private:
             // Steps of ink may be rounded on the way, and what is no place can't be kept.
             const auto numbers = wholeNumbers(wrong);
             const bool isPlace = numbers && (key != "BoundingBox" || numbers->size() == 4);
-            if (isGuess || key == "XY" || (!isNothing(wrong) && !isPlace)) {
+            const bool isRounded = key == "XY" || (m_road == Road::Drawn && hasSteps(owner.type) && hasOwnMatrix);
+            if (isGuess || isRounded || (!isNothing(wrong) && !isPlace)) {
                 minor(owner, key);
             }
         }
