@@ -344,6 +344,10 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, bool isFli
     for (const QPointF &point : *one) {
         const auto isThere = [&point](const QPointF &there) { return QLineF(point, there).length() < 0.01; };
         at = isInk ? std::find_if(at, other->end(), isThere) : at;
+        // Points so near that they were rounded into one.
+        if (at != other->begin() && isThere(*(at - 1)) && (at == other->end() || !isThere(*at))) {
+            continue;
+        }
         if (at == other->end() || !isThere(*at)) {
             return false;
         }
