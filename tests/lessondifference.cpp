@@ -789,7 +789,7 @@ private:
         const auto widthBack = numberOf(found.value("Width"));
         if (m_road == Road::Packed && isUnderMatrix && width && widthBack && pairsOf(given.value("XY"))) {
             const double wide = *width * std::sqrt(std::fabs(matrix->determinant()));
-            if (std::fabs(*widthBack - wide) <= 1e-9 * wide) {
+            if (std::fabs(*widthBack - wide) <= 1e-9 * std::fabs(wide)) {
                 given.remove("Width");
             }
         }
