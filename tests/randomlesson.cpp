@@ -605,3 +605,16 @@ QDomDocument RandomLesson::rawLesson()
     disturb(root);
     return document;
 }
+
+int setting(const char *name, int usual)
+{
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : usual;
+}
+
+void prepareRandomRun(int seconds)
+{
+    constexpr qint64 usualTimeout = 300000; // Qt Test ends what takes longer, which a run by hand may
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // the host lays out text
+    qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(usualTimeout + seconds * 1000LL));
+    qSetGlobalQHashSeed(0);
+}

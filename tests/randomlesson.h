@@ -52,6 +52,13 @@ private:
     bool m_isOdd; //!< has odd and wrong values
 };
 
+//! What a variable of the environment says of a run over random lessons, or the usual.
+int setting(const char *name, int usual);
+
+//! For main() of such a test, before its application: no display is needed, it may take that many seconds, and the order
+//! of hashes, which attributes stand in, is the same for a seed.
+void prepareRandomRun(int seconds);
+
 //! Where raw XML has the keys of an item type; empty for a type that no table has.
 QJsonObject rawPlacesOf(const QString &type);
 

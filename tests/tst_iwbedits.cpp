@@ -17,11 +17,6 @@
 
 namespace {
 
-int setting(const char *name, int usual)
-{
-    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : usual;
-}
-
 QString shown(const QJsonValue &value)
 {
     return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact)).left(900);
@@ -289,10 +284,7 @@ private slots:
 
 int main(int argc, char **argv)
 {
-    // The host lays out text.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(300000 + setting("EDITS_SECONDS", 6) * 1000LL));
-    qSetGlobalQHashSeed(0);
+    prepareRandomRun(setting("EDITS_SECONDS", 6));
     QGuiApplication application(argc, argv);
     TestIwbEdits test;
     return QTest::qExec(&test, argc, argv);

@@ -670,11 +670,6 @@ QString described(const Failure &failure, const Given &given)
         + "\nreport: " + QString::fromUtf8(report) + "\nlesson: " + textOf(given);
 }
 
-int setting(const char *name, int usual)
-{
-    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : usual;
-}
-
 } // namespace
 
 /*!
@@ -739,12 +734,7 @@ private slots:
 
 int main(int argc, char **argv)
 {
-    // The host lays out text.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Qt Test ends what takes longer than five minutes, which a run by hand may.
-    qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(300000 + setting("LOSSES_SECONDS", 42) * 1000LL));
-    // The attributes of an element stand in the order of their hashes, and a seed stands for the same lesson each time.
-    qSetGlobalQHashSeed(0);
+    prepareRandomRun(setting("LOSSES_SECONDS", 42));
     QGuiApplication application(argc, argv);
     TestLosses test;
     return QTest::qExec(&test, argc, argv);

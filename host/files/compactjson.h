@@ -7,7 +7,7 @@
 
 namespace lessonhost {
 
-//! A value as QJsonDocument writes it into a compact document, to the byte, in a third of the time.
+//! A value as QJsonDocument writes it into a compact document, to the byte, and in less time.
 QByteArray compactJson(const QJsonValue &value);
 
 } // namespace lessonhost
