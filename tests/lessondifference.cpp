@@ -549,23 +549,40 @@ private:
         for (int i = 0; i < given.size(); ++i) {
             hasOwnId(given.at(i)) ? givenOfId[nameOf(given.at(i))].append(i) : void();
         }
-        QVector<int> places(given.size(), -1);
-        QVector<QPair<QVector<int>, QVector<int>>> ofIds; // given and found
-        for (auto it = givenOfId.begin(); it != givenOfId.end(); ++it) {
-            const QString made = it.key().isEmpty() ? QString("item") : QString(it.key() + '_');
-            QVector<int> back;
-            for (int j = 0; j < found.size(); ++j) {
-                const QString id = nameOf(found.at(j));
-                const bool isOfId = id == it.key() || (id.startsWith(made) && !givenOfId.contains(id));
-                if (isOfId && !found.at(j).isOfKey && hasOwnId(found.at(j))) {
-                    back.append(j);
-                }
+        // In drawings, one of two "1" becomes "1_2", or where that is first another's, "1_3"; where it isn't yet, the
+        // other becomes "1_2_2". So the identifiers that may be made of another are one family, known by the shortest.
+        const auto familyOf = [this, &givenOfId](QString id) {
+            static const QRegularExpression number("(_item)?_\\d+$|_item$");
+            QString family = id;
+            while (m_road == Road::Drawn && id.contains(number)) {
+                id.remove(number);
+                family = givenOfId.contains(id) ? id : family;
             }
-            ofIds.append({*it, back});
+            return family;
+        };
+        QMap<QString, QPair<QVector<int>, QVector<int>>> families; // given and found
+        for (auto it = givenOfId.begin(); it != givenOfId.end(); ++it) {
+            families[familyOf(it.key())].first += *it;
+        }
+        for (int j = 0; j < found.size(); ++j) {
+            const QString id = nameOf(found.at(j));
+            QString family = familyOf(id);
+            for (int end = id.size(); !families.contains(family) && end > 0;) {
+                end = id.lastIndexOf('_', end - 1);
+                family = end >= 0 ? familyOf(id.left(end)) : QString();
+            }
+            const bool isNameless = family.isEmpty() && !id.isEmpty() && !id.startsWith("item");
+            if (families.contains(family) && !isNameless && !found.at(j).isOfKey && hasOwnId(found.at(j))) {
+                families[family].second.append(j);
+            }
+        }
+        QVector<int> places(given.size(), -1);
+        for (auto &family : families) {
+            std::sort(family.first.begin(), family.first.end());
         }
         // What is known first: it tells of groups.
         for (const bool isKnown : {true, false}) {
-            for (const auto &[givenOnes, back] : qAsConst(ofIds)) {
+            for (const auto &[givenOnes, back] : qAsConst(families)) {
                 if ((givenOnes.size() == back.size()) == isKnown) {
                     align(given, givenOnes, found, back, places);
                 }
