@@ -81,6 +81,10 @@ private slots:
         row("files", "'document':'b.png','Items':[{'Type':'ZQImagePic','ID':'i','resource':'a.png'},{'Type':'ZQGroupItem',"
             "'Children':[{'Type':'ZQMediaAudio','ID':'s','resource':'c.mp3'}]}]",
             "file slide  b.png |picture ZQImagePic i a.png it is no picture that can be read|file ZQMediaAudio s c.mp3 ", 1);
+        row("drawings", "'document':'cut.svg','Items':[{'Type':'ZQImagePic','ID':'n','resource':'none.svg'},"
+            "{'Type':'ZQImagePic','ID':'u','resource':'used.svg'},{'Type':'ZQImagePic','ID':'c','resource':'cut.svg'}]",
+            "picture slide  cut.svg it is a damaged picture|picture ZQImagePic n none.svg it is a drawing with nothing in it|"
+            "picture ZQImagePic c cut.svg it is a damaged picture", 1);
         row("items", "'Items':[{'Type':'ZQFuture','ID':'f','Opacity':'999'},{'Type':'ZQGadget','ID':'g','KeptXml':'<g/>'}]",
             "item ZQFuture f  |item ZQGadget g  ", 1);
         row("values", "'color':'reddish','Items':[{'Type':'ZQSmoothStroke','ID':'s','Opacity':300},"
@@ -94,8 +98,14 @@ private slots:
     {
         const auto [slide, findings, code] = Table<QByteArray, QString, int>::cells();
         const QTemporaryDir folder;
+        const QByteArray shapes = "<defs><path id='p' d='M0,0 9,9'/></defs><g><script/></g>";
+        const auto svg = [](const QByteArray &content) {
+            return QByteArray("<svg width='9' height='9'>" + content).toBase64();
+        };
         putFile(folder.filePath("in.json"),
-                QByteArray("{'Width':'800','Height':'600','Slides':[{" + slide + "}],'Resources':{'a.png':'eHl6'}}")
+                QByteArray("{'Width':'800','Height':'600','Slides':[{" + slide + "}],'Resources':{'a.png':'eHl6','cut.svg':'"
+                           + svg("<path d='M0,0 9,9'/>") + "','none.svg':'" + svg(shapes + "</svg>") + "','used.svg':'"
+                           + svg(shapes + "<use href='#p'/></svg>") + "'}}")
                     .replace('\'', '"'));
         const CommandProcess::Outcome outcome = runCommand({"check", folder.filePath("in.json"), "--json"});
         QCOMPARE(outcome.exitCode, code);

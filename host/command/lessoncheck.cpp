@@ -188,7 +188,8 @@ private:
             return;
         }
         if (!m_pictureProblems.contains(picture)) {
-            m_pictureProblems.insert(picture, Picture(m_reader.resourceFile(picture)).problem());
+            const Picture seen(m_reader.resourceFile(picture));
+            m_pictureProblems.insert(picture, seen.problem().isEmpty() ? seen.drawingProblem() : seen.problem());
         }
         const Sentence problem = m_pictureProblems.value(picture);
         if (!problem.isEmpty()) {

@@ -34,6 +34,16 @@ bool isKept(const QString &tag)
     return tags.contains(tag);
 }
 
+// What is seen by itself; the others group, place or describe it.
+bool isShape(const QString &tag)
+{
+    static const QSet<QString> tags{QStringLiteral("rect"),     QStringLiteral("circle"),  QStringLiteral("ellipse"),
+                                    QStringLiteral("line"),     QStringLiteral("polygon"), QStringLiteral("path"),
+                                    QStringLiteral("polyline"), QStringLiteral("image"),   QStringLiteral("text"),
+                                    QStringLiteral("textArea")};
+    return tags.contains(tag);
+}
+
 // True for a text of style that names something outside of the drawing, or hides what it names.
 bool leadsOut(const QString &style)
 {
@@ -82,11 +92,16 @@ public:
     {
     }
 
-    void close(QDomElement element)
+    // isKeptBack: for references, which draw it.
+    void close(QDomElement element, bool isKeptBack = false)
     {
         ++m_elements;
+        const QString tag = bareName(element.tagName());
+        isKeptBack |= tag == QLatin1String("defs");
+        (isKeptBack ? m_hasKeptBack : m_hasShown) |= isShape(tag);
+        m_refers |= !isKeptBack && tag == QLatin1String("use");
         closeAttributes(element);
-        if (bareName(element.tagName()) == QLatin1String("style")) {
+        if (tag == QLatin1String("style")) {
             closeStyleSheet(element);
         }
         QDomNode next;
@@ -96,11 +111,13 @@ public:
                 if (!isKept(bareName(child.toElement().tagName()))) {
                     element.removeChild(child);
                 } else {
-                    close(child.toElement());
+                    close(child.toElement(), isKeptBack);
                 }
             }
         }
     }
+
+    bool draws() const { return m_hasShown || (m_refers && m_hasKeptBack); }
 
     void limitStyleSheets()
     {
@@ -177,6 +194,9 @@ private:
     QVector<QDomElement> m_styleSheets;
     qint64 m_rules = 0;
     qint64 m_elements = 0;
+    bool m_hasShown = false;
+    bool m_hasKeptBack = false;
+    bool m_refers = false;
 };
 
 } // namespace
@@ -196,6 +216,7 @@ ClosedSvg closedSvg(const QByteArray &svg, const QString &displayName, const Clo
     Closing closing(result, addressOf);
     closing.close(root);
     closing.limitStyleSheets();
+    result.isEmpty = !closing.draws();
     boundDrawing(root);
     result.text = xmlNodeText(root).toUtf8();
     return result;

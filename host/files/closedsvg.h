@@ -21,6 +21,7 @@ struct ClosedSvg
     QByteArray text;
     int files = 0; //!< pictures that were taken from other files into the text
     QStringList leftOut; //!< references to pictures that addressOf() has nothing for
+    bool isEmpty = true; //!< whether it holds nothing that is drawn
 };
 
 //! Of a drawing keeps what draws, within bounds; pictures are what addressOf() gives. References that are left lead

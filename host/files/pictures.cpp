@@ -238,6 +238,24 @@ void Picture::findProblem()
     }
 }
 
+Sentence Picture::drawingProblem() const
+{
+    if (m_format != "svg") {
+        return {};
+    }
+    try {
+        return drawing().isEmpty ? say("it is a drawing with nothing in it") : Sentence();
+    } catch (const LessonError &error) {
+        checkDevice(m_device.get());
+        if (error.isOfMachine()) {
+            throw;
+        }
+        return qMax<qint64>(m_device->size(), drawingText().size()) > largestDrawing
+            ? say("it is a larger drawing than can be read")
+            : say("it is a damaged picture");
+    }
+}
+
 QSize Picture::size() const
 {
     if (m_format.isEmpty()) {

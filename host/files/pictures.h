@@ -58,6 +58,8 @@ public:
     //! Why it can't be shown, as a clause such as "it is a damaged picture", or nothing. Pictures of pixels are looked
     //! at without unpacking them, drawings aren't read.
     Sentence problem() const { return m_problem; }
+    //! The same of a drawing, which is read for it; nothing for other pictures.
+    Sentence drawingProblem() const;
     //! "png", "jpeg" and so on, "svg" for drawings; empty for what is no picture.
     QByteArray format() const { return m_format; }
     //! Pixels; empty where it tells none.

@@ -6455,5 +6455,13 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <source>a picture of all its repetitions took its place</source>
         <translation>ein Bild aller Wiederholungen trat an seine Stelle</translation>
     </message>
+    <message>
+        <source>it is a drawing with nothing in it</source>
+        <translation>ist eine Zeichnung, die nichts enthält</translation>
+    </message>
+    <message>
+        <source>it is a larger drawing than can be read</source>
+        <translation>ist eine Zeichnung, die zu groß zum Lesen ist</translation>
+    </message>
 </context>
 </TS>

@@ -6139,5 +6139,13 @@ or something is wrong that check looks for, 2 not done.</source>
         <source>a picture of all its repetitions took its place</source>
         <translation>由一张包含其全部平铺的图片代替</translation>
     </message>
+    <message>
+        <source>it is a drawing with nothing in it</source>
+        <translation>是没有内容的 svg 图形</translation>
+    </message>
+    <message>
+        <source>it is a larger drawing than can be read</source>
+        <translation>是过大而无法读取的 svg 图形</translation>
+    </message>
 </context>
 </TS>
