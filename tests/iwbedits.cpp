@@ -6,6 +6,7 @@
 #include "lesson/shapeforms.h"
 #include "testtable.h"
 
+#include <QColor>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -432,7 +433,7 @@ bool IwbEdits::rename(int slide)
     const QString other = "named%1"_s.arg(id);
     for (QDomElement element : elementsIn(m_document.documentElement())) {
         for (const char *name : {"id", "ref"}) {
-            for (const char *ending : {"", "_fill", "_sign", "_film"}) {
+            for (const char *ending : {"", "_fill", "_sign", "_film", "_cover"}) {
                 if (element.attribute(name) == id + ending) {
                     element.setAttribute(name, other + ending);
                 }
@@ -620,6 +621,11 @@ QString IwbEdits::valueOf(const QString &name, const QString &value)
     if (!m_isExact && numbers.contains(name) && oneIn(2) && !value.contains('e')) {
         return value + (value.contains('.') ? "00000001" : ".0");
     }
+    static const QRegularExpression rgb("^rgb\\((\\d+),(\\d+),(\\d+)\\)$");
+    const auto parts = rgb.match(value);
+    if (!m_isExact && parts.hasMatch() && oneIn(2)) {
+        return QColor(parts.captured(1).toInt(), parts.captured(2).toInt(), parts.captured(3).toInt()).name();
+    }
     QString text = value.toHtmlEscaped();
     return text.replace('\t', "&#9;").replace('\n', "&#10;").replace('\r', "&#13;");
 }
@@ -654,5 +660,10 @@ QString IwbEdits::textOf(const QDomNode &node, int depth, bool isInText)
     }
     const QString start = '<' + tag + attributes.join("");
     const bool isShort = content.isEmpty() && oneIn(2);
-    return isShort ? QString(start + "/>") : QString(start + '>' + content + "</" + tag + '>');
+    const QString whole = isShort ? QString(start + "/>") : QString(start + '>' + content + "</" + tag + '>');
+    // Slides are called as the rectangle that is a page's background, if it is one of the page's own children.
+    const bool isOnPage =
+        node.parentNode().toElement().tagName() == "svg:page" && !element.attribute("id").endsWith("_rect");
+    const QString group = nameOf("svg:g");
+    return isOnPage && oneIn(4) ? QString('<' + group + '>' + whole + "</" + group + '>') : whole;
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostfixture.h"
+#include "iwb/elementmark.h"
 #include "testtable.h"
 
 #include <QDir>
+#include <QDomDocument>
 #include <QJsonDocument>
 #include <QtTest>
 
@@ -39,13 +41,16 @@ class TestIwbNative : public QObject
         return texts;
     }
 
+    // from: a text, or "~" and an expression.
     void edit(const QString &from, const QString &to)
     {
         const QString file = path("there/content.xml");
-        QByteArray text = fileContent(file);
-        QVERIFY2(from.isEmpty() || text.contains(from.toUtf8()), qPrintable(from));
+        const QString text = QString::fromUtf8(fileContent(file));
+        const QString pattern = from.startsWith('~') ? from.mid(1) : QRegularExpression::escape(from);
+        const QString edited = QString(text).replace(QRegularExpression(pattern), to);
+        QVERIFY2(from.isEmpty() || edited != text, qPrintable(from));
         QFile::remove(file);
-        putFile(file, text.replace(from.toUtf8(), to.toUtf8()));
+        putFile(file, edited.toUtf8());
     }
 
 private slots:
@@ -87,10 +92,25 @@ private slots:
         row("nothing", "", "", all, "");
         row("written anew", " version=\"1.0\" ", "  version='1.0' ", all, "");
         row("other digits and blanks", "stroke-width=\"3\"", "stroke-width=' 3.0 '", all, "");
+        row("a colour in other words", "rgb(1,2,3)", "#010203", all, "");
+        row("a group around it", "~(<svg:(polygon|polyline|circle|image) id=\"[^\"]*\"[^>]*/>)", "<svg:g>\\1</svg:g>",
+            all, "");
+        row("groups around all", "~(?s)(<svg:page [^>]*>)(.*)(</svg:page>)", "\\1<svg:g><svg:g/>\\2</svg:g>\\3", all,
+            "");
+        row("a group that does something", "~(<svg:polygon id=\"h\"[^>]*/>)", "<svg:g fill='red'>\\1</svg:g>",
+            "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQSmoothStroke s", "h changed");
+        row("a second background", "~(?s)(<svg:rect id=\"1_rect\"[^>]*/>)(.*)</iwb>",
+            "\\1<svg:rect id='new' width='800' height='600' fill='red'/>\\2<iwb:element ref='new' "
+            "background='true'/></iwb>",
+            "ZQMath2DRectangle new, " + all, "new added");
+        row("a background behind it", "~(?s)(<svg:rect id=\"1_rect\"[^>]*/>)(.*)</iwb>",
+            "<svg:rect id='new' width='800' height='600' fill='red'/>\\1\\2<iwb:element ref='new' "
+            "background='true'/></iwb>",
+            "ZQMath2DRectangle 1_rect, " + all, "1 its background was changed, 1_rect added");
         row("a colour", "rgb(1,2,3)", "rgb(200,2,3)",
             "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQSmoothStroke s", "h changed");
-        row("moved picture", "ref-r", "", "ZQImagePic r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s",
-            "r changed");
+        row("moved picture", "~(<svg:image id=\"r\"[^>]*) x=\"[^\"]*\"", "\\1 x=\"300\"",
+            "ZQImagePic r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s", "r changed");
         row("one of a group", "rgb(4,5,6)", "rgb(4,5,60)", all, "a changed");
         row("taken out of its group", "<iwb:element ref=\"a\"/>", "",
             "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DCircle a, ZQMath2DCircle b, ZQSmoothStroke s",
@@ -128,14 +148,7 @@ private slots:
             "{\"Type\":\"ZQSmoothStroke\",\"ID\":\"s\",\"XY\":\"10,300,20,5,20,-5\",\"Width\":\"4\",\"CoverLayer\":"
             "\"1\"}]}]}");
         convert("in.json", "there");
-        if (from == "ref-r") {
-            const QString text = QString::fromUtf8(fileContent(path("there/content.xml")));
-            const QString element = QRegularExpression("<svg:image id=\"r\"[^>]*>").match(text).captured();
-            QVERIFY(!element.isEmpty());
-            edit(element, QString(element).replace(QRegularExpression(" x=\"[^\"]*\""), " x=\"300\""));
-        } else {
-            edit(from, to);
-        }
+        edit(from, to);
         QStringList told;
         const QJsonArray entries =
             QJsonDocument::fromJson(convert("there", "back.json").toUtf8()).object().value("entries").toArray();
@@ -151,7 +164,31 @@ private slots:
         // A changed picture of an item is a file of the lesson from now on.
         const QJsonObject files =
             QJsonDocument::fromJson(fileContent(path("back.json"))).object().value("Resources").toObject();
-        QCOMPARE(files.size(), from == "ref-r" ? 1 : 0);
+        QCOMPARE(files.size(), from.contains("svg:image id=") ? 1 : 0);
+    }
+
+    // Marks of earlier versions knew colours as their letters.
+    void knowsEarlierMarks()
+    {
+        QDomDocument document;
+        QVERIFY(document.setContent(
+            "<iwb><svg:svg><svg:g><svg:rect id='a' width='3.0' stroke='rgb(1, 2,3)' fill='#00a000'/></svg:g></svg:svg>"
+            "<iwb:element ref='a' background-fill='#ffff00'/></iwb>"_s,
+            false));
+        QDomElement element = document.documentElement().firstChildElement().firstChildElement().firstChildElement();
+        const auto records = recordTexts(document.documentElement());
+        const QString mark = elementMark(element, records);
+        QVERIFY(hasMark(element, mark, records));
+        QVERIFY(hasMark(element, "4e5112eaa9b6444a4318", records));
+        element.setAttribute("fill", "#0000a0");
+        QVERIFY(hasMark(element, "4e5112eaa9b6444a4318", records)); // which is why they are others now
+        QVERIFY(!hasMark(element, mark, records));
+        element.setAttribute("fill", "lime");
+        const QString green = elementMark(element, records);
+        for (const char *same : {"#0f0", "#00FF00", " rgb( 0%, 100%, 0%)"}) {
+            element.setAttribute("fill", same);
+            QCOMPARE(elementMark(element, records), green);
+        }
     }
 
     // What the format has beside elements of the same shape.

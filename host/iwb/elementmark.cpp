@@ -4,6 +4,7 @@
 #include "lesson/numbertexts.h"
 #include "svg/iwbpage.h"
 #include "svg/svgnames.h"
+#include "svg/svgvalues.h"
 
 #include <QCryptographicHash>
 #include <QMap>
@@ -16,6 +17,11 @@ namespace lessonhost {
 namespace {
 
 constexpr int markDigits = 5;
+
+// What marks begin with; those of earlier versions have nothing before their digits.
+const QLatin1String markStart("2-");
+
+enum MarkForm { Present, Former };
 
 QString localName(const QString &name)
 {
@@ -60,16 +66,40 @@ bool isReference(const QString &name)
     return localName(name) == QLatin1String("href");
 }
 
-QString attributesOf(const QDomElement &element)
+bool isColor(const QString &name)
+{
+    return name == QLatin1String("stroke") || name.endsWith(QLatin1String("fill"));
+}
+
+// Numbers in names of files tell one from another, and so do the digits of colours.
+QString valueOf(const QString &name, const QString &value, MarkForm form)
+{
+    if (isReference(name)) {
+        return value.simplified();
+    }
+    const auto color = form == Present && isColor(name) ? svgColor(value) : std::nullopt;
+    if (color) {
+        return color->alpha() == 0 ? QStringLiteral("none") : color->name(QColor::HexArgb);
+    }
+    QString text = plainValue(value);
+    if (form == Present && text.contains(QLatin1Char('('))) {
+        text.replace(QLatin1String(" ("), QLatin1String("("));
+        text.replace(QLatin1String("( "), QLatin1String("("));
+        text.replace(QLatin1String(" )"), QLatin1String(")"));
+        text.replace(QLatin1String(")"), QLatin1String(") "));
+        text = text.simplified();
+    }
+    return text;
+}
+
+QString attributesOf(const QDomElement &element, MarkForm form)
 {
     QMap<QString, QString> attributes;
     const QDomNamedNodeMap all = element.attributes();
     for (int i = 0; i < all.size(); ++i) {
         const QString name = all.item(i).nodeName();
         if (!name.startsWith(QLatin1String("xmlns")) && name != QLatin1String("ref")) {
-            // Numbers in names of files tell one from another.
-            const QString value = all.item(i).nodeValue();
-            attributes.insert(localName(name), isReference(name) ? value.simplified() : plainValue(value));
+            attributes.insert(localName(name), valueOf(localName(name), all.item(i).nodeValue(), form));
         }
     }
     QString text;
@@ -80,21 +110,25 @@ QString attributesOf(const QDomElement &element)
 }
 
 // Without a call for each level: elements may stand in each other deeper than calls may.
-QString wholeText(const QDomElement &element, const QHash<QString, QString> &records)
+QString wholeText(const QDomElement &element, const QHash<QString, RecordText> &records, MarkForm form)
 {
     QString text;
     QDomNode node = element;
+    const auto isTold = [form](const QDomNode &told) {
+        return told.isElement() && !(form == Present && isPlainGroup(told.toElement()));
+    };
     while (!node.isNull()) {
-        if (node.isElement()) {
+        if (isTold(node)) {
             const QDomElement inner = node.toElement();
-            text += QLatin1Char('<') + localName(inner.tagName()) + attributesOf(inner)
-                + records.value(inner.attribute(QStringLiteral("id"))) + QLatin1Char('>');
+            const RecordText record = records.value(inner.attribute(QStringLiteral("id")));
+            text += QLatin1Char('<') + localName(inner.tagName()) + attributesOf(inner, form)
+                + (form == Present ? record.text : record.former) + QLatin1Char('>');
         } else if (node.isText() || node.isCDATASection()) {
             text += node.nodeValue().simplified();
         }
         QDomNode next = node.firstChild();
         while (next.isNull() && node != element) {
-            text += node.isElement() ? QStringLiteral("</>") : QString();
+            text += isTold(node) ? QStringLiteral("</>") : QString();
             next = node.nextSibling();
             node = next.isNull() ? node.parentNode() : node;
         }
@@ -104,6 +138,16 @@ QString wholeText(const QDomElement &element, const QHash<QString, QString> &rec
         node = next;
     }
     return text;
+}
+
+QString markOf(const QDomElement &element, const QHash<QString, RecordText> &records, MarkForm form)
+{
+    const QDomElement behind = elementBefore(element);
+    const QByteArray text =
+        ((isFillBehind(behind) ? wholeText(behind, records, form) : QString()) + wholeText(element, records, form))
+            .toUtf8();
+    const QByteArray digits = QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().left(20);
+    return (form == Present ? QString(markStart) : QString()) + QString::fromLatin1(digits);
 }
 
 } // namespace
@@ -131,27 +175,29 @@ void RecordTexts::add(const QDomElement &element)
     const bool isInRoot = holder.parentNode().isDocument();
     if (!isInRoot && iwbName(holder) == QLatin1String("group") && holder.parentNode().parentNode().isDocument()) {
         // That it moves with others is no part of it; what else is said of it may stand anywhere.
-        const QString attributes = attributesOf(element);
-        add(element.attribute(QStringLiteral("ref")),
-            attributes.isEmpty() ? QString() : QString(QLatin1String(" element") + attributes));
+        const QString attributes = attributesOf(element, Former);
+        if (!attributes.isEmpty()) {
+            add(element, QStringLiteral("element"));
+        }
         return;
     }
     const QString name = isInRoot ? iwbName(element) : QString();
     if (isInRoot && name != QLatin1String("group") && svgName(element) != QLatin1String("svg")
         && element.hasAttribute(QStringLiteral("ref"))) {
-        add(element.attribute(QStringLiteral("ref")), QLatin1Char(' ') + name + attributesOf(element));
+        add(element, name);
     }
 }
 
-void RecordTexts::add(const QString &id, const QString &text)
+void RecordTexts::add(const QDomElement &element, const QString &name)
 {
-    QString &known = m_texts[id];
-    known = *m_shared.insert(known + text);
+    RecordText &known = m_texts[element.attribute(QStringLiteral("ref"))];
+    known.text = *m_shared.insert(known.text + QLatin1Char(' ') + name + attributesOf(element, Present));
+    known.former = *m_shared.insert(known.former + QLatin1Char(' ') + name + attributesOf(element, Former));
 }
 
 bool isFillBehind(const QDomElement &element)
 {
-    const QDomElement line = element.nextSiblingElement();
+    const QDomElement line = elementBehind(element);
     const QString id = line.attribute(QStringLiteral("id"));
     return !id.isEmpty() && svgName(element) == QLatin1String("polygon") && svgName(line) == QLatin1String("polyline")
         && element.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
@@ -163,7 +209,7 @@ bool isCover(const QDomElement &element)
         && element.attribute(QStringLiteral("id")).endsWith(QLatin1String(coverBefore));
 }
 
-QHash<QString, QString> recordTexts(const QDomElement &root)
+QHash<QString, RecordText> recordTexts(const QDomElement &root)
 {
     RecordTexts records;
     for (QDomElement row = root.firstChildElement(); !row.isNull(); row = row.nextSiblingElement()) {
@@ -177,12 +223,14 @@ QHash<QString, QString> recordTexts(const QDomElement &root)
     return records.texts();
 }
 
-QString elementMark(const QDomElement &element, const QHash<QString, QString> &records)
+QString elementMark(const QDomElement &element, const QHash<QString, RecordText> &records)
 {
-    const QDomElement behind = element.previousSiblingElement();
-    const QByteArray text =
-        ((isFillBehind(behind) ? wholeText(behind, records) : QString()) + wholeText(element, records)).toUtf8();
-    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().left(20));
+    return markOf(element, records, Present);
+}
+
+bool hasMark(const QDomElement &element, const QString &mark, const QHash<QString, RecordText> &records)
+{
+    return markOf(element, records, mark.startsWith(markStart) ? Present : Former) == mark;
 }
 
 } // namespace lessonhost

@@ -33,7 +33,7 @@ public:
     //! A part of the document, which is a layer of a page. Throws LessonError.
     XmlPart part(int index) const;
     //! What records say of each element, if the package has files beside those of the format.
-    const QHash<QString, QString> &recordTexts() const { return m_records.texts(); }
+    const QHash<QString, RecordText> &recordTexts() const { return m_records.texts(); }
     QString displayName() const;
 
     //! Files but the content, and the pictures of the document itself, as paths in the package.

@@ -55,6 +55,8 @@ public:
     Slide read(IwbPage page, int number, const SlideLosses &losses);
     //! The same with all items by themselves.
     Slide readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids);
+    //! The properties of the slide alone.
+    QJsonObject readBackground(IwbPage page) { return readProperties(page, {}); }
     //! Puts the items of groups into items that are groups, which nothing stands between.
     static void putIntoGroups(Slide &slide, int number, UniqueIds &ids, const SlideLosses &losses);
 

@@ -63,7 +63,7 @@ QHash<QString, QDomElement> elementsOf(const QDomElement &page)
 }
 
 QJsonObject partOf(const IwbPageWriter::WrittenItem &written, bool isWhole, const QHash<QString, QDomElement> &elements,
-                   const QHash<QString, QString> &records)
+                   const QHash<QString, RecordText> &records)
 {
     QJsonObject part;
     if (!written.id.isEmpty()) {
@@ -99,7 +99,7 @@ bool isReadAs(const QByteArray &text, const QJsonObject &written)
 
 } // namespace
 
-QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, QString> &records)
+QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, RecordText> &records)
 {
     QStringList marks;
     for (const QDomElement &element : elements) {
@@ -116,7 +116,7 @@ NativePartWriter::NativePartWriter(PackageTarget &target)
 bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items,
                                  const QDomElement &page)
 {
-    const QHash<QString, QString> records = recordTexts(page.ownerDocument().documentElement());
+    const QHash<QString, RecordText> records = recordTexts(page.ownerDocument().documentElement());
     const QHash<QString, QDomElement> elements = elementsOf(page);
     QJsonArray entries;
     QStringList itemIds;

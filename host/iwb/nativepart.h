@@ -2,6 +2,7 @@
 #ifndef NATIVEPART_H
 #define NATIVEPART_H
 
+#include "iwb/elementmark.h"
 #include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
 
@@ -108,7 +109,7 @@ private:
 };
 
 //! One mark for all elements of a page's background.
-QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, QString> &records);
+QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, RecordText> &records);
 
 } // namespace lessonhost
 

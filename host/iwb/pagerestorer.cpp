@@ -82,10 +82,23 @@ QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &pres
     return isThere ? result : QJsonObject();
 }
 
+// Whether a plain group holds elements of items or of the background, or what belongs to them. What others have put
+// into one may be a stroke.
+bool holdsOneOf(const QDomElement &group, const QSet<QString> &ids)
+{
+    const auto isOwn = [&ids](const QDomElement &child) {
+        const QString id = idOf(itemElement(child));
+        const QLatin1String fill(lineFill);
+        return ids.contains(id) || isCover(child) || (id.endsWith(fill) && ids.contains(id.chopped(fill.size())));
+    };
+    const QVector<QDomElement> children = childrenThroughGroups(group, [](const QDomElement &) { return true; });
+    return std::any_of(children.cbegin(), children.cend(), isOwn);
+}
+
 } // namespace
 
-PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records,
-                           bool isUntouched)
+PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader,
+                           const QHash<QString, RecordText> &records, bool isUntouched)
     : m_content(content)
     , m_reader(reader)
     , m_records(records)
@@ -99,7 +112,7 @@ LessonSlide PageRestorer::restore(int index, const NativePage &native, const Sli
     m_layers = m_content.layers(index);
     lookAtPage();
     LessonSlide slide;
-    slide.properties = properties(index + 1);
+    slide.properties = properties();
     placeEntries();
     placeOthers(index + 1, losses);
     slide.items = grouped(index + 1, losses);
@@ -109,9 +122,20 @@ LessonSlide PageRestorer::restore(int index, const NativePage &native, const Sli
 
 void PageRestorer::lookAtPage()
 {
+    QSet<QString> known;
+    for (const QString &id : m_native->backgroundIds) {
+        known.insert(id);
+    }
+    for (const NativePage::Entry &entry : m_native->entries) {
+        for (const NativePage::Part &part : entry.parts) {
+            known.insert(part.id);
+        }
+    }
+    known.remove(QString());
+    const auto holdsKnown = [&known](const QDomElement &group) { return holdsOneOf(group, known); };
     for (const XmlPart &layer : qAsConst(m_layers)) {
-        for (QDomElement child = layer.element.firstChildElement(); !child.isNull();
-             child = child.nextSiblingElement()) {
+        const QVector<QDomElement> children = childrenThroughGroups(layer.element, holdsKnown);
+        for (const QDomElement &child : children) {
             if (isFillBehind(child) || isCover(child)) {
                 continue;
             }
@@ -126,46 +150,59 @@ void PageRestorer::lookAtPage()
 
 bool PageRestorer::isMarked(int child, const QString &mark) const
 {
-    return m_isUntouched || elementMark(m_children.at(child), m_records) == mark;
+    return m_isUntouched || hasMark(m_children.at(child), mark, m_records);
 }
 
-bool PageRestorer::isBackgroundIntact(const QString &id, const QString &mark) const
+int PageRestorer::intactBackground(int number) const
 {
-    const QVector<int> children = m_byId.value(id);
-    return !children.isEmpty() && isMarked(children.first(), mark);
+    const int child = m_byId.value(m_native->backgroundIds.at(number)).value(0, -1);
+    const QString mark = m_native->backgroundMark.section(QLatin1Char(' '), number, number);
+    return child >= 0 && isMarked(child, mark) ? child : -1;
 }
 
 // Where the colour or the picture is another one, the page tells it.
-QJsonObject PageRestorer::properties(int number)
+QJsonObject PageRestorer::properties()
 {
-    const QStringList marks = m_native->backgroundMark.split(QLatin1Char(' '));
-    bool isColorOther = false;
-    bool isPictureOther = false;
+    QVector<int> own{-1, -1}; // rectangle, picture
+    bool isAsWritten = true;
     for (int i = 0; i < m_native->backgroundIds.size(); ++i) {
         const QString &id = m_native->backgroundIds.at(i);
         if (id.endsWith(QLatin1String(slideGame))) {
             m_taken.insert(m_byId.value(id).value(0, -1));
-        } else if (isBackgroundIntact(id, marks.value(i))) {
-            m_taken.insert(m_byId.value(id).first());
         } else {
-            (i == 0 ? isColorOther : isPictureOther) = true;
+            const int child = intactBackground(i);
+            own[i == 0 ? 0 : 1] = child;
+            isAsWritten = isAsWritten && child >= 0;
         }
     }
+    const bool hasPicture =
+        m_native->backgroundIds.size() > 1 && !m_native->backgroundIds.at(1).endsWith(QLatin1String(slideGame));
     const QHash<QString, IwbRecord> &records = m_content.outline().rules().records;
     for (int i = 0; i < m_children.size(); ++i) {
-        const QDomElement &child = m_children.at(i);
-        const auto record = records.constFind(idOf(child));
-        if (!m_taken.contains(i) && record != records.constEnd() && record->isBackground) {
-            (svgName(child) == QLatin1String("rect") ? isColorOther : isPictureOther) = true;
-        }
+        const auto record = records.constFind(idOf(m_children.at(i)));
+        isAsWritten = isAsWritten && (own.contains(i) || record == records.constEnd() || !record->isBackground);
     }
     QJsonObject properties = m_native->slide;
-    m_hasOtherBackground = isColorOther || isPictureOther;
-    if (!m_hasOtherBackground) {
+    if (isAsWritten) {
+        for (const int child : qAsConst(own)) {
+            m_taken.insert(child);
+        }
         return properties;
     }
-    // The whole page, since another element may be the background now.
-    const QJsonObject shown = m_reader.read(m_content.page(m_layers), number, {}).slide.properties;
+    // The whole page, since another element may be the background now. What isn't, though a record says so, is an item.
+    const IwbPage page = m_content.page(m_layers);
+    int color = -1;
+    int picture = -1;
+    m_backgrounds = page.backgrounds;
+    for (const QDomElement &element : qAsConst(m_backgrounds)) {
+        const int child = m_children.indexOf(element);
+        (svgName(element) == QLatin1String("rect") ? color : picture) = child;
+        m_taken.insert(child);
+    }
+    const bool isColorOther = color != own.at(0) || color < 0;
+    const bool isPictureOther = picture != own.at(1) || (picture < 0 && hasPicture);
+    m_hasOtherBackground = isColorOther || isPictureOther;
+    const QJsonObject shown = m_reader.readBackground(page);
     const auto takeOver = [&properties, &shown](const auto &keys) {
         for (const QLatin1String key : keys) {
             properties.remove(key);
@@ -320,8 +357,8 @@ void PageRestorer::placeOthers(int number, const SlideLosses &losses)
 
 void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &losses, UniqueIds &ids)
 {
-    const IwbSlideReader::Slide found =
-        m_reader.readLoose(m_content.page(m_layers, m_children.mid(begin, end - begin)), number, losses, ids);
+    const IwbSlideReader::Slide found = m_reader.readLoose(
+        m_content.page(m_layers, m_children.mid(begin, end - begin), m_backgrounds), number, losses, ids);
     for (int i = 0; i < found.slide.items.size(); ++i) {
         Placed placed{begin, found.slide.items.at(i).toObject(), found.groups.at(i), {}, false, false};
         const int lost = m_lostIds.value(found.elementIds.at(i), -1);

@@ -16,7 +16,7 @@ class PageRestorer
 {
 public:
     //! All of them have to live as long. isUntouched: the document is known to be the one that was written.
-    PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, QString> &records,
+    PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, RecordText> &records,
                  bool isUntouched);
 
     //! ID is that of the slide as it was. index: of the page, from 0.
@@ -54,9 +54,9 @@ private:
     };
 
     void lookAtPage();
-    QJsonObject properties(int number);
+    QJsonObject properties();
     bool isMarked(int child, const QString &mark) const;
-    bool isBackgroundIntact(const QString &id, const QString &mark) const;
+    int intactBackground(int number) const;
     QVector<Found> findParts(const NativePage::Entry &entry);
     bool isOneGroup(const NativePage::Entry &entry, const QVector<Found> &found) const;
     void placeEntries();
@@ -72,7 +72,7 @@ private:
 
     const SvgNormalizer &m_content;
     IwbSlideReader &m_reader;
-    const QHash<QString, QString> &m_records;
+    const QHash<QString, RecordText> &m_records;
     const bool m_isUntouched;
 
     const NativePage *m_native = nullptr;
@@ -80,6 +80,7 @@ private:
     QVector<QDomElement> m_children; // of these
     QHash<QString, QVector<int>> m_byId; // the children that stand for an identifier
     QHash<int, int> m_groupSizes; // of the document's groups on this page
+    QVector<QDomElement> m_backgrounds; // of the page, where it isn't as it was
     QSet<int> m_taken; // children that need not be read
     QVector<Placed> m_placed;
     QVector<Lost> m_lost;

@@ -82,6 +82,7 @@ struct IwbPage
     QString backgroundReference; //!< the background picture as the file has it, or empty
     bool isBackgroundRepeated = false; //!< beside and below itself, from the page's upper left corner on
     QSizeF backgroundTile; //!< of one repetition; empty for the picture's own size
+    QVector<QDomElement> backgrounds; //!< of the document, that were taken as colour and picture
     QVector<IwbElement> items;
     QVector<SvgRemark> remarks;
 };

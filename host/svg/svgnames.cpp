@@ -50,6 +50,25 @@ bool isOf(const QDomElement &element, const Vocabulary &vocabulary)
     return uri.contains(vocabulary.namespacePart);
 }
 
+QDomElement neighbor(QDomElement element, bool isBehind)
+{
+    const auto sibling = [isBehind](const QDomElement &at) {
+        return isBehind ? at.nextSiblingElement() : at.previousSiblingElement();
+    };
+    while (true) {
+        QDomElement next = sibling(element);
+        while (isPlainGroup(next)) {
+            const QDomElement inner = isBehind ? next.firstChildElement() : next.lastChildElement();
+            next = inner.isNull() ? sibling(next) : inner;
+        }
+        const QDomElement parent = element.parentNode().toElement();
+        if (!next.isNull() || !isPlainGroup(parent)) {
+            return next;
+        }
+        element = parent;
+    }
+}
+
 } // namespace
 
 QString svgName(const QDomElement &element)
@@ -71,6 +90,54 @@ bool isIwbRecord(const QDomElement &element)
 {
     return isOneOf(iwbRecordNames, localNameOf(element.tagName())) && !iwbName(element).isEmpty()
         && svgName(element).isEmpty();
+}
+
+bool isPlainGroup(const QDomElement &element)
+{
+    if (localNameOf(element.tagName()) != QLatin1String("g") || svgName(element).isEmpty()) {
+        return false;
+    }
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        if (!attributes.item(i).nodeName().startsWith(QLatin1String("xmlns"))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QDomElement elementBehind(const QDomElement &element)
+{
+    return neighbor(element, true);
+}
+
+QDomElement elementBefore(const QDomElement &element)
+{
+    return neighbor(element, false);
+}
+
+// Without a call for each level.
+QVector<QDomElement> childrenThroughGroups(const QDomElement &holder,
+                                           const std::function<bool(const QDomElement &)> &opens)
+{
+    QVector<QDomElement> children;
+    QDomElement parent = holder;
+    QDomElement child = holder.firstChildElement();
+    while (true) {
+        if (child.isNull()) {
+            if (parent == holder) {
+                return children;
+            }
+            child = parent.nextSiblingElement();
+            parent = parent.parentNode().toElement();
+        } else if (isPlainGroup(child) && opens(child)) {
+            parent = child;
+            child = child.firstChildElement();
+        } else {
+            children.append(child);
+            child = child.nextSiblingElement();
+        }
+    }
 }
 
 QString linkTarget(const QDomElement &element)

@@ -4,6 +4,9 @@
 
 #include <QDomElement>
 #include <QString>
+#include <QVector>
+
+#include <functional>
 
 namespace lessonhost {
 
@@ -21,6 +24,17 @@ constexpr const char *iwbRecordNames[] = {"element", "group", "tspan", "link"};
 
 //! True for such a record, wherever it stands; svg has elements of the same names.
 bool isIwbRecord(const QDomElement &element);
+
+//! A "g" of svg without attributes, which changes nothing about what it holds.
+bool isPlainGroup(const QDomElement &element);
+
+//! The element beside another on its page, as if what plain groups hold stood there by itself; null for none.
+QDomElement elementBehind(const QDomElement &element);
+QDomElement elementBefore(const QDomElement &element);
+
+//! The children of an element; in the place of a plain group that is opened, what it holds. opens: asked about each.
+QVector<QDomElement> childrenThroughGroups(const QDomElement &holder,
+                                           const std::function<bool(const QDomElement &group)> &opens);
 
 //! The target of an element's "href", whatever prefix it has.
 QString linkTarget(const QDomElement &element);

@@ -61,9 +61,10 @@ IwbPage SvgNormalizer::page(const QVector<XmlPart> &layers) const
     return SvgPageBuilder(m_outline.rules()).build(layers);
 }
 
-IwbPage SvgNormalizer::page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children) const
+IwbPage SvgNormalizer::page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children,
+                            const QVector<QDomElement> &backgrounds) const
 {
-    return SvgPageBuilder(m_outline.rules()).build(layers.first().element, children);
+    return SvgPageBuilder(m_outline.rules()).build(layers.first().element, children, backgrounds);
 }
 
 } // namespace lessonhost

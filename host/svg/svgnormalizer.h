@@ -30,8 +30,9 @@ public:
     QVector<XmlPart> layers(int index) const;
     IwbPage page(int index) const { return page(layers(index)); }
     IwbPage page(const QVector<XmlPart> &layers) const;
-    //! The page with some of its children alone.
-    IwbPage page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children) const;
+    //! The page with some of its children alone. backgrounds: which of its elements are no items, but its background.
+    IwbPage page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children,
+                 const QVector<QDomElement> &backgrounds) const;
 
 private:
     IwbOutline m_ownOutline; // of a document that is there whole

@@ -109,7 +109,7 @@ bool hasCover(QDomElement element, const QString &id)
         element = element.parentNode().toElement();
     }
     return !id.isEmpty()
-        && element.nextSiblingElement().attribute(QStringLiteral("id")) == QString(id + QLatin1String(coverBefore));
+        && elementBehind(element).attribute(QStringLiteral("id")) == QString(id + QLatin1String(coverBefore));
 }
 
 bool isArrow(const QString &text)
@@ -169,9 +169,12 @@ IwbPage SvgPageBuilder::build(const QVector<XmlPart> &layers)
     return m_result;
 }
 
-IwbPage SvgPageBuilder::build(const QDomElement &page, const QVector<QDomElement> &chosen)
+IwbPage SvgPageBuilder::build(const QDomElement &page, const QVector<QDomElement> &chosen,
+                              const QVector<QDomElement> &backgrounds)
 {
     const Place place = placeOn(page);
+    m_isPart = true;
+    m_otherBackgrounds = backgrounds;
     for (const QDomElement &child : chosen) {
         convert(child, place);
     }
@@ -511,7 +514,7 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
     if (m_rules.isIwb && !hasOwnFill(element)) {
         inner.style.set(QStringLiteral("fill"), QStringLiteral("none"));
     }
-    const QDomElement area = element.previousSiblingElement();
+    const QDomElement area = elementBefore(element);
     if (isFillOf(element, area)) {
         for (const char *name : {"fill", "fill-opacity"}) {
             inner.style.set(QLatin1String(name), area.attribute(QLatin1String(name)));
@@ -522,7 +525,7 @@ void SvgPageBuilder::polyline(const QDomElement &element, const Place &place)
 
 void SvgPageBuilder::polygon(const QDomElement &element, const Place &place)
 {
-    if (isFillOf(element.nextSiblingElement(), element)) {
+    if (isFillOf(elementBehind(element), element)) {
         return;
     }
     // What it covers says so; that of a group was told when it was written.
@@ -717,8 +720,12 @@ bool SvgPageBuilder::takeBackground(const QDomElement &element, const QString &n
 {
     const QString id = element.attribute(QStringLiteral("id"));
     const IwbRecord record = recordOf(element);
+    if (m_isPart) {
+        return m_otherBackgrounds.contains(element);
+    }
     if (name == QLatin1String("rect") && record.isBackground && !m_hasBackground) {
         m_hasBackground = true;
+        m_result.backgrounds.append(element);
         m_background = svgPaint(style, m_rules.isNative, remarkAbout(element)).fill;
         m_backgroundStem = id.endsWith(QLatin1String("_rect")) ? id.chopped(5) : QString();
         return true;
@@ -730,6 +737,7 @@ bool SvgPageBuilder::takeBackground(const QDomElement &element, const QString &n
             return false;
         }
         m_result.backgroundReference = linkTarget(element);
+        m_result.backgrounds.append(element);
         return true;
     }
     return false;
@@ -819,7 +827,8 @@ IwbElement &SvgPageBuilder::addItem(const QDomElement &source, const Place &plac
     };
     const IwbRecord record = recordOf(source);
     item.isLocked = isSet(QStringLiteral("lockin"), m_rules.records.value(item.id).isLocked);
-    if (tag == QLatin1String("svg:image") && record.isBackground) {
+    // A page has one background; nobody drags what another program meant as one.
+    if ((tag == QLatin1String("svg:image") || tag == QLatin1String("svg:rect")) && record.isBackground) {
         item.isLocked = true;
     }
     item.isEndless = isSet(QStringLiteral("infiniteclone"), record.isEndless);

@@ -21,8 +21,9 @@ public:
 
     //! layers: the page elements that lie over each other, from back to front.
     IwbPage build(const QVector<XmlPart> &layers);
-    //! chosen: some of the page's children, which are all that is looked at.
-    IwbPage build(const QDomElement &page, const QVector<QDomElement> &chosen);
+    //! chosen: some of the page's children, which are all that is looked at. backgrounds: those elements of the page
+    //! that are its background, and no items.
+    IwbPage build(const QDomElement &page, const QVector<QDomElement> &chosen, const QVector<QDomElement> &backgrounds);
 
     //! True for svg elements that show something, converted or not.
     static bool isDrawn(const QString &svgName);
@@ -87,6 +88,8 @@ private:
     QColor m_background;
     QString m_backgroundStem;
     bool m_hasBackground = false;
+    bool m_isPart = false; // of the page, the rest of which was looked at before
+    QVector<QDomElement> m_otherBackgrounds; // what was found to be the background then
 };
 
 } // namespace lessonhost
