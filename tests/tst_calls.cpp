@@ -64,7 +64,22 @@ private slots:
         row("no format", "$L convert g.zqtx -", 2, "", "--to json");
         row("no result", "$L render g.zqtx", 2, "", "needs a name for the result");
         row("no lesson", "$L info", 2, "", "info needs a lesson");
-        row("too many", "$L info a b", 2, "", "info takes no more files than 1");
+        row("too many", "$L info a b", 2, "", "info takes a single file");
+        row("none to take", "$L formats a", 2, "", "formats takes no files");
+        row("no reports", "$L report", 2, "", "report needs the reports");
+        row("an empty name", "$L convert g.json \"$NOTHING\"", 2, "", "A name in this call is empty");
+        row("an empty name of a report", "$L convert g.json x.json --report ''", 2, "", "A name in this call is empty");
+        row("no use of it", "$L convert g.json x.json --plain", 2, "", "--plain changes nothing about json. Leave it");
+        row("nor for many", "$L convert . --to zqtx --out-dir x --ink drop", 2, "", "it is for iwb");
+        row("many on a stream", "cat g.json | timeout 20 $L check - --out-dir x", 2, "", "\"-\" is neither");
+        row("a stream for many", "$L convert . --to json --out-dir -", 2, "", "\"-\" is neither");
+        row("a stream's device", "$L convert g.zqtx /dev/stdout --to json >>o2.json; cmp o2.json g.json", 0, "", "");
+        row("a report on a stream", "$L convert g.json x.json --report -", 2, "", "Standard output takes no report");
+        row("a pipe to write", "$L convert g.json >(cat) --to zqtx", 2, "", "There is a device or a pipe of this name");
+        row("two to compare", "$L render --diff - <(cat g.json) - < g.zqtx", 0, "class=\"pair\"", "");
+        row("called by what it is", "$L check - --no-check < g.zqtx", 0, "standard input is whole", "");
+        row("an archive of others", "cmake -E tar cf others.zip --format=zip g.json; $L info others.zip", 2, "",
+            "others.zip: This archive is no lesson");
         row("no such word", "$L transmute a b", 2, "", "There is no command \"transmute\"");
         row("an option of others", "$L info g.zqtx --ink drop", 2, "", "info makes no use of --ink");
         row("a list for programs", "$L formats --json", 0, "\"extensions\"", "");

@@ -80,7 +80,7 @@ private slots:
         const Table<QByteArray, QString, QString> row("language", "call", "said");
         row("no lesson, German", "de", "info nothing.zqtx",
             "nothing.zqtx: Diese Datei oder diesen Ordner gibt es nicht. Prüfen Sie den Pfad.");
-        row("no lesson, Chinese", "zh_CN", "info nothing.zqtx", "nothing.zqtx：没有该文件或文件夹。 请检查路径。");
+        row("no lesson, Chinese", "zh_CN", "info nothing.zqtx", "nothing.zqtx：没有该文件或文件夹。请检查路径。");
         row("no lesson, English", "fr", "info nothing.zqtx",
             "nothing.zqtx: There is no such file or folder. Check the path.");
         row("why the system refuses", "de", "convert many/good.xml /proc/none/x.json",
@@ -93,6 +93,7 @@ private slots:
         row("option", "zh_CN", "info --nothing x", "未知选项“nothing”。");
         row("help", "de", "--help", "Aufruf: ");
         row("help about options", "de", "--help", "Diesen Text ausgeben.");
+        row("between letters and signs", "zh_CN", "render many/good.xml x.bmp --to bmp", "svg、png、jpeg 或 webp");
         row("columns", "zh_CN", "info many/good.xml", "页面大小        ");
     }
     void sentences()

@@ -146,6 +146,9 @@ private:
 // The guard knows of the report from then on.
 void checkReport(const QString &report, InputGuard &inputs, const QStringList &outputs)
 {
+    if (StandardStreams::isStandardOutput(report)) {
+        throw LessonError(say("Standard output takes no report"), say("Give the report a name, or say --json"));
+    }
     inputs.check(report);
     inputs.addReport(report);
     for (const QString &output : outputs) {
@@ -292,6 +295,7 @@ int Command::run()
         tellWhatIsMissing();
     }
     checkOptions(*found);
+    m_line.checkNames();
     try {
         const int code = (this->*found->run)(given.mid(1));
         m_streams->send();
@@ -317,10 +321,15 @@ void Command::tellWhatIsMissing() const
                           say("Say %1; lessonconv --help tells more").arg(wordList()));
     }
     const QString call = QStringLiteral("lessonconv %1 %2").arg(given, QLatin1String(fitting->arguments)).trimmed();
-    const Sentence problem = files > fitting->mostFiles ? say("%1 takes no more files than %2")
-        : files == 0                                    ? say("%1 needs a lesson")
-                                                        : say("%1 needs a name for the result as well");
-    throw LessonError(files > fitting->mostFiles ? problem.arg(given, fitting->mostFiles) : problem.arg(given),
+    const bool isTooMuch = files > fitting->mostFiles;
+    const Sentence problem = isTooMuch && fitting->mostFiles == 0 ? say("%1 takes no files")
+        : isTooMuch && fitting->mostFiles == 1                    ? say("%1 takes a single file")
+        : isTooMuch                                               ? say("%1 takes no more files than %2")
+        : files > 0                                               ? say("%1 needs a name for the result as well")
+        : fitting->run == &Command::mergeMany                     ? say("%1 needs the reports of runs over many lessons")
+                                                                  : say("%1 needs a lesson");
+    const bool hasNumber = isTooMuch && fitting->mostFiles > 1;
+    throw LessonError(hasNumber ? problem.arg(given, fitting->mostFiles) : problem.arg(given),
                       say("The call is: %1").arg(call));
 }
 
@@ -373,6 +382,9 @@ const PictureForm &Command::pictureForm(const QString &output) const
 {
     if (isSet("to")) {
         return pictureFormByName(value("to"));
+    }
+    if (isSet("diff") && StandardStreams::isStandardOutput(output)) {
+        return pictureFormByName(QStringLiteral("html"));
     }
     checkIsTold(output);
     return pictureFormOfOutput(output);
@@ -503,7 +515,7 @@ int Command::check(const QStringList &files) const
     if (isSet("json")) {
         printJson(result);
     } else if (!isSet("quiet") || !check.isWhole()) {
-        print(onLines(check.words(input)));
+        print(onLines(check.words(m_streams->shownName(input))));
     }
     return check.isWhole() && !(isSet("strict") && check.lossCount() > 0) ? Done : DoneWithLosses;
 }
@@ -572,6 +584,7 @@ int Command::convertOne(const QStringList &files) const
     const QString &output = files.last();
     const LessonFormat &from = inputFormat(input);
     const LessonFormat &to = outputFormat(output);
+    checkUseOf(m_line.givenFormatOptions(), to);
     tellName(input, from);
     checkOutput(output);
     InputGuard inputs;
@@ -634,6 +647,7 @@ int Command::convertMany(const QStringList &inputs) const
     }
     const LessonFormat &to = lessonFormatByName(value("to"));
     checkCanWrite(to, value(manyOption));
+    checkUseOf(m_line.givenFormatOptions(), to);
     const PluginHost host(value("plugin"));
     return runMany(inputs, to.extensions.first(), batchSettings(host, BatchWork::conversion));
 }
@@ -651,6 +665,7 @@ int Command::renderMany(const QStringList &inputs) const
 
 int Command::runMany(const QStringList &inputs, const QString &extension, const BatchSettings &settings) const
 {
+    StandardStreams::refuse(inputs + QStringList{settings.outputFolder});
     const LessonFormat *from = isSet("from") ? &lessonFormatByName(value("from")) : nullptr;
     const BatchPlan plan = planBatch(inputs, from, extension, settings.outputFolder, m_line.shard());
     if (isSet("report")) {
@@ -707,17 +722,19 @@ int Command::exitCodeOf(const BatchTotals &totals) const
 int Command::mergeMany(const QStringList &reports) const
 {
     InputGuard inputs;
+    QStringList files;
     for (const QString &report : reports) {
         inputs.add(report);
+        files.append(inputFile(report));
     }
     if (isSet("report")) {
-        inputs.check(value("report"));
+        checkReport(value("report"), inputs, {});
         checkOutput(value("report"));
     }
     ReportFile report(isSet("report") ? value("report") : QString());
     QStringList failures;
     const BatchTotals totals = mergeReports(
-        reports,
+        files,
         [this, &report](const QByteArray &piece) {
             report.put(piece);
             if (isSet("json")) {
@@ -808,13 +825,16 @@ int Command::renderDifference(const QStringList &files) const
     ProgressBar bar(!isSet("quiet"));
     checkOutput(files.last());
     const auto first = inputFormat(files.first()).open(inputFile(files.first()), context);
-    const auto second = lessonFormatOfInput(files.at(1)).open(files.at(1), context);
+    const auto second = lessonFormatOfInput(inputFile(files.at(1))).open(inputFile(files.at(1)), context);
+    const QString output = m_streams->output(files.last(), settings.form->extensions.first());
     const Rendered rendered =
-        lessonhost::renderDifference(*first, files.first(), *second, files.at(1), context, files.last(), settings,
+        lessonhost::renderDifference(*first, files.first(), *second, files.at(1), context, output, settings,
                                      [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     tellNotes(rendered.notes);
-    tellRendered(rendered.report);
+    if (!StandardStreams::isStandardOutput(files.last())) {
+        tellRendered(rendered.report);
+    }
     return Done;
 }
 
@@ -849,7 +869,8 @@ RenderSettings Command::renderSettings(const PictureForm &form, const QStringLis
     });
     settings.isKept = isSet("no-clobber");
     for (const QString &input : inputs) {
-        const LessonFormat &format = input == inputs.first() ? inputFormat(input) : lessonFormatOfInput(input);
+        const LessonFormat &format =
+            input == inputs.first() ? inputFormat(input) : lessonFormatOfInput(inputFile(input));
         settings.inputs.addLesson(input, format.folderBeside);
     }
     return settings;
@@ -877,12 +898,10 @@ void Command::tellRendered(const QJsonObject &report) const
     if (isSet("json")) {
         printJson(report);
     } else if (!isSet("quiet")) {
-        Sentence text = say("Slides drawn: %1.").arg(report.value(QLatin1String("slides")).toInt());
+        const int slides = report.value(QLatin1String("slides")).toInt();
         const int named = report.value(QLatin1String("named")).toArray().size();
-        if (named > 0) {
-            text = say("%1 %2").arg(text, say("Items shown by their name: %1.").arg(named));
-        }
-        print(text);
+        print(named > 0 ? say("Slides drawn: %1. Items shown by their name: %2.").arg(slides, named)
+                        : say("Slides drawn: %1.").arg(slides));
     }
 }
 

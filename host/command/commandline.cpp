@@ -3,6 +3,7 @@
 
 #include "files/language.h"
 #include "files/lessonerror.h"
+#include "lesson/isoneof.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -17,6 +18,9 @@ namespace {
 constexpr int mostJobs = 256;
 constexpr int mostShards = 100000;
 constexpr int mostSeconds = 24 * 60 * 60;
+
+// What the values of options are called that name something on the disk.
+const char *const valuesThatAreNames[] = {"file", "folder"};
 
 // What the parser says itself.
 constexpr const char *parserContext = "QCommandLineParser";
@@ -120,7 +124,7 @@ CommandLine::CommandLine(const QStringList &arguments, const Sentence &usage, co
     m_parser.addPositionalArgument(QStringLiteral("command"), wordList.local());
     m_parser.addPositionalArgument(QStringLiteral("files"), say("the lessons").local(), QStringLiteral("[files...]"));
     m_parser.addOption(QCommandLineOption({QStringLiteral("v"), QStringLiteral("version")},
-                                          say("Displays version information.").local()));
+                                          say("Print the versions of the command and of the plug-in.").local()));
     m_parser.addOption(
         QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}, say("Print this text.").local()));
     for (const CommandOption &option : commandOptions()) {
@@ -157,6 +161,31 @@ QString CommandLine::help() const
     const QString text = m_parser.helpText();
     QCoreApplication::removeTranslator(&translator);
     return text;
+}
+
+void CommandLine::checkNames() const
+{
+    const QStringList given = words();
+    bool isEmpty = std::any_of(given.cbegin(), given.cend(), [](const QString &name) { return name.isEmpty(); });
+    for (const CommandOption &option : commandOptions()) {
+        const bool isName = isOneOf(valuesThatAreNames, QLatin1String(option.value));
+        isEmpty |= isName && isSet(option.name) && value(option.name).isEmpty();
+    }
+    if (isEmpty) {
+        throw LessonError(say("A name in this call is empty"),
+                          say("Check what was to stand in its place, such as a variable of the shell"));
+    }
+}
+
+QStringList CommandLine::givenFormatOptions() const
+{
+    QStringList names;
+    for (const CommandOption &option : commandOptions()) {
+        if (option.effect == CommandOption::OnAFormat && isSet(option.name)) {
+            names.append(QLatin1String(option.name));
+        }
+    }
+    return names;
 }
 
 int CommandLine::jobs() const

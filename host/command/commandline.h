@@ -63,6 +63,11 @@ public:
     bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
     QString value(const char *name) const { return m_parser.value(QLatin1String(name)); }
 
+    //! Throws where a name of a file or folder is empty, as that of a variable of the shell which isn't set.
+    void checkNames() const;
+    //! The options for single formats that the call gives, by name.
+    QStringList givenFormatOptions() const;
+
     //! How many lessons at the same time. Throws.
     int jobs() const;
     //! How long each of many lessons may take; 0 for as long as it does. Throws.

@@ -5,6 +5,7 @@
 #include "files/inputfile.h"
 #include "files/outputfile.h"
 #include "files/ziparchive.h"
+#include "lesson/isoneof.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +23,7 @@ namespace {
 constexpr int chunkSize = 256 * 1024;
 const QLatin1String standardName("-");
 const QLatin1String shownOutput("Standard output");
+const char *const outputDevices[] = {"/dev/stdout", "/dev/fd/1", "/proc/self/fd/1"};
 
 // What a shell has opened for the command. A pipe that lies in a folder isn't: nobody may ever write into it.
 bool isHandedOver(const QString &name)
@@ -93,28 +95,28 @@ QString StandardStreams::fileFor(const QString &name)
 
 QString StandardStreams::input(const QString &name)
 {
-    if (!m_input.isEmpty() && name == m_inputArgument) {
-        return m_input;
-    }
     if (!isHandedOver(name) || (name != standardName && QFileInfo(name).isFile())) {
         return name;
     }
-    if (m_failure) {
-        throw LessonError(*m_failure); // what it has taken won't come again
+    Input &input = m_inputs[name];
+    if (input.failure) {
+        throw LessonError(*input.failure); // what it has taken won't come again
     }
-    try {
-        take(name);
-    } catch (const LessonError &error) {
-        m_failure = error;
-        throw;
+    if (input.file.isEmpty()) {
+        try {
+            take(name, input);
+        } catch (const LessonError &error) {
+            input.failure = error;
+            throw;
+        }
     }
-    return m_input;
+    return input.file;
 }
 
-void StandardStreams::take(const QString &name)
+void StandardStreams::take(const QString &name, Input &input)
 {
     const Source source(name);
-    const QString path = fileFor(QStringLiteral("input"));
+    const QString path = fileFor(QStringLiteral("input%1").arg(m_inputs.size()));
     OutputFile file(path, source.name(), OutputFile::Temporary);
     for (QByteArray chunk = source.next(); !chunk.isEmpty(); chunk = source.next()) {
         file.put(chunk);
@@ -127,14 +129,30 @@ void StandardStreams::take(const QString &name)
     if (file.size() == 0) {
         throw LessonError(say("Nothing came"), say("Check what is sent there")).in(source.name());
     }
-    m_inputArgument = name;
-    m_inputName = source.name();
-    m_input = path;
+    input.shownName = source.name();
+    input.file = path;
 }
 
 bool StandardStreams::isStandardOutput(const QString &name)
 {
-    return name == standardName;
+    return name == standardName || isOneOf(outputDevices, name);
+}
+
+// Workers are told names, and have streams of their own.
+void StandardStreams::refuse(const QStringList &names)
+{
+    for (const QString &name : names) {
+        if (isHandedOver(name) || isStandardOutput(name)) {
+            throw LessonError(say("Many lessons come from files and go into a folder, and \"%1\" is neither").arg(name),
+                              say("Convert what is sent there by a call of its own, without --out-dir"));
+        }
+    }
+}
+
+QString StandardStreams::shownName(const QString &name) const
+{
+    const QString shown = m_inputs.value(name).shownName;
+    return shown.isEmpty() ? name : shown;
 }
 
 QString StandardStreams::output(const QString &name, const QString &extension)
@@ -162,12 +180,12 @@ void StandardStreams::send()
 LessonError StandardStreams::named(const LessonError &error) const
 {
     const auto shown = [this](QString text) {
-        for (const auto &[path, name] : {qMakePair(m_input, m_inputName), qMakePair(m_output, QString(shownOutput))}) {
-            if (!path.isEmpty()) {
-                text.replace(path, name);
+        for (const Input &input : m_inputs) {
+            if (!input.file.isEmpty()) {
+                text.replace(input.file, input.shownName);
             }
         }
-        return text;
+        return m_output.isEmpty() ? text : text.replace(m_output, shownOutput);
     };
     const Sentence problem(shown(error.problem().english()), shown(error.problem().local()));
     return LessonError(problem, error.remedy()).in(shown(error.file()), error.line());

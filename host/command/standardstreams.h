@@ -5,6 +5,9 @@
 #include "files/lessonerror.h"
 #include "files/workfolder.h"
 
+#include <QMap>
+#include <QStringList>
+
 #include <memory>
 #include <optional>
 
@@ -27,20 +30,31 @@ public:
     //! Sends what was written to standard output, if an output goes there. Throws.
     void send();
 
+    //! True for what stands for it, by whatever name.
     static bool isStandardOutput(const QString &name);
+
+    //! Throws for a name that isn't one of a file or folder, where many lessons are read or written.
+    static void refuse(const QStringList &names);
+
+    //! What an input is called where people are told of it.
+    QString shownName(const QString &name) const;
 
     //! The same failure about the name that the user gave.
     LessonError named(const LessonError &error) const;
 
 private:
+    struct Input
+    {
+        QString shownName;
+        QString file;
+        std::optional<LessonError> failure; // of what came
+    };
+
     QString fileFor(const QString &name);
-    void take(const QString &name);
+    void take(const QString &name, Input &input);
 
     std::unique_ptr<WorkFolder> m_work;
-    QString m_input;
-    QString m_inputName;
-    QString m_inputArgument;
-    std::optional<LessonError> m_failure; // of what came
+    QMap<QString, Input> m_inputs; // by the names in the call
     QString m_output;
 };
 

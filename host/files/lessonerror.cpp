@@ -97,7 +97,7 @@ Sentence LessonError::message() const
     }
     text = closed(text);
     if (!m_remedy.isEmpty()) {
-        text = say("%1 %2").arg(text, say("%1.").arg(m_remedy));
+        text = say("%1 %2.").arg(text, m_remedy);
     }
     return {onOneLine(text.english()), onOneLine(text.local())};
 }

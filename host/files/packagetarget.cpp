@@ -97,6 +97,12 @@ LessonError systemError(const QString &file)
     return writeError(file, errno);
 }
 
+LessonError deviceError(const QString &file)
+{
+    return LessonError(say("There is a device or a pipe of this name"), say("Give another name, or remove it"))
+        .in(file);
+}
+
 bool renameOver(const QString &from, const QString &to)
 {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
@@ -260,6 +266,7 @@ PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isR
     , m_kind(kind)
     , m_isReplaceable(std::move(isReplaceable))
 {
+    checkKind();
     const QFileInfo info(QDir::cleanPath(target));
     m_target = info.exists() && info.isSymLink() ? info.canonicalFilePath() : info.absoluteFilePath();
     const QFileInfo parent(QFileInfo(m_target).path());
@@ -275,6 +282,16 @@ PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isR
     }
     sweepOnce(parent.filePath());
     makeStaging(parent.filePath());
+}
+
+// What a shell hands over for an output is a pipe in no folder.
+void PackageTarget::checkKind() const
+{
+    struct stat there = {};
+    const bool isThere = ::stat(QFile::encodeName(m_shownTarget).constData(), &there) == 0;
+    if (isThere && !S_ISREG(there.st_mode) && !S_ISDIR(there.st_mode)) {
+        throw deviceError(m_shownTarget);
+    }
 }
 
 void PackageTarget::makeStaging(const QString &parent)
@@ -428,10 +445,10 @@ void PackageTarget::checkPlace(const QString &path, const QString &shownName) co
     if (::stat(QFile::encodeName(path).constData(), &there) != 0 || S_ISREG(there.st_mode)) {
         return;
     }
-    throw LessonError(S_ISDIR(there.st_mode) ? say("There is a folder of this name already")
-                                             : say("There is a device or a pipe of this name"),
-                      say("Give another name, or remove it"))
-        .in(shownName);
+    throw S_ISDIR(there.st_mode)
+        ? LessonError(say("There is a folder of this name already"), say("Give another name, or remove it"))
+              .in(shownName)
+        : deviceError(shownName);
 }
 
 void PackageTarget::checkDirectory() const

@@ -82,6 +82,7 @@ private:
     QString shownPlace(const QString &relativePath) const;
     void checkPlace(const QString &path, const QString &shownName) const;
     void checkDirectory() const;
+    void checkKind() const;
     void keepPermissions(const QString &file, const QString &place) const;
     void waitForDisk() const;
     void commitFile();

@@ -16,13 +16,31 @@ Sentences sentencesOf(const QStringList &texts)
     return sentences;
 }
 
+bool isEastAsian(QChar sign)
+{
+    return sign.unicode() >= 0x2e80;
+}
+
+// Chinese, which has no blanks between words, has one between its signs and letters or digits.
+QString joined(const QString &first, const QString &last, const QString &pattern)
+{
+    const QString word = QString(pattern).remove(QLatin1String("%1")).remove(QLatin1String("%2"));
+    const bool isSpaced = !word.isEmpty() && isEastAsian(word.at(0));
+    const QLatin1String blank(" ");
+    const QLatin1String none("");
+    return pattern.arg(first + (isSpaced && !first.isEmpty() && !isEastAsian(first.back()) ? blank : none),
+                       (isSpaced && !last.isEmpty() && !isEastAsian(last.front()) ? blank : none) + last);
+}
+
 // last: how the last one follows what is before it.
 Sentence joined(const Sentences &sentences, const Sentence &last)
 {
     if (sentences.size() < 2) {
         return listed(sentences);
     }
-    return last.arg(listed(sentences.mid(0, sentences.size() - 1)), sentences.last());
+    const Sentence first = listed(sentences.mid(0, sentences.size() - 1));
+    return {last.english().arg(first.english(), sentences.last().english()),
+            joined(first.local(), sentences.last().local(), last.local())};
 }
 
 } // namespace

@@ -26,6 +26,7 @@ LessonFormat iwbFormat()
     format.holds = holdsIwb;
     format.measuresText = true;
     format.takesPictures = true;
+    format.options = QStringList{QStringLiteral("ink"), QStringLiteral("plain"), QStringLiteral("items")};
     format.open = [](const QString &path, const LessonContext &context) -> std::unique_ptr<LessonReader> {
         return std::make_unique<IwbReader>(path, context);
     };

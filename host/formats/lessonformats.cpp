@@ -43,6 +43,15 @@ const LessonFormat *formatByExtension(const QString &path)
     return found == formats.cend() ? nullptr : &*found;
 }
 
+// Null for what no format holds.
+const LessonFormat *formatOfContent(const LessonContent &content)
+{
+    const auto &formats = lessonFormats();
+    const auto found = std::find_if(formats.cbegin(), formats.cend(),
+                                    [&content](const LessonFormat &format) { return format.holds(content); });
+    return found == formats.cend() ? nullptr : &*found;
+}
+
 [[noreturn]] void failWithoutFormat(const QString &path, const QString &option, const QStringList &names)
 {
     throw LessonError(say("The format can't be told from the name"),
@@ -75,13 +84,17 @@ const LessonFormat &lessonFormatOfInput(const QString &path)
             return format;
         }
     }
-    if (!isFolder) {
-        if (const LessonFormat *format = lessonFormatByContent(path)) {
-            return *format;
-        }
+    const LessonContent content = isFolder ? LessonContent() : lessonContent(path);
+    if (const LessonFormat *format = formatOfContent(content)) {
+        return *format;
     }
     if (const LessonFormat *format = formatByExtension(path)) {
         return *format;
+    }
+    if (!content.names.isEmpty()) {
+        throw LessonError(say("This archive is no lesson: it has neither index.xml nor content.xml"),
+                          say("Unpack it if lessons are in it, and convert those"))
+            .in(path);
     }
     if (isFolder) {
         throw LessonError(say("This folder is no lesson: it has neither index.xml nor content.xml"),
@@ -94,15 +107,11 @@ const LessonFormat &lessonFormatOfInput(const QString &path)
 const LessonFormat *lessonFormatByContent(const QString &file, bool *isKnown)
 {
     const LessonContent content = lessonContent(file);
-    for (const LessonFormat &format : lessonFormats()) {
-        if (format.holds(content)) {
-            return &format;
-        }
-    }
-    if (isKnown) {
+    const LessonFormat *format = formatOfContent(content);
+    if (!format && isKnown) {
         *isKnown = content.isKnown();
     }
-    return nullptr;
+    return format;
 }
 
 Sentence remarkOnName(const QString &path, const LessonFormat &format)
@@ -111,6 +120,23 @@ Sentence remarkOnName(const QString &path, const LessonFormat &format)
     return !named || named->name == format.name
         ? Sentence()
         : say("%1 is called like a lesson in the format %2 and is one in %3").arg(path, named->name, format.name);
+}
+
+void checkUseOf(const QStringList &options, const LessonFormat &format)
+{
+    for (const QString &option : options) {
+        if (format.options.contains(option)) {
+            continue;
+        }
+        QStringList takers;
+        for (const LessonFormat &other : lessonFormats()) {
+            if (other.options.contains(option)) {
+                takers.append(other.name);
+            }
+        }
+        throw LessonError(say("%1 changes nothing about %2").arg(QString(QLatin1String("--") + option), format.name),
+                          say("Leave it out; it is for %1").arg(listedWithAnd(takers)));
+    }
 }
 
 const LessonFormat &lessonFormatOfOutput(const QString &path)

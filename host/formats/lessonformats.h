@@ -30,6 +30,7 @@ struct LessonFormat
     bool takesPictures = false; //!< of items that it has no form for
     bool isCommonEnding = false; //!< files with such a name often are no lessons
     bool measuresText = false; //!< to read or write it takes a QGuiApplication, for its fonts
+    QStringList options; //!< of the command that are for it, by name
     QString folderBeside; //!< the name of a folder beside a file that belongs to it; may be empty
     std::function<std::unique_ptr<LessonReader>(const QString &path, const LessonContext &context)> open;
     //! Empty where the format is only read.
@@ -57,6 +58,9 @@ Sentence remarkOnName(const QString &path, const LessonFormat &format);
 
 //! The format to write, by the extension; a path without one is a ZQTX directory.
 const LessonFormat &lessonFormatOfOutput(const QString &path);
+
+//! Throws LessonError for the first of the options, by name, of which the format makes no use.
+void checkUseOf(const QStringList &options, const LessonFormat &format);
 
 // The rows of lessonFormats(), one function each in the file of its format.
 LessonFormat jsonFormat();

@@ -423,10 +423,6 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>Items shown by their name: %1.</source>
-        <translation>Nur mit ihrem Namen gezeigte Elemente: %1.</translation>
-    </message>
-    <message>
         <source>The format of the input, where its name doesn&apos;t tell.</source>
         <translation>Das Format der Eingabe, wo ihr Name es nicht sagt.</translation>
     </message>
@@ -533,10 +529,6 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
     <message>
         <source>the lessons</source>
         <translation>die Lektionen</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Versionsangaben anzeigen.</translation>
     </message>
     <message>
         <source>Print this text.</source>
@@ -6462,6 +6454,62 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
     <message>
         <source>it is a larger drawing than can be read</source>
         <translation>ist eine Zeichnung, die zu groß zum Lesen ist</translation>
+    </message>
+    <message>
+        <source>Standard output takes no report</source>
+        <translation>Die Standardausgabe nimmt keinen Bericht</translation>
+    </message>
+    <message>
+        <source>Give the report a name, or say --json</source>
+        <translation>Geben Sie dem Bericht einen Namen, oder sagen Sie --json</translation>
+    </message>
+    <message>
+        <source>%1 takes no files</source>
+        <translation>%1 nimmt keine Dateien</translation>
+    </message>
+    <message>
+        <source>%1 takes a single file</source>
+        <translation>%1 nimmt nur eine Datei</translation>
+    </message>
+    <message>
+        <source>%1 needs the reports of runs over many lessons</source>
+        <translation>%1 braucht die Berichte von Läufen über viele Lektionen</translation>
+    </message>
+    <message>
+        <source>Slides drawn: %1. Items shown by their name: %2.</source>
+        <translation>Gezeichnete Folien: %1. Nur mit ihrem Namen gezeigte Elemente: %2.</translation>
+    </message>
+    <message>
+        <source>Print the versions of the command and of the plug-in.</source>
+        <translation>Die Versionen des Befehls und des Plug-ins ausgeben.</translation>
+    </message>
+    <message>
+        <source>A name in this call is empty</source>
+        <translation>Ein Name in diesem Aufruf ist leer</translation>
+    </message>
+    <message>
+        <source>Check what was to stand in its place, such as a variable of the shell</source>
+        <translation>Prüfen Sie, was dort stehen sollte, etwa eine Variable der Shell</translation>
+    </message>
+    <message>
+        <source>Many lessons come from files and go into a folder, and &quot;%1&quot; is neither</source>
+        <translation>Viele Lektionen kommen aus Dateien und gehen in einen Ordner, und „%1“ ist keins von beiden</translation>
+    </message>
+    <message>
+        <source>Convert what is sent there by a call of its own, without --out-dir</source>
+        <translation>Konvertieren Sie, was dorthin geschickt wird, mit einem eigenen Aufruf ohne --out-dir</translation>
+    </message>
+    <message>
+        <source>%1 %2.</source>
+        <translation>%1 %2.</translation>
+    </message>
+    <message>
+        <source>This archive is no lesson: it has neither index.xml nor content.xml</source>
+        <translation>Dieses Archiv ist keine Lektion: Es hat weder index.xml noch content.xml</translation>
+    </message>
+    <message>
+        <source>Unpack it if lessons are in it, and convert those</source>
+        <translation>Entpacken Sie es, wenn Lektionen darin sind, und konvertieren Sie diese</translation>
     </message>
 </context>
 </TS>

@@ -410,10 +410,6 @@ or something is wrong that check looks for, 2 not done.</source>
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>Items shown by their name: %1.</source>
-        <translation>仅以名称显示的对象：%1。</translation>
-    </message>
-    <message>
         <source>The format of the input, where its name doesn&apos;t tell.</source>
         <translation>输入的格式，用于文件名无法说明的情况。</translation>
     </message>
@@ -520,10 +516,6 @@ or something is wrong that check looks for, 2 not done.</source>
     <message>
         <source>the lessons</source>
         <translation>课件</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>显示版本信息。</translation>
     </message>
     <message>
         <source>Print this text.</source>
@@ -6146,6 +6138,62 @@ or something is wrong that check looks for, 2 not done.</source>
     <message>
         <source>it is a larger drawing than can be read</source>
         <translation>是过大而无法读取的 svg 图形</translation>
+    </message>
+    <message>
+        <source>Standard output takes no report</source>
+        <translation>标准输出不接受报告</translation>
+    </message>
+    <message>
+        <source>Give the report a name, or say --json</source>
+        <translation>请给报告一个文件名，或使用 --json</translation>
+    </message>
+    <message>
+        <source>%1 takes no files</source>
+        <translation>%1 不接受文件</translation>
+    </message>
+    <message>
+        <source>%1 takes a single file</source>
+        <translation>%1 只接受一个文件</translation>
+    </message>
+    <message>
+        <source>%1 needs the reports of runs over many lessons</source>
+        <translation>%1 需要批量运行的报告</translation>
+    </message>
+    <message>
+        <source>Slides drawn: %1. Items shown by their name: %2.</source>
+        <translation>已绘制幻灯片：%1。以名称显示的对象：%2。</translation>
+    </message>
+    <message>
+        <source>Print the versions of the command and of the plug-in.</source>
+        <translation>显示命令和插件的版本。</translation>
+    </message>
+    <message>
+        <source>A name in this call is empty</source>
+        <translation>命令中有一个名称为空</translation>
+    </message>
+    <message>
+        <source>Check what was to stand in its place, such as a variable of the shell</source>
+        <translation>请检查该处应有的内容，例如 shell 变量</translation>
+    </message>
+    <message>
+        <source>Many lessons come from files and go into a folder, and &quot;%1&quot; is neither</source>
+        <translation>多个课件须来自文件并写入文件夹，而“%1”两者都不是</translation>
+    </message>
+    <message>
+        <source>Convert what is sent there by a call of its own, without --out-dir</source>
+        <translation>请用单独的、不带 --out-dir 的命令转换传入的内容</translation>
+    </message>
+    <message>
+        <source>%1 %2.</source>
+        <translation>%1%2。</translation>
+    </message>
+    <message>
+        <source>This archive is no lesson: it has neither index.xml nor content.xml</source>
+        <translation>该压缩包不是课件：其中既没有 index.xml 也没有 content.xml</translation>
+    </message>
+    <message>
+        <source>Unpack it if lessons are in it, and convert those</source>
+        <translation>如果其中有课件，请先解压再转换</translation>
     </message>
 </context>
 </TS>
