@@ -181,8 +181,7 @@ private:
             const QString errors = QString(outcome.errors).remove(QRegularExpression("lessonconv: QStandardPaths.*\n"));
             return isAllNew && errors.isEmpty() ? QString() : "not done, and says it is"_s;
         }
-        // A picture that is read isn't kept from complaining aloud; the reason is told all the same.
-        if (kind != Reading && outcome.errors.contains("libpng")) {
+        if (outcome.errors.count("\n") != outcome.errors.count("lessonconv: ")) {
             return "a library tells it, too";
         }
         return outcome.exitCode == 2 && outcome.errors.contains(reason) ? QString() : "the reason isn't told"_s;
@@ -268,7 +267,7 @@ private slots:
         QImage picture(20, 20, QImage::Format_RGB32);
         picture.fill(Qt::red);
         QVERIFY(QDir().mkpath(path("in/new/images")) && QDir().mkpath(path("in/new/slides")));
-        QVERIFY(picture.save(path("in/new/images/a.png")));
+        QVERIFY(picture.save(path("in/new/images/a.png")) && picture.save(path("in/new/images/b.tif")));
         putFile(path("in/new/index.xml"),
                 "<main version=\"3.0\" width=\"800\" height=\"600\"><slides><file href=\"slides/1.xml\"/>"
                 "<file href=\"slides/2.xml\"/></slides></main>");
@@ -276,9 +275,8 @@ private slots:
             putFile(path("in/new/slides/"_s + id + ".xml"),
                     QByteArray("<slide id=\"") + id
                         + "\"><background><picture document=\"images/a.png\"/></background><items><media id=\"7\" "
-                          "type=\"image\"><data><rect points=\"10,10,50,50\" controlpoints=\"10,10,50,50\"/>"
-                          "</data><property><item name=\"resource\" value=\"images/a.png\"/></property></media>"
-                          "</items></slide>");
+                          "type=\"image\" resource=\"images/b.tif\" visible=\"1\"><data><rect points=\"10,10,50,50\" "
+                          "controlpoints=\"10,10,50,50\"/></data></media></items></slide>");
         }
         putFile(path("in/old.json"),
                 R"({"Width": "400", "Height": "300", "Slides": [{"ID": "old", "color": "255,9,9,9"}, {"ID": "b"}]})");

@@ -36,6 +36,9 @@ constexpr int largestSideOfDrawing = 4096;
 constexpr qint64 mostBytesBeside = 65536;
 constexpr qint64 mostBytesOfPixel = 8;
 
+// A file of more bytes is no picture that could be unpacked.
+constexpr qint64 largestPicture = PixelBudget::all * mostBytesOfPixel;
+
 // Of photographs that are written anew.
 constexpr int jpegQuality = 92;
 
@@ -68,6 +71,14 @@ void checkDevice(const QIODevice *device)
     if (const auto *file = dynamic_cast<const InputFile *>(device)) {
         file->check();
     }
+}
+
+std::unique_ptr<QIODevice> inMemory(const QByteArray &content)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(content);
+    buffer->open(QIODevice::ReadOnly);
+    return buffer;
 }
 
 // The text of a drawing that is packed, up to a size.
@@ -195,13 +206,10 @@ Picture::Picture(const QString &file)
 }
 
 Picture::Picture(const QByteArray &content, const QString &folder, int depth)
-    : m_folder(folder)
+    : m_device(inMemory(content))
+    , m_folder(folder)
     , m_depth(depth)
 {
-    auto buffer = std::make_unique<QBuffer>();
-    buffer->setData(content);
-    buffer->open(QIODevice::ReadOnly);
-    m_device = std::move(buffer);
     look();
 }
 
@@ -228,7 +236,13 @@ void Picture::findProblem()
         m_problem = say("it is no picture that can be read");
         return;
     }
+    if (m_device->size() > largestPicture) {
+        m_problem = say("it is a larger picture than can be read");
+        return;
+    }
     m_format = format;
+    // Libraries that unpack pictures complain aloud about a file that can't be read to its end.
+    m_device = inMemory(content());
     if (format == "png" && !isWholePng(*m_device)) {
         m_problem = say("it is a damaged picture");
         return;
@@ -272,9 +286,7 @@ QSize Picture::size() const
         }
     }
     m_device->seek(0);
-    const QSize size = QImageReader(m_device.get(), m_format).size();
-    checkDevice(m_device.get());
-    return size;
+    return QImageReader(m_device.get(), m_format).size();
 }
 
 QImage Picture::image(qint64 most) const
@@ -312,7 +324,6 @@ QImage Picture::image(qint64 most, PixelBudget &budget) const
         return {};
     }
     const QImage image = reader.read();
-    checkDevice(m_device.get());
     return pixelsOf(image.size()) > most
         ? image.scaled(sizeOf(image.size(), most), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
         : image;

@@ -93,7 +93,7 @@ private:
     friend QString embeddedPicture(const QString &address, PixelBudget &budget);
     friend QSize embeddedSize(const QString &address);
 
-    std::unique_ptr<QIODevice> m_device;
+    std::unique_ptr<QIODevice> m_device; // of pictures of pixels, the memory
     QString m_folder;
     int m_depth = 0; // drawings that it stands in
     QByteArray m_format;

@@ -6511,5 +6511,9 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <source>Unpack it if lessons are in it, and convert those</source>
         <translation>Entpacken Sie es, wenn Lektionen darin sind, und konvertieren Sie diese</translation>
     </message>
+    <message>
+        <source>it is a larger picture than can be read</source>
+        <translation>ist ein Bild, das zu groß zum Lesen ist</translation>
+    </message>
 </context>
 </TS>

@@ -6195,5 +6195,9 @@ or something is wrong that check looks for, 2 not done.</source>
         <source>Unpack it if lessons are in it, and convert those</source>
         <translation>如果其中有课件，请先解压再转换</translation>
     </message>
+    <message>
+        <source>it is a larger picture than can be read</source>
+        <translation>是过大而无法读取的图片</translation>
+    </message>
 </context>
 </TS>
