@@ -117,8 +117,8 @@ class TestIwbEdits : public QObject
         context.plugin = plugin();
         context.losses = &losses;
         context.verify = false;
-        context.makePainter = [&context](LessonReader &reader) {
-            return std::make_unique<SlideItemPainter>(reader, context.plugin);
+        context.makePainter = [&context](LessonReader &reader, bool isTrial) {
+            return std::make_unique<SlideItemPainter>(reader, context.plugin, isTrial);
         };
         QDir(path(to)).removeRecursively();
         QFile::remove(path(to));

@@ -566,8 +566,8 @@ LessonContext Command::conversionContext(const PluginHost &host, LossReport *los
     context.readsAhead = hasIdleCores();
     context.options = m_line.formatOptions();
     if (value("items") != QLatin1String("drop")) {
-        context.makePainter = [plugin = context.plugin](LessonReader &reader) {
-            return std::make_unique<SlideItemPainter>(reader, plugin);
+        context.makePainter = [plugin = context.plugin](LessonReader &reader, bool isTrial) {
+            return std::make_unique<SlideItemPainter>(reader, plugin, isTrial);
         };
     }
     return context;

@@ -158,7 +158,7 @@ private:
             const ItemView item(object);
             const LossOwner owner(item.type(), item.id());
             ++m_check.items;
-            if (object.contains(HostKeys::keptXml) || m_items.isHeld(item.type())) {
+            if (object.contains(HostKeys::keptXml) || isUnknown(item.type())) {
                 add(LessonCheck::Finding::Item, owner, {}, {}, {});
                 continue;
             }
@@ -173,6 +173,15 @@ private:
             }
             lookAtItems(item.children());
         }
+    }
+
+    bool isUnknown(const QString &type)
+    {
+        auto known = m_unknownTypes.constFind(type);
+        if (known == m_unknownTypes.constEnd()) {
+            known = m_unknownTypes.insert(type, m_items.isHeld(type));
+        }
+        return *known;
     }
 
     // pictureKey: whose file has to be a picture; may be empty.
@@ -229,6 +238,7 @@ private:
     int m_slideCount;
     QSet<QString> m_resources;
     QHash<QString, Sentence> m_pictureProblems; // by file
+    QHash<QString, bool> m_unknownTypes;
 };
 
 /*!
@@ -245,7 +255,7 @@ public:
         writing.losses = &told.losses;
         writing.isTrial = true;
         if (context.makePainter && format.takesPictures) {
-            m_painter = context.makePainter(reader);
+            m_painter = context.makePainter(reader, writing.isTrial);
             writing.painter = m_painter.get();
         }
         attempt([&] {

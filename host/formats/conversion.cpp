@@ -50,7 +50,7 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
     LessonContext writing = context;
     std::unique_ptr<ItemPainter> painter;
     if (context.makePainter && to.takesPictures) {
-        painter = context.makePainter(*reader);
+        painter = context.makePainter(*reader, context.isTrial);
         writing.painter = painter.get();
     }
     const auto writer = to.create(output, writing);

@@ -477,7 +477,7 @@ QDomElement IwbPageWriter::pictureOf(const PlacedItem &item, const QString &id, 
         return {};
     }
     if (!frame.isEmpty()) {
-        picture->image = inFrame(*picture, frame);
+        picture->image = picture->image.isNull() ? QImage() : inFrame(*picture, frame);
         picture->box = frame;
     }
     return addPicture(*picture, item.item, id, fileTitle(view.type()));

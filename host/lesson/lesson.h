@@ -83,7 +83,7 @@ public:
  */
 struct PaintedItem
 {
-    QImage image; //!< with nothing where the item isn't
+    QImage image; //!< with nothing where the item isn't; null where nobody needs its pixels
     QRectF box; //!< where it stands on the page, upright
     QStringList words; //!< of each text in it
     QStringList families; //!< the fonts that these ask for first
@@ -128,8 +128,9 @@ struct LessonContext
     bool readsAhead = false; //!< a second thread may read what will be asked for
     bool isTrial = false; //!< nothing is to be written: it is only asked what would be lost
     QHash<QString, QString> options; //!< of single formats, by the name of the command's option
-    //! Makes a painter for the lesson of a reader; may be empty.
-    std::function<std::unique_ptr<ItemPainter>(LessonReader &reader)> makePainter;
+    //! Makes a painter for the lesson of a reader; may be empty. isTrial: its pictures need no pixels, and their boxes
+    //! say nothing.
+    std::function<std::unique_ptr<ItemPainter>(LessonReader &reader, bool isTrial)> makePainter;
     ItemPainter *painter = nullptr; //!< of the lesson that is written; null where there is none
 };
 

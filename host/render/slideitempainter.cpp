@@ -7,6 +7,7 @@
 #include "render/drawntexts.h"
 #include "render/plainsvg.h"
 #include "render/slidepictures.h"
+#include "render/surelyseen.h"
 
 #include <QPainter>
 
@@ -66,9 +67,10 @@ QRect aligned(const QRect &rect, int step)
 
 } // namespace
 
-SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plugin)
+SlideItemPainter::SlideItemPainter(LessonReader &reader, IZQTransformation *plugin, bool isTrial)
     : m_reader(reader)
     , m_plugin(plugin)
+    , m_isTrial(isTrial)
     , m_printer(m_store)
     , m_pages(paintedSetting(plugin, &m_media))
 {
@@ -132,6 +134,9 @@ SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &dr
     drawn.size = page;
     drawn.svg = plain.finished();
     m_media.storeNew([](const QString &, const IwbMedia::File &) {});
+    if (!drawn.svg.documentElement().hasChildNodes()) {
+        return {};
+    }
 
     const auto paintedArea = [&](const QRectF &area, double scale) {
         const QSizeF size = area.size() * scale;
@@ -147,6 +152,12 @@ SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &dr
     };
     const QSizeF half = page / 2;
     const QRectF around = QRectF(QPointF(), page).adjusted(-half.width(), -half.height(), half.width(), half.height());
+    const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
+    // The pixels of larger pages are bounded, so that not all of them can be seen.
+    if (m_isTrial && 2 * sharpness * qMax(page.width(), page.height()) <= largestPicture
+        && isSurelySeen(drawn.svg.documentElement(), around)) {
+        return PaintedItem{{}, around, texts.words, texts.families};
+    }
     const QRect found = paintedRect(paintedArea(around, overview));
     if (found.isEmpty()) {
         return {};
@@ -160,7 +171,6 @@ SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &dr
     if (exact.isEmpty()) {
         return {};
     }
-    const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
     return PaintedItem{image.copy(exact),
                        QRectF(area.topLeft() + QPointF(exact.topLeft()) / sharpness, QSizeF(exact.size()) / sharpness),
                        texts.words, texts.families};

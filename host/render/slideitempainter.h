@@ -21,8 +21,9 @@ class PlainSvg;
 class SlideItemPainter : public ItemPainter
 {
 public:
-    //! reader: of the lesson; it has to live as long. Throws LessonError.
-    SlideItemPainter(LessonReader &reader, IZQTransformation *plugin);
+    //! reader: of the lesson; it has to live as long. isTrial: it is only asked whether items show something, and what
+    //! is written on them. Throws LessonError.
+    SlideItemPainter(LessonReader &reader, IZQTransformation *plugin, bool isTrial = false);
 
     std::optional<PaintedItem> paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
                                      const QSizeF &page) override;
@@ -35,6 +36,7 @@ private:
 
     LessonReader &m_reader;
     IZQTransformation *m_plugin;
+    bool m_isTrial;
     IwbMedia m_media;
     PictureStore m_store;
     PagePrinter m_printer;
