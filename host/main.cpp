@@ -62,6 +62,9 @@ std::unique_ptr<QCoreApplication> applicationFor(const Command &command, int &ar
     // It draws without a display, whatever the desktop's programs are told to take.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_QPA_PLATFORMTHEME");
+    if (!command.drawsForPeople()) {
+        qputenv("FC_LANG", "en"); // or fontconfig would choose by the locale what goes into lessons
+    }
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // points are as large as in browsers
     return std::make_unique<QGuiApplication>(argc, argv);
 }

@@ -386,7 +386,7 @@ private slots:
                  QStringList({"in.json", "out"}));
     }
 
-    // What an item has in its box of 100 x 60 comes back otherwise, and nothing else.
+    // What an item has in its box of 100 x 60 comes back otherwise, and nothing else; with = what nobody sees of it.
     void tellsWhatComesBackOtherwise_data()
     {
         const Table<QString, QString> row("item", "lost");
@@ -395,7 +395,15 @@ private slots:
         row("a turned rectangle", "'Type':'ZQMath2DRectangle','Angle':'0.5','LockIn':' 1 ','Visible':'+1'", "");
         row("a width that is none", "'Type':'ZQMath2DEllipse','ArtObj_Width':'0'", "ArtObj_Width");
         row("a hexagon", "'Type':'ZQMath2DNormalHexagon','ArtObj_Ln':'6','LineColor':'1,2,3'",
-            "ArtObj_Ln LineColor Type");
+            "ArtObj_Ln= LineColor= Type");
+        row("a square that is filled and measured",
+            "'Type':'ZQMath2DNormalQuadrilateral','ArtObj_Fill':'1','ArtObj_Color':'9,1,2,3','ArtObj_DisplayCircle':'1'",
+            "ArtObj_Color= ArtObj_DisplayCircle ArtObj_Fill= Type");
+        row("a square without its fill",
+            "'Type':'ZQMath2DNormalQuadrilateral','ArtObj_Fill':'0','ArtObj_Color':'9,1,2,3','ArtObj_Ln':'5'",
+            "ArtObj_Color= ArtObj_Fill= ArtObj_Ln= Type");
+        row("a rectangle without its fill", "'Type':'ZQMath2DRectangle','ArtObj_Fill':'0','ArtObj_Color':'9,1,2,3'",
+            "ArtObj_Color=");
         row("an address without a scheme",
             "'Type':'ZQMath2DEllipse','InteractiveType':'ACTION_OPENWEB','InteractiveValue':'example.org'",
             "InteractiveValue");
@@ -428,7 +436,7 @@ private slots:
         QStringList keys;
         for (const Loss &loss : losses.entries()) {
             if (loss.kind != Loss::Note) {
-                keys.append(loss.key);
+                keys.append(loss.key + (loss.isShown ? "=" : ""));
             }
         }
         keys.sort();

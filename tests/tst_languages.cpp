@@ -161,6 +161,16 @@ private slots:
         QVERIFY(!written(language, {"render", "named.json", "named.html", "--quiet"}).first().contains("Slide 1\" lang"));
     }
 
+    // Those that the machine has for Chinese would come first.
+    void fontsOfPackagesAreTheSame()
+    {
+        for (const QByteArray locale : {"C.UTF-8", "zh_CN.UTF-8"}) {
+            const QStringList call{"convert", EXAMPLES_DIR "/subjects", locale, "--to", "iwb", "--no-check", "--quiet"};
+            QCOMPARE(spoken({}, call, [locale] { qputenv("LC_ALL", locale); }).exitCode, 0);
+        }
+        QVERIFY(contentOfTarget(path("C.UTF-8")) == contentOfTarget(path("zh_CN.UTF-8")));
+    }
+
     // Where decimals have a comma.
     void numbersHavePoints()
     {

@@ -147,7 +147,7 @@ private slots:
             "  1 group on slide 2: taken apart.");
         row("values of one item once, by their names",
             "value 1 ZQMath2DCircle c ArtObj_FillColor 1\nvalue 1 ZQMath2DCircle c @ArtObj_FillColor 1\n"
-            "value 2 ZQMath2DTriangle t FillColor 1\nvalue 1 ZQMath2DCircle c ID 7\nvalue 0 presentation ~ Title x\n"
+            "value 2 ZQMath2DTriangle t FillColor 1\nvalue 1 ZQMath2DCircle c ID 7\nvalue+ 1 ZQMath2DCircle c LineColor 1\nvalue 0 presentation ~ Title x\n"
             "value 1 slide s animations ~\nvalue 1 ZQFuture f Wings 2",
             "Shown in the result, but not the same:\n"
             "  Colour of the fill: 1 circle and 1 triangle on slides 1 to 2.\n  Title: the lesson.\n"

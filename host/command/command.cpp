@@ -239,6 +239,12 @@ bool Command::measuresText() const
     }
 }
 
+bool Command::drawsForPeople() const
+{
+    const Word *found = word();
+    return found && found->measuresText == &Command::always;
+}
+
 bool Command::infoMeasuresText(const QStringList &files) const
 {
     return inputFormat(files.first()).measuresText;

@@ -55,6 +55,9 @@ public:
     //! Whether it needs a QGuiApplication. False as well for what can't be done at all.
     bool measuresText() const;
 
+    //! Whether what it draws is for whoever calls it, and no part of a lesson.
+    bool drawsForPeople() const;
+
     //! The exit code. Throws LessonError.
     int run();
 

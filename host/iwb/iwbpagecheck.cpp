@@ -34,6 +34,20 @@ struct InkKey
 };
 constexpr InkKey inkKeys[] = {{"Color", "ArtObj_Color"}, {"Width", "ArtObj_Width"}};
 
+// Where a polyline has what the shape says that it comes of.
+struct ShapeKey
+{
+    const char *shape;
+    const char *polyline;
+};
+constexpr ShapeKey shapeColors[] = {
+    {"LineColor", "ArtObj_Color"}, {"ArtObj_Color1", "ArtObj_Color"}, {"ArtObj_Color", "ArtObj_FillColor"}};
+const QLatin1String fillKey("ArtObj_Fill");
+const QLatin1String fillOfShapeKey("ArtObj_Color");
+const QLatin1String fillColorKey("ArtObj_FillColor");
+const QLatin1String cornersKey("ArtObj_Ln");
+const QLatin1String measureKey("ArtObj_DisplayCircle");
+
 // What matrices were made with; it has done its part.
 constexpr const char *fittingKeys[] = {"SlideMatrix", "SlideSourceRect"};
 
@@ -68,6 +82,31 @@ bool isInvisible(const QJsonValue &color)
 {
     const auto whole = wholeColor(color);
     return whole && qAlpha(*whole) == 0;
+}
+
+// Whether a polyline in the place of a shape shows what a key of the shape says.
+bool polylineShows(const QString &key, const QJsonValue &value, const QJsonObject &shape, const QJsonObject &polyline)
+{
+    const QJsonValue fill = polyline.value(fillColorKey);
+    const bool isFilled = !isNothing(fill) && !isInvisible(fill);
+    const QString text = valueText(value);
+    if (key == fillKey) {
+        return isFlag(value) && (text == QLatin1String("1")) == isFilled;
+    }
+    if (key == measureKey) {
+        return isNothing(value) || text == QLatin1String("0");
+    }
+    if (key == cornersKey) {
+        const auto points = wholeNumbers(polyline.value(ItemKeys::polyline));
+        return points && text == QString::number(points->size() / 2 - 1); // the first comes once more
+    }
+    const bool isUnfilled = valueText(shape.value(fillKey)) == QLatin1String("0") && !isFilled;
+    return std::any_of(std::begin(shapeColors), std::end(shapeColors), [&](const ShapeKey &row) {
+        const QLatin1String place(row.polyline);
+        return key == QLatin1String(row.shape)
+            && (isSameValue(key, value, polyline.value(place), writtenDigits)
+                || (isUnfilled && place == fillColorKey));
+    });
 }
 
 bool haveSameRuns(const TextRuns &one, const TextRuns &other)
@@ -262,6 +301,12 @@ void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const 
     rules.tolerance = writtenDigits;
     rules.isSame = [&](const QString &key, const QJsonValue &value, const QJsonValue &back) {
         return isFileKey(key) ? isSameFile(given, value, back, losses) : isInvisible(value) && isInvisible(back);
+    };
+    const bool isPolylineNow = found.contains(ItemKeys::polyline) && !given.contains(ItemKeys::polyline)
+        && !given.contains(ItemKeys::steps);
+    const bool isEmpty = valueText(given.value(fillKey)) == QLatin1String("0") && isNothing(found.value(fillOfShapeKey));
+    rules.isUnseen = [&](const QString &key, const QJsonValue &value) {
+        return isPolylineNow ? polylineShows(key, value, given, found) : isEmpty && key == fillOfShapeKey;
     };
     Comparison(losses, rules).compareProperties(given, own, back);
     if (found.value(ItemKeys::linkType) == QLatin1String("ACTION_GOTOSLIDE")) {

@@ -206,7 +206,9 @@ void Comparison::compareProperties(const LossOwner &owner, const QJsonObject &gi
     }
     const auto all = differences.all();
     for (const Difference &difference : all) {
-        m_losses.value(owner, difference.key, difference.detail);
+        const QString &key = difference.key;
+        const bool isUnseen = m_rules.isUnseen && m_rules.isUnseen(key, given.value(key));
+        isUnseen ? m_losses.unseenValue(owner, key, difference.detail) : m_losses.value(owner, key, difference.detail);
     }
 }
 

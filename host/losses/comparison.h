@@ -24,6 +24,8 @@ public:
         double tolerance = 0; //!< how much numbers may differ, in parts of them
         //! True for values of an item's own keys that are the same for the format alone; may be empty.
         std::function<bool(const QString &key, const QJsonValue &given, const QJsonValue &found)> isSame;
+        //! True for values that are lost and without which the item looks the same; may be empty.
+        std::function<bool(const QString &key, const QJsonValue &given)> isUnseen;
     };
 
     explicit Comparison(const SlideLosses &losses);

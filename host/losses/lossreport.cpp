@@ -291,7 +291,7 @@ Loss::Group groupOf(const Loss &loss)
     switch (loss.kind) {
     case Loss::Value:
     case Loss::Otherwise:
-        return isInternalPlace(loss.key) ? Loss::Internal : Loss::Different;
+        return loss.isShown || isInternalPlace(loss.key) ? Loss::Internal : Loss::Different;
     case Loss::Item:
     case Loss::NotShown:
         return loss.isShown ? Loss::Different : Loss::Missing;

@@ -46,7 +46,7 @@ struct Loss
     QString itemId;
     QString key; //!< JSON key, XML attribute or file
     Sentence detail; //!< what it was, or why; may be empty
-    bool isShown = false; //!< of an item that isn't there: there is something in its place
+    bool isShown = false; //!< of an item that isn't there: there is something in its place; of a value: it looks the same
 };
 
 //! False for what is only named.

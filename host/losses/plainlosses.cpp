@@ -207,6 +207,9 @@ Sentence countedValues(const QVector<Loss> &losses)
 {
     QMap<QString, QPair<int, Sentence>> counts;
     for (const Loss &loss : losses) {
+        if (loss.isShown) {
+            continue; // which the kind of item stands for
+        }
         const Sentence name = plainPlaceName(loss.key);
         auto &row = counts[name.english()];
         ++row.first;
@@ -234,9 +237,11 @@ public:
         for (const bool elsewhere : {false, true}) {
             for (const auto group : {Loss::Missing, Loss::Different, Loss::Internal}) {
                 const QVector<Loss> losses = entries(group, elsewhere);
-                if (!losses.isEmpty()) {
-                    lines += group == Loss::Internal ? Sentences{internal(losses, elsewhere)}
-                                                     : section(losses, group, elsewhere);
+                const Sentence line = group == Loss::Internal ? internal(losses, elsewhere) : Sentence();
+                if (!line.isEmpty()) {
+                    lines.append(line);
+                } else if (group != Loss::Internal && !losses.isEmpty()) {
+                    lines += section(losses, group, elsewhere);
                 }
             }
         }
@@ -294,7 +299,8 @@ private:
 
     static Sentence internal(const QVector<Loss> &losses, bool elsewhere)
     {
-        return say("%1: %2.").arg(groupTitle(Loss::Internal, elsewhere), countedValues(losses));
+        const Sentence values = countedValues(losses);
+        return values.isEmpty() ? Sentence() : say("%1: %2.").arg(groupTitle(Loss::Internal, elsewhere), values);
     }
 
     Sentences told() const

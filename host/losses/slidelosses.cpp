@@ -34,6 +34,11 @@ void SlideLosses::value(const LossOwner &owner, const QString &key, const Senten
     add(m_isElsewhere ? Loss::Otherwise : Loss::Value, owner, key, detail);
 }
 
+void SlideLosses::unseenValue(const LossOwner &owner, const QString &key, const Sentence &detail) const
+{
+    add(m_isElsewhere ? Loss::Otherwise : Loss::Value, owner, key, detail, true);
+}
+
 void SlideLosses::item(const LossOwner &owner, const Sentence &why) const
 {
     add(m_isElsewhere ? Loss::NotShown : Loss::Item, owner, {}, why);

@@ -48,6 +48,8 @@ public:
 
     //! A value that did not survive.
     void value(const LossOwner &owner, const QString &key, const Sentence &detail = {}) const;
+    //! A value without which all looks as it did.
+    void unseenValue(const LossOwner &owner, const QString &key, const Sentence &detail) const;
     //! An item that isn't there.
     void item(const LossOwner &owner, const Sentence &why = {}) const;
     //! An item that became a picture.
