@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "command/command.h"
+#include "command/commandline.h"
+#include "command/commandwords.h"
 #include "command/completion.h"
 #include "pluginfixture.h"
 #include "testtable.h"
@@ -22,7 +23,7 @@ QStringList sorted(QStringList list)
 QStringList wordsOfTable()
 {
     QStringList words;
-    for (const lessonhost::Command::Word &word : lessonhost::Command::words()) {
+    for (const lessonhost::CommandWord &word : lessonhost::commandWords()) {
         if (word.purpose) {
             words.append(word.word);
         }

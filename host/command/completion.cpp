@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "command/completion.h"
 
-#include "command/command.h"
+#include "command/commandline.h"
+#include "command/commandwords.h"
 #include "files/lessonerror.h"
 #include "formats/lessonformats.h"
 #include "render/rendersettings.h"
@@ -10,29 +11,29 @@ namespace lessonhost {
 
 namespace {
 
-struct Word
+struct NamedWord
 {
     QString word;
     QString purpose;
 };
 
 // Each word of the command once, with the purpose of its first row.
-QVector<Word> wordsForPeople()
+QVector<NamedWord> wordsForPeople()
 {
-    QVector<Word> words;
-    for (const Command::Word &word : Command::words()) {
+    QVector<NamedWord> found;
+    for (const CommandWord &word : commandWords()) {
         const QString name = QLatin1String(word.word);
-        if (word.purpose && (words.isEmpty() || words.constLast().word != name)) {
-            words.append({name, QLatin1String(word.purpose)});
+        if (word.purpose && (found.isEmpty() || found.constLast().word != name)) {
+            found.append({name, QLatin1String(word.purpose)});
         }
     }
-    return words;
+    return found;
 }
 
 QString wordNames()
 {
     QStringList names;
-    for (const Word &word : wordsForPeople()) {
+    for (const NamedWord &word : wordsForPeople()) {
         names.append(word.word);
     }
     return names.join(QLatin1Char(' '));
@@ -91,7 +92,7 @@ QString bashScript()
         }
     }
     QString options;
-    for (const Word &word : wordsForPeople()) {
+    for (const NamedWord &word : wordsForPeople()) {
         QStringList names{QStringLiteral("--help"), QStringLiteral("--version")};
         for (const CommandOption &option : commandOptions()) {
             if (isFor(option, word.word)) {
@@ -139,7 +140,7 @@ QString zshScript()
 {
     QString words;
     QString cases;
-    for (const Word &word : wordsForPeople()) {
+    for (const NamedWord &word : wordsForPeople()) {
         words += QStringLiteral("        '%1:%2'\n").arg(word.word, zshText(word.purpose));
         cases += QStringLiteral("        %1) _arguments \\\n").arg(word.word);
         for (const CommandOption &option : commandOptions()) {
@@ -193,7 +194,7 @@ QString fishScript()
     QString text = QStringLiteral("# Completion of lessonconv for fish.\n"
                                   "complete -c lessonconv -l help -d 'Print how it is called.'\n"
                                   "complete -c lessonconv -l version -d 'Print the version.'\n");
-    for (const Word &word : wordsForPeople()) {
+    for (const NamedWord &word : wordsForPeople()) {
         text += QStringLiteral("complete -c lessonconv -n __fish_use_subcommand -f -a %1 -d '%2'\n")
                     .arg(word.word, fishText(word.purpose));
         for (const CommandOption &option : commandOptions()) {
