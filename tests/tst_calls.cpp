@@ -61,6 +61,8 @@ private slots:
         row("kept", "cp g.json k.json; $L convert g.zqtx k.json --no-clobber", 2, "", "k.json: There is a file or");
         row("many kept", "$L convert g.zqtx --to json --out-dir . --no-clobber", 2, "1 not converted", "is kept");
         row("a picture's name", "$L convert g.zqtx g.pdf", 2, "", "lessonconv render");
+        row("a picture's form", "$L convert . --to png --out-dir x", 2, "", ".png: This is the name of a picture");
+        row("a format that nothing is read in", "$L formats --from json", 2, "", "formats makes no use of --from");
         row("no format", "$L convert g.zqtx -", 2, "", "--to json");
         row("no result", "$L render g.zqtx", 2, "", "needs a name for the result");
         row("no lesson", "$L info", 2, "", "info needs a lesson");

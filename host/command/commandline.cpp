@@ -48,7 +48,8 @@ const std::vector<CommandOption> &commandOptions()
 {
     using Option = CommandOption;
     static const std::vector<Option> options{
-        {"from", "format", Option::OnResults, "", TO_SAY("The format of the input, where its name doesn't tell.")},
+        {"from", "format", Option::OnResults, "convert render show info check",
+         TO_SAY("The format of the input, where its name doesn't tell.")},
         {"to", "format", Option::OnResults, "convert render: render:out-dir check",
          TO_SAY("The format of the output, where its name doesn't tell; with check, the only one to try.")},
         {"out-dir", "folder", Option::OnTheRun, "convert:out-dir render:out-dir check:out-dir",
@@ -97,9 +98,11 @@ const std::vector<CommandOption> &commandOptions()
         {"diff", nullptr, Option::OnTheRun, "render:diff",
          TO_SAY("With render: two lessons side by side, with the values that the second lacks.")},
         {"json", nullptr, Option::OnTheRun, "", TO_SAY("Print JSON, also for a failure.")},
-        {"quiet", nullptr, Option::OnTheRun, "", TO_SAY("No progress bar, no list of losses, no summary.")},
+        {"quiet", nullptr, Option::OnTheRun, "convert render report show info check",
+         TO_SAY("No progress bar, no list of losses, no summary.")},
         {"verbose", nullptr, Option::OnTheRun, "", TO_SAY("Print what the libraries log.")},
-        {"plugin", "file", Option::OnTheRun, "", TO_SAY("The plug-in's file, where it is in an unusual place.")},
+        {"plugin", "file", Option::OnTheRun, "convert render show info check",
+         TO_SAY("The plug-in's file, where it is in an unusual place.")},
     };
     return options;
 }

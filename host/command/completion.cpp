@@ -45,22 +45,23 @@ bool takes(const CommandOption &option, const char *value)
     return option.value && QLatin1String(option.value) == QLatin1String(value);
 }
 
-// What may stand behind an option of a word, or of any, with blanks between; empty where anything may, or a file.
-QString choicesOf(const CommandOption &option, const QString &word = {})
+// What may stand behind an option of a word, with blanks between; empty where anything may, or a file.
+QString choicesOf(const CommandOption &option, const QString &word)
 {
     if (!takes(option, "format")) {
         return QLatin1String(option.choices);
     }
-    const bool isForPictures = QLatin1String(option.name) == QLatin1String("to");
+    const bool isOutput = QLatin1String(option.name) == QLatin1String("to");
     QStringList names;
-    for (const LessonFormat &format : lessonFormats()) {
-        if (word != QLatin1String("render") || !isForPictures) {
-            names.append(format.name);
-        }
-    }
-    for (const PictureForm &form : pictureForms()) {
-        if ((word.isEmpty() || word == QLatin1String("render")) && isForPictures) {
+    if (isOutput && word == QLatin1String("render")) {
+        for (const PictureForm &form : pictureForms()) {
             names.append(form.name);
+        }
+    } else {
+        for (const LessonFormat &format : lessonFormats()) {
+            if (isOutput ? format.canWrite() : format.canRead()) {
+                names.append(format.name);
+            }
         }
     }
     return names.join(QLatin1Char(' '));
@@ -80,13 +81,17 @@ QString bashScript()
 {
     QString values;
     for (const CommandOption &option : commandOptions()) {
-        const QString choices = choicesOf(option);
-        if (!choices.isEmpty()) {
-            values +=
-                QStringLiteral("        %1) mapfile -t COMPREPLY < <(compgen -W \"%2\" -- \"$word\"); return ;;\n")
-                    .arg(named(option.name), choices);
-        } else if (isFolder(option)) {
-            values += QStringLiteral("        %1) compopt -o filenames 2>/dev/null; "
+        for (const Word &word : wordsForPeople()) {
+            const QString choices = isFor(option, word.word) ? choicesOf(option, word.word) : QString();
+            if (!choices.isEmpty()) {
+                values +=
+                    QStringLiteral(
+                        "        \"%1 %2\") mapfile -t COMPREPLY < <(compgen -W \"%3\" -- \"$word\"); return ;;\n")
+                        .arg(word.word, named(option.name), choices);
+            }
+        }
+        if (isFolder(option)) {
+            values += QStringLiteral("        *\" %1\") compopt -o filenames 2>/dev/null; "
                                      "mapfile -t COMPREPLY < <(compgen -d -- \"$word\"); return ;;\n")
                           .arg(named(option.name));
         }
@@ -110,7 +115,7 @@ _lessonconv()
             *" ${COMP_WORDS[i]} "*) command=${COMP_WORDS[i]}; break ;;
         esac
     done
-    case $before in
+    case "$command $before" in
 %2    esac
     case $command in
         "") options="%1 --help --version" ;;

@@ -21,17 +21,29 @@ namespace lessonhost {
 
 namespace {
 
+void refusePicture(const QString &name)
+{
+    if (isPictureName(name)) {
+        throw LessonError(say("This is the name of a picture or a page, which convert doesn't make"),
+                          say("Say lessonconv render instead of lessonconv convert"))
+            .in(name);
+    }
+}
+
+// The format that --to says.
+const LessonFormat &givenFormat(const Call &call)
+{
+    refusePicture(QLatin1Char('.') + call.value("to"));
+    return lessonFormatByName(call.value("to"));
+}
+
 const LessonFormat &outputFormat(const Call &call, const QString &output)
 {
     if (call.isSet("to")) {
-        return lessonFormatByName(call.value("to"));
+        return givenFormat(call);
     }
     call.checkIsTold(output, QLatin1String("json"));
-    if (isPictureName(output)) {
-        throw LessonError(say("This is the name of a picture or a page, which convert doesn't make"),
-                          say("Say lessonconv render instead of lessonconv convert"))
-            .in(output);
-    }
+    refusePicture(output);
     return lessonFormatOfOutput(output);
 }
 
@@ -94,7 +106,7 @@ int convertMany(const Call &call, const QStringList &inputs)
     if (!call.isSet("to")) {
         throw LessonError(say("It isn't said what the lessons are to become"), say("Say the format, such as --to iwb"));
     }
-    const LessonFormat &to = lessonFormatByName(call.value("to"));
+    const LessonFormat &to = givenFormat(call);
     checkCanWrite(to, call.value(manyOption));
     checkUseOf(call.line().givenFormatOptions(), to);
     const PluginHost host(call.value("plugin"));

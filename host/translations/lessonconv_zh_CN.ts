@@ -2596,7 +2596,7 @@ or something is wrong that check looks for, 2 not done.</source>
     <message numerus="yes">
         <source>%n things are missing or wrong; %1 names each.</source>
         <translation>
-            <numerusform>有 %n 处缺失或错误；%1 会逐一列出。</numerusform>
+            <numerusform>有 %n 处缺失或错误；%1会逐一列出。</numerusform>
         </translation>
     </message>
     <message>
