@@ -81,7 +81,7 @@ QString bashScript()
 {
     QString values;
     for (const CommandOption &option : commandOptions()) {
-        for (const Word &word : wordsForPeople()) {
+        for (const NamedWord &word : wordsForPeople()) {
             const QString choices = isFor(option, word.word) ? choicesOf(option, word.word) : QString();
             if (!choices.isEmpty()) {
                 values +=
