@@ -10,25 +10,33 @@ namespace lessonhost {
 
 namespace {
 
-const char *const spread = TO_SAY("Spread its items over several slides");
-
-int itemCount(const QJsonArray &items)
+// Of items and the items within them.
+qint64 sumOver(const QJsonArray &items, qint64 (*amountOf)(const QJsonObject &item))
 {
-    return std::accumulate(items.constBegin(), items.constEnd(), 0, [](int count, const QJsonValue &item) {
-        return count + 1 + itemCount(item.toObject().value(HostKeys::children).toArray());
-    });
+    return std::accumulate(
+        items.constBegin(), items.constEnd(), qint64(0), [amountOf](qint64 sum, const QJsonValue &value) {
+            const QJsonObject item = value.toObject();
+            return sum + amountOf(item) + sumOver(item.value(HostKeys::children).toArray(), amountOf);
+        });
 }
 
-qint64 pointCount(const QJsonArray &items)
+qint64 pointCount(const QJsonObject &item)
 {
-    return std::accumulate(items.constBegin(), items.constEnd(), qint64(0), [](qint64 count, const QJsonValue &value) {
-        const QJsonObject item = value.toObject();
-        for (const QLatin1String key : {ItemKeys::steps, ItemKeys::polyline, ItemKeys::control}) {
-            const QJsonValue numbers = item.value(key);
-            count += (numbers.isArray() ? numbers.toArray().size() : numbers.toString().count(QLatin1Char(','))) / 2;
-        }
-        return count + pointCount(item.value(HostKeys::children).toArray());
-    });
+    qint64 count = 0;
+    for (const QLatin1String key : {ItemKeys::steps, ItemKeys::polyline, ItemKeys::control}) {
+        const QJsonValue numbers = item.value(key);
+        count += (numbers.isArray() ? numbers.toArray().size() : numbers.toString().count(QLatin1Char(','))) / 2;
+    }
+    return count;
+}
+
+// problem: for say(), with places for the slide's number, the amount and the most.
+void checkAmount(const char *problem, qint64 amount, qint64 most, int number, const QString &file)
+{
+    if (amount > most) {
+        throw LessonError(say(problem).arg(number).arg(amount).arg(most), say("Spread its items over several slides"))
+            .in(file);
+    }
 }
 
 } // namespace
@@ -36,40 +44,20 @@ qint64 pointCount(const QJsonArray &items)
 void checkSlideSize(qint64 size, int number, const QString &file)
 {
     constexpr int mebibyte = 1024 * 1024;
-    if (size > maximumSlideSize) {
-        throw LessonError(say("Slide %1 takes %2 MiB, and no slide may take more than %3")
-                              .arg(number)
-                              .arg((size + mebibyte - 1) / mebibyte)
-                              .arg(maximumSlideSize / mebibyte),
-                          say(spread))
-            .in(file);
-    }
+    checkAmount(TO_SAY("Slide %1 takes %2 MiB, and no slide may take more than %3"), (size + mebibyte - 1) / mebibyte,
+                maximumSlideSize / mebibyte, number, file);
 }
 
 void checkSlideItems(const QJsonArray &items, int number, const QString &file)
 {
-    const int count = itemCount(items);
-    if (count > maximumSlideItems) {
-        throw LessonError(say("Slide %1 has %2 items, and no slide may have more than %3")
-                              .arg(number)
-                              .arg(count)
-                              .arg(maximumSlideItems),
-                          say(spread))
-            .in(file);
-    }
+    checkAmount(TO_SAY("Slide %1 has %2 items, and no slide may have more than %3"),
+                sumOver(items, [](const QJsonObject &) { return qint64(1); }), maximumSlideItems, number, file);
 }
 
 void checkPagePoints(const QJsonArray &items, int number, const QString &file)
 {
-    const qint64 count = pointCount(items);
-    if (count > maximumPagePoints) {
-        throw LessonError(say("Slide %1 has lines of %2 points, and no page of IWB may have more than %3")
-                              .arg(number)
-                              .arg(count)
-                              .arg(maximumPagePoints),
-                          say(spread))
-            .in(file);
-    }
+    checkAmount(TO_SAY("Slide %1 has lines of %2 points, and no page of IWB may have more than %3"),
+                sumOver(items, pointCount), maximumPagePoints, number, file);
 }
 
 } // namespace lessonhost
