@@ -6,14 +6,18 @@
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
 #include "formats/zqtxitems.h"
+#include "iwb/shapeplacing.h"
 #include "lesson/itemkeys.h"
+#include "lesson/itemview.h"
 #include "lesson/numbertexts.h"
+#include "lesson/shapeforms.h"
 #include "lesson/strokeoffsets.h"
 #include "losses/carriedcheck.h"
 #include "losses/jsontext.h"
 #include "losses/lossreport.h"
 #include "losses/modelvalues.h"
 #include "pluginfixture.h"
+#include "svg/pluginoutlines.h"
 
 #include <QJsonDocument>
 #include <QRandomGenerator>
@@ -127,6 +131,7 @@ private slots:
                 ++told;
                 try {
                     QVERIFY2(isSameTree(loadXml(text.toUtf8(), {}), document), qPrintable(text));
+                    QVERIFY(readsBackAs(text.mid(text.indexOf("?>") + 2), document.documentElement()));
                 } catch (const LessonError &error) {
                     QFAIL(qPrintable(text + error.message().english()));
                 }
@@ -172,7 +177,11 @@ private slots:
         }
         for (const double number : qAsConst(numbers)) {
             for (const int digits : {1, 5, 6, 10, 12}) {
-                QCOMPARE(numberText(number, digits), QString::number(number, 'g', digits));
+                const QString text = numberText(number, digits);
+                QCOMPARE(text, QString::number(number, 'g', digits));
+                const double read = numberOfText(text);
+                const double found = numberInDigits(number, digits);
+                QVERIFY2(std::memcmp(&found, &read, sizeof read) == 0, qPrintable(text));
             }
             QCOMPARE(shortestNumberText(number), QString::number(number, 'g', QLocale::FloatingPointShortest));
         }
@@ -182,6 +191,25 @@ private slots:
             const double found = numberOfText(text, &isRead);
             const double number = text.toDouble(&isNumber);
             QVERIFY2(std::memcmp(&found, &number, sizeof number) == 0 && isRead == isNumber, qPrintable(text));
+        }
+    }
+
+    // To the bit what comes of an item with these points.
+    void linesArePlacedAsPolylines()
+    {
+        QRandomGenerator random(22);
+        for (int i = 0; i < 3000; ++i) {
+            QPolygonF points;
+            for (int k = random.bounded(1, 8); k > 0; --k) {
+                const double size = std::pow(10, random.bounded(-9, 9));
+                const double x = i % 5 == 0 ? 7.1 : (random.generateDouble() - 0.5) * size;
+                points << QPointF(x, std::round(x * 1000) / 1000) << QPointF(x + 1e-10, random.bounded(2000) / 3.0);
+                points.resize(points.size() - random.bounded(2));
+            }
+            const ShapeForm &form = *shapeForm("ZQMath2DPolyline");
+            const QJsonObject line{{"Type", form.type}, {"XYValue", QString(pointsText(points) + ',')}};
+            QCOMPARE(pointsText(placeLine(points)) + ',',
+                     placeShape(ItemView(line), form, pluginOutlines(plugin())).geometry.value("XYValue").toString());
         }
     }
 

@@ -54,9 +54,11 @@ public:
 
     bool isDocument(const QDomElement &root)
     {
-        if (!take("<?xml version=\"1.0\" encoding=\"UTF-8\"?>")) {
-            return false;
-        }
+        return take("<?xml version=\"1.0\" encoding=\"UTF-8\"?>") && isAlone(root);
+    }
+
+    bool isAlone(const QDomElement &root)
+    {
         skipLayout();
         const bool isRoot = isElement(root, 1);
         skipLayout();
@@ -202,6 +204,13 @@ bool readsBackAs(const QByteArray &text, const QDomElement &root)
     }
     const QString letters = QString::fromUtf8(text);
     return Reading(letters).isDocument(root);
+}
+
+bool readsBackAs(const QString &text, const QDomElement &root)
+{
+    const QByteArray bytes = text.toUtf8();
+    const QString letters = QString::fromUtf8(bytes); // as others would read it
+    return bytes.size() <= largestText && Reading(letters).isAlone(root);
 }
 
 } // namespace lessonhost

@@ -4,9 +4,11 @@
 #include "files/domtools.h"
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
+#include "files/xmlreadback.h"
 #include "izqtransformation.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
+#include "lesson/numbertexts.h"
 #include "losses/attributes.h"
 #include "losses/equivalence.h"
 
@@ -69,7 +71,7 @@ std::optional<QVector<double>> numbersIn(const QString &text, int count)
     const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
     for (const QStringRef &part : parts) {
         bool isNumber = false;
-        numbers.append(part.toDouble(&isNumber));
+        numbers.append(numberOfText(part, &isNumber));
         if (!isNumber || !qIsFinite(numbers.last())) {
             return std::nullopt;
         }
@@ -113,14 +115,10 @@ public:
         , m_found(numbersIn(item.value(ItemKeys::box).toString(), 4))
     {
         const auto own = element.hasAttribute(matrixName) ? transformIn(element.attribute(matrixName)) : QTransform();
-        const auto fit = item.contains(ItemKeys::slideMatrix)
-            ? transformIn(item.value(ItemKeys::slideMatrix).toString())
-            : QTransform();
-        if (own && fit) {
-            m_whole = *own * *fit;
-        }
-        if (fit) {
-            m_inner = innerMatrix() * *fit;
+        m_fit = item.contains(ItemKeys::slideMatrix) ? transformIn(item.value(ItemKeys::slideMatrix).toString())
+                                                     : QTransform();
+        if (own && m_fit) {
+            m_whole = *own * *m_fit;
         }
         // right, bottom, two numbers more, left, top.
         const auto bound = numbersIn(element.attribute(boundName), 6);
@@ -131,7 +129,7 @@ public:
 
     bool holdsMatrix() const { return m_whole && m_left && (isNear(*m_left, *m_whole) || isFolded()); }
     bool holdsBox() const { return m_given && m_found && (*m_given == *m_found || isFolded()); }
-    bool holdsInnerMatrix() const { return m_inner && m_left && isNear(*m_left, *m_inner); }
+    bool holdsInnerMatrix() const { return m_fit && m_left && isNear(*m_left, innerMatrix() * *m_fit); }
 
 private:
     // The box of an item that is drawn larger is that of the page, which is no place for a turn or a mirror.
@@ -148,7 +146,8 @@ private:
 
     double number(const char *name, double usual) const
     {
-        return m_element.attribute(innerPrefix + QLatin1String(name), QString::number(usual)).toDouble();
+        const QString whole = innerPrefix + QLatin1String(name);
+        return m_element.hasAttribute(whole) ? m_element.attribute(whole).toDouble() : usual;
     }
 
     double sign(const char *name) const
@@ -176,8 +175,8 @@ private:
 
     QDomElement m_element;
     std::optional<QTransform> m_left; // the model's matrix
+    std::optional<QTransform> m_fit; // what fits the slide into the page
     std::optional<QTransform> m_whole; // that of the element, on the page
-    std::optional<QTransform> m_inner; // the same of its inner one
     std::optional<QVector<double>> m_given; // left, top, right, bottom
     std::optional<QVector<double>> m_found;
 };
@@ -289,11 +288,21 @@ QString echoedInk(const QString &name, const QString &given, const QJsonObject &
     return echoed(ValueForm::InkWidth, given, item.value(name));
 }
 
-// The drawing of a vector shape.
-QDomElement managerOf(const QJsonObject &item)
+// Of a colour, as its channels are given: a, r, g, b.
+QStringList channelsOf(const QJsonObject &color)
 {
+    return color.contains(QLatin1String("Solid")) ? valueText(color).split(QLatin1Char(',')) : QStringList();
+}
+
+// The drawing of a vector shape, which is what it was as a rule.
+QDomElement managerOf(const QJsonObject &item, const QDomElement &given)
+{
+    const QString text = item.value(QLatin1String("manager")).toString();
+    if (readsBackAs(text, given)) {
+        return given.cloneNode(true).toElement();
+    }
     try {
-        return loadXml(item.value(QLatin1String("manager")).toString().toUtf8(), {}).documentElement();
+        return loadXml(text.toUtf8(), {}).documentElement();
     } catch (const LessonError &) {
         return {};
     }
@@ -333,24 +342,25 @@ QString RawEcho::attributeOfItem(const QDomElement &element, const QString &name
     if (name == echoedId) {
         return item.value(ItemKeys::id).toString();
     }
+    const QJsonValue value = item.value(name);
     if (isReference(name)) {
-        return echoedFiles(given, item.value(name).toString());
+        return echoedFiles(given, value.toString());
     }
-    if (isInkItem(item) && isInkValue(name)) {
+    if (isInkValue(name) && isInkItem(item)) {
         return echoedInk(name, given, item);
     }
-    const int control = item.contains(name) ? -1 : controlIndex(name);
+    const int control = value.isUndefined() ? controlIndex(name) : -1;
     if (control >= 0) {
         return echoedPoint(given, item.value(QLatin1String("Control")).toArray().at(control));
     }
     if (isArcAngle(type, name)) {
-        return echoedArc(name, given, item.value(name).toString());
+        return echoedArc(name, given, value.toString());
     }
-    const QString same = echoed(formOf(name, item.value(name)), given, item.value(name));
+    const QString same = echoed(formOf(name, value), given, value);
     if (same == given) {
         return given;
     }
-    const QString key = keyOf(type, QString(), name);
+    const QString key = keyOf({type, {}, name});
     return key.isEmpty() ? same : echoed(formOf(key, item.value(key)), given, item.value(key));
 }
 
@@ -383,44 +393,45 @@ QDomElement RawEcho::childrenOfItem(const QDomElement &element, const QJsonObjec
             continue;
         }
         if (isFirst && tag == managerTag) {
-            open.last().echo.appendChild(managerOf(item));
+            open.last().echo.appendChild(managerOf(item, child));
             continue;
         }
         QDomElement echo = open.last().echo.appendChild(looseElement(tag)).toElement();
         const auto attributes = attributesOf(child);
+        const QJsonObject object = value.toObject();
+        const QStringList channels = channelsOf(object);
         for (const auto &[name, given] : attributes) {
             const QString inRow = row.value(name).toString();
+            if (inRow == given || !isFirst) {
+                echo.setAttribute(name, inRow == given ? given : QString());
+                continue;
+            }
+            const auto own = object.constFind(name);
             echo.setAttribute(name,
-                              inRow == given ? given
-                                  : isFirst  ? attributeOfChild(element.tagName(), child, name, given, item)
-                                             : QString());
+                              own != object.constEnd()
+                                  ? own->toString()
+                                  : attributeOfChild({element.tagName(), tag, name}, given, channels, item));
         }
         open.append({child.firstChildElement(), echo, value.toArray(), 0});
     }
     return result;
 }
 
-QString RawEcho::attributeOfChild(const QString &type, const QDomElement &child, const QString &name,
-                                  const QString &given, const QJsonObject &item)
+QString RawEcho::attributeOfChild(const Place &place, const QString &given, const QStringList &channels,
+                                  const QJsonObject &item)
 {
-    const QJsonObject object = item.value(child.tagName()).toObject();
-    if (object.contains(name)) {
-        return object.value(name).toString();
+    const int channel = place.attribute.size() == 1 ? QStringLiteral("argb").indexOf(place.attribute) : -1;
+    if (channel >= 0 && channels.size() == 4) {
+        return isSameText(ValueForm::Number, given, channels.at(channel)) ? given : channels.at(channel);
     }
-    if (object.contains(QLatin1String("Solid")) && name.size() == 1) {
-        const int channel = QStringLiteral("argb").indexOf(name);
-        const QStringList channels = valueText(object).split(QLatin1Char(','));
-        if (channel >= 0 && channels.size() == 4) {
-            return isSameText(ValueForm::Number, given, channels.at(channel)) ? given : channels.at(channel);
-        }
-    }
-    const QString key = keyOf(type, child.tagName(), name);
+    const QString key = keyOf(place);
     return key.isEmpty() ? QString() : valueText(item.value(key));
 }
 
 // The key map of the plug-in, asked with an item that says one thing alone.
-QString RawEcho::keyOf(const QString &type, const QString &tag, const QString &attribute)
+QString RawEcho::keyOf(const Place &of)
 {
+    const auto &[type, tag, attribute] = of;
     const QString place = type + QLatin1Char('/') + tag + QLatin1Char('@') + attribute;
     const auto known = m_keys.constFind(place);
     if (known != m_keys.constEnd()) {

@@ -26,12 +26,19 @@ public:
     QDomElement ofPresentation(const QDomElement &element, const QJsonObject &presentation);
 
 private:
+    struct Place
+    {
+        QString type; // of the item
+        QString tag; // of an element below; empty for the item's own
+        QString attribute;
+    };
+
     QString attributeOfItem(const QDomElement &element, const QString &name, const QString &given,
                             const QJsonObject &item);
     QDomElement childrenOfItem(const QDomElement &element, const QJsonObject &item);
-    QString attributeOfChild(const QString &type, const QDomElement &child, const QString &name, const QString &given,
+    QString attributeOfChild(const Place &place, const QString &given, const QStringList &channels,
                              const QJsonObject &item);
-    QString keyOf(const QString &type, const QString &tag, const QString &attribute);
+    QString keyOf(const Place &place);
 
     IZQTransformation *m_plugin;
     QHash<QString, QString> m_keys; // that a plain text goes to, by type, tag and attribute

@@ -250,8 +250,8 @@ private:
             sons = element.firstChildElement(groupSons);
             nested = takeElements(sons, sons.firstChildElement());
         }
-        // Reading takes the drawing out of a vector shape.
-        const QDomElement untouched = check ? element.cloneNode(true).toElement() : element;
+        const bool isCopied = check && isChangedByReading(element);
+        const QDomElement untouched = isCopied ? element.cloneNode(true).toElement() : element;
         QJsonObject item = readSingle(element, context);
         if (item.isEmpty()) {
             for (const QDomElement &son : qAsConst(nested)) {
@@ -276,6 +276,13 @@ private:
             item.insert(HostKeys::children, children);
         }
         return item;
+    }
+
+    // Reading takes the drawing out of a vector shape and gives an element without an identifier one.
+    static bool isChangedByReading(const QDomElement &element)
+    {
+        const QString drawing = QStringLiteral("ArtVectObj_Manager");
+        return !element.hasAttribute(netId) || !element.elementsByTagName(drawing).isEmpty();
     }
 
     // What held the items of a group and says nothing of its own.

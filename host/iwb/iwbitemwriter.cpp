@@ -227,13 +227,16 @@ QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
         color.setAlphaF(qBound(0.0, view.number(ItemKeys::opacity) / 255, 1.0));
     }
     polyline.insert(ItemKeys::type, QLatin1String(form.type));
-    polyline.insert(ItemKeys::polyline, QString(pointsText(points) + QLatin1Char(',')));
+    // Two stand for all: to take them through the texts of an item would cost more than all else of a page.
+    polyline.insert(ItemKeys::polyline, QString(pointsText(points.mid(0, 2)) + QLatin1Char(',')));
     polyline.insert(QLatin1String(form.lineKey), colorText(color));
     polyline.insert(ItemKeys::lineWidth, exactText(view.numbers(ItemKeys::width).value(0, strokeWidth) * view.scale()));
     ++m_strokes;
     QDomElement element = writeShape(polyline, form);
     if (!element.isNull()) {
-        setEnds(innermost(element), view);
+        QDomElement line = innermost(element);
+        line.setAttribute(QStringLiteral("points"), coordinateTexts(placeLine(points), pluginDigits, ',', ','));
+        setEnds(line, view);
     }
     return element;
 }

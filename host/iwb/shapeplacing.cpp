@@ -36,6 +36,25 @@ QPolygonF fitted(const QPolygonF &points, const ItemPlace &place)
     return place.angle == 0 ? filled : turnAbout(place.box.center(), place.angle).map(filled);
 }
 
+// A polyline of three points would come back as an angle, one of a single point shows nothing.
+QPolygonF padded(QPolygonF points)
+{
+    if (points.size() == 3 || points.size() == 1) {
+        points.append(points.last());
+    }
+    return points;
+}
+
+// As they are read of pointsText().
+QPolygonF inExactDigits(QPolygonF points)
+{
+    const auto finite = [](double value) { return qIsFinite(value) ? exactNumber(value) : 0; };
+    for (QPointF &point : points) {
+        point = {finite(point.x()), finite(point.y())};
+    }
+    return points;
+}
+
 class ShapePlacer
 {
 public:
@@ -127,15 +146,6 @@ private:
         }
     }
 
-    // A polyline of three points would come back as an angle, one of a single point shows nothing.
-    static QPolygonF padded(QPolygonF points)
-    {
-        if (points.size() == 3 || points.size() == 1) {
-            points.append(points.last());
-        }
-        return points;
-    }
-
     // The origin is a matrix's, in single precision; the other points are told from where it really is.
     void angle(const QPolygonF &points)
     {
@@ -219,6 +229,12 @@ private:
 PlacedShape placeShape(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines)
 {
     return ShapePlacer(item, form, outlines).place();
+}
+
+QPolygonF placeLine(const QPolygonF &points)
+{
+    const QPolygonF own = inExactDigits(points);
+    return own.isEmpty() ? own : inExactDigits(padded(fitted(own, {extentOf(own), 0})));
 }
 
 } // namespace lessonhost

@@ -31,6 +31,9 @@ struct PlacedShape
  */
 PlacedShape placeShape(const ItemView &item, const ShapeForm &form, const OutlineSource &outlines);
 
+//! The points that placeShape() gives to a polyline of these points alone, which has no box and no Matrix.
+QPolygonF placeLine(const QPolygonF &points);
+
 } // namespace lessonhost
 
 #endif // SHAPEPLACING_H

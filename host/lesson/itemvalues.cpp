@@ -296,6 +296,11 @@ QString exactText(double value)
     return numberText(withoutErrorOfZero(value), exactDigits);
 }
 
+double exactNumber(double value)
+{
+    return numberInDigits(withoutErrorOfZero(value), exactDigits);
+}
+
 QString pointsText(const QPolygonF &points)
 {
     return coordinateTexts(points, exactDigits, ',', ',');

@@ -65,6 +65,9 @@ QPolygonF pointsOf(const QVector<double> &numbers);
 
 //! A number with as many digits as a coordinate may need, so that what is computed from it rounds as it did.
 QString exactText(double value);
+
+//! What is read of exactText().
+double exactNumber(double value);
 //! x and y in turn with commas between.
 QString pointsText(const QPolygonF &points);
 //! left,top,right,bottom.

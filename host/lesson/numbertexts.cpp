@@ -133,6 +133,56 @@ double longNumberOfText(QStringView text, bool *ok)
 }
 
 /*!
+ * The digits that a number is printed with, as an integer, and how many of them stand behind the point.
+ */
+struct PlainDigits
+{
+    quint64 number;
+    int decimals;
+};
+
+// The number times a power of ten, as an integer. What is halfway between two goes away from zero.
+quint64 scaled(double size, int decimals)
+{
+    static_assert(std::numeric_limits<double>::is_iec559 && DBL_MANT_DIG == 53);
+    constexpr int fractionBits = DBL_MANT_DIG - 1;
+    constexpr int exponentOfOne = 1023;
+    constexpr quint64 leadingBit = quint64(1) << fractionBits;
+    quint64 bits = 0;
+    std::memcpy(&bits, &size, sizeof bits);
+    const int shift = fractionBits + exponentOfOne - int(bits >> fractionBits);
+    const Wide product = Wide((bits & (leadingBit - 1)) | leadingBit) * powers[std::size_t(decimals)];
+    return quint64((product + (Wide(1) << (shift - 1))) >> shift);
+}
+
+// Nothing for a number that Qt has to print.
+std::optional<PlainDigits> plainDigits(double size, int digits)
+{
+    if (!(size < beyondPlain) || digits < 1 || digits > mostDigits) {
+        return std::nullopt;
+    }
+    const auto whole = quint64(size);
+    int decimals = digits;
+    for (std::size_t i = 0; whole >= powers[i]; ++i) {
+        --decimals;
+    }
+    if (decimals < 0) {
+        return std::nullopt;
+    }
+    if (double(whole) == size) {
+        return PlainDigits{whole, 0};
+    }
+    if (size < smallest) {
+        return std::nullopt;
+    }
+    decimals += size >= 0.1 ? 0 : size >= 0.01 ? 1 : 2;
+    const PlainDigits plain{scaled(size, decimals), decimals};
+    // Or it was rounded up to where numbers have an exponent.
+    const bool isPlain = decimals > 0 || plain.number < powers[std::size_t(digits)];
+    return isPlain ? std::make_optional(plain) : std::nullopt;
+}
+
+/*!
  * The letters of a number that is printed plainly.
  */
 class PlainText
@@ -143,32 +193,11 @@ public:
     // False for a number that Qt has to write.
     bool write(double value, int digits)
     {
-        const double size = std::fabs(value);
-        if (!(size < beyondPlain) || digits < 1 || digits > mostDigits) {
-            return false;
+        const auto plain = plainDigits(std::fabs(value), digits);
+        if (plain) {
+            writeDigits(value < 0, plain->number, plain->decimals); // zero without its sign
         }
-        const auto whole = quint64(size);
-        int decimals = digits;
-        for (std::size_t i = 0; whole >= powers[i]; ++i) {
-            --decimals;
-        }
-        if (decimals < 0) {
-            return false;
-        }
-        if (double(whole) == size) {
-            writeDigits(value < 0, whole, 0); // zero without its sign
-            return true;
-        }
-        if (size < smallest) {
-            return false;
-        }
-        decimals += size >= 0.1 ? 0 : size >= 0.01 ? 1 : 2;
-        const quint64 number = scaled(size, decimals);
-        if (decimals == 0 && number >= powers[std::size_t(digits)]) {
-            return false; // rounded up to where numbers have an exponent
-        }
-        writeDigits(value < 0, number, decimals);
-        return true;
+        return plain.has_value();
     }
 
     QLatin1String text() const { return QLatin1String(m_begin, size()); }
@@ -176,20 +205,6 @@ public:
     const char *begin() const { return m_begin; }
 
 private:
-    // The number times a power of ten, as an integer. What is halfway between two goes away from zero.
-    static quint64 scaled(double size, int decimals)
-    {
-        static_assert(std::numeric_limits<double>::is_iec559 && DBL_MANT_DIG == 53);
-        constexpr int fractionBits = DBL_MANT_DIG - 1;
-        constexpr int exponentOfOne = 1023;
-        constexpr quint64 leadingBit = quint64(1) << fractionBits;
-        quint64 bits = 0;
-        std::memcpy(&bits, &size, sizeof bits);
-        const int shift = fractionBits + exponentOfOne - int(bits >> fractionBits);
-        const Wide product = Wide((bits & (leadingBit - 1)) | leadingBit) * powers[std::size_t(decimals)];
-        return quint64((product + (Wide(1) << (shift - 1))) >> shift);
-    }
-
     // Without the zeros at the end of the decimals.
     void writeDigits(bool isNegative, quint64 number, int decimals)
     {
@@ -264,6 +279,17 @@ void appendNumber(QString &text, double value, int digits)
     } else {
         text += QString::number(value, 'g', digits);
     }
+}
+
+// The digits and the power of ten that divides them are numbers without an error.
+double numberInDigits(double value, int digits)
+{
+    const auto plain = plainDigits(std::fabs(value), digits);
+    if (!plain || FLT_EVAL_METHOD != 0) {
+        return numberOfText(numberText(value, digits));
+    }
+    const double size = double(plain->number) / double(powers[std::size_t(plain->decimals)]);
+    return value < 0 ? -size : size;
 }
 
 QString shortestNumberText(double value)

@@ -33,6 +33,9 @@ QString numberText(double value, int digits = 6);
 //! The same, at the end of a text.
 void appendNumber(QString &text, double value, int digits = 6);
 
+//! numberOfText() of numberText(), without the text.
+double numberInDigits(double value, int digits);
+
 //! QString::number(value, 'g', QLocale::FloatingPointShortest): as many digits as tell the number from all others.
 QString shortestNumberText(double value);
 
