@@ -224,6 +224,9 @@ private slots:
         row("a background that stands elsewhere",
             "<svg:image id='p' x='100' y='100' width='90' height='90' xlink:href='images/a.png'/>",
             "<iwb:element ref='p' background='true'/>", "LockIn", "ZQImagePic LockIn=1", "doesn't fill the page");
+        row("a background that shines through",
+            "<svg:image id='p' x='0' y='0' width='9' height='9' xlink:href='images/a.png' fill-opacity='0.2'/>",
+            "<iwb:element ref='p' background='true' background-posture='repeated'/>", "", "", "no longer translucent");
         // A pen stroke from 10,100 to 210,100 that is 10 wide: its round ends and three pieces between, which overlap.
         const QString stroke =
             "<svg:g id='s' fill='#00f' stroke='none'><svg:polygon id='s1' points='%1'/>"
@@ -389,7 +392,11 @@ private slots:
             LossReport losses;
             const auto reader = openLesson(path("prefixes.iwb"), &losses);
             const QString items = described(reader->slide(0).items, {"LockIn", "plain", "ID"});
-            return items + detailsOf(losses).join(' ');
+            QStringList types;
+            for (const Loss &loss : losses.entries()) {
+                types.append(loss.itemType);
+            }
+            return items + detailsOf(losses).join(' ') + types.join(' ');
         };
         const auto renamed = [&text](const char *prefix, const char *other) {
             return QString(text).replace(QRegularExpression("\\b%1(?=[:=])"_s.arg(prefix)), other);

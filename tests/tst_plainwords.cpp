@@ -164,9 +164,10 @@ private slots:
             "Shown by other boards, but not the same:\n  1 mind map on slide 1: as a picture.\n"
             "  Lock: 1 circle on slide 1.\nOnly internal, and nothing to other boards: kind of item.\n"
             "The lesson itself travels along in the file, so that lessonconv brings all of it back.");
-        row("what is told", "kept 1 ZQGadget g ~ ~\nnote 0 ink ~ ~ 2 strokes became polylines",
+        row("what is told", "kept 1 ZQGadget g ~ ~\nnote 0 ink ~ ~ 2 strokes became polylines\n"
+            "note 0 iwb:element e ~ foo is left out",
             "Note: 1 x Gadget on slide 1: nobody knows what it is, so it is kept as it came.\n"
-            "Note: 2 strokes became polylines.");
+            "Note: 1 element: foo is left out.\nNote: 2 strokes became polylines.");
         QStringList many;
         for (const QString type : {"A", "B", "C", "D", "E", "F", "G", "H"}) {
             many.append("item 1 " + type + " i ~ ~");

@@ -217,7 +217,7 @@ void IwbPackage::takeReference(const QString &reference)
     }
     const QString other = otherName(reference);
     if (!other.isEmpty()) {
-        m_remarks.append(say("%1 was found as %2").arg(reference.left(200), other));
+        m_remarks.append(say("the file %1 was found as %2").arg(reference.left(200), other));
     }
 }
 

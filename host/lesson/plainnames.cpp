@@ -318,7 +318,10 @@ const Name typeAndKeyNames[] = {
     {"stroke", TO_SAY("Pen stroke")},
     {"text", TO_SAY("Text")},
     // What programs of other boards write.
+    {"iwb:element", TO_SAY("Element")},
     {"iwb:group", TO_SAY("Group")},
+    {"iwb:link", TO_SAY("Link")},
+    {"iwb:tspan", TO_SAY("Part of a text")},
     {"svg:a", TO_SAY("Link")},
     {"svg:circle", TO_SAY("Circle")},
     {"svg:ellipse", TO_SAY("Ellipse")},

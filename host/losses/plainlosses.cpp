@@ -27,9 +27,15 @@ Sentence capitalized(const Sentence &sentence)
     return {first(sentence.english()), first(sentence.local())};
 }
 
+// Of an element of IWB, whichever page it stands on.
+bool isRecord(const Loss &loss)
+{
+    return loss.slide == 0 && !loss.itemId.isEmpty() && loss.itemType.startsWith(QLatin1String("iwb:"));
+}
+
 bool isItem(const Loss &loss)
 {
-    return loss.slide > 0 && loss.itemType != slideOwner;
+    return (loss.slide > 0 && loss.itemType != slideOwner) || isRecord(loss);
 }
 
 /*!

@@ -657,9 +657,14 @@ void SvgPageBuilder::media(const QDomElement &source, const Place &place, const 
         // The box is turned with its upper side: what is upside down then is flipped.
         item.flipsDown = !item.flipsDown;
     }
-    const double fillOpacity = svgLength(place.style.property(QStringLiteral("fill-opacity")), 1).value_or(1);
-    if (place.style.opacity < 1 || (fillOpacity < 1 && tag == QLatin1String("svg:image"))) {
-        remark(source, say("it is no longer translucent"), false);
+    remarkOnOpacity(source, place.style, tag == QLatin1String("svg:image"));
+}
+
+void SvgPageBuilder::remarkOnOpacity(const QDomElement &element, const SvgStyle &style, bool isPicture)
+{
+    const double fillOpacity = svgLength(style.property(QStringLiteral("fill-opacity")), 1).value_or(1);
+    if (style.opacity < 1 || (fillOpacity < 1 && isPicture)) {
+        remark(element, say("it is no longer translucent"), false);
     }
 }
 
@@ -735,6 +740,9 @@ bool SvgPageBuilder::takeBackground(const QDomElement &element, const QString &n
         && (record.isBackground || isNamedPicture) && !record.refusesPicture) {
         if (!fillsPage(element, record, style)) {
             return false;
+        }
+        if (!m_rules.isNative) {
+            remarkOnOpacity(element, style, true);
         }
         m_result.backgroundReference = linkTarget(element);
         m_result.backgrounds.append(element);
@@ -871,7 +879,9 @@ double SvgPageBuilder::length(const QDomElement &element, const char *name, doub
 
 void SvgPageBuilder::remark(const QDomElement &element, const Sentence &text, bool isLoss)
 {
-    m_result.remarks.append({element.tagName(), element.attribute(QStringLiteral("id")), text, isLoss});
+    const QString name = svgName(element);
+    const QString tag = name.isEmpty() ? element.tagName() : QString(QLatin1String("svg:") + name);
+    m_result.remarks.append({tag, element.attribute(QStringLiteral("id")), text, isLoss});
 }
 
 std::function<void(const Sentence &)> SvgPageBuilder::remarkAbout(const QDomElement &element)

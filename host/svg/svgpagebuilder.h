@@ -72,6 +72,7 @@ private:
     void finishBackground();
     void outline(const QDomElement &source, const Place &place, QPolygonF points, bool isClosed);
     SvgPaint paintOf(const QDomElement &element, const SvgStyle &style);
+    void remarkOnOpacity(const QDomElement &element, const SvgStyle &style, bool isPicture);
     void media(const QDomElement &source, const Place &place, const QString &tag);
     bool placeBox(IwbElement &item, const QRectF &box, const QTransform &matrix);
     IwbElement &addItem(const QDomElement &source, const Place &place, const QString &tag);

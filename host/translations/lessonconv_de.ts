@@ -1494,10 +1494,6 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <translation>das Paket hat diese Datei nicht</translation>
     </message>
     <message>
-        <source>%1 was found as %2</source>
-        <translation>%1 wurde als %2 gefunden</translation>
-    </message>
-    <message>
         <source>it is a paper of the editor, not a file of the lesson</source>
         <translation>ist ein Papier des Editors, keine Datei der Lektion</translation>
     </message>
@@ -6514,6 +6510,32 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
     <message>
         <source>it is a larger picture than can be read</source>
         <translation>ist ein Bild, das zu groß zum Lesen ist</translation>
+    </message>
+    <message>
+        <source>the file %1 was found as %2</source>
+        <translation>die Datei %1 wurde als %2 gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n Element</numerusform>
+            <numerusform>%n Elemente</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parts of texts</source>
+        <translation>
+            <numerusform>%n Textteil</numerusform>
+            <numerusform>%n Textteile</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Part of a text</source>
+        <translation>Textteil</translation>
     </message>
 </context>
 </TS>

@@ -2208,5 +2208,19 @@
             <numerusform>%n things are another program&apos;s work: %1</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n element</numerusform>
+            <numerusform>%n elements</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parts of texts</source>
+        <translation>
+            <numerusform>%n part of a text</numerusform>
+            <numerusform>%n parts of texts</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

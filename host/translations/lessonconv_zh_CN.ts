@@ -1480,10 +1480,6 @@ or something is wrong that check looks for, 2 not done.</source>
         <translation>包中没有该文件</translation>
     </message>
     <message>
-        <source>%1 was found as %2</source>
-        <translation>%1 按 %2 找到</translation>
-    </message>
-    <message>
         <source>it is a paper of the editor, not a file of the lesson</source>
         <translation>是编辑器的纸张，不是课件的文件</translation>
     </message>
@@ -6198,6 +6194,30 @@ or something is wrong that check looks for, 2 not done.</source>
     <message>
         <source>it is a larger picture than can be read</source>
         <translation>是过大而无法读取的图片</translation>
+    </message>
+    <message>
+        <source>the file %1 was found as %2</source>
+        <translation>文件 %1 以 %2 的名称找到</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n 个对象</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parts of texts</source>
+        <translation>
+            <numerusform>%n 个文字片段</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Part of a text</source>
+        <translation>文字片段</translation>
     </message>
 </context>
 </TS>
