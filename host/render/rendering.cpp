@@ -131,7 +131,7 @@ Rendered renderDifference(LessonReader &first, const QString &firstName, LessonR
         refuseToReplace(output);
     }
     PictureStore store;
-    DifferencePage html(output, say("%1 and %2").arg(firstName, secondName).local(), store);
+    DifferencePage html(output, listedWithAnd(QStringList{firstName, secondName}).local(), store);
     SlidePictures firstPictures(first, context, store);
     SlidePictures secondPictures(second, context, store);
     PageFiles firstFiles;
