@@ -8,20 +8,30 @@
 namespace {
 
 // On the page, about its borders and off it, in hardly any colour, width or size: most are seen as pictures, some not.
+// Strokes whose points are nearer to each other than they are written, further away, and neither.
 QJsonObject hardlySeen()
 {
     QJsonArray items;
-    for (const char *box : {"9,9,50,50", "5000,9,50,50", "-990,9,50,50", "-300,9,50,50", "9,9,0,0", "9,9,0,80"}) {
+    for (const QString step : {",0.004,0.003", ",-0.01,0.02", ",3.3333,-2.5", ",799.1234,1.2345"}) {
+        const QJsonObject stroke{{"Type", "ZQSmoothStroke"}, {"XY", QString("9.12345,9.5" + step.repeated(40))}};
+        items.append(stroke);
+        items.append(QJsonObject{
+            {"Type", "ZQGroupItem"}, {"BoundingBox", "9,9,50,50"}, {"Children", QJsonArray{stroke, stroke}}});
+    }
+    for (const char *box : {"9,9,50,50", "5000,9,5050,50", "-990,9,-940,50", "-300,9,-250,50", "9,9,9,9", "9,9,9,80"}) {
         for (const char *line : {"#ff000000", "#00000000", "#01000000", "#40ff0000"}) {
             for (const char *fill : {"#00000000", "#03ff0000", "#ff00ff00"}) {
                 const char *const width = items.size() % 2 == 0 ? "2" : "0.01";
-                items.append(QJsonObject{{"Type", "ZQVectorXinxing"}, {"Box", box}, {"ArtVectObj_FrameColor", line},
-                                         {"ArtVectObj_RegionColor", fill}, {"ArtObj_Width", width},
+                items.append(QJsonObject{{"Type", "ZQVectorXinxing"},
+                                         {"BoundingBox", box},
+                                         {"ArtVectObj_FrameColor", line},
+                                         {"ArtVectObj_RegionColor", fill},
+                                         {"ArtObj_Width", width},
                                          {"VectorControl0", "0,0,0,0,0,0,9,0,0,0,0,0,9,9,0,0,0,0"}});
             }
         }
         for (const char *text : {"", " ", "...", "\u3164", "a", "?? ?? ?? ?? a", "\u6c34"}) {
-            items.append(QJsonObject{{"Type", "ZQQuestionItem"}, {"Box", box}, {"R_Content_svg", text}});
+            items.append(QJsonObject{{"Type", "ZQQuestionItem"}, {"BoundingBox", box}, {"R_Content_svg", text}});
         }
     }
     return {{"Width", "1440"}, {"Slides", QJsonArray{QJsonObject{{"Items", items}}}}};

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace lessonhost {
 
@@ -116,10 +117,46 @@ QPolygonF withoutRepeats(QPolygonF points)
     return points;
 }
 
+// Whether no point is taken for another one, or for the one before it, when it has six digits and single precision.
+bool isWellApart(const QPolygonF &points)
+{
+    constexpr double farthest = 9999; // the last digit is a hundredth
+    constexpr double nearest = 3 * smallestDistance;
+    for (int i = 0; i < points.size(); ++i) {
+        const QPointF &point = points.at(i);
+        if (!(std::abs(point.x()) < farthest && std::abs(point.y()) < farthest)
+            || (i > 0 && !(std::hypot(point.x() - points.at(i - 1).x(), point.y() - points.at(i - 1).y()) > nearest))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
+QPolygonF shortLineOf(const QJsonObject &stroke, const QPolygonF &line)
+{
+    constexpr int fewPoints = 16;
+    if (line.size() <= fewPoints || !isNothing(stroke.value(ItemKeys::matrix)) || !isWhole(stroke, nullptr)
+        || !isWellApart(line)) {
+        return {};
+    }
+    const auto place = [&line](const QPointF &point) { return int(&point - line.constData()); };
+    const auto [left, right] = std::minmax_element(
+        line.cbegin(), line.cend(), [](const QPointF &one, const QPointF &other) { return one.x() < other.x(); });
+    const auto [top, bottom] = std::minmax_element(
+        line.cbegin(), line.cend(), [](const QPointF &one, const QPointF &other) { return one.y() < other.y(); });
+    const std::set<int> kept{
+        0, 1, place(*left), place(*right), place(*top), place(*bottom), line.size() - 2, line.size() - 1};
+    QPolygonF few;
+    for (const int index : kept) {
+        few.append(line.at(index));
+    }
+    return isWellApart(few) ? few : QPolygonF();
+}
+
 bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const OutlineSource &outlines,
-                  const QTransform &moved)
+                  const QTransform &moved, const QPolygonF &line)
 {
     const ShapeForm *form = shapeForm(given.value(ItemKeys::type).toString());
     const ShapeForm *foundForm = shapeForm(found.value(ItemKeys::type).toString());
@@ -135,8 +172,11 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const Outl
     if (!hasPlace || (isUnplaced && !form && !isInkItem(given, form) && ItemView(given).isSetUpright())) {
         return false;
     }
-    QPolygonF drawn = drawnPoints(isUnplaced || isInkItem(given, form) ? given : placed, form, outlines);
-    drawn = isInkItem(given, form) ? fineLine(drawn) : drawn;
+    QPolygonF drawn = line;
+    if (line.isEmpty()) {
+        drawn = drawnPoints(isUnplaced || isInkItem(given, form) ? given : placed, form, outlines);
+        drawn = isInkItem(given, form) ? fineLine(drawn) : drawn;
+    }
     const QPolygonF one = withoutRepeats(moved.map(drawn));
     const QPolygonF other = withoutRepeats(drawnPoints(found, foundForm, outlines));
     return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isSamePoint);

@@ -2,6 +2,7 @@
 #include "iwb/iwbitemwriter.h"
 
 #include "files/pictures.h"
+#include "iwb/drawnplace.h"
 #include "iwb/iwbmedia.h"
 #include "iwb/shapeplacing.h"
 #include "iwb/textrunloan.h"
@@ -147,7 +148,7 @@ IwbItemWriter::IwbItemWriter(const Setting &setting)
 }
 
 QDomElement IwbItemWriter::write(QDomDocument &document, const QJsonObject &item, const QString &id,
-                                 const SlideLosses &losses)
+                                 const SlideLosses &losses, bool isMoved)
 {
     m_document = document;
     m_given = item;
@@ -155,13 +156,14 @@ QDomElement IwbItemWriter::write(QDomDocument &document, const QJsonObject &item
     m_losses = losses;
     m_linkedFile.clear();
     m_missingFile.clear();
+    m_shortLine.clear();
     const ItemView view(item);
     const QString type = view.type();
     QDomElement element;
     if (const ShapeForm *form = shapeForm(type)) {
         element = writeShape(item, *form);
     } else if (isInk(type) && view.has(ItemKeys::steps)) {
-        element = writeStroke(item);
+        element = writeStroke(item, isMoved);
     } else if (isTextBoard(type)) {
         element = writeText(item);
     } else if (mediaFolder(type)) {
@@ -211,14 +213,20 @@ QDomElement IwbItemWriter::writeShape(const QJsonObject &item, const ShapeForm &
     return element;
 }
 
-QDomElement IwbItemWriter::writeStroke(const QJsonObject &item)
+QDomElement IwbItemWriter::writeStroke(const QJsonObject &item, bool isMoved)
 {
     const ItemView view(item);
-    const QPolygonF points = fineLine(placeOfStroke(view).map(view.strokePoints()));
+    QPolygonF points = fineLine(placeOfStroke(view).map(view.strokePoints()));
     if (!m_setting.keepsInk || points.isEmpty()) {
         ++m_strokesLeftOut;
         tellFormless(m_setting.keepsInk ? say("it has no points") : Sentence(QStringLiteral("--ink drop")));
         return {};
+    }
+    constexpr int mostLeftOut = 100000; // or the page may be longer than a page may be
+    if (m_setting.isTried && !isMoved && m_pointsLeftOut + points.size() < mostLeftOut) {
+        m_shortLine = shortLineOf(item, points);
+        m_pointsLeftOut += m_shortLine.isEmpty() ? 0 : points.size() - m_shortLine.size();
+        points = m_shortLine.isEmpty() ? points : m_shortLine;
     }
     const ShapeForm &form = *shapeForm(QStringLiteral("ZQMath2DPolyline"));
     QJsonObject polyline = ownKeys(item);

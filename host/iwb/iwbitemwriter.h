@@ -6,7 +6,10 @@
 #include "losses/slidelosses.h"
 
 #include <QDomDocument>
+#include <QPolygonF>
 #include <QSet>
+
+#include <utility>
 
 class IZQTransformation;
 
@@ -29,13 +32,21 @@ public:
         bool convertsDrawings = false; //!< for the format's own rules: all has a place and files of the kinds it knows
         bool keepsLinks = true; //!< writes what items open
         bool isStored = true; //!< files go into a package, in the forms that it takes
+        bool isTried = false; //!< pages are only read back: long strokes may have a few of their points
     };
 
     explicit IwbItemWriter(const Setting &setting);
 
     //! The element of an item that stands on a page by itself, within its link, in no place yet; null, and told to
-    //! losses, for one that has no form. id: what the element is called. Records about it are added to the document.
-    QDomElement write(QDomDocument &document, const QJsonObject &item, const QString &id, const SlideLosses &losses);
+    //! losses, for one that has no form. id: what the element is called. isMoved: it won't
+    //! stay in its place. Records about it are added to the document.
+    QDomElement write(QDomDocument &document, const QJsonObject &item, const QString &id, const SlideLosses &losses,
+                      bool isMoved = false);
+
+    //! Where the item written last is a stroke with a few of its points: these.
+    QPolygonF shortLine() const { return m_shortLine; }
+    //! How many points were left out so since the last call.
+    int takePointsLeftOut() { return std::exchange(m_pointsLeftOut, 0); }
 
     //! A picture that stands for an item: hidden, locked and linked like it. reference: of the picture's file.
     QDomElement writePicture(QDomDocument &document, const QJsonObject &item, const QString &id,
@@ -54,7 +65,7 @@ public:
 
 private:
     QDomElement writeShape(const QJsonObject &item, const ShapeForm &form);
-    QDomElement writeStroke(const QJsonObject &item);
+    QDomElement writeStroke(const QJsonObject &item, bool isMoved);
     QDomElement writeText(const QJsonObject &item);
     QDomElement writeMedia(const QJsonObject &item);
     QDomElement writeCurtain(const QJsonObject &item);
@@ -77,6 +88,8 @@ private:
     QSet<QString> m_formless; // types that the plug-in gave no element for
     Sentence m_whyNot;
     bool m_tellsFormless = true;
+    QPolygonF m_shortLine;
+    int m_pointsLeftOut = 0;
     int m_strokes = 0;
     int m_strokesLeftOut = 0;
 };

@@ -277,7 +277,7 @@ void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const 
     QJsonObject back = found;
     removeFitting(own);
     const bool isUnderMatrix = !isNothing(given.value(ItemKeys::matrix));
-    if (isDrawnAlike(given, found, m_outlines, written.placed)) {
+    if (isDrawnAlike(given, found, m_outlines, written.placed, written.line)) {
         const auto control = wholeNumbers(given.value(ItemKeys::control));
         const bool hasPoints = control && control->size() % 2 == 0;
         for (const QLatin1String key : placeKeys) {

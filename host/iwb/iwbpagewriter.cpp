@@ -411,7 +411,8 @@ QDomElement IwbPageWriter::write(const PlacedItem &item, WrittenItem &row, const
     const bool isDrawn = needsPicture(item, rubbing, moved);
     QDomElement element;
     if (!isDrawn) {
-        element = m_items.write(m_document, item.item, row.id, losses);
+        element = m_items.write(m_document, item.item, row.id, losses, !moved.isIdentity());
+        row.line = m_items.shortLine();
         QDomElement inner = withinLink(element);
         if (canMove(moved, view) && !inner.isNull()) {
             moveOnPage(inner, moved);

@@ -28,6 +28,7 @@ public:
         QString id; //!< of its element; empty for an item that has no form
         bool isPicture = false; //!< its element is a picture of it
         QTransform placed; //!< from where the item says that it is to where its element is
+        QPolygonF line; //!< of a stroke that has a few of its points; empty for others
         int top = 0; //!< which of the slide's own items it is, or stands in
     };
 

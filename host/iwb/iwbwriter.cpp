@@ -33,6 +33,7 @@ IwbItemWriter::Setting itemSetting(const LessonContext &context, IwbMedia *media
     setting.plugin = context.plugin;
     setting.media = media;
     setting.convertsDrawings = true;
+    setting.isTried = context.isTrial;
     setting.keepsInk =
         context.options.value(QStringLiteral("ink"), QStringLiteral("polyline")) != QLatin1String("drop");
     return setting;
@@ -198,7 +199,10 @@ void IwbWriter::startPages()
 void IwbWriter::writePage(const QDomElement &page)
 {
     const QByteArray text = xmlLines(page, pageDepth);
-    checkSlideSize(text.size(), m_slides, m_target.target());
+    constexpr int lettersOfPoint = 16;
+    const qint64 leftOut = qint64(m_pages.items().takePointsLeftOut()) * lettersOfPoint;
+    checkSlideSize(text.size() + leftOut, m_slides, m_target.target());
+    m_contentSize += leftOut;
     append(text);
     m_pages.pageSet().removeChild(page);
     QDomElement root = m_pages.document().documentElement();
