@@ -7,7 +7,7 @@ set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/.ci/setup"
 install_missing_packages libbenchmark-dev
-build_project "$here" bench >&2
+build_project "$here" bench itembench growthbench drawbench lessonbench >&2
 LESSON_MARKS=$(mktemp)
 export LESSON_MARKS
 trap 'rm -f "$LESSON_MARKS"' EXIT

@@ -134,7 +134,7 @@ public:
         TransformationPlugin plugin;
         LessonContext context;
         context.plugin = &plugin;
-        context.makePainter = [&plugin](LessonReader &reader) {
+        context.makePainter = [&plugin](LessonReader &reader, bool) {
             return std::make_unique<SlideItemPainter>(reader, &plugin);
         };
         const QString written = folder.filePath(QStringLiteral("package"));
