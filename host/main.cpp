@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "command/command.h"
 #include "command/terminal.h"
-#include "files/language.h"
 #include "files/lessonerror.h"
+#include "sentences/language.h"
 
 #include <QGuiApplication>
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "files/language.h"
 #include "hostfixture.h"
+#include "sentences/language.h"
 
 #include <QDirIterator>
 #include <QDomDocument>

@@ -4,8 +4,8 @@
 
 #include "batch/batchshard.h"
 #include "files/inputguard.h"
-#include "files/sentence.h"
 #include "formats/lessonformats.h"
+#include "sentences/sentence.h"
 
 #include <QVector>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "command/browser.h"
 
-#include "files/language.h"
 #include "files/lessonerror.h"
 #include "files/packagetarget.h"
+#include "sentences/language.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 #ifndef BROWSER_H
 #define BROWSER_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 

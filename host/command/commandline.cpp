@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "command/commandline.h"
 
-#include "files/language.h"
 #include "files/lessonerror.h"
 #include "lesson/isoneof.h"
+#include "sentences/language.h"
 
 #include <QCoreApplication>
 #include <QThread>

@@ -4,7 +4,7 @@
 
 #include "batch/batchshard.h"
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QCommandLineParser>
 #include <QHash>

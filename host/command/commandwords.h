@@ -2,7 +2,7 @@
 #ifndef COMMANDWORDS_H
 #define COMMANDWORDS_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QStringList>
 

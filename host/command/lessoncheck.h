@@ -2,9 +2,9 @@
 #ifndef LESSONCHECK_H
 #define LESSONCHECK_H
 
-#include "files/sentence.h"
 #include "formats/lessonformats.h"
 #include "losses/lossreport.h"
+#include "sentences/sentence.h"
 
 #include <QJsonObject>
 #include <QVector>

@@ -2,7 +2,7 @@
 #ifndef PROGRESSBAR_H
 #define PROGRESSBAR_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QElapsedTimer>
 #include <QString>

@@ -2,7 +2,7 @@
 #ifndef TERMINAL_H
 #define TERMINAL_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 

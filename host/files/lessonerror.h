@@ -2,7 +2,7 @@
 #ifndef LESSONERROR_H
 #define LESSONERROR_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QJsonObject>
 #include <QString>

@@ -2,7 +2,7 @@
 #ifndef PACKAGENAMES_H
 #define PACKAGENAMES_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 #include <QStringList>

@@ -2,8 +2,8 @@
 #ifndef PACKAGESOURCE_H
 #define PACKAGESOURCE_H
 
-#include "files/sentence.h"
 #include "files/workfolder.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,7 +3,7 @@
 #define PICTURES_H
 
 #include "files/closedsvg.h"
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QByteArray>
 #include <QIODevice>

@@ -2,7 +2,7 @@
 #ifndef ZIPARCHIVE_H
 #define ZIPARCHIVE_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 #include <QStringList>

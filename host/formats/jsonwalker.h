@@ -2,7 +2,7 @@
 #ifndef JSONWALKER_H
 #define JSONWALKER_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QByteArray>
 #include <QJsonObject>

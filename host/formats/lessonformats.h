@@ -2,9 +2,9 @@
 #ifndef LESSONFORMATS_H
 #define LESSONFORMATS_H
 
-#include "files/sentence.h"
 #include "formats/lessoncontent.h"
 #include "lesson/lesson.h"
+#include "sentences/sentence.h"
 
 #include <QStringList>
 #include <QVector>

@@ -2,7 +2,7 @@
 #ifndef COUNTEDNAMES_H
 #define COUNTEDNAMES_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 namespace lessonhost {
 

@@ -2,7 +2,7 @@
 #ifndef KEYNAMES_H
 #define KEYNAMES_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 namespace lessonhost {
 

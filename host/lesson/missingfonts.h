@@ -2,7 +2,7 @@
 #ifndef MISSINGFONTS_H
 #define MISSINGFONTS_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QJsonArray>
 #include <QMap>

@@ -2,7 +2,7 @@
 #ifndef PLAINNAMES_H
 #define PLAINNAMES_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 

@@ -2,8 +2,8 @@
 #ifndef TEXTRUNS_H
 #define TEXTRUNS_H
 
-#include "files/sentence.h"
 #include "iwbtextinfo.h"
+#include "sentences/sentence.h"
 
 #include <QString>
 #include <QStringList>

@@ -2,7 +2,7 @@
 #ifndef VALUERANGES_H
 #define VALUERANGES_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QJsonValue>
 

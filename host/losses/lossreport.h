@@ -2,7 +2,7 @@
 #ifndef LOSSREPORT_H
 #define LOSSREPORT_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QHash>
 #include <QJsonObject>

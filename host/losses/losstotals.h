@@ -2,7 +2,7 @@
 #ifndef LOSSTOTALS_H
 #define LOSSTOTALS_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QJsonObject>
 #include <QMap>

@@ -2,8 +2,8 @@
 #ifndef PLAINLOSSES_H
 #define PLAINLOSSES_H
 
-#include "files/sentence.h"
 #include "losses/lossreport.h"
+#include "sentences/sentence.h"
 
 #include <set>
 

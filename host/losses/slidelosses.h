@@ -2,7 +2,7 @@
 #ifndef SLIDELOSSES_H
 #define SLIDELOSSES_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QJsonObject>
 #include <QSet>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "files/sentence.h"
 #include "render/pdfpages.h"
+#include "sentences/sentence.h"
 
 #include <cairo-pdf.h>
 #include <librsvg/rsvg.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/differencepage.h"
 
-#include "files/language.h"
 #include "render/slidepictures.h"
+#include "sentences/language.h"
 
 namespace lessonhost {
 

@@ -3,8 +3,8 @@
 #define DIFFERENCEPAGE_H
 
 #include "files/packagetarget.h"
-#include "files/sentence.h"
 #include "render/htmlpictures.h"
+#include "sentences/sentence.h"
 
 namespace lessonhost {
 

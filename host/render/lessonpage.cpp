@@ -2,11 +2,11 @@
 #include "render/lessonpage.h"
 
 #include "files/inputfile.h"
-#include "files/language.h"
 #include "files/outputfile.h"
 #include "render/differencepage.h"
 #include "render/pagefiles.h"
 #include "render/slidepictures.h"
+#include "sentences/language.h"
 
 #include <QCryptographicHash>
 #include <QDir>

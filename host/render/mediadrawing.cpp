@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "render/mediadrawing.h"
 
-#include "files/sentence.h"
 #include "lesson/plainnames.h"
 #include "lesson/planegeometry.h"
 #include "render/itemoutline.h"
 #include "render/outline.h"
 #include "render/svgelements.h"
+#include "sentences/sentence.h"
 #include "svg/svgstyle.h"
 
 #include <QFileInfo>

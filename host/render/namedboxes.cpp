@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "render/namedboxes.h"
 
-#include "files/sentence.h"
 #include "lesson/closedtext.h"
 #include "lesson/itemview.h"
 #include "lesson/plainnames.h"
 #include "render/itemoutline.h"
 #include "render/plainsvg.h"
+#include "sentences/sentence.h"
 
 namespace lessonhost {
 

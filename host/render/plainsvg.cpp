@@ -4,7 +4,6 @@
 #include "files/closedsvg.h"
 #include "files/domtools.h"
 #include "files/drawingbounds.h"
-#include "files/language.h"
 #include "files/lessonerror.h"
 #include "files/xmlloader.h"
 #include "iwb/iwbmedia.h"
@@ -14,6 +13,7 @@
 #include "render/labellines.h"
 #include "render/picturestore.h"
 #include "render/svgelements.h"
+#include "sentences/language.h"
 #include "svg/svgstyle.h"
 #include "svg/svgvalues.h"
 

@@ -3,8 +3,8 @@
 #define PLAINSVG_H
 
 #include "files/pictures.h"
-#include "files/sentence.h"
 #include "render/innersvg.h"
+#include "sentences/sentence.h"
 
 #include <QColor>
 #include <QDomDocument>

@@ -2,9 +2,9 @@
 #ifndef RENDERING_H
 #define RENDERING_H
 
-#include "files/sentence.h"
 #include "lesson/lesson.h"
 #include "render/rendersettings.h"
+#include "sentences/sentence.h"
 
 #include <QJsonObject>
 

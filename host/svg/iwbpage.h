@@ -2,7 +2,7 @@
 #ifndef IWBPAGE_H
 #define IWBPAGE_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QDomDocument>
 #include <QHash>

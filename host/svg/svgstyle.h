@@ -2,7 +2,7 @@
 #ifndef SVGSTYLE_H
 #define SVGSTYLE_H
 
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
 #include <QColor>
 #include <QDomElement>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "files/sentence.h"
+#include "sentences/sentence.h"
 
-#include "files/language.h"
+#include "sentences/language.h"
 
 namespace lessonhost {
 
