@@ -6398,11 +6398,11 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
     </message>
     <message>
         <source>its items were put into another order by another program</source>
-        <translation>ihre Objekte wurden von einem anderen Programm umgeordnet</translation>
+        <translation>ihre Elemente wurden von einem anderen Programm umgeordnet</translation>
     </message>
     <message>
         <source>its items were put elsewhere by another program</source>
-        <translation>ihre Objekte wurden von einem anderen Programm woandershin gestellt</translation>
+        <translation>ihre Elemente wurden von einem anderen Programm woandershin gestellt</translation>
     </message>
     <message numerus="yes">
         <source>%n things are another program&apos;s work: %1</source>

@@ -2149,7 +2149,7 @@ or something is wrong that check looks for, 2 not done.</source>
     </message>
     <message>
         <source>stroke-dasharray &quot;%1&quot; became dash dot dot</source>
-        <translation>stroke-dasharray“%1”变成点划线</translation>
+        <translation>stroke-dasharray“%1”变成双点划线</translation>
     </message>
     <message>
         <source>&lt;%1&gt; within text is left out</source>
@@ -3232,7 +3232,7 @@ or something is wrong that check looks for, 2 not done.</source>
     <message numerus="yes">
         <source>%n Flash films</source>
         <translation>
-            <numerusform>%n 个Flash 动画</numerusform>
+            <numerusform>%n 个 Flash 动画</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3382,7 +3382,7 @@ or something is wrong that check looks for, 2 not done.</source>
     <message numerus="yes">
         <source>%n horseshoe magnets</source>
         <translation>
-            <numerusform>%n 个U 形磁铁</numerusform>
+            <numerusform>%n 个 U 形磁铁</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3850,13 +3850,13 @@ or something is wrong that check looks for, 2 not done.</source>
     <message numerus="yes">
         <source>%n set squares of 30 and 60 degrees</source>
         <translation>
-            <numerusform>%n 个30°、60° 三角板</numerusform>
+            <numerusform>%n 个 30°、60° 三角板</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n set squares of 45 degrees</source>
         <translation>
-            <numerusform>%n 个45° 三角板</numerusform>
+            <numerusform>%n 个 45° 三角板</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4120,7 +4120,7 @@ or something is wrong that check looks for, 2 not done.</source>
     <message numerus="yes">
         <source>%n U-tubes</source>
         <translation>
-            <numerusform>%n 个U 形管</numerusform>
+            <numerusform>%n 个 U 形管</numerusform>
         </translation>
     </message>
     <message numerus="yes">
