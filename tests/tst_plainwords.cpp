@@ -51,15 +51,17 @@ private:
             {"value", Loss::Value},         {"item", Loss::Item},       {"file", Loss::File},
             {"picture", Loss::AsPicture},   {"hidden", Loss::NotShown}, {"other", Loss::Otherwise},
             {"emptied", Loss::Emptied},     {"kept", Loss::Kept},       {"note", Loss::Note},
-            {"empty", Loss::EmptiedElsewhere}};
+            {"empty", Loss::EmptiedElsewhere}, {"gone", Loss::Otherwise}};
         LossReport report;
         for (const QString &line : losses.split('\n')) {
             QStringList words = line.split(' ');
             words.replaceInStrings(QRegularExpression("^~$"), "");
+            const bool isFile = words.first() == "gone";
             const bool isShown = words.first().endsWith('+');
             Loss loss{kinds.value(words.takeFirst().remove('+')), words.takeFirst().toInt(), words.takeFirst(),
                       words.takeFirst(), words.takeFirst(), Sentence(words.join(' '))};
             loss.isShown = isShown;
+            loss.isFile = isFile;
             report.add(loss);
         }
         return report;
@@ -158,10 +160,11 @@ private slots:
             "Not shown in the result:\n  a.png (1 picture on slide 2): no such file.");
         row("other boards",
             "picture 1 ZQMindMapItem m ~ ~\nhidden 1 ZQGapItem n ~ ~\nother 1 ZQMath2DCircle c LockIn 1\n"
-            "other 1 ZQMath2DCircle c Type x\nempty 2 slide s ~ ~",
+            "other 1 ZQMath2DCircle c Type x\ngone 1 ZQImagePic p a.png no such file\nempty 2 slide s ~ ~",
             "Not shown by other boards:\n  Slide 2 is empty there.\n"
             "  1 x Gap Item on slide 1: other boards have no such thing.\n"
             "Shown by other boards, but not the same:\n  1 mind map on slide 1: as a picture.\n"
+            "  a.png (1 picture on slide 1): no such file.\n"
             "  Lock: 1 circle on slide 1.\nOnly internal, and nothing to other boards: kind of item.\n"
             "The lesson itself travels along in the file, so that lessonconv brings all of it back.");
         row("what is told", "kept 1 ZQGadget g ~ ~\nnote 0 ink ~ ~ 2 strokes became polylines\n"

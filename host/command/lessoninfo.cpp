@@ -138,6 +138,12 @@ QString line(const Sentence &name, const QString &value)
     return padded(name.local(), valueColumn - 2) + QLatin1String("  ") + value + QLatin1Char('\n');
 }
 
+QString sizeText(qint64 bytes)
+{
+    constexpr qint64 kibibyte = 1024;
+    return bytes < kibibyte ? sayNumber("%n bytes", bytes).local() : QLocale::c().formattedDataSize(bytes);
+}
+
 QString countLines(const QMap<QString, int> &counts)
 {
     QString text;
@@ -221,7 +227,7 @@ QString LessonInfo::toText() const
     }
     text +=
         line(say("Files"),
-             QStringLiteral("%1 (%2)").arg(QString::number(resources), QLocale::c().formattedDataSize(resourceBytes)));
+             QStringLiteral("%1 (%2)").arg(QString::number(resources), sizeText(resourceBytes)));
     if (!missingFiles.isEmpty()) {
         text += line(say("Missing files"), missingFiles.join(QLatin1String(", ")));
     }

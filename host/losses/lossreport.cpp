@@ -291,7 +291,7 @@ Loss::Group groupOf(const Loss &loss)
     switch (loss.kind) {
     case Loss::Value:
     case Loss::Otherwise:
-        return loss.isShown || isInternalPlace(loss.key) ? Loss::Internal : Loss::Different;
+        return !loss.isFile && (loss.isShown || isInternalPlace(loss.key)) ? Loss::Internal : Loss::Different;
     case Loss::Item:
     case Loss::NotShown:
         return loss.isShown ? Loss::Different : Loss::Missing;
@@ -314,7 +314,8 @@ void LossReport::add(const Loss &loss)
 {
     // The entries of a large lesson differ in little but their places.
     m_entries.append(
-        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail), loss.isShown});
+        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail), loss.isShown,
+         loss.isFile});
     if (isLoss(loss.kind)) {
         ++m_lossCount;
     }

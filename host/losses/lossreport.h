@@ -47,6 +47,7 @@ struct Loss
     QString key; //!< JSON key, XML attribute or file
     Sentence detail; //!< what it was, or why; may be empty
     bool isShown = false; //!< of an item that isn't there: there is something in its place; of a value: it looks the same
+    bool isFile = false; //!< of what is otherwise elsewhere: the key is the name of a file
 };
 
 //! False for what is only named.

@@ -288,7 +288,7 @@ private:
             const bool isValue = loss.kind == Loss::Value || loss.kind == Loss::Otherwise;
             if (loss.kind == Loss::Emptied || loss.kind == Loss::EmptiedElsewhere) {
                 append(slides, emptySlide(loss));
-            } else if (loss.kind == Loss::File) {
+            } else if (loss.kind == Loss::File || loss.isFile) {
                 append(files, fileLine(loss));
             } else if (isValue && !loss.key.isEmpty()) {
                 values.add(plainPlaceName(loss.key), loss);

@@ -73,7 +73,10 @@ void SlideLosses::kept(const LossOwner &owner) const
 
 void SlideLosses::file(const LossOwner &owner, const QString &reference, const Sentence &why) const
 {
-    add(m_isElsewhere ? Loss::Otherwise : Loss::File, owner, reference, why);
+    if (m_report) {
+        m_report->add({m_isElsewhere ? Loss::Otherwise : Loss::File, m_slide, owner.type, owner.id, reference, why, false,
+                       m_isElsewhere});
+    }
 }
 
 void SlideLosses::changed(const LossOwner &owner, const Sentence &how) const

@@ -6537,5 +6537,12 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <source>Part of a text</source>
         <translation>Textteil</translation>
     </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Bytes</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -2222,5 +2222,12 @@
             <numerusform>%n parts of texts</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

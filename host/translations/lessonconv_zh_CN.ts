@@ -6219,5 +6219,11 @@ or something is wrong that check looks for, 2 not done.</source>
         <source>Part of a text</source>
         <translation>文字片段</translation>
     </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n 字节</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>
