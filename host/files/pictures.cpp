@@ -257,17 +257,13 @@ Sentence Picture::drawingProblem() const
     if (m_format != "svg") {
         return {};
     }
-    try {
-        return drawing().isEmpty ? say("it is a drawing with nothing in it") : Sentence();
-    } catch (const LessonError &error) {
-        checkDevice(m_device.get());
-        if (error.isOfMachine()) {
-            throw;
-        }
-        return qMax<qint64>(m_device->size(), drawingText().size()) > largestDrawing
-            ? say("it is a larger drawing than can be read")
-            : say("it is a damaged picture");
+    PixelBudget budget;
+    if (const auto svg = readDrawing(budget)) {
+        return svg->isEmpty ? say("it is a drawing with nothing in it") : Sentence();
     }
+    return qMax<qint64>(m_device->size(), drawingText().size()) > largestDrawing
+        ? say("it is a larger drawing than can be read")
+        : say("it is a damaged picture");
 }
 
 QSize Picture::size() const
@@ -276,14 +272,9 @@ QSize Picture::size() const
         return {};
     }
     if (m_format == "svg") {
-        try {
-            return QSvgRenderer(drawing().text).defaultSize();
-        } catch (const LessonError &error) {
-            if (error.isOfMachine()) {
-                throw;
-            }
-            return {};
-        }
+        PixelBudget budget;
+        const auto svg = readDrawing(budget);
+        return svg ? QSvgRenderer(svg->text).defaultSize() : QSize();
     }
     m_device->seek(0);
     return QImageReader(m_device.get(), m_format).size();
@@ -302,15 +293,8 @@ QImage Picture::image(qint64 most, PixelBudget &budget) const
         return {};
     }
     if (m_format == "svg") {
-        try {
-            return drawn(drawing(budget).text, most);
-        } catch (const LessonError &error) {
-            checkDevice(m_device.get());
-            if (error.isOfMachine()) {
-                throw;
-            }
-            return {};
-        }
+        const auto svg = readDrawing(budget);
+        return svg ? drawn(svg->text, most) : QImage();
     }
     m_device->seek(0);
     QImageReader reader(m_device.get(), m_format);
@@ -418,6 +402,20 @@ ClosedSvg Picture::drawing(PixelBudget &budget) const
     }
     return closedSvg(text, QStringLiteral("svg"),
                      [&](const QString &reference) { return addressOf(reference, budget); });
+}
+
+// Nothing for what is no drawing that can be read.
+std::optional<ClosedSvg> Picture::readDrawing(PixelBudget &budget) const
+{
+    try {
+        return drawing(budget);
+    } catch (const LessonError &error) {
+        checkDevice(m_device.get());
+        if (error.isOfMachine()) {
+            throw;
+        }
+        return std::nullopt;
+    }
 }
 
 QString Picture::addressOf(const QString &reference, PixelBudget &budget) const

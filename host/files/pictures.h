@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace lessonhost {
 
@@ -88,6 +89,7 @@ private:
     QByteArray content() const;
     QByteArray drawingText() const;
     ClosedSvg drawing(PixelBudget &budget) const;
+    std::optional<ClosedSvg> readDrawing(PixelBudget &budget) const;
     QImage image(qint64 most, PixelBudget &budget) const;
     QString addressOf(const QString &reference, PixelBudget &budget) const;
     friend QString embeddedPicture(const QString &address, PixelBudget &budget);
