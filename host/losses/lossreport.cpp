@@ -51,23 +51,6 @@ QString name(const Loss &loss)
     return text;
 }
 
-// "ZQChalkStroke.Weight on slide 3", "... on slides 3 to 9" or "... on 5 slides from 3 to 9"; the name of what is
-// of the presentation alone.
-Sentence onSlides(const Sentence &name, const std::set<int> &slides)
-{
-    if (slides.empty() || *slides.rbegin() == 0) {
-        return name;
-    }
-    const int first = *slides.begin();
-    const int last = *slides.rbegin();
-    const int count = int(slides.size());
-    if (count == 1) {
-        return say("%1 on slide %2").arg(name, first);
-    }
-    return count == last - first + 1 ? say("%1 on slides %2 to %3").arg(name, first, last)
-                                     : sayNumber("%1 on %n slides from %2 to %3", count).arg(name, first, last);
-}
-
 // "9 ZQPhysicsDianZu, 3 ZQMindMapItem", the most frequent first.
 Sentence counted(const QMap<QString, int> &counts)
 {
@@ -308,6 +291,21 @@ Loss::Group groupOf(const Loss &loss)
         break;
     }
     return Loss::Told;
+}
+
+Sentence onSlides(const Sentence &name, const std::set<int> &slides)
+{
+    if (slides.empty() || *slides.rbegin() == 0) {
+        return name;
+    }
+    const int first = *slides.begin();
+    const int last = *slides.rbegin();
+    const int count = int(slides.size());
+    if (count == 1) {
+        return say("%1 on slide %2").arg(name, first);
+    }
+    return count == last - first + 1 ? say("%1 on slides %2 to %3").arg(name, first, last)
+                                     : sayNumber("%1 on %n slides from %2 to %3", count).arg(name, first, last);
 }
 
 void LossReport::add(const Loss &loss)

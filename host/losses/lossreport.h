@@ -10,6 +10,8 @@
 #include <QString>
 #include <QVector>
 
+#include <set>
+
 namespace lessonhost {
 
 /*!
@@ -69,6 +71,10 @@ Sentence lossLine(Loss::Kind kind, qint64 count, const Sentence &listed, const Q
 
 //! At most 20 names, and how many there are besides.
 Sentence lossNames(const Sentences &names);
+
+//! "Circle 3 on slide 3", "... on slides 3 to 9" or "... on 5 slides from 3 to 9"; the name of what is of the
+//! presentation alone, which is slide 0.
+Sentence onSlides(const Sentence &name, const std::set<int> &slides);
 
 /*!
  * Collects losses in the order in which they are found and puts them into words and JSON.

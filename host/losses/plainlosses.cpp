@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 namespace lessonhost {
 
@@ -81,7 +82,7 @@ public:
         if (m_count > 0) {
             std::set<int> slides = m_slides;
             slides.erase(0);
-            parts.append(placed(items(), slides));
+            parts.append(onSlides(items(), slides));
         }
         return listed(parts);
     }
@@ -354,21 +355,6 @@ Sentence groupTitle(Loss::Group group, bool isElsewhere)
         break;
     }
     return say("Note");
-}
-
-Sentence placed(const Sentence &what, const std::set<int> &slides)
-{
-    if (slides.empty() || *slides.rbegin() == 0) {
-        return what;
-    }
-    const int first = *slides.begin();
-    const int last = *slides.rbegin();
-    const int count = int(slides.size());
-    if (count == 1) {
-        return say("%1 on slide %2").arg(what, first);
-    }
-    return count == last - first + 1 ? say("%1 on slides %2 to %3").arg(what, first, last)
-                                     : sayNumber("%1 on %n slides from %2 to %3", count).arg(what, first, last);
 }
 
 Sentences indented(Sentences lines)

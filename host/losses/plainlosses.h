@@ -5,8 +5,6 @@
 #include "losses/lossreport.h"
 #include "sentences/sentence.h"
 
-#include <set>
-
 namespace lessonhost {
 
 // What was lost, in the words of who gives the lesson.
@@ -21,9 +19,6 @@ Sentences indented(Sentences lines);
 
 //! The heading of a group, such as "In the result, but not the same".
 Sentence groupTitle(Loss::Group group, bool isElsewhere = false);
-
-//! "2 circles on slides 1 to 3"; slides are counted from 1, and none or 0 are the lesson as a whole.
-Sentence placed(const Sentence &what, const std::set<int> &slides);
 
 } // namespace lessonhost
 
