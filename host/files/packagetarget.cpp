@@ -219,6 +219,33 @@ private:
     std::optional<Placing> m_placing;
 };
 
+/*!
+ * The folders in which a target lies until it is complete, and what stood in its place from then on.
+ */
+struct StagedFolders
+{
+    //! path: of the one in parent that holds the others. Throws LessonError about shownTarget.
+    StagedFolders(const Folder &parent, const QString &path, const QString &shownTarget)
+        : staging(parent, QFile::encodeName(QFileInfo(path).fileName()))
+        , package(staging, "package")
+        , replaced(withReplaced(staging, shownTarget), replacedName)
+    {
+    }
+
+    Folder staging;
+    Folder package;
+    Folder replaced;
+
+private:
+    static const Folder &withReplaced(const Folder &staging, const QString &shownTarget)
+    {
+        if (::mkdirat(staging.descriptor(), replacedName, 0700) != 0) {
+            throw systemError(shownTarget);
+        }
+        return staging;
+    }
+};
+
 // What a killed run had moved aside to make place goes back, if nothing took its place since.
 void restoreReplaced(const Folder &staging, const Folder &parent)
 {
@@ -510,15 +537,10 @@ void PackageTarget::commitFile()
         }
         return;
     }
-    const Folder staging(*m_parent, QFile::encodeName(QFileInfo(m_staging).fileName()));
-    const Folder package(staging, "package");
-    if (::mkdirat(staging.descriptor(), replacedName, 0700) != 0) {
-        throw systemError(m_shownTarget);
-    }
-    const Folder replaced(staging, replacedName);
+    const StagedFolders staged(*m_parent, m_staging, m_shownTarget);
     waitForDisk();
     const QString folder = m_paths.constBegin()->section(QLatin1Char('/'), 0, 0);
-    PlacingBeside placing(package, *m_parent, replaced, QFile::encodeName(folder));
+    PlacingBeside placing(staged.package, *m_parent, staged.replaced, QFile::encodeName(folder));
     for (const QString &path : qAsConst(m_paths)) {
         if (!placing.place(QFile::encodeName(path.mid(folder.size() + 1)))) {
             throw systemError(shownPlace(path));
@@ -532,19 +554,14 @@ void PackageTarget::commitFile()
 
 void PackageTarget::commitFiles()
 {
-    const Folder staging(*m_parent, QFile::encodeName(QFileInfo(m_staging).fileName()));
-    const Folder package(staging, "package");
-    if (::mkdirat(staging.descriptor(), replacedName, 0700) != 0) {
-        throw systemError(m_shownTarget);
-    }
-    const Folder replaced(staging, replacedName);
+    const StagedFolders staged(*m_parent, m_staging, m_shownTarget);
     for (const QString &path : qAsConst(m_paths)) {
         const QString place = QFileInfo(m_target).path() + QLatin1Char('/') + path;
         checkPlace(place, shownPlace(path));
         keepPermissions(directory() + QLatin1Char('/') + path, place);
     }
     waitForDisk();
-    Placing placing(package, *m_parent, replaced);
+    Placing placing(staged.package, *m_parent, staged.replaced);
     for (const QString &path : qAsConst(m_paths)) {
         if (!placing.place(QFile::encodeName(path))) {
             throw systemError(m_shownTarget);

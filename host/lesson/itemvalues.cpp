@@ -133,22 +133,20 @@ QString valueText(const QJsonValue &value)
 void makeNumbersFinite(QJsonObject &item)
 {
     const auto isInfinite = [](const QJsonValue &value) { return value.isDouble() && !qIsFinite(value.toDouble()); };
+    const auto replaceIn = [&isInfinite](auto values, QJsonObject::iterator place) {
+        if (std::any_of(values.constBegin(), values.constEnd(), isInfinite)) {
+            std::replace_if(values.begin(), values.end(), isInfinite, QJsonValue(0));
+            place.value() = values;
+        }
+    };
     for (auto it = item.begin(); it != item.end(); ++it) {
         const QJsonValue value = it.value();
         if (isInfinite(value)) {
             it.value() = 0;
         } else if (value.isArray()) {
-            QJsonArray array = value.toArray();
-            if (std::any_of(array.constBegin(), array.constEnd(), isInfinite)) {
-                std::replace_if(array.begin(), array.end(), isInfinite, QJsonValue(0));
-                it.value() = array;
-            }
+            replaceIn(value.toArray(), it);
         } else if (value.isObject()) {
-            QJsonObject object = value.toObject();
-            if (std::any_of(object.constBegin(), object.constEnd(), isInfinite)) {
-                std::replace_if(object.begin(), object.end(), isInfinite, QJsonValue(0));
-                it.value() = object;
-            }
+            replaceIn(value.toObject(), it);
         }
     }
 }
