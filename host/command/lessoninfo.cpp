@@ -225,9 +225,7 @@ QString LessonInfo::toText() const
     if (!activities.isEmpty()) {
         text += line(say("Activities"), QString::number(sum(activities))) + countLines(activities);
     }
-    text +=
-        line(say("Files"),
-             QStringLiteral("%1 (%2)").arg(QString::number(resources), sizeText(resourceBytes)));
+    text += line(say("Files"), QStringLiteral("%1 (%2)").arg(QString::number(resources), sizeText(resourceBytes)));
     if (!missingFiles.isEmpty()) {
         text += line(say("Missing files"), missingFiles.join(QLatin1String(", ")));
     }

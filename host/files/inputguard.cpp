@@ -31,7 +31,8 @@ QString resolvedPath(const QString &path)
     if (info.exists()) {
         return info.canonicalFilePath();
     }
-    return info.isRoot() || info.path() == path ? info.filePath() : QDir(resolvedPath(info.path())).filePath(info.fileName());
+    return info.isRoot() || info.path() == path ? info.filePath()
+                                                : QDir(resolvedPath(info.path())).filePath(info.fileName());
 }
 
 QString parentOf(const QString &path)

@@ -104,8 +104,7 @@ bool polylineShows(const QString &key, const QJsonValue &value, const QJsonObjec
     return std::any_of(std::begin(shapeColors), std::end(shapeColors), [&](const ShapeKey &row) {
         const QLatin1String place(row.polyline);
         return key == QLatin1String(row.shape)
-            && (isSameValue(key, value, polyline.value(place), writtenDigits)
-                || (isUnfilled && place == fillColorKey));
+            && (isSameValue(key, value, polyline.value(place), writtenDigits) || (isUnfilled && place == fillColorKey));
     });
 }
 
@@ -302,9 +301,10 @@ void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const 
     rules.isSame = [&](const QString &key, const QJsonValue &value, const QJsonValue &back) {
         return isFileKey(key) ? isSameFile(given, value, back, losses) : isInvisible(value) && isInvisible(back);
     };
-    const bool isPolylineNow = found.contains(ItemKeys::polyline) && !given.contains(ItemKeys::polyline)
-        && !given.contains(ItemKeys::steps);
-    const bool isEmpty = valueText(given.value(fillKey)) == QLatin1String("0") && isNothing(found.value(fillOfShapeKey));
+    const bool isPolylineNow =
+        found.contains(ItemKeys::polyline) && !given.contains(ItemKeys::polyline) && !given.contains(ItemKeys::steps);
+    const bool isEmpty =
+        valueText(given.value(fillKey)) == QLatin1String("0") && isNothing(found.value(fillOfShapeKey));
     rules.isUnseen = [&](const QString &key, const QJsonValue &value) {
         return isPolylineNow ? polylineShows(key, value, given, found) : isEmpty && key == fillOfShapeKey;
     };

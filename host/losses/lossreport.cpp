@@ -311,9 +311,8 @@ Sentence onSlides(const Sentence &name, const std::set<int> &slides)
 void LossReport::add(const Loss &loss)
 {
     // The entries of a large lesson differ in little but their places.
-    m_entries.append(
-        {loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail), loss.isShown,
-         loss.isFile});
+    m_entries.append({loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail),
+                      loss.isShown, loss.isFile});
     if (isLoss(loss.kind)) {
         ++m_lossCount;
     }

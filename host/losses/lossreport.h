@@ -48,7 +48,8 @@ struct Loss
     QString itemId;
     QString key; //!< JSON key, XML attribute or file
     Sentence detail; //!< what it was, or why; may be empty
-    bool isShown = false; //!< of an item that isn't there: there is something in its place; of a value: it looks the same
+    //! Of an item that isn't there: there is something in its place; of a value: all looks the same without it.
+    bool isShown = false;
     bool isFile = false; //!< of what is otherwise elsewhere: the key is the name of a file
 };
 

@@ -74,8 +74,8 @@ void SlideLosses::kept(const LossOwner &owner) const
 void SlideLosses::file(const LossOwner &owner, const QString &reference, const Sentence &why) const
 {
     if (m_report) {
-        m_report->add({m_isElsewhere ? Loss::Otherwise : Loss::File, m_slide, owner.type, owner.id, reference, why, false,
-                       m_isElsewhere});
+        m_report->add({m_isElsewhere ? Loss::Otherwise : Loss::File, m_slide, owner.type, owner.id, reference, why,
+                       false, m_isElsewhere});
     }
 }
 

@@ -290,8 +290,7 @@ void IwbOutline::nameUnread(const QDomElement &row)
     }
     for (auto it = unread.cbegin(); it != unread.cend(); ++it) {
         m_recordRemarks.append({QLatin1String("iwb:") + iwbName(row), refOf(row),
-                                say("%1 \"%2\" is left out").arg(it.key(), it.value().left(80)),
-                                false});
+                                say("%1 \"%2\" is left out").arg(it.key(), it.value().left(80)), false});
     }
 }
 
