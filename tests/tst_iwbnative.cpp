@@ -222,6 +222,13 @@ private slots:
             convert("there", "back.json");
             QVERIFY(items("back.json").contains("ZQMath2DPolyline hexagon"));
         }
+        QDir(path("there")).removeRecursively();
+        convert(EXAMPLES_DIR "/geometry", "there");
+        QFile::remove(path("there/additional/native/page1.json"));
+        putFile(path("there/additional/native/page1.json"), "{");
+        const QString told = convert("there", "back.json");
+        QVERIFY2(told.contains("of the lesson itself is damaged") && !told.contains("another program"), qPrintable(told));
+        QVERIFY(items("back.json").contains("ZQMath2DPolyline hexagon"));
     }
 };
 

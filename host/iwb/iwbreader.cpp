@@ -300,9 +300,14 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
         }
     } else {
         slide = m_slides.read(m_content.page(index), index + 1, losses).slide;
-        slide.properties.insert(SlideKeys::id, m_slideIds.at(index));
-        if (m_native.isThere()) {
-            losses.changed({QStringLiteral("slide"), m_slideIds.at(index)}, say("added by another program"));
+        const bool isDamaged = m_isNative.at(index);
+        const QString id = isDamaged ? m_package.outline().pageId(index) : m_slideIds.at(index);
+        slide.properties.insert(SlideKeys::id, id);
+        const LossOwner owner(QStringLiteral("slide"), id);
+        if (isDamaged) {
+            losses.note(owner, say("what the file has of the lesson itself is damaged, so it is read as others show it"));
+        } else if (m_native.isThere()) {
+            losses.changed(owner, say("added by another program"));
         }
     }
     checkSlideItems(slide.items, index + 1, m_package.displayName());

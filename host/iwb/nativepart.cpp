@@ -240,6 +240,9 @@ std::optional<NativePage> NativePart::page(const QString &pageId) const
         return {};
     }
     const QJsonObject json = objectIn(m_package.file(file), file);
+    if (json.isEmpty()) {
+        return {};
+    }
     const QJsonObject background = json.value(Keys::background).toObject();
     NativePage page;
     page.slide = json.value(Keys::slide).toObject();

@@ -83,7 +83,8 @@ public:
     QSizeF size() const { return m_size; }
     //! Of the pages that were written, in their order.
     const QStringList &pageIds() const { return m_pageIds; }
-    //! What the page with that identifier was made of. Throws LessonError where the file can't be read.
+    //! What the page with that identifier was made of; nothing where its part is damaged. Throws LessonError where the
+    //! file can't be read.
     std::optional<NativePage> page(const QString &pageId) const;
 
     //! Paths of the lesson's files in the package, by those in the lesson.

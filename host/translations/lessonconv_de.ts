@@ -6544,5 +6544,9 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
             <numerusform>%n Bytes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>what the file has of the lesson itself is damaged, so it is read as others show it</source>
+        <translation>was die Datei von der Lektion selbst hat, ist beschädigt, daher ist sie gelesen, wie andere sie zeigen</translation>
+    </message>
 </context>
 </TS>

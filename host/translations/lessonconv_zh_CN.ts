@@ -6225,5 +6225,9 @@ or something is wrong that check looks for, 2 not done.</source>
             <numerusform>%n 字节</numerusform>
         </translation>
     </message>
+    <message>
+        <source>what the file has of the lesson itself is damaged, so it is read as others show it</source>
+        <translation>文件中的课件本身已损坏，因此按其他白板所显示的内容读取</translation>
+    </message>
 </context>
 </TS>
