@@ -3,6 +3,8 @@
 
 #include "files/lessonerror.h"
 #include "files/packagenames.h"
+#include "files/placing.h"
+#include "files/staginglock.h"
 #include "files/ziparchive.h"
 
 #include <QDir>
@@ -12,75 +14,12 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <optional>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace lessonhost {
-
-/*!
- * A lock file that the system gives up when its process ends, at whatever moment that is. Who holds it removes it.
- */
-class StagingLock
-{
-public:
-    enum Kind { Own, Left }; //!< a new one, or one that is there and whose run may be no more
-
-    StagingLock(const Folder &folder, const QByteArray &name, Kind kind)
-        : m_folder(folder)
-        , m_name(name)
-        , m_descriptor(::openat(folder.descriptor(), name.constData(),
-                                O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | (kind == Own ? O_CREAT | O_EXCL : 0),
-                                0666))
-    {
-        m_error = m_descriptor < 0 ? errno : 0;
-        if (m_descriptor < 0) {
-            return;
-        }
-        // Where the file system knows no locks, a run may go on, and nothing is swept.
-        const bool isLocked = ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || (kind == Own && errno != EWOULDBLOCK);
-        m_isHeld = isLocked && isOwnAndThere();
-    }
-
-    ~StagingLock()
-    {
-        if (m_isHeld) {
-            ::unlinkat(m_folder.descriptor(), m_name.constData(), 0);
-        }
-        if (m_descriptor >= 0) {
-            ::close(m_descriptor);
-        }
-    }
-    StagingLock(const StagingLock &) = delete;
-    StagingLock &operator=(const StagingLock &) = delete;
-
-    bool isHeld() const { return m_isHeld; }
-    //! Lets the file be, for the next sweep.
-    void leave() { m_isHeld = false; }
-    //! An errno, where it can't be made.
-    int error() const { return m_error; }
-
-private:
-    // A sweep may have removed it between the two steps.
-    bool isOwnAndThere() const
-    {
-        struct stat opened = {};
-        struct stat there = {};
-        return ::fstat(m_descriptor, &opened) == 0
-            && ::fstatat(m_folder.descriptor(), m_name.constData(), &there, AT_SYMLINK_NOFOLLOW) == 0
-            && opened.st_ino == there.st_ino && opened.st_dev == there.st_dev && opened.st_uid == ::geteuid()
-            && S_ISREG(opened.st_mode);
-    }
-
-    const Folder &m_folder;
-    QByteArray m_name;
-    int m_descriptor;
-    int m_error = 0;
-    bool m_isHeld = false;
-};
 
 namespace {
 
@@ -114,110 +53,6 @@ bool exchange(const QString &one, const QString &other)
                        RENAME_EXCHANGE)
         == 0;
 }
-
-/*!
- * Files that are put in their places one after the other, and all of them back if one can't be.
- */
-class Placing
-{
-public:
-    Placing(const Folder &from, const Folder &to, const Folder &aside)
-        : m_from(from)
-        , m_to(to)
-        , m_aside(aside)
-    {
-    }
-
-    ~Placing()
-    {
-        for (auto name = m_begun.crbegin(); name != m_begun.crend(); ++name) {
-            if (!move(m_aside, m_to, *name) && errno == ENOENT) {
-                move(m_to, m_from, *name);
-            }
-        }
-    }
-    Placing(const Placing &) = delete;
-    Placing &operator=(const Placing &) = delete;
-
-    // What is there already stays beside the new file, under a second name where the file system knows such.
-    bool place(const QByteArray &name)
-    {
-        const bool isAside =
-            ::linkat(m_to.descriptor(), name.constData(), m_aside.descriptor(), name.constData(), 0) == 0
-            || errno == ENOENT || move(m_to, m_aside, name) || errno == ENOENT;
-        if (isAside) {
-            m_begun.append(name);
-        }
-        return isAside && move(m_from, m_to, name);
-    }
-
-    void keep() { m_begun.clear(); }
-
-private:
-    static bool move(const Folder &from, const Folder &to, const QByteArray &name)
-    {
-        return ::renameat(from.descriptor(), name.constData(), to.descriptor(), name.constData()) == 0;
-    }
-
-    const Folder &m_from;
-    const Folder &m_to;
-    const Folder &m_aside;
-    QVector<QByteArray> m_begun;
-};
-
-/*!
- * The files that go into a folder beside the target, which is made for them if it isn't there.
- */
-class PlacingBeside
-{
-public:
-    // name: the folder's, in the package and beside it.
-    PlacingBeside(const Folder &package, const Folder &parent, const Folder &replaced, const QByteArray &name)
-        : m_parent(parent)
-        , m_name(name)
-        , m_isMade(::mkdirat(parent.descriptor(), name.constData(), 0777) == 0)
-        , m_error(m_isMade || errno == EEXIST ? 0 : errno)
-        , m_isAsideMade(::mkdirat(replaced.descriptor(), name.constData(), 0700) == 0)
-        , m_asideError(m_isAsideMade ? 0 : errno)
-        , m_from(package, name)
-        , m_to(parent, name)
-        , m_aside(replaced, name)
-    {
-        m_placing.emplace(m_from, m_to, m_aside);
-    }
-    ~PlacingBeside()
-    {
-        m_placing.reset();
-        if (m_isMade) {
-            ::unlinkat(m_parent.descriptor(), m_name.constData(), AT_REMOVEDIR); // only if it is empty
-        }
-    }
-    PlacingBeside(const PlacingBeside &) = delete;
-    PlacingBeside &operator=(const PlacingBeside &) = delete;
-
-    // False with errno where it can't be.
-    bool place(const QByteArray &name)
-    {
-        if (m_error || m_asideError || !m_to.isOpen()) {
-            errno = m_error ? m_error : m_asideError ? m_asideError : ENOTDIR;
-            return false;
-        }
-        return m_placing->place(name);
-    }
-    void keep() { m_placing->keep(); }
-
-private:
-    const Folder &m_parent;
-    QByteArray m_name;
-    bool m_isMade;
-    int m_error;
-    bool m_isAsideMade;
-    int m_asideError;
-    Folder m_from;
-    Folder m_to;
-    Folder m_aside;
-    std::optional<Placing> m_placing;
-};
 
 /*!
  * The folders in which a target lies until it is complete, and what stood in its place from then on.
