@@ -8,7 +8,7 @@
 namespace lessonhost {
 
 /*!
- * How many lessons are converted or drawn.
+ * What is done with many lessons, and how.
  */
 struct BatchSettings
 {
@@ -35,7 +35,7 @@ struct BatchWatcher
 };
 
 /*!
- * Converts or draws the lessons of a plan in worker processes. Each takes one lesson after the other; one that crashes
+ * Has the lessons of a plan worked on in worker processes. Each takes one lesson after the other; one that crashes
  * fails its lesson and is started anew. An interruption from the terminal ends the run between two results: what was
  * being made is removed. Throws LessonError if nothing can be done at all.
  */

@@ -28,7 +28,7 @@ public:
 
     //! head: BatchTotals::toHead().
     void begin(const QJsonObject &head);
-    //! {"input", "output", "state", "losses" or "drawn" or "message"}
+    //! {"input", "output", "state", BatchWork::resultKey or "message"}
     void add(const QJsonObject &lesson);
     void endLessons();
     void passOver(const QString &file);
