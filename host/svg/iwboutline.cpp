@@ -4,7 +4,6 @@
 #include "lesson/isoneof.h"
 #include "lesson/numbertexts.h"
 #include "svg/svgnames.h"
-#include "svg/svgpagebuilder.h"
 #include "svg/svgvalues.h"
 
 #include <QMap>
@@ -203,7 +202,7 @@ XmlVisitor::Way IwbOutline::beginInSection(const QDomElement &element)
         return Inside;
     }
     rememberPage(QStringRef(&id));
-    if (SvgPageBuilder::isDrawn(name)) {
+    if (isDrawnName(name)) {
         m_strays.append({name, id, say("it stands on no page and is left out")});
     }
     if (element.parentNode() == m_section && name == QLatin1String("rect")) {

@@ -7,6 +7,9 @@ namespace lessonhost {
 
 namespace {
 
+// Elements that show nothing by themselves.
+constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
+
 QString prefixOf(const QString &name)
 {
     const int colon = name.indexOf(QLatin1Char(':'));
@@ -84,6 +87,11 @@ QString iwbName(const QDomElement &element)
         }
     }
     return {};
+}
+
+bool isDrawnName(const QString &name)
+{
+    return !name.isEmpty() && !isOneOf(silentElements, name);
 }
 
 bool isIwbRecord(const QDomElement &element)

@@ -19,6 +19,9 @@ QString svgName(const QDomElement &element);
 //! The same for the vocabulary of IWB files; an element without any namespace counts here too.
 QString iwbName(const QDomElement &element);
 
+//! True for the name of an svg element that shows something, converted or not; false for an empty text.
+bool isDrawnName(const QString &name);
+
 //! What the records of IWB files are called that say something of an element.
 constexpr const char *iwbRecordNames[] = {"element", "group", "tspan", "link"};
 

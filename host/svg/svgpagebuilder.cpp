@@ -13,9 +13,6 @@ namespace lessonhost {
 
 namespace {
 
-// Elements that show nothing by themselves.
-constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
-
 // The format that an alternative asks for and that nothing here draws; empty for one that can be shown.
 QString unknownFormat(const QDomElement &element)
 {
@@ -76,11 +73,6 @@ const QHash<QString, SvgPageBuilder::Walk> &SvgPageBuilder::walks()
     return table;
 }
 
-bool SvgPageBuilder::isDrawn(const QString &svgName)
-{
-    return !svgName.isEmpty() && !isOneOf(silentElements, svgName);
-}
-
 IwbPage SvgPageBuilder::build(const QVector<XmlPart> &layers)
 {
     for (const XmlPart &layer : layers) {
@@ -105,7 +97,7 @@ IwbPage SvgPageBuilder::build(const QDomElement &page, const QVector<QDomElement
 void SvgPageBuilder::convert(const QDomElement &element, const SvgPlace &outer)
 {
     const QString name = svgName(element);
-    if (isOneOf(silentElements, name)) {
+    if (!name.isEmpty() && !isDrawnName(name)) {
         nameWithoutPage(element, name);
         return;
     }
@@ -130,7 +122,7 @@ void SvgPageBuilder::nameWithoutPage(const QDomElement &element, const QString &
 {
     for (QDomElement child = element.firstChildElement(); !child.isNull() && name != QLatin1String("defs");
          child = child.nextSiblingElement()) {
-        if (isDrawn(svgName(child))) {
+        if (isDrawnName(svgName(child))) {
             m_page.remark(child, say("it stands on no page and is left out"));
         }
     }

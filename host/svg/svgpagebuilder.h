@@ -22,9 +22,6 @@ public:
     //! that are its background, and no items.
     IwbPage build(const QDomElement &page, const QVector<QDomElement> &chosen, const QVector<QDomElement> &backgrounds);
 
-    //! True for svg elements that show something, converted or not.
-    static bool isDrawn(const QString &svgName);
-
 private:
     using Walk = void (SvgPageBuilder::*)(const QDomElement &, const SvgPlace &);
     static const QHash<QString, Walk> &walks();
