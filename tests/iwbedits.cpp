@@ -155,7 +155,8 @@ void IwbEdits::findElements()
         m_free.append(QStringList());
         for (const QJsonObject &leaf : leaves) {
             const QString id = leaf.value("ID").toString();
-            if (isPlain && m_elements.contains(id) && m_plain.contains(id)) {
+            const bool isOne = !m_elements.contains(id + "_part1");
+            if (isPlain && isOne && m_elements.contains(id) && m_plain.contains(id)) {
                 m_free.last().append(id);
             }
         }
@@ -182,6 +183,10 @@ QVector<QDomElement> IwbEdits::elementsOf(const QJsonObject &item) const
         const QDomElement element = m_elements.value(leaf.value("ID").toString());
         if (!element.isNull()) {
             const QDomElement child = childOfPage(element);
+            for (int i = 1; m_elements.contains(leaf.value("ID").toString() + "_part%1"_s.arg(i)); ++i) {
+                const QDomElement part = m_elements.value(leaf.value("ID").toString() + "_part%1"_s.arg(i));
+                part.parentNode() == child.parentNode() ? elements.append(part) : void(); // else in its link
+            }
             const QDomElement area = fillBehind(element);
             elements += area.isNull() || area.parentNode() != child.parentNode() ? QVector<QDomElement>{child}
                                                                                  : QVector<QDomElement>{area, child};

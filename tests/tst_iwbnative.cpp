@@ -88,7 +88,10 @@ private slots:
     void editsWin_data()
     {
         const Table<QString, QString, QString, QString> row("from", "to", "items", "told");
-        const QString all = "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s"_s;
+        const QString all =
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s"_s;
+        // A resistor is a rectangle and two lines.
+        const QString grouped = QString(all).replace("ZQPhysicsDianZu r", "ZQGroupItem group1_1");
         row("nothing", "", "", all, "");
         row("written anew", " version=\"1.0\" ", "  version='1.0' ", all, "");
         row("other digits and blanks", "stroke-width=\"3\"", "stroke-width=' 3.0 '", all, "");
@@ -98,7 +101,8 @@ private slots:
         row("groups around all", "~(?s)(<svg:page [^>]*>)(.*)(</svg:page>)", "\\1<svg:g><svg:g/>\\2</svg:g>\\3", all,
             "");
         row("a group that does something", "~(<svg:polygon id=\"h\"[^>]*/>)", "<svg:g fill='red'>\\1</svg:g>",
-            "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQSmoothStroke s", "h changed");
+            "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s",
+            "h changed");
         row("a second background", "~(?s)(<svg:rect id=\"1_rect\"[^>]*/>)(.*)</iwb>",
             "\\1<svg:rect id='new' width='800' height='600' fill='red'/>\\2<iwb:element ref='new' "
             "background='true'/></iwb>",
@@ -108,25 +112,43 @@ private slots:
             "background='true'/></iwb>",
             "ZQMath2DRectangle 1_rect, " + all, "1 its background was changed, 1_rect added");
         row("a colour", "rgb(1,2,3)", "rgb(200,2,3)",
-            "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQSmoothStroke s", "h changed");
-        row("moved picture", "~(<svg:image id=\"r\"[^>]*) x=\"[^\"]*\"", "\\1 x=\"300\"",
-            "ZQImagePic r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s", "r changed");
+            "ZQPhysicsDianZu r, ZQMath2DPolyline h, ZQGroupItem g, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s",
+            "h changed");
+        const QString part = "~(<svg:line id=\"r_part1\"[^>]*)"_s;
+        row("a part moved", part + " x1=\"10\"", "\\1 x1=\"12\"", grouped, "r changed");
+        row("a part removed", part + ">", "", grouped, "r changed");
+        row("a part in front", QString(part).insert(1, "(?s)") + "(>.*)(<svg:rect id=\"r\"[^>]*>)", "\\3\\1\\2",
+            grouped, "r changed");
+        row("all parts but one removed", "~(?s)<svg:line id=\"r_part1.*<svg:rect id=\"r\"", "<svg:rect id='r'",
+            QString(all).replace("ZQPhysicsDianZu", "ZQMath2DRectangle"), "r changed");
+        row("all parts removed", "~(?s)<svg:line id=\"r_part1.*<svg:rect id=\"r\"", "<svg:removed ",
+            QString(all).remove("ZQPhysicsDianZu r, "), "r removed");
+        row("parts that are no group", "~<iwb:element ref=\"r[^\"]*\"/>", "", all, "");
+        row("a part that is in no group", "<iwb:element ref=\"r_part1\"/>", "", "ZQMath2DSegment r_part1, " + grouped,
+            "r changed");
+        row("moved picture", "~(<svg:image id=\"p\"[^>]*) x=\"[^\"]*\"", "\\1 x=\"300\"",
+            QString(all).replace("ZQPhysicsTanhuangcheng", "ZQImagePic"), "p changed");
         row("one of a group", "rgb(4,5,6)", "rgb(4,5,60)", all, "a changed");
         row("taken out of its group", "<iwb:element ref=\"a\"/>", "",
-            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DCircle a, ZQMath2DCircle b, ZQSmoothStroke s",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DCircle a, ZQMath2DCircle b, ZQPhysicsTanhuangcheng p, "
+            "ZQSmoothStroke s",
             "g its items");
         row("put into a group", "<iwb:element ref=\"a\"/>", "<iwb:element ref='h'/><iwb:element ref='a'/>",
-            "ZQPhysicsDianZu r, ZQGroupItem g, ZQSmoothStroke s", "g its items");
-        row("removed", "<svg:circle", "<svg:removed", "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQSmoothStroke s",
+            "ZQPhysicsDianZu r, ZQGroupItem g, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s", "g its items");
+        row("removed", "<svg:circle", "<svg:removed",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s",
             "a removed, b removed");
         row("added", "<svg:circle id=\"a\"",
             "<svg:line id='new' x1='1' y1='2' x2='3' y2='9' stroke='red'/><svg:circle id=\"a\"",
-            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DSegment new, ZQGroupItem g, ZQSmoothStroke s",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQMath2DSegment new, ZQGroupItem g, ZQPhysicsTanhuangcheng p, "
+            "ZQSmoothStroke s",
             "new added");
         row("locked by a record", "</iwb>", "<iwb:element ref='s' locked='true'/></iwb>",
-            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s", "s changed");
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s",
+            "s changed");
         row("without its cover", "id=\"s_cover\"", "id='else'",
-            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQSmoothStroke s, ZQMath2DPolyline else",
+            "ZQPhysicsDianZu r, ZQMath2DNormalHexagon h, ZQGroupItem g, ZQPhysicsTanhuangcheng p, ZQSmoothStroke s, "
+            "ZQMath2DPolyline else",
             "else added");
     }
 
@@ -145,6 +167,7 @@ private slots:
             "{\"Type\":\"ZQMath2DCircle\",\"ID\":\"a\",\"BoundingBox\":\"400,10,450,60\",\"ArtObj_Color\":\"255,4,5,"
             "6\"},"
             "{\"Type\":\"ZQMath2DCircle\",\"ID\":\"b\",\"BoundingBox\":\"460,10,510,60\"}]},"
+            "{\"Type\":\"ZQPhysicsTanhuangcheng\",\"ID\":\"p\",\"BoundingBox\":\"600,10,650,210\"},"
             "{\"Type\":\"ZQSmoothStroke\",\"ID\":\"s\",\"XY\":\"10,300,20,5,20,-5\",\"Width\":\"4\",\"CoverLayer\":"
             "\"1\"}]}]}");
         convert("in.json", "there");

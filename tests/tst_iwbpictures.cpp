@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostfixture.h"
+#include "render/plainoutlines.h"
+#include "testtable.h"
 
 #include <QDir>
+#include <QDomDocument>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -136,6 +139,71 @@ private slots:
             const int count = differingPixels(wanted, found);
             QVERIFY2(count <= 60, qPrintable("%1 pixels differ in package %2. %3"_s.arg(count).arg(package, report)));
         }
+    }
+
+    // What a drawing becomes that few elements show, and which needs more.
+    void tellsPlainOutlines_data()
+    {
+        const Table<QString, QString> row("drawing", "elements");
+        row("nothing", "", "");
+        row("a box", "<path d='M1 2L11 2L11 8L1 8L1 2Z' fill='#0000ff' stroke='none'/>",
+            "rect x=1 y=2 width=10 height=6 fill=#0000ff stroke=none");
+        row("a turned box", "<rect x='0' y='0' width='10' height='4' fill='red' transform='rotate(90)'/>",
+            "rect x=-4 y=0 width=4 height=10 fill=#ff0000 stroke=none");
+        row("a slanted box", "<rect width='10' height='4' fill='red' transform='matrix(1 0 1 1 0 0)'/>",
+            "polygon points=0,0 10,0 14,4 4,4 fill=#ff0000 stroke=none");
+        row("a line and a bent one",
+            "<g transform='matrix(2 0 0 2 0 0)' stroke='#123456'><path fill='none' d='M0 0L5 0M1 1L2 2L4 1' "
+            "stroke-width='3' stroke-linejoin='round' stroke-dasharray='2,1' stroke-opacity='.2'/></g>",
+            "line x1=0 y1=0 x2=10 y2=0 stroke=#123456 stroke-opacity=0.2 stroke-width=6 stroke-dasharray=4,2; "
+            "polyline points=2,2 3,3 4,4 8,2 stroke=#123456 stroke-opacity=0.2 stroke-width=6 stroke-linejoin=round "
+            "stroke-dasharray=4,2");
+        row("an open line with a fill", "<path d='M0 0L5 0L5 5' fill='#00ff00' stroke='#000000'/>",
+            "polygon points=0,0 5,0 5,5 fill=#00ff00 stroke=none; "
+            "polyline points=0,0 2.5,0 5,0 5,5 stroke=#000000 stroke-width=1");
+        row("round", "<circle cx='5' cy='5' r='3' fill='none' stroke='red'/><ellipse rx='2' ry='1'/>",
+            "circle cx=5 cy=5 r=3 fill=none stroke=#ff0000 stroke-width=1; "
+            "ellipse cx=0 cy=0 rx=2 ry=1 fill=#000000 stroke=none");
+        row("a hole", "<path d='M0 0L9 0L9 9L0 9ZM3 3L3 6L6 6L6 3Z' fill='red'/>",
+            "polygon points=0,0 9,0 9,9 0,9 0,0 3,3 3,6 6,6 6,3 3,3 fill=#ff0000 stroke=none");
+        row("filled where it overlaps", "<path d='M0 0L9 0L9 9L0 9ZM3 3L12 3L12 12L3 12Z' fill='red'/>", "no");
+        row("apart", "<path d='M0 0L9 0L9 9ZM30 0L39 0L39 9Z' fill='red'/>",
+            "polygon points=0,0 9,0 9,9 fill=#ff0000 stroke=none; polygon points=30,0 39,0 39,9 fill=#ff0000 "
+            "stroke=none");
+        row("letters",
+            "<text x='3' y='9' font-size='20' font-family='Arial' fill='#010203' font-weight='bold'>a b </text>",
+            "text x=3 y=9 fill=#010203 font-family=Arial font-size=20 font-weight=bold: a b");
+        row("turned letters", "<text x='3' y='9' font-size='20' fill='red' transform='matrix(0 2 -2 0 0 0)'>a</text>",
+            "text x=-18 y=6 fill=#ff0000 font-size=40 transform=rotate(90,-18,6): a");
+        row("letters of nobody's font", "<text font-family='sans-serif' font-size='9' fill='red'>long line</text>",
+            "no");
+        row("mirrored letters", "<text transform='matrix(-1 0 0 1 0 0)' font-size='9' fill='red'>a</text>", "no");
+        row("letters from the right", "<text font-family='Arial' font-size='9' fill='red'>&#x5d0;</text>", "no");
+        row("two blanks", "<text text-anchor='end' font-family='Arial' font-size='9' fill='red'>a  b</text>", "no");
+        row("a stretched line", "<path d='M0 0L5 0L3 9' stroke='red' transform='matrix(2 0 0 1 0 0)'/>", "no");
+        row("translucent together", "<rect width='9' height='9' stroke='red' opacity='.5'/>", "no");
+        row("a translucent group", "<g opacity='.5'><rect width='9' height='9'/></g>", "no");
+        row("a pattern", "<rect width='9' height='9' fill='url(#a)'/>", "no");
+        row("a cut", "<rect width='9' height='9' clip-path='url(#a)'/>", "no");
+        row("a picture", "<rect width='9' height='9'/><image width='9' height='9'/>", "no");
+        row("many", QString("<rect width='9' height='9'/>").repeated(9), "no");
+    }
+
+    void tellsPlainOutlines()
+    {
+        QFETCH(QString, drawing);
+        QFETCH(QString, elements);
+        QDomDocument document;
+        QVERIFY(document.setContent("<svg xmlns='http://www.w3.org/2000/svg'>" + drawing + "</svg>", false));
+        QStringList found;
+        for (const PlainElement &element : plainOutlines(document.documentElement())) {
+            QString text = element.tag.mid(4);
+            for (const auto &[name, value] : element.attributes) {
+                text += ' ' + name + '=' + value;
+            }
+            found.append(element.text.isEmpty() ? text : text + ": " + element.text);
+        }
+        QCOMPARE(found.isEmpty() && !drawing.isEmpty() ? "no" : found.join("; "), elements);
     }
 };
 

@@ -2,6 +2,7 @@
 #include "hostfixture.h"
 #include "lessondifference.h"
 #include "randomlesson.h"
+#include "render/slideitempainter.h"
 
 #include "formats/conversion.h"
 #include "lesson/itemvalues.h"
@@ -92,6 +93,13 @@ public:
         const bool isWhole = format == wholeIwb;
         if (!isWhole) {
             context.options.insert("plain", {});
+        }
+        if (isWhole) {
+            // Items that a few elements show; to paint the others takes time.
+            context.options.insert("items", "drop");
+            context.makePainter = [&context](LessonReader &reader, bool isTrial) {
+                return std::make_unique<SlideItemPainter>(reader, context.plugin, isTrial);
+            };
         }
         convertLesson(lessonFormatOfInput(input), input, lessonFormatByName(isWhole ? "iwb" : format),
                       folder() + '/' + to, context, [](int, int) {});

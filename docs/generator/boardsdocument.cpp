@@ -48,9 +48,10 @@ struct ElementWord
     const char *word;
 };
 constexpr ElementWord elementWords[] = {
-    {"svg:line", "line"},      {"svg:polyline", "open line"}, {"svg:polygon", "closed outline"},
-    {"svg:rect", "rectangle"}, {"svg:circle", "circle"},      {"svg:ellipse", "ellipse"},
-    {"svg:textarea", "text"},  {"svg:image", "picture"},      {"svg:video", "film"},
+    {"svg:line", "line"},         {"svg:polyline", "open line"}, {"svg:polygon", "closed outline"},
+    {"svg:rect", "rectangle"},    {"svg:circle", "circle"},      {"svg:ellipse", "ellipse"},
+    {"svg:textarea", "text"},     {"svg:image", "picture"},      {"svg:video", "film"},
+    {"svg:text", "line of text"},
 };
 
 QString pageOf(int index)
@@ -176,6 +177,15 @@ public:
         }
         if (m_made.contains(target)) {
             return QStringLiteral("as a picture");
+        }
+        const QString part = element.attribute(idName) + QLatin1String(partOfItem);
+        if (m_elements.contains(part + QLatin1Char('1'))) {
+            bool hasText = element.tagName() == QLatin1String("svg:text");
+            for (int i = 1; m_elements.contains(part + QString::number(i)); ++i) {
+                const QString tag = m_elements.value(part + QString::number(i)).tagName();
+                hasText = hasText || tag == QLatin1String("svg:text");
+            }
+            return hasText ? QStringLiteral("a group of outlines and text") : QStringLiteral("a group of outlines");
         }
         for (const ElementWord &row : elementWords) {
             if (element.tagName() == QLatin1String(row.tag)) {
@@ -329,8 +339,11 @@ pictures, films and links. This table tells for each kind of item what another b
 one of each. What isn't there for others isn't lost: the lesson travels along in the package, and `lessonconv` brings all of
 it back (IWB.md).
 
-- *line*, *outline*, *rectangle*, *text* and so on: the item itself. Its colours, its width and its place are there, and
-  another board can change them. A *line that is ink* is written on as with that board's own pen.
+- *line*, *outline*, *rectangle*, *text* and so on: the item itself, or the only outline that it shows. Its colours, its
+  width and its place are there, and another board can change them. A *line that is ink* is written on as with that
+  board's own pen.
+- *a group of outlines*: the item in a few lines and outlines, and lines of text, which look as it does here and move
+  together. Another board can take them apart and change each.
 - *as a picture*: it looks as it does here and can be moved, sized and deleted, but not played with, typed in or opened.
 - *a picture of it that plays the sound* or *opens the file*: a picture with a sign, to be touched. Films go so where the
   format hasn't their kind.

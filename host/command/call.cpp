@@ -99,11 +99,9 @@ LessonContext Call::conversionContext(const PluginHost &host, LossReport *losses
     context.verify = !isSet("no-check");
     context.readsAhead = hasIdleCores();
     context.options = m_line.formatOptions();
-    if (value("items") != QLatin1String("drop")) {
-        context.makePainter = [plugin = context.plugin](LessonReader &reader, bool isTrial) {
-            return std::make_unique<SlideItemPainter>(reader, plugin, isTrial);
-        };
-    }
+    context.makePainter = [plugin = context.plugin](LessonReader &reader, bool isTrial) {
+        return std::make_unique<SlideItemPainter>(reader, plugin, isTrial);
+    };
     return context;
 }
 

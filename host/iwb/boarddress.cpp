@@ -62,6 +62,7 @@ constexpr Vocabulary vocabularies[] = {
      "id|cx|cy|rx|ry|fill|fill-opacity|stroke|stroke-width|stroke-opacity|stroke-dasharray|stroke-linecap|transform"},
     {"svg:image", "id|xlink:href|x|y|width|height|transform"},
     {"svg:video", "id|xlink:href|x|y|width|height|transform"},
+    {"svg:text", "id|x|y|fill|font-family|font-size|font-style|font-weight|font-stretch|transform"},
     {"svg:textarea",
      "id|x|y|width|height|fill|font-family|font-size|font-style|font-weight|font-stretch|text-align|transform|xml:"
      "space"},
@@ -358,6 +359,7 @@ QJsonObject changedInMeta(const QHash<QString, QString> &meta, const QJsonObject
 void BoardDress::dress(QDomElement page, const Items &items)
 {
     m_elements.clear();
+    m_parts.clear();
     dressBackground(page);
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         if (isCover(child)) {
@@ -369,6 +371,7 @@ void BoardDress::dress(QDomElement page, const Items &items)
             }
         } else if (child.tagName() != boardLinkTag) {
             dressElement(child, items);
+            gatherParts(child);
         } else {
             child = isSoundOf(child) ? dressSound(child, items) : dressLink(child, items);
         }
@@ -396,15 +399,38 @@ QDomElement BoardDress::dressLink(QDomElement link, const Items &items)
     if (!stays || isWebAddress(target)) {
         removeLinkRecord(link);
     }
-    if (!stays) {
-        link.parentNode().replaceChild(inner, link);
-    }
     if (isSound) {
+        link.parentNode().replaceChild(inner, link);
         return dressSound(inner, items);
     }
     removeForeignAttributes(link);
-    dressElement(inner, items);
-    return stays ? link : inner;
+    QDomElement last;
+    while (!inner.isNull()) {
+        const QDomElement next = inner.nextSiblingElement();
+        if (!stays) {
+            link.parentNode().insertBefore(inner, link);
+        }
+        dressElement(inner, items);
+        gatherParts(inner);
+        last = inner;
+        inner = next;
+    }
+    if (!stays) {
+        link.parentNode().removeChild(link);
+    }
+    return stays ? link : last;
+}
+
+// What stands for an item together moves together.
+void BoardDress::gatherParts(const QDomElement &element)
+{
+    const QString id = element.attribute(idName);
+    if (itemOfPart(id) != id) {
+        m_parts += m_elements.take(id);
+    } else if (!m_parts.isEmpty() && m_elements.contains(id)) {
+        m_elements[id] = m_parts + m_elements.value(id);
+        m_parts.clear();
+    }
 }
 
 // A sound stands where its sign does, which is what others see, touch and move.

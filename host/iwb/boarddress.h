@@ -55,7 +55,10 @@ private:
 
     bool m_marksInk;
     int m_pageCount = 0;
+    void gatherParts(const QDomElement &element);
+
     QMap<QString, QStringList> m_elements; // identifiers of those that stand for an item of the page
+    QStringList m_parts; // of the item whose element comes next
 };
 
 //! The name that this program writes as a document's creator, before its version.

@@ -15,6 +15,7 @@
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "svg/inkpath.h"
+#include "svg/iwbpage.h"
 #include "svg/pluginoutlines.h"
 #include "svg/svggeometry.h"
 #include "svg/svgstyle.h"
@@ -502,6 +503,51 @@ QDomElement IwbItemWriter::writePicture(QDomDocument &document, const QJsonObjec
     return element;
 }
 
+// They take the place of a picture, which the plug-in has put into a link.
+QVector<QDomElement> IwbItemWriter::writeElements(QDomDocument &document, const QJsonObject &item, const QString &id,
+                                                  const QVector<PlainElement> &elements)
+{
+    const QDomElement whole = writePicture(document, item, id, QStringLiteral("images/"), QRectF(0, 0, 1, 1));
+    if (whole.isNull() || elements.isEmpty()) {
+        return {};
+    }
+    const QString cloneName = QStringLiteral("infiniteclone");
+    const QDomElement picture = innermost(whole);
+    QVector<QDomElement> written;
+    for (int i = 0; i < elements.size(); ++i) {
+        const PlainElement &plain = elements.at(i);
+        const bool isLast = i + 1 == elements.size();
+        QDomElement element = document.createElement(plain.tag);
+        element.setAttribute(QStringLiteral("id"),
+                             isLast ? id : id + QLatin1String(partOfItem) + QString::number(i + 1));
+        for (const auto &[name, value] : plain.attributes) {
+            element.setAttribute(name, value);
+        }
+        if (!plain.text.isEmpty()) {
+            element.appendChild(document.createTextNode(plain.text));
+        }
+        if (!ItemView(item).isVisible()) {
+            element.setAttribute(QStringLiteral("visibility"), QStringLiteral("hidden"));
+        }
+        if (picture.hasAttribute(cloneName)) {
+            element.setAttribute(cloneName, picture.attribute(cloneName));
+        }
+        if (!isLast && ItemView(item).isLocked()) {
+            addLock(element.attribute(QStringLiteral("id")));
+        }
+        written.append(element);
+    }
+    if (whole == picture) {
+        return written;
+    }
+    QDomNode link = picture.parentNode();
+    link.removeChild(picture);
+    for (const QDomElement &element : qAsConst(written)) {
+        link.appendChild(element);
+    }
+    return {whole};
+}
+
 // What the element says about the item beside its place and looks.
 void IwbItemWriter::complete(const QJsonObject &item, QDomElement element)
 {
@@ -511,11 +557,16 @@ void IwbItemWriter::complete(const QJsonObject &item, QDomElement element)
         inner.setAttribute(QStringLiteral("visibility"), QStringLiteral("hidden"));
     }
     if (view.isLocked()) {
-        QDomElement record = m_document.createElement(QStringLiteral("iwb:element"));
-        record.setAttribute(QStringLiteral("ref"), inner.attribute(QStringLiteral("id")));
-        record.setAttribute(QStringLiteral("locked"), QStringLiteral("true"));
-        m_document.documentElement().appendChild(record);
+        addLock(inner.attribute(QStringLiteral("id")));
     }
+}
+
+void IwbItemWriter::addLock(const QString &id)
+{
+    QDomElement record = m_document.createElement(QStringLiteral("iwb:element"));
+    record.setAttribute(QStringLiteral("ref"), id);
+    record.setAttribute(QStringLiteral("locked"), QStringLiteral("true"));
+    m_document.documentElement().appendChild(record);
 }
 
 } // namespace lessonhost

@@ -2,6 +2,7 @@
 #ifndef IWBITEMWRITER_H
 #define IWBITEMWRITER_H
 
+#include "lesson/lesson.h"
 #include "lesson/shapeforms.h"
 #include "losses/slidelosses.h"
 
@@ -52,6 +53,11 @@ public:
     QDomElement writePicture(QDomDocument &document, const QJsonObject &item, const QString &id,
                              const QString &reference, const QRectF &box);
 
+    //! The elements that show an item, from back to front, or the link that holds them: locked and linked like it. The
+    //! last is called as the item.
+    QVector<QDomElement> writeElements(QDomDocument &document, const QJsonObject &item, const QString &id,
+                                       const QVector<PlainElement> &elements);
+
     //! Whether items without a form are told to losses; if not, whyNot() has the reason for the last one.
     void setTellsFormless(bool tells) { m_tellsFormless = tells; }
     Sentence whyNot() const { return m_whyNot; }
@@ -77,6 +83,7 @@ private:
     void tellFormless(const Sentence &why);
     QDomElement convert(const QJsonObject &prepared);
     void complete(const QJsonObject &item, QDomElement element);
+    void addLock(const QString &id);
 
     Setting m_setting;
     QDomDocument m_document;

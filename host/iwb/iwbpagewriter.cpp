@@ -376,7 +376,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         element = withFilmLinked(element);
     }
     const QDomElement media = withinLink(element);
-    if (m_painter && media.tagName() == linkTag) {
+    if (m_makesPictures && media.tagName() == linkTag) {
         addSign(media, item);
     }
     if (media.hasAttribute(QLatin1String(filmMark))) {
@@ -386,6 +386,9 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
         m_ids.giveBack(row.id);
         row.id.clear();
     } else {
+        for (const QDomElement &behind : qAsConst(m_behind)) {
+            page.appendChild(behind);
+        }
         page.appendChild(element);
         if (isCovered) {
             const auto place = view.place();
@@ -401,7 +404,7 @@ void IwbPageWriter::addItem(QDomElement &page, const QJsonObject &given, const Q
     written.append(row);
 }
 
-// The element of an item, or of a picture of it.
+// The element of an item, or of what shows it.
 QDomElement IwbPageWriter::write(const PlacedItem &item, WrittenItem &row, const Around &around,
                                  const SlideLosses &losses)
 {
@@ -409,6 +412,7 @@ QDomElement IwbPageWriter::write(const PlacedItem &item, WrittenItem &row, const
     const QVector<PlacedItem> rubbing = around.ignoresEraser ? QVector<PlacedItem>() : rubbingOf(item);
     const QTransform moved = ownFlips(view) * item.placed;
     const bool isDrawn = needsPicture(item, rubbing, moved);
+    m_behind.clear();
     QDomElement element;
     if (!isDrawn) {
         element = m_items.write(m_document, item.item, row.id, losses, !moved.isIdentity());
@@ -421,13 +425,42 @@ QDomElement IwbPageWriter::write(const PlacedItem &item, WrittenItem &row, const
     }
     const bool isLine = isInk(view.type()) && !isDrawn; // that was asked to be left out, or has no points
     if (element.isNull() && m_painter) {
-        element = isLine ? QDomElement() : pictureOf(item, row.id, rubbing);
-        row.isPicture = !element.isNull();
+        element = isLine ? QDomElement() : paintedOf(item, rubbing, isDrawn, row);
         const Sentence why = isDrawn ? Sentence() : m_items.whyNot();
-        const bool isHidden = why.isEmpty() && !view.isVisible();
-        row.isPicture ? losses.picture(row.given) : losses.item(row.given, isHidden ? say("it is hidden") : why);
+        const bool isHidden = why.isEmpty() && !view.isVisible() && m_makesPictures;
+        row.isPicture        ? losses.picture(row.given)
+            : row.isOutlined ? losses.outlined(row.given)
+                             : losses.item(row.given, isHidden ? say("it is hidden") : why);
     }
     return element;
+}
+
+// Of an item that isn't to be seen there are elements at most. Ink of which something was rubbed out is no more than a
+// picture.
+QDomElement IwbPageWriter::paintedOf(const PlacedItem &item, const QVector<PlacedItem> &rubbing, bool isDrawn,
+                                     WrittenItem &row)
+{
+    const ItemView view(item.item);
+    const bool isPicture = isDrawn && isInk(view.type());
+    const ItemPainter::Form form = isPicture  ? ItemPainter::Picture
+        : m_makesPictures && view.isVisible() ? ItemPainter::Either
+                                              : ItemPainter::Elements;
+    PlacedItem shown = item;
+    shown.item.insert(ItemKeys::visible, true);
+    const auto painted = m_painter->paint(shown, rubbing, m_pageSize, form);
+    if (!painted) {
+        return {};
+    }
+    if (painted->elements.isEmpty()) {
+        const QDomElement picture = addPicture(*painted, item.item, row.id, fileTitle(view.type()));
+        row.isPicture = !picture.isNull();
+        return picture;
+    }
+    noteTexts(*painted);
+    m_behind = m_items.writeElements(m_document, item.item, row.id, painted->elements);
+    row.isOutlined = !m_behind.isEmpty();
+    row.elements = painted->elements.size();
+    return row.isOutlined ? m_behind.takeLast() : QDomElement();
 }
 
 // What rubs out a part of a stroke.
@@ -451,7 +484,7 @@ bool IwbPageWriter::needsPicture(const PlacedItem &item, const QVector<PlacedIte
 {
     const ItemView view(item.item);
     const bool isStroke = isInk(view.type());
-    if (!m_painter || !view.isVisible() || (isStroke && !m_keepsInk)) {
+    if (!m_makesPictures || !view.isVisible() || (isStroke && !m_keepsInk)) {
         return false;
     }
     const bool hasTexture = view.type() == QLatin1String("ZQStrokeTexture")
@@ -459,36 +492,23 @@ bool IwbPageWriter::needsPicture(const PlacedItem &item, const QVector<PlacedIte
     return !rubbing.isEmpty() || hasTexture || !canMove(moved, view);
 }
 
-void IwbPageWriter::setPainter(ItemPainter *painter)
+void IwbPageWriter::setPainter(ItemPainter *painter, bool makesPictures)
 {
     m_painter = painter;
+    m_makesPictures = painter && makesPictures;
     m_items.setTellsFormless(!painter);
 }
 
-// Nothing for an item that isn't to be seen.
-QDomElement IwbPageWriter::pictureOf(const PlacedItem &item, const QString &id, const QVector<PlacedItem> &rubbing,
-                                     const QRectF &frame)
+void IwbPageWriter::noteTexts(const PaintedItem &painted)
 {
-    const ItemView view(item.item);
-    if (!view.isVisible()) {
-        return {};
-    }
-    auto picture = m_painter->paint(item, rubbing, m_pageSize);
-    if (!picture) {
-        return {};
-    }
-    if (!frame.isEmpty()) {
-        picture->image = picture->image.isNull() ? QImage() : inFrame(*picture, frame);
-        picture->box = frame;
-    }
-    return addPicture(*picture, item.item, id, fileTitle(view.type()));
+    m_paintedWords += painted.words;
+    m_paintedFamilies += painted.families;
 }
 
 QDomElement IwbPageWriter::addPicture(const PaintedItem &picture, const QJsonObject &item, const QString &id,
                                       const QString &title)
 {
-    m_paintedWords += picture.words;
-    m_paintedFamilies += picture.families;
+    noteTexts(picture);
     IwbMedia::File file;
     file.source = QStringLiteral("page%1/%2.png").arg(m_number).arg(id);
     file.isConverted = true;
@@ -502,7 +522,7 @@ QDomElement IwbPageWriter::addPicture(const PaintedItem &picture, const QJsonObj
 // It moves with nothing.
 void IwbPageWriter::addGame(QDomElement &page, const LessonSlide &slide)
 {
-    const auto picture = m_painter ? m_painter->paintGame(slide, m_pageSize) : std::nullopt;
+    const auto picture = m_makesPictures ? m_painter->paintGame(slide, m_pageSize) : std::nullopt;
     if (picture) {
         const QString id = m_ids.take(page.attribute(QStringLiteral("id")) + QLatin1String(slideGame));
         page.appendChild(addPicture(*picture, {}, id, QStringLiteral("Game")));
@@ -545,7 +565,16 @@ void IwbPageWriter::addSign(QDomElement link, const QJsonObject &item)
     if (place) {
         sound.insert(ItemKeys::box, boxText(frame));
     }
-    const QDomElement sign = pictureOf({sound, {}}, signIdOf(link), {}, frame);
+    auto painted = ItemView(sound).isVisible() ? m_painter->paint({sound, {}}, {}, m_pageSize, ItemPainter::Picture)
+                                               : std::nullopt;
+    if (!painted) {
+        return;
+    }
+    if (!frame.isEmpty()) {
+        painted->image = painted->image.isNull() ? QImage() : inFrame(*painted, frame);
+        painted->box = frame;
+    }
+    const QDomElement sign = addPicture(*painted, sound, signIdOf(link), fileTitle(ItemView(sound).type()));
     if (!sign.isNull() && sign.tagName() == QLatin1String("svg:image")) {
         link.appendChild(sign);
     }
@@ -563,9 +592,9 @@ QString IwbPageWriter::idOf(const QJsonObject &item)
     static const QRegularExpression lineBreaks(QStringLiteral("[\\t\\n\\r]+"));
     id.replace(lineBreaks, QStringLiteral(" "));
     // Pages have identifiers, too, and so have what stands around an element, in it and behind it.
-    static const QRegularExpression otherName(
-        QStringLiteral("^page\\d+$|%1\\d+$|%2$|%3$")
-            .arg(QLatin1String(markedSpan), QLatin1String(coverBefore), QLatin1String(slideGame)));
+    static const QRegularExpression otherName(QStringLiteral("^page\\d+$|%1\\d+$|%2$|%3$|%4\\d+$")
+                                                  .arg(QLatin1String(markedSpan), QLatin1String(coverBefore),
+                                                       QLatin1String(slideGame), QLatin1String(partOfItem)));
     id = otherName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
     constexpr const char *endings[] = {"_link", soundSign, filmSign, lineFill, coverBefore};
     QString own = m_ids.take(id);

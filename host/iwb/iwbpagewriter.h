@@ -27,6 +27,8 @@ public:
         QJsonObject item; //!< the same, hidden, locked and linked by the groups that were around it
         QString id; //!< of its element; empty for an item that has no form
         bool isPicture = false; //!< its element is a picture of it
+        bool isOutlined = false; //!< its elements show it, and are of other items' kinds
+        int elements = 1; //!< how many of the page stand for it
         QTransform placed; //!< from where the item says that it is to where its element is
         QPolygonF line; //!< of a stroke that has a few of its points; empty for others
         int top = 0; //!< which of the slide's own items it is, or stands in
@@ -59,8 +61,9 @@ public:
     //! what items on two pages call themselves is kept.
     void setUniqueInDocument() { m_isUniqueInDocument = true; }
 
-    //! Items without a form become pictures; null for none. It has to live as long.
-    void setPainter(ItemPainter *painter);
+    //! Items without a form become elements of other forms where a few show the same, and else pictures; null for
+    //! neither. It has to live as long. makesPictures: false for elements alone.
+    void setPainter(ItemPainter *painter, bool makesPictures = true);
 
 private:
     //! What the groups around an item do with it.
@@ -80,13 +83,13 @@ private:
     void addItem(QDomElement &page, const QJsonObject &given, const QJsonObject &item, const SlideLosses &losses,
                  QVector<WrittenItem> &written, const Around &around);
     QDomElement write(const PlacedItem &item, WrittenItem &row, const Around &around, const SlideLosses &losses);
+    QDomElement paintedOf(const PlacedItem &item, const QVector<PlacedItem> &rubbing, bool isDrawn, WrittenItem &row);
     void findRubbing(const QJsonObject &item, const QTransform &placed, int &place);
     QVector<PlacedItem> rubbingOf(const PlacedItem &item) const;
     bool needsPicture(const PlacedItem &item, const QVector<PlacedItem> &rubbing, const QTransform &moved);
-    QDomElement pictureOf(const PlacedItem &item, const QString &id, const QVector<PlacedItem> &rubbing = {},
-                          const QRectF &frame = {});
     QDomElement addPicture(const PaintedItem &picture, const QJsonObject &item, const QString &id,
                            const QString &title);
+    void noteTexts(const PaintedItem &painted);
     void addGame(QDomElement &page, const LessonSlide &slide);
     void addCover(QDomElement &page, const QString &id, const QRectF &box, const QTransform &placed);
     void addSign(QDomElement link, const QJsonObject &item);
@@ -100,6 +103,8 @@ private:
     bool m_keepsInk;
     IwbItemWriter m_items;
     ItemPainter *m_painter = nullptr;
+    bool m_makesPictures = false;
+    QVector<QDomElement> m_behind; // elements of the item that is written, behind the one that is called as it
     QDomDocument m_document;
     QSizeF m_pageSize;
     int m_number = 0; // of the page that gets items

@@ -62,11 +62,12 @@ BoardDress::Items itemsFor(const QVector<IwbPageWriter::WrittenItem> &items)
         if (isInk(item.type())) {
             dressed.ink.insert(written.id, item.type() == QLatin1String("ZQFluorescentStroke"));
         }
-        if (item.type() == curtainType && !written.isPicture) {
+        const bool isOwn = !written.isPicture && !written.isOutlined;
+        if (item.type() == curtainType && isOwn) {
             dressed.covers.insert(written.id);
         }
         const QString flip = flipOf(item);
-        if (!flip.isEmpty() && !written.isPicture) {
+        if (!flip.isEmpty() && isOwn) {
             dressed.flips.insert(written.id, flip);
         }
         if (written.top != last) {
@@ -92,10 +93,11 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     , m_pages(itemSetting(context, &m_media))
     , m_dress(!context.options.contains(QStringLiteral("plain")))
     , m_travels(!context.options.contains(QStringLiteral("plain")))
+    , m_makesPictures(context.options.value(QStringLiteral("items")) != QLatin1String("drop"))
 {
     m_losses.setFormat(QStringLiteral("IWB"));
     m_target.setKept(context.isKept);
-    m_pages.setPainter(context.painter);
+    m_pages.setPainter(context.painter, m_makesPictures);
     if (context.verify && m_losses.presentation().isHeard()) {
         m_check = std::make_unique<IwbPageCheck>(context.plugin, m_media);
     }
@@ -285,7 +287,8 @@ void IwbWriter::finish()
     if (m_context.isTrial) {
         return;
     }
-    const QImage thumbnail = m_context.painter ? m_context.painter->thumbnail(thumbnailWidth) : QImage();
+    const QImage thumbnail =
+        m_context.painter && m_makesPictures ? m_context.painter->thumbnail(thumbnailWidth) : QImage();
     if (!thumbnail.isNull()) {
         const auto output = m_target.newFile(QLatin1String(thumbnailFile));
         thumbnail.save(output.get(), "png");

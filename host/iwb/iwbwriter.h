@@ -48,6 +48,7 @@ private:
     IwbPageWriter m_pages;
     BoardDress m_dress;
     bool m_travels; // whether the lesson itself goes along
+    bool m_makesPictures; // of what has no form
     std::unique_ptr<NativePartWriter> m_native; // null where it doesn't, or nothing is written
     std::unique_ptr<IwbPageCheck> m_check; // null where nobody asks for one
     QJsonObject m_presentation;

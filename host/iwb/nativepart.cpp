@@ -11,6 +11,7 @@
 #include "iwb/iwbpackage.h"
 #include "lesson/itemkeys.h"
 #include "lesson/slidelimits.h"
+#include "svg/iwbpage.h"
 
 #include <QCryptographicHash>
 #include <QJsonDocument>
@@ -68,7 +69,15 @@ QJsonObject partOf(const IwbPageWriter::WrittenItem &written, bool isWhole, cons
     QJsonObject part;
     if (!written.id.isEmpty()) {
         part.insert(Keys::id, written.id);
-        part.insert(Keys::mark, elementMark(elements.value(written.id), records));
+        const QDomElement element = elements.value(written.id);
+        QVector<QDomElement> all{element};
+        // A link holds them all.
+        for (QDomElement other = element.previousSiblingElement();
+             all.size() < written.elements && element.tagName() != QLatin1String("svg:a");
+             other = other.previousSiblingElement()) {
+            all.prepend(other);
+        }
+        part.insert(Keys::mark, marksOf(all, records));
     }
     // What its group has turned stands elsewhere by itself.
     if (!isWhole && written.placed.isIdentity()) {
@@ -79,7 +88,8 @@ QJsonObject partOf(const IwbPageWriter::WrittenItem &written, bool isWhole, cons
 
 NativePage::Part readPart(const QJsonObject &json)
 {
-    return {json.value(Keys::id).toString(), json.value(Keys::mark).toString(), json.value(Keys::item).toObject()};
+    return {json.value(Keys::id).toString(), json.value(Keys::mark).toString().split(QLatin1Char(' ')),
+            json.value(Keys::item).toObject()};
 }
 
 QJsonObject objectIn(const QString &file, const QString &shownName)
@@ -99,7 +109,7 @@ bool isReadAs(const QByteArray &text, const QJsonObject &written)
 
 } // namespace
 
-QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, RecordText> &records)
+QString marksOf(const QVector<QDomElement> &elements, const QHash<QString, RecordText> &records)
 {
     QStringList marks;
     for (const QDomElement &element : elements) {
@@ -140,7 +150,7 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
     QStringList backgroundIds;
     for (QDomElement child = page.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const QString id = child.attribute(QStringLiteral("id"));
-        const bool isItem = elements.contains(id) && itemIds.contains(id);
+        const bool isItem = elements.contains(id) && itemIds.contains(itemOfPart(id));
         if (!isItem && !isFillBehind(child) && !isCover(child) && child.tagName() != QLatin1String("svg:a")) {
             background.append(child);
             backgroundIds.append(id);
@@ -149,7 +159,7 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
     const QJsonObject json{{Keys::slide, slide.properties},
                            {Keys::background,
                             QJsonObject{{Keys::ids, QJsonArray::fromStringList(backgroundIds)},
-                                        {Keys::mark, backgroundMark(background, records)}}},
+                                        {Keys::mark, marksOf(background, records)}}},
                            {Keys::items, entries}};
     const QByteArray text = compactJson(json);
     if (text.size() > 3 * maximumSlideSize || !isReadAs(text, json)) {

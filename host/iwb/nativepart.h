@@ -27,7 +27,7 @@ struct NativePage
     struct Part
     {
         QString id; //!< empty for an item that the document has no form for
-        QString mark; //!< of the element as it was written
+        QStringList marks; //!< of the element as it was written, behind those of its parts
         QJsonObject item; //!< the same by itself, without the group
     };
     struct Entry
@@ -51,7 +51,8 @@ struct NativePage
  * "document": checksum of content.xml} additional/native/page1.json {"slide": {...}, "background": {"ids", "mark"},
  * "items": [{"item", "parts"}]} additional/native/files/...     files of the lesson that no page shows as they are
  *
- * Each item is bound to the elements that stand for it by their identifiers and marks.
+ * Each item is bound to the elements that stand for it by their identifiers and marks. Where several stand for one, the
+ * marks of the others come before that of the one with its identifier, in the order of the page.
  */
 class NativePartWriter
 {
@@ -109,8 +110,8 @@ private:
     bool m_isUntouched = false;
 };
 
-//! One mark for all elements of a page's background.
-QString backgroundMark(const QVector<QDomElement> &elements, const QHash<QString, RecordText> &records);
+//! The marks of elements, with blanks between them.
+QString marksOf(const QVector<QDomElement> &elements, const QHash<QString, RecordText> &records);
 
 } // namespace lessonhost
 

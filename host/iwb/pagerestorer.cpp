@@ -129,6 +129,9 @@ void PageRestorer::lookAtPage()
     for (const NativePage::Entry &entry : m_native->entries) {
         for (const NativePage::Part &part : entry.parts) {
             known.insert(part.id);
+            for (int i = 1; i < part.marks.size(); ++i) {
+                known.insert(part.id + QLatin1String(partOfItem) + QString::number(i));
+            }
         }
     }
     known.remove(QString());
@@ -220,6 +223,40 @@ QJsonObject PageRestorer::properties()
     return properties;
 }
 
+// Whether a child is what was written of a part, with what stands for the part behind it: as it was, and moving with it
+// or with nothing else.
+bool PageRestorer::isWhole(int child, const NativePage::Part &part) const
+{
+    const int count = part.marks.size();
+    const int first = child + 1 - count;
+    const int group = m_content.outline().groupOf(part.id);
+    for (int i = 0; i < count; ++i) {
+        const bool isLast = i + 1 == count;
+        const QString id = isLast ? part.id : part.id + QLatin1String(partOfItem) + QString::number(i + 1);
+        if (first < 0 || m_taken.contains(first + i) || (!isLast && idOf(m_children.at(first + i)) != id)
+            || m_content.outline().groupOf(id) != group || !isMarked(first + i, part.marks.at(i))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Takes or gives back the elements of a part. They count as one of their group.
+void PageRestorer::take(const NativePage::Part &part, const Found &found, bool isTaken)
+{
+    for (int child = found.child + 1 - found.elements; child <= found.child; ++child) {
+        if (isTaken) {
+            m_taken.insert(child);
+        } else {
+            m_taken.remove(child);
+        }
+    }
+    const int group = m_content.outline().groupOf(part.id);
+    if (group >= 0) {
+        m_groupSizes[group] += (isTaken ? -1 : 1) * (found.elements - 1);
+    }
+}
+
 // Of several elements of one identifier, that is meant which is as it was.
 QVector<PageRestorer::Found> PageRestorer::findParts(const NativePage::Entry &entry)
 {
@@ -231,11 +268,15 @@ QVector<PageRestorer::Found> PageRestorer::findParts(const NativePage::Entry &en
             if (row.isIntact || m_taken.contains(child)) {
                 continue;
             }
-            row.isIntact = isMarked(child, part.mark);
+            row.isIntact = isWhole(child, part);
             row.child = row.isIntact || row.child < 0 ? child : row.child;
         }
+        for (int i = 1; i < part.marks.size() && row.child < 0; ++i) {
+            row.child = m_byId.value(part.id + QLatin1String(partOfItem) + QString::number(i)).value(0, -1);
+        }
         if (row.isIntact && row.child >= 0) {
-            m_taken.insert(row.child);
+            row.elements = part.marks.size();
+            take(part, row, true);
         }
         found.append(row);
     }
@@ -252,7 +293,7 @@ bool PageRestorer::isOneGroup(const NativePage::Entry &entry, const QVector<Foun
     for (int i = 0; i < found.size(); ++i) {
         const int child = found.at(i).child;
         if (child >= 0) {
-            isInOrder = isInOrder && (shown == 0 || child == last + 1);
+            isInOrder = isInOrder && (shown == 0 || child + 1 - found.at(i).elements == last + 1);
             last = child;
             groups.insert(m_content.outline().groupOf(entry.parts.at(i).id));
             ++shown;
@@ -273,7 +314,8 @@ void PageRestorer::placeEntries()
         bool isWhole = true;
         for (const Found &part : found) {
             isWhole = isWhole && part.isIntact;
-            first = part.child >= 0 && (first < 0 || part.child < first) ? part.child : first;
+            const int begin = part.child + 1 - part.elements;
+            first = part.child >= 0 && (first < 0 || begin < first) ? begin : first;
         }
         m_isReordered = m_isReordered || (first >= 0 && first < last);
         last = first >= 0 ? first : last;
@@ -325,7 +367,7 @@ void PageRestorer::placeParts(int number, const QVector<Found> &found, int *last
             ++m_restored;
         } else {
             if (row.isIntact) {
-                m_taken.remove(row.child);
+                take(part, row, false);
             }
             m_lostIds.insert(part.id, m_lost.size());
             m_lost.append({part.id, {number, i}});
@@ -341,7 +383,9 @@ void PageRestorer::placeOthers(int number, const SlideLosses &losses)
     for (const Placed &placed : qAsConst(m_placed)) {
         ids.take(placed.item.value(ItemKeys::id).toString());
     }
-    const auto isLost = [this](int child) { return m_lostIds.contains(idOf(itemElement(m_children.at(child)))); };
+    const auto isLost = [this](int child) {
+        return m_lostIds.contains(itemOfPart(idOf(itemElement(m_children.at(child)))));
+    };
     for (int i = 0; i < m_children.size();) {
         int end = i;
         while (end < m_children.size() && !m_taken.contains(end) && (end == i || !isLost(end))
@@ -361,8 +405,15 @@ void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &l
         m_content.page(m_layers, m_children.mid(begin, end - begin), m_backgrounds), number, losses, ids);
     for (int i = 0; i < found.slide.items.size(); ++i) {
         Placed placed{begin, found.slide.items.at(i).toObject(), found.groups.at(i), {}, false, false};
-        const int lost = m_lostIds.value(found.elementIds.at(i), -1);
-        if (lost < 0 || m_lost.at(lost).isThere) {
+        const QString &elementId = found.elementIds.at(i);
+        const int lost = m_lostIds.value(itemOfPart(elementId), -1);
+        if (lost >= 0 && itemOfPart(elementId) != elementId) {
+            m_lost[lost].isThere = true;
+            placed.origin = m_lost.at(lost).origin;
+            m_placed.append(placed);
+            continue;
+        }
+        if (lost < 0 || m_lost.at(lost).isNamed) {
             m_added.append(placed.item);
             m_placed.append(placed);
             continue;
@@ -370,6 +421,7 @@ void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &l
         // It is called what it was, and is covered and moves as it was.
         placed.item.remove(ItemKeys::cover);
         m_lost[lost].isThere = true;
+        m_lost[lost].isNamed = true;
         placed.origin = m_lost.at(lost).origin;
         const QJsonObject own = itemAt(placed.origin);
         for (const QLatin1String key : {ItemKeys::id, ItemKeys::animations, ItemKeys::cover}) {

@@ -34,6 +34,7 @@ private:
     {
         int child = -1; // of the page; -1 where it isn't there, or never was
         bool isIntact = false;
+        int elements = 1; // which end in the child
     };
     struct Placed
     {
@@ -49,7 +50,8 @@ private:
     {
         QString id;
         Origin origin;
-        bool isThere = false;
+        bool isThere = false; // or a part of it
+        bool isNamed = false; // what is called as it is there
         bool isIntact = false; //!< and is only read from its element because its group had turned it
     };
 
@@ -57,8 +59,10 @@ private:
     QJsonObject properties();
     bool isMarked(int child, const QString &mark) const;
     int intactBackground(int number) const;
+    bool isWhole(int child, const NativePage::Part &part) const;
     QVector<Found> findParts(const NativePage::Entry &entry);
     bool isOneGroup(const NativePage::Entry &entry, const QVector<Found> &found) const;
+    void take(const NativePage::Part &part, const Found &found, bool isTaken);
     void placeEntries();
     void placeParts(int number, const QVector<Found> &found, int *last);
     void placeOthers(int number, const SlideLosses &losses);

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class IZQTransformation;
 
@@ -79,10 +80,23 @@ public:
 };
 
 /*!
- * An item as a picture.
+ * An element of svg that shows an item or a part of it, on the page.
+ */
+struct PlainElement
+{
+    QString tag;
+    QVector<std::pair<QString, QString>> attributes; //!< without an identifier
+    QString text; //!< what stands in it
+
+    void set(const char *name, const QString &value) { attributes.append({QLatin1String(name), value}); }
+};
+
+/*!
+ * An item as a picture, or as a few elements.
  */
 struct PaintedItem
 {
+    QVector<PlainElement> elements; //!< from back to front; there is no picture beside them
     QImage image; //!< with nothing where the item isn't; null where nobody needs its pixels
     QRectF box; //!< where it stands on the page, upright
     QStringList words; //!< of each text in it
@@ -104,11 +118,17 @@ struct PlacedItem
 class ItemPainter
 {
 public:
+    enum Form {
+        Picture,
+        Elements, //!< nothing for an item that a few don't show
+        Either //!< elements where a few show the same, else a picture
+    };
+
     virtual ~ItemPainter() = default;
     //! What is left of an item where others rub out ink. page: pixels. Nothing for an item that shows nothing. Throws
     //! LessonError.
     virtual std::optional<PaintedItem> paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
-                                             const QSizeF &page) = 0;
+                                             const QSizeF &page, Form form) = 0;
     //! What a slide shows of its classroom game below its items. Nothing for one without such a game. Throws
     //! LessonError.
     virtual std::optional<PaintedItem> paintGame(const LessonSlide &slide, const QSizeF &page) = 0;

@@ -43,6 +43,8 @@ public:
     //! False where everything is dropped, so that nothing has to be looked for.
     bool isHeard() const { return m_report; }
 
+    //! True where everything is only told of what other boards show.
+    bool isElsewhere() const { return m_isElsewhere; }
     //! The same slide, where everything is only told of what other boards show.
     SlideLosses elsewhere() const;
 
@@ -54,6 +56,8 @@ public:
     void item(const LossOwner &owner, const Sentence &why = {}) const;
     //! An item that became a picture.
     void picture(const LossOwner &owner) const;
+    //! An item that became elements which show the same, so that other boards have it as it is.
+    void outlined(const LossOwner &owner) const;
     //! A container whose items stand by themselves.
     void takenApart(const LossOwner &owner) const;
     //! A slide with items, none of which is there.

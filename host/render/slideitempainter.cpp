@@ -5,6 +5,7 @@
 #include "lesson/itemvalues.h"
 #include "render/drawings.h"
 #include "render/drawntexts.h"
+#include "render/plainoutlines.h"
 #include "render/plainsvg.h"
 #include "render/slidepictures.h"
 #include "render/surelyseen.h"
@@ -100,41 +101,53 @@ QImage SlideItemPainter::thumbnail(int width)
 }
 
 std::optional<PaintedItem> SlideItemPainter::paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
-                                                   const QSizeF &page)
+                                                   const QSizeF &page, Form form)
 {
     const auto draw = [&](PlainSvg &plain, Drawings &drawings) {
         for (const PlacedItem &rubbed : rubbing) {
             drawings.rubOut(rubbed.item, rubbed.placed);
         }
         const PlainSvg::Scope scope(plain, item.placed);
-        drawings.draw(item.item);
+        return drawings.draw(item.item);
     };
-    return painted(draw, page);
+    return painted(draw, page, form);
 }
 
 std::optional<PaintedItem> SlideItemPainter::paintGame(const LessonSlide &slide, const QSizeF &page)
 {
     const auto draw = [&slide](PlainSvg &, Drawings &drawings) {
         drawings.drawGame(slide.properties, shownItems(slide.items));
+        return true;
     };
-    return painted(draw, page);
+    return painted(draw, page, Picture);
 }
 
 // First where it is, in an area larger than the page, then what it is.
 std::optional<PaintedItem>
-SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &drawings)> &draw, const QSizeF &page)
+SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &drawings)> &draw, const QSizeF &page,
+                          Form form)
 {
     m_pages.start(
         {{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}}, {});
     PlainSvg plain(page, m_media, m_store, Qt::transparent);
     plain.sayInEnglish();
     Drawings drawings(plain, m_pages, m_media);
-    draw(plain, drawings);
+    const bool isItself = draw(plain, drawings);
     SlidePicture drawn;
     drawn.size = page;
     drawn.svg = plain.finished();
     m_media.storeNew([](const QString &, const IwbMedia::File &) {});
     if (!drawn.svg.documentElement().hasChildNodes()) {
+        return {};
+    }
+    const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
+    // A box with the name of an item isn't the item.
+    const auto elements =
+        form == Picture || !isItself ? QVector<PlainElement>() : plainOutlines(drawn.svg.documentElement());
+    if (!elements.isEmpty()) {
+        return PaintedItem{elements, {}, {}, texts.words, texts.families};
+    }
+    if (form == Elements) {
         return {};
     }
 
@@ -152,11 +165,10 @@ SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &dr
     };
     const QSizeF half = page / 2;
     const QRectF around = QRectF(QPointF(), page).adjusted(-half.width(), -half.height(), half.width(), half.height());
-    const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
     // The pixels of larger pages are bounded, so that not all of them can be seen.
     if (m_isTrial && 2 * sharpness * qMax(page.width(), page.height()) <= largestPicture
         && isSurelySeen(drawn.svg.documentElement(), around)) {
-        return PaintedItem{{}, around, texts.words, texts.families};
+        return PaintedItem{{}, {}, around, texts.words, texts.families};
     }
     const QRect found = paintedRect(paintedArea(around, overview));
     if (found.isEmpty()) {
@@ -171,9 +183,11 @@ SlideItemPainter::painted(const std::function<void(PlainSvg &plain, Drawings &dr
     if (exact.isEmpty()) {
         return {};
     }
-    return PaintedItem{image.copy(exact),
+    return PaintedItem{{},
+                       image.copy(exact),
                        QRectF(area.topLeft() + QPointF(exact.topLeft()) / sharpness, QSizeF(exact.size()) / sharpness),
-                       texts.words, texts.families};
+                       texts.words,
+                       texts.families};
 }
 
 } // namespace lessonhost

@@ -16,7 +16,7 @@ class Drawings;
 class PlainSvg;
 
 /*!
- * Paints items one by one as slides show them, at twice their size, on nothing.
+ * Paints items one by one as slides show them, at twice their size, on nothing, or tells the elements that show them.
  */
 class SlideItemPainter : public ItemPainter
 {
@@ -25,14 +25,14 @@ public:
     //! is written on them. Throws LessonError.
     SlideItemPainter(LessonReader &reader, IZQTransformation *plugin, bool isTrial = false);
 
-    std::optional<PaintedItem> paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
-                                     const QSizeF &page) override;
+    std::optional<PaintedItem> paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing, const QSizeF &page,
+                                     Form form) override;
     std::optional<PaintedItem> paintGame(const LessonSlide &slide, const QSizeF &page) override;
     QImage thumbnail(int width) override;
 
 private:
-    std::optional<PaintedItem> painted(const std::function<void(PlainSvg &plain, Drawings &drawings)> &draw,
-                                       const QSizeF &page);
+    std::optional<PaintedItem> painted(const std::function<bool(PlainSvg &plain, Drawings &drawings)> &draw,
+                                       const QSizeF &page, Form form);
 
     LessonReader &m_reader;
     IZQTransformation *m_plugin;

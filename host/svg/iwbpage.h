@@ -27,6 +27,13 @@ constexpr char markedSpan[] = "_span";
 //! The same for what covers an item and stands before it.
 constexpr char coverBefore[] = "_cover";
 
+//! The same, before a number, for the elements that stand for an item together with the one that is called as it and
+//! lies in front of them.
+constexpr char partOfItem[] = "_part";
+
+//! The identifier of the item that an element stands for, or is a part of.
+QString itemOfPart(const QString &id);
+
 //! The same for the picture of the classroom game that a slide holds, behind that of the slide.
 constexpr char slideGame[] = "_game";
 

@@ -6548,5 +6548,9 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <source>what the file has of the lesson itself is damaged, so it is read as others show it</source>
         <translation>was die Datei von der Lektion selbst hat, ist beschädigt, daher ist sie gelesen, wie andere sie zeigen</translation>
     </message>
+    <message>
+        <source>it became outlines</source>
+        <translation>wurde zu Umrissen</translation>
+    </message>
 </context>
 </TS>

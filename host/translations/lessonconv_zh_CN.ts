@@ -6229,5 +6229,9 @@ or something is wrong that check looks for, 2 not done.</source>
         <source>what the file has of the lesson itself is damaged, so it is read as others show it</source>
         <translation>文件中的课件本身已损坏，因此按其他白板所显示的内容读取</translation>
     </message>
+    <message>
+        <source>it became outlines</source>
+        <translation>变成了轮廓</translation>
+    </message>
 </context>
 </TS>
