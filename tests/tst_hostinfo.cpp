@@ -179,6 +179,11 @@ private slots:
             QCOMPARE(tried.value("summary"), converted.value("summary"));
             QCOMPARE(tried.value("losses"), converted.value("losses"));
         }
+        // A text that grows too large names no place of the trial.
+        putFile(folder.filePath("in.json"),
+                "{\"Slides\":[{\"ID\":\"s\",\"Items\":[{\"Type\":\"ZQText\",\"TextHtml\":\"" + QByteArray(8 << 20, '&') + "\"}]}]}");
+        const auto large = runCommand({"check", folder.filePath("in.json"), "--to", "zqtx"});
+        QVERIFY2(large.output.contains("zqtx can't hold it: slides/s.xml: Slide 1 takes"), qPrintable(large.output));
         QCOMPARE(runCommand({"check", lesson, "--quiet"}).output, QString());
         QCOMPARE(runCommand({"check", lesson, "--to", "rawxml"}).exitCode, 2);
         // Raw lessons lose values whatever they become.

@@ -250,6 +250,7 @@ public:
     Trial(const LessonFormat &format, LessonCheck::Format &told, LessonReader &reader, const LessonContext &context,
           const QString &folder)
         : m_told(told)
+        , m_place(folder + QLatin1Char('/') + format.name)
     {
         LessonContext writing = context;
         writing.losses = &told.losses;
@@ -259,7 +260,7 @@ public:
             writing.painter = m_painter.get();
         }
         attempt([&] {
-            m_writer = format.create(folder + QLatin1Char('/') + format.name, writing);
+            m_writer = format.create(m_place, writing);
             const QStringList resources = reader.resources();
             m_writer->expect(reader.slideCount(), resources.size());
             m_writer->begin(reader.presentation());
@@ -291,11 +292,19 @@ private:
             if (error.isOfMachine()) {
                 throw;
             }
-            m_told.problem = error.message();
+            m_told.problem = inLesson(error).message();
         }
     }
 
+    // Nothing is there where it would have been written, so only the name in the lesson says something.
+    LessonError inLesson(LessonError error) const
+    {
+        const QString file = error.file();
+        return file.startsWith(m_place) ? error.in(file.mid(m_place.size() + 1), error.line()) : error;
+    }
+
     LessonCheck::Format &m_told;
+    QString m_place;
     std::unique_ptr<ItemPainter> m_painter;
     std::unique_ptr<LessonWriter> m_writer;
 };
