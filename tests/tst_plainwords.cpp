@@ -154,8 +154,8 @@ private slots:
             "Shown in the result, but not the same:\n"
             "  Colour of the fill: 1 circle and 1 triangle on slides 1 to 2.\n  Title: the lesson.\n"
             "  Animation: slide 1.\n  \"Wings\": 1 x Future on slide 1.\nOnly internal, seen by nobody: identifier.");
-        row("what is there in another form", "item+ 1 ZQMindMapItem m ~ it became a picture",
-            "Shown in the result, but not the same:\n  1 mind map on slide 1: it became a picture.");
+        row("what is there in another form", "item+ 1 ZQMindMapItem m ~ as a picture",
+            "Shown in the result, but not the same:\n  1 mind map on slide 1: as a picture.");
         row("files with their owner", "file 2 ZQImagePic i a.png no such file",
             "Not shown in the result:\n  a.png (1 picture on slide 2): no such file.");
         row("other boards",

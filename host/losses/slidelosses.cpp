@@ -46,13 +46,13 @@ void SlideLosses::item(const LossOwner &owner, const Sentence &why) const
 
 void SlideLosses::picture(const LossOwner &owner) const
 {
-    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {}) : add(Loss::Item, owner, {}, say("it became a picture"), true);
+    m_isElsewhere ? add(Loss::AsPicture, owner, {}, {}) : add(Loss::Item, owner, {}, say("as a picture"), true);
 }
 
 void SlideLosses::outlined(const LossOwner &owner) const
 {
     if (!m_isElsewhere) {
-        add(Loss::Item, owner, {}, say("it became outlines"), true);
+        add(Loss::Item, owner, {}, say("as outlines"), true);
     }
 }
 

@@ -1903,10 +1903,6 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         </translation>
     </message>
     <message>
-        <source>it became a picture</source>
-        <translation>wurde ein Bild</translation>
-    </message>
-    <message>
         <source>%1 (items shown by their name: %2)</source>
         <translation>%1 (nur mit ihrem Namen gezeigte Elemente: %2)</translation>
     </message>
@@ -6549,8 +6545,8 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <translation>was die Datei von der Lektion selbst hat, ist beschädigt, daher ist sie gelesen, wie andere sie zeigen</translation>
     </message>
     <message>
-        <source>it became outlines</source>
-        <translation>wurde zu Umrissen</translation>
+        <source>as outlines</source>
+        <translation>als Umrisse</translation>
     </message>
 </context>
 </TS>

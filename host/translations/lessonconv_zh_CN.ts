@@ -1862,10 +1862,6 @@ or something is wrong that check looks for, 2 not done.</source>
         </translation>
     </message>
     <message>
-        <source>it became a picture</source>
-        <translation>变成了图片</translation>
-    </message>
-    <message>
         <source>%1 (items shown by their name: %2)</source>
         <translation>%1（仅以名称显示的对象：%2）</translation>
     </message>
@@ -6230,8 +6226,8 @@ or something is wrong that check looks for, 2 not done.</source>
         <translation>文件中的课件本身已损坏，因此按其他白板所显示的内容读取</translation>
     </message>
     <message>
-        <source>it became outlines</source>
-        <translation>变成了轮廓</translation>
+        <source>as outlines</source>
+        <translation>显示为轮廓</translation>
     </message>
 </context>
 </TS>
