@@ -948,7 +948,7 @@ Rest takeRest(const QString &way, const QString &text, QStringList &others)
     return rest;
 }
 
-// Of several elements of one identifier, any may be the one whose colour has it.
+// Of several elements of one identifier, any may be the one whose colour has it; others' colours come back as they are.
 void removeOpacityInColor(Texts &texts, const QStringList &colorsBack)
 {
     const QStringList opacities = texts.value("@opacity");
@@ -958,8 +958,9 @@ void removeOpacityInColor(Texts &texts, const QStringList &colorsBack)
             const auto color = std::find_if(own.begin(), own.end(), [&](const QString &text) {
                 return QColor(text).isValid() && isOpacityInColor(opacity, text, back);
             });
-            const bool isColorless =
-                std::none_of(own.begin(), own.end(), [](const QString &text) { return QColor(text).isValid(); });
+            const bool isColorless = std::none_of(own.begin(), own.end(), [&](const QString &text) {
+                return QColor(text).isValid() && !colorsBack.contains(text);
+            });
             if (color != own.end() || (isColorless && isOpacityInColor(opacity, back, back))) {
                 texts["@opacity"].removeOne(opacity);
                 color != own.end() ? texts["@color"].removeOne(*color) : false;
