@@ -37,13 +37,14 @@ PluginHost::PluginHost(const QString &path)
         throw LessonError(say("There is no such plug-in"), say("Check the path given to --plugin")).in(file);
     }
     m_loader.setFileName(QFileInfo(file).absoluteFilePath());
-    m_plugin = qobject_cast<IZQTransformation *>(m_loader.instance());
-    if (!m_plugin) {
+    auto *const plugin = qobject_cast<IZQTransformation *>(m_loader.instance());
+    if (!plugin) {
         throw LessonError(m_loader.isLoaded() ? say("This plug-in converts no lessons")
                                               : say("The plug-in can't be loaded: %1").arg(m_loader.errorString()),
                           say("Build the plug-in again with the same Qt as the command"))
             .in(file);
     }
+    m_plugin = std::make_unique<GuardedPlugin>(plugin);
 }
 
 QString PluginHost::version() const

@@ -2,10 +2,12 @@
 #ifndef PLUGINHOST_H
 #define PLUGINHOST_H
 
+#include "lesson/guardedplugin.h"
+
 #include <QPluginLoader>
 #include <QStringList>
 
-class IZQTransformation;
+#include <memory>
 
 namespace lessonhost {
 
@@ -18,7 +20,8 @@ public:
     //! path: the plug-in's file, or empty to look in the usual places. Throws LessonError.
     explicit PluginHost(const QString &path = {});
 
-    IZQTransformation *plugin() const { return m_plugin; }
+    //! May be called by several threads, of which it makes one wait for the other.
+    IZQTransformation *plugin() const { return m_plugin.get(); }
     //! The number behind the name that the plug-in gives itself, such as "1.0".
     QString version() const;
     QString fileName() const { return m_loader.fileName(); }
@@ -29,7 +32,7 @@ public:
 
 private:
     QPluginLoader m_loader;
-    IZQTransformation *m_plugin = nullptr;
+    std::unique_ptr<GuardedPlugin> m_plugin;
 };
 
 } // namespace lessonhost

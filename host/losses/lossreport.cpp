@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <utility>
 
 namespace lessonhost {
 
@@ -316,6 +317,12 @@ void LossReport::add(const Loss &loss)
     if (isLoss(loss.kind)) {
         ++m_lossCount;
     }
+}
+
+QVector<Loss> LossReport::takeEntries()
+{
+    m_lossCount = 0;
+    return std::exchange(m_entries, {});
 }
 
 QString LossReport::shared(const QString &text)

@@ -84,6 +84,9 @@ class LossReport
 {
 public:
     void add(const Loss &loss);
+    //! What was told since the last time, which it has no longer. For reports that are passed on: a report is one
+    //! thread's.
+    QVector<Loss> takeEntries();
 
     const QVector<Loss> &entries() const { return m_entries; }
     //! Values, items and files; what was kept, notes and what is so for other boards alone don't count.

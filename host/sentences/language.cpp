@@ -11,6 +11,7 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <mutex>
 
 // Outside of namespaces, as the macro needs it.
 static void initTranslations()
@@ -30,6 +31,8 @@ const QLatin1String englishName("en");
 const QTranslator &translatorOf(const QString &language)
 {
     static std::map<QString, std::unique_ptr<QTranslator>> translators;
+    static std::mutex mutex; // for threads that read and write a lesson
+    const std::lock_guard<std::mutex> lock(mutex);
     std::unique_ptr<QTranslator> &translator = translators[language];
     if (!translator) {
         initTranslations();
