@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "files/lessonerror.h"
-#include "files/readahead.h"
 #include "files/compactjson.h"
+#include "files/paintedpng.h"
+#include "files/readahead.h"
+#include "files/workbehind.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
@@ -19,10 +21,13 @@
 #include "pluginfixture.h"
 #include "svg/pluginoutlines.h"
 
+#include <QBuffer>
+#include <QImage>
 #include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <atomic>
 #include <cmath>
 #include <cstring>
 
@@ -87,6 +92,68 @@ private slots:
             }
             QCOMPARE(told.join(' '), QString("0 1 two 9 16 1 0 1 9 two 9"));
         }
+    }
+
+    // Little waits, all is done at the end, and a failure is told once, and no work begun after it.
+    void workBehindOthers()
+    {
+        for (const bool isBehind : {false, true}) {
+            constexpr qint64 bytes = 8 * 1024 * 1024;
+            std::atomic<int> held{0}, most{0}, done{0};
+            WorkBehind work(isBehind);
+            const auto give = [&](bool fails) {
+                most = qMax(int(most), ++held);
+                work.give(bytes, [&, fails] {
+                    --held;
+                    ++done;
+                    if (fails) {
+                        throw LessonError(Sentence("full"));
+                    }
+                });
+            };
+            for (int i = 0; i < 1000; ++i) {
+                give(false);
+            }
+            work.finish();
+            QCOMPARE(int(done), 1000);
+            QVERIFY2(most <= 5, qPrintable(QString::number(most))); // one is being given
+            const auto failing = [&] {
+                for (int i = 0; i < 1000; ++i) {
+                    give(i == 10);
+                }
+                work.finish();
+            };
+            QVERIFY_EXCEPTION_THROWN(failing(), LessonError);
+            QVERIFY2(done >= 1011 && done < 1020, qPrintable(QString::number(done)));
+        }
+    }
+
+    void packPaintedPictures()
+    {
+        QRandomGenerator random(1);
+        for (const QImage::Format format :
+             {QImage::Format_ARGB32_Premultiplied, QImage::Format_ARGB32, QImage::Format_RGB32, QImage::Format_RGB16}) {
+            for (const bool isShaded : {false, true}) {
+                QImage image(1 + int(random.bounded(300)), 1 + int(random.bounded(300)), QImage::Format_ARGB32);
+                image.setDotsPerMeterX(1000);
+                for (int y = 0; y < image.height(); ++y) {
+                    for (int x = 0; x < image.width(); ++x) {
+                        image.setPixel(x, y, isShaded ? qRgba(x, y, x, 255 - x / 3) : random.bounded(3U) * 0x55807fU);
+                    }
+                }
+                image = image.convertToFormat(format);
+                QBuffer ours, theirs;
+                QVERIFY(ours.open(QIODevice::ReadWrite) && theirs.open(QIODevice::ReadWrite));
+                QVERIFY(writePaintedPng(image, &ours) && image.save(&theirs, "png"));
+                const QImage back = QImage::fromData(ours.data(), "png");
+                QCOMPARE(back, QImage::fromData(theirs.data(), "png"));
+                QCOMPARE(back.dotsPerMeterX(), 1000);
+                QCOMPARE(ours.data().left(54), theirs.data().left(54)); // what stands before the pixels
+                QCOMPARE(ours.data() == theirs.data(), isShaded || format == QImage::Format_RGB16);
+            }
+        }
+        QBuffer none;
+        QVERIFY(none.open(QIODevice::WriteOnly) && !writePaintedPng({}, &none));
     }
 
     // Trees that a text can't hold, and texts that are no longer those of their tree.

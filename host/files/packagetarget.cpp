@@ -237,7 +237,7 @@ void PackageTarget::count(qint64 bytes)
     }
 }
 
-QString PackageTarget::makePlace(const QString &relativePath)
+QString PackageTarget::newPlace(const QString &relativePath)
 {
     const Sentence problem = problemWithPackagePath(relativePath);
     if (!problem.isEmpty()) {
@@ -262,13 +262,13 @@ QString PackageTarget::makePlace(const QString &relativePath)
 
 std::unique_ptr<OutputFile> PackageTarget::newFile(const QString &relativePath)
 {
-    return std::make_unique<OutputFile>(makePlace(relativePath), m_shownTarget);
+    return std::make_unique<OutputFile>(newPlace(relativePath), m_shownTarget);
 }
 
 void PackageTarget::write(const QString &relativePath, const QByteArray &content)
 {
     count(content.size());
-    writeFile(makePlace(relativePath), content, m_shownTarget);
+    writeFile(newPlace(relativePath), content, m_shownTarget);
 }
 
 void PackageTarget::append(const QString &relativePath, const QByteArray &content)
@@ -283,13 +283,13 @@ void PackageTarget::append(const QString &relativePath, const QByteArray &conten
 void PackageTarget::copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName)
 {
     count(QFileInfo(sourceFile).size());
-    copyFile(sourceFile, sourceName, makePlace(relativePath), m_shownTarget);
+    copyFile(sourceFile, sourceName, newPlace(relativePath), m_shownTarget);
 }
 
 void PackageTarget::take(const QString &relativePath, const QString &file)
 {
     count(QFileInfo(file).size());
-    if (!renameOver(file, makePlace(relativePath))) {
+    if (!renameOver(file, newPlace(relativePath))) {
         throw systemError(m_shownTarget);
     }
 }

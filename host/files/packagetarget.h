@@ -62,6 +62,8 @@ public:
     //! A new file of a package or of several files, by its path relative to the target. Refuses unsafe paths and one
     //! that was given out before.
     std::unique_ptr<OutputFile> newFile(const QString &relativePath);
+    //! Where such a file is to be made, for who does so in another thread.
+    QString newPlace(const QString &relativePath);
     void write(const QString &relativePath, const QByteArray &content);
     //! Writes behind what write() has written.
     void append(const QString &relativePath, const QByteArray &content);
@@ -75,7 +77,6 @@ public:
 
 private:
     static void sweepOnce(const QString &folder);
-    QString makePlace(const QString &relativePath);
     void count(qint64 bytes);
     void makeStaging(const QString &parent);
     void removeStaging();

@@ -4,6 +4,7 @@
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
+#include "files/paintedpng.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
@@ -90,6 +91,7 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     : m_context(context)
     , m_losses(context.losses)
     , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isIwbFolder)
+    , m_packing(context.readsAhead)
     , m_pages(itemSetting(context, &m_media))
     , m_dress(!context.options.contains(QStringLiteral("plain")))
     , m_travels(!context.options.contains(QStringLiteral("plain")))
@@ -242,10 +244,19 @@ void IwbWriter::storeMedia()
             m_target.copy(reference, file.source, reference);
             return;
         }
-        const auto output = m_target.newFile(reference);
-        file.picture.save(output.get(), "png");
-        output->finish();
+        storePicture(reference, file.picture, file.isMade);
     });
+}
+
+// To pack a picture takes longer than all else that is done for an item.
+void IwbWriter::storePicture(const QString &reference, const QImage &picture, bool isPainted)
+{
+    const auto store = [place = m_target.newPlace(reference), target = m_target.target(), picture, isPainted] {
+        OutputFile file(place, target);
+        isPainted ? writePaintedPng(picture, &file) : picture.save(&file, "png");
+        file.finish();
+    };
+    m_packing.give(picture.sizeInBytes(), store);
 }
 
 void IwbWriter::failWithoutPages() const
@@ -290,10 +301,9 @@ void IwbWriter::finish()
     const QImage thumbnail =
         m_context.painter && m_makesPictures ? m_context.painter->thumbnail(thumbnailWidth) : QImage();
     if (!thumbnail.isNull()) {
-        const auto output = m_target.newFile(QLatin1String(thumbnailFile));
-        thumbnail.save(output.get(), "png");
-        output->finish();
+        storePicture(QLatin1String(thumbnailFile), thumbnail, true);
     }
+    m_packing.finish();
     if (m_native) {
         m_native->finish(m_presentation, m_pages.pageSize(), m_media, m_contentHash.result());
     }

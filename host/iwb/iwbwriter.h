@@ -3,6 +3,7 @@
 #define IWBWRITER_H
 
 #include "files/packagetarget.h"
+#include "files/workbehind.h"
 #include "iwb/boarddress.h"
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagecheck.h"
@@ -38,12 +39,14 @@ private:
     void finishPages();
     void append(const QByteArray &text);
     void storeMedia();
+    void storePicture(const QString &reference, const QImage &picture, bool isPainted);
     void lookAtTexts(const QDomElement &page);
     [[noreturn]] void failWithoutPages() const;
 
     LessonContext m_context;
     LessonLosses m_losses;
     PackageTarget m_target;
+    WorkBehind m_packing; // of pictures
     IwbMedia m_media;
     IwbPageWriter m_pages;
     BoardDress m_dress;
