@@ -4,6 +4,7 @@
 #include "files/paintedpng.h"
 #include "files/readahead.h"
 #include "files/workbehind.h"
+#include "files/xmlbuilder.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
@@ -154,6 +155,68 @@ private slots:
         }
         QBuffer none;
         QVERIFY(none.open(QIODevice::WriteOnly) && !writePaintedPng({}, &none));
+    }
+
+    // Texts that are read without the parser, and those that are left to it: both ways they give the same tree.
+    void plainXmlAsParsed_data()
+    {
+        const auto row = [](const char *text, const char *reader) { QTest::newRow(text) << QByteArray(text) << QByteArray(reader); };
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("reader");
+        for (const char *text :
+             {"<?xml version='1.0' encoding='utf-8'?>\r\n<a b='1' c=\"'\"  d = '\"'\n/>", "<s:a s:b=''><c.d-e/>\n </s:a >\n",
+              "<a b='&lt;&gt;&amp;&quot;&apos;&#10;&#x4e2d;&#13;&#9;' c='x\r\ny\tz\n\r'/>", "\xef\xbb\xbf<a>\xe4\xb8\xad>]]</a>",
+              "<a>x&#32;<!-- - > -->\r\ny\rz&lt;<![CDATA[<&lt;>]]]>\n<![CDATA[\r]]><b/> t</a><!--\xe4\xb8\xad-->",
+              "<a b='\xf0\x9f\x98\x80\xef\xbc\x8c'>\xc2\xa0\x7f&#127;</a>"}) {
+            row(text, "plain");
+        }
+        for (const char *text : {"<?pi?><a/>", "<a>\xef\xbf\xbd</a>", "<a>&#x1F600;</a>",
+                                 "<\xe4\xb8\xad/>", "<a><![CDATA[&\r]]></a>", "<a>\xef\xbb\xbf</a>"}) {
+            row(text, "parser");
+        }
+        for (const char *text :
+             {"", "<a>", "<a/><a/>", " <?xml version='1.0'?><a/>", "<a/>x", "<a b='1' b='2'/>", "<a b='1'c='2'/>", "<a b='<'/>", "<a b/>", "<a></b>",
+              "<a>]]></a>", "<a>&b;</a>", "<a>&#0;</a>", "<a>&#xd800;</a>", "<a>\xff</a>", "<a>\xed\xa0\x80</a>",
+              "<a>\x01</a>", "<a b='\x02'/>", "<a><!-- -- --></a>", "<a><!-- \x03 --></a>", "<a:b:c/>", "<:a/>", "<a:/>",
+              "<a:1/>", "<1/>", "< a/>", "<a / >", "</a>", "<a><![CDATA[x]]</a>", "<!DOCTYPE a><a/>", "<a>&#xFFFE;</a>",
+              "<?xml version='1.1'?><a/>", "<?xml version='1.0' encoding='utf-16'?><a/>", "<![CDATA[x]]><a/>"}) {
+            row(text, "refused");
+        }
+        QByteArray pieces("<a>"); // as they come from the disk
+        for (int i = 0; i < 30; ++i) {
+            pieces += "<b c='" + QByteArray(i * 1000, 'x') + "'>" + QByteArray(i * 900, 'y') + "<![CDATA[z]]>&lt;</b>\n";
+        }
+        QTest::newRow("pieces") << QByteArray(pieces + "</a>") << QByteArray("plain");
+    }
+
+    void plainXmlAsParsed()
+    {
+        struct Builder : XmlBuilder
+        {
+            using XmlBuilder::XmlBuilder;
+            void beginParsing(XmlSource &) override { isPlain = false; }
+            bool isPlain = true;
+        };
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, reader);
+        QBuffer buffer(&text);
+        buffer.open(QIODevice::ReadOnly);
+        QString refusals[2];
+        QDomDocument documents[2];
+        bool isPlain = false;
+        for (const int i : {0, 1}) {
+            buffer.seek(0);
+            Builder builder(&buffer, "a.xml");
+            try {
+                documents[i] = i == 0 ? builder.build() : builder.parse();
+            } catch (const LessonError &error) {
+                refusals[i] = error.message().english();
+            }
+            isPlain = isPlain || builder.isPlain;
+        }
+        QCOMPARE(QByteArray(isPlain ? "plain" : refusals[1].isEmpty() ? "parser" : "refused"), reader);
+        QCOMPARE(refusals[0], refusals[1]);
+        QVERIFY(isSameTree(documents[0], documents[1]));
     }
 
     // Trees that a text can't hold, and texts that are no longer those of their tree.

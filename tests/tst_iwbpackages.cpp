@@ -276,15 +276,17 @@ private slots:
             "x:href='images/a.png'/></page></svg></iwb:iwb>",
             {"800x600", "ZQMath2DRectangle r 1,2,4,6", "ZQMath2DSegment l 0,0,9,9",
              "ZQMediaAudio s 0,0,0,0 images/a.png"});
-        row("no pages, paths, embedded picture, window's separators",
-            QByteArray("<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'><s:svg xmlns:s='http://www.w3.org/2000/svg' "
-                       "xmlns:xlink='http://www.w3.org/1999/xlink' width='640px' height='480px'>"
-                       "<s:path id='p' d='M10 10 L20 10 L20 30 Z' stroke='black'/>"
-                       "<s:image id='i' width='8' height='6' xlink:href='data:image/png;base64,"
-                       + redPicture().toBase64()
-                       + "'/><s:image id='j' width='8' height='6' xlink:href='images\\a.png'/></s:svg></iwb>"),
-            {"640x480", "ZQMath2DPolyline p 10,10,20,30", "ZQImagePic i 0,0,8,6 images/embedded-1.png",
-             "ZQImagePic j 0,0,8,6 images/a.png"});
+        const QByteArray withPicture =
+            "<iwb xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'><s:svg xmlns:s='http://www.w3.org/2000/svg' "
+            "xmlns:xlink='http://www.w3.org/1999/xlink' width='640px' height='480px'>"
+            "<s:path id='p' d='M10 10 L20 10 L20 30 Z' stroke='black'/>"
+            "<s:image id='i' width='8' height='6' xlink:href='data:image/png;base64,"
+            + redPicture().toBase64()
+            + "'/><s:image id='j' width='8' height='6' xlink:href='images\\a.png'/></s:svg></iwb>";
+        const QStringList found{"640x480", "ZQMath2DPolyline p 10,10,20,30", "ZQImagePic i 0,0,8,6 images/embedded-1.png",
+                                "ZQImagePic j 0,0,8,6 images/a.png"};
+        row("no pages, paths, embedded picture, window's separators", withPicture, found);
+        row("the same, begun again with the parser", withPicture + "<?end?>", found);
     }
 
     void readsOtherPrograms()

@@ -3,6 +3,8 @@
 
 #include "files/lessonerror.h"
 
+#include <QXmlStreamReader>
+
 #include <algorithm>
 
 namespace lessonhost {
@@ -26,20 +28,77 @@ void checkXmlFileSize(qint64 size, const QString &displayName)
 }
 
 XmlBuilder::XmlBuilder(QIODevice *text, const QString &name, XmlBlanks blanks)
-    : m_source(text)
-    , m_reader(&m_source)
+    : m_device(text)
     , m_name(name)
     , m_blanks(blanks)
 {
-    m_reader.setNamespaceProcessing(false);
 }
+
+XmlBuilder::~XmlBuilder() = default;
 
 QDomDocument XmlBuilder::build()
 {
-    while (!m_reader.atEnd()) {
-        switch (m_reader.readNext()) {
+    const qint64 start = m_device->pos();
+    if (buildPlainly()) {
+        return m_document;
+    }
+    m_device->seek(start);
+    return parse();
+}
+
+// False for what only the parser can read, and for what is refused: that is told with the line in which it stands.
+bool XmlBuilder::buildPlainly()
+{
+    m_plain = std::make_unique<PlainXml>(m_device);
+    begin();
+    try {
+        PlainXml::Step step = m_plain->next();
+        while (step != PlainXml::Finished && step != PlainXml::Unknown) {
+            readPlain(step);
+            step = m_plain->next();
+        }
+        const bool isRead = step == PlainXml::Finished;
+        m_plain.reset();
+        return isRead;
+    } catch (const LessonError &) {
+        m_plain.reset();
+        return false;
+    }
+}
+
+void XmlBuilder::readPlain(PlainXml::Step step)
+{
+    if (step == PlainXml::Start) {
+        flushText();
+        enterElement();
+        startElement();
+    } else if (step == PlainXml::End) {
+        flushText();
+        endElement();
+        --m_depth;
+    } else if (m_depth > 0 && !makesNodes()) {
+        takeMemory(m_plain->textSize() * qint64(sizeof(QChar)));
+    } else if (m_depth > 0 && step == PlainXml::Section) {
+        QString text;
+        m_plain->appendTo(text);
+        addSection(text);
+    } else if (m_depth > 0) {
+        m_plain->appendTo(m_text);
+    }
+}
+
+QDomDocument XmlBuilder::parse()
+{
+    m_source = std::make_unique<XmlSource>(m_device);
+    beginParsing(*m_source);
+    m_reader = std::make_unique<QXmlStreamReader>(m_source.get());
+    m_reader->setNamespaceProcessing(false);
+    begin();
+    while (!m_reader->atEnd()) {
+        switch (m_reader->readNext()) {
         case QXmlStreamReader::StartElement:
             flushText();
+            takeStartElement();
             enterElement();
             startElement();
             break;
@@ -56,33 +115,32 @@ QDomDocument XmlBuilder::build()
         }
     }
     refuseSource();
-    if (m_reader.hasError()) {
-        QString reason = m_reader.errorString();
+    if (m_reader->hasError()) {
+        QString reason = m_reader->errorString();
         while (reason.endsWith(QLatin1Char('.'))) {
             reason.chop(1);
         }
-        throw LessonError(say("This is not well-formed XML: %1 (column %2)").arg(reason).arg(m_reader.columnNumber()),
+        throw LessonError(say("This is not well-formed XML: %1 (column %2)").arg(reason).arg(m_reader->columnNumber()),
                           say("Check that the file is complete"))
             .in(m_name, line());
     }
     return m_document;
 }
-
 void XmlBuilder::refuseSource() const
 {
     const Sentence check = say("Check that this is a lesson");
-    switch (m_source.problem()) {
+    switch (m_source->problem()) {
     case XmlProblem::None:
         return;
     case XmlProblem::TooLarge:
         throw LessonError(say("The file is larger than %1 MiB").arg(maximumXmlSize / 1024 / 1024), check).in(m_name);
     case XmlProblem::TooManyAttributes:
         throw LessonError(say("An element has more than %1 attributes").arg(maximumXmlAttributes), check)
-            .in(m_name, m_source.line());
+            .in(m_name, m_source->line());
     case XmlProblem::DocumentType:
         throw LessonError(say("The document has a document type declaration, which lessons don't use"),
                           say("Remove the <!DOCTYPE ...> part"))
-            .in(m_name, m_source.line());
+            .in(m_name, m_source->line());
     case XmlProblem::OddEncoding:
         throw LessonError(say("This is not well-formed XML: it isn't in the encoding that it says it is in"),
                           say("Save it in UTF-8"))
@@ -90,6 +148,46 @@ void XmlBuilder::refuseSource() const
     case XmlProblem::Unreadable:
         throw LessonError(say("The file can't be read to its end"), say("Check the disk that it is on")).in(m_name);
     }
+}
+
+void XmlBuilder::begin()
+{
+    m_document = QDomDocument();
+    m_current.clear();
+    m_depth = 0;
+    m_memory = 0;
+    m_text.clear();
+}
+
+void XmlBuilder::takeStartElement()
+{
+    m_parsedName = m_reader->qualifiedName().toString();
+    m_parsedAttributes.clear();
+    const QXmlStreamAttributes attributes = m_reader->attributes();
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        m_parsedAttributes.append({attribute.qualifiedName().toString(), attribute.value().toString()});
+    }
+}
+
+const QString &XmlBuilder::tagName() const
+{
+    return m_plain ? m_plain->name() : m_parsedName;
+}
+
+const QVector<ReadAttribute> &XmlBuilder::attributes() const
+{
+    return m_plain ? m_plain->attributes() : m_parsedAttributes;
+}
+
+XmlTag XmlBuilder::takeTag()
+{
+    return m_plain ? m_plain->tag() : m_source->takeTag();
+}
+
+// A failure is told by the parser.
+int XmlBuilder::line() const
+{
+    return m_plain ? 0 : int(m_reader->lineNumber());
 }
 
 // Before a node is made that takes so much.
@@ -111,20 +209,19 @@ void XmlBuilder::enterElement()
                           say("Take some groups apart, or check that this is a lesson"))
             .in(m_name, line());
     }
-    m_attributes = m_reader.attributes();
     m_memoryBefore = m_memory;
-    qint64 bytes = elementMemory + m_attributes.size() * attributeMemory;
-    for (const QXmlStreamAttribute &attribute : qAsConst(m_attributes)) {
-        bytes += (attribute.value().size() + attribute.qualifiedName().size()) * qint64(sizeof(QChar));
+    qint64 bytes = elementMemory + attributes().size() * attributeMemory;
+    for (const ReadAttribute &attribute : attributes()) {
+        bytes += (attribute.size() + attribute.name.size()) * qint64(sizeof(QChar));
     }
-    takeMemory(bytes + m_reader.qualifiedName().size() * qint64(sizeof(QChar)));
+    takeMemory(bytes + tagName().size() * qint64(sizeof(QChar)));
 }
 
 QDomElement XmlBuilder::makeElement()
 {
-    QDomElement element = m_document.createElement(m_reader.qualifiedName().toString());
-    for (const QXmlStreamAttribute &attribute : qAsConst(m_attributes)) {
-        element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+    QDomElement element = m_document.createElement(tagName());
+    for (const ReadAttribute &attribute : attributes()) {
+        element.setAttribute(attribute.name, attribute.value());
     }
     enterNode(element);
     return element;
@@ -152,18 +249,20 @@ void XmlBuilder::characters()
         return;
     }
     if (!makesNodes()) {
-        takeMemory(m_reader.text().size() * qint64(sizeof(QChar)));
-        return;
-    }
-    if (m_reader.isCDATA()) {
-        flushText();
-        if (m_reader.text().isEmpty()) {
-            return;
-        }
-        takeMemory(textMemory + m_reader.text().size() * qint64(sizeof(QChar)));
-        m_current.appendChild(m_document.createCDATASection(m_reader.text().toString()));
+        takeMemory(m_reader->text().size() * qint64(sizeof(QChar)));
+    } else if (m_reader->isCDATA()) {
+        addSection(m_reader->text().toString());
     } else {
-        m_text += m_reader.text();
+        m_text += m_reader->text();
+    }
+}
+
+void XmlBuilder::addSection(const QString &text)
+{
+    flushText();
+    if (!text.isEmpty()) {
+        takeMemory(textMemory + text.size() * qint64(sizeof(QChar)));
+        m_current.appendChild(m_document.createCDATASection(text));
     }
 }
 
@@ -175,7 +274,7 @@ void XmlBuilder::flushText()
         takeMemory(textMemory + m_text.size() * qint64(sizeof(QChar)));
         m_current.appendChild(m_document.createTextNode(m_text));
     }
-    m_text.clear();
+    m_text.resize(0); // and keep its memory
 }
 
 } // namespace lessonhost

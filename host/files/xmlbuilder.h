@@ -2,11 +2,16 @@
 #ifndef XMLBUILDER_H
 #define XMLBUILDER_H
 
+#include "files/plainxml.h"
 #include "files/xmlloader.h"
 #include "files/xmlsource.h"
 
 #include <QDomElement>
-#include <QXmlStreamReader>
+#include <QVector>
+
+#include <memory>
+
+class QXmlStreamReader;
 
 namespace lessonhost {
 
@@ -15,19 +20,26 @@ void checkXmlFileSize(qint64 size, const QString &displayName);
 
 /*!
  * Builds the DOM from a stream, so that the text is looked through once and everything that is refused is refused
- * before a node is made for it.
+ * before a node is made for it. A document that is written as most are is read without a parser. One that isn't, or is
+ * refused, is begun again with the parser, which tells what is wrong with it.
  */
 class XmlBuilder
 {
 public:
-    //! text: open, and outliving this. name: of the document in messages.
+    //! text: open, seekable, and outliving this. name: of the document in messages.
     XmlBuilder(QIODevice *text, const QString &name, XmlBlanks blanks = XmlBlanks::Dropped);
-    virtual ~XmlBuilder() = default;
+    virtual ~XmlBuilder();
 
     //! Throws LessonError.
     QDomDocument build();
+    //! The same by the parser alone.
+    QDomDocument parse();
 
 protected:
+    //! Before the first element is read, and again where it is begun again.
+    virtual void begin();
+    //! What the parser is about to read.
+    virtual void beginParsing(XmlSource &) { }
     virtual void startElement();
     virtual void endElement();
     //! False where what is read gets no nodes.
@@ -40,11 +52,14 @@ protected:
     //! Puts a node into the current one, or into the document, and makes it the current one.
     void enterNode(const QDomNode &node);
     void takeMemory(qint64 bytes);
-    int line() const { return int(m_reader.lineNumber()); }
+    //! That of the element which was just told to start or to end, and wasn't taken before; of an empty element it is
+    //! one for both. The source has to keep the tags.
+    XmlTag takeTag();
 
-    XmlSource m_source;
-    QXmlStreamReader m_reader;
-    QXmlStreamAttributes m_attributes; // of the element that was just read
+    //! The element that was just read.
+    const QString &tagName() const;
+    const QVector<ReadAttribute> &attributes() const;
+
     QDomDocument m_document;
     QDomNode m_current;
     int m_depth = 0;
@@ -52,13 +67,24 @@ protected:
     qint64 m_memoryBefore = 0; // without the element that was just read
 
 private:
-    void refuseSource() const;
+    bool buildPlainly();
+    void readPlain(PlainXml::Step step);
+    void takeStartElement();
     void characters();
+    void refuseSource() const;
+    void addSection(const QString &text);
     void flushText();
+    int line() const;
 
+    QIODevice *m_device;
     QString m_name;
     XmlBlanks m_blanks;
     QString m_text;
+    std::unique_ptr<PlainXml> m_plain; // null where the parser reads
+    std::unique_ptr<XmlSource> m_source;
+    std::unique_ptr<QXmlStreamReader> m_reader;
+    QString m_parsedName; // of the element that the parser has just read
+    QVector<ReadAttribute> m_parsedAttributes;
 };
 
 } // namespace lessonhost

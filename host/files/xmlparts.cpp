@@ -8,20 +8,15 @@
 
 #include <QBuffer>
 
+#include <algorithm>
+
 namespace lessonhost {
 
 namespace {
 
 // What is remembered of an element that is dropped, in bytes.
 constexpr qint64 rememberedMemory = 300;
-
-QDomElement withAttributes(QDomElement element, const QXmlStreamAttributes &attributes)
-{
-    for (const QXmlStreamAttribute &attribute : attributes) {
-        element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-    }
-    return element;
-}
+const QString copyName = QStringLiteral("document.xml");
 
 /*!
  * Builds the DOM of one part within the elements around it.
@@ -32,21 +27,30 @@ public:
     PartBuilder(QIODevice *text, const QString &name, const QDomElement &holder)
         : XmlBuilder(text, name)
     {
-        QVector<QDomElement> around;
         for (QDomElement at = holder; !at.isNull(); at = at.parentNode().toElement()) {
-            around.prepend(at);
-        }
-        for (const QDomElement &element : qAsConst(around)) {
-            enterNode(m_document.importNode(element, false));
+            m_around.prepend(at);
         }
     }
 
     XmlPart part()
     {
-        const QDomNode holder = m_current;
         const QDomDocument document = build();
-        return {document, holder.isNull() ? document.documentElement() : holder.lastChildElement()};
+        return {document, m_holder.isNull() ? document.documentElement() : m_holder.lastChildElement()};
     }
+
+protected:
+    void begin() override
+    {
+        XmlBuilder::begin();
+        for (const QDomElement &element : qAsConst(m_around)) {
+            enterNode(m_document.importNode(element, false));
+        }
+        m_holder = m_current;
+    }
+
+private:
+    QVector<QDomElement> m_around;
+    QDomNode m_holder; // in the part's document
 };
 
 } // namespace
@@ -54,7 +58,18 @@ public:
 QDomElement XmlVisitor::Passed::node() const
 {
     QDomElement holder = m_holder;
-    return withAttributes(holder.appendChild(holder.ownerDocument().createElement(name)).toElement(), attributes);
+    QDomElement element = holder.appendChild(holder.ownerDocument().createElement(name)).toElement();
+    for (const ReadAttribute &attribute : attributes) {
+        element.setAttribute(attribute.name, attribute.value());
+    }
+    return element;
+}
+
+QString XmlVisitor::Passed::attribute(QLatin1String itsName) const
+{
+    const auto found = std::find_if(attributes.cbegin(), attributes.cend(),
+                                    [itsName](const ReadAttribute &attribute) { return attribute.name == itsName; });
+    return found == attributes.cend() ? QString() : found->value();
 }
 
 /*!
@@ -65,24 +80,58 @@ class XmlParts::Builder : public XmlBuilder
 public:
     Builder(QIODevice *text, const QString &name, XmlVisitor &visitor, QVector<Place> &places)
         : XmlBuilder(text, name)
+        , m_displayName(name)
         , m_visitor(visitor)
         , m_places(places)
     {
     }
 
-    XmlSource &source() { return m_source; }
+    // Throws LessonError if the document couldn't be copied.
+    void checkCopy() const
+    {
+        if (m_copy) {
+            m_copy->check();
+        }
+    }
+
+    // The folder that holds the document in UTF-8, or null for a document that is in it.
+    std::unique_ptr<WorkFolder> takeCopy()
+    {
+        if (m_copy) {
+            m_copy->finish();
+        }
+        return std::move(m_work);
+    }
 
 protected:
+    void begin() override
+    {
+        XmlBuilder::begin();
+        m_places.clear();
+        m_open.clear();
+        m_isEmpty = false;
+        m_passed = 0;
+        m_visitor.beginDocument();
+    }
+
+    void beginParsing(XmlSource &source) override
+    {
+        if (!source.isUtf8()) {
+            m_work = std::make_unique<WorkFolder>();
+            m_copy = std::make_unique<OutputFile>(m_work->filePath(copyName), m_displayName, OutputFile::Temporary);
+        }
+        source.keepTags(m_copy.get());
+    }
+
     bool makesNodes() const override { return m_passed == 0; }
 
     void startElement() override
     {
-        const XmlTag tag = m_source.takeTag();
+        const XmlTag tag = takeTag();
         m_isEmpty = tag.kind == XmlTag::Empty;
         if (m_passed > 0) {
-            m_name = m_reader.qualifiedName().toString();
             QDomElement around = m_current.toElement();
-            m_visitor.pass({m_name, m_attributes, m_passed, around});
+            m_visitor.pass({tagName(), attributes(), m_passed, around});
             while (around.hasChildNodes()) {
                 around.removeChild(around.firstChild());
             }
@@ -97,7 +146,7 @@ protected:
 
     void endElement() override
     {
-        const qint64 end = m_isEmpty ? -1 : m_source.takeTag().end;
+        const qint64 end = m_isEmpty ? -1 : takeTag().end;
         m_isEmpty = false;
         if (m_passed > 1) {
             --m_passed;
@@ -130,10 +179,12 @@ private:
         qint64 memory; // up to it
     };
 
+    QString m_displayName;
     XmlVisitor &m_visitor;
     QVector<Place> &m_places;
+    std::unique_ptr<WorkFolder> m_work;
+    std::unique_ptr<OutputFile> m_copy;
     QVector<Open> m_open; // elements that have a node
-    QString m_name;
     bool m_isEmpty = false; // the element that was just read
     int m_passed = 0; // levels below the innermost node, which is one of them
 };
@@ -144,28 +195,18 @@ XmlParts::XmlParts(const QString &fileName, const QString &displayName, XmlVisit
 {
     checkXmlFileSize(m_file->size(), displayName);
     Builder builder(m_file.get(), displayName, visitor, m_places);
-    std::unique_ptr<OutputFile> copy;
-    QString copyName;
-    if (!builder.source().isUtf8()) {
-        m_work = std::make_unique<WorkFolder>();
-        copyName = m_work->filePath(QStringLiteral("document.xml"));
-        copy = std::make_unique<OutputFile>(copyName, displayName, OutputFile::Temporary);
-    }
-    builder.source().keepTags(copy.get());
     try {
         m_outline = builder.build();
     } catch (const LessonError &) {
         // A disk that fails is no lesson that is cut short.
         m_file->check();
-        if (copy) {
-            copy->check();
-        }
+        builder.checkCopy();
         throw;
     }
     m_file->check();
-    if (copy) {
-        copy->finish();
-        m_file = std::make_unique<InputFile>(copyName, displayName);
+    m_work = builder.takeCopy();
+    if (m_work) {
+        m_file = std::make_unique<InputFile>(m_work->filePath(copyName), displayName);
     }
 }
 

@@ -3,10 +3,10 @@
 #define XMLPARTS_H
 
 #include "files/inputfile.h"
+#include "files/plainxml.h"
 
 #include <QDomElement>
 #include <QVector>
-#include <QXmlStreamAttributes>
 
 #include <memory>
 
@@ -42,6 +42,9 @@ public:
 
     virtual ~XmlVisitor() = default;
 
+    //! Before the first element. What was told before is void: a document that turns out to be an odd one is told
+    //! again.
+    virtual void beginDocument() = 0;
     //! An element outside of parts, in its place, with its attributes, and without what it holds.
     virtual Way begin(const QDomElement &element) = 0;
     //! The same at its end, if its way was inside. It holds what was kept.
@@ -53,7 +56,8 @@ public:
     class Passed
     {
     public:
-        Passed(const QString &qualifiedName, const QXmlStreamAttributes &itsAttributes, int depth, const QDomElement &around)
+        Passed(const QString &qualifiedName, const QVector<ReadAttribute> &itsAttributes, int depth,
+               const QDomElement &around)
             : name(qualifiedName)
             , attributes(itsAttributes)
             , level(depth)
@@ -62,9 +66,11 @@ public:
         }
         //! A node of it in the outermost one, for as long as it is told.
         QDomElement node() const;
+        //! The value of an attribute, empty where there is none.
+        QString attribute(QLatin1String itsName) const;
 
         const QString &name;
-        const QXmlStreamAttributes &attributes;
+        const QVector<ReadAttribute> &attributes;
         const int level; //!< 1 for a child of the part
 
     private:
@@ -75,8 +81,8 @@ public:
 
 /*!
  * An XML document on disk that is gone through once, and of which parts are read again, one at a time: no more of it is
- * held than its largest part and its outline. What is refused of documents in xmlloader.h is refused here, too, but that
- * the memory is bounded part by part.
+ * held than its largest part and its outline. What is refused of documents in xmlloader.h is refused here, too, but
+ * that the memory is bounded part by part.
  */
 class XmlParts
 {

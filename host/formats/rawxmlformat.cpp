@@ -78,6 +78,12 @@ QJsonObject withStableActions(QJsonObject slide)
 class RawVisitor : public XmlVisitor
 {
 public:
+    void beginDocument() override
+    {
+        firstSlide.clear();
+        ids.clear();
+    }
+
     Way begin(const QDomElement &element) override
     {
         takeId(element.attribute(netId));
@@ -90,7 +96,7 @@ public:
 
     Fate end(const QDomElement &) override { return Kept; }
 
-    void pass(const Passed &passed) override { takeId(passed.attributes.value(netId).toString()); }
+    void pass(const Passed &passed) override { takeId(passed.attribute(netId)); }
 
     QDomElement firstSlide; // without what it holds
     QSet<qint64> ids; // of all elements, as far as they are numbers

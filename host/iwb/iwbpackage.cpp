@@ -10,6 +10,7 @@
 #include "svg/svgnames.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -24,7 +25,7 @@ const QLatin1String contentName("content.xml");
 const QLatin1String embeddedScheme("data:");
 constexpr qint64 pieceSize = qint64(64) * 1024;
 
-template <typename Text> bool isReferenceOfSvg(const Text &attribute)
+bool isReferenceOfSvg(const QString &attribute)
 {
     return attribute.endsWith(QLatin1String("href"));
 }
@@ -85,6 +86,12 @@ public:
     {
     }
 
+    void beginDocument() override
+    {
+        m_before.clear();
+        m_package.forgetDocument();
+    }
+
     Way begin(const QDomElement &element) override
     {
         const int embedded = m_package.m_embeddedPaths.size();
@@ -118,9 +125,9 @@ public:
 
     void pass(const Passed &passed) override
     {
-        for (const QXmlStreamAttribute &attribute : passed.attributes) {
-            if (isReferenceOfSvg(attribute.qualifiedName())) {
-                m_package.takeReference(attribute.value().toString());
+        for (const ReadAttribute &attribute : passed.attributes) {
+            if (isReferenceOfSvg(attribute.name)) {
+                m_package.takeReference(attribute.value());
             }
         }
         m_package.m_outline.pass(passed);
@@ -208,6 +215,19 @@ QString IwbPackage::resolve(const QString &reference, Sentence *problem) const
     return {};
 }
 
+void IwbPackage::forgetDocument()
+{
+    for (const QString &file : qAsConst(m_embedded)) {
+        QFile::remove(file);
+    }
+    m_outline.beginDocument();
+    m_records = RecordTexts();
+    m_remarks.clear();
+    m_embedded.clear();
+    m_embeddedPaths.clear();
+    m_embeddedBefore.clear();
+}
+
 // Pictures within the document become files.
 void IwbPackage::takeReference(const QString &reference)
 {
@@ -290,6 +310,7 @@ bool isIwbFolder(const QString &path)
     class Root : public XmlVisitor
     {
     public:
+        void beginDocument() override { isIwb = false; }
         Way begin(const QDomElement &element) override
         {
             isIwb = iwbName(element) == QLatin1String("iwb");

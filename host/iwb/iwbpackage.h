@@ -53,6 +53,7 @@ public:
 private:
     class Visitor;
 
+    void forgetDocument();
     void takeReference(const QString &reference);
     int findReferences(QDomElement element, int embedded) const;
     QString otherName(const QString &reference) const;

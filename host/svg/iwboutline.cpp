@@ -37,6 +37,11 @@ QString refOf(const QDomElement &row)
 
 } // namespace
 
+void IwbOutline::beginDocument()
+{
+    *this = IwbOutline();
+}
+
 XmlVisitor::Way IwbOutline::begin(const QDomElement &element)
 {
     m_isInPage = false;
@@ -99,7 +104,8 @@ void IwbOutline::pass(const Passed &passed)
     if (isRectangle || isOneOf(iwbRecordNames, name)) {
         lookAt(passed.node(), passed.level);
     }
-    rememberPage(passed.attributes.value(QLatin1String("id")));
+    const QString id = passed.attribute(QLatin1String("id"));
+    rememberPage(QStringRef(&id));
 }
 
 // Which of a page's rectangles is its background is known when all records are. Some of these may stand within a page.

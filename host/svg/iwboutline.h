@@ -14,6 +14,7 @@ namespace lessonhost {
 class IwbOutline : public XmlVisitor
 {
 public:
+    void beginDocument() override;
     Way begin(const QDomElement &element) override;
     Fate end(const QDomElement &element) override;
     void pass(const Passed &passed) override;
