@@ -302,7 +302,8 @@ private slots:
                           "1,5", "e5", "9007199254740993", "0.0000000000000000000000000000000001"};
         for (int i = 0; i < 20000; ++i) {
             const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(-5, 9));
-            numbers << number << std::floor(number * 4096) / (1 << random.bounded(18)) << double(float(number));
+            numbers << number << std::floor(number * 4096) / (1 << random.bounded(18)) << double(float(number))
+                    << QString::number(number, 'f', random.bounded(8)).toDouble();
             texts << QString::number(number, 'g', random.bounded(18)) << QString::number(number, 'f', 9).mid(i % 12);
         }
         for (const double number : qAsConst(numbers)) {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostfixture.h"
+#include "iwb/boarddress.h"
+#include "iwb/iwbpagecheck.h"
 #include "testtable.h"
 #include "ziptext.h"
 
@@ -412,6 +414,98 @@ private slots:
                                       "xmlns='http://www.imsglobal.org/xsd/iwb_v1p0'"_s)
                              .remove("iwb:"_s)),
                  usual);
+    }
+
+    // Whatever a page has otherwise than it was to be written is told.
+    void pagesAreReadBack_data()
+    {
+        const Table<QString, QString, QString, QString, QString> row("element", "attribute", "from", "to", "told");
+        row("nothing", "ink", "", "", "", "");
+        row("a point", "ink", "points", "^\\S+", "100.1,100", "XY");
+        row("a point too few", "ink", "points", " \\S+$", "", "XY");
+        row("a line's colour", "ink", "stroke", ".*", "rgb(254,0,0)", "Color");
+        row("a line's width", "ink", "stroke-width", ".*", "5", "Width");
+        row("a place", "rect", "x", "^", "1", "BoundingBox");
+        row("a filling", "rect", "fill", ".*", "#123456", "ArtObj_Color");
+        row("what is hidden", "rect", "transform", "^", "translate(-1000000,0) ", "Visible");
+        row("letters", "board", "", "word", "world", "TextHtml");
+        row("their colour", "board", "fill", ".*", "#123456", "TextHtml");
+        row("a link", "board_link", "xlink:href", "b", "c", "InteractiveValue");
+        row("another name", "board", "id", "$", "s", "item");
+        row("none of a group", "rect", "before", "outline", "", "item");
+        row("others in a group", "outline", "before", "ellipse", "", "item");
+        row("the order", "board_link", "before", "ink", "", "item");
+    }
+
+    void pagesAreReadBack()
+    {
+        auto [id, attribute, from, to, told] = Table<QString, QString, QString, QString, QString>::cells();
+        struct Painter : ItemPainter
+        {
+            std::optional<PaintedItem> paint(const PlacedItem &, const QVector<PlacedItem> &, const QSizeF &, Form) override
+            {
+                PaintedItem item;
+                item.elements = {{"svg:rect", {{"x", "1"}, {"y", "2"}, {"width", "3"}, {"height", "4"}}, ""},
+                                 {"svg:polyline", {{"points", "1,2 5,2"}, {"stroke", "#123456"}}, ""}};
+                return item;
+            }
+            std::optional<PaintedItem> paintGame(const LessonSlide &, const QSizeF &) override { return {}; }
+            QImage thumbnail(int) override { return {}; }
+        } painter;
+        LessonSlide slide{json("ID=slide"), {}};
+        for (const QJsonObject &item :
+             {json("{'Type': 'ZQSmoothStroke', 'ID': 'ink', 'XY': '100,100,30,10,30,-20,20,40,-30,20', "
+                   "'Color': '255,255,0,0', 'Width': '4'}"),
+              json("{'Type': 'ZQTextBoard', 'ID': 'board', 'BoundingBox': '10,10,90,50', 'TextHtml': "
+                   "'<font color=#ff0000>word</font>', 'InteractiveType': 'ACTION_OPENWEB', "
+                   "'InteractiveValue': 'http://a.b'}"),
+              json("{'Type': 'ZQGroupItem', 'BoundingBox': '20,20,80,90', 'Children': ["
+                   "{'Type': 'ZQMath2DRectangle', 'ID': 'rect', 'BoundingBox': '20,20,60,60', 'ArtObj_Fill': '1', "
+                   "'ArtObj_Color': '255,0,0,255', 'LineColor': '255,0,0,0', 'ArtObj_Width': '2'}, "
+                   "{'Type': 'ZQMath2DEllipse', 'ID': 'ellipse', 'BoundingBox': '20,60,80,90', 'ArtObj_Fill': '0', "
+                   "'LineColor': '255,0,0,0', 'ArtObj_Width': '2'}]}"),
+              json("{'Type': 'ZQPhysicDiode', 'ID': 'outline', 'BoundingBox': '1,2,5,6'}")}) {
+            slide.items.append(item);
+        }
+        IwbMedia media;
+        IwbItemWriter::Setting setting;
+        setting.plugin = plugin();
+        setting.media = &media;
+        setting.convertsDrawings = true;
+        IwbPageWriter pages(setting);
+        pages.setUniqueInDocument();
+        pages.setPainter(&painter, false);
+        pages.start({{"Width", "800"}, {"Height", "600"}}, {});
+        BoardDress::startDocument(pages.document(), {});
+        QDomElement page = pages.addPage(slide.properties, 1, {});
+        const auto items = pages.addItems(page, slide, {});
+        BoardDress(true).dress(page, {{{"ink", false}}, {}, {}, {{"ink"}, {"board"}, {"rect", "ellipse"}, {"outline"}}});
+        const auto named = [&page](const QString &name) {
+            QDomElement found = page.firstChildElement();
+            while (!found.isNull() && found.attribute("id") != name && found.firstChildElement().attribute("id") != name) {
+                found = found.nextSiblingElement();
+            }
+            return found.attribute("id") == name ? found : found.firstChildElement();
+        };
+        QDomElement element = named(id);
+        const QRegularExpression part(from);
+        if (attribute == "before") {
+            page.insertBefore(element, named(from));
+        } else if (attribute.isEmpty()) {
+            QDomText text = element.firstChildElement().firstChild().toText();
+            text.setData(text.data().replace(part, to));
+        } else if (!from.isEmpty()) {
+            QDomElement owner = attribute == "fill" && id == "board" ? element.firstChildElement() : element;
+            owner.setAttribute(attribute, owner.attribute(attribute).replace(part, to));
+        }
+        LossReport losses;
+        IwbPageCheck(plugin(), media).compare(pages.document(), slide, items, 1, SlideLosses(&losses, 1));
+        QStringList keys;
+        for (const Loss &loss : losses.entries()) {
+            keys.append(loss.key.isEmpty() ? "item"_s : loss.key);
+        }
+        keys.removeDuplicates();
+        QCOMPARE(keys.join(' '), told);
     }
 
     // The document alone, and archives whose names have the wrong slashes.

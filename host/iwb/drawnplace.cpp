@@ -107,7 +107,8 @@ QPolygonF drawnPoints(const QJsonObject &item, const ShapeForm *form, const Outl
 
 bool isSamePoint(const QPointF &one, const QPointF &other)
 {
-    return std::hypot(one.x() - other.x(), one.y() - other.y()) < smallestDistance;
+    const QPointF apart = one - other;
+    return QPointF::dotProduct(apart, apart) < smallestDistance * smallestDistance;
 }
 
 // Without points that only repeat the one before them.
@@ -156,7 +157,7 @@ QPolygonF shortLineOf(const QJsonObject &stroke, const QPolygonF &line)
 }
 
 bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const OutlineSource &outlines,
-                  const QTransform &moved, const QPolygonF &line)
+                  const QTransform &moved, const QPolygonF &line, const QPolygonF &foundLine)
 {
     const ShapeForm *form = shapeForm(given.value(ItemKeys::type).toString());
     const ShapeForm *foundForm = shapeForm(found.value(ItemKeys::type).toString());
@@ -178,7 +179,8 @@ bool isDrawnAlike(const QJsonObject &given, const QJsonObject &found, const Outl
         drawn = isInkItem(given, form) ? fineLine(drawn) : drawn;
     }
     const QPolygonF one = withoutRepeats(moved.map(drawn));
-    const QPolygonF other = withoutRepeats(drawnPoints(found, foundForm, outlines));
+    const QPolygonF other = withoutRepeats(foundLine.isEmpty() ? drawnPoints(found, foundForm, outlines)
+                                                               : placeOfStroke(ItemView(found)).map(foundLine));
     return !one.isEmpty() && std::equal(one.cbegin(), one.cend(), other.cbegin(), other.cend(), isSamePoint);
 }
 

@@ -6,6 +6,7 @@
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "lesson/numbertexts.h"
+#include "lesson/planegeometry.h"
 #include "lesson/shapeforms.h"
 #include "lesson/textruns.h"
 #include "svg/svggeometry.h"
@@ -142,7 +143,7 @@ QJsonObject IwbItemReader::read(const IwbElement &item) const
         setControl(json, *form, item.element);
         completeColors(json, *form);
     }
-    if (const auto extent = drawnExtent(item.element)) {
+    if (const auto extent = item.points.isEmpty() ? drawnExtent(item.element) : extentOf(item.points)) {
         json.insert(ItemKeys::box, boxText(*extent));
     }
     json.remove(ItemKeys::angle);

@@ -13,11 +13,14 @@
 #include "svg/pluginoutlines.h"
 #include "svg/svgnormalizer.h"
 
+#include <QSet>
+
 namespace lessonhost {
 
 namespace {
 
 const QLatin1String pageIdPrefix("page");
+const QLatin1String groupType("ZQGroupItem");
 
 // What is written has six digits.
 constexpr double writtenDigits = 1e-4;
@@ -152,6 +155,20 @@ void compareText(QJsonObject &given, const QJsonObject &found, const SlideLosses
     }
 }
 
+// Of items that were told as pictures and outlines nothing is compared but their places among others; groups are as
+// large as what they hold.
+QSet<QString> toldItems(const LessonSlide &slide, const QVector<IwbPageWriter::WrittenItem> &items)
+{
+    QSet<QString> told;
+    for (const IwbPageWriter::WrittenItem &written : items) {
+        const bool isInGroup = ItemView(slide.items.at(written.top).toObject()).type() == groupType;
+        if ((written.isPicture || written.isOutlined) && !isInGroup) {
+            told.insert(written.id);
+        }
+    }
+    return told;
+}
+
 } // namespace
 
 IwbPageCheck::IwbPageCheck(IZQTransformation *plugin, const IwbMedia &media)
@@ -183,7 +200,8 @@ void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slid
 {
     const SvgNormalizer content(document.documentElement());
     UniqueIds ids;
-    IwbSlideReader::Slide found = m_reader.readLoose(content.page(0), number, {}, ids);
+    IwbSlideReader::Slide found = m_reader.readLoose(content.page(content.layers(0), toldItems(slide, items)), number,
+                                                     {}, ids, IwbSlideReader::Ink::Lines);
     found.slide.properties.insert(ItemKeys::id,
                                   m_names.next(content.outline().backgroundName(0), content.outline().pageId(0)));
     compareSlide(slide.properties, found.slide.properties, losses);
@@ -195,7 +213,7 @@ void IwbPageCheck::compare(const QDomDocument &document, const LessonSlide &slid
             continue; // which was told
         }
         if (at >= 0) {
-            compareItem(written, found.slide.items.at(at).toObject(), losses);
+            compareItem(written, found.slide.items.at(at).toObject(), found.lines.value(at), losses);
             next = at + 1;
         } else if (!written.id.isEmpty()) {
             losses.item(written.given);
@@ -225,7 +243,7 @@ void IwbPageCheck::compareGroups(const LessonSlide &slide, IwbSlideReader::Slide
     IwbSlideReader::putIntoGroups(found, number, ids, {});
     for (int i = 0; i < slide.items.size(); ++i) {
         const QJsonObject given = slide.items.at(i).toObject();
-        if (ItemView(given).type() != QLatin1String("ZQGroupItem") || shown.value(i) < 2) {
+        if (ItemView(given).type() != groupType || shown.value(i) < 2) {
             continue; // which was told
         }
         const int at = groups.contains(i) ? found.groups.indexOf(groups.value(i)) : -1;
@@ -268,7 +286,7 @@ void IwbPageCheck::compareSlide(const QJsonObject &given, const QJsonObject &fou
 }
 
 void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const QJsonObject &found,
-                               const SlideLosses &losses)
+                               const QPolygonF &foundLine, const SlideLosses &losses)
 {
     const QJsonObject &given = written.given;
     QJsonObject own = given;
@@ -281,7 +299,7 @@ void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const 
     QJsonObject back = found;
     removeFitting(own);
     const bool isUnderMatrix = !isNothing(given.value(ItemKeys::matrix));
-    if (isDrawnAlike(given, found, m_outlines, written.placed, written.line)) {
+    if (isDrawnAlike(given, found, m_outlines, written.placed, written.line, pointsOfSteps(foundLine))) {
         const auto control = wholeNumbers(given.value(ItemKeys::control));
         const bool hasPoints = control && control->size() % 2 == 0;
         for (const QLatin1String key : placeKeys) {
@@ -292,6 +310,8 @@ void IwbPageCheck::compareItem(const IwbPageWriter::WrittenItem &written, const 
                 back.remove(key);
             }
         }
+    } else if (!foundLine.isEmpty()) {
+        back.insert(ItemKeys::steps, stepsText(foundLine));
     }
     if (given.contains(ItemKeys::steps) && found.contains(ItemKeys::polyline)) {
         for (const InkKey &row : inkKeys) {

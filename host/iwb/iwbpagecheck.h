@@ -49,7 +49,8 @@ private:
     void compareSlide(const QJsonObject &given, const QJsonObject &found, const SlideLosses &losses) const;
     void compareGroups(const LessonSlide &slide, IwbSlideReader::Slide found,
                        const QVector<IwbPageWriter::WrittenItem> &items, int number, const SlideLosses &losses) const;
-    void compareItem(const IwbPageWriter::WrittenItem &written, const QJsonObject &found, const SlideLosses &losses);
+    void compareItem(const IwbPageWriter::WrittenItem &written, const QJsonObject &found, const QPolygonF &foundLine,
+                     const SlideLosses &losses);
     bool isSameFile(const LossOwner &owner, const QJsonValue &given, const QJsonValue &found,
                     const SlideLosses &losses) const;
 

@@ -43,19 +43,15 @@ QJsonObject groupWith(const QJsonArray &children, const QString &id)
             {HostKeys::children, children}};
 }
 
-// A line of points that was drawn by hand, as ink. A marker that tells no opacity lets shine through what lies below.
+// A line of points that was drawn by hand, as ink without its steps. A marker that tells no opacity lets shine through what lies below.
 QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
 {
-    const QPolygonF points = pointsOf(svgNumbers(element.element.attribute(QStringLiteral("points"))));
+    const QPolygonF &points = element.points;
     const double width = numberOfText(element.element.attribute(QStringLiteral("stroke-width")));
     QColor color = svgColor(element.element.attribute(QStringLiteral("stroke"))).value_or(QColor(Qt::black));
     constexpr double markerOpacity = 0.4;
     if (element.isHighlight && color.alpha() == 255) {
         color.setAlphaF(markerOpacity);
-    }
-    QPolygonF steps = points;
-    for (int i = steps.size() - 1; i > 0; --i) {
-        steps[i] = points.at(i) - points.at(i - 1);
     }
     QJsonObject ink{
         {ItemKeys::type,
@@ -63,7 +59,6 @@ QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
         {ItemKeys::box, boxText(points.boundingRect().adjusted(-width / 2, -width / 2, width / 2, width / 2))},
         {ItemKeys::color, color.name(QColor::HexArgb)},
         {ItemKeys::width, numberText(width)},
-        {ItemKeys::steps, pointsText(steps)},
         {ItemKeys::angle, QStringLiteral("0")}};
     for (const QLatin1String key : {ItemKeys::visible, ItemKeys::locked, ItemKeys::endless}) {
         ink.insert(key, polyline.value(key));
@@ -74,9 +69,8 @@ QJsonObject inkOf(const IwbElement &element, const QJsonObject &polyline)
 // What records say of an item beyond what the plug-in reads.
 void readRecord(const IwbElement &element, QJsonObject &json)
 {
-    const bool isPolyline = element.element.tagName() == QLatin1String("svg:polyline");
     const QJsonObject shape = json;
-    if (isPolyline && (element.isFreehand || element.isHighlight)) {
+    if (element.isInk()) {
         json = inkOf(element, shape);
     }
     if (element.isRevealer) {
@@ -118,7 +112,8 @@ IwbSlideReader::Slide IwbSlideReader::read(IwbPage page, int number, const Slide
     return result;
 }
 
-IwbSlideReader::Slide IwbSlideReader::readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids)
+IwbSlideReader::Slide IwbSlideReader::readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids,
+                                                Ink ink)
 {
     for (const SvgRemark &remark : qAsConst(page.remarks)) {
         const LossOwner owner(remark.tag, remark.id);
@@ -127,8 +122,14 @@ IwbSlideReader::Slide IwbSlideReader::readLoose(IwbPage page, int number, const 
     Slide result;
     result.slide.properties = readProperties(page, losses);
     for (const IwbElement &element : qAsConst(page.items)) {
-        QJsonObject item = readItem(element, losses);
-        if (!item.isEmpty()) {
+        const bool isPassedOver = element.element.isNull();
+        QJsonObject item = isPassedOver ? QJsonObject() : readItem(element, losses);
+        if (isPassedOver || !item.isEmpty()) {
+            if (element.isInk() && ink == Ink::Lines) {
+                result.lines.insert(result.slide.items.size(), element.points);
+            } else if (element.isInk()) {
+                item.insert(ItemKeys::steps, stepsText(element.points));
+            }
             const QString id =
                 element.id.isEmpty() ? QStringLiteral("item%1_%2").arg(number).arg(ids.count() + 1) : element.id;
             item.insert(ItemKeys::id, ids.take(id));

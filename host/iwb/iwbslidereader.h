@@ -6,6 +6,9 @@
 #include "lesson/lesson.h"
 #include "losses/slidelosses.h"
 
+#include <QHash>
+#include <QPolygonF>
+
 namespace lessonhost {
 
 class UniqueIds;
@@ -49,12 +52,15 @@ public:
         LessonSlide slide; //!< without ID
         QStringList elementIds; //!< for each item, the identifier that its element has in the page
         QVector<int> groups; //!< for each, which of the document's groups it belongs to, or -1
+        QHash<int, QPolygonF> lines; //!< the points of items that are ink without their steps, by their places
     };
+    //! How ink comes: as any item, or with its points beside it.
+    enum class Ink { Steps, Lines };
 
     //! number counts from 1 and names items that have no identifier. page is changed on the way.
     Slide read(IwbPage page, int number, const SlideLosses &losses);
-    //! The same with all items by themselves.
-    Slide readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids);
+    //! The same with all items by themselves. What the page passes over is there, with its identifier alone.
+    Slide readLoose(IwbPage page, int number, const SlideLosses &losses, UniqueIds &ids, Ink ink = Ink::Steps);
     //! The properties of the slide alone.
     QJsonObject readBackground(IwbPage page) { return readProperties(page, {}); }
     //! Puts the items of groups into items that are groups, which nothing stands between.

@@ -45,16 +45,6 @@ QPolygonF padded(QPolygonF points)
     return points;
 }
 
-// As they are read of pointsText().
-QPolygonF inExactDigits(QPolygonF points)
-{
-    const auto finite = [](double value) { return qIsFinite(value) ? exactNumber(value) : 0; };
-    for (QPointF &point : points) {
-        point = {finite(point.x()), finite(point.y())};
-    }
-    return points;
-}
-
 class ShapePlacer
 {
 public:
@@ -233,8 +223,8 @@ PlacedShape placeShape(const ItemView &item, const ShapeForm &form, const Outlin
 
 QPolygonF placeLine(const QPolygonF &points)
 {
-    const QPolygonF own = inExactDigits(points);
-    return own.isEmpty() ? own : inExactDigits(padded(fitted(own, {extentOf(own), 0})));
+    const QPolygonF own = exactPoints(points);
+    return own.isEmpty() ? own : exactPoints(padded(fitted(own, {extentOf(own), 0})));
 }
 
 } // namespace lessonhost

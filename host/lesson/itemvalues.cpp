@@ -96,6 +96,14 @@ QString numberArrayText(const QJsonArray &array)
     return numbers.join(QLatin1Char(','));
 }
 
+QPolygonF stepsBetween(QPolygonF points)
+{
+    for (int i = points.size() - 1; i > 0; --i) {
+        points[i] -= points.at(i - 1);
+    }
+    return points;
+}
+
 } // namespace
 
 int majorVersion(const QJsonObject &presentation)
@@ -302,6 +310,30 @@ double exactNumber(double value)
 QString pointsText(const QPolygonF &points)
 {
     return coordinateTexts(points, exactDigits, ',', ',');
+}
+
+// What is no number is read as 0.
+QPolygonF exactPoints(QPolygonF points)
+{
+    const auto finite = [](double value) { return qIsFinite(value) ? exactNumber(value) : 0; };
+    for (QPointF &point : points) {
+        point = {finite(point.x()), finite(point.y())};
+    }
+    return points;
+}
+
+QString stepsText(const QPolygonF &points)
+{
+    return pointsText(stepsBetween(points));
+}
+
+QPolygonF pointsOfSteps(const QPolygonF &points)
+{
+    QPolygonF result = exactPoints(stepsBetween(points));
+    for (int i = 1; i < result.size(); ++i) {
+        result[i] += result.at(i - 1);
+    }
+    return result;
 }
 
 QString boxText(const QRectF &box)

@@ -70,6 +70,13 @@ QString exactText(double value);
 double exactNumber(double value);
 //! x and y in turn with commas between.
 QString pointsText(const QPolygonF &points);
+//! What is read of pointsText().
+QPolygonF exactPoints(QPolygonF points);
+
+//! A stroke's first point and the steps between its points, as pointsText().
+QString stepsText(const QPolygonF &points);
+//! The points that are read of stepsText().
+QPolygonF pointsOfSteps(const QPolygonF &points);
 //! left,top,right,bottom.
 QString boxText(const QRectF &box);
 

@@ -2,6 +2,7 @@
 #include "lesson/numbertexts.h"
 
 #include <QLocale>
+#include <QtGlobal>
 
 #include <array>
 #include <cfloat>
@@ -182,6 +183,18 @@ std::optional<PlainDigits> plainDigits(double size, int digits)
     return isPlain ? std::make_optional(plain) : std::nullopt;
 }
 
+// True for a number of no more than six decimals that has no more digits, such as most that were read: it is the one
+// that is nearest to its digits.
+bool hasFewDecimals(double value, int digits)
+{
+    constexpr int decimals = 6;
+    constexpr auto millionth = double(powers[decimals]);
+    const double size = std::fabs(value);
+    return FLT_EVAL_METHOD == 0 && digits >= decimals && digits <= mostDigits
+        && size < double(powers[std::size_t(digits - decimals)]) && size > 0
+        && double(qRound64(size * millionth)) / millionth == size;
+}
+
 /*!
  * The letters of a number that is printed plainly.
  */
@@ -284,6 +297,9 @@ void appendNumber(QString &text, double value, int digits)
 // The digits and the power of ten that divides them are numbers without an error.
 double numberInDigits(double value, int digits)
 {
+    if (hasFewDecimals(value, digits)) {
+        return value;
+    }
     const auto plain = plainDigits(std::fabs(value), digits);
     if (!plain || FLT_EVAL_METHOD != 0) {
         return numberOfText(numberText(value, digits));
@@ -305,6 +321,15 @@ QString shortestNumberText(double value)
     std::array<char, 32> letters{};
     const auto result = std::to_chars(letters.data(), letters.data() + letters.size(), value, std::chars_format::fixed);
     return QString::fromLatin1(letters.data(), int(result.ptr - letters.data()));
+}
+
+QPolygonF pointsInDigits(QPolygonF points, int digits)
+{
+    const auto inDigits = [digits](double value) { return numberInDigits(withoutErrorOfZero(value), digits); };
+    for (QPointF &point : points) {
+        point = {inDigits(point.x()), inDigits(point.y())};
+    }
+    return points;
 }
 
 QString coordinateTexts(const QPolygonF &points, int digits, char inner, char outer)

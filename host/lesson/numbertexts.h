@@ -45,6 +45,9 @@ inline double withoutErrorOfZero(double coordinate)
     return qAbs(coordinate) < 1e-9 ? 0 : coordinate;
 }
 
+//! What is read of each coordinate in coordinateTexts().
+QPolygonF pointsInDigits(QPolygonF points, int digits);
+
 //! The coordinates of points as numberText() of withoutErrorOfZero(): x, inner, y, then outer before the next point.
 QString coordinateTexts(const QPolygonF &points, int digits, char inner, char outer);
 

@@ -6,6 +6,7 @@
 
 #include <QDomDocument>
 #include <QHash>
+#include <QPolygonF>
 #include <QRectF>
 #include <QString>
 #include <QVector>
@@ -59,8 +60,11 @@ struct SvgRemark
  */
 struct IwbElement
 {
-    QDomElement element; //!< svg:rect, svg:line, svg:polyline, svg:circle, svg:ellipse, svg:textarea, svg:image, ...
+    //! svg:rect, svg:line, svg:polyline, svg:circle, svg:ellipse, svg:textarea, svg:image, ...; null for one that is
+    //! passed over. That of ink has the first of its points alone.
+    QDomElement element;
     QString id;
+    QPolygonF points; //!< of a polyline, as its text tells them
     double angle = 0; //!< radians about the centre of the box; of text, media, rectangles and ellipses
     QString reference; //!< of media, as the file has it
     QString link; //!< target of the link around the item, as the file has it
@@ -75,6 +79,8 @@ struct IwbElement
     bool flipsAcross = false; //!< left and right are exchanged
     bool flipsDown = false; //!< up and down are exchanged
     int group = -1; //!< which of the document's groups it belongs to
+
+    bool isInk() const { return (isFreehand || isHighlight) && element.tagName() == QLatin1String("svg:polyline"); }
 };
 
 /*!

@@ -56,9 +56,11 @@ QVector<XmlPart> SvgNormalizer::layers(int index) const
     return layers;
 }
 
-IwbPage SvgNormalizer::page(const QVector<XmlPart> &layers) const
+IwbPage SvgNormalizer::page(const QVector<XmlPart> &layers, const QSet<QString> &passed) const
 {
-    return SvgPageBuilder(m_outline.rules()).build(layers);
+    SvgPageBuilder builder(m_outline.rules());
+    builder.passOver(passed);
+    return builder.build(layers);
 }
 
 IwbPage SvgNormalizer::page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children,

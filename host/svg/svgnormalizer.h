@@ -4,6 +4,8 @@
 
 #include "svg/iwboutline.h"
 
+#include <QSet>
+
 #include <functional>
 
 namespace lessonhost {
@@ -29,7 +31,8 @@ public:
     //! The elements that lie over each other on a page, from back to front.
     QVector<XmlPart> layers(int index) const;
     IwbPage page(int index) const { return page(layers(index)); }
-    IwbPage page(const QVector<XmlPart> &layers) const;
+    //! passed: identifiers of items of which nothing is asked but where they stand.
+    IwbPage page(const QVector<XmlPart> &layers, const QSet<QString> &passed = {}) const;
     //! The page with some of its children alone. backgrounds: which of its elements are no items, but its background.
     IwbPage page(const QVector<XmlPart> &layers, const QVector<QDomElement> &children,
                  const QVector<QDomElement> &backgrounds) const;

@@ -10,6 +10,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lessonhost {
@@ -155,6 +156,25 @@ IwbElement &SvgPage::addItem(const QDomElement &source, const SvgPlace &place, c
     item.group = item.id.isEmpty() ? -1 : m_rules.groups.value(item.id, -1);
     m_result.items.append(item);
     return m_result.items.last();
+}
+
+void SvgPage::passOver(const QDomElement &source)
+{
+    IwbElement item;
+    item.id = source.attribute(QStringLiteral("id"));
+    item.group = m_rules.groups.value(item.id, -1);
+    m_result.items.append(item);
+}
+
+// The plug-in makes an angle of three points and a polyline of more, of which ink takes nothing.
+void SvgPage::placePoints(IwbElement &item, const QPolygonF &points)
+{
+    constexpr int fewPoints = 4;
+    const auto isFinite = [](const QPointF &point) { return qIsFinite(point.x()) && qIsFinite(point.y()); };
+    const auto end = std::find_if_not(points.cbegin(), points.cend(), isFinite); // what follows can't be read
+    item.points = pointsInDigits(points.mid(0, int(end - points.cbegin())), coordinateDigits);
+    const QPolygonF read = item.isInk() ? QPolygonF(points.mid(0, fewPoints)) : points;
+    item.element.setAttribute(QStringLiteral("points"), svgPoints(read));
 }
 
 void SvgPage::placeBox(const QDomElement &source, IwbElement &item, const QRectF &box, const QTransform &matrix)

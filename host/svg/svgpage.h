@@ -49,6 +49,10 @@ public:
 
     //! An item of the page, with what the element says of every item. tag: of the element that the plug-in reads.
     IwbElement &addItem(const QDomElement &source, const SvgPlace &place, const QString &tag);
+    //! An item of which nothing is asked but where it stands among the others.
+    void passOver(const QDomElement &source);
+    //! The points of a polyline on the page, once it is known whether it is ink.
+    void placePoints(IwbElement &item, const QPolygonF &points);
     //! Puts its box under a transform: its size along its own sides, its centre, and its angle. A lost slant is told.
     void placeBox(const QDomElement &source, IwbElement &item, const QRectF &box, const QTransform &matrix);
 

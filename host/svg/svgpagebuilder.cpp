@@ -131,6 +131,10 @@ void SvgPageBuilder::nameWithoutPage(const QDomElement &element, const QString &
 void SvgPageBuilder::children(const QDomElement &holder, const SvgPlace &place)
 {
     for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (!m_passed.isEmpty() && m_passed.contains(itemOfPart(child.attribute(QStringLiteral("id"))))) {
+            m_page.passOver(child);
+            continue;
+        }
         const QVector<QDomElement> pieces = strokePieces(m_page, child);
         if (pieces.isEmpty()) {
             convert(child, place);

@@ -6,6 +6,8 @@
 #include "svg/pagebackground.h"
 #include "svg/svgpage.h"
 
+#include <QSet>
+
 namespace lessonhost {
 
 /*!
@@ -15,6 +17,9 @@ class SvgPageBuilder
 {
 public:
     explicit SvgPageBuilder(const IwbDocumentRules &rules);
+
+    //! Items of which nothing is asked but where they stand, by their identifiers.
+    void passOver(const QSet<QString> &ids) { m_passed = ids; }
 
     //! layers: the page elements that lie over each other, from back to front.
     IwbPage build(const QVector<XmlPart> &layers);
@@ -35,6 +40,7 @@ private:
     void link(const QDomElement &element, const SvgPlace &place);
 
     SvgPage m_page;
+    QSet<QString> m_passed;
     PageBackground m_background;
 };
 

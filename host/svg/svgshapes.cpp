@@ -128,13 +128,13 @@ void outline(SvgPage &page, const QDomElement &source, const SvgPlace &place, QP
         page.remark(source, say("it is filled also where it crosses itself"), false);
     }
     IwbElement &item = page.addItem(source, place, QStringLiteral("svg:polyline"));
-    item.element.setAttribute(QStringLiteral("points"), svgPoints(place.style.matrix.map(points)));
-    setPluginPaint(item.element, paint);
     if (isClosed && isInk) {
         item.isFreehand = false;
         item.isHighlight = false;
         page.remark(source, say("it isn't drawn as a pen does, so it is no ink"), false);
     }
+    page.placePoints(item, place.style.matrix.map(points));
+    setPluginPaint(item.element, paint);
 }
 
 } // namespace

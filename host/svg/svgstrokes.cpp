@@ -61,7 +61,7 @@ bool readStroke(SvgPage &page, const QVector<QDomElement> &pieces, const SvgPlac
         points.append(points.first());
     }
     IwbElement &item = page.addItem(pieces.first(), place, QStringLiteral("svg:polyline"));
-    item.element.setAttribute(QStringLiteral("points"), svgPoints(points));
+    page.placePoints(item, points);
     SvgPaint paint;
     paint.fill = QColor(0, 0, 0, 0);
     paint.line = color;
