@@ -35,8 +35,10 @@ IwbItemWriter::Setting paintedSetting(IZQTransformation *plugin, IwbMedia *media
 
 QRect paintedRect(const QImage &image)
 {
-    QRect painted;
-    const std::vector<QRgb> nothing(std::size_t(image.width()));
+    const int width = image.width();
+    const std::vector<QRgb> nothing(std::size_t(width), 0);
+    QPoint first(width, -1);
+    QPoint last(-1, -1);
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         // Most lines are empty, which is told of one as a whole.
@@ -44,19 +46,21 @@ QRect paintedRect(const QImage &image)
             continue;
         }
         int left = 0;
-        while (left < image.width() && qAlpha(line[left]) == 0) {
+        while (left < width && qAlpha(line[left]) == 0) {
             ++left;
         }
-        if (left == image.width()) {
+        if (left == width) {
             continue;
         }
-        int right = image.width() - 1;
-        while (qAlpha(line[right]) == 0) {
+        // Only what is further right than on the lines above makes a difference.
+        int right = width - 1;
+        while (right > last.x() && qAlpha(line[right]) == 0) {
             --right;
         }
-        painted = painted.united(QRect(left, y, right - left + 1, 1));
+        first = QPoint(qMin(first.x(), left), first.y() < 0 ? y : first.y());
+        last = QPoint(right, y);
     }
-    return painted;
+    return QRect(first, last);
 }
 
 QRect aligned(const QRect &rect, int step)
@@ -122,6 +126,19 @@ std::optional<PaintedItem> SlideItemPainter::paintGame(const LessonSlide &slide,
     return painted(draw, page, Picture);
 }
 
+// Nothing to paint on, in the same memory each time: asking the system for more takes longer than painting does.
+QImage SlideItemPainter::canvas(const QSize &size)
+{
+    const int line = size.width() * int(sizeof(QRgb));
+    if (m_pixels.size() < line * size.height()) {
+        m_pixels = QByteArray(line * size.height(), Qt::Uninitialized);
+    }
+    QImage image(reinterpret_cast<uchar *>(m_pixels.data()), size.width(), size.height(), line,
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
 // First where it is, in an area larger than the page, then what it is.
 std::optional<PaintedItem>
 SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &drawings)> &draw, const QSizeF &page,
@@ -153,11 +170,9 @@ SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &dr
 
     const auto paintedArea = [&](const QRectF &area, double scale) {
         const QSizeF size = area.size() * scale;
-        QImage image(QSizeF(qBound(1.0, std::ceil(size.width()), largestPicture),
-                            qBound(1.0, std::ceil(size.height()), largestPicture))
-                         .toSize(),
-                     QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
+        QImage image = canvas(QSizeF(qBound(1.0, std::ceil(size.width()), largestPicture),
+                                     qBound(1.0, std::ceil(size.height()), largestPicture))
+                                  .toSize());
         QPainter painter(&image);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         m_printer.paint(painter, drawn, QRectF(-area.topLeft() * scale, page * scale));

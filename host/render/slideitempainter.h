@@ -8,6 +8,9 @@
 #include "render/pageprinter.h"
 #include "render/picturestore.h"
 
+#include <QByteArray>
+#include <QImage>
+
 #include <functional>
 
 namespace lessonhost {
@@ -33,6 +36,7 @@ public:
 private:
     std::optional<PaintedItem> painted(const std::function<bool(PlainSvg &plain, Drawings &drawings)> &draw,
                                        const QSizeF &page, Form form);
+    QImage canvas(const QSize &size);
 
     LessonReader &m_reader;
     IZQTransformation *m_plugin;
@@ -41,6 +45,7 @@ private:
     PictureStore m_store;
     PagePrinter m_printer;
     IwbPageWriter m_pages;
+    QByteArray m_pixels; // of what is being painted
 };
 
 } // namespace lessonhost
