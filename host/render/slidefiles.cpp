@@ -2,12 +2,12 @@
 #include "render/slidefiles.h"
 
 #include "files/lessonerror.h"
+#include "files/paintedpng.h"
 #include "render/picturestore.h"
 #include "render/slidepictures.h"
 
 #include <QDir>
 #include <QImage>
-#include <QImageWriter>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegularExpression>
@@ -140,11 +140,10 @@ void SlideFiles::draw(const SlidePicture &picture, OutputFile &file)
     m_printer.paint(painter, picture, page);
     painter.end();
     file.tellLater();
-    QImageWriter writer(&file, m_settings.form->name.toLatin1());
-    if (m_settings.form->kind != PictureForm::Png) {
-        writer.setQuality(photographQuality);
-    }
-    const bool isDrawn = !image.isNull() && writer.write(image);
+    const bool isDrawn = !image.isNull()
+        && (m_settings.form->kind == PictureForm::Png
+                ? writePaintedPng(image, &file)
+                : image.save(&file, m_settings.form->name.toLatin1().constData(), photographQuality));
     file.check();
     if (!isDrawn) {
         throw LessonError(say("The picture of slide %1 can't be drawn").arg(picture.slide),
