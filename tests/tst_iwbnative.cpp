@@ -6,7 +6,10 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QJsonDocument>
+#include <QRandomGenerator>
 #include <QtTest>
+
+#include <cmath>
 
 /*!
  * The lesson itself in IWB packages, and what other programs do to the elements that stand for it.
@@ -214,6 +217,28 @@ private slots:
         }
     }
 
+    // Numbers whose letters are looked at are the same as those whose values are, which the ones with exponents are.
+    void marksTellNumbersByTheirValues()
+    {
+        QDomDocument document;
+        QDomElement line = document.createElement("svg:polyline");
+        const auto markOf = [&line](const QString &points) {
+            line.setAttribute("points", points);
+            return elementMark(line, {});
+        };
+        QRandomGenerator random(25);
+        QStringList texts{"0", "-0", "0.00", "5.", "007.5", "-0.5", "99999.5", "99999.6", "999.9996", "0.00999996"};
+        for (int i = 0; i < 5000; ++i) {
+            const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(-4, 8));
+            texts << QString::number(number, 'g', 1 + i % 8) << QString::number(number, 'f', i % 5);
+        }
+        for (const QString &text : qAsConst(texts)) {
+            const QString other = "1e0 " + QString::number(text.toDouble(), 'e', 16) + " -2.5";
+            QVERIFY2(markOf(" 1 ," + text + ",-2.50\n") == markOf(other), qPrintable(text));
+        }
+        QVERIFY(markOf("1,12.3456") != markOf("1,12.348"));
+    }
+
     // What the format has beside elements of the same shape.
     void writesWhatOthersKnow()
     {
@@ -250,7 +275,8 @@ private slots:
         QFile::remove(path("there/additional/native/page1.json"));
         putFile(path("there/additional/native/page1.json"), "{");
         const QString told = convert("there", "back.json");
-        QVERIFY2(told.contains("of the lesson itself is damaged") && !told.contains("another program"), qPrintable(told));
+        QVERIFY2(told.contains("of the lesson itself is damaged") && !told.contains("another program"),
+                 qPrintable(told));
         QVERIFY(items("back.json").contains("ZQMath2DPolyline hexagon"));
     }
 };

@@ -7,10 +7,11 @@
 #include "svg/svgvalues.h"
 
 #include <QCryptographicHash>
-#include <QMap>
 #include <QVector>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lessonhost {
 
@@ -61,6 +62,141 @@ QString plainValue(const QString &value)
     return text.simplified();
 }
 
+/*!
+ * The letters of a value, as plainValue() gives them, where each number is digits and perhaps decimals, six at most.
+ * Most values are so, and are looked at letter by letter, without the numbers.
+ */
+class ShortNumbers
+{
+public:
+    //! Puts a value behind a text. False, and nothing is put there, for a value with other numbers.
+    static bool append(QString &text, const QString &value)
+    {
+        const int before = text.size();
+        text.resize(before + value.size());
+        QChar *const begin = text.data() + before;
+        ShortNumbers numbers(value, begin);
+        const bool isGood = numbers.writeAll();
+        text.resize(before + (isGood ? int(numbers.m_out - begin) : 0));
+        return isGood;
+    }
+
+private:
+    ShortNumbers(const QString &value, QChar *out)
+        : m_at(value.constData())
+        , m_end(m_at + value.size())
+        , m_out(out)
+    {
+    }
+
+    static bool isDigit(QChar c) { return unsigned(c.unicode()) - '0' <= 9; }
+
+    // No part becomes longer than it was.
+    bool writeAll()
+    {
+        const QChar *const begin = m_out;
+        bool isBehindBlank = false;
+        while (m_at < m_end) {
+            const ushort c = m_at->unicode();
+            if (c == ',' || m_at->isSpace()) {
+                isBehindBlank = m_out > begin;
+                ++m_at;
+                continue;
+            }
+            if (isBehindBlank) {
+                *m_out++ = QLatin1Char(' ');
+                isBehindBlank = false;
+            }
+            const bool isSigned = c == '-' && m_at + 1 < m_end;
+            if (isDigit(*m_at) || (isSigned && isDigit(m_at[1]))) {
+                if (!writeNumber()) {
+                    return false;
+                }
+            } else if (c == '.' || c == '+' || (isSigned && m_at[1] == QLatin1Char('.'))) {
+                return false;
+            } else {
+                *m_out++ = *m_at++;
+            }
+        }
+        return true;
+    }
+
+    void copyDigits()
+    {
+        const QChar *at = m_at;
+        QChar *out = m_out;
+        while (at < m_end && isDigit(*at)) {
+            *out++ = *at++;
+        }
+        m_at = at;
+        m_out = out;
+    }
+
+    bool writeNumber()
+    {
+        const bool isNegative = *m_at == QLatin1Char('-');
+        if (isNegative) {
+            *m_out++ = *m_at++;
+        }
+        QChar *const begin = m_out;
+        copyDigits();
+        QChar *const point = m_out;
+        if (m_at < m_end && *m_at == QLatin1Char('.')) {
+            *m_out++ = *m_at++;
+            copyDigits();
+        }
+        const bool hasExponent = m_at < m_end && (*m_at == QLatin1Char('e') || *m_at == QLatin1Char('E'));
+        const bool isBelowOne = *begin == QLatin1Char('0');
+        if (hasExponent || (isBelowOne && point > begin + 1)) {
+            return false;
+        }
+        const QChar *first = begin; // that counts
+        if (isBelowOne) {
+            first = std::find_if(point, m_out, [](QChar c) { return c > QLatin1Char('0'); });
+            if (first == m_out) {
+                m_out = point;
+                return !isNegative;
+            }
+        }
+        const bool hasDecimals = m_out > point + 1;
+        const auto digits = m_out - first - (m_out > point && !isBelowOne ? 1 : 0);
+        // Smaller ones may have an exponent.
+        if (digits > markDigits + 1 || (digits > markDigits && !hasDecimals) || first > point + 3
+            || (digits > markDigits && !dropDigit(begin))) {
+            return false;
+        }
+        if (m_out > point) {
+            while (m_out[-1] == QLatin1Char('0')) {
+                --m_out;
+            }
+            m_out -= m_out[-1] == QLatin1Char('.') ? 1 : 0;
+        }
+        return true;
+    }
+
+    // Rounds as inFewDigits() does. False where a digit would come before the first.
+    bool dropDigit(const QChar *begin)
+    {
+        --m_out;
+        if (*m_out <= QLatin1Char('5')) {
+            return true;
+        }
+        for (QChar *digit = m_out - 1; digit >= begin; --digit) {
+            if (*digit == QLatin1Char('9')) {
+                *digit = QLatin1Char('0');
+            } else if (*digit != QLatin1Char('.')) {
+                ++digit->unicode();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    const QChar *m_at;
+    const QChar *const m_end;
+    QChar *m_out;
+};
+
 bool isReference(const QString &name)
 {
     return localName(name) == QLatin1String("href");
@@ -72,40 +208,61 @@ bool isColor(const QString &name)
 }
 
 // Numbers in names of files tell one from another, and so do the digits of colours.
-QString valueOf(const QString &name, const QString &value, MarkForm form)
+void appendValue(QString &text, const QString &name, const QString &value, MarkForm form)
 {
     if (isReference(name)) {
-        return value.simplified();
+        text += value.simplified();
+        return;
     }
     const auto color = form == Present && isColor(name) ? svgColor(value) : std::nullopt;
     if (color) {
-        return color->alpha() == 0 ? QStringLiteral("none") : color->name(QColor::HexArgb);
+        text += color->alpha() == 0 ? QStringLiteral("none") : color->name(QColor::HexArgb);
+        return;
     }
-    QString text = plainValue(value);
-    if (form == Present && text.contains(QLatin1Char('('))) {
-        text.replace(QLatin1String(" ("), QLatin1String("("));
-        text.replace(QLatin1String("( "), QLatin1String("("));
-        text.replace(QLatin1String(" )"), QLatin1String(")"));
-        text.replace(QLatin1String(")"), QLatin1String(") "));
-        text = text.simplified();
+    const bool hasBrackets = form == Present && value.contains(QLatin1Char('('));
+    if (!hasBrackets && ShortNumbers::append(text, value)) {
+        return;
     }
-    return text;
+    QString plain = plainValue(value);
+    if (hasBrackets) {
+        plain.replace(QLatin1String(" ("), QLatin1String("("));
+        plain.replace(QLatin1String("( "), QLatin1String("("));
+        plain.replace(QLatin1String(" )"), QLatin1String(")"));
+        plain.replace(QLatin1String(")"), QLatin1String(") "));
+        plain = plain.simplified();
+    }
+    text += plain;
+}
+
+// In the order of their names. Of two that differ in their prefixes alone, the last counts.
+void appendAttributes(QString &text, const QDomElement &element, MarkForm form)
+{
+    QVector<std::pair<QString, QString>> attributes;
+    const QDomNamedNodeMap all = element.attributes();
+    const int count = all.size();
+    attributes.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        const QDomNode attribute = all.item(i);
+        const QString name = attribute.nodeName();
+        if (!name.startsWith(QLatin1String("xmlns")) && name != QLatin1String("ref")) {
+            attributes.append({localName(name), attribute.nodeValue()});
+        }
+    }
+    std::stable_sort(attributes.begin(), attributes.end(),
+                     [](const auto &one, const auto &other) { return one.first < other.first; });
+    for (int i = 0; i < attributes.size(); ++i) {
+        const auto &[name, value] = attributes.at(i);
+        if (i + 1 == attributes.size() || attributes.at(i + 1).first != name) {
+            text += QLatin1Char(' ') + name + QLatin1Char('=');
+            appendValue(text, name, value, form);
+        }
+    }
 }
 
 QString attributesOf(const QDomElement &element, MarkForm form)
 {
-    QMap<QString, QString> attributes;
-    const QDomNamedNodeMap all = element.attributes();
-    for (int i = 0; i < all.size(); ++i) {
-        const QString name = all.item(i).nodeName();
-        if (!name.startsWith(QLatin1String("xmlns")) && name != QLatin1String("ref")) {
-            attributes.insert(localName(name), valueOf(localName(name), all.item(i).nodeValue(), form));
-        }
-    }
     QString text;
-    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
-        text += QLatin1Char(' ') + it.key() + QLatin1Char('=') + it.value();
-    }
+    appendAttributes(text, element, form);
     return text;
 }
 
@@ -121,8 +278,9 @@ QString wholeText(const QDomElement &element, const QHash<QString, RecordText> &
         if (isTold(node)) {
             const QDomElement inner = node.toElement();
             const RecordText record = records.value(inner.attribute(QStringLiteral("id")));
-            text += QLatin1Char('<') + localName(inner.tagName()) + attributesOf(inner, form)
-                + (form == Present ? record.text : record.former) + QLatin1Char('>');
+            text += QLatin1Char('<') + localName(inner.tagName());
+            appendAttributes(text, inner, form);
+            text += (form == Present ? record.text : record.former) + QLatin1Char('>');
         } else if (node.isText() || node.isCDATASection()) {
             text += node.nodeValue().simplified();
         }
@@ -154,7 +312,7 @@ QString markOf(const QDomElement &element, const QHash<QString, RecordText> &rec
 
 QDomElement itemElement(QDomElement element)
 {
-    while (svgName(element) == QLatin1String("a")) {
+    while (isSvg(element, QLatin1String("a"))) {
         const QDomElement inner = element.lastChildElement();
         const QString id = element.attribute(QStringLiteral("id"));
         const QString innerId = inner.attribute(QStringLiteral("id"));
@@ -197,16 +355,20 @@ void RecordTexts::add(const QDomElement &element, const QString &name)
 
 bool isFillBehind(const QDomElement &element)
 {
+    const QString id = element.attribute(QStringLiteral("id"));
+    const QLatin1String fill(lineFill);
+    if (id.size() == fill.size() || !id.endsWith(fill) || !isSvg(element, QLatin1String("polygon"))) {
+        return false;
+    }
     const QDomElement line = elementBehind(element);
-    const QString id = line.attribute(QStringLiteral("id"));
-    return !id.isEmpty() && svgName(element) == QLatin1String("polygon") && svgName(line) == QLatin1String("polyline")
-        && element.attribute(QStringLiteral("id")) == QString(id + QLatin1String(lineFill));
+    return isSvg(line, QLatin1String("polyline"))
+        && line.attribute(QStringLiteral("id")) == id.leftRef(id.size() - fill.size());
 }
 
 bool isCover(const QDomElement &element)
 {
-    return svgName(element) == QLatin1String("polygon")
-        && element.attribute(QStringLiteral("id")).endsWith(QLatin1String(coverBefore));
+    return element.attribute(QStringLiteral("id")).endsWith(QLatin1String(coverBefore))
+        && isSvg(element, QLatin1String("polygon"));
 }
 
 QHash<QString, RecordText> recordTexts(const QDomElement &root)

@@ -3,6 +3,9 @@
 
 #include "lesson/isoneof.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace lessonhost {
 
 namespace {
@@ -10,21 +13,29 @@ namespace {
 // Elements that show nothing by themselves.
 constexpr const char *silentElements[] = {"defs", "pageset", "pageSet", "page"};
 
-QString prefixOf(const QString &name)
-{
-    const int colon = name.indexOf(QLatin1Char(':'));
-    return colon < 0 ? QString() : name.left(colon);
-}
-
+// Of a name that begins with a prefix.
 QString localNameOf(const QString &name)
 {
     return name.mid(name.indexOf(QLatin1Char(':')) + 1);
 }
 
-// The namespace that a prefix is declared for at an element, or an empty text.
-QString namespaceOf(const QDomElement &element, const QString &prefix)
+// What declares the prefix of a name. Most have this one or none.
+QString declarationOf(const QString &name)
 {
-    const QString declaration = prefix.isEmpty() ? QStringLiteral("xmlns") : QString(QLatin1String("xmlns:") + prefix);
+    const int colon = name.indexOf(QLatin1Char(':'));
+    if (colon <= 0) {
+        return QStringLiteral("xmlns");
+    }
+    if (name.leftRef(colon) == QLatin1String("svg")) {
+        return QStringLiteral("xmlns:svg");
+    }
+    return QLatin1String("xmlns:") + name.leftRef(colon);
+}
+
+// The namespace of an element, or an empty text.
+QString namespaceOf(const QDomElement &element)
+{
+    const QString declaration = declarationOf(element.tagName());
     for (QDomElement at = element; !at.isNull(); at = at.parentNode().toElement()) {
         if (at.hasAttribute(declaration)) {
             return at.attribute(declaration);
@@ -43,12 +54,12 @@ const Vocabulary svgVocabulary{QLatin1String("svg"), QLatin1String("www.w3.org/2
 const Vocabulary iwbVocabularies[] = {{QLatin1String("iwb"), QLatin1String("imsglobal.org/xsd/iwb")},
                                       {QLatin1String("iwb"), QLatin1String("becta.org.uk/iwb")}};
 
-bool isOf(const QDomElement &element, const Vocabulary &vocabulary)
+// Whether an element with a name and a namespace is of a vocabulary.
+bool isOf(const QString &name, const QString &uri, const Vocabulary &vocabulary)
 {
-    const QString prefix = prefixOf(element.tagName());
-    const QString uri = namespaceOf(element, prefix);
     if (uri.isEmpty()) {
-        return prefix.isEmpty() || prefix == vocabulary.prefix;
+        const int colon = name.indexOf(QLatin1Char(':'));
+        return colon <= 0 || name.leftRef(colon) == vocabulary.prefix;
     }
     return uri.contains(vocabulary.namespacePart);
 }
@@ -76,17 +87,23 @@ QDomElement neighbor(QDomElement element, bool isBehind)
 
 QString svgName(const QDomElement &element)
 {
-    return isOf(element, svgVocabulary) ? localNameOf(element.tagName()) : QString();
+    const QString name = element.tagName();
+    return isOf(name, namespaceOf(element), svgVocabulary) ? localNameOf(name) : QString();
+}
+
+bool isSvg(const QDomElement &element, QLatin1String name)
+{
+    const QString tag = element.tagName();
+    return tag.midRef(tag.indexOf(QLatin1Char(':')) + 1) == name && isOf(tag, namespaceOf(element), svgVocabulary);
 }
 
 QString iwbName(const QDomElement &element)
 {
-    for (const Vocabulary &vocabulary : iwbVocabularies) {
-        if (isOf(element, vocabulary)) {
-            return localNameOf(element.tagName());
-        }
-    }
-    return {};
+    const QString name = element.tagName();
+    const QString uri = namespaceOf(element);
+    const bool isIwb = std::any_of(std::begin(iwbVocabularies), std::end(iwbVocabularies),
+                                   [&](const Vocabulary &vocabulary) { return isOf(name, uri, vocabulary); });
+    return isIwb ? localNameOf(name) : QString();
 }
 
 bool isDrawnName(const QString &name)
@@ -102,7 +119,7 @@ bool isIwbRecord(const QDomElement &element)
 
 bool isPlainGroup(const QDomElement &element)
 {
-    if (localNameOf(element.tagName()) != QLatin1String("g") || svgName(element).isEmpty()) {
+    if (!isSvg(element, QLatin1String("g"))) {
         return false;
     }
     const QDomNamedNodeMap attributes = element.attributes();

@@ -16,6 +16,9 @@ namespace lessonhost {
 //! nowhere counts as what it says, and an element without any namespace as svg.
 QString svgName(const QDomElement &element);
 
+//! Whether svgName() is a name, which isn't empty.
+bool isSvg(const QDomElement &element, QLatin1String name);
+
 //! The same for the vocabulary of IWB files; an element without any namespace counts here too.
 QString iwbName(const QDomElement &element);
 
