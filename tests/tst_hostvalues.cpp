@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "files/lessonerror.h"
 #include "files/compactjson.h"
+#include "files/lessonerror.h"
 #include "files/paintedpng.h"
 #include "files/readahead.h"
 #include "files/workbehind.h"
@@ -21,6 +21,7 @@
 #include "losses/modelvalues.h"
 #include "pluginfixture.h"
 #include "svg/pluginoutlines.h"
+#include "svg/svgvalues.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -306,6 +307,15 @@ private slots:
                     << QString::number(number, 'f', random.bounded(8)).toDouble();
             texts << QString::number(number, 'g', random.bounded(18)) << QString::number(number, 'f', 9).mid(i % 12);
         }
+        int separated = 0;
+        for (int i = 0; i < texts.size(); ++i) {
+            const QString given = texts.at(i) + ',' + numberText(numbers.value(i), 6) + " 7,0.5";
+            QString text = given;
+            const bool isPlain = separateCoordinates(text, 6, ',', ' ');
+            QCOMPARE(text, isPlain ? coordinateTexts(pointsOf(svgNumbers(given)), 6, ',', ' ') : given);
+            separated += isPlain ? 1 : 0;
+        }
+        QVERIFY(separated > 1000);
         for (const double number : qAsConst(numbers)) {
             for (const int digits : {1, 5, 6, 10, 12}) {
                 const QString text = numberText(number, digits);
@@ -348,7 +358,10 @@ private slots:
     void jsonIsThatOfQt()
     {
         QRandomGenerator random(21);
-        QJsonObject object{{"", QJsonArray{QJsonArray{}, QJsonObject{}, QJsonValue(), true, -0.0, 1e6, 1e21, qInf()}}};
+        const QJsonObject few{
+            {"", QJsonArray{QJsonArray{}, QJsonObject{}, QJsonValue(), true, -0.0, 1e6, 1e21, qInf()}}};
+        QJsonObject object = few;
+        int readable = 0;
         for (int i = 0; i < 20000; ++i) {
             QString text;
             for (int k = random.bounded(8); k > 0; --k) {
@@ -358,8 +371,22 @@ private slots:
             }
             const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(-9, 24));
             object.insert(text, QJsonArray{text, number, std::round(number), QJsonObject{{text, number < 0}}});
+            bool isReadable = false;
+            const QByteArray json = compactJson(object, &isReadable);
+            QCOMPARE(json, QJsonDocument(object).toJson(QJsonDocument::Compact));
+            QVERIFY(!isReadable || QJsonDocument::fromJson(json).toJson(QJsonDocument::Compact) == json);
+            readable += isReadable ? 1 : 0;
+            object = isReadable && object.size() < 20 ? object : few;
         }
-        QCOMPARE(compactJson(object), QJsonDocument(object).toJson(QJsonDocument::Compact));
+        QVERIFY(readable > 5000);
+        QJsonValue deep;
+        for (int i = 0; i < 1025; ++i) {
+            deep = QJsonArray{deep};
+        }
+        for (const QJsonArray &odd : {deep.toArray(), QJsonArray{QString(QChar(QChar::ByteOrderMark))}}) {
+            bool isReadable = true;
+            QVERIFY(QJsonDocument::fromJson(compactJson(odd, &isReadable)).array() != odd && !isReadable);
+        }
     }
 
     // A key that can't name an attribute would end the document, and a null must not count as "no".

@@ -10,6 +10,7 @@
 #include "svg/svgvalues.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -74,17 +75,21 @@ constexpr Vocabulary vocabularies[] = {
 
 void removeForeignAttributes(QDomElement element)
 {
-    const auto *known = std::find_if(std::begin(vocabularies), std::end(vocabularies), [&element](const auto &row) {
-        return element.tagName() == QLatin1String(row.tag);
-    });
-    if (known == std::end(vocabularies)) {
+    static const auto attributesOf = [] {
+        QHash<QString, QStringList> all;
+        for (const Vocabulary &row : vocabularies) {
+            all.insert(QString::fromLatin1(row.tag), QString::fromLatin1(row.attributes).split(QLatin1Char('|')));
+        }
+        return all;
+    }();
+    const auto known = attributesOf.constFind(element.tagName());
+    if (known == attributesOf.constEnd()) {
         return;
     }
-    const QStringList names = QString::fromLatin1(known->attributes).split(QLatin1Char('|'));
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = attributes.size() - 1; i >= 0; --i) {
         const QString name = attributes.item(i).nodeName();
-        if (!names.contains(name)) {
+        if (!known->contains(name)) {
             element.removeAttribute(name);
         }
     }
@@ -144,7 +149,12 @@ bool isSoundOf(const QDomElement &link)
 void dressPoints(QDomElement element, bool isInk)
 {
     const QString name = QStringLiteral("points");
-    const QVector<double> numbers = svgNumbers(element.attribute(name));
+    QString text = element.attribute(name);
+    if (isInk && separateCoordinates(text, pluginDigits, ',', ' ')) {
+        element.setAttribute(name, text);
+        return;
+    }
+    const QVector<double> numbers = svgNumbers(text);
     if (numbers.isEmpty() || numbers.size() % 2 != 0) {
         return;
     }

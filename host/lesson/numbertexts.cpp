@@ -133,6 +133,32 @@ double longNumberOfText(QStringView text, bool *ok)
     return number ? *number : text.toString().toDouble(ok);
 }
 
+// Where a number ends that has no other letters than it is printed with, and no exponent; nothing for others. A zero
+// has no sign.
+const QChar *printedEnd(const QChar *at, const QChar *limit, int digits)
+{
+    constexpr int mostZeros = 2; // behind the point; numbers with more of them may have an exponent
+    const bool isNegative = at < limit && at->unicode() == '-';
+    const QChar *const whole = isNegative ? at + 1 : at;
+    const QChar *const point = digitsEnd(whole, limit);
+    const bool isBelowOne = point > whole && whole->unicode() == '0';
+    if (point == whole || (isBelowOne && point > whole + 1)) {
+        return nullptr;
+    }
+    if (point == limit || point->unicode() != '.') {
+        return point - whole <= digits && !(isNegative && isBelowOne) ? point : nullptr;
+    }
+    const QChar *first = point + 1;
+    while (isBelowOne && first < limit && first->unicode() == '0') {
+        ++first;
+    }
+    const QChar *const end = digitsEnd(first, limit);
+    const auto count = end - first + (isBelowOne ? 0 : point - whole);
+    const bool isPrinted =
+        first - point <= mostZeros + 1 && end > first && (end - 1)->unicode() != '0' && count <= digits;
+    return isPrinted ? end : nullptr;
+}
+
 /*!
  * The digits that a number is printed with, as an integer, and how many of them stand behind the point.
  */
@@ -366,6 +392,28 @@ QString coordinateTexts(const QPolygonF &points, int digits, char inner, char ou
     }
     endPiece();
     return text;
+}
+
+bool separateCoordinates(QString &text, int digits, char inner, char outer)
+{
+    QString separated = text;
+    QChar *at = separated.data();
+    const QChar *const limit = at + separated.size();
+    for (bool isFirst = true;; isFirst = !isFirst) {
+        const QChar *const end = printedEnd(at, limit, digits);
+        if (!end) {
+            return false;
+        }
+        at += end - at;
+        if (at == limit) {
+            text = isFirst ? text : separated;
+            return !isFirst;
+        }
+        if (at->unicode() != ',' && at->unicode() != ' ') {
+            return false;
+        }
+        *at++ = QLatin1Char(isFirst ? inner : outer);
+    }
 }
 
 } // namespace lessonhost

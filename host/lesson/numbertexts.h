@@ -51,6 +51,11 @@ QPolygonF pointsInDigits(QPolygonF points, int digits);
 //! The coordinates of points as numberText() of withoutErrorOfZero(): x, inner, y, then outer before the next point.
 QString coordinateTexts(const QPolygonF &points, int digits, char inner, char outer);
 
+//! coordinateTexts() of the points that a text tells with other characters between their coordinates. False, and
+//! nothing is changed, for a text of which it isn't plain at sight that it has all coordinates as they would be
+//! printed.
+bool separateCoordinates(QString &text, int digits, char inner, char outer);
+
 } // namespace lessonhost
 
 #endif // NUMBERTEXTS_H
