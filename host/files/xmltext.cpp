@@ -82,27 +82,42 @@ const char *referenceTo(ushort code, bool isAttribute)
     }
 }
 
+constexpr quint64 bitOf(char sign)
+{
+    return quint64(1) << sign;
+}
+
+// Whether a character stands for itself in texts and attributes. Those with another meaning are among the first 64.
+bool isPlain(ushort code)
+{
+    constexpr int bits = 64;
+    constexpr ushort firstSurrogate = 0xd800;
+    constexpr quint64 plain = ~(bitOf(' ') - 1) & ~(bitOf('&') | bitOf('<') | bitOf('>') | bitOf('"'));
+    return code < bits ? ((plain >> code) & 1) != 0 : code < firstSurrogate;
+}
+
 // Plain letters, which are most, go into the text in one piece.
 template <typename Out> void appendEscaped(Out &out, const QString &text, bool isAttribute)
 {
+    const QChar *const letters = text.constData();
+    const int size = text.size();
     int start = 0;
-    for (int i = 0; i < text.size(); ++i) {
-        const ushort code = text.at(i).unicode();
-        constexpr ushort firstSurrogate = 0xd800;
-        if (code >= ' ' && code < firstSurrogate && code != '&' && code != '<' && code != '>' && code != '"') {
+    for (int i = 0; i < size; ++i) {
+        const ushort code = letters[i].unicode();
+        if (isPlain(code)) {
             continue;
         }
         const char *const reference = referenceTo(code, isAttribute);
         if (!reference && isXmlCharacter(text, i)) {
             continue;
         }
-        out.append(text.constData() + start, i - start);
+        out.append(letters + start, i - start);
         if (reference) {
             out += QLatin1String(reference);
         }
         start = i + 1;
     }
-    out.append(text.constData() + start, text.size() - start);
+    out.append(letters + start, size - start);
 }
 
 QVector<XmlAttribute> attributesOf(const QDomElement &element)
