@@ -40,10 +40,18 @@ public:
     }
 
     QByteArray bytes() const { return m_bytes; }
+    bool isReadable() const { return m_isReadable; }
 
 private:
+    void enter()
+    {
+        constexpr int certain = 1000; // levels, of 1024
+        m_isReadable = ++m_depth < certain && m_isReadable;
+    }
+
     void writeObject(const QJsonObject &object)
     {
+        enter();
         char separator = '{';
         for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
             m_bytes += separator;
@@ -53,10 +61,12 @@ private:
             separator = ',';
         }
         m_bytes += object.isEmpty() ? "{}" : "}";
+        --m_depth;
     }
 
     void writeArray(const QJsonArray &array)
     {
+        enter();
         char separator = '[';
         for (const QJsonValue &value : array) {
             m_bytes += separator;
@@ -64,6 +74,7 @@ private:
             separator = ',';
         }
         m_bytes += array.isEmpty() ? "[]" : "]";
+        --m_depth;
     }
 
     void writeNumber(const QJsonValue &value)
@@ -95,16 +106,14 @@ private:
         const QChar *at = text.constData();
         const QChar *const end = at + text.size();
         while (at < end) {
-            const QChar *const begin = at;
+            const int before = m_bytes.size();
+            m_bytes.resize(before + int(end - at));
+            char *out = m_bytes.data() + before;
             while (at < end && isPlain(at->unicode())) {
+                *out++ = char(at->unicode());
                 ++at;
             }
-            const int before = m_bytes.size();
-            m_bytes.resize(before + int(at - begin));
-            char *out = m_bytes.data() + before;
-            for (const QChar *letter = begin; letter < at; ++letter) {
-                *out++ = char(letter->unicode());
-            }
+            m_bytes.resize(int(out - m_bytes.constData()));
             at = at < end ? writeOdd(at, end) : at;
         }
         m_bytes += '"';
@@ -120,11 +129,13 @@ private:
         if (!at->isSurrogate()) {
             const QChar *const begin = at;
             while (at < end && at->unicode() >= 0x80 && !at->isSurrogate()) {
+                m_isReadable = m_isReadable && at->unicode() != QChar::ByteOrderMark;
                 ++at;
             }
             m_bytes += QString::fromRawData(begin, int(at - begin)).toUtf8();
             return at;
         }
+        m_isReadable = false;
         if (at->isHighSurrogate() && at + 1 < end && (at + 1)->isLowSurrogate()) {
             m_bytes += QString::fromRawData(at, 2).toUtf8();
             return at + 2;
@@ -150,14 +161,19 @@ private:
     void writeCode(ushort c) { m_bytes += "\\u" + QByteArray::number(c, 16).rightJustified(4, '0'); }
 
     QByteArray m_bytes;
+    int m_depth = 0;
+    bool m_isReadable = true;
 };
 
 } // namespace
 
-QByteArray compactJson(const QJsonValue &value)
+QByteArray compactJson(const QJsonValue &value, bool *isReadable)
 {
     JsonOutput output;
     output.write(value);
+    if (isReadable) {
+        *isReadable = output.isReadable();
+    }
     return output.bytes();
 }
 

@@ -161,8 +161,9 @@ bool NativePartWriter::writePage(int number, const LessonSlide &slide, const QVe
                             QJsonObject{{Keys::ids, QJsonArray::fromStringList(backgroundIds)},
                                         {Keys::mark, marksOf(background, records)}}},
                            {Keys::items, entries}};
-    const QByteArray text = compactJson(json);
-    if (text.size() > 3 * maximumSlideSize || !isReadAs(text, json)) {
+    bool isReadable = false;
+    const QByteArray text = compactJson(json, &isReadable);
+    if (text.size() > 3 * maximumSlideSize || !(isReadable || isReadAs(text, json))) {
         return false;
     }
     m_target.write(pageFile(pagePrefix + QString::number(number)), text);
