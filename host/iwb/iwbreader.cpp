@@ -159,10 +159,14 @@ void IwbReader::nameUnreadMeta(const SlideLosses &losses) const
     }
 }
 
-// Of pictures that stand for items, those that another program has changed are shown.
+// Of pictures that stand for items, those that another program has changed are shown. Where there are none, pages need
+// not be read for them.
 QSet<QString> IwbReader::madePicturesInUse()
 {
-    if (!m_native.isThere() || m_native.isUntouched()) {
+    const QStringList files = m_package.resources();
+    const bool hasMade =
+        std::any_of(files.cbegin(), files.cend(), [this](const QString &path) { return m_native.isMade(path); });
+    if (!m_native.isThere() || m_native.isUntouched() || !(hasMade || hasRepeatedBackgrounds())) {
         return {};
     }
     m_asked.clear();
@@ -199,13 +203,18 @@ void IwbReader::nameResources()
     }
 }
 
+bool IwbReader::hasRepeatedBackgrounds() const
+{
+    const auto &records = m_package.outline().rules().records;
+    return std::any_of(records.cbegin(), records.cend(), [](const IwbRecord &record) {
+        return record.isBackground && record.posture == QLatin1String("repeated");
+    });
+}
+
 // Pictures that are made have to be known before the slides that show them.
 void IwbReader::repeatBackgrounds()
 {
-    const auto &records = m_package.outline().rules().records;
-    const bool isAsked = std::any_of(records.cbegin(), records.cend(), [](const IwbRecord &record) {
-        return record.isBackground && record.posture == QLatin1String("repeated");
-    });
+    const bool isAsked = hasRepeatedBackgrounds();
     for (int i = 0; isAsked && i < m_package.outline().pageCount(); ++i) {
         slide(i, {});
     }
@@ -293,8 +302,12 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
     const auto native = m_isNative.at(index) ? m_native.page(m_package.outline().pageId(index)) : std::nullopt;
     LessonSlide slide;
     if (native) {
-        slide = PageRestorer(m_content, m_slides, m_package.recordTexts(), m_native.isUntouched())
-                    .restore(index, *native, losses);
+        const bool isUntouched = m_native.isUntouched() || m_intactPages.contains(index);
+        PageRestorer restorer(m_content, m_slides, m_package.recordTexts(), isUntouched);
+        slide = restorer.restore(index, *native, losses);
+        if (restorer.isAsMarked()) {
+            m_intactPages.insert(index);
+        }
         if (m_arePagesMoved) {
             moveLinks(slide.items, losses);
         }
@@ -305,7 +318,8 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
         slide.properties.insert(SlideKeys::id, id);
         const LossOwner owner(QStringLiteral("slide"), id);
         if (isDamaged) {
-            losses.note(owner, say("what the file has of the lesson itself is damaged, so it is read as others show it"));
+            losses.note(owner,
+                        say("what the file has of the lesson itself is damaged, so it is read as others show it"));
         } else if (m_native.isThere()) {
             losses.changed(owner, say("added by another program"));
         }

@@ -43,6 +43,7 @@ private:
         return m_lessonPaths.value(path, path);
     }
     QString file(const QString &path) override { return resourceFile(path); }
+    bool hasRepeatedBackgrounds() const;
     void repeatBackgrounds();
     QString repeated(const QString &picture, const QSizeF &tile) override;
     int pageNumber(const QString &id) override { return m_pageNumbers.value(id); }
@@ -61,6 +62,7 @@ private:
     QSet<QString> m_asked; // paths that the pages show
     QHash<QString, int> m_pageNumbers;
     QStringList m_slideIds; // of slides that are read from their pages
+    QSet<int> m_intactPages; // of which all elements were found to be as they were written
     QVector<bool> m_isNative; // whether a page was made of a slide that has come along
     bool m_arePagesMoved = false; // since they were written
 };

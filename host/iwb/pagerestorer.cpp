@@ -151,12 +151,14 @@ void PageRestorer::lookAtPage()
     }
 }
 
-bool PageRestorer::isMarked(int child, const QString &mark) const
+bool PageRestorer::isMarked(int child, const QString &mark)
 {
-    return m_isUntouched || hasMark(m_children.at(child), mark, m_records);
+    const bool isMarked = m_isUntouched || hasMark(m_children.at(child), mark, m_records);
+    m_isAsMarked = m_isAsMarked && isMarked;
+    return isMarked;
 }
 
-int PageRestorer::intactBackground(int number) const
+int PageRestorer::intactBackground(int number)
 {
     const int child = m_byId.value(m_native->backgroundIds.at(number)).value(0, -1);
     const QString mark = m_native->backgroundMark.section(QLatin1Char(' '), number, number);
@@ -225,7 +227,7 @@ QJsonObject PageRestorer::properties()
 
 // Whether a child is what was written of a part, with what stands for the part behind it: as it was, and moving with it
 // or with nothing else.
-bool PageRestorer::isWhole(int child, const NativePage::Part &part) const
+bool PageRestorer::isWhole(int child, const NativePage::Part &part)
 {
     const int count = part.marks.size();
     const int first = child + 1 - count;

@@ -21,6 +21,8 @@ public:
 
     //! ID is that of the slide as it was. index: of the page, from 0.
     LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses);
+    //! Whether each element that was asked for has the mark that it was written with.
+    bool isAsMarked() const { return m_isAsMarked; }
 
 private:
     // Which of the lesson's own items something was: the entry, and the number of the item among those that it holds.
@@ -57,9 +59,9 @@ private:
 
     void lookAtPage();
     QJsonObject properties();
-    bool isMarked(int child, const QString &mark) const;
-    int intactBackground(int number) const;
-    bool isWhole(int child, const NativePage::Part &part) const;
+    bool isMarked(int child, const QString &mark);
+    int intactBackground(int number);
+    bool isWhole(int child, const NativePage::Part &part);
     QVector<Found> findParts(const NativePage::Entry &entry);
     bool isOneGroup(const NativePage::Entry &entry, const QVector<Found> &found) const;
     void take(const NativePage::Part &part, const Found &found, bool isTaken);
@@ -94,6 +96,7 @@ private:
     QSet<int> m_lonely; // those of which the document shows one part at most
     QSet<int> m_opened; // entries that hold several items and aren't there as they were
     QVector<LossOwner> m_added;
+    bool m_isAsMarked = true;
     bool m_hasOtherBackground = false;
     bool m_isReordered = false;
     int m_restored = 0;
