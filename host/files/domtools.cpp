@@ -7,7 +7,7 @@ namespace lessonhost {
 
 QString bareName(const QString &name)
 {
-    return name.section(QLatin1Char(':'), -1);
+    return name.mid(name.lastIndexOf(QLatin1Char(':')) + 1);
 }
 
 QDomElement childWithContent(const QDomElement &parent, const QString &tag, bool withChildren)

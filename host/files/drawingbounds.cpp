@@ -2,6 +2,7 @@
 #include "files/drawingbounds.h"
 
 #include "files/domtools.h"
+#include "files/svgattributes.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -19,45 +20,26 @@ const QLatin1String styleName("style");
 
 bool hasNumbers(const QString &name)
 {
-    static const QSet<QString> names = [] {
-        QSet<QString> all;
-        for (const char *name : {"x",
-                                 "y",
-                                 "width",
-                                 "height",
-                                 "rx",
-                                 "ry",
-                                 "cx",
-                                 "cy",
-                                 "r",
-                                 "x1",
-                                 "y1",
-                                 "x2",
-                                 "y2",
-                                 "fx",
-                                 "fy",
-                                 "dx",
-                                 "dy",
-                                 "d",
-                                 "points",
-                                 "offset",
-                                 "opacity",
-                                 "fill-opacity",
-                                 "font-size",
-                                 "stop-opacity",
-                                 "stroke-dasharray",
-                                 "stroke-dashoffset",
-                                 "stroke-miterlimit",
-                                 "stroke-opacity",
-                                 "stroke-width",
-                                 "textLength",
-                                 "transform",
-                                 "gradientTransform",
-                                 "viewBox"}) {
-            all.insert(QLatin1String(name));
-        }
-        return all;
-    }();
+    static const QSet<QString> names = attributeSetOfShape({
+        "fx",
+        "fy",
+        "dx",
+        "dy",
+        "offset",
+        "opacity",
+        "fill-opacity",
+        "font-size",
+        "stop-opacity",
+        "stroke-dasharray",
+        "stroke-dashoffset",
+        "stroke-miterlimit",
+        "stroke-opacity",
+        "stroke-width",
+        "textLength",
+        "transform",
+        "gradientTransform",
+        "viewBox",
+    });
     return names.contains(name);
 }
 

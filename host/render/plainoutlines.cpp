@@ -2,8 +2,10 @@
 #include "render/plainoutlines.h"
 
 #include "files/domtools.h"
+#include "files/svgattributes.h"
 #include "lesson/fontshere.h"
 #include "lesson/isoneof.h"
+#include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
 #include "svg/svggeometry.h"
 #include "svg/svgpath.h"
@@ -12,8 +14,9 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainterPath>
-#include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -33,52 +36,48 @@ constexpr double shortLine = 2;
 constexpr double fineness = 4; // lines of a curve are as fine as on a page so many times as large
 constexpr double drawnDigits = 0.02; // more than what drawings round
 
-constexpr const char *groupAttributes[] = {
-    "transform",      "fill",       "stroke",      "text-anchor", "font-family", "font-size",
-    "text-rendering", "font-style", "font-weight", "style",       "xml:lang",
-};
-constexpr const char *shapeAttributes[] = {
-    "x",
-    "y",
-    "width",
-    "height",
-    "rx",
-    "ry",
-    "cx",
-    "cy",
-    "r",
-    "x1",
-    "y1",
-    "x2",
-    "y2",
-    "d",
-    "points",
-    "fill",
-    "opacity",
-    "fill-opacity",
-    "fill-rule",
-    "stroke",
-    "transform",
-    "stroke-width",
-    "stroke-opacity",
-    "stroke-dasharray",
-    "stroke-linecap",
-    "stroke-linejoin",
-};
-constexpr const char *textAttributes[] = {
-    "x",           "y",           "fill",      "font-family", "font-size", "font-style",
-    "font-weight", "text-anchor", "transform", "style",       "xml:space", "xml:lang",
-};
-
-template <std::size_t count> bool hasOnly(const QDomElement &element, const char *const (&known)[count])
+const QSet<QString> &groupAttributes()
 {
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.size(); ++i) {
-        if (!isOneOf(known, attributes.item(i).nodeName())) {
-            return false;
-        }
+    static const QSet<QString> names =
+        attributeSet({"transform", "fill", "stroke", "text-anchor", "font-family", "font-size", "text-rendering",
+                      "font-style", "font-weight", "style", "xml:lang"});
+    return names;
+}
+
+const QSet<QString> &shapeAttributes()
+{
+    static const QSet<QString> names = attributeSetOfShape({
+        "fill",
+        "opacity",
+        "fill-opacity",
+        "fill-rule",
+        "stroke",
+        "transform",
+        "stroke-width",
+        "stroke-opacity",
+        "stroke-dasharray",
+        "stroke-linecap",
+        "stroke-linejoin",
+    });
+    return names;
+}
+
+const QSet<QString> &textAttributes()
+{
+    static const QSet<QString> names =
+        attributeSet({"x", "y", "fill", "font-family", "font-size", "font-style", "font-weight", "text-anchor",
+                      "transform", "style", "xml:space", "xml:lang"});
+    return names;
+}
+
+// And no declarations but for the font.
+bool isPlain(const QDomElement &element, const QSet<QString> &known)
+{
+    if (!hasOnly(element, known)) {
+        return false;
     }
-    const QHash<QString, QString> style = svgDeclarations(element.attribute(QStringLiteral("style")));
+    const QString text = element.attribute(QStringLiteral("style"));
+    const QHash<QString, QString> style = text.isEmpty() ? QHash<QString, QString>() : svgDeclarations(text);
     return style.isEmpty() || (style.size() == 1 && style.contains(QStringLiteral("font-family")));
 }
 
@@ -115,6 +114,16 @@ QVector<QPolygonF> outlinesOf(const QPainterPath &path)
         }
     }
     return outlines;
+}
+
+// How many that will be.
+int outlineCount(const QPainterPath &path)
+{
+    int count = 0;
+    for (int i = 1; i < path.elementCount(); ++i) {
+        count += path.elementAt(i - 1).isMoveTo() && !path.elementAt(i).isMoveTo() ? 1 : 0;
+    }
+    return count;
 }
 
 // The box of an upright ellipse, if the path is one.
@@ -184,9 +193,8 @@ QPolygonF joined(const QVector<QPolygonF> &outlines)
 // Without the quotes around names.
 QStringList plainFamilies(QStringList families)
 {
-    static const QRegularExpression quotes(QStringLiteral("['\"]"));
     for (QString &family : families) {
-        family = family.remove(quotes).trimmed();
+        family = family.remove(QLatin1Char('\'')).remove(QLatin1Char('"')).trimmed();
     }
     return families;
 }
@@ -198,6 +206,29 @@ bool isSameElsewhere(const QString &family)
     return !isOneOf(generic, family) && hasFamily(family);
 }
 
+constexpr int measuredPixels = 100; // which widths are in proportion to
+
+// To find a font takes longer than to measure a line.
+const QFontMetricsF &metricsOf(const QString &family, bool isBold, bool isItalic)
+{
+    constexpr int mostFonts = 100;
+    static QHash<QString, QFontMetricsF> known[4];
+    auto &fonts = known[(isBold ? 1 : 0) + (isItalic ? 2 : 0)];
+    auto found = fonts.constFind(family);
+    if (found == fonts.cend()) {
+        if (fonts.size() >= mostFonts) {
+            fonts.clear();
+        }
+        QFont font(family);
+        font.setPixelSize(measuredPixels);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        font.setBold(isBold);
+        font.setItalic(isItalic);
+        found = fonts.insert(family, QFontMetricsF(font));
+    }
+    return *found;
+}
+
 QString directionOf(const QString &text)
 {
     const bool isMirrored = std::any_of(text.cbegin(), text.cend(), [](QChar c) {
@@ -207,29 +238,13 @@ QString directionOf(const QString &text)
 }
 
 /*!
- * Walks a drawing as long as all of it is plain.
+ * Reads a drawing as long as all of it is plain. Most aren't, so what is quick to tell comes first: its texts, then how
+ * many elements its shapes need at least, and then their points.
  */
 class PlainReader
 {
 public:
-    bool read(const QDomElement &holder, const SvgStyle &outer)
-    {
-        const auto problem = [this](const Sentence &) { m_isPlain = false; };
-        for (QDomElement child = holder.firstChildElement(); !child.isNull() && m_isPlain;
-             child = child.nextSiblingElement()) {
-            const QString tag = bareName(child.tagName());
-            const SvgStyle style = outer.child(child, child.attribute(QStringLiteral("transform")), problem);
-            if (tag == QLatin1String("g")) {
-                m_isPlain = m_isPlain && hasOnly(child, groupAttributes) && read(child, style);
-            } else if (tag == QLatin1String("text")) {
-                m_isPlain = m_isPlain && hasOnly(child, textAttributes) && addText(child, style);
-            } else {
-                m_isPlain = m_isPlain && hasOnly(child, shapeAttributes) && addShape(child, style);
-            }
-            m_isPlain = m_isPlain && m_elements.size() <= mostElements && m_points <= mostPoints;
-        }
-        return m_isPlain;
-    }
+    bool read(const QDomElement &drawing) { return findParts(drawing, {}) && findOutlines() && addParts(); }
 
     const QVector<PlainElement> &elements() const { return m_elements; }
 
@@ -243,11 +258,60 @@ private:
         QStringList dashes;
         bool isEvenOdd = false;
     };
-
-    bool addShape(const QDomElement &shape, const SvgStyle &style)
+    // A text, or a shape.
+    struct Part
     {
-        const auto outline = svgOutline(shape);
+        PlainElement text;
+        QDomElement shape;
+        SvgStyle style;
+        QPainterPath outline; //!< on the page
         Pen pen;
+    };
+
+    bool findParts(const QDomElement &holder, const SvgStyle &outer)
+    {
+        const auto problem = [this](const Sentence &) { m_isPlain = false; };
+        for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            const QString tag = bareName(child.tagName());
+            const bool isGroup = tag == QLatin1String("g");
+            const bool isText = tag == QLatin1String("text");
+            if (!isPlain(child, isGroup ? groupAttributes() : isText ? textAttributes() : shapeAttributes())) {
+                return false;
+            }
+            const SvgStyle style = outer.child(child, child.attribute(QStringLiteral("transform")), problem);
+            if (!m_isPlain || (isGroup && !findParts(child, style)) || (isText && !addText(child, style))) {
+                return false;
+            }
+            if (!isGroup && !isText) {
+                m_parts.append(Part{{}, child, style, {}, {}});
+            }
+        }
+        return true;
+    }
+
+    // Of what is to be seen.
+    bool findOutlines()
+    {
+        int least = 0; // elements
+        for (Part &part : m_parts) {
+            if (!part.shape.isNull() && !findOutline(part)) {
+                return false;
+            }
+            const bool isFilled = part.pen.paint.fill.alpha() > 0;
+            const int outlines = part.shape.isNull() ? 1 : outlineCount(part.outline);
+            least += isFilled ? qMin(1, outlines) : outlines;
+            if (least > mostElements) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool findOutline(Part &part)
+    {
+        const SvgStyle &style = part.style;
+        const auto outline = svgOutline(part.shape);
+        Pen &pen = part.pen;
         pen.paint = svgPaint(style, false, [this](const Sentence &) { m_isPlain = false; });
         const bool isFilled = pen.paint.fill.alpha() > 0;
         const bool isLined = pen.paint.line.alpha() > 0;
@@ -263,7 +327,25 @@ private:
         for (const double length : dashes) {
             pen.dashes.append(number(length * scale.value_or(1)));
         }
-        return (!isFilled && !isLined) || !style.isVisible() || addPath(style.matrix.map(*outline), pen);
+        if ((isFilled || isLined) && style.isVisible()) {
+            part.outline = style.matrix.map(*outline);
+        }
+        return true;
+    }
+
+    bool addParts()
+    {
+        for (const Part &part : qAsConst(m_parts)) {
+            if (part.shape.isNull()) {
+                m_elements.append(part.text);
+            } else if (!part.outline.isEmpty() && !addPath(part.outline, part.pen)) {
+                return false;
+            }
+            if (m_elements.size() > mostElements || m_points > mostPoints) {
+                return false;
+            }
+        }
+        return true;
     }
 
     bool addPath(const QPainterPath &path, const Pen &pen)
@@ -337,11 +419,7 @@ private:
             }
         }
         m_points += points.size();
-        QStringList texts;
-        for (const QPointF &point : qAsConst(points)) {
-            texts.append(number(point.x()) + QLatin1Char(',') + number(point.y()));
-        }
-        element.set("points", texts.join(QLatin1Char(' ')));
+        element.set("points", coordinateTexts(points, pluginDigits, ',', ' '));
         add(element, pen, isFilled, isLined);
     }
 
@@ -420,17 +498,13 @@ private:
         }
         const QStringList families =
             plainFamilies(style.property(QStringLiteral("font-family")).split(QLatin1Char(',')));
-        QFont font(familyHere(families));
-        constexpr int measured = 100; // pixels, which widths are in proportion to
-        font.setPixelSize(measured);
-        font.setHintingPreference(QFont::PreferNoHinting);
         const QString weight = style.property(QStringLiteral("font-weight"));
         const QString slant = style.property(QStringLiteral("font-style"));
         const bool isBold = weight == QLatin1String("bold") || weight.toInt() > 500;
-        font.setBold(isBold);
-        font.setItalic(slant == QLatin1String("italic") || slant == QLatin1String("oblique"));
+        const bool isItalic = slant == QLatin1String("italic") || slant == QLatin1String("oblique");
         const double size = style.fontPixels();
-        const double width = QFontMetricsF(font).horizontalAdvance(plain) * size / measured;
+        const double width = metricsOf(familyHere(families), isBold, isItalic).horizontalAdvance(plain) * size
+            / measuredPixels;
         if (width > shortLine * size && !isSameElsewhere(families.first())) {
             return false;
         }
@@ -452,7 +526,7 @@ private:
         if (isBold) {
             element.set("font-weight", QStringLiteral("bold"));
         }
-        if (font.italic()) {
+        if (isItalic) {
             element.set("font-style", QStringLiteral("italic"));
         }
         constexpr double smallestTurn = 1e-4;
@@ -461,10 +535,11 @@ private:
                         QStringLiteral("rotate(%1,%2,%3)")
                             .arg(number(parts->angle * 180 / M_PI), number(start.x()), number(start.y())));
         }
-        m_elements.append(element);
+        m_parts.append(Part{element, {}, {}, {}, {}});
         return true;
     }
 
+    QVector<Part> m_parts;
     QVector<PlainElement> m_elements;
     int m_points = 0;
     bool m_isPlain = true;
@@ -475,7 +550,7 @@ private:
 QVector<PlainElement> plainOutlines(const QDomElement &drawing)
 {
     PlainReader reader;
-    return reader.read(drawing, {}) ? reader.elements() : QVector<PlainElement>();
+    return reader.read(drawing) ? reader.elements() : QVector<PlainElement>();
 }
 
 } // namespace lessonhost

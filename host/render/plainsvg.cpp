@@ -5,6 +5,7 @@
 #include "files/domtools.h"
 #include "files/drawingbounds.h"
 #include "files/lessonerror.h"
+#include "files/svgattributes.h"
 #include "files/xmlloader.h"
 #include "iwb/iwbmedia.h"
 #include "lesson/isoneof.h"
@@ -22,28 +23,14 @@
 #include <QImage>
 
 #include <algorithm>
+#include <iterator>
 
 namespace lessonhost {
 
 namespace {
 
-// Everything that draws, and nothing that runs or loads.
+// With the geometry, everything that draws, and nothing that runs or loads.
 const char *const keptAttributes[] = {
-    "x",
-    "y",
-    "width",
-    "height",
-    "rx",
-    "ry",
-    "cx",
-    "cy",
-    "r",
-    "x1",
-    "y1",
-    "x2",
-    "y2",
-    "d",
-    "points",
     "fill",
     "fill-opacity",
     "fill-rule",
@@ -69,13 +56,27 @@ void setBox(QDomElement &element, const QRectF &box)
 
 void copyAttributes(const QDomElement &from, QDomElement &to)
 {
-    for (const char *name : keptAttributes) {
+    const auto copy = [&](const char *name) {
         const QString value = from.attribute(QLatin1String(name));
         // A reference to a paint server or a style leads out of what is copied.
         if (!value.isEmpty() && !value.contains(QLatin1String("url("), Qt::CaseInsensitive)) {
             to.setAttribute(QLatin1String(name), value);
         }
+    };
+    std::for_each(std::begin(shapeGeometry), std::end(shapeGeometry), copy);
+    std::for_each(std::begin(keptAttributes), std::end(keptAttributes), copy);
+}
+
+// Names of fonts may look like declarations.
+bool hasDashesOrDeclarations(const QDomElement &parent)
+{
+    for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        if (e.hasAttribute(QStringLiteral("stroke-dasharray"))
+            || e.attribute(QStringLiteral("style")).contains(QLatin1Char(';')) || hasDashesOrDeclarations(e)) {
+            return true;
+        }
     }
+    return false;
 }
 
 } // namespace
@@ -104,9 +105,12 @@ PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pict
     }
 }
 
+// What is written here is within the bounds, but for dashes, which are counted.
 QDomDocument PlainSvg::finished()
 {
-    boundDrawing(m_svg);
+    if (m_hasOthers || hasDashesOrDeclarations(m_svg)) {
+        boundDrawing(m_svg);
+    }
     return m_document;
 }
 
@@ -180,6 +184,7 @@ bool PlainSvg::add(const QDomElement &element)
     }
     if (isOneOf(keptTags, tag)) {
         QDomElement copy = append(tag);
+        m_hasOthers = true;
         copyAttributes(element, copy);
         // The boxes that IWB gives such shapes mean nothing to svg.
         if (tag != QLatin1String("rect")) {
@@ -210,7 +215,7 @@ void PlainSvg::addHeads(const QDomElement &element, QDomElement &line)
             continue;
         }
         QDomElement head = append(QStringLiteral("path"));
-        head.setAttribute(QStringLiteral("d"), drawnPath(arrowHead(to, value("stroke-width"))));
+        setDrawnPath(head, arrowHead(to, value("stroke-width")));
         for (const auto &row : {std::make_pair("fill", "stroke"), std::make_pair("fill-opacity", "stroke-opacity"),
                                 std::make_pair("transform", "transform")}) {
             if (line.hasAttribute(QLatin1String(row.second))) {
@@ -257,6 +262,7 @@ bool PlainSvg::addDrawing(const QByteArray &svg, const QRectF &box, const QSizeF
         const QByteArray name = QCryptographicHash::hash(closed, QCryptographicHash::Md5).toHex().left(8);
         const QString prefix = m_names + QLatin1Char('d') + QString::fromLatin1(name) + QString::number(++m_drawings);
         QDomElement part = append(QStringLiteral("g"));
+        m_hasOthers = true;
         part.appendChild(innerSvg(m_document, drawing.documentElement(), box, usualSize, prefix, m_innerBudget));
         placePictures(part, files);
         return true;
@@ -339,6 +345,7 @@ bool PlainSvg::addPicture(const QDomElement &element)
 {
     QDomElement image = appendPicture(m_media.file(element.attribute(QStringLiteral("xlink:href"))).source);
     if (!image.isNull()) {
+        m_hasOthers = true;
         copyAttributes(element, image);
     }
     return !image.isNull();
@@ -358,7 +365,7 @@ QDomElement PlainSvg::addGroup(const QTransform &placed)
 QDomElement PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
 {
     QDomElement shape = append(QStringLiteral("path"));
-    shape.setAttribute(QStringLiteral("d"), drawnPath(path));
+    setDrawnPath(shape, path);
     setDrawnColor(shape, "fill", paint.fill);
     setDrawnColor(shape, "stroke", paint.line);
     shape.setAttribute(QStringLiteral("stroke-width"), drawnNumber(paint.lineWidth));
@@ -384,6 +391,7 @@ QDomElement PlainSvg::addTexture(const QPainterPath &area, const QString &file, 
         }
         const QSize size = m_pictures.size(picture);
         // By the picture's name, too: the pages of two lessons may stand side by side.
+        m_hasOthers = true;
         pattern = m_textures.insert(file, QString(m_names + QLatin1Char('t') + picture));
         QDomElement definitions = m_document.createElement(QStringLiteral("defs"));
         m_svg.insertBefore(definitions, m_svg.firstChild());

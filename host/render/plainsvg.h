@@ -168,6 +168,7 @@ private:
     QHash<QString, QString> m_textures; // patterns by file
     QString m_names;
     bool m_isEnglish = false;
+    bool m_hasOthers = false; // numbers of others, which may be out of bounds
     int m_drawings = 0;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/slideitempainter.h"
 
+#include "files/domtools.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
 #include "render/drawings.h"
@@ -104,6 +105,20 @@ QImage SlideItemPainter::thumbnail(int width)
     return image;
 }
 
+// One document takes the elements of all items that are drawn as IWB shows them. What they leave in it goes.
+void SlideItemPainter::startPage(const QSizeF &page)
+{
+    if (m_pages.document().isNull() || page != m_page) {
+        m_page = page;
+        m_pages.start(
+            {{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}},
+            {});
+        return;
+    }
+    QDomElement root = m_pages.document().documentElement();
+    takeElements(root, root.firstChildElement(QStringLiteral("svg:svg")).nextSiblingElement());
+}
+
 std::optional<PaintedItem> SlideItemPainter::paint(const PlacedItem &item, const QVector<PlacedItem> &rubbing,
                                                    const QSizeF &page, Form form)
 {
@@ -144,28 +159,30 @@ std::optional<PaintedItem>
 SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &drawings)> &draw, const QSizeF &page,
                           Form form)
 {
-    m_pages.start(
-        {{PresentationKeys::width, exactText(page.width())}, {PresentationKeys::height, exactText(page.height())}}, {});
+    startPage(page);
     PlainSvg plain(page, m_media, m_store, Qt::transparent);
     plain.sayInEnglish();
     Drawings drawings(plain, m_pages, m_media);
     const bool isItself = draw(plain, drawings);
+    m_media.storeNew([](const QString &, const IwbMedia::File &) {});
+    // A box with the name of an item isn't the item.
+    const bool mayBeElements = form != Picture && isItself;
+    if (form == Elements && !mayBeElements) {
+        return {};
+    }
     SlidePicture drawn;
     drawn.size = page;
     drawn.svg = plain.finished();
-    m_media.storeNew([](const QString &, const IwbMedia::File &) {});
     if (!drawn.svg.documentElement().hasChildNodes()) {
         return {};
     }
+    const auto elements = mayBeElements ? plainOutlines(drawn.svg.documentElement()) : QVector<PlainElement>();
+    if (form == Elements && elements.isEmpty()) {
+        return {};
+    }
     const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
-    // A box with the name of an item isn't the item.
-    const auto elements =
-        form == Picture || !isItself ? QVector<PlainElement>() : plainOutlines(drawn.svg.documentElement());
     if (!elements.isEmpty()) {
         return PaintedItem{elements, {}, {}, texts.words, texts.families};
-    }
-    if (form == Elements) {
-        return {};
     }
 
     const auto paintedArea = [&](const QRectF &area, double scale) {

@@ -34,6 +34,7 @@ public:
     QImage thumbnail(int width) override;
 
 private:
+    void startPage(const QSizeF &page);
     std::optional<PaintedItem> painted(const std::function<bool(PlainSvg &plain, Drawings &drawings)> &draw,
                                        const QSizeF &page, Form form);
     QImage canvas(const QSize &size);
@@ -45,6 +46,7 @@ private:
     PictureStore m_store;
     PagePrinter m_printer;
     IwbPageWriter m_pages;
+    QSizeF m_page; // of the document of m_pages
     QByteArray m_pixels; // of what is being painted
 };
 

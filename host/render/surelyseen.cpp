@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/surelyseen.h"
 
+#include "files/svgattributes.h"
 #include "lesson/fontshere.h"
-#include "lesson/isoneof.h"
 #include "svg/svgpath.h"
 #include "svg/svgvalues.h"
 
@@ -16,58 +16,42 @@ namespace lessonhost {
 namespace {
 
 // With anything else on an element, it may be hidden, cut off or painted with what isn't there.
-constexpr const char *shapeAttributes[] = {
-    "d",
-    "points",
-    "x",
-    "y",
-    "width",
-    "height",
-    "rx",
-    "ry",
-    "cx",
-    "cy",
-    "r",
-    "x1",
-    "y1",
-    "x2",
-    "y2",
-    "fill",
-    "fill-opacity",
-    "fill-rule",
-    "opacity",
-    "stroke",
-    "stroke-width",
-    "stroke-opacity",
-    "stroke-dasharray",
-    "stroke-linecap",
-    "stroke-linejoin",
-    "transform",
-};
-constexpr const char *groupAttributes[] = {
-    "transform", "text-anchor", "text-rendering", "font-family", "font-size", "fill", "style", "xml:lang",
-};
+const QSet<QString> &shapeAttributes()
+{
+    static const QSet<QString> names = attributeSetOfShape({
+        "fill",
+        "fill-opacity",
+        "fill-rule",
+        "opacity",
+        "stroke",
+        "stroke-width",
+        "stroke-opacity",
+        "stroke-dasharray",
+        "stroke-linecap",
+        "stroke-linejoin",
+        "transform",
+    });
+    return names;
+}
 
-constexpr const char *textAttributes[] = {
-    "x",           "y",     "fill",        "font-family", "font-size", "font-style",
-    "font-weight", "style", "text-anchor", "xml:lang",    "xml:space",
-};
+const QSet<QString> &groupAttributes()
+{
+    static const QSet<QString> names = attributeSet(
+        {"transform", "text-anchor", "text-rendering", "font-family", "font-size", "fill", "style", "xml:lang"});
+    return names;
+}
+
+const QSet<QString> &textAttributes()
+{
+    static const QSet<QString> names = attributeSet({"x", "y", "fill", "font-family", "font-size", "font-style",
+                                                     "font-weight", "style", "text-anchor", "xml:lang", "xml:space"});
+    return names;
+}
 
 constexpr double smallestWidth = 1; // of a line
 constexpr double smallestLetters = 8;
 constexpr double smallestSide = 4; // of what is filled, and of a piece of a line
 constexpr double smallestOpacity = 0.2;
-
-template <std::size_t Count> bool hasOnly(const QDomElement &element, const char *const (&names)[Count])
-{
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        if (!isOneOf(names, attributes.item(i).nodeName())) {
-            return false;
-        }
-    }
-    return true;
-}
 
 double numberOf(const QDomElement &element, const char *name, double otherwise)
 {
@@ -121,7 +105,7 @@ bool isSure(const QDomElement &shape, const QTransform &toPage, const QRectF &ar
     const bool isLined = isPainted(shape, "stroke", "stroke-opacity")
         && !shape.hasAttribute(QStringLiteral("stroke-dasharray"))
         && numberOf(shape, "stroke-width", 1) * smallestScale(toPage) >= smallestWidth;
-    if ((!isFilled && !isLined) || !hasOnly(shape, shapeAttributes)) {
+    if ((!isFilled && !isLined) || !hasOnly(shape, shapeAttributes())) {
         return false;
     }
     const auto outline = svgOutline(shape);
@@ -182,7 +166,7 @@ bool isSureText(const QDomElement &text, const QTransform &toPage, const QRectF 
     const double size = inherited(text, "font-size").toDouble(&isNumber);
     const QString color = inherited(text, "fill");
     if (letters.size() <= mostBetween || !isNumber || !(size * smallestScale(toPage) >= smallestLetters)
-        || !isWholeColor(color) || !hasOnly(text, textAttributes) || !namesFontOnly(text)
+        || !isWholeColor(color) || !hasOnly(text, textAttributes()) || !namesFontOnly(text)
         || !text.firstChildElement().isNull()) {
         return false;
     }
@@ -203,7 +187,7 @@ bool isSurelySeenIn(const QDomElement &parent, const QTransform &toPage, const Q
         const QTransform placed = *own * toPage;
         const QString tag = e.tagName();
         const bool isSeen = tag == QLatin1String("g")
-            ? hasOnly(e, groupAttributes) && namesFontOnly(e) && isSurelySeenIn(e, placed, area)
+            ? hasOnly(e, groupAttributes()) && namesFontOnly(e) && isSurelySeenIn(e, placed, area)
             : tag == QLatin1String("text") ? isSureText(e, placed, area)
                                            : isSure(e, placed, area);
         if (isSeen) {

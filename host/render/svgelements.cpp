@@ -49,6 +49,27 @@ void appendDrawnNumber(QString &text, double value)
     text.append(letters + first, mostLetters - first);
 }
 
+QString drawnPath(const QPainterPath &path)
+{
+    constexpr int usualLetters = 16; // of a point
+    QString data;
+    data.reserve(path.elementCount() * usualLetters);
+    QPointF start;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        start = element.isMoveTo() ? QPointF(element) : start;
+        data += QLatin1Char(element.isMoveTo() ? 'M' : element.isLineTo() ? 'L' : element.isCurveTo() ? 'C' : ' ');
+        appendDrawnNumber(data, element.x);
+        data += QLatin1Char(' ');
+        appendDrawnNumber(data, element.y);
+        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
+        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
+            data += QLatin1Char('Z');
+        }
+    }
+    return data;
+}
+
 } // namespace
 
 QString drawnNumber(double value)
@@ -70,25 +91,12 @@ QString drawnTransform(const QTransform &transform)
     return text;
 }
 
-QString drawnPath(const QPainterPath &path)
+void setDrawnPath(QDomElement &element, const QPainterPath &path)
 {
-    constexpr int usualLetters = 16; // of a point
-    QString data;
-    data.reserve(path.elementCount() * usualLetters);
-    QPointF start;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element element = path.elementAt(i);
-        start = element.isMoveTo() ? QPointF(element) : start;
-        data += QLatin1Char(element.isMoveTo() ? 'M' : element.isLineTo() ? 'L' : element.isCurveTo() ? 'C' : ' ');
-        appendDrawnNumber(data, element.x);
-        data += QLatin1Char(' ');
-        appendDrawnNumber(data, element.y);
-        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
-        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
-            data += QLatin1Char('Z');
-        }
+    const QString data = drawnPath(path);
+    if (!data.isEmpty()) {
+        element.setAttribute(QStringLiteral("d"), data);
     }
-    return data;
 }
 
 void setDrawnColor(QDomElement &element, const char *name, const QColor &color)

@@ -19,8 +19,8 @@ QString drawnNumber(double value);
 //! "matrix(...)"
 QString drawnTransform(const QTransform &transform);
 
-//! What "d" of a path says. Ends of outlines that meet their beginning are closed.
-QString drawnPath(const QPainterPath &path);
+//! Sets "d" of a path that isn't empty. Ends of outlines that meet their beginning are closed.
+void setDrawnPath(QDomElement &element, const QPainterPath &path);
 
 //! Sets "fill" or "stroke", and its opacity where the colour is translucent.
 void setDrawnColor(QDomElement &element, const char *name, const QColor &color);

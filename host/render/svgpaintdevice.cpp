@@ -168,7 +168,7 @@ public:
     void drawPath(const QPainterPath &path) override
     {
         QDomElement shape = append(QStringLiteral("path"));
-        shape.setAttribute(QStringLiteral("d"), drawnPath(path));
+        setDrawnPath(shape, path);
         if (path.fillRule() == Qt::OddEvenFill) {
             shape.setAttribute(QStringLiteral("fill-rule"), QStringLiteral("evenodd"));
         }

@@ -12,6 +12,8 @@
 #include <QStringList>
 
 #include <cmath>
+#include <functional>
+#include <numeric>
 
 namespace lessonhost {
 
@@ -29,7 +31,7 @@ bool isConvex(const QPolygonF &polygon)
     int left = 0;
     int right = 0;
     const int count = polygon.size();
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count && (left == 0 || right == 0); ++i) {
         const QPointF one = polygon.at((i + 1) % count) - polygon.at(i);
         const QPointF other = polygon.at((i + 2) % count) - polygon.at((i + 1) % count);
         const double turn = std::atan2(one.x() * other.y() - one.y() * other.x(), QPointF::dotProduct(one, other));
@@ -144,12 +146,13 @@ bool isFilledAlike(const QPolygonF &polygon)
     path.setFillRule(Qt::WindingFill);
     const QImage other = filled(path, extent);
     int different = 0;
+    const int width = one.width();
     for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            different += one.constScanLine(y)[x] != other.constScanLine(y)[x] ? 1 : 0;
-        }
+        const uchar *first = one.constScanLine(y);
+        const uchar *second = other.constScanLine(y);
+        different += std::inner_product(first, first + width, second, 0, std::plus<>(), std::not_equal_to<>());
     }
-    return different < one.width() / 4; // less shows nothing
+    return different < width / 4; // less shows nothing
 }
 
 std::optional<QRectF> drawnExtent(const QDomElement &element)

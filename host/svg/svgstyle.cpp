@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "svg/svgstyle.h"
 
+#include "lesson/isoneof.h"
 #include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
 #include "svg/svgvalues.h"
 
 #include <QSet>
 #include <QStringList>
+
+#include <optional>
 
 namespace lessonhost {
 
@@ -125,35 +128,60 @@ SvgStyle SvgStyle::child(const QDomElement &element, const QString &transform,
                          const std::function<void(const Sentence &)> &problem) const
 {
     SvgStyle result = *this;
-    const double inheritedSize = fontPixels();
-    QHash<QString, QString> own = svgDeclarations(element.attribute(QStringLiteral("style")));
+    const QString shiftName = QStringLiteral("baseline-shift");
+    const QString sizeName = QStringLiteral("font-size");
+    std::optional<QString> fontSize;
+    QString shift;
+    QString ownOpacity;
+    QStringList effects;
+    bool isHidden = false;
+    const auto take = [&](const QString &name, const QString &value) {
+        if (inheritedProperties().contains(name)) {
+            if (name == sizeName) {
+                fontSize = value;
+            } else if (value != QLatin1String("inherit")) {
+                result.m_properties.insert(name, value);
+            }
+        } else if (name == QLatin1String("opacity")) {
+            ownOpacity = value;
+        } else if (name == QLatin1String("display")) {
+            isHidden = isHidden || value == QLatin1String("none");
+        } else if (name == QLatin1String("visible")) {
+            isHidden = isHidden || value == QLatin1String("0");
+        } else if (name == shiftName) {
+            shift = value;
+        } else if (isOneOf(unknownEffects, name) && !value.isEmpty() && value != QLatin1String("none")) {
+            effects.append(name);
+        }
+    };
+    const QString style = element.attribute(QStringLiteral("style"));
+    const QHash<QString, QString> declared = style.isEmpty() ? QHash<QString, QString>() : svgDeclarations(style);
+    for (auto it = declared.constBegin(); it != declared.constEnd(); ++it) {
+        take(it.key(), it.value());
+    }
     const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.size(); ++i) {
-        const QDomAttr attribute = attributes.item(i).toAttr();
-        if (!own.contains(attribute.name())) {
-            own.insert(attribute.name(), attribute.value());
+    const int count = attributes.size();
+    for (int i = 0; i < count; ++i) {
+        const QDomNode attribute = attributes.item(i);
+        const QString name = attribute.nodeName();
+        if (!declared.contains(name)) {
+            take(name, attribute.nodeValue());
         }
     }
-    for (auto it = own.constBegin(); it != own.constEnd(); ++it) {
-        if (inheritedProperties().contains(it.key()) && it.value() != QLatin1String("inherit")) {
-            result.m_properties.insert(it.key(), it.value());
-        }
+    if (fontSize) {
+        result.m_properties.insert(sizeName, numberText(fontSizeOf(*fontSize, fontPixels()), 10));
     }
-    const QString shift = QStringLiteral("baseline-shift");
-    result.m_properties.insert(shift, own.value(shift)); // not inherited
-    const QString fontSize = QStringLiteral("font-size");
-    if (own.contains(fontSize)) {
-        result.m_properties.insert(fontSize, numberText(fontSizeOf(own.value(fontSize), inheritedSize), 10));
+    if (!shift.isEmpty()) {
+        result.m_properties.insert(shiftName, shift);
+    } else if (has(shiftName)) {
+        result.m_properties.remove(shiftName); // not inherited
     }
     for (const char *effect : unknownEffects) {
-        const QString value = own.value(QLatin1String(effect));
-        if (!value.isEmpty() && value != QLatin1String("none")) {
+        if (effects.contains(QLatin1String(effect))) {
             problem(say("%1 is left out").arg(QLatin1String(effect)));
         }
     }
-    result.opacity = opacity * opacityOf(own.value(QStringLiteral("opacity")));
-    const bool isHidden = own.value(QStringLiteral("display")) == QLatin1String("none")
-        || own.value(QStringLiteral("visible")) == QLatin1String("0");
+    result.opacity = opacity * opacityOf(ownOpacity);
     result.m_isDisplayed = m_isDisplayed && !isHidden;
     if (!transform.isEmpty() && transform != QLatin1String("none")) {
         if (const auto step = svgTransform(transform)) {
