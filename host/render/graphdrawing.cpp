@@ -278,10 +278,12 @@ QPolygonF namedPoints(const ItemView &item, const QByteArray &name, int first, i
     for (int i = first; i <= last; ++i) {
         const QByteArray x = name + QByteArray::number(i) + 'x';
         const QByteArray y = name + QByteArray::number(i) + 'y';
-        if (!item.has(QLatin1String(x)) || !item.has(QLatin1String(y))) {
+        const QJsonValue across = item.json().value(QLatin1String(x));
+        const QJsonValue down = item.json().value(QLatin1String(y));
+        if (isEmptyValue(across) || isEmptyValue(down)) {
             break;
         }
-        points.append(QPointF(item.number(QLatin1String(x)), item.number(QLatin1String(y))));
+        points.append(QPointF(itemNumber(across), itemNumber(down)));
     }
     return points;
 }

@@ -102,7 +102,7 @@ void addLine(PlainSvg &svg, const Ink &ink)
     paint.fill = Qt::transparent;
     paint.line = ink.color;
     paint.lineWidth = ink.width;
-    QDomElement line = svg.addPath(smoothLine(ink.track), paint);
+    QDomElement line = svg.addPathElement(smoothLine(ink.track), paint);
     if (ink.cap != Qt::FlatCap) {
         line.setAttribute(QStringLiteral("stroke-linecap"),
                           ink.cap == Qt::RoundCap ? QStringLiteral("round") : QStringLiteral("square"));
@@ -121,7 +121,7 @@ QDomElement addArea(PlainSvg &svg, const Ink &ink, const QPainterPath &area)
     SvgPaint paint;
     paint.fill = ink.color;
     paint.line = Qt::transparent;
-    return svg.addPath(area, paint);
+    return svg.addPathElement(area, paint);
 }
 
 QRectF boundsOf(const Ink &ink)

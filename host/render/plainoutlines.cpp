@@ -7,6 +7,7 @@
 #include "lesson/isoneof.h"
 #include "lesson/numbertexts.h"
 #include "lesson/planegeometry.h"
+#include "render/svgelements.h"
 #include "svg/svggeometry.h"
 #include "svg/svgpath.h"
 #include "svg/svgstyle.h"
@@ -244,6 +245,11 @@ QString directionOf(const QString &text)
 class PlainReader
 {
 public:
+    explicit PlainReader(const QVector<PlainSvg::Shape> &shapes)
+        : m_shapes(shapes)
+    {
+    }
+
     bool read(const QDomElement &drawing) { return findParts(drawing, {}) && findOutlines() && addParts(); }
 
     const QVector<PlainElement> &elements() const { return m_elements; }
@@ -263,6 +269,7 @@ private:
     {
         PlainElement text;
         QDomElement shape;
+        const PlainSvg::Shape *unwritten = nullptr; //!< the shape, if it isn't written yet
         SvgStyle style;
         QPainterPath outline; //!< on the page
         Pen pen;
@@ -272,6 +279,10 @@ private:
     {
         const auto problem = [this](const Sentence &) { m_isPlain = false; };
         for (QDomElement child = holder.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            if (m_next < m_shapes.size() && m_shapes.at(m_next).element == child) {
+                m_parts.append(Part{{}, child, &m_shapes.at(m_next++), outer, {}, {}});
+                continue;
+            }
             const QString tag = bareName(child.tagName());
             const bool isGroup = tag == QLatin1String("g");
             const bool isText = tag == QLatin1String("text");
@@ -283,7 +294,7 @@ private:
                 return false;
             }
             if (!isGroup && !isText) {
-                m_parts.append(Part{{}, child, style, {}, {}});
+                m_parts.append(Part{{}, child, nullptr, style, {}, {}});
             }
         }
         return true;
@@ -310,27 +321,50 @@ private:
     bool findOutline(Part &part)
     {
         const SvgStyle &style = part.style;
-        const auto outline = svgOutline(part.shape);
+        const auto outline = part.unwritten ? asDrawn(part.unwritten->path) : svgOutline(part.shape);
         Pen &pen = part.pen;
-        pen.paint = svgPaint(style, false, [this](const Sentence &) { m_isPlain = false; });
+        pen = part.unwritten ? penOf(*part.unwritten, style) : penOf(style);
         const bool isFilled = pen.paint.fill.alpha() > 0;
         const bool isLined = pen.paint.line.alpha() > 0;
-        const auto scale = evenScale(style.matrix);
         // Of a translucent whole, lines don't show what they lie on.
-        if (!outline || !m_isPlain || (isLined && !scale) || (style.opacity < 1 && isFilled && isLined)) {
+        if (!outline || !m_isPlain || (isLined && !evenScale(style.matrix))
+            || (style.opacity < 1 && isFilled && isLined)) {
             return false;
-        }
-        pen.cap = style.property(QStringLiteral("stroke-linecap"));
-        pen.join = style.property(QStringLiteral("stroke-linejoin"));
-        pen.isEvenOdd = style.property(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
-        const QVector<double> dashes = svgNumbers(style.property(QStringLiteral("stroke-dasharray")));
-        for (const double length : dashes) {
-            pen.dashes.append(number(length * scale.value_or(1)));
         }
         if ((isFilled || isLined) && style.isVisible()) {
             part.outline = style.matrix.map(*outline);
         }
         return true;
+    }
+
+    Pen penOf(const SvgStyle &style)
+    {
+        Pen pen;
+        pen.paint = svgPaint(style, false, [this](const Sentence &) { m_isPlain = false; });
+        pen.cap = style.property(QStringLiteral("stroke-linecap"));
+        pen.join = style.property(QStringLiteral("stroke-linejoin"));
+        pen.isEvenOdd = style.property(QStringLiteral("fill-rule")) == QLatin1String("evenodd");
+        const QVector<double> dashes = svgNumbers(style.property(QStringLiteral("stroke-dasharray")));
+        const double scale = dashes.isEmpty() ? 1 : evenScale(style.matrix).value_or(1);
+        for (const double length : dashes) {
+            pen.dashes.append(number(length * scale));
+        }
+        return pen;
+    }
+
+    // What the same gives once it is written. around: the style of the group that it is in.
+    static Pen penOf(const PlainSvg::Shape &shape, const SvgStyle &around)
+    {
+        Pen pen;
+        pen.paint.fill = asDrawn(shape.paint.fill);
+        pen.paint.line = asDrawn(shape.paint.line);
+        pen.paint.lineWidth = asDrawn(shape.paint.lineWidth) * meanScale(around.matrix);
+        if (pen.paint.lineWidth <= 0) {
+            pen.paint.lineWidth = 1;
+            pen.paint.line.setAlpha(0);
+        }
+        pen.join = QStringLiteral("round");
+        return pen;
     }
 
     bool addParts()
@@ -503,8 +537,8 @@ private:
         const bool isBold = weight == QLatin1String("bold") || weight.toInt() > 500;
         const bool isItalic = slant == QLatin1String("italic") || slant == QLatin1String("oblique");
         const double size = style.fontPixels();
-        const double width = metricsOf(familyHere(families), isBold, isItalic).horizontalAdvance(plain) * size
-            / measuredPixels;
+        const double width =
+            metricsOf(familyHere(families), isBold, isItalic).horizontalAdvance(plain) * size / measuredPixels;
         if (width > shortLine * size && !isSameElsewhere(families.first())) {
             return false;
         }
@@ -535,10 +569,12 @@ private:
                         QStringLiteral("rotate(%1,%2,%3)")
                             .arg(number(parts->angle * 180 / M_PI), number(start.x()), number(start.y())));
         }
-        m_parts.append(Part{element, {}, {}, {}, {}});
+        m_parts.append(Part{element, {}, nullptr, {}, {}, {}});
         return true;
     }
 
+    const QVector<PlainSvg::Shape> &m_shapes;
+    int m_next = 0; // of them
     QVector<Part> m_parts;
     QVector<PlainElement> m_elements;
     int m_points = 0;
@@ -547,9 +583,9 @@ private:
 
 } // namespace
 
-QVector<PlainElement> plainOutlines(const QDomElement &drawing)
+QVector<PlainElement> plainOutlines(const QDomElement &drawing, const QVector<PlainSvg::Shape> &shapes)
 {
-    PlainReader reader;
+    PlainReader reader(shapes);
     return reader.read(drawing) ? reader.elements() : QVector<PlainElement>();
 }
 

@@ -3,6 +3,7 @@
 #define PLAINOUTLINES_H
 
 #include "lesson/lesson.h"
+#include "render/plainsvg.h"
 
 #include <QDomElement>
 #include <QVector>
@@ -14,10 +15,10 @@ namespace lessonhost {
  * svg:line, svg:polyline, svg:polygon and svg:text, on the page, from back to front. Curves are lines too fine to be
  * told from them.
  *
- * drawing: of PlainSvg. Nothing for one that needs more: many elements, pictures, textures, translucent wholes, lines
+ * drawing: of PlainSvg; shapes: those of it that aren't written yet. Nothing for one that needs more: many elements, pictures, textures, translucent wholes, lines
  * that a transform stretches, mirrored and spaced letters, and whatever isn't known here.
  */
-QVector<PlainElement> plainOutlines(const QDomElement &drawing);
+QVector<PlainElement> plainOutlines(const QDomElement &drawing, const QVector<PlainSvg::Shape> &shapes = {});
 
 } // namespace lessonhost
 

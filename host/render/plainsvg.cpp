@@ -15,7 +15,6 @@
 #include "render/picturestore.h"
 #include "render/svgelements.h"
 #include "sentences/language.h"
-#include "svg/svgstyle.h"
 #include "svg/svgvalues.h"
 
 #include <QBuffer>
@@ -67,6 +66,23 @@ void copyAttributes(const QDomElement &from, QDomElement &to)
     std::for_each(std::begin(keptAttributes), std::end(keptAttributes), copy);
 }
 
+void writeShape(QDomElement &shape, const QPainterPath &path, const SvgPaint &paint)
+{
+    setDrawnPath(shape, path);
+    setDrawnColor(shape, "fill", paint.fill);
+    setDrawnColor(shape, "stroke", paint.line);
+    shape.setAttribute(QStringLiteral("stroke-width"), drawnNumber(paint.lineWidth));
+    shape.setAttribute(QStringLiteral("stroke-linejoin"), QStringLiteral("round"));
+    const QVector<double> dashes[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
+    QStringList lengths;
+    for (const double length : dashes[qBound(0, paint.dashParts, 4)]) {
+        lengths.append(drawnNumber(length * paint.lineWidth));
+    }
+    if (!lengths.isEmpty()) {
+        shape.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
+    }
+}
+
 // Names of fonts may look like declarations.
 bool hasDashesOrDeclarations(const QDomElement &parent)
 {
@@ -88,12 +104,6 @@ PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pict
 {
     m_svg = m_document.createElement(QStringLiteral("svg"));
     m_document.appendChild(m_svg);
-    m_svg.setAttribute(QStringLiteral("xmlns"), QStringLiteral("http://www.w3.org/2000/svg"));
-    m_svg.setAttribute(QStringLiteral("xmlns:xlink"), QStringLiteral("http://www.w3.org/1999/xlink"));
-    m_svg.setAttribute(QStringLiteral("viewBox"),
-                       QStringLiteral("0 0 %1 %2").arg(drawnNumber(size.width()), drawnNumber(size.height())));
-    m_svg.setAttribute(QStringLiteral("width"), drawnNumber(size.width()));
-    m_svg.setAttribute(QStringLiteral("height"), drawnNumber(size.height()));
     if (paper.alpha() > 0) {
         QDomElement sheet = append(QStringLiteral("rect"));
         sheet.setAttribute(QStringLiteral("width"), drawnNumber(size.width()));
@@ -106,11 +116,28 @@ PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pict
 }
 
 // What is written here is within the bounds, but for dashes, which are counted.
-QDomDocument PlainSvg::finished()
+QDomElement PlainSvg::sketch()
 {
-    if (m_hasOthers || hasDashesOrDeclarations(m_svg)) {
+    if (!m_isBounded && (m_hasOthers || hasDashesOrDeclarations(m_svg))) {
         boundDrawing(m_svg);
     }
+    m_isBounded = true;
+    return m_svg;
+}
+
+QDomDocument PlainSvg::finished()
+{
+    sketch();
+    m_svg.setAttribute(QStringLiteral("xmlns"), QStringLiteral("http://www.w3.org/2000/svg"));
+    m_svg.setAttribute(QStringLiteral("xmlns:xlink"), QStringLiteral("http://www.w3.org/1999/xlink"));
+    m_svg.setAttribute(QStringLiteral("viewBox"),
+                       QStringLiteral("0 0 %1 %2").arg(drawnNumber(m_size.width()), drawnNumber(m_size.height())));
+    m_svg.setAttribute(QStringLiteral("width"), drawnNumber(m_size.width()));
+    m_svg.setAttribute(QStringLiteral("height"), drawnNumber(m_size.height()));
+    for (Shape &shape : m_shapes) {
+        writeShape(shape.element, shape.path, shape.paint);
+    }
+    m_shapes.clear();
     return m_document;
 }
 
@@ -362,22 +389,19 @@ QDomElement PlainSvg::addGroup(const QTransform &placed)
     return group;
 }
 
-QDomElement PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
+void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
+{
+    if (paint.dashParts > 0) {
+        addPathElement(path, paint);
+        return;
+    }
+    m_shapes.append({append(QStringLiteral("path")), path, paint});
+}
+
+QDomElement PlainSvg::addPathElement(const QPainterPath &path, const SvgPaint &paint)
 {
     QDomElement shape = append(QStringLiteral("path"));
-    setDrawnPath(shape, path);
-    setDrawnColor(shape, "fill", paint.fill);
-    setDrawnColor(shape, "stroke", paint.line);
-    shape.setAttribute(QStringLiteral("stroke-width"), drawnNumber(paint.lineWidth));
-    shape.setAttribute(QStringLiteral("stroke-linejoin"), QStringLiteral("round"));
-    const QVector<double> dashes[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
-    QStringList lengths;
-    for (const double length : dashes[qBound(0, paint.dashParts, 4)]) {
-        lengths.append(drawnNumber(length * paint.lineWidth));
-    }
-    if (!lengths.isEmpty()) {
-        shape.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
-    }
+    writeShape(shape, path, paint);
     return shape;
 }
 
@@ -411,7 +435,7 @@ QDomElement PlainSvg::addTexture(const QPainterPath &area, const QString &file, 
     SvgPaint paint;
     paint.fill = color;
     paint.line = Qt::transparent;
-    QDomElement shape = addPath(area, paint);
+    QDomElement shape = addPathElement(area, paint);
     shape.setAttribute(QStringLiteral("fill"),
                        QString(QLatin1String("url(#") + *pattern + QLatin1String(") ") + color.name()));
     return shape;

@@ -5,6 +5,7 @@
 #include "files/pictures.h"
 #include "render/innersvg.h"
 #include "sentences/sentence.h"
+#include "svg/svgstyle.h"
 
 #include <QColor>
 #include <QDomDocument>
@@ -24,7 +25,6 @@ namespace lessonhost {
 class IwbMedia;
 struct LabelLines;
 class PictureStore;
-struct SvgPaint;
 
 /*!
  * A few letters about a point.
@@ -93,6 +93,20 @@ public:
     //! From what is added now to the page.
     QTransform transform() const { return m_transform; }
 
+    /*!
+     * A path of which nothing is written yet.
+     */
+    struct Shape
+    {
+        QDomElement element; //!< without attributes
+        QPainterPath path;
+        SvgPaint paint; //!< without dashes
+    };
+    //! What was added, within the bounds of drawings, but for these. They stand in it one behind the other. Nothing is
+    //! added afterwards.
+    QDomElement sketch();
+    const QVector<Shape> &shapes() const { return m_shapes; }
+
     //! What was added, within the bounds of drawings. Pictures are those of the store, by their names.
     QDomDocument finished();
 
@@ -117,7 +131,9 @@ public:
     //! Such a picture.
     void addImage(const QImage &image, const QRectF &box);
     //! With round corners and no caps, so that no tip of a line reaches further than its width does.
-    QDomElement addPath(const QPainterPath &path, const SvgPaint &paint);
+    void addPath(const QPainterPath &path, const SvgPaint &paint);
+    //! The same, for who has more to say of it.
+    QDomElement addPathElement(const QPainterPath &path, const SvgPaint &paint);
 
     //! An area that shows a picture in its own size, side by side from the corner of the page on; the picture stands in
     //! the page once. color: what is seen where patterns aren't known; its alpha counts everywhere. Null for a file
@@ -168,6 +184,8 @@ private:
     QHash<QString, QString> m_textures; // patterns by file
     QString m_names;
     bool m_isEnglish = false;
+    QVector<Shape> m_shapes;
+    bool m_isBounded = false; // nothing is added any more
     bool m_hasOthers = false; // numbers of others, which may be out of bounds
     int m_drawings = 0;
 };

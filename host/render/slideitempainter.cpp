@@ -170,21 +170,22 @@ SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &dr
     if (form == Elements && !mayBeElements) {
         return {};
     }
-    SlidePicture drawn;
-    drawn.size = page;
-    drawn.svg = plain.finished();
-    if (!drawn.svg.documentElement().hasChildNodes()) {
+    const QDomElement sketch = plain.sketch();
+    if (!sketch.hasChildNodes()) {
         return {};
     }
-    const auto elements = mayBeElements ? plainOutlines(drawn.svg.documentElement()) : QVector<PlainElement>();
+    const auto elements = mayBeElements ? plainOutlines(sketch, plain.shapes()) : QVector<PlainElement>();
     if (form == Elements && elements.isEmpty()) {
         return {};
     }
-    const DrawnTexts texts = DrawnTexts::of(drawn.svg.documentElement());
+    const DrawnTexts texts = DrawnTexts::of(sketch);
     if (!elements.isEmpty()) {
         return PaintedItem{elements, {}, {}, texts.words, texts.families};
     }
 
+    SlidePicture drawn;
+    drawn.size = page;
+    drawn.svg = plain.finished();
     const auto paintedArea = [&](const QRectF &area, double scale) {
         const QSizeF size = area.size() * scale;
         QImage image = canvas(QSizeF(qBound(1.0, std::ceil(size.width()), largestPicture),

@@ -4,6 +4,7 @@
 #include "files/drawingbounds.h"
 #include "lesson/fontshere.h"
 #include "lesson/fontvalues.h"
+#include "lesson/numbertexts.h"
 
 #include <QHash>
 
@@ -19,23 +20,25 @@ double bounded(double value)
 }
 
 // Six digits, and no more than seven behind the point.
-QString factor(double value)
+double shortFactor(double value)
 {
     constexpr double scale = 1e7;
-    constexpr double largestWhole = 1e6;
-    if (value == std::trunc(value) && qAbs(value) < largestWhole) {
-        return QString::number(int(value));
-    }
-    return QString::number(qAbs(value) < 1 ? std::round(value * scale) / scale : value, 'g', 6);
+    return qAbs(value) < 1 ? std::round(value * scale) / scale : value;
 }
 
-// Two digits behind the point. A drawing is mostly numbers, and these are quick to write.
+// A drawn number has two digits behind the point.
+qint64 hundredthsOf(double value)
+{
+    return qRound64(bounded(value) * 100);
+}
+
+// A drawing is mostly numbers, and these are quick to write.
 void appendDrawnNumber(QString &text, double value)
 {
     constexpr int mostLetters = 16;
     QChar letters[mostLetters];
     int first = mostLetters;
-    const auto hundredths = qRound64(bounded(value) * 100);
+    const qint64 hundredths = hundredthsOf(value);
     auto rest = qAbs(hundredths);
     for (int digit = 0; digit < 3 || rest > 0; ++digit, rest /= 10) {
         if (digit == 2) {
@@ -47,6 +50,14 @@ void appendDrawnNumber(QString &text, double value)
         letters[--first] = QLatin1Char('-');
     }
     text.append(letters + first, mostLetters - first);
+}
+
+// Whether an outline ends there where it began.
+bool isClosedAt(const QPainterPath &path, int i, const QPointF &start)
+{
+    const QPainterPath::Element element = path.elementAt(i);
+    const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
+    return isLast && !element.isMoveTo() && QPointF(element) == start;
 }
 
 QString drawnPath(const QPainterPath &path)
@@ -62,8 +73,7 @@ QString drawnPath(const QPainterPath &path)
         appendDrawnNumber(data, element.x);
         data += QLatin1Char(' ');
         appendDrawnNumber(data, element.y);
-        const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
-        if (isLast && !element.isMoveTo() && QPointF(element) == start) {
+        if (isClosedAt(path, i, start)) {
             data += QLatin1Char('Z');
         }
     }
@@ -84,7 +94,7 @@ QString drawnTransform(const QTransform &transform)
     QString text(QLatin1String("matrix("));
     for (const double number :
          {transform.m11(), transform.m12(), transform.m21(), transform.m22(), transform.dx(), transform.dy()}) {
-        text += factor(bounded(number));
+        appendNumber(text, shortFactor(bounded(number)));
         text += QLatin1Char(' ');
     }
     text[text.size() - 1] = QLatin1Char(')');
@@ -97,6 +107,45 @@ void setDrawnPath(QDomElement &element, const QPainterPath &path)
     if (!data.isEmpty()) {
         element.setAttribute(QStringLiteral("d"), data);
     }
+}
+
+double asDrawn(double value)
+{
+    return double(hundredthsOf(value)) / 100;
+}
+
+QPainterPath asDrawn(const QPainterPath &path)
+{
+    QPainterPath drawn;
+    QPointF start;
+    const auto point = [&path](int i) {
+        return QPointF(asDrawn(path.elementAt(i).x), asDrawn(path.elementAt(i).y));
+    };
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        if (element.isMoveTo()) {
+            start = element;
+            drawn.moveTo(point(i));
+        } else if (element.isLineTo()) {
+            drawn.lineTo(point(i));
+        } else {
+            drawn.cubicTo(point(i), point(i + 1), point(i + 2));
+            i += 2;
+        }
+        if (isClosedAt(path, i, start)) {
+            drawn.closeSubpath();
+        }
+    }
+    return drawn;
+}
+
+QColor asDrawn(const QColor &color)
+{
+    QColor drawn(color.red(), color.green(), color.blue(), color.alpha());
+    if (color.alpha() > 0 && color.alpha() < 255) {
+        drawn.setAlpha(qRound(255 * asDrawn(color.alphaF())));
+    }
+    return drawn;
 }
 
 void setDrawnColor(QDomElement &element, const char *name, const QColor &color)

@@ -22,6 +22,11 @@ QString drawnTransform(const QTransform &transform);
 //! Sets "d" of a path that isn't empty. Ends of outlines that meet their beginning are closed.
 void setDrawnPath(QDomElement &element, const QPainterPath &path);
 
+// What a reader of these attributes has of a number, a path and a colour.
+double asDrawn(double value);
+QPainterPath asDrawn(const QPainterPath &path);
+QColor asDrawn(const QColor &color);
+
 //! Sets "fill" or "stroke", and its opacity where the colour is translucent.
 void setDrawnColor(QDomElement &element, const char *name, const QColor &color);
 
