@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "formats/conversion.h"
+#include "formats/slidesahead.h"
 #include "hostfixture.h"
+#include "lesson/guardedplugin.h"
 
 #include <QDirIterator>
 #include <QLoggingCategory>
@@ -59,6 +62,71 @@ private slots:
         if (QFileInfo(example).isDir()) {
             QCOMPARE(filesBelow(package), filesBelow(example));
         }
+    }
+
+    // Slides are read ahead and checked behind, and all comes as from one thread: values, made up identifiers, losses in
+    // the order of the slides, and what fails.
+    void threadsChangeNothing()
+    {
+        QTemporaryDir folder;
+        const auto json = [](int same, int broken) {
+            QByteArray text = "{'Width':'1280','Height':'720','Slides':[";
+            for (int i = 1; i < 20; ++i) {
+                const QByteArray item = "{'Type':'ZQMath2DCircle','ID':'a','ID':'b','lost':[1]}";
+                const QByteArray id = QByteArray::number(i == same ? i - 1 : i);
+                text += i == broken ? QByteArray("7,") : "{'ID':'" + id + "','Items':[" + item + "]},";
+            }
+            text += "{'Items':[]}]}";
+            return text.replace('\'', '"');
+        };
+        putFile(folder.filePath("whole.json"), json(0, 0));
+        putFile(folder.filePath("same.json"), json(9, 0));
+        putFile(folder.filePath("broken.json"), json(0, 9));
+        const QByteArray slide = "<slide Other='1'><ZQMath2DCircle Bound='1,2,3,4' Other='1'/><ZQTextBoard/></slide>";
+        putFile(folder.filePath("raw.xml"), "<presentation>" + slide.repeated(20) + "</presentation>");
+        GuardedPlugin guarded(plugin());
+        LessonContext context;
+        context.plugin = &guarded;
+        QStringList told[2];
+        QStringList asked[2];
+        for (const bool isAhead : {false, true}) {
+            context.readsAhead = isAhead;
+            for (const char *name : {"whole.json", "same.json", "broken.json", "raw.xml"}) {
+                const QString input = folder.filePath(name);
+                const QString output = folder.filePath(QString("%1%2").arg(name).arg(isAhead));
+                LossReport losses;
+                context.losses = &losses;
+                try {
+                    convertLesson(lessonFormatOfInput(input), input, lessonFormatByName("zqtx"), output, context,
+                                  [](int, int) {});
+                    const QMap<QString, QByteArray> files = filesBelow(output);
+                    for (auto it = files.cbegin(); it != files.cend(); ++it) {
+                        told[isAhead].append(it.key() + it.value());
+                    }
+                    for (const Loss &loss : losses.entries()) {
+                        told[isAhead].append(QString("%1 %2").arg(loss.slide).arg(loss.key));
+                    }
+                } catch (const LessonError &error) {
+                    QVERIFY(!QFileInfo::exists(output) && hiddenEntries(folder.path()).isEmpty());
+                    told[isAhead].append(error.message().english().remove(output));
+                    if (name == QLatin1String("same.json")) {
+                        QCOMPARE(losses.entries().size(), 9 + 8); // what was read, and written
+                    }
+                }
+            }
+            LossReport losses;
+            context.losses = &losses;
+            const auto reader =
+                openLesson(lessonFormatByName("json"), folder.filePath("whole.json"), context);
+            for (const int index : {0, 1, 0, 5, 6, 2, 1}) {
+                asked[isAhead].append(reader->slide(index).properties.value("ID").toString());
+                asked[isAhead].append(QString("(%1)").arg(losses.entries().last().slide));
+            }
+        }
+        QCOMPARE(told[1], told[0]);
+        QCOMPARE(asked[1], asked[0]);
+        QCOMPARE(asked[1].join(""), QString("1(1)2(2)1(2)6(6)7(7)3(3)2(3)"));
+        QCOMPARE(told[1].mid(told[1].indexOf("1 ID"), 5).join(','), QString("1 ID,1 lost,2 ID,2 lost,3 ID"));
     }
 
     // Each level of a mind map is two of XML and of JSON, deeper than Qt's own JSON parser goes.

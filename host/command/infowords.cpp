@@ -7,7 +7,7 @@
 #include "command/pluginhost.h"
 #include "command/progressbar.h"
 #include "command/terminal.h"
-#include "formats/lessonformats.h"
+#include "formats/slidesahead.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -26,7 +26,7 @@ int tellInfo(const Call &call, const QStringList &files)
     call.tellName(input, format);
     const PluginHost host(call.value("plugin"));
     ProgressBar bar(!call.isSet("quiet"));
-    const auto reader = format.open(call.inputFile(input), call.readingContext(host));
+    const auto reader = openLesson(format, call.inputFile(input), call.readingContext(host));
     const LessonInfo info = lessonInfo(*reader, [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
     if (call.isSet("json")) {

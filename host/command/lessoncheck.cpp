@@ -5,6 +5,7 @@
 #include "files/lessonerror.h"
 #include "files/pictures.h"
 #include "files/workfolder.h"
+#include "formats/slidesahead.h"
 #include "formats/zqtxitems.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
@@ -401,7 +402,7 @@ LessonCheck checkLesson(const LessonFormat &from, const QString &input, const QV
     LessonCheck check;
     LessonContext readingContext = context;
     readingContext.losses = &check.reading;
-    const auto reader = from.open(input, readingContext);
+    const auto reader = openLesson(from, input, readingContext);
     Inspector inspector(check, *reader, context.plugin);
     const WorkFolder folder;
     std::vector<std::unique_ptr<Trial>> trials;

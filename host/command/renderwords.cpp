@@ -10,7 +10,7 @@
 #include "command/reportfile.h"
 #include "command/terminal.h"
 #include "files/lessonerror.h"
-#include "formats/lessonformats.h"
+#include "formats/slidesahead.h"
 #include "render/rendering.h"
 
 #include <QCryptographicHash>
@@ -103,7 +103,7 @@ int renderOne(const Call &call, const QStringList &files)
     const PluginHost host(call.value("plugin"));
     const LessonContext context = call.readingContext(host);
     ProgressBar bar(!call.isSet("quiet"));
-    const auto reader = format.open(call.inputFile(input), context);
+    const auto reader = openLesson(format, call.inputFile(input), context);
     const Rendered rendered =
         renderLesson(*reader, context, call.streams().output(output, settings.form->extensions.first()), settings,
                      [&bar](int done, int total) { bar.show(done, total); });
@@ -131,9 +131,9 @@ int renderTwo(const Call &call, const QStringList &files)
     const LessonContext context = call.readingContext(host);
     ProgressBar bar(!call.isSet("quiet"));
     call.checkOutput(files.last());
-    const auto first = call.inputFormat(files.first()).open(call.inputFile(files.first()), context);
+    const auto first = openLesson(call.inputFormat(files.first()), call.inputFile(files.first()), context);
     const QString secondFile = call.inputFile(files.at(1));
-    const auto second = lessonFormatOfInput(secondFile).open(secondFile, context);
+    const auto second = openLesson(lessonFormatOfInput(secondFile), secondFile, context);
     const QString output = call.streams().output(files.last(), settings.form->extensions.first());
     const Rendered rendered = renderDifference(*first, files.first(), *second, files.at(1), context, output, settings,
                                                [&bar](int done, int total) { bar.show(done, total); });
@@ -148,7 +148,7 @@ int servePictures(const Call &call, const QStringList &)
     const LessonContext context = call.readingContext(host);
     const RenderSettings settings = settingsOfMany(call);
     serveBatch([&](const QString &input, const QString &output) {
-        const auto reader = call.inputFormat(input).open(input, context);
+        const auto reader = openLesson(call.inputFormat(input), input, context);
         const Rendered rendered = renderLesson(*reader, context, output, settings, [](int, int) {});
         return BatchAnswer{rendered.report, rendered.notes};
     });
@@ -165,7 +165,7 @@ int show(const Call &call, const QStringList &files)
         const PluginHost host(call.value("plugin"));
         const LessonContext context = call.readingContext(host);
         ProgressBar bar(!call.isSet("quiet"));
-        const auto reader = format.open(call.inputFile(files.first()), context);
+        const auto reader = openLesson(format, call.inputFile(files.first()), context);
         renderLesson(*reader, context, page, settingsOf(call, pictureFormOfOutput(page), files),
                      [&bar](int done, int total) { bar.show(done, total); });
         bar.clear();

@@ -54,8 +54,8 @@ public:
         return part;
     }
 
-    //! Until nothing is being made, so that what make uses can be used. What the second thread hasn't begun, as on a busy
-    //! machine, is made here.
+private:
+    // Until nothing is being made. What the second thread hasn't begun, as on a busy machine, is made here.
     void wait()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -65,7 +65,6 @@ public:
         }
     }
 
-private:
     // To the second thread, which holds the mutex while it works. An empty task ends it.
     void give(std::packaged_task<Part()> task)
     {

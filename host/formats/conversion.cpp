@@ -3,6 +3,7 @@
 
 #include "files/inputguard.h"
 #include "files/lessonerror.h"
+#include "formats/slidesahead.h"
 #include "lesson/activitypictures.h"
 #include "lesson/itemkeys.h"
 #include "losses/slidelosses.h"
@@ -46,7 +47,7 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
     InputGuard inputs;
     inputs.addLesson(input, from.folderBeside);
     inputs.check(output);
-    const auto reader = from.open(input, context);
+    const auto reader = openLesson(from, input, context);
     LessonContext writing = context;
     std::unique_ptr<ItemPainter> painter;
     if (context.makePainter && to.takesPictures) {

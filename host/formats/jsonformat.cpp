@@ -7,7 +7,6 @@
 #include "files/outputfile.h"
 #include "files/packagenames.h"
 #include "files/packagetarget.h"
-#include "files/readahead.h"
 #include "files/workfolder.h"
 #include "formats/jsonindex.h"
 #include "lesson/itemkeys.h"
@@ -21,7 +20,7 @@
 #include <QFileInfo>
 #include <QSet>
 
-#include <vector>
+#include <mutex>
 
 namespace lessonhost {
 
@@ -71,12 +70,30 @@ public:
 
     LessonSlide slide(int index) override
     {
-        const ReadSlide read = m_slides.take(index, m_index.slides.size());
-        const SlideLosses losses = m_losses.slide(index + 1);
-        for (const UnheldValue &value : read.unheld) {
-            losses.value(value.owner, value.key, value.detail);
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const JsonIndex::Range range = m_index.slides.at(index);
+        checkSlideSize(range.end - range.begin, index + 1, m_path);
+        const QJsonValue value = m_index.value(range);
+        LessonSlide slide;
+        slide.properties = value.toObject();
+        const QJsonValue items = slide.properties.take(itemsKey);
+        if (!value.isObject() || !(items.isArray() || items.isUndefined())) {
+            m_index.fail(say("Slide %1 is no object with a list of items").arg(index + 1), range.begin);
         }
-        return read.slide;
+        slide.items = items.toArray();
+        for (const QJsonValue &item : qAsConst(slide.items)) {
+            if (!item.isObject()) {
+                m_index.fail(say("An item of slide %1 is no object").arg(index + 1), range.begin);
+            }
+        }
+        checkSlideItems(slide.items, index + 1, m_path);
+        const SlideLosses losses = m_losses.slide(index + 1);
+        if (m_context.verify && losses.isHeard()) {
+            eachUnheldValue(m_index.source(range), [&](const JsonPath &path, const QByteArray &value) {
+                tellUnheld(slide, path, value, losses);
+            });
+        }
+        return slide;
     }
 
     QStringList resources() override
@@ -97,7 +114,7 @@ public:
         if (QFileInfo::exists(path)) {
             return path;
         }
-        m_slides.wait(); // they are read from the same file
+        const std::lock_guard<std::mutex> lock(m_mutex);
         const JsonIndex::Range range = m_resources.value(relativePath);
         if (!m_resources.contains(relativePath)) {
             throw LessonError(say("The lesson has no file \"%1\"").arg(relativePath)).in(m_path);
@@ -113,51 +130,12 @@ public:
     }
 
 private:
-    struct UnheldValue
-    {
-        LossOwner owner;
-        QString key;
-        Sentence detail;
-    };
-
-    struct ReadSlide
-    {
-        LessonSlide slide;
-        std::vector<UnheldValue> unheld; // what its text says and it doesn't
-    };
-
-    ReadSlide read(int index)
-    {
-        const JsonIndex::Range range = m_index.slides.at(index);
-        checkSlideSize(range.end - range.begin, index + 1, m_path);
-        const QJsonValue value = m_index.value(range);
-        ReadSlide read;
-        LessonSlide &slide = read.slide;
-        slide.properties = value.toObject();
-        const QJsonValue items = slide.properties.take(itemsKey);
-        if (!value.isObject() || !(items.isArray() || items.isUndefined())) {
-            m_index.fail(say("Slide %1 is no object with a list of items").arg(index + 1), range.begin);
-        }
-        slide.items = items.toArray();
-        for (const QJsonValue &item : qAsConst(slide.items)) {
-            if (!item.isObject()) {
-                m_index.fail(say("An item of slide %1 is no object").arg(index + 1), range.begin);
-            }
-        }
-        checkSlideItems(slide.items, index + 1, m_path);
-        if (m_context.verify && m_context.losses) {
-            eachUnheldValue(m_index.source(range), [&read](const JsonPath &path, const QByteArray &value) {
-                read.unheld.push_back(unheldValue(read.slide, path, value));
-            });
-        }
-        return read;
-    }
-
     static QString detailOf(const QByteArray &value) { return QString::fromUtf8(value.left(longestDetail)); }
 
     // A value within an item is that item's own. What other items than containers have in the place of children is a
     // value as any other.
-    static UnheldValue unheldValue(const LessonSlide &slide, const JsonPath &path, const QByteArray &value)
+    static void tellUnheld(const LessonSlide &slide, const JsonPath &path, const QByteArray &value,
+                           const SlideLosses &losses)
     {
         QJsonObject item;
         int step = 0;
@@ -176,17 +154,17 @@ private:
         const LossOwner owner = step > 0
             ? LossOwner(item)
             : LossOwner(QStringLiteral("slide"), valueText(slide.properties.value(SlideKeys::id)));
-        return {owner, jsonPathText(path, step), Sentence(detailOf(value))};
+        losses.value(owner, jsonPathText(path, step), Sentence(detailOf(value)));
     }
 
     LessonContext m_context;
     QString m_path;
-    JsonIndex m_index;
+    JsonIndex m_index; // after the constructor, of who has the mutex
+    std::mutex m_mutex;
     LessonLosses m_losses;
     QJsonObject m_presentation;
     QHash<QString, JsonIndex::Range> m_resources;
     std::unique_ptr<WorkFolder> m_folder;
-    ReadAhead<ReadSlide> m_slides{m_context.readsAhead, [this](int index) { return read(index); }};
 };
 
 /*!

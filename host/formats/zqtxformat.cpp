@@ -8,6 +8,7 @@
 #include "files/packagesource.h"
 #include "files/packagetarget.h"
 #include "files/readahead.h"
+#include "files/workbehind.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
@@ -21,6 +22,7 @@
 #include "lesson/writableforms.h"
 #include "losses/carriedcheck.h"
 #include "losses/comparison.h"
+#include "losses/lossplaces.h"
 #include "losses/slidelosses.h"
 #include "svg/pluginoutlines.h"
 
@@ -317,6 +319,8 @@ public:
         : m_context(context)
         , m_losses(context.losses)
         , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isZqtxFolder)
+        , m_places(context.losses)
+        , m_checks(context.readsAhead)
     {
     }
 
@@ -337,39 +341,17 @@ public:
 
     void writeSlide(const LessonSlide &slide) override
     {
-        const int number = m_ids.size() + 1;
-        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems,
-                                              [this](const QString &type) { return isHeld(type); });
-        written.properties = withShortPictures(written.properties);
-        const QString id = usableId(valueText(slide.properties.value(SlideKeys::id)), number);
-        written.properties.insert(SlideKeys::id, id);
-        const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
-        const bool isVerified = m_context.verify && m_losses.presentation().isHeard();
-        QDomDocument tree;
-        const QByteArray text = m_slides->write(written, number, name, isVerified ? &tree : nullptr);
-        checkSlideSize(text.size(), number, name);
-        if (!m_context.isTrial) {
-            m_target.write(slideFile(id), text);
-        }
-        m_ids.append(id);
-        m_usedIds.insert(id);
-        if (isVerified) {
-            // What the text says is what stands in the tree, in most cases.
-            const QDomDocument document = readsBackAs(text, tree.documentElement()) ? tree : loadXml(text, name);
-            const LessonSlide found = m_slides->read(document.documentElement(), m_target.target(), nullptr);
-            QJsonObject given = keptInPageForm(slide.properties, written.properties);
-            const QLatin1String activity("activity");
-            if (given.value(activity).toObject().value(QLatin1String("templet")).isObject()) {
-                given.insert(activity, written.properties.value(activity)); // pictures by their short names
-            }
-            const Comparison comparison(m_losses.slide(number));
-            comparison.compareProperties({slideFileTag, id}, given, found.properties);
-            comparison.compareItems(slide.items, written.items, found.items);
+        try {
+            write(slide);
+        } catch (const LessonError &) {
+            finishChecks();
+            throw;
         }
     }
 
     void finish() override
     {
+        finishChecks();
         const QByteArray text = xmlDocumentText(writeIndex(m_context.plugin, m_presentation, m_ids).documentElement());
         if (!m_context.isTrial) {
             m_target.write(indexFile, text);
@@ -387,6 +369,60 @@ public:
     }
 
 private:
+    // Such that few slides wait for it.
+    static constexpr qint64 bytesOfCheck = qint64(16) * 1024 * 1024;
+
+    void write(const LessonSlide &slide)
+    {
+        const int number = m_ids.size() + 1;
+        LessonSlide written = slideInPageForm(slide, pluginOutlines(m_context.plugin), &m_placedItems,
+                                              [this](const QString &type) { return isHeld(type); });
+        written.properties = withShortPictures(written.properties);
+        const QString id = usableId(valueText(slide.properties.value(SlideKeys::id)), number);
+        written.properties.insert(SlideKeys::id, id);
+        const QString name = m_target.target() + QLatin1Char('/') + slideFile(id);
+        const bool isVerified = m_context.verify && m_losses.presentation().isHeard();
+        QDomDocument tree;
+        const QByteArray text = m_slides->write(written, number, name, isVerified ? &tree : nullptr);
+        checkSlideSize(text.size(), number, name);
+        if (!m_context.isTrial) {
+            m_target.write(slideFile(id), text);
+        }
+        m_ids.append(id);
+        m_usedIds.insert(id);
+        if (isVerified) {
+            const SlideLosses losses(m_places.next(), number);
+            m_checks.give(bytesOfCheck, [this, slide, written, tree, text, name, losses] {
+                check(slide, written, tree, text, name, losses);
+            });
+        }
+    }
+
+    // So that all is told of the slides that are written.
+    void finishChecks()
+    {
+        m_checks.finish();
+        m_places.finish();
+    }
+
+    // Reads back what was written. Any thread may do it. tree: what the text was written from.
+    void check(const LessonSlide &slide, const LessonSlide &written, const QDomDocument &tree, const QByteArray &text,
+               const QString &name, const SlideLosses &losses) const
+    {
+        // What the text says is what stands in the tree, in most cases.
+        const QDomDocument document = readsBackAs(text, tree.documentElement()) ? tree : loadXml(text, name);
+        const LessonSlide found = m_slides->read(document.documentElement(), m_target.target(), nullptr);
+        QJsonObject given = keptInPageForm(slide.properties, written.properties);
+        const QLatin1String activity("activity");
+        if (given.value(activity).toObject().value(QLatin1String("templet")).isObject()) {
+            given.insert(activity, written.properties.value(activity)); // pictures by their short names
+        }
+        const Comparison comparison(losses);
+        const QString id = written.properties.value(SlideKeys::id).toString();
+        comparison.compareProperties({slideFileTag, id}, given, found.properties);
+        comparison.compareItems(slide.items, written.items, found.items);
+    }
+
     void notePlacedItems() const
     {
         if (m_placedItems > 0) {
@@ -436,6 +472,8 @@ private:
     QSet<QString> m_usedIds;
     int m_placedItems = 0;
     std::unique_ptr<ZqtxSlides> m_slides;
+    LossPlaces m_places;
+    WorkBehind m_checks; // ends before what it uses
 };
 
 } // namespace

@@ -46,7 +46,8 @@ public:
     //! The presentation's keys, without Slides.
     virtual QJsonObject presentation() = 0;
     virtual int slideCount() = 0;
-    //! Slides are counted from 0 and may be asked for in any order, more than once.
+    //! Slides are counted from 0 and may be asked for in any order, more than once: by one thread at a time, while others
+    //! ask for files.
     virtual LessonSlide slide(int index) = 0;
 
     //! Files that belong to the lesson, as paths relative to the package with "/" between the parts.

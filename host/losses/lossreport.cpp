@@ -319,6 +319,13 @@ void LossReport::add(const Loss &loss)
     }
 }
 
+void LossReport::add(const QVector<Loss> &losses)
+{
+    for (const Loss &loss : losses) {
+        add(loss);
+    }
+}
+
 QVector<Loss> LossReport::takeEntries()
 {
     m_lossCount = 0;

@@ -84,6 +84,7 @@ class LossReport
 {
 public:
     void add(const Loss &loss);
+    void add(const QVector<Loss> &losses);
     //! What was told since the last time, which it has no longer. For reports that are passed on: a report is one
     //! thread's.
     QVector<Loss> takeEntries();

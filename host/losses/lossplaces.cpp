@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "losses/lossplaces.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lessonhost {
+
+LossReport *LossPlaces::next()
+{
+    if (!m_report) {
+        return nullptr;
+    }
+    m_places.push_back({m_report->entries().size(), std::make_unique<LossReport>()});
+    return m_places.back().told.get();
+}
+
+void LossPlaces::finish()
+{
+    const std::vector<Place> places = std::move(m_places);
+    m_places.clear();
+    const auto isEmpty = [](const Place &place) { return place.told->isEmpty(); };
+    if (std::all_of(places.begin(), places.end(), isEmpty)) {
+        return;
+    }
+    const QVector<Loss> told = m_report->takeEntries();
+    int done = 0;
+    const auto addUntil = [&](int end) {
+        for (; done < end; ++done) {
+            m_report->add(told.at(done));
+        }
+    };
+    for (const Place &place : places) {
+        addUntil(place.before);
+        m_report->add(place.told->takeEntries());
+    }
+    addUntil(told.size());
+}
+
+} // namespace lessonhost
