@@ -7,7 +7,7 @@ namespace lessonhost {
 
 namespace {
 
-constexpr qint64 mostBytes = qint64(32) * 1024 * 1024;
+constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
 
 } // namespace
 
