@@ -304,7 +304,8 @@ private slots:
         for (int i = 0; i < 20000; ++i) {
             const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(-5, 9));
             numbers << number << std::floor(number * 4096) / (1 << random.bounded(18)) << double(float(number))
-                    << QString::number(number, 'f', random.bounded(8)).toDouble();
+                    << QString::number(number, 'f', random.bounded(8)).toDouble()
+                    << numbers.last() - QString::number(number / 2, 'f', 5).toDouble();
             texts << QString::number(number, 'g', random.bounded(18)) << QString::number(number, 'f', 9).mid(i % 12);
         }
         int separated = 0;

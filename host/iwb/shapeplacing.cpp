@@ -224,7 +224,18 @@ PlacedShape placeShape(const ItemView &item, const ShapeForm &form, const Outlin
 QPolygonF placeLine(const QPolygonF &points)
 {
     const QPolygonF own = exactPoints(points);
-    return own.isEmpty() ? own : exactPoints(padded(fitted(own, {extentOf(own), 0})));
+    if (own.isEmpty()) {
+        return own;
+    }
+    const QPolygonF line = fitted(own, {extentOf(own), 0});
+    const auto isMoved = [](const QPointF &from, const QPointF &to) { return from.x() != to.x() || from.y() != to.y(); };
+    QPolygonF read = own; // whose digits are told as they are
+    for (int i = 0; i < line.size(); ++i) {
+        if (isMoved(own.at(i), line.at(i))) {
+            read[i] = exactPoints(QPolygonF() << line.at(i)).first();
+        }
+    }
+    return padded(read);
 }
 
 } // namespace lessonhost

@@ -209,16 +209,20 @@ std::optional<PlainDigits> plainDigits(double size, int digits)
     return isPlain ? std::make_optional(plain) : std::nullopt;
 }
 
-// True for a number of no more than six decimals that has no more digits, such as most that were read: it is the one
-// that is nearest to its digits.
-bool hasFewDecimals(double value, int digits)
+// The number of six decimals at most that a number is printed as. Most that were read are such numbers, and what lies
+// between two of them is one but for its last bits. Nothing for one that has more decimals.
+std::optional<double> inFewDecimals(double size, int digits)
 {
     constexpr int decimals = 6;
     constexpr auto millionth = double(powers[decimals]);
-    const double size = std::fabs(value);
-    return FLT_EVAL_METHOD == 0 && digits >= decimals && digits <= mostDigits
-        && size < double(powers[std::size_t(digits - decimals)]) && size > 0
-        && double(qRound64(size * millionth)) / millionth == size;
+    if (FLT_EVAL_METHOD != 0 || digits < decimals || digits > mostDigits
+        || !(size < double(powers[std::size_t(digits - decimals)]))) {
+        return std::nullopt;
+    }
+    const double number = double(qRound64(size * millionth)) / millionth;
+    // Half of the last digit is more than that. Smaller numbers have further digits.
+    const double nothing = size >= 0.1 ? 0.4 / double(powers[std::size_t(digits)]) : 0;
+    return std::fabs(size - number) <= nothing ? std::make_optional(number) : std::nullopt;
 }
 
 /*!
@@ -323,8 +327,8 @@ void appendNumber(QString &text, double value, int digits)
 // The digits and the power of ten that divides them are numbers without an error.
 double numberInDigits(double value, int digits)
 {
-    if (hasFewDecimals(value, digits)) {
-        return value;
+    if (const auto number = inFewDecimals(std::fabs(value), digits)) {
+        return value < 0 ? -*number : *number;
     }
     const auto plain = plainDigits(std::fabs(value), digits);
     if (!plain || FLT_EVAL_METHOD != 0) {

@@ -119,6 +119,34 @@ QVector<Tangents> tangentsOf(const QPolygonF &points)
 }
 
 /*!
+ * A piece of a smooth line, from the end of the one before it.
+ */
+struct Piece
+{
+    QPointF first; //!< what a curve bends towards
+    QPointF second;
+    QPointF to;
+    bool isStraight = true;
+};
+
+// The pieces of the smooth line through points, from the second point on.
+template <typename Use> void forEachPiece(const QPolygonF &points, const Use &use)
+{
+    const QVector<Tangents> tangents = points.size() < 2 ? QVector<Tangents>() : tangentsOf(points);
+    for (int i = 1; i < points.size(); ++i) {
+        const QPointF along = points.at(i) - points.at(i - 1);
+        const double chord = vectorLength(along);
+        const QPointF &out = tangents.at(i - 1).out;
+        const QPointF &in = tangents.at(i).in;
+        constexpr double straight = 0.9999;
+        const bool isStraight = chord < shortStep
+            || (dotProduct(out, along) > straight * chord && dotProduct(in, along) > straight * chord);
+        use(isStraight ? Piece{{}, {}, points.at(i)}
+                       : Piece{points.at(i - 1) + out * chord / 3, points.at(i) - in * chord / 3, points.at(i), false});
+    }
+}
+
+/*!
  * A part of an outline: the edges to the left and right of a track, as far as they don't cross each other.
  */
 class Ribbon
@@ -254,25 +282,10 @@ double InkTrack::length() const
 QPainterPath smoothLine(const InkTrack &track)
 {
     QPainterPath path;
-    const QPolygonF &points = track.points;
-    path.moveTo(points.value(0));
-    if (points.size() < 2) {
-        return path;
-    }
-    const QVector<Tangents> tangents = tangentsOf(points);
-    for (int i = 1; i < points.size(); ++i) {
-        const QPointF along = points.at(i) - points.at(i - 1);
-        const double chord = vectorLength(along);
-        const QPointF &out = tangents.at(i - 1).out;
-        const QPointF &in = tangents.at(i).in;
-        constexpr double straight = 0.9999;
-        const bool isStraight = dotProduct(out, along) > straight * chord && dotProduct(in, along) > straight * chord;
-        if (chord < shortStep || isStraight) {
-            path.lineTo(points.at(i));
-        } else {
-            path.cubicTo(points.at(i - 1) + out * chord / 3, points.at(i) - in * chord / 3, points.at(i));
-        }
-    }
+    path.moveTo(track.points.value(0));
+    forEachPiece(track.points, [&path](const Piece &piece) {
+        piece.isStraight ? path.lineTo(piece.to) : path.cubicTo(piece.first, piece.second, piece.to);
+    });
     return path;
 }
 
@@ -282,33 +295,28 @@ QPolygonF fineLine(const QPolygonF &points)
     if (points.size() < 3 || points.size() > mostPoints) {
         return points;
     }
-    const QPainterPath path = smoothLine(InkTrack(points, {}));
     constexpr double invisible = 0.1;
     constexpr double mostPieces = 24;
+    const InkTrack track(points, {});
     QPolygonF fine;
+    fine.append(track.points.first());
     bool isFiner = false;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element end = path.elementAt(i);
-        if (end.type != QPainterPath::CurveToElement) {
-            fine.append(end);
-            continue;
+    forEachPiece(track.points, [&](const Piece &piece) {
+        if (!piece.isStraight) {
+            const QPointF from = fine.last();
+            const auto &[first, second, to, isStraight] = piece;
+            const double bend = qMax(vectorLength(from - 2 * first + second), vectorLength(first - 2 * second + to));
+            // So many chords stay this close to a curve.
+            const int chords = int(qBound(1.0, std::ceil(std::sqrt(0.75 * bend / invisible)), mostPieces));
+            isFiner = isFiner || chords > 1;
+            for (int chord = 1; chord < chords; ++chord) {
+                const double t = double(chord) / chords;
+                const double u = 1 - t;
+                fine.append(u * u * u * from + 3 * u * u * t * first + 3 * u * t * t * second + t * t * t * to);
+            }
         }
-        const QPointF from = fine.last();
-        const QPointF first = end;
-        const QPointF second = path.elementAt(i + 1);
-        const QPointF to = path.elementAt(i + 2);
-        i += 2;
-        const double bend = qMax(vectorLength(from - 2 * first + second), vectorLength(first - 2 * second + to));
-        // So many chords stay this close to a curve.
-        const int pieces = int(qBound(1.0, std::ceil(std::sqrt(0.75 * bend / invisible)), mostPieces));
-        isFiner = isFiner || pieces > 1;
-        for (int piece = 1; piece < pieces; ++piece) {
-            const double t = double(piece) / pieces;
-            const double u = 1 - t;
-            fine.append(u * u * u * from + 3 * u * u * t * first + 3 * u * t * t * second + t * t * t * to);
-        }
-        fine.append(to);
-    }
+        fine.append(piece.to);
+    });
     return isFiner ? fine : points;
 }
 
