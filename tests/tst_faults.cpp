@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "files/packagetarget.h"
+#include "files/staging.h"
 #include "files/workfolder.h"
 #include "hostfixture.h"
+#include "testtable.h"
 #include "ziptext.h"
 
 #include <QBuffer>
@@ -10,6 +13,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <map>
 #include <random>
 
 #include <sys/resource.h>
@@ -251,6 +255,66 @@ private slots:
             QVERIFY2(archive.exitCode == 2 && archive.errors.contains("65535 files"), qPrintable(archive.errors));
         }
         QCOMPARE(QDir(m_folder->path()).entryList({"out*"}), QStringList());
+    }
+
+    // In memory, in a file, and from one into the other.
+    void packsWhatComesInPieces_data()
+    {
+        const Table<int> row("size");
+        row("small", 100);
+        row("on the way", 200 * 1024);
+        row("large", 3000 * 1024);
+    }
+
+    void packsWhatComesInPieces()
+    {
+        QFETCH(int, size);
+        const auto bytes = [size](char letter) { return QByteArray(size, letter); };
+        putFile(path("source"), bytes('s'));
+        {
+            PackageTarget target(path("a.zqtx"), PackageTarget::Archive);
+            target.write("b", bytes('1'));
+            target.write("a/c", bytes('2'));
+            target.copy("d", path("source"), "source");
+            target.append("b", bytes('3'));
+            target.append("b", bytes('4'));
+            target.append("a/c", {});
+            target.commit();
+        }
+        const std::map<QString, QByteArray> expected{
+            {"a/c", bytes('2')}, {"b", QByteArray(bytes('1') + bytes('3') + bytes('4'))}, {"d", bytes('s')}};
+        QVERIFY(contentOfTarget(path("a.zqtx")).toStdMap() == expected);
+        QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+    }
+
+    // One lesson finds nothing of the one before, and what somebody removed is made again.
+    void keepsAStagingFolder()
+    {
+        const auto begun = [this](bool isDone) {
+            PackageTarget target(path("out/a.html"));
+            putFile(target.workFolder() + "/deep/slides", {});
+            target.write("files/sound", "1");
+            target.file().put("2");
+            isDone ? target.commit() : void();
+            return hiddenEntries(path("out"));
+        };
+        QVERIFY(QDir().mkdir(path("out")) && QDir().mkdir(path("elsewhere")));
+        {
+            const Staging::Keeping keeping;
+            const QStringList first = begun(false);
+            QCOMPARE(hiddenEntries(path("out")), first);
+            QCOMPARE(filesBelow(path("out/"_s + first.first())).size(), 0);
+            QCOMPARE(begun(true), first);
+            QVERIFY(QDir(path("out/"_s + first.first())).removeRecursively());
+            QVERIFY(begun(true) != first);
+            QDir().rename(path("out"), path("moved"));
+            QVERIFY(QDir().mkdir(path("out")));
+            QCOMPARE(begun(true).size(), first.size());
+            PackageTarget(path("elsewhere/a.json")).commit();
+            QCOMPARE(hiddenEntries(path("out")) + hiddenEntries(path("moved")), QStringList());
+            QCOMPARE(hiddenEntries(path("elsewhere")).size(), first.size());
+        }
+        QCOMPARE(hiddenEntries(path("elsewhere")), QStringList());
     }
 
     // What a dead run unpacked goes with the next run, and what a living one works in stays.

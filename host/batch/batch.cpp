@@ -4,7 +4,7 @@
 #include "batch/batchjournal.h"
 #include "batch/interruptions.h"
 #include "files/lessonerror.h"
-#include "files/packagetarget.h"
+#include "files/staging.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -109,6 +109,7 @@ private:
     {
         std::unique_ptr<QProcess> process; // null before the first lesson and after a crash
         int lesson = -1; // index in the plan
+        QStringList folders; // of its last results: what it works in lies there
         int answers = 0; // of this process
         std::unique_ptr<QTimer> limit; // null where there is none
         bool isLate = false; // its process is being ended
@@ -209,7 +210,9 @@ private:
         m_name = lesson.input;
         showProgress();
         const QString output = outputOf(worker.lesson);
-        QDir().mkpath(QFileInfo(output).path()); // if not, the worker says so
+        const QString folder = QFileInfo(output).path();
+        QDir().mkpath(folder); // if not, the worker says so
+        noteFolder(worker, folder);
         if (!worker.process) {
             start(worker);
         }
@@ -258,10 +261,10 @@ private:
         rest(worker);
         // It is the one who is speaking.
         worker.process.release()->deleteLater();
+        sweep(worker);
         if (worker.lesson < 0 || m_result.totals.isInterrupted) {
             return;
         }
-        PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
         if (isLate) {
             fail(worker.lesson,
                  LessonError(say(m_settings.work->tooLong).arg(m_settings.lessonSeconds),
@@ -343,8 +346,23 @@ private:
         worker.process->disconnect();
         worker.process->closeWriteChannel();
         worker.process->waitForFinished();
-        if (worker.lesson >= 0) {
-            PackageTarget::sweep(QFileInfo(outputOf(worker.lesson)).path());
+        if (worker.lesson >= 0 || m_result.totals.isInterrupted) {
+            sweep(worker);
+        }
+    }
+
+    // It keeps what it works in from one lesson to the next, until it begins in another folder.
+    static void noteFolder(Worker &worker, const QString &folder)
+    {
+        if (worker.folders.value(0) != folder) {
+            worker.folders = QStringList{folder} + worker.folders.mid(0, 1);
+        }
+    }
+
+    static void sweep(const Worker &worker)
+    {
+        for (const QString &folder : worker.folders) {
+            Staging::sweep(folder);
         }
     }
 
@@ -374,6 +392,7 @@ BatchResult runBatch(const BatchPlan &plan, const BatchSettings &settings, const
 
 void serveBatch(const std::function<BatchAnswer(const QString &, const QString &)> &work)
 {
+    const Staging::Keeping keeping;
     std::string line;
     while (std::getline(std::cin, line)) {
         const QJsonObject request = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();

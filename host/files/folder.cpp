@@ -127,32 +127,40 @@ bool Folder::remove(const QByteArray &name) const
     if (removeFile(*this, name) || errno == ENOENT) {
         return true;
     }
-    const Folder top(*this, name);
+    Folder(*this, name).clear();
+    return removeEmptyFolder(*this, name);
+}
+
+bool Folder::clear() const
+{
     // Folders within come to the top, so that no depth takes descriptors or the stack.
-    const QByteArray mark = QByteArray::number(QRandomGenerator::system()->generate64(), 36) + '-';
+    QByteArray mark;
     int moved = 0;
-    bool isProgress = top.isOpen();
-    while (isProgress) {
+    int error = 0;
+    QVector<Entry> left = entries(&error);
+    bool isProgress = true;
+    while (isProgress && !left.isEmpty()) {
         isProgress = false;
-        const QVector<Entry> left = top.entries();
-        for (const Entry &entry : left) {
+        for (const Entry &entry : qAsConst(left)) {
             if (!entry.isFolder()) {
-                isProgress = removeFile(top, entry.name) || isProgress;
+                isProgress = removeFile(*this, entry.name) || isProgress;
                 continue;
             }
-            const Folder inner(top, entry.name);
+            const Folder inner(*this, entry.name);
             const QVector<Entry> within = inner.entries();
             for (const Entry &one : within) {
+                mark = mark.isEmpty() ? QByteArray::number(QRandomGenerator::system()->generate64(), 36) + '-' : mark;
                 const QByteArray place = mark + QByteArray::number(++moved);
                 const bool isGone = one.isFolder()
-                    ? ::renameat(inner.descriptor(), one.name.constData(), top.descriptor(), place.constData()) == 0
+                    ? ::renameat(inner.descriptor(), one.name.constData(), m_descriptor, place.constData()) == 0
                     : removeFile(inner, one.name);
                 isProgress = isGone || isProgress;
             }
-            isProgress = removeEmptyFolder(top, entry.name) || isProgress;
+            isProgress = removeEmptyFolder(*this, entry.name) || isProgress;
         }
+        left = entries(&error);
     }
-    return removeEmptyFolder(*this, name);
+    return left.isEmpty() && error == 0;
 }
 
 void removeFolder(const QString &path)

@@ -52,6 +52,8 @@ public:
 
     //! Removes an entry with everything in it. Folders may lie in each other as deep as they like.
     bool remove(const QByteArray &name) const;
+    //! Removes everything in it, in the same way. Whether it is empty then.
+    bool clear() const;
 
 private:
     int m_descriptor;

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "files/packagetarget.h"
 
+#include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagenames.h"
 #include "files/placing.h"
-#include "files/staginglock.h"
 #include "files/ziparchive.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstdio>
@@ -23,13 +22,10 @@ namespace lessonhost {
 
 namespace {
 
-const char *const stagingPrefix = ".lessonconv-";
-const char *const lockSuffix = ".lock";
-constexpr int mostLockTries = 100;
 const QLatin1String packagePart("/package");
+const QLatin1String piecesPart("/pieces");
 const QLatin1String workPart("/work");
 const QLatin1String filePart("/file");
-const char *const replacedName = "replaced";
 
 LessonError systemError(const QString &file)
 {
@@ -59,11 +55,11 @@ bool exchange(const QString &one, const QString &other)
  */
 struct StagedFolders
 {
-    //! path: of the one in parent that holds the others. Throws LessonError about shownTarget.
-    StagedFolders(const Folder &parent, const QString &path, const QString &shownTarget)
-        : staging(parent, QFile::encodeName(QFileInfo(path).fileName()))
+    //! Throws LessonError about shownTarget.
+    StagedFolders(const Staging &place, const QString &shownTarget)
+        : staging(place.parent(), place.name())
         , package(staging, "package")
-        , replaced(withReplaced(staging, shownTarget), replacedName)
+        , replaced(withReplaced(staging, shownTarget), Staging::replacedName)
     {
     }
 
@@ -74,44 +70,14 @@ struct StagedFolders
 private:
     static const Folder &withReplaced(const Folder &staging, const QString &shownTarget)
     {
-        if (::mkdirat(staging.descriptor(), replacedName, 0700) != 0) {
+        if (::mkdirat(staging.descriptor(), Staging::replacedName, 0700) != 0) {
             throw systemError(shownTarget);
         }
         return staging;
     }
 };
 
-// What a killed run had moved aside to make place goes back, if nothing took its place since.
-void restoreReplaced(const Folder &staging, const Folder &parent)
-{
-    const Folder replaced(staging, replacedName);
-    const QVector<Folder::Entry> left = replaced.entries();
-    for (const Folder::Entry &entry : left) {
-        replaced.moveTo(parent, entry.name);
-    }
-}
-
 } // namespace
-
-void PackageTarget::sweep(const QString &folder)
-{
-    const Folder parent(folder);
-    const QVector<Folder::Entry> entries = parent.entries();
-    for (const Folder::Entry &entry : entries) {
-        if (!entry.isFile() || !entry.name.startsWith(stagingPrefix) || !entry.name.endsWith(lockSuffix)) {
-            continue;
-        }
-        StagingLock lock(parent, entry.name, StagingLock::Left);
-        const QByteArray name = entry.name.chopped(int(qstrlen(lockSuffix)));
-        const Folder staging(parent, name);
-        if (lock.isHeld() && staging.isOpen() && staging.isOwn()) {
-            restoreReplaced(staging, parent);
-            if (!parent.remove(name)) {
-                lock.leave();
-            }
-        }
-    }
-}
 
 // A run over many lessons would look through all its results again for each of them.
 void PackageTarget::sweepOnce(const QString &folder)
@@ -119,7 +85,7 @@ void PackageTarget::sweepOnce(const QString &folder)
     static QSet<QString> swept;
     if (!swept.contains(folder)) {
         swept.insert(folder);
-        sweep(folder);
+        Staging::sweep(folder);
     }
 }
 
@@ -143,7 +109,10 @@ PackageTarget::PackageTarget(const QString &target, Kind kind, IsReplaceable isR
         checkPlace(m_target, m_shownTarget);
     }
     sweepOnce(parent.filePath());
-    makeStaging(parent.filePath());
+    m_staging = Staging::beside(parent.filePath());
+    if ((m_kind == Files || m_kind == Directory) && ::mkdir(QFile::encodeName(directory()).constData(), 0777) != 0) {
+        throw systemError(m_shownTarget);
+    }
 }
 
 // What a shell hands over for an output is a pipe in no folder.
@@ -156,54 +125,22 @@ void PackageTarget::checkKind() const
     }
 }
 
-void PackageTarget::makeStaging(const QString &parent)
-{
-    m_parent = std::make_unique<Folder>(parent);
-    QByteArray name;
-    // The sweep of another run may take a lock file in the moment between its making and its locking.
-    for (int tries = 0; tries < mostLockTries && !(m_lock && (m_lock->isHeld() || m_lock->error())); ++tries) {
-        name = stagingPrefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
-        m_lock = std::make_unique<StagingLock>(*m_parent, name + lockSuffix, StagingLock::Own);
-    }
-    m_staging = parent + QLatin1Char('/') + QString::fromLatin1(name);
-    int error = m_lock->error();
-    if (!error) {
-        // Nobody else has anything to do in it.
-        const bool isMade = m_lock->isHeld() && ::mkdirat(m_parent->descriptor(), name.constData(), 0700) == 0
-            && (m_kind == OneFile || ::mkdir(QFile::encodeName(directory()).constData(), 0777) == 0);
-        error = isMade ? 0 : errno;
-    }
-    if (error) {
-        const LessonError problem =
-            LessonError(say("Nothing can be written in this folder: %1").arg(systemReason(error)),
-                        say("Check that you may write there and that there is room"))
-                .in(parent)
-                .ofMachine();
-        removeStaging();
-        throw problem;
-    }
-}
-
 PackageTarget::~PackageTarget()
 {
-    removeStaging();
-}
-
-void PackageTarget::removeStaging()
-{
-    if (!m_parent->remove(QFile::encodeName(QFileInfo(m_staging).fileName()))) {
-        m_lock->leave();
-    }
+    // Over a network, a file that is open holds its folder.
+    m_file.reset();
+    m_spool.reset();
+    Staging::leave(std::move(m_staging));
 }
 
 QString PackageTarget::directory() const
 {
-    return m_staging + packagePart;
+    return m_staging->path() + packagePart;
 }
 
 QString PackageTarget::workFolder() const
 {
-    const QString folder = m_staging + workPart;
+    const QString folder = m_staging->path() + workPart;
     if (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST) {
         throw systemError(m_shownTarget);
     }
@@ -213,7 +150,7 @@ QString PackageTarget::workFolder() const
 OutputFile &PackageTarget::file()
 {
     if (!m_file) {
-        m_file = std::make_unique<OutputFile>(m_staging + filePart, m_shownTarget);
+        m_file = std::make_unique<OutputFile>(m_staging->path() + filePart, m_shownTarget);
     }
     return *m_file;
 }
@@ -237,7 +174,7 @@ void PackageTarget::count(qint64 bytes)
     }
 }
 
-QString PackageTarget::newPlace(const QString &relativePath)
+void PackageTarget::addPath(const QString &relativePath)
 {
     const Sentence problem = problemWithPackagePath(relativePath);
     if (!problem.isEmpty()) {
@@ -255,6 +192,11 @@ QString PackageTarget::newPlace(const QString &relativePath)
     if (m_kind == Files || m_kind == OneFile) {
         checkPlace(QFileInfo(m_target).path() + QLatin1Char('/') + relativePath, shownPlace(relativePath));
     }
+}
+
+QString PackageTarget::makePlace(const QString &relativePath)
+{
+    addPath(relativePath);
     const QString place = directory() + QLatin1Char('/') + relativePath;
     makeFolders(QFileInfo(place).path(), m_shownTarget);
     return place;
@@ -262,35 +204,54 @@ QString PackageTarget::newPlace(const QString &relativePath)
 
 std::unique_ptr<OutputFile> PackageTarget::newFile(const QString &relativePath)
 {
-    return std::make_unique<OutputFile>(newPlace(relativePath), m_shownTarget);
+    return std::make_unique<OutputFile>(makePlace(relativePath), m_shownTarget);
 }
 
 void PackageTarget::write(const QString &relativePath, const QByteArray &content)
 {
+    const std::scoped_lock lock(m_mutex);
     count(content.size());
-    writeFile(newPlace(relativePath), content, m_shownTarget);
+    if (m_kind == Archive) {
+        addPath(relativePath);
+        spool(relativePath, content);
+    } else {
+        writeFile(makePlace(relativePath), content, m_shownTarget);
+    }
 }
 
 void PackageTarget::append(const QString &relativePath, const QByteArray &content)
 {
+    const std::scoped_lock lock(m_mutex);
     count(content.size());
+    if (m_kind == Archive) {
+        spool(relativePath, content);
+        return;
+    }
     OutputFile file(directory() + QLatin1Char('/') + relativePath, m_shownTarget, OutputFile::Result,
                     OutputFile::Behind);
     file.put(content);
     file.finish();
 }
 
-void PackageTarget::copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName)
+void PackageTarget::spool(const QString &relativePath, const QByteArray &content)
 {
-    count(QFileInfo(sourceFile).size());
-    copyFile(sourceFile, sourceName, newPlace(relativePath), m_shownTarget);
+    if (!m_spool) {
+        m_spool = std::make_unique<Spool>(m_staging->path() + piecesPart, m_shownTarget);
+    }
+    ArchivedFile &file = m_archived[relativePath];
+    m_spool->put(file.pieces, content);
+    file.size += content.size();
 }
 
-void PackageTarget::take(const QString &relativePath, const QString &file)
+void PackageTarget::copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName)
 {
-    count(QFileInfo(file).size());
-    if (!renameOver(file, newPlace(relativePath))) {
-        throw systemError(m_shownTarget);
+    const std::scoped_lock lock(m_mutex);
+    count(QFileInfo(sourceFile).size());
+    if (m_kind == Archive) {
+        addPath(relativePath);
+        m_archived.insert(relativePath, {{}, sourceFile, sourceName, InputFile(sourceFile, sourceName).size()});
+    } else {
+        copyFile(sourceFile, sourceName, makePlace(relativePath), m_shownTarget);
     }
 }
 
@@ -340,7 +301,7 @@ void PackageTarget::keepPermissions(const QString &file, const QString &place) c
 // One wait for all files is shorter than one for each.
 void PackageTarget::waitForDisk() const
 {
-    if (m_isKept && ::syncfs(m_parent->descriptor()) != 0 && errno != ENOSYS) {
+    if (m_isKept && ::syncfs(m_staging->parent().descriptor()) != 0 && errno != ENOSYS) {
         throw systemError(m_shownTarget);
     }
 }
@@ -364,24 +325,24 @@ void PackageTarget::commitFile()
 {
     checkPlace(m_target, m_shownTarget);
     OutputFile &written = file();
-    keepPermissions(m_staging + filePart, m_target);
+    keepPermissions(m_staging->path() + filePart, m_target);
     written.finish(m_isKept);
     if (m_kind != OneFile || m_paths.isEmpty()) {
-        if (!renameOver(m_staging + filePart, m_target)) {
+        if (!renameOver(m_staging->path() + filePart, m_target)) {
             throw systemError(m_shownTarget);
         }
         return;
     }
-    const StagedFolders staged(*m_parent, m_staging, m_shownTarget);
+    const StagedFolders staged(*m_staging, m_shownTarget);
     waitForDisk();
     const QString folder = m_paths.constBegin()->section(QLatin1Char('/'), 0, 0);
-    PlacingBeside placing(staged.package, *m_parent, staged.replaced, QFile::encodeName(folder));
+    PlacingBeside placing(staged.package, m_staging->parent(), staged.replaced, QFile::encodeName(folder));
     for (const QString &path : qAsConst(m_paths)) {
         if (!placing.place(QFile::encodeName(path.mid(folder.size() + 1)))) {
             throw systemError(shownPlace(path));
         }
     }
-    if (!renameOver(m_staging + filePart, m_target)) {
+    if (!renameOver(m_staging->path() + filePart, m_target)) {
         throw systemError(m_shownTarget);
     }
     placing.keep();
@@ -389,14 +350,14 @@ void PackageTarget::commitFile()
 
 void PackageTarget::commitFiles()
 {
-    const StagedFolders staged(*m_parent, m_staging, m_shownTarget);
+    const StagedFolders staged(*m_staging, m_shownTarget);
     for (const QString &path : qAsConst(m_paths)) {
         const QString place = QFileInfo(m_target).path() + QLatin1Char('/') + path;
         checkPlace(place, shownPlace(path));
         keepPermissions(directory() + QLatin1Char('/') + path, place);
     }
     waitForDisk();
-    Placing placing(staged.package, *m_parent, staged.replaced);
+    Placing placing(staged.package, m_staging->parent(), staged.replaced);
     for (const QString &path : qAsConst(m_paths)) {
         if (!placing.place(QFile::encodeName(path))) {
             throw systemError(m_shownTarget);
@@ -419,7 +380,7 @@ void PackageTarget::commitDirectory()
         return;
     }
     // Where the file system can't exchange two folders: the old one moves aside, and back if the new one can't come.
-    const QString replaced = m_staging + QLatin1Char('/') + QLatin1String(replacedName);
+    const QString replaced = m_staging->path() + QLatin1Char('/') + QLatin1String(Staging::replacedName);
     const QString aside = replaced + QLatin1Char('/') + QFileInfo(m_target).fileName();
     if (::mkdir(QFile::encodeName(replaced).constData(), 0700) != 0 || !renameOver(m_target, aside)) {
         throw systemError(m_shownTarget);
@@ -433,7 +394,17 @@ void PackageTarget::commitDirectory()
 
 void PackageTarget::commitArchive()
 {
-    packZip(directory(), file(), m_shownTarget);
+    ZipWriter zip(file(), m_shownTarget);
+    for (auto it = m_archived.constBegin(); it != m_archived.constEnd(); ++it) {
+        if (it->source.isEmpty()) {
+            zip.add(it.key(), it->size,
+                    [&](qint64 begin, qint64 size) { return m_spool->bytes(it->pieces, begin, size); });
+        } else {
+            InputFile source(it->source, it->sourceName);
+            zip.add(it.key(), it->size, [&](qint64 begin, qint64 size) { return source.bytes(begin, size); });
+        }
+    }
+    zip.finish();
     if (isPackedTooTightly(m_bytes, file().size())) {
         throw LessonError(say("The lesson's files pack so tightly that nobody would take it for a lesson"),
                           say("Write it as a folder"))

@@ -2,18 +2,19 @@
 #ifndef PACKAGETARGET_H
 #define PACKAGETARGET_H
 
-#include "files/folder.h"
 #include "files/outputfile.h"
+#include "files/spool.h"
+#include "files/staging.h"
 
+#include <QMap>
 #include <QSet>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <mutex>
 
 namespace lessonhost {
-
-class StagingLock;
 
 /*!
  * What is being written: a staging folder beside the target, put in the target's place at the end.
@@ -39,15 +40,9 @@ public:
     PackageTarget(const PackageTarget &) = delete;
     PackageTarget &operator=(const PackageTarget &) = delete;
 
-    //! Removes what runs that are no more left behind in a folder: folders of this user, no links and nothing that a
-    //! link leads to.
-    static void sweep(const QString &folder);
-
     //! What the user called it, for messages.
     QString target() const { return m_shownTarget; }
-    //! The folder in which a package is put together, without a separator at its end.
-    QString directory() const;
-    //! A folder beside it for what is only needed meanwhile, without a separator at its end.
+    //! A folder for what is only needed meanwhile, without a separator at its end.
     QString workFolder() const;
 
     //! The file to write, for a target that is a single file.
@@ -59,27 +54,37 @@ public:
     //! How many files are to come. Refuses what no reader would take, before the work is done.
     void expectFiles(qint64 count) const;
 
-    //! A new file of a package or of several files, by its path relative to the target. Refuses unsafe paths and one
-    //! that was given out before.
+    //! A new file of a folder or of several files, by its path relative to the target. Refuses unsafe paths and one
+    //! that was given out before, as the next three do.
     std::unique_ptr<OutputFile> newFile(const QString &relativePath);
-    //! Where such a file is to be made, for who does so in another thread.
-    QString newPlace(const QString &relativePath);
+    //! It may be called in any thread, as append() and copy() may.
     void write(const QString &relativePath, const QByteArray &content);
     //! Writes behind what write() has written.
     void append(const QString &relativePath, const QByteArray &content);
-    //! sourceName stands for the source in messages.
+    //! sourceName stands for the source in messages. What goes into an archive stays where it is until commit().
     void copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName);
-    //! Moves a file from the work folder into the package.
-    void take(const QString &relativePath, const QString &file);
 
     //! Puts what was written in the place of the target, all of it or nothing.
     void commit();
 
 private:
+    /*!
+     * A file of an archive: what was written of it, or where it is copied from.
+     */
+    struct ArchivedFile
+    {
+        Spool::Pieces pieces;
+        QString source;
+        QString sourceName;
+        qint64 size = 0;
+    };
+
     static void sweepOnce(const QString &folder);
+    QString directory() const;
+    void addPath(const QString &relativePath);
+    QString makePlace(const QString &relativePath);
+    void spool(const QString &relativePath, const QByteArray &content);
     void count(qint64 bytes);
-    void makeStaging(const QString &parent);
-    void removeStaging();
     QString shownPlace(const QString &relativePath) const;
     void checkPlace(const QString &path, const QString &shownName) const;
     void checkDirectory() const;
@@ -95,11 +100,12 @@ private:
     QString m_target; // absolute, links resolved
     Kind m_kind;
     IsReplaceable m_isReplaceable;
-    std::unique_ptr<Folder> m_parent;
-    QString m_staging;
-    std::unique_ptr<StagingLock> m_lock; // held while the staging folder is in use
+    std::unique_ptr<Staging> m_staging;
     std::unique_ptr<OutputFile> m_file;
     QSet<QString> m_paths;
+    std::mutex m_mutex; // of what is put into it
+    std::unique_ptr<Spool> m_spool; // of an archive
+    QMap<QString, ArchivedFile> m_archived;
     qint64 m_bytes = 0; // of all files
     bool m_isKept = true;
 };

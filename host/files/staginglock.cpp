@@ -22,7 +22,7 @@ StagingLock::StagingLock(const Folder &folder, const QByteArray &name, Kind kind
     }
     // Where the file system knows no locks, a run may go on, and nothing is swept.
     const bool isLocked = ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || (kind == Own && errno != EWOULDBLOCK);
-    m_isHeld = isLocked && isOwnAndThere();
+    m_isHeld = isLocked && isThere();
 }
 
 StagingLock::~StagingLock()
@@ -36,7 +36,7 @@ StagingLock::~StagingLock()
 }
 
 // A sweep may have removed it between the two steps.
-bool StagingLock::isOwnAndThere() const
+bool StagingLock::isThere() const
 {
     struct stat opened = {};
     struct stat there = {};

@@ -23,14 +23,14 @@ public:
     StagingLock &operator=(const StagingLock &) = delete;
 
     bool isHeld() const { return m_isHeld; }
+    //! Whether the file is still this one, and of this user.
+    bool isThere() const;
     //! Lets the file be, for the next sweep.
     void leave() { m_isHeld = false; }
     //! An errno, where it can't be made.
     int error() const { return m_error; }
 
 private:
-    bool isOwnAndThere() const;
-
     const Folder &m_folder;
     QByteArray m_name;
     int m_descriptor;

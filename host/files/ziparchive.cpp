@@ -369,6 +369,19 @@ void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry,
 
 } // namespace
 
+/*!
+ * An archive that doesn't ask who writes it, in the list of users that may be elsewhere: nothing of that goes into it.
+ */
+class ZipWriter::NobodysZip : public KZip
+{
+public:
+    explicit NobodysZip(QIODevice *device)
+        : KZip(device)
+    {
+        setRootDir(new KArchiveDirectory(this, QStringLiteral("/"), 040755, {}, {}, {}, {})); // which it deletes
+    }
+};
+
 bool isPackedTooTightly(qint64 size, qint64 packedSize)
 {
     return size > harmlessSize && size / maximumRatio > packedSize;
@@ -403,7 +416,41 @@ QStringList namesInZip(const QString &archive)
     return names;
 }
 
-void packZip(const QString &directory, OutputFile &archive, const QString &shownName)
+ZipWriter::ZipWriter(OutputFile &archive, const QString &shownName)
+    : m_archive(archive)
+    , m_shownName(shownName)
+    , m_zip(std::make_unique<NobodysZip>(&archive))
+    , m_isGood(m_zip->open(QIODevice::WriteOnly))
+{
+}
+
+ZipWriter::~ZipWriter() = default;
+
+void ZipWriter::add(const QString &name, qint64 size, const std::function<QByteArray(qint64 begin, qint64 size)> &bytes)
+{
+    // The first one that archives know, in no zone: the same files give the same archive.
+    static const QDateTime noTime(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
+    m_isGood = m_isGood && m_zip->prepareWriting(name, {}, {}, size, 0100644, noTime, noTime, noTime);
+    for (qint64 at = 0; m_isGood && at < size; at += chunkSize) {
+        const QByteArray chunk = bytes(at, qMin(chunkSize, size - at));
+        m_isGood = m_zip->writeData(chunk.constData(), chunk.size());
+    }
+    m_isGood = m_isGood && m_zip->finishWriting(size);
+}
+
+void ZipWriter::finish()
+{
+    m_isGood = m_zip->close() && m_isGood;
+    // The archive's file knows more exactly why.
+    m_archive.check();
+    if (!m_isGood) {
+        throw LessonError(say("The archive can't be written: %1").arg(m_zip->errorString()),
+                          say("Check that there is room"))
+            .in(m_shownName);
+    }
+}
+
+void packZip(const QString &directory, const QString &archive)
 {
     QStringList files;
     const QDir root(directory);
@@ -412,35 +459,14 @@ void packZip(const QString &directory, OutputFile &archive, const QString &shown
         files.append(root.relativeFilePath(it.next()));
     }
     files.sort();
-    // The first one that archives know, in no zone: the same files give the same archive.
-    const QDateTime noTime(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
-    KZip zip(&archive);
-    bool isGood = zip.open(QIODevice::WriteOnly);
+    OutputFile output(archive, archive);
+    ZipWriter zip(output, archive);
     for (const QString &name : qAsConst(files)) {
-        InputFile file(directory + QLatin1Char('/') + name, shownName);
-        // Whose file it is doesn't go into the archive, and takes a look into the list of users.
-        isGood = isGood && zip.prepareWriting(name, {}, {}, file.size(), 0100644, noTime, noTime, noTime);
-        for (qint64 at = 0; isGood && at < file.size(); at += chunkSize) {
-            const QByteArray chunk = file.bytes(at, qMin(chunkSize, file.size() - at));
-            isGood = zip.writeData(chunk.constData(), chunk.size());
-        }
-        isGood = isGood && zip.finishWriting(file.size());
+        InputFile file(directory + QLatin1Char('/') + name);
+        zip.add(name, file.size(), [&file](qint64 begin, qint64 size) { return file.bytes(begin, size); });
     }
-    isGood = zip.close() && isGood;
-    // The archive's file knows more exactly why.
-    archive.check();
-    if (!isGood) {
-        throw LessonError(say("The archive can't be written: %1").arg(zip.errorString()),
-                          say("Check that there is room"))
-            .in(shownName);
-    }
-}
-
-void packZip(const QString &directory, const QString &archive)
-{
-    OutputFile file(archive, archive);
-    packZip(directory, file, archive);
-    file.finish();
+    zip.finish();
+    output.finish();
 }
 
 } // namespace lessonhost

@@ -4,8 +4,12 @@
 
 #include "sentences/sentence.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
+#include <memory>
 
 namespace lessonhost {
 
@@ -29,9 +33,33 @@ Sentences unpackZip(const QString &archive, const QString &directory);
 //! The names of the files in an archive, as they stand there and unchecked. Throws LessonError.
 QStringList namesInZip(const QString &archive);
 
-//! Packs all files below a directory, in ascending order. shownName stands for the archive in messages. Throws
-//! LessonError.
-void packZip(const QString &directory, OutputFile &archive, const QString &shownName);
+/*!
+ * An archive that is written, whose files come in ascending order.
+ */
+class ZipWriter
+{
+public:
+    //! shownName stands for the archive in messages.
+    ZipWriter(OutputFile &archive, const QString &shownName);
+    ~ZipWriter();
+    ZipWriter(const ZipWriter &) = delete;
+    ZipWriter &operator=(const ZipWriter &) = delete;
+
+    //! bytes: a part of the file, and throws LessonError where there is none.
+    void add(const QString &name, qint64 size, const std::function<QByteArray(qint64 begin, qint64 size)> &bytes);
+    //! Throws LessonError if any of it could not be written.
+    void finish();
+
+private:
+    class NobodysZip;
+
+    OutputFile &m_archive;
+    QString m_shownName;
+    std::unique_ptr<NobodysZip> m_zip;
+    bool m_isGood;
+};
+
+//! Packs all files below a directory, in ascending order. Throws LessonError.
 void packZip(const QString &directory, const QString &archive);
 
 } // namespace lessonhost

@@ -3,7 +3,6 @@
 
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
-#include "files/outputfile.h"
 #include "files/paintedpng.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
@@ -13,7 +12,9 @@
 #include "lesson/itemview.h"
 #include "lesson/slidelimits.h"
 
+#include <QBuffer>
 #include <QFileInfo>
+#include <QImage>
 
 #include <algorithm>
 
@@ -251,10 +252,11 @@ void IwbWriter::storeMedia()
 // To pack a picture takes longer than all else that is done for an item.
 void IwbWriter::storePicture(const QString &reference, const QImage &picture, bool isPainted)
 {
-    const auto store = [place = m_target.newPlace(reference), target = m_target.target(), picture, isPainted] {
-        OutputFile file(place, target);
-        isPainted ? writePaintedPng(picture, &file) : picture.save(&file, "png");
-        file.finish();
+    const auto store = [this, reference, picture, isPainted] {
+        QBuffer png;
+        png.open(QIODevice::WriteOnly);
+        isPainted ? writePaintedPng(picture, &png) : picture.save(&png, "png");
+        m_target.write(reference, png.data());
     };
     m_packing.give(picture.sizeInBytes(), store);
 }
