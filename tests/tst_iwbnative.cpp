@@ -279,6 +279,35 @@ private slots:
                  qPrintable(told));
         QVERIFY(items("back.json").contains("ZQMath2DPolyline hexagon"));
     }
+
+    // Where the file of a page is lost, the others are as they were. Of a document that was touched, nobody knows of the
+    // last one.
+    void missingPagesAreTold()
+    {
+        QByteArray slides;
+        for (const char *id : {"1", "2", "3"}) {
+            slides += QByteArray(slides.isEmpty() ? "" : ",") + "{\"ID\":\"" + id
+                + "\",\"Items\":[{\"Type\":\"ZQMath2DNormalHexagon\",\"ID\":\"h" + id
+                + "\",\"BoundingBox\":\"200,10,300,110\",\"ArtObj_Ln\":\"6\"}]}";
+        }
+        putFile(path("in.json"), "{\"Width\":\"800\",\"Height\":\"600\",\"Slides\":[" + slides + "]}");
+        for (int i = 0; i < 6; ++i) {
+            const int page = i / 2 + 1;
+            QDir(path("there")).removeRecursively();
+            convert("in.json", "there");
+            QVERIFY(QFile::remove(path("there/additional/native/page%1.json").arg(page)));
+            if (i % 2 == 1) {
+                edit("</iwb>", "</iwb> ");
+            }
+            const QString told = convert("there", "back.json");
+            QCOMPARE(told.contains("of the lesson itself is damaged"), i < 5);
+            QCOMPARE(told.contains("another program"), i == 5);
+            const QByteArray back = fileContent(path("back.json"));
+            QCOMPARE(back.count("ZQMath2DNormalHexagon"), 2);
+            const QJsonValue lost = QJsonDocument::fromJson(back).object().value("Slides").toArray().at(page - 1);
+            QCOMPARE(lost.toObject().value("ID").toString(), QString::number(page));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(TestIwbNative)

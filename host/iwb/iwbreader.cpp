@@ -68,15 +68,19 @@ void IwbReader::nameSlides()
         }
     }
     m_arePagesMoved = m_arePagesMoved || last + 1 != known.size();
+    QVector<bool> hasName; // from what has come along
+    for (int i = 0; i < outline.pageCount(); ++i) {
+        hasName.append(m_isNative.at(i) && m_native.hasPage(outline.pageId(i)));
+    }
     SlideNames names;
-    for (int i = 0; i < outline.pageCount() && m_isNative.contains(false); ++i) {
-        const auto native = m_isNative.at(i) ? m_native.page(outline.pageId(i)) : std::nullopt;
+    for (int i = 0; i < outline.pageCount() && hasName.contains(false); ++i) {
+        const auto native = hasName.at(i) ? m_native.page(outline.pageId(i)) : std::nullopt;
         if (native) {
             names.take(valueText(native->slide.value(SlideKeys::id)));
         }
     }
     for (int i = 0; i < outline.pageCount(); ++i) {
-        m_slideIds.append(m_isNative.at(i) ? QString() : names.next(outline.backgroundName(i), outline.pageId(i)));
+        m_slideIds.append(hasName.at(i) ? QString() : names.next(outline.backgroundName(i), outline.pageId(i)));
     }
 }
 
@@ -314,7 +318,8 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
     } else {
         slide = m_slides.read(m_content.page(index), index + 1, losses).slide;
         const bool isDamaged = m_isNative.at(index);
-        const QString id = isDamaged ? m_package.outline().pageId(index) : m_slideIds.at(index);
+        const QString name = m_slideIds.at(index);
+        const QString id = name.isEmpty() ? m_package.outline().pageId(index) : name;
         slide.properties.insert(SlideKeys::id, id);
         const LossOwner owner(QStringLiteral("slide"), id);
         if (isDamaged) {

@@ -220,10 +220,11 @@ NativePart::NativePart(const IwbPackage &package)
     InputFile content(package.contentFile(), package.displayName());
     document.addData(&content);
     content.check();
-    for (int number = 1; package.contains(pageFile(pagePrefix + QString::number(number))); ++number) {
+    m_isUntouched = lesson.value(Keys::document).toString() == QLatin1String(document.result().toHex());
+    const int pages = pageCount();
+    for (int number = 1; number <= pages; ++number) {
         m_pageIds.append(pagePrefix + QString::number(number));
     }
-    m_isUntouched = lesson.value(Keys::document).toString() == QLatin1String(document.result().toHex());
     const QJsonObject files = lesson.value(Keys::files).toObject();
     for (auto it = files.constBegin(); it != files.constEnd(); ++it) {
         const QString place = it.value().toString();
@@ -239,17 +240,42 @@ NativePart::NativePart(const IwbPackage &package)
     }
 }
 
+// Pages were written up to the last that has a file, or all of a document that nobody has touched. There can't be more
+// of them than pages and files together.
+int NativePart::pageCount() const
+{
+    const int shown = m_package.outline().pageCount();
+    const QString start = folder + pagePrefix;
+    const QLatin1String end(".json");
+    int files = 0;
+    int last = m_isUntouched ? shown : 0;
+    const QStringList paths = m_package.resources();
+    for (const QString &path : paths) {
+        if (path.startsWith(start) && path.endsWith(end)) {
+            const int number = path.midRef(start.size()).chopped(end.size()).toInt();
+            ++files;
+            last = qMax(last, number);
+        }
+    }
+    return qMin(last, shown + files);
+}
+
 bool NativePart::isPart(const QString &packagePath)
 {
     return packagePath.startsWith(folder);
 }
 
+bool NativePart::hasPage(const QString &pageId) const
+{
+    return m_isThere && problemWithFileName(pageId).isEmpty() && m_package.contains(pageFile(pageId));
+}
+
 std::optional<NativePage> NativePart::page(const QString &pageId) const
 {
-    const QString file = pageFile(pageId);
-    if (!m_isThere || !problemWithFileName(pageId).isEmpty() || !m_package.contains(file)) {
+    if (!hasPage(pageId)) {
         return {};
     }
+    const QString file = pageFile(pageId);
     const QJsonObject json = objectIn(m_package.file(file), file);
     if (json.isEmpty()) {
         return {};

@@ -82,8 +82,11 @@ public:
     const QJsonObject &presentation() const { return m_presentation; }
     //! Of the pages, as it was written.
     QSizeF size() const { return m_size; }
-    //! Of the pages that were written, in their order.
+    //! Of the pages that were written, in their order. Those whose files are missing are among them, as far as others
+    //! or the document tell.
     const QStringList &pageIds() const { return m_pageIds; }
+    //! Whether that one's file is there.
+    bool hasPage(const QString &pageId) const;
     //! What the page with that identifier was made of; nothing where its part is damaged. Throws LessonError where the
     //! file can't be read.
     std::optional<NativePage> page(const QString &pageId) const;
@@ -99,6 +102,8 @@ public:
     static bool isPart(const QString &packagePath);
 
 private:
+    int pageCount() const;
+
     const IwbPackage &m_package;
     bool m_isThere = false;
     QJsonObject m_presentation;
