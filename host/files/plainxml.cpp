@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 
 namespace lessonhost {
 
@@ -455,8 +456,9 @@ const char *PlainXml::behindBlanks(const char *at) const
 const QString &PlainXml::sharedName(const char *begin, const char *end)
 {
     const QLatin1String letters(begin, int(end - begin));
-    const auto place = std::size_t(uchar(*begin)) * 31 + std::size_t(uchar(*(end - 1))) * 7 + std::size_t(end - begin);
-    QString &known = m_names[place % m_names.size()];
+    const std::size_t hash =
+        std::accumulate(begin, end, std::size_t(0), [](std::size_t sum, char c) { return sum * 31 + uchar(c); });
+    QString &known = m_names[hash % m_names.size()];
     if (known != letters) {
         known = letters;
     }

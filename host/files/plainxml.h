@@ -108,7 +108,7 @@ private:
     QVector<ReadAttribute> m_attributes;
     QLatin1String m_letters; // of a text in ASCII
     QString m_text; // another
-    std::array<QString, 128> m_names; // known ones, so that elements of a kind share theirs
+    std::array<QString, 256> m_names; // known ones, so that elements of a kind share theirs
 };
 
 } // namespace lessonhost

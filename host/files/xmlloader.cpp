@@ -27,6 +27,23 @@ QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlan
     return XmlBuilder(&buffer, displayName, blanks).build();
 }
 
+void checkXml(const QByteArray &text, const QString &displayName)
+{
+    class Check : public XmlBuilder
+    {
+    public:
+        using XmlBuilder::XmlBuilder;
+
+    protected:
+        void startElement() override { }
+        void endElement() override { }
+    };
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    Check(&buffer, displayName).build();
+}
+
 QDomDocument loadXmlFile(const QString &fileName, const QString &displayName)
 {
     const QString name = displayName.isEmpty() ? fileName : displayName;

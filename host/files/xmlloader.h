@@ -34,6 +34,9 @@ enum class XmlBlanks { Dropped, Kept };
 //! The same for a text in memory.
 QDomDocument loadXml(const QByteArray &text, const QString &displayName, XmlBlanks blanks = XmlBlanks::Dropped);
 
+//! Throws what loadXml() would throw, without a document.
+void checkXml(const QByteArray &text, const QString &displayName);
+
 } // namespace lessonhost
 
 #endif // XMLLOADER_H

@@ -69,7 +69,7 @@ private:
     bool isElement(const QDomElement &element, int depth)
     {
         const QString tag = element.tagName();
-        if (depth > maximumXmlDepth || !take("<") || takeName() != tag || !hasAttributes(element)) {
+        if (depth > maximumXmlDepth || !take("<") || QStringView(tag) != takeName() || !hasAttributes(element)) {
             return false;
         }
         if (take("/>")) {
@@ -87,7 +87,7 @@ private:
             isBehindText = isText;
         }
         skipLayout();
-        return take("</") && takeName() == tag && take(">");
+        return take("</") && QStringView(tag) == takeName() && take(">");
     }
 
     bool isChild(const QDomNode &child, int depth)
@@ -108,7 +108,8 @@ private:
     {
         QVarLengthArray<QString, 16> names;
         while (take(" ")) {
-            const QString name = takeName();
+            const QStringView letters = takeName();
+            const QString name = QString::fromRawData(letters.data(), int(letters.size()));
             const QDomAttr attribute = element.attributeNode(name);
             const bool isNew = std::find(names.cbegin(), names.cend(), name) == names.cend();
             if (attribute.isNull() || !isNew || names.size() == mostAttributes || !take("=\"")
@@ -165,13 +166,13 @@ private:
     }
 
     // Empty where there is no name.
-    QString takeName()
+    QStringView takeName()
     {
         const QChar *const begin = m_at;
         if (m_at != m_end && isNameBegin(*m_at)) {
             m_at = std::find_if_not(m_at, m_end, isNameLetter);
         }
-        return QString::fromRawData(begin, int(m_at - begin));
+        return {begin, m_at - begin};
     }
 
     void skipLayout()

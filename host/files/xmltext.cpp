@@ -164,7 +164,12 @@ bool keepsBlanks(const QString &tag)
 
 template <typename Out> void startLine(Out &out, int depth)
 {
-    out += QLatin1Char('\n') + QString(depth, QLatin1Char(' '));
+    const QLatin1String blanks("                ");
+    out += QLatin1String("\n");
+    for (; depth > blanks.size(); depth -= blanks.size()) {
+        out += blanks;
+    }
+    out += blanks.left(depth);
 }
 
 // depth below 0: no line breaks, as within an element that holds text.

@@ -46,10 +46,13 @@ bool isTurned(const QTransform &matrix)
 void keepTurn(QJsonObject &item, const QDomElement &element)
 {
     const auto own = itemTransform(element.attribute(QStringLiteral("TransformMatrix")));
+    if (!own || !isTurned(*own)) {
+        return;
+    }
     const auto fit = itemTransform(item.value(ItemKeys::slideMatrix));
     const auto left = itemTransform(item.value(ItemKeys::matrix));
     const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
-    if (own && fit && left && left->isIdentity() && isTurned(*own) && !box.isEmpty()) {
+    if (fit && left && left->isIdentity() && !box.isEmpty()) {
         item.insert(ItemKeys::matrix, transformText(*own * *fit));
         item.insert(ItemKeys::box, box);
     }
@@ -65,9 +68,11 @@ RawAttributes::RawAttributes(IZQTransformation *plugin, const QString &folder)
 
 void RawAttributes::addTo(QJsonObject &item, const QDomElement &element)
 {
-    const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
-    if (!item.contains(ItemKeys::box) && !box.isEmpty()) {
-        item.insert(ItemKeys::box, box);
+    if (!item.contains(ItemKeys::box)) {
+        const QString box = boxOfBound(element.attribute(QStringLiteral("Bound")));
+        if (!box.isEmpty()) {
+            item.insert(ItemKeys::box, box);
+        }
     }
     if (item.contains(ItemKeys::color)) {
         addInk(item, element);
@@ -97,21 +102,22 @@ void RawAttributes::addInk(QJsonObject &item, const QDomElement &element) const
 void RawAttributes::addNamesakes(QJsonObject &item, const QDomElement &element)
 {
     const QString type = item.value(ItemKeys::type).toString();
+    QHash<QString, bool> &known = m_known[type];
     const auto attributes = attributesOf(element);
     for (const auto &[key, value] : attributes) {
         const bool isInkOpacity = key == ItemKeys::opacity && item.contains(ItemKeys::color);
-        if (!item.contains(key) && !isInkOpacity && !value.isEmpty() && isKeyOfType(type, key)) {
+        if (!item.contains(key) && !isInkOpacity && !value.isEmpty() && isKeyOfType(type, key, known)) {
             item.insert(key, isOneOf(referenceKeys, key) ? reference(value) : value);
         }
     }
 }
 
-bool RawAttributes::isKeyOfType(const QString &type, const QString &key)
+// known: what was found out of the type before.
+bool RawAttributes::isKeyOfType(const QString &type, const QString &key, QHash<QString, bool> &known) const
 {
-    const QString place = type + QLatin1Char(' ') + key;
-    const auto known = m_known.constFind(place);
-    if (known != m_known.constEnd()) {
-        return *known;
+    const auto before = known.constFind(key);
+    if (before != known.constEnd()) {
+        return *before;
     }
     const auto found = [this, &type, &key](const QString &value) {
         const QJsonObject probe{{ItemKeys::type, type}, {key, value}};
@@ -119,7 +125,7 @@ bool RawAttributes::isKeyOfType(const QString &type, const QString &key)
     };
     const bool isKey =
         found(QStringLiteral("1")) == QLatin1String("1") && found(QStringLiteral("2")) == QLatin1String("2");
-    m_known.insert(place, isKey);
+    known.insert(key, isKey);
     return isKey;
 }
 

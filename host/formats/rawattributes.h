@@ -29,12 +29,12 @@ public:
 private:
     void addInk(QJsonObject &item, const QDomElement &element) const;
     void addNamesakes(QJsonObject &item, const QDomElement &element);
-    bool isKeyOfType(const QString &type, const QString &key);
+    bool isKeyOfType(const QString &type, const QString &key, QHash<QString, bool> &known) const;
     QString reference(const QString &text) const;
 
     IZQTransformation *m_plugin;
     QString m_folder;
-    QHash<QString, bool> m_known; // whether ZQTX holds a key, by type and key
+    QHash<QString, QHash<QString, bool>> m_known; // whether ZQTX holds a key, by type and key
 };
 
 } // namespace lessonhost

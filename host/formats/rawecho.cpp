@@ -67,16 +67,23 @@ QString echoed(ValueForm form, const QString &given, const QJsonValue &value)
 // As many numbers as asked for, or nothing.
 std::optional<QVector<double>> numbersIn(const QString &text, int count)
 {
+    if (text.count(QLatin1Char(',')) + 1 != count) {
+        return std::nullopt;
+    }
     QVector<double> numbers;
-    const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
-    for (const QStringRef &part : parts) {
+    numbers.reserve(count);
+    int begin = 0;
+    for (int i = 0; i < count; ++i) {
+        const int comma = text.indexOf(QLatin1Char(','), begin);
+        const int end = comma < 0 ? text.size() : comma;
         bool isNumber = false;
-        numbers.append(numberOfText(part, &isNumber));
+        numbers.append(numberOfText(QStringView(text).mid(begin, end - begin), &isNumber));
         if (!isNumber || !qIsFinite(numbers.last())) {
             return std::nullopt;
         }
+        begin = end + 1;
     }
-    return numbers.size() == count ? std::make_optional(numbers) : std::nullopt;
+    return numbers;
 }
 
 std::optional<QTransform> transformIn(const QString &text)
@@ -129,7 +136,13 @@ public:
 
     bool holdsMatrix() const { return m_whole && m_left && (isNear(*m_left, *m_whole) || isFolded()); }
     bool holdsBox() const { return m_given && m_found && (*m_given == *m_found || isFolded()); }
-    bool holdsInnerMatrix() const { return m_fit && m_left && isNear(*m_left, innerMatrix() * *m_fit); }
+    bool holdsInnerMatrix()
+    {
+        if (!m_holdsInner) {
+            m_holdsInner = m_fit && m_left && isNear(*m_left, innerMatrix() * *m_fit);
+        }
+        return *m_holdsInner;
+    }
 
 private:
     // The box of an item that is drawn larger is that of the page, which is no place for a turn or a mirror.
@@ -179,6 +192,7 @@ private:
     std::optional<QTransform> m_whole; // that of the element, on the page
     std::optional<QVector<double>> m_given; // left, top, right, bottom
     std::optional<QVector<double>> m_found;
+    std::optional<bool> m_holdsInner; // once it was asked for
 };
 
 // What the inner matrix is made of, in a form that the matrix tells.
@@ -320,19 +334,23 @@ RawEcho::RawEcho(IZQTransformation *plugin)
 {
 }
 
-QDomElement RawEcho::ofItem(const QDomElement &element, const QJsonObject &item)
+void RawEcho::compareItem(const LossOwner &owner, const QDomElement &element, const QJsonObject &item,
+                          const CarriedCheck &check)
 {
-    QDomElement echo = childrenOfItem(element, item);
-    const Places places(element, item);
+    Places places(element, item);
     const auto attributes = attributesOf(element);
     for (const auto &[name, given] : attributes) {
         const bool isPlaced = name == matrixName ? places.holdsMatrix()
             : name == boundName                  ? places.holdsBox()
             : name.startsWith(innerPrefix)       ? places.holdsInnerMatrix() && isPartOfInnerMatrix(name, given)
                                                  : false;
-        echo.setAttribute(name, isPlaced ? given : attributeOfItem(element, name, given, item));
+        if (!isPlaced) {
+            check.compareAttribute(owner, name, given, attributeOfItem(element, name, given, item));
+        }
     }
-    return echo;
+    if (element.hasChildNodes()) {
+        check.compareContent(owner, element, contentOfItem(element, item));
+    }
 }
 
 QString RawEcho::attributeOfItem(const QDomElement &element, const QString &name, const QString &given,
@@ -365,7 +383,7 @@ QString RawEcho::attributeOfItem(const QDomElement &element, const QString &name
 }
 
 // A value in an element below is read from the first of its tag, however deep it is.
-QDomElement RawEcho::childrenOfItem(const QDomElement &element, const QJsonObject &item)
+QDomElement RawEcho::contentOfItem(const QDomElement &element, const QJsonObject &item)
 {
     struct Open
     {
@@ -374,7 +392,7 @@ QDomElement RawEcho::childrenOfItem(const QDomElement &element, const QJsonObjec
         QJsonArray list; // what the children of this one are in the model
         int index;
     };
-    QDomElement result = looseElement(element.tagName());
+    QDomElement result = m_document.createElement(element.tagName());
     QSet<QString> seen;
     QVector<Open> open{{element.firstChildElement(), result, {}, 0}};
     while (!open.isEmpty()) {
@@ -396,7 +414,7 @@ QDomElement RawEcho::childrenOfItem(const QDomElement &element, const QJsonObjec
             open.last().echo.appendChild(managerOf(item, child));
             continue;
         }
-        QDomElement echo = open.last().echo.appendChild(looseElement(tag)).toElement();
+        QDomElement echo = open.last().echo.appendChild(m_document.createElement(tag)).toElement();
         const auto attributes = attributesOf(child);
         const QJsonObject object = value.toObject();
         const QStringList channels = channelsOf(object);
@@ -432,9 +450,9 @@ QString RawEcho::attributeOfChild(const Place &place, const QString &given, cons
 QString RawEcho::keyOf(const Place &of)
 {
     const auto &[type, tag, attribute] = of;
-    const QString place = type + QLatin1Char('/') + tag + QLatin1Char('@') + attribute;
-    const auto known = m_keys.constFind(place);
-    if (known != m_keys.constEnd()) {
+    QHash<QPair<QString, QString>, QString> &keys = m_keys[type];
+    const auto known = keys.constFind({tag, attribute});
+    if (known != keys.constEnd()) {
         return *known;
     }
     const QString mark = QStringLiteral("mark");
@@ -453,7 +471,7 @@ QString RawEcho::keyOf(const Place &of)
             key = it.key();
         }
     }
-    m_keys.insert(place, key);
+    keys.insert({tag, attribute}, key);
     return key;
 }
 

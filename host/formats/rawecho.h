@@ -2,9 +2,12 @@
 #ifndef RAWECHO_H
 #define RAWECHO_H
 
+#include "losses/carriedcheck.h"
+
 #include <QDomElement>
 #include <QHash>
 #include <QJsonObject>
+#include <QPair>
 #include <QString>
 
 class IZQTransformation;
@@ -21,7 +24,9 @@ class RawEcho
 public:
     explicit RawEcho(IZQTransformation *plugin);
 
-    QDomElement ofItem(const QDomElement &element, const QJsonObject &item);
+    //! Tells what the element of an item says and the model made of it doesn't.
+    void compareItem(const LossOwner &owner, const QDomElement &element, const QJsonObject &item,
+                     const CarriedCheck &check);
     QDomElement ofSlide(const QDomElement &element, const QJsonObject &properties);
     QDomElement ofPresentation(const QDomElement &element, const QJsonObject &presentation);
 
@@ -35,13 +40,15 @@ private:
 
     QString attributeOfItem(const QDomElement &element, const QString &name, const QString &given,
                             const QJsonObject &item);
-    QDomElement childrenOfItem(const QDomElement &element, const QJsonObject &item);
+    QDomElement contentOfItem(const QDomElement &element, const QJsonObject &item);
     QString attributeOfChild(const Place &place, const QString &given, const QStringList &channels,
                              const QJsonObject &item);
     QString keyOf(const Place &place);
 
     IZQTransformation *m_plugin;
-    QHash<QString, QString> m_keys; // that a plain text goes to, by type, tag and attribute
+    QDomDocument m_document; // makes the elements, and holds none of them
+    // The keys that a plain text goes to, by type, and then by tag and attribute.
+    QHash<QString, QHash<QPair<QString, QString>, QString>> m_keys;
     QHash<QString, QJsonObject> m_silent; // what is made of an item that says nothing, by type
 };
 

@@ -156,7 +156,7 @@ public:
         const XmlPart part = m_slides.take(index, m_parts.count());
         const QDomElement element = part.element;
         element.parentNode().removeChild(element);
-        const QVector<QDomElement> items = takeElements(element, element.firstChildElement());
+        QVector<QDomElement> items = takeElements(element, element.firstChildElement());
         LessonSlide slide;
         m_nextId = (index + 1) * idsOfSlide;
         const QDomElement untouched = element.cloneNode(true).toElement();
@@ -168,8 +168,9 @@ public:
         }
         QJsonObject itemContext = context();
         itemContext.insert(QStringLiteral("slide"), slide.properties);
-        for (const QDomElement &item : items) {
+        for (QDomElement &item : items) {
             slide.items.append(readItem(item, itemContext, check));
+            item.clear(); // while the memory is at hand
         }
         tellInkWithoutPoints(slide.items, losses);
         checkSlideItems(slide.items, index + 1, m_path);
@@ -269,8 +270,7 @@ private:
         findSingleFile(untouched, item);
         if (check) {
             takeEmptied(untouched, groupSons);
-            check->compare({element.tagName(), item.value(ItemKeys::id).toString()}, untouched,
-                           m_echo.ofItem(untouched, item));
+            m_echo.compareItem({element.tagName(), item.value(ItemKeys::id).toString()}, untouched, item, *check);
         }
         nameMediaFile(item);
         // The order of a raw group's sons is from front to back.

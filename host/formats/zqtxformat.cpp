@@ -74,7 +74,7 @@ public:
     {
         const QJsonObject context{{QStringLiteral("pres"), m_presentation}, {QStringLiteral("path"), path}};
         const QDomElement items = root.firstChildElement(itemsTag);
-        const QVector<QDomElement> elements = takeElements(items, items.firstChildElement());
+        QVector<QDomElement> elements = takeElements(items, items.firstChildElement());
         LessonSlide slide;
         slide.properties = readProperties(root, context);
         if (check) {
@@ -83,8 +83,9 @@ public:
         }
         QJsonObject itemContext = context;
         itemContext.insert(QStringLiteral("slide"), slide.properties);
-        for (const QDomElement &element : elements) {
+        for (QDomElement &element : elements) {
             slide.items.append(m_items.read(element, itemContext, check));
+            element.clear(); // while the memory is at hand
         }
         return slide;
     }

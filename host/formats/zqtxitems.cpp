@@ -228,7 +228,7 @@ QDomElement placeHolder(QDomElement &element, const QString &tag)
 bool isSaneXml(const QString &text)
 {
     try {
-        loadXml(text.toUtf8(), {});
+        checkXml(text.toUtf8(), {});
         return true;
     } catch (const std::exception &) {
         return false;

@@ -89,11 +89,11 @@ bool isNumberArray(const QJsonArray &array)
 
 QString numberArrayText(const QJsonArray &array)
 {
-    QStringList numbers;
-    for (const QJsonValue &number : array) {
-        numbers.append(shortestNumberText(number.toDouble()));
+    QString text;
+    for (int i = 0; i < array.size(); ++i) {
+        text += (i > 0 ? QLatin1String(",") : QLatin1String("")) + shortestNumberText(array.at(i).toDouble());
     }
-    return numbers.join(QLatin1Char(','));
+    return text;
 }
 
 QPolygonF stepsBetween(QPolygonF points)

@@ -342,10 +342,11 @@ QJsonObject keptInPageForm(const QJsonObject &own, const QJsonObject &inPageForm
                             ItemKeys::steps, ItemKeys::width, ItemKeys::matrix};
     for (const QLatin1String key : placeKeys) {
         const bool isOwnTurn = key == ItemKeys::angle && !isTurnOfMatrix(own);
-        if (!inPageForm.contains(key) && !isOwnTurn) {
+        const QJsonValue placed = inPageForm.value(key);
+        if (placed.isUndefined() && !isOwnTurn) {
             kept.remove(key);
-        } else if ((isPlaced || isGroup) && !isOwnTurn) {
-            kept.insert(key, inPageForm.value(key));
+        } else if ((isPlaced || isGroup) && !isOwnTurn && placed != own.value(key)) {
+            kept.insert(key, placed);
         }
     }
     for (const QLatin1String key : {ItemKeys::slideMatrix, SlideKeys::sourceRect, SlideKeys::texture}) {

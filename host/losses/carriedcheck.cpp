@@ -43,6 +43,33 @@ bool isBare(const QDomElement &element)
     return !element.hasAttributes() && !element.hasChildNodes();
 }
 
+// True for two trees that say the same, letter for letter and in the same order.
+bool isSameTree(const QDomElement &one, const QDomElement &other)
+{
+    const QDomNamedNodeMap attributes = one.attributes();
+    const int count = attributes.count();
+    if (other.isNull() || count != other.attributes().count()) {
+        return false;
+    }
+    for (int i = 0; i < count; ++i) {
+        const QDomNode attribute = attributes.item(i);
+        const QString name = attribute.nodeName();
+        if (other.attribute(name) != attribute.nodeValue() || !other.hasAttribute(name)) {
+            return false;
+        }
+    }
+    QDomNode partner = other.firstChild();
+    for (QDomNode node = one.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        const bool isSameNode = node.nodeType() == partner.nodeType() && node.nodeName() == partner.nodeName()
+            && node.nodeValue() == partner.nodeValue();
+        if (!isSameNode || (node.isElement() && !isSameTree(node.toElement(), partner.toElement()))) {
+            return false;
+        }
+        partner = partner.nextSibling();
+    }
+    return partner.isNull();
+}
+
 // True if an element has nothing of its own that another lacks; its children are not looked at.
 bool looksLike(const QDomElement &element, const QDomElement &other)
 {
@@ -73,14 +100,66 @@ bool saysAnything(const QDomElement &element)
 class Comparing
 {
 public:
-    Comparing(const SlideLosses &losses, CarriedCheck::Texts texts, const LossOwner &owner, const QDomElement &read,
-              const QDomElement &written)
+    // written: the outermost one.
+    Comparing(const SlideLosses &losses, CarriedCheck::Texts texts, const LossOwner &owner, const QDomElement &written)
         : m_losses(losses)
         , m_texts(texts)
         , m_owner(owner)
         , m_written(written)
     {
-        compare(read, written);
+    }
+
+    void compare(const QDomElement &read, const QDomElement &written)
+    {
+        compareAttributes(read, written);
+        compareContent(read, written);
+    }
+
+    void compareContent(const QDomElement &read, const QDomElement &written)
+    {
+        QString text;
+        QVector<Child> children;
+        Counts counts;
+        for (QDomNode node = read.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (node.isElement()) {
+                const QDomElement child = node.toElement();
+                const QString tag = child.tagName();
+                const QString label = labelOf(child, tag);
+                children.append({child, {tag, label, counts.next(tag, label)}});
+            } else if (node.isText()) {
+                text += node.nodeValue();
+            }
+        }
+        if (!text.isEmpty()) {
+            compareValue(read, {}, text, textOf(written));
+        }
+        if (written.isNull() && isBare(read) && !standsOtherwise(read)) {
+            lose({}, {});
+        }
+        if (!children.isEmpty() && !compareInOrder(children, written)) {
+            compareLines(children, written);
+        }
+    }
+
+    void compareValue(const QDomElement &element, const QString &attribute, const QString &given, const QString &found)
+    {
+        if (given == found) {
+            return;
+        }
+        if (m_texts == CarriedCheck::InOwnWords) {
+            if (!given.isEmpty()) {
+                lose(attribute, given);
+            }
+            return;
+        }
+        const QString tag = m_steps.isEmpty() ? QString() : element.tagName();
+        const QString parent = m_steps.size() < 2 ? QString() : m_steps.at(m_steps.size() - 2).tag;
+        const XmlPlace place{parent, tag, attribute};
+        const QString implied = impliedText(place);
+        const QString meant = given.isEmpty() ? implied : given;
+        if (!meant.isEmpty() && !isSameText(formOfPlace(place), meant, found.isEmpty() ? implied : found)) {
+            lose(attribute, given);
+        }
     }
 
 private:
@@ -128,33 +207,6 @@ private:
         QString m_last;
         int m_count = 0;
     };
-
-    void compare(const QDomElement &read, const QDomElement &written)
-    {
-        compareAttributes(read, written);
-        QString text;
-        QVector<Child> children;
-        Counts counts;
-        for (QDomNode node = read.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            if (node.isElement()) {
-                const QDomElement child = node.toElement();
-                const QString tag = child.tagName();
-                const QString label = labelOf(child, tag);
-                children.append({child, {tag, label, counts.next(tag, label)}});
-            } else if (node.isText()) {
-                text += node.nodeValue();
-            }
-        }
-        if (!text.isEmpty()) {
-            compareValue(read, {}, text, textOf(written));
-        }
-        if (written.isNull() && isBare(read) && !standsOtherwise(read)) {
-            lose({}, {});
-        }
-        if (!children.isEmpty() && !compareInOrder(children, written)) {
-            compareLines(children, written);
-        }
-    }
 
     static QString labelOf(const QDomElement &child, const QString &tag)
     {
@@ -215,27 +267,6 @@ private:
             if (!arePaired && !read.hasAttribute(name)) {
                 compareValue(read, name, {}, value);
             }
-        }
-    }
-
-    void compareValue(const QDomElement &element, const QString &attribute, const QString &given, const QString &found)
-    {
-        if (given == found) {
-            return;
-        }
-        if (m_texts == CarriedCheck::InOwnWords) {
-            if (!given.isEmpty()) {
-                lose(attribute, given);
-            }
-            return;
-        }
-        const QString tag = m_steps.isEmpty() ? QString() : element.tagName();
-        const QString parent = m_steps.size() < 2 ? QString() : m_steps.at(m_steps.size() - 2).tag;
-        const XmlPlace place{parent, tag, attribute};
-        const QString implied = impliedText(place);
-        const QString meant = given.isEmpty() ? implied : given;
-        if (!meant.isEmpty() && !isSameText(formOfPlace(place), meant, found.isEmpty() ? implied : found)) {
-            lose(attribute, given);
         }
     }
 
@@ -320,6 +351,10 @@ private:
 
     void compareChild(const Child &child, const QDomElement &written)
     {
+        // Most children of an item came through whole. Further down it would be asked on each level.
+        if (m_steps.isEmpty() && isSameTree(child.element, written)) {
+            return;
+        }
         m_steps.append(child.step);
         compare(child.element, written);
         m_steps.removeLast();
@@ -375,7 +410,20 @@ CarriedCheck::CarriedCheck(const SlideLosses &losses, Texts texts)
 
 void CarriedCheck::compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const
 {
-    Comparing(m_losses, m_texts, owner, read, written);
+    Comparing(m_losses, m_texts, owner, written).compare(read, written);
+}
+
+void CarriedCheck::compareAttribute(const LossOwner &owner, const QString &name, const QString &given,
+                                    const QString &found) const
+{
+    if (given != found) {
+        Comparing(m_losses, m_texts, owner, {}).compareValue({}, name, given, found);
+    }
+}
+
+void CarriedCheck::compareContent(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const
+{
+    Comparing(m_losses, m_texts, owner, written).compareContent(read, written);
 }
 
 } // namespace lessonhost

@@ -27,6 +27,12 @@ public:
     //! owner: whose values these are. The names of the two elements are not compared.
     void compare(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const;
 
+    //! The same in two steps, for an outermost element whose attributes aren't written as such: one of them, and all
+    //! that stands in the two elements.
+    void compareAttribute(const LossOwner &owner, const QString &name, const QString &given,
+                          const QString &found) const;
+    void compareContent(const LossOwner &owner, const QDomElement &read, const QDomElement &written) const;
+
 private:
     SlideLosses m_losses;
     Texts m_texts;

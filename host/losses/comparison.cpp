@@ -185,9 +185,28 @@ Comparison::Comparison(const SlideLosses &losses, const Rules &rules)
 void Comparison::compareProperties(const LossOwner &owner, const QJsonObject &given, const QJsonObject &found) const
 {
     Differences differences(m_rules.tolerance);
+    // Both have their keys in the same order, so that few must be looked for.
+    auto next = found.constBegin();
+    QString nextKey = next == found.constEnd() ? QString() : next.key();
+    bool hasNewImplied = false;
+    const auto goOn = [&] {
+        ++next;
+        nextKey = next == found.constEnd() ? QString() : next.key();
+    };
+    const auto passNew = [&] {
+        hasNewImplied = hasNewImplied || !impliedValue(nextKey).isUndefined();
+        goOn();
+    };
     for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
         const QString key = it.key();
-        QJsonValue value = found.value(key);
+        while (next != found.constEnd() && nextKey < key) {
+            passNew();
+        }
+        const bool isNext = next != found.constEnd() && nextKey == key;
+        QJsonValue value = isNext ? next.value() : found.value(key);
+        if (isNext) {
+            goOn();
+        }
         if (value == it.value()) {
             continue;
         }
@@ -199,8 +218,11 @@ void Comparison::compareProperties(const LossOwner &owner, const QJsonObject &gi
             differences.compare(key, key, it.value(), value);
         }
     }
+    while (next != found.constEnd()) {
+        passNew();
+    }
     for (const QString &key : keysWithImpliedValue()) {
-        if (!given.contains(key) && found.contains(key)) {
+        if (hasNewImplied && !given.contains(key) && found.contains(key)) {
             differences.compare(key, key, {}, found.value(key));
         }
     }
