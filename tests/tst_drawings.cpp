@@ -4,6 +4,9 @@
 #include "itempictures.h"
 #include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
+#include "render/drawings.h"
+#include "render/picturestore.h"
+#include "render/plainoutlines.h"
 #include "render/symbolfile.h"
 #include "typicalitems.h"
 
@@ -207,6 +210,37 @@ private slots:
         const ItemPicture picture = m_pictures.draw({item});
         QCOMPARE(picture.named.isEmpty(), !drawn.isEmpty());
         QVERIFY2(picture.svg.contains(drawn), picture.svg);
+    }
+
+    void findsTheSameElements_data() { addTypes(); }
+
+    // Before its shapes are written, where nobody asks for more, and in what they become.
+    void findsTheSameElements()
+    {
+        const QJsonObject item = typical();
+        QStringList found[2];
+        for (const bool isWritten : {false, true}) {
+            IwbMedia media;
+            PictureStore store;
+            IwbItemWriter::Setting setting;
+            setting.plugin = plugin();
+            setting.media = &media;
+            IwbPageWriter pages(setting);
+            pages.start({{"Width", "1280"}, {"Height", "720"}}, {});
+            PlainSvg svg({1280, 720}, media, store, Qt::transparent);
+            isWritten ? void() : svg.setForElements();
+            Drawings(svg, pages, media).draw(item);
+            const auto elements = isWritten ? plainOutlines(svg.finished().documentElement())
+                : svg.isInVain()            ? QVector<PlainElement>()
+                                            : plainOutlines(svg.sketch(), svg.shapes());
+            for (const PlainElement &element : elements) {
+                found[isWritten].append(element.tag + element.text);
+                for (const auto &[name, value] : element.attributes) {
+                    found[isWritten].append(name + "=" + value);
+                }
+            }
+        }
+        QCOMPARE(found[0], found[1]);
     }
 
     void drawsExtremeItems_data() { addTypes(); }

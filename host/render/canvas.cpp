@@ -35,6 +35,9 @@ bool Canvas::addAsIwb(const QJsonObject &item)
 
 bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &placed, const TextPlace &place)
 {
+    if (m_svg.isInVain()) {
+        return true;
+    }
     // A box that is only turned and larger has letters as wide as they are, one that is stretched more room for them.
     const auto parts = scaleAndTurn(placed);
     const bool isUpright = parts && parts->scaleY > 0;
@@ -64,7 +67,9 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
     const QTransform inArea = QTransform::fromScale(scale, scale)
         * QTransform::fromTranslate(onPage.box.left(), onPage.box.top() + qMax(0.0, space / 2));
     const QTransform onSheet = inArea * (isUpright ? turnAbout(onPage.box.center(), onPage.angle) : placed);
-    const auto pictures = laidOut.draw(m_svg.addGroup(onSheet), stretches(onSheet));
+    const QDomElement group = m_svg.addGroup(onSheet);
+    const auto pictures = laidOut.draw(group, stretches(onSheet));
+    m_svg.countTexts(group);
     for (const LessonText::TextPicture &picture : pictures) {
         addPicture(picture.name, picture.box, onSheet);
     }
@@ -74,11 +79,13 @@ bool Canvas::addText(const QString &text, const QRectF &area, const QTransform &
 void Canvas::addLetters(const QString &text, double size, const QPointF &middle, const QTransform &placed,
                         const TextLook &look)
 {
-    if (!text.isEmpty()) {
+    if (!text.isEmpty() && !m_svg.isInVain()) {
         const double scale = size / LetterLine::drawnSize;
         const QTransform onSheet =
             QTransform::fromScale(scale, scale) * QTransform::fromTranslate(middle.x(), middle.y()) * placed;
-        LetterLine(text, look).draw(m_svg.addGroup(onSheet), stretches(onSheet));
+        const QDomElement group = m_svg.addGroup(onSheet);
+        LetterLine(text, look).draw(group, stretches(onSheet));
+        m_svg.countTexts(group);
     }
 }
 

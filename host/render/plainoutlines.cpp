@@ -27,8 +27,6 @@ namespace lessonhost {
 
 namespace {
 
-// More are unhandy on another board, which has to hold them together.
-constexpr int mostElements = 8;
 constexpr int mostPoints = 1200; // of all
 
 // In letters of a font that others choose, longer lines end elsewhere; so many times as wide as the letters are high.
@@ -311,7 +309,7 @@ private:
             const bool isFilled = part.pen.paint.fill.alpha() > 0;
             const int outlines = part.shape.isNull() ? 1 : outlineCount(part.outline);
             least += isFilled ? qMin(1, outlines) : outlines;
-            if (least > mostElements) {
+            if (least > mostPlainElements) {
                 return false;
             }
         }
@@ -364,6 +362,11 @@ private:
             pen.paint.line.setAlpha(0);
         }
         pen.join = QStringLiteral("round");
+        const double scale = evenScale(around.matrix).value_or(1);
+        const QVector<double> dashes = drawnDashes(shape.paint);
+        for (const double length : dashes) {
+            pen.dashes.append(number(asDrawn(length) * scale));
+        }
         return pen;
     }
 
@@ -375,7 +378,7 @@ private:
             } else if (!part.outline.isEmpty() && !addPath(part.outline, part.pen)) {
                 return false;
             }
-            if (m_elements.size() > mostElements || m_points > mostPoints) {
+            if (m_elements.size() > mostPlainElements || m_points > mostPoints) {
                 return false;
             }
         }

@@ -9,10 +9,12 @@
 #include "files/xmlloader.h"
 #include "iwb/iwbmedia.h"
 #include "lesson/isoneof.h"
+#include "lesson/planegeometry.h"
 #include "render/arrowhead.h"
 #include "render/innersvg.h"
 #include "render/labellines.h"
 #include "render/picturestore.h"
+#include "render/plainoutlines.h"
 #include "render/svgelements.h"
 #include "sentences/language.h"
 #include "svg/svgvalues.h"
@@ -30,18 +32,9 @@ namespace {
 
 // With the geometry, everything that draws, and nothing that runs or loads.
 const char *const keptAttributes[] = {
-    "fill",
-    "fill-opacity",
-    "fill-rule",
-    "stroke",
-    "stroke-width",
-    "stroke-opacity",
-    "stroke-dasharray",
-    "stroke-linecap",
-    "stroke-linejoin",
-    "opacity",
-    "transform",
-    "preserveAspectRatio",
+    "fill",           "fill-opacity",        "fill-rule",      "stroke",          "stroke-width",
+    "stroke-opacity", "stroke-dasharray",    "stroke-linecap", "stroke-linejoin", "opacity",
+    "transform",      "preserveAspectRatio",
 };
 const char *const keptTags[] = {"rect", "circle", "ellipse", "line", "polyline", "polygon", "path"};
 
@@ -73,14 +66,44 @@ void writeShape(QDomElement &shape, const QPainterPath &path, const SvgPaint &pa
     setDrawnColor(shape, "stroke", paint.line);
     shape.setAttribute(QStringLiteral("stroke-width"), drawnNumber(paint.lineWidth));
     shape.setAttribute(QStringLiteral("stroke-linejoin"), QStringLiteral("round"));
-    const QVector<double> dashes[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
     QStringList lengths;
-    for (const double length : dashes[qBound(0, paint.dashParts, 4)]) {
-        lengths.append(drawnNumber(length * paint.lineWidth));
+    const QVector<double> dashes = drawnDashes(paint);
+    for (const double length : dashes) {
+        lengths.append(drawnNumber(length));
     }
     if (!lengths.isEmpty()) {
         shape.setAttribute(QStringLiteral("stroke-dasharray"), lengths.join(QLatin1Char(',')));
     }
+}
+
+// As bounds of drawings count them. Infinite or no number where dashes have no length.
+double mostDashesOf(const QPainterPath &path, const SvgPaint &paint)
+{
+    double sum = 0;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        sum += qAbs(asDrawn(path.elementAt(i).x)) + qAbs(asDrawn(path.elementAt(i).y));
+    }
+    const QVector<double> dashes = drawnDashes(paint);
+    double pattern = 0;
+    for (const double length : dashes) {
+        pattern += asDrawn(length);
+    }
+    constexpr int longest = 3; // times its coordinates is no path
+    return longest * sum / pattern * dashes.size();
+}
+
+// Whether something of it is left when its numbers are rounded.
+bool isSurelyOutline(const QPainterPath &path, const SvgPaint &paint, const QTransform &placed)
+{
+    constexpr double shortest = 0.1;
+    const bool isLined = paint.line.alpha() == 255 && paint.lineWidth > shortest && meanScale(placed) > shortest;
+    if (path.elementCount() < 2 || path.elementAt(1).isMoveTo() || (paint.fill.alpha() < 255 && !isLined)) {
+        return false;
+    }
+    const QPointF start = path.elementAt(0);
+    const QPointF next = path.elementAt(1);
+    const bool isWithin = start.manhattanLength() < largestInDrawing && next.manhattanLength() < largestInDrawing;
+    return isWithin && (next - start).manhattanLength() > shortest;
 }
 
 // Names of fonts may look like declarations.
@@ -115,10 +138,25 @@ PlainSvg::PlainSvg(const QSizeF &size, const IwbMedia &media, PictureStore &pict
     }
 }
 
+bool PlainSvg::isInVain() const
+{
+    return m_isForElements && m_leastElements > mostPlainElements;
+}
+
+void PlainSvg::countTexts(const QDomElement &group)
+{
+    const QString tag = QStringLiteral("text");
+    for (QDomElement e = group.firstChildElement(tag); m_isForElements && !e.isNull(); e = e.nextSiblingElement(tag)) {
+        m_leastElements += e.text().trimmed().isEmpty() ? 0 : 1;
+    }
+}
+
 // What is written here is within the bounds, but for dashes, which are counted.
 QDomElement PlainSvg::sketch()
 {
-    if (!m_isBounded && (m_hasOthers || hasDashesOrDeclarations(m_svg))) {
+    constexpr double surelyFew = mostDashes / 2;
+    if (!m_isBounded && (m_hasOthers || !(m_dashes < surelyFew) || hasDashesOrDeclarations(m_svg))) {
+        writeShapes();
         boundDrawing(m_svg);
     }
     m_isBounded = true;
@@ -134,11 +172,16 @@ QDomDocument PlainSvg::finished()
                        QStringLiteral("0 0 %1 %2").arg(drawnNumber(m_size.width()), drawnNumber(m_size.height())));
     m_svg.setAttribute(QStringLiteral("width"), drawnNumber(m_size.width()));
     m_svg.setAttribute(QStringLiteral("height"), drawnNumber(m_size.height()));
+    writeShapes();
+    return m_document;
+}
+
+void PlainSvg::writeShapes()
+{
     for (Shape &shape : m_shapes) {
         writeShape(shape.element, shape.path, shape.paint);
     }
     m_shapes.clear();
-    return m_document;
 }
 
 PlainSvg::Scope::Scope(PlainSvg &svg, const QTransform &transform)
@@ -391,9 +434,12 @@ QDomElement PlainSvg::addGroup(const QTransform &placed)
 
 void PlainSvg::addPath(const QPainterPath &path, const SvgPaint &paint)
 {
-    if (paint.dashParts > 0) {
-        addPathElement(path, paint);
+    if (isInVain()) {
         return;
+    }
+    m_leastElements += m_isForElements && isSurelyOutline(path, paint, m_transform) ? 1 : 0;
+    if (paint.dashParts > 0) {
+        m_dashes += mostDashesOf(path, paint);
     }
     m_shapes.append({append(QStringLiteral("path")), path, paint});
 }

@@ -50,8 +50,16 @@ public:
     QSizeF size() const { return m_size; }
     //! What the names of its parts begin with, so that pages can stand in one document.
     void setNames(const QString &prefix) { m_names = prefix; }
-    //! Has its sentences in English, so that it is the same for everyone. They are in the language of the user otherwise.
+    //! Has its sentences in English, so that it is the same for everyone. They are in the language of the user
+    //! otherwise.
     void sayInEnglish() { m_isEnglish = true; }
+
+    //! Nobody asks for a drawing that a few elements don't show.
+    void setForElements() { m_isForElements = true; }
+    //! True as soon as a drawing that has to be shown by a few elements takes more. What is added to it may be missing.
+    bool isInVain() const;
+    //! group: with texts that were added.
+    void countTexts(const QDomElement &group);
 
     /*!
      * As long as it lives, what is added stands under a transform, and under those of the scopes around it: lines,
@@ -100,7 +108,7 @@ public:
     {
         QDomElement element; //!< without attributes
         QPainterPath path;
-        SvgPaint paint; //!< without dashes
+        SvgPaint paint;
     };
     //! What was added, within the bounds of drawings, but for these. They stand in it one behind the other. Nothing is
     //! added afterwards.
@@ -159,6 +167,7 @@ public:
 
 private:
     QDomElement append(const QString &tag);
+    void writeShapes();
     void addHeads(const QDomElement &element, QDomElement &line);
     QDomElement appendPicture(const QString &file);
     QDomElement appendImage(const QString &address);
@@ -184,7 +193,10 @@ private:
     QHash<QString, QString> m_textures; // patterns by file
     QString m_names;
     bool m_isEnglish = false;
+    bool m_isForElements = false;
+    int m_leastElements = 0; // that stand for what was added
     QVector<Shape> m_shapes;
+    double m_dashes = 0; // of these, no fewer than they have
     bool m_isBounded = false; // nothing is added any more
     bool m_hasOthers = false; // numbers of others, which may be out of bounds
     int m_drawings = 0;

@@ -162,12 +162,15 @@ SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &dr
     startPage(page);
     PlainSvg plain(page, m_media, m_store, Qt::transparent);
     plain.sayInEnglish();
+    if (form == Elements) {
+        plain.setForElements();
+    }
     Drawings drawings(plain, m_pages, m_media);
     const bool isItself = draw(plain, drawings);
     m_media.storeNew([](const QString &, const IwbMedia::File &) {});
     // A box with the name of an item isn't the item.
     const bool mayBeElements = form != Picture && isItself;
-    if (form == Elements && !mayBeElements) {
+    if (form == Elements && (!mayBeElements || plain.isInVain())) {
         return {};
     }
     const QDomElement sketch = plain.sketch();

@@ -118,9 +118,7 @@ QPainterPath asDrawn(const QPainterPath &path)
 {
     QPainterPath drawn;
     QPointF start;
-    const auto point = [&path](int i) {
-        return QPointF(asDrawn(path.elementAt(i).x), asDrawn(path.elementAt(i).y));
-    };
+    const auto point = [&path](int i) { return QPointF(asDrawn(path.elementAt(i).x), asDrawn(path.elementAt(i).y)); };
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element element = path.elementAt(i);
         if (element.isMoveTo()) {
@@ -146,6 +144,16 @@ QColor asDrawn(const QColor &color)
         drawn.setAlpha(qRound(255 * asDrawn(color.alphaF())));
     }
     return drawn;
+}
+
+QVector<double> drawnDashes(const SvgPaint &paint)
+{
+    static const QVector<double> patterns[] = {{}, {}, {5, 5}, {10, 2, 10}, {10, 2, 2, 2}};
+    QVector<double> lengths = patterns[qBound(0, paint.dashParts, 4)];
+    for (double &length : lengths) {
+        length *= paint.lineWidth;
+    }
+    return lengths;
 }
 
 void setDrawnColor(QDomElement &element, const char *name, const QColor &color)

@@ -2,12 +2,15 @@
 #ifndef SVGELEMENTS_H
 #define SVGELEMENTS_H
 
+#include "svg/svgstyle.h"
+
 #include <QColor>
 #include <QDomElement>
 #include <QPainterPath>
 #include <QString>
 #include <QStringList>
 #include <QTransform>
+#include <QVector>
 
 namespace lessonhost {
 
@@ -26,6 +29,9 @@ void setDrawnPath(QDomElement &element, const QPainterPath &path);
 double asDrawn(double value);
 QPainterPath asDrawn(const QPainterPath &path);
 QColor asDrawn(const QColor &color);
+
+//! The lengths of the dashes and gaps of a line; none for a solid one.
+QVector<double> drawnDashes(const SvgPaint &paint);
 
 //! Sets "fill" or "stroke", and its opacity where the colour is translucent.
 void setDrawnColor(QDomElement &element, const char *name, const QColor &color);
