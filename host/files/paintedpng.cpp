@@ -65,7 +65,8 @@ void putPiece(QIODevice *device, const QByteArray &name, const QByteArray &conte
 // The pixels as they stand in the file: each line behind the number of its filter, which is none.
 QByteArray linesOf(const QImage &image, bool hasAlpha)
 {
-    constexpr int linesAtOnce = 32;
+    constexpr int bytesAtOnce = 64 * 1024; // of more, Qt would make pieces for threads of its own
+    const int linesAtOnce = qMax(1, bytesAtOnce / int(image.bytesPerLine()));
     const int size = image.width() * (hasAlpha ? 4 : 3);
     QByteArray lines(image.height() * (size + 1), Qt::Uninitialized);
     char *place = lines.data();
