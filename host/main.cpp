@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 #ifdef WITH_MIMALLOC
-#    include <mimalloc.h>
+#include <mimalloc.h>
 #endif
 
 using namespace lessonhost;
@@ -63,19 +63,23 @@ void keepMemoryForAWhile()
 {
 #ifdef WITH_MIMALLOC
     constexpr long milliseconds = 500;
-#    if MI_MALLOC_VERSION < 210
+#if MI_MALLOC_VERSION < 210
     mi_option_set(mi_option_decommit_delay, milliseconds);
-#    else
+#else
     mi_option_set(mi_option_purge_delay, milliseconds);
-#    endif
+#endif
 #endif
 }
 
+using Application = std::unique_ptr<QCoreApplication, void (*)(QCoreApplication *)>;
+
 // Screens and fonts take half as much memory again as all the rest, so they come only where text is measured or drawn.
-std::unique_ptr<QCoreApplication> applicationFor(const Command &command, int &argc, char **argv)
+// They stay to the end of the process: as the application goes, it loads what is known of fonts, if only to give it
+// back.
+Application applicationFor(const Command &command, int &argc, char **argv)
 {
     if (!command.measuresText()) {
-        return std::make_unique<QCoreApplication>(argc, argv);
+        return {new QCoreApplication(argc, argv), [](QCoreApplication *application) { delete application; }};
     }
     // It draws without a display, whatever the desktop's programs are told to take.
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -84,7 +88,7 @@ std::unique_ptr<QCoreApplication> applicationFor(const Command &command, int &ar
         qputenv("FC_LANG", "en"); // or fontconfig would choose by the locale what goes into lessons
     }
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // points are as large as in browsers
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return {new QGuiApplication(argc, argv), [](QCoreApplication *) {}};
 }
 
 } // namespace
