@@ -158,7 +158,7 @@ private slots:
         QVERIFY(none.open(QIODevice::WriteOnly) && !writePaintedPng({}, &none));
     }
 
-    // Texts that are read without the parser, and those that are left to it: both ways they give the same tree.
+    // Texts that are read by expat, and those that are left to Qt's parser: both ways they give the same tree.
     void plainXmlAsParsed_data()
     {
         const auto row = [](const char *text, const char *reader) { QTest::newRow(text) << QByteArray(text) << QByteArray(reader); };
@@ -168,11 +168,12 @@ private slots:
              {"<?xml version='1.0' encoding='utf-8'?>\r\n<a b='1' c=\"'\"  d = '\"'\n/>", "<s:a s:b=''><c.d-e/>\n </s:a >\n",
               "<a b='&lt;&gt;&amp;&quot;&apos;&#10;&#x4e2d;&#13;&#9;' c='x\r\ny\tz\n\r'/>", "\xef\xbb\xbf<a>\xe4\xb8\xad>]]</a>",
               "<a>x&#32;<!-- - > -->\r\ny\rz&lt;<![CDATA[<&lt;>]]]>\n<![CDATA[\r]]><b/> t</a><!--\xe4\xb8\xad-->",
-              "<a b='\xf0\x9f\x98\x80\xef\xbc\x8c'>\xc2\xa0\x7f&#127;</a>"}) {
+              "<a b='\xf0\x9f\x98\x80\xef\xbc\x8c'>\xc2\xa0\x7f&#127;</a>", "<a>\xef\xbf\xbd&#x1F600;<![CDATA[&\r]]></a>",
+              "<?xml version='1.0' standalone='yes'?><a/>"}) {
             row(text, "plain");
         }
-        for (const char *text : {"<?pi?><a/>", "<a>\xef\xbf\xbd</a>", "<a>&#x1F600;</a>",
-                                 "<\xe4\xb8\xad/>", "<a><![CDATA[&\r]]></a>", "<a>\xef\xbb\xbf</a>"}) {
+        for (const char *text : {"<?pi?><a/>", "<?xml version='1.0' encoding='latin1'?><a>\xe4</a>", " <a/>",
+                                 "<\xe4\xb8\xad/>", "<a b='1' \xc3\xa4='2'/>", "<a>\xef\xbb\xbf</a>"}) {
             row(text, "parser");
         }
         for (const char *text :
@@ -183,9 +184,11 @@ private slots:
               "<?xml version='1.1'?><a/>", "<?xml version='1.0' encoding='utf-16'?><a/>", "<![CDATA[x]]><a/>"}) {
             row(text, "refused");
         }
+        QTest::newRow("long declaration")
+            << QByteArray("<?xml" + QByteArray(2000, ' ') + "version='1.0'?><a/>") << QByteArray("refused");
         QByteArray pieces("<a>"); // as they come from the disk
         for (int i = 0; i < 30; ++i) {
-            pieces += "<b c='" + QByteArray(i * 1000, 'x') + "'>" + QByteArray(i * 900, 'y') + "<![CDATA[z]]>&lt;</b>\n";
+            pieces += "<b c='" + QByteArray(i * 10000, 'x') + "'>" + QByteArray(i * 9000, 'y') + "<![CDATA[z]]>&lt;</b>\n";
         }
         QTest::newRow("pieces") << QByteArray(pieces + "</a>") << QByteArray("plain");
     }

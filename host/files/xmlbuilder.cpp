@@ -39,7 +39,7 @@ XmlBuilder::~XmlBuilder() = default;
 QDomDocument XmlBuilder::build()
 {
     const qint64 start = m_device->pos();
-    if (buildPlainly()) {
+    if (buildByExpat()) {
         return m_document;
     }
     m_device->seek(start);
@@ -47,43 +47,38 @@ QDomDocument XmlBuilder::build()
 }
 
 // False for what only the parser can read, and for what is refused: that is told with the line in which it stands.
-bool XmlBuilder::buildPlainly()
+bool XmlBuilder::buildByExpat()
 {
-    m_plain = std::make_unique<PlainXml>(m_device);
+    m_expat = std::make_unique<ExpatReader>(m_device, [this](ExpatReader::Step step) { take(step); });
     begin();
+    bool isRead = false;
     try {
-        PlainXml::Step step = m_plain->next();
-        while (step != PlainXml::Finished && step != PlainXml::Unknown) {
-            readPlain(step);
-            step = m_plain->next();
-        }
-        const bool isRead = step == PlainXml::Finished;
-        m_plain.reset();
-        return isRead;
+        isRead = m_expat->read();
     } catch (const LessonError &) {
-        m_plain.reset();
-        return false;
+        isRead = false;
     }
+    m_expat.reset();
+    return isRead;
 }
 
-void XmlBuilder::readPlain(PlainXml::Step step)
+void XmlBuilder::take(ExpatReader::Step step)
 {
-    if (step == PlainXml::Start) {
+    if (step == ExpatReader::Start) {
         flushText();
         enterElement();
         startElement();
-    } else if (step == PlainXml::End) {
+    } else if (step == ExpatReader::End) {
         flushText();
         endElement();
         --m_depth;
     } else if (m_depth > 0 && !makesNodes()) {
-        takeMemory(m_plain->textSize() * qint64(sizeof(QChar)));
-    } else if (m_depth > 0 && step == PlainXml::Section) {
+        takeMemory(m_expat->textSize() * qint64(sizeof(QChar)));
+    } else if (m_depth > 0 && step == ExpatReader::Section) {
         QString text;
-        m_plain->appendTo(text);
+        m_expat->appendTo(text);
         addSection(text);
     } else if (m_depth > 0) {
-        m_plain->appendTo(m_text);
+        m_expat->appendTo(m_text);
     }
 }
 
@@ -171,23 +166,23 @@ void XmlBuilder::takeStartElement()
 
 const QString &XmlBuilder::tagName() const
 {
-    return m_plain ? m_plain->name() : m_parsedName;
+    return m_expat ? m_expat->name() : m_parsedName;
 }
 
 const QVector<ReadAttribute> &XmlBuilder::attributes() const
 {
-    return m_plain ? m_plain->attributes() : m_parsedAttributes;
+    return m_expat ? m_expat->attributes() : m_parsedAttributes;
 }
 
 XmlTag XmlBuilder::takeTag()
 {
-    return m_plain ? m_plain->tag() : m_source->takeTag();
+    return m_expat ? m_expat->tag() : m_source->takeTag();
 }
 
 // A failure is told by the parser.
 int XmlBuilder::line() const
 {
-    return m_plain ? 0 : int(m_reader->lineNumber());
+    return m_expat ? 0 : int(m_reader->lineNumber());
 }
 
 // Before a node is made that takes so much.

@@ -2,7 +2,7 @@
 #ifndef XMLBUILDER_H
 #define XMLBUILDER_H
 
-#include "files/plainxml.h"
+#include "files/expatreader.h"
 #include "files/xmlloader.h"
 #include "files/xmlsource.h"
 
@@ -20,8 +20,8 @@ void checkXmlFileSize(qint64 size, const QString &displayName);
 
 /*!
  * Builds the DOM from a stream, so that the text is looked through once and everything that is refused is refused
- * before a node is made for it. A document that is written as most are is read without a parser. One that isn't, or is
- * refused, is begun again with the parser, which tells what is wrong with it.
+ * before a node is made for it. A document that is written as most are is read by expat. One that isn't, or is refused, is
+ * begun again with Qt's parser, which tells what is wrong with it.
  */
 class XmlBuilder
 {
@@ -32,7 +32,7 @@ public:
 
     //! Throws LessonError.
     QDomDocument build();
-    //! The same by the parser alone.
+    //! The same by Qt's parser alone.
     QDomDocument parse();
 
 protected:
@@ -67,8 +67,8 @@ protected:
     qint64 m_memoryBefore = 0; // without the element that was just read
 
 private:
-    bool buildPlainly();
-    void readPlain(PlainXml::Step step);
+    bool buildByExpat();
+    void take(ExpatReader::Step step);
     void takeStartElement();
     void characters();
     void refuseSource() const;
@@ -80,7 +80,7 @@ private:
     QString m_name;
     XmlBlanks m_blanks;
     QString m_text;
-    std::unique_ptr<PlainXml> m_plain; // null where the parser reads
+    std::unique_ptr<ExpatReader> m_expat; // null where the parser reads
     std::unique_ptr<XmlSource> m_source;
     std::unique_ptr<QXmlStreamReader> m_reader;
     QString m_parsedName; // of the element that the parser has just read

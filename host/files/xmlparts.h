@@ -3,7 +3,7 @@
 #define XMLPARTS_H
 
 #include "files/inputfile.h"
-#include "files/plainxml.h"
+#include "files/expatreader.h"
 
 #include <QDomElement>
 #include <QVector>
