@@ -179,6 +179,14 @@ IwbPageWriter::IwbPageWriter(const IwbItemWriter::Setting &setting)
 {
 }
 
+// What stands around an element, in it and behind it is called as it is, with an ending.
+void IwbPageWriter::setUniqueInDocument()
+{
+    m_isUniqueInDocument = true;
+    m_ids = UniqueIds({QLatin1String("_link"), QLatin1String(soundSign), QLatin1String(filmSign),
+                       QLatin1String(lineFill), QLatin1String(coverBefore)});
+}
+
 void IwbPageWriter::start(const QJsonObject &presentation, const QJsonObject &firstSlide)
 {
     m_pageSize = QSizeF(itemNumber(presentation.value(PresentationKeys::width)),
@@ -596,14 +604,9 @@ QString IwbPageWriter::idOf(const QJsonObject &item)
                                                   .arg(QLatin1String(markedSpan), QLatin1String(coverBefore),
                                                        QLatin1String(slideGame), QLatin1String(partOfItem)));
     id = otherName.match(id).hasMatch() ? id + QLatin1String("_item") : id;
-    constexpr const char *endings[] = {"_link", soundSign, filmSign, lineFill, coverBefore};
     QString own = m_ids.take(id);
-    const auto isTaken = [&](const char *ending) { return m_ids.has(own + QLatin1String(ending)); };
-    while (std::any_of(std::begin(endings), std::end(endings), isTaken)) {
+    while (!m_ids.takeEndings(own)) {
         own = m_ids.take(id);
-    }
-    for (const char *ending : endings) {
-        m_ids.take(own + QLatin1String(ending));
     }
     return own;
 }

@@ -59,7 +59,7 @@ public:
 
     //! Records know elements by their identifiers, whatever page they stand on, and links know pages so. Without this,
     //! what items on two pages call themselves is kept.
-    void setUniqueInDocument() { m_isUniqueInDocument = true; }
+    void setUniqueInDocument();
 
     //! Items without a form become elements of other forms where a few show the same, and else pictures; null for
     //! neither. It has to live as long. makesPictures: false for elements alone.
