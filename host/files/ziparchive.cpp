@@ -369,19 +369,6 @@ void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry,
 
 } // namespace
 
-/*!
- * An archive that doesn't ask who writes it, in the list of users that may be elsewhere: nothing of that goes into it.
- */
-class ZipWriter::NobodysZip : public KZip
-{
-public:
-    explicit NobodysZip(QIODevice *device)
-        : KZip(device)
-    {
-        setRootDir(new KArchiveDirectory(this, QStringLiteral("/"), 040755, {}, {}, {}, {})); // which it deletes
-    }
-};
-
 bool isPackedTooTightly(qint64 size, qint64 packedSize)
 {
     return size > harmlessSize && size / maximumRatio > packedSize;
@@ -419,7 +406,7 @@ QStringList namesInZip(const QString &archive)
 ZipWriter::ZipWriter(OutputFile &archive, const QString &shownName)
     : m_archive(archive)
     , m_shownName(shownName)
-    , m_zip(std::make_unique<NobodysZip>(&archive))
+    , m_zip(std::make_unique<KZip>(&archive))
     , m_isGood(m_zip->open(QIODevice::WriteOnly))
 {
 }

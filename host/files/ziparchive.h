@@ -11,6 +11,8 @@
 #include <functional>
 #include <memory>
 
+class KZip;
+
 namespace lessonhost {
 
 class OutputFile;
@@ -51,11 +53,9 @@ public:
     void finish();
 
 private:
-    class NobodysZip;
-
     OutputFile &m_archive;
     QString m_shownName;
-    std::unique_ptr<NobodysZip> m_zip;
+    std::unique_ptr<KZip> m_zip;
     bool m_isGood;
 };
 
