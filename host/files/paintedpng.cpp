@@ -18,7 +18,7 @@ namespace {
 // At this one, drawings are smaller than with any level of zlib but the last, and higher ones take twice as long.
 constexpr int packingLevel = 6;
 // Larger ones would be twice in memory.
-constexpr qint64 mostPixels = qint64(16) * 1024 * 1024;
+constexpr qint64 mostPackedPixels = qint64(16) * 1024 * 1024;
 
 bool isNear(QRgb pixel, QRgb other)
 {
@@ -105,7 +105,7 @@ bool writePaintedPng(const QImage &image, QIODevice *device)
         image.format() == QImage::Format_ARGB32_Premultiplied || image.format() == QImage::Format_ARGB32;
     const bool isKnown = hasAlpha || image.format() == QImage::Format_RGB32;
     // Shading needs filters, which the library of Qt has.
-    if (!isKnown || qint64(image.width()) * image.height() > mostPixels || isShaded(image)) {
+    if (!isKnown || qint64(image.width()) * image.height() > mostPackedPixels || isShaded(image)) {
         return image.save(device, "png");
     }
     const QByteArray pixels = packed(linesOf(image, hasAlpha));

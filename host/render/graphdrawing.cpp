@@ -43,9 +43,9 @@ struct Shape
     const char *outline;
     int corners = 0; //!< as many points in Control are the shape's corners
     bool isOpen = false; //!< a line that encloses nothing to be filled
+    bool hasKinds = false; //!< by ArtObj_Type, of which 0 is the outline
     const char *lineKey = "LineColor";
     const char *fillKey = "ArtObj_Color";
-    bool hasKinds = false; //!< by ArtObj_Type, of which 0 is the outline
 };
 
 constexpr char leftBrace[] =
@@ -101,26 +101,26 @@ const Shape shapes[] = {
      ".795 .752 C .932 .905 .620 1.073 .565 .876 C .572 1.080 .224 1.010 .310 .825 C .182 .985 -.039 .709 "
      ".147 .622 C -.055 .663 -.045 .311 .154 .363 C -.028 .266 .207 .002 .326 .169 C .250 -.021 .601 -.073 "
      ".584 .130 Z",
-     0, false, "ArtObj_Color1", "ArtObj_Color0"},
+     0, false, false, "ArtObj_Color1", "ArtObj_Color0"},
     {"ZQShapeFeiji", .4, .3, .6, .7,
      "M .5 0 C .54 0 .57 .08 .57 .16 L .57 .36 L 1 .62 L 1 .73 L .57 .61 L .55 .83 L .7 .93 L .7 1 L .5 "
      ".95 L .3 1 L .3 .93 L .45 .83 L .43 .61 L 0 .73 L 0 .62 L .43 .36 L .43 .16 C .43 .08 .46 0 .5 0 Z",
-     0, false, "ArtObj_Color0", "ArtObj_Color1"},
+     0, false, false, "ArtObj_Color0", "ArtObj_Color1"},
     {"ZQShapeShizixing", 0, .25, 1, .75,
      "M .5-.25s 0 L .5+.25s 0 L .5+.25s .5-.25s L 1 .5-.25s L 1 .5+.25s L .5+.25s .5+.25s L .5+.25s 1 L .5-.25s 1 "
      "L .5-.25s .5+.25s L 0 .5+.25s L 0 .5-.25s L .5-.25s .5-.25s Z",
-     0, false, "ArtObj_Color1", "ArtObj_Color0"},
+     0, false, false, "ArtObj_Color1", "ArtObj_Color0"},
     {"ZQShapeGeshijiantou", 0, .25, .8, .75, "M 0 .25 L 1-.5s .25 L 1-.5s 0 L 1 .5 L 1-.5s 1 L 1-.5s .75 L 0 .75 Z", 0,
-     false, "ArtObj_Color1", "ArtObj_Color0", true},
+     false, true, "ArtObj_Color1", "ArtObj_Color0"},
     {"ZQShapeJiantoubiaozhu", 0, 0, .65, 1,
      "M 0 0 L .65 0 L .65 .4 L 1-.25s .4 L 1-.25s .25 L 1 .5 L 1-.25s .75 L 1-.25s .6 L .65 .6 L .65 1 L 0 1 Z", 0,
-     false, "ArtObj_Color1", "ArtObj_Color0", true},
-    {"ZQShapeDanbianjiantou", 0, 0, 0, 0, "M 0 1 L 1 1 L 1-1s 0", 0, true, "ArtObj_Color0", "", true},
-    {"ZQShapeYiduiduoshu", 0, 0, 0, 0, "M 0 .5 L 1 .5 M 1 0 L .5 0 L .5 1 L 1 1", 0, true, "ArtObj_Color"},
-    {"ZQShapeJiankuohao", 0, 0, 1, 1, "M 1 0 L 0 .5 L 1 1", 0, true, "ArtObj_Color0"},
-    {"ZQShapeFangkuohao", 0, 0, 1, 1, leftBracket, 0, true, "ArtObj_Color0"},
-    {"ZQShapeYuankuohao", 0, 0, 1, 1, "M 1 0 C .45 0 0 .22 0 .5 C 0 .78 .45 1 1 1", 0, true, "ArtObj_Color0"},
-    {"ZQShapeHuakuohao", 0, 0, 1, 1, leftBrace, 0, true, "ArtObj_Color0"},
+     false, true, "ArtObj_Color1", "ArtObj_Color0"},
+    {"ZQShapeDanbianjiantou", 0, 0, 0, 0, "M 0 1 L 1 1 L 1-1s 0", 0, true, true, "ArtObj_Color0", ""},
+    {"ZQShapeYiduiduoshu", 0, 0, 0, 0, "M 0 .5 L 1 .5 M 1 0 L .5 0 L .5 1 L 1 1", 0, true, false, "ArtObj_Color"},
+    {"ZQShapeJiankuohao", 0, 0, 1, 1, "M 1 0 L 0 .5 L 1 1", 0, true, false, "ArtObj_Color0"},
+    {"ZQShapeFangkuohao", 0, 0, 1, 1, leftBracket, 0, true, false, "ArtObj_Color0"},
+    {"ZQShapeYuankuohao", 0, 0, 1, 1, "M 1 0 C .45 0 0 .22 0 .5 C 0 .78 .45 1 1 1", 0, true, false, "ArtObj_Color0"},
+    {"ZQShapeHuakuohao", 0, 0, 1, 1, leftBrace, 0, true, false, "ArtObj_Color0"},
 };
 
 const Shape *shapeOf(const QString &type)
