@@ -10,6 +10,10 @@
 #include <cstdio>
 #include <thread>
 
+#ifdef WITH_MIMALLOC
+#include <mimalloc.h>
+#endif
+
 // Converts a lesson into IWB as lessonconv does, checked, but draws nothing: an item that the format has no form for is
 // left out. What that takes less than lessonconv is what drawings cost.
 //
@@ -19,6 +23,9 @@ using namespace lessonhost;
 
 int main(int argc, char **argv)
 {
+#ifdef WITH_MIMALLOC
+    mi_version(); // or the linker would leave the allocator out
+#endif
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
