@@ -429,6 +429,7 @@ QDomElement IwbPageWriter::write(const PlacedItem &item, WrittenItem &row, const
         if (canMove(moved, view) && !inner.isNull()) {
             moveOnPage(inner, moved);
             row.placed = moved;
+            row.isMoved = !item.placed.isIdentity();
         }
     }
     const bool isLine = isInk(view.type()) && !isDrawn; // that was asked to be left out, or has no points

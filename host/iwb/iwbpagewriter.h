@@ -30,6 +30,7 @@ public:
         bool isOutlined = false; //!< its elements show it, and are of other items' kinds
         int elements = 1; //!< how many of the page stand for it
         QTransform placed; //!< from where the item says that it is to where its element is
+        bool isMoved = false; //!< so, by the groups around it and not only by its own flips
         QPolygonF line; //!< of a stroke that has a few of its points; empty for others
         int top = 0; //!< which of the slide's own items it is, or stands in
     };

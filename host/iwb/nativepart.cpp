@@ -80,7 +80,7 @@ QJsonObject partOf(const IwbPageWriter::WrittenItem &written, bool isWhole, cons
         part.insert(Keys::mark, marksOf(all, records));
     }
     // What its group has turned stands elsewhere by itself.
-    if (!isWhole && written.placed.isIdentity()) {
+    if (!isWhole && !written.isMoved) {
         part.insert(Keys::item, written.item);
     }
     return part;
