@@ -125,6 +125,10 @@ void IwbReader::moveLinks(QJsonArray &items, const SlideLosses &losses) const
 
 QJsonObject IwbReader::movedLinks(QJsonObject item, const SlideLosses &losses) const
 {
+    if (item.contains(readOfPage)) {
+        item.remove(readOfPage);
+        return item;
+    }
     if (item.value(HostKeys::children).isArray()) {
         QJsonArray children = item.value(HostKeys::children).toArray();
         moveLinks(children, losses);
@@ -308,7 +312,7 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
     if (native) {
         const bool isUntouched = m_native.isUntouched() || m_intactPages.contains(index);
         PageRestorer restorer(m_content, m_slides, m_package.recordTexts(), isUntouched);
-        slide = restorer.restore(index, *native, losses);
+        slide = restorer.restore(index, *native, losses, m_arePagesMoved);
         if (restorer.isAsMarked()) {
             m_intactPages.insert(index);
         }

@@ -106,9 +106,10 @@ PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader,
 {
 }
 
-LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses)
+LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses, bool tellsRead)
 {
     m_native = &native;
+    m_tellsRead = tellsRead;
     m_layers = m_content.layers(index);
     lookAtPage();
     LessonSlide slide;
@@ -407,6 +408,9 @@ void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &l
         m_content.page(m_layers, m_children.mid(begin, end - begin), m_backgrounds), number, losses, ids);
     for (int i = 0; i < found.slide.items.size(); ++i) {
         Placed placed{begin, found.slide.items.at(i).toObject(), found.groups.at(i), {}, false, false};
+        if (m_tellsRead) {
+            placed.item.insert(readOfPage, true);
+        }
         const QString &elementId = found.elementIds.at(i);
         const int lost = m_lostIds.value(itemOfPart(elementId), -1);
         if (lost >= 0 && itemOfPart(elementId) != elementId) {

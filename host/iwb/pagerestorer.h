@@ -8,6 +8,8 @@
 
 namespace lessonhost {
 
+const QLatin1String readOfPage("ReadOfPage");
+
 /*!
  * Makes a slide of a page that another program may have worked on since it was written: items whose elements are still
  * there unchanged are as they were, the others are what the page shows now.
@@ -19,8 +21,9 @@ public:
     PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, RecordText> &records,
                  bool isUntouched);
 
-    //! ID is that of the slide as it was. index: of the page, from 0.
-    LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses);
+    //! ID is that of the slide as it was. index: of the page, from 0. tellsRead: items that are read of the page have a
+    //! key readOfPage, since their links to slides are those of its document already.
+    LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses, bool tellsRead);
     //! Whether each element that was asked for has the mark that it was written with.
     bool isAsMarked() const { return m_isAsMarked; }
 
@@ -82,6 +85,7 @@ private:
     const bool m_isUntouched;
 
     const NativePage *m_native = nullptr;
+    bool m_tellsRead = false;
     QVector<XmlPart> m_layers; // of the page
     QVector<QDomElement> m_children; // of these
     QHash<QString, QVector<int>> m_byId; // the children that stand for an identifier
