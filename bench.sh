@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Builds the benchmarks and runs them: items, growth, drawings, whole lessons. At the end stands a table of all marks.
-# Takes three minutes of a quiet machine besides building. With a word: runs only the benchmark of that name, and hands
+# Takes two minutes of a quiet machine besides building. With a word: runs only the benchmark of that name, and hands
 # it the other arguments.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
