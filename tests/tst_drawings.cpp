@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "canvas/picturestore.h"
+#include "canvas/plainoutlines.h"
+#include "drawings/drawings.h"
+#include "drawings/symbolfile.h"
 #include "hostfixture.h"
 #include "itemfamilies.h"
 #include "itempictures.h"
 #include "lesson/itemview.h"
 #include "lesson/planegeometry.h"
-#include "render/drawings.h"
-#include "render/picturestore.h"
-#include "render/plainoutlines.h"
-#include "render/symbolfile.h"
 #include "typicalitems.h"
 
 #include <QImage>

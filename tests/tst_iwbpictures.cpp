@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "canvas/plainoutlines.h"
 #include "hostfixture.h"
-#include "render/plainoutlines.h"
 #include "testtable.h"
 
 #include <QDir>

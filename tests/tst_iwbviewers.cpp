@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "canvas/picturestore.h"
 #include "hostfixture.h"
 #include "render/pageprinter.h"
-#include "render/picturestore.h"
 #include "render/slidepictures.h"
 
 #include <QDir>

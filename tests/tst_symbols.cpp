@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "canvas/picturestore.h"
+#include "drawings/levelliquid.h"
+#include "drawings/symboldrawing.h"
+#include "drawings/symbolfile.h"
 #include "hostfixture.h"
 #include "itemfamilies.h"
 #include "iwb/iwbmedia.h"
-#include "render/levelliquid.h"
-#include "render/picturestore.h"
-#include "render/symboldrawing.h"
-#include "render/symbolfile.h"
 #include "svg/svgpath.h"
 #include "svg/svgvalues.h"
 

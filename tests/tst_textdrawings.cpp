@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "canvas/canvas.h"
+#include "canvas/labellines.h"
+#include "canvas/picturestore.h"
+#include "drawings/languagedrawing.h"
 #include "hostfixture.h"
 #include "iwb/iwbmedia.h"
-#include "render/canvas.h"
-#include "render/labellines.h"
-#include "render/languagedrawing.h"
-#include "render/picturestore.h"
 
 #include <QDomDocument>
 #include <QFontMetricsF>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "canvas/picturestore.h"
+#include "drawings/activitydrawing.h"
+#include "drawings/coverdrawing.h"
+#include "drawings/exercisedrawing.h"
+#include "drawings/gamedrawing.h"
+#include "drawings/instrumentdrawing.h"
 #include "hostfixture.h"
 #include "iwb/iwbmedia.h"
-#include "render/activitydrawing.h"
-#include "render/coverdrawing.h"
-#include "render/exercisedrawing.h"
-#include "render/gamedrawing.h"
-#include "render/instrumentdrawing.h"
-#include "render/picturestore.h"
 
 #include <QDomDocument>
 #include <QtTest>

@@ -220,10 +220,10 @@ constexpr FamilyText familyTexts[] = {
      "figure "
      "that tells no type: its points or its box in its colours, and its text."},
     {"Physics",
-     "The symbol of the type (`host/render/symbols`) in the item's box, with its colours, states and texts. Keys whose "
+     "The symbol of the type (`host/drawings/symbols`) in the item's box, with its colours, states and texts. Keys whose "
      "meaning neither their name nor their label tells change nothing."},
     {"Chemistry",
-     "The symbol of the type (`host/render/symbols`) in the item's box, with its colours, states and texts. Liquids "
+     "The symbol of the type (`host/drawings/symbols`) in the item's box, with its colours, states and texts. Liquids "
      "stay "
      "level in vessels that are turned. Keys whose meaning neither their name nor their label tells change nothing."},
     {"Vector shapes",

@@ -2,8 +2,8 @@
 #ifndef ITEMPICTURES_H
 #define ITEMPICTURES_H
 
+#include "canvas/picturestore.h"
 #include "render/pageprinter.h"
-#include "render/picturestore.h"
 #include "render/slidepictures.h"
 
 #include <QJsonArray>

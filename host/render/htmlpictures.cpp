@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/htmlpictures.h"
 
+#include "canvas/picturestore.h"
 #include "files/xmltext.h"
 #include "lesson/itemvalues.h"
-#include "render/picturestore.h"
 #include "render/slidelayers.h"
 
 namespace lessonhost {

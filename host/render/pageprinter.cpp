@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/pageprinter.h"
 
-#include "render/picturestore.h"
+#include "canvas/picturestore.h"
 #include "render/slidelayers.h"
 #include "render/slidepictures.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/pdfoutput.h"
 
+#include "canvas/picturestore.h"
 #include "files/lessonerror.h"
 #include "render/pdflibrary.h"
-#include "render/picturestore.h"
 #include "render/slidelayers.h"
 #include "render/slidepictures.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/rendering.h"
 
+#include "canvas/picturestore.h"
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
 #include "lesson/itemkeys.h"
@@ -9,7 +10,6 @@
 #include "render/differencepage.h"
 #include "render/pagefiles.h"
 #include "render/pictureoutput.h"
-#include "render/picturestore.h"
 #include "render/slidedifference.h"
 #include "render/slidenotice.h"
 #include "render/slidepictures.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/slidefiles.h"
 
+#include "canvas/picturestore.h"
 #include "files/lessonerror.h"
 #include "files/paintedpng.h"
-#include "render/picturestore.h"
 #include "render/slidepictures.h"
 
 #include <QDir>

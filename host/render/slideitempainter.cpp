@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "render/slideitempainter.h"
 
+#include "canvas/plainoutlines.h"
+#include "canvas/plainsvg.h"
+#include "canvas/surelyseen.h"
+#include "drawings/drawings.h"
 #include "files/domtools.h"
 #include "lesson/itemkeys.h"
 #include "lesson/itemvalues.h"
-#include "render/drawings.h"
 #include "render/drawntexts.h"
-#include "render/plainoutlines.h"
-#include "render/plainsvg.h"
 #include "render/slidepictures.h"
-#include "render/surelyseen.h"
 
 #include <QPainter>
 

@@ -2,11 +2,11 @@
 #ifndef SLIDEITEMPAINTER_H
 #define SLIDEITEMPAINTER_H
 
+#include "canvas/picturestore.h"
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagewriter.h"
 #include "lesson/lesson.h"
 #include "render/pageprinter.h"
-#include "render/picturestore.h"
 
 #include <QByteArray>
 #include <QImage>

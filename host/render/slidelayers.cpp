@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/slidelayers.h"
 
+#include "canvas/picturestore.h"
 #include "lesson/planegeometry.h"
-#include "render/picturestore.h"
 #include "svg/svgpath.h"
 #include "svg/svgvalues.h"
 

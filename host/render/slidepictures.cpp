@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "render/slidepictures.h"
 
+#include "canvas/plainsvg.h"
+#include "drawings/activitydrawing.h"
+#include "drawings/drawings.h"
+#include "drawings/shownitems.h"
 #include "lesson/closedtext.h"
 #include "lesson/itemtypes.h"
 #include "lesson/itemview.h"
-#include "render/activitydrawing.h"
-#include "render/drawings.h"
 #include "render/drawntexts.h"
 #include "render/itemlabel.h"
-#include "render/plainsvg.h"
 #include "render/playsteps.h"
-#include "render/shownitems.h"
 #include "render/slideplay.h"
 
 #include <algorithm>

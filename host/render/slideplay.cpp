@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "render/slideplay.h"
 
+#include "drawings/activitydrawing.h"
+#include "drawings/coverdrawing.h"
+#include "drawings/instrumentdrawing.h"
+#include "drawings/shownitems.h"
 #include "iwb/iwbmedia.h"
 #include "lesson/closedtext.h"
 #include "lesson/curtain.h"
 #include "lesson/itemview.h"
 #include "lesson/listentries.h"
-#include "render/activitydrawing.h"
-#include "render/coverdrawing.h"
-#include "render/instrumentdrawing.h"
 #include "render/itemlabel.h"
 #include "render/pagefiles.h"
 #include "render/pagelinks.h"
 #include "render/playsteps.h"
-#include "render/shownitems.h"
 
 #include <QHash>
 
