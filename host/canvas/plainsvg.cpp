@@ -532,61 +532,19 @@ void PlainSvg::addLabel(const Sentence &sentence, const QRectF &box, double pixe
     }
     QRectF place;
     if (!label.lines.isEmpty()) {
-        place = freePlaceIn(box, isUpright ? label.extent().transposed() : label.extent());
+        place = m_labels.freeWithin(box, isUpright ? label.extent().transposed() : label.extent());
     }
     if (place.isNull()) {
         label = linesThatFit(shown, {smallest * 24, smallest * 1.3}, smallest, smallest);
-        place = freePlaceBeside(box, label.extent());
+        place = m_labels.freeBeside(box, label.extent(), QRectF(QPointF(), m_size));
     }
     if (!place.isNull()) {
-        m_labels.append(place);
+        m_labels.take(place);
         QDomElement group = putLabel(label, place, isUpright && place.width() < place.height(), color);
         if (text != sentence.english()) {
             group.setAttribute(QStringLiteral("xml:lang"), languageTag(spokenLanguage()));
         }
     }
-}
-
-bool PlainSvg::isFree(const QRectF &place) const
-{
-    return std::none_of(m_labels.cbegin(), m_labels.cend(),
-                        [&place](const QRectF &label) { return label.intersects(place); });
-}
-
-// In the middle of the box or as near to it as nothing stands. Null where all is taken.
-QRectF PlainSvg::freePlaceIn(const QRectF &box, const QSizeF &size) const
-{
-    constexpr int steps = 8;
-    QRectF middle(QPointF(), size);
-    middle.moveCenter(box.center());
-    const double roomX = qMax(0.0, (box.width() - size.width()) / 2);
-    const double roomY = qMax(0.0, (box.height() - size.height()) / 2);
-    for (int i = 0; i <= steps; ++i) {
-        for (const double part : {double(i) / steps, -double(i) / steps}) {
-            for (const QPointF &offset : {QPointF(0, roomY * part), QPointF(roomX * part, 0)}) {
-                if (isFree(middle.translated(offset))) {
-                    return middle.translated(offset);
-                }
-            }
-        }
-    }
-    return {};
-}
-
-// To the right of the box, to its left, below or above, on the page.
-QRectF PlainSvg::freePlaceBeside(const QRectF &box, const QSizeF &size) const
-{
-    constexpr double gap = 3;
-    const QPointF middle = box.center() - QPointF(size.width(), size.height()) / 2;
-    for (const QPointF &corner :
-         {QPointF(box.right() + gap, middle.y()), QPointF(box.left() - gap - size.width(), middle.y()),
-          QPointF(middle.x(), box.bottom() + gap), QPointF(middle.x(), box.top() - gap - size.height())}) {
-        const QRectF place(corner, size);
-        if (!size.isEmpty() && QRectF(QPointF(), m_size).contains(place) && isFree(place)) {
-            return place;
-        }
-    }
-    return {};
 }
 
 QDomElement PlainSvg::putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color)

@@ -3,6 +3,7 @@
 #define PLAINSVG_H
 
 #include "canvas/innersvg.h"
+#include "canvas/labelplaces.h"
 #include "files/pictures.h"
 #include "sentences/sentence.h"
 #include "svg/svgstyle.h"
@@ -173,9 +174,6 @@ private:
     QDomElement appendImage(const QString &address);
     bool addPicture(const QDomElement &element);
     void placePictures(const QDomElement &drawing, const QHash<QString, QString> &files);
-    bool isFree(const QRectF &place) const;
-    QRectF freePlaceIn(const QRectF &box, const QSizeF &size) const;
-    QRectF freePlaceBeside(const QRectF &box, const QSizeF &size) const;
     QDomElement putLabel(const LabelLines &label, const QRectF &place, bool isUpright, const QColor &color);
 
     QSizeF m_size;
@@ -184,7 +182,7 @@ private:
     PixelBudget m_pixels;
     QDomDocument m_document;
     QDomElement m_svg;
-    QVector<QRectF> m_labels; // where they are
+    LabelPlaces m_labels;
     QTransform m_transform;
     QDomElement m_group; // of the item that is added
     QDomElement m_scope; // holds what was added last under a transform
