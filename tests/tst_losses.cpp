@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "documentdifference.h"
 #include "hostfixture.h"
 #include "lessondifference.h"
 #include "randomlesson.h"
