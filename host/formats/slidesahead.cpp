@@ -15,6 +15,7 @@ LessonContext withReport(LessonContext context, LossReport *own)
 
 SlidesAhead::SlidesAhead(const LessonFormat &format, const QString &path, const LessonContext &context)
     : m_losses(context.losses)
+    , m_own(context.losses ? context.losses->another() : LossReport())
     , m_reader(format.open(path, withReport(context, &m_own)))
     , m_presentation(m_reader->presentation())
     , m_count(m_reader->slideCount())
@@ -39,7 +40,11 @@ LessonSlide SlidesAhead::read(int index)
     LessonSlide slide = m_reader->slide(index);
     if (m_losses) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_told[index] += m_own.takeEntries();
+        auto told = m_told.find(index);
+        if (told == m_told.end()) {
+            told = m_told.insert(index, m_own.entries().another());
+        }
+        told->append(m_own.takeEntries());
     }
     return slide;
 }

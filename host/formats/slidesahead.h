@@ -36,7 +36,7 @@ private:
     QJsonObject m_presentation;
     int m_count;
     std::mutex m_mutex; // of what is below
-    QHash<int, QVector<Loss>> m_told; // of slides that are read, until they are asked for
+    QHash<int, LossList> m_told; // of slides that are read, until they are asked for
     ReadAhead<LessonSlide> m_slides{true, [this](int index) { return read(index); }};
 };
 

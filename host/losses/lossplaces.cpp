@@ -11,7 +11,7 @@ LossReport *LossPlaces::next()
     if (!m_report) {
         return nullptr;
     }
-    m_places.push_back({m_report->entries().size(), std::make_unique<LossReport>()});
+    m_places.push_back({m_report->entries().size(), std::make_unique<LossReport>(m_report->another())});
     return m_places.back().told.get();
 }
 
@@ -23,18 +23,14 @@ void LossPlaces::finish()
     if (std::all_of(places.begin(), places.end(), isEmpty)) {
         return;
     }
-    const QVector<Loss> told = m_report->takeEntries();
+    const LossList told = m_report->takeEntries();
     int done = 0;
-    const auto addUntil = [&](int end) {
-        for (; done < end; ++done) {
-            m_report->add(told.at(done));
-        }
-    };
     for (const Place &place : places) {
-        addUntil(place.before);
+        m_report->add(told.mid(done, place.before - done));
         m_report->add(place.told->takeEntries());
+        done = place.before;
     }
-    addUntil(told.size());
+    m_report->add(told.mid(done));
 }
 
 } // namespace lessonhost

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "losses/lossreport.h"
 
-#include "lesson/keynames.h"
-
 #include <QHash>
 #include <QJsonArray>
 #include <QMap>
@@ -10,7 +8,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <iterator>
 #include <set>
 #include <utility>
 
@@ -67,7 +64,7 @@ Sentence counted(const QMap<QString, int> &counts)
     return lossNames(texts);
 }
 
-Sentence countedByType(const QVector<Loss> &losses)
+Sentence countedByType(const LossList &losses)
 {
     QMap<QString, int> counts;
     for (const Loss &loss : losses) {
@@ -84,7 +81,7 @@ bool isOfItem(const Loss &loss)
 }
 
 // "16 Type, 12 ArtObj_Fill", the most frequent first: for keys that items of many types lose.
-Sentence countedByKey(const QVector<Loss> &losses)
+Sentence countedByKey(const LossList &losses)
 {
     QMap<QString, int> counts;
     for (const Loss &loss : losses) {
@@ -94,21 +91,18 @@ Sentence countedByKey(const QVector<Loss> &losses)
     return counted(counts);
 }
 
-Sentence listedLosses(const QVector<Loss> &losses, Details details = Details::Hidden);
+Sentence listedLosses(const LossList &losses, Details details = Details::Hidden);
 
 // Where there is much to name: what slides and the presentation lose as always, and the keys of items by their number.
-Sentence listedByKey(const QVector<Loss> &losses)
+Sentence listedByKey(const LossList &losses)
 {
-    QVector<Loss> others;
-    QVector<Loss> items;
-    std::partition_copy(losses.cbegin(), losses.cend(), std::back_inserter(items), std::back_inserter(others),
-                        isOfItem);
-    const Sentence ofItems = say("of items %1").arg(countedByKey(items));
+    const LossList others = losses.filtered([](const Loss &loss) { return !isOfItem(loss); });
+    const Sentence ofItems = say("of items %1").arg(countedByKey(losses.filtered(isOfItem)));
     return others.isEmpty() ? ofItems : say("%1, %2").arg(listedLosses(others), ofItems);
 }
 
 // What is the same but for its slide is named once, in the order in which it came up.
-Sentence listedLosses(const QVector<Loss> &losses, Details details)
+Sentence listedLosses(const LossList &losses, Details details)
 {
     struct Group
     {
@@ -132,7 +126,7 @@ Sentence listedLosses(const QVector<Loss> &losses, Details details)
         ++group.count;
     }
     const bool isMuch = groups.size() > maximumNamed && details == Details::Hidden;
-    if (isMuch && std::any_of(losses.cbegin(), losses.cend(), isOfItem)) {
+    if (isMuch && std::any_of(losses.begin(), losses.end(), isOfItem)) {
         return listedByKey(losses);
     }
     Sentences texts;
@@ -147,7 +141,7 @@ Sentence listedLosses(const QVector<Loss> &losses, Details details)
 }
 
 // What a line about losses of a kind names.
-Sentence listedOf(Loss::Kind kind, const QVector<Loss> &losses)
+Sentence listedOf(Loss::Kind kind, const LossList &losses)
 {
     switch (kind) {
     case Loss::Value:
@@ -178,46 +172,6 @@ QString nameInTables(const Loss &loss)
 }
 
 } // namespace
-
-QLatin1String lossKindName(Loss::Kind kind)
-{
-    switch (kind) {
-    case Loss::Value:
-        return QLatin1String("value");
-    case Loss::Item:
-        return QLatin1String("item");
-    case Loss::Kept:
-        return QLatin1String("kept");
-    case Loss::File:
-        return QLatin1String("file");
-    case Loss::AsPicture:
-        return QLatin1String("asPicture");
-    case Loss::NotShown:
-        return QLatin1String("notShown");
-    case Loss::Otherwise:
-        return QLatin1String("otherwise");
-    case Loss::Absent:
-        return QLatin1String("absent");
-    case Loss::Emptied:
-        return QLatin1String("emptied");
-    case Loss::EmptiedElsewhere:
-        return QLatin1String("emptiedElsewhere");
-    case Loss::Changed:
-        return QLatin1String("changed");
-    case Loss::Note:
-        break;
-    }
-    return QLatin1String("note");
-}
-
-const QVector<Loss::Kind> &lossKinds()
-{
-    static const QVector<Loss::Kind> kinds{
-        Loss::Value,    Loss::Item,      Loss::File,             Loss::Emptied, Loss::Absent, Loss::AsPicture,
-        Loss::NotShown, Loss::Otherwise, Loss::EmptiedElsewhere, Loss::Changed, Loss::Kept,
-        Loss::Note};
-    return kinds;
-}
 
 Sentence lossNames(const Sentences &names)
 {
@@ -259,41 +213,6 @@ Sentence lossLine(Loss::Kind kind, qint64 count, const Sentence &listed, const Q
     return say("Note: %1").arg(listed);
 }
 
-bool isLoss(Loss::Kind kind)
-{
-    return kind == Loss::Value || kind == Loss::Item || kind == Loss::File;
-}
-
-bool isElsewhere(Loss::Kind kind)
-{
-    return kind == Loss::AsPicture || kind == Loss::NotShown || kind == Loss::Otherwise
-        || kind == Loss::EmptiedElsewhere;
-}
-
-Loss::Group groupOf(const Loss &loss)
-{
-    switch (loss.kind) {
-    case Loss::Value:
-    case Loss::Otherwise:
-        return !loss.isFile && (loss.isShown || isInternalPlace(loss.key)) ? Loss::Internal : Loss::Different;
-    case Loss::Item:
-    case Loss::NotShown:
-        return loss.isShown ? Loss::Different : Loss::Missing;
-    case Loss::AsPicture:
-        return Loss::Different;
-    case Loss::File:
-    case Loss::Absent:
-    case Loss::Emptied:
-    case Loss::EmptiedElsewhere:
-        return Loss::Missing;
-    case Loss::Kept:
-    case Loss::Changed:
-    case Loss::Note:
-        break;
-    }
-    return Loss::Told;
-}
-
 Sentence onSlides(const Sentence &name, const std::set<int> &slides)
 {
     if (slides.empty() || *slides.rbegin() == 0) {
@@ -309,47 +228,16 @@ Sentence onSlides(const Sentence &name, const std::set<int> &slides)
                                      : sayNumber("%1 on %n slides from %2 to %3", count).arg(name, first, last);
 }
 
-void LossReport::add(const Loss &loss)
+int LossReport::lossCount() const
 {
-    // The entries of a large lesson differ in little but their places.
-    m_entries.append({loss.kind, loss.slide, shared(loss.itemType), loss.itemId, shared(loss.key), shared(loss.detail),
-                      loss.isShown, loss.isFile});
-    if (isLoss(loss.kind)) {
-        ++m_lossCount;
-    }
-}
-
-void LossReport::add(const QVector<Loss> &losses)
-{
-    for (const Loss &loss : losses) {
-        add(loss);
-    }
-}
-
-QVector<Loss> LossReport::takeEntries()
-{
-    m_lossCount = 0;
-    return std::exchange(m_entries, {});
-}
-
-QString LossReport::shared(const QString &text)
-{
-    return *m_texts.insert(text);
-}
-
-Sentence LossReport::shared(const Sentence &sentence)
-{
-    const auto known = m_details.constFind(sentence.english());
-    return known != m_details.constEnd() ? *known : *m_details.insert(sentence.english(), sentence);
+    return int(std::count_if(m_entries.begin(), m_entries.end(), [](const Loss &loss) { return isLoss(loss.kind); }));
 }
 
 Sentence LossReport::summary() const
 {
     Sentences lines;
     for (const Loss::Kind kind : lossKinds()) {
-        QVector<Loss> losses;
-        std::copy_if(m_entries.cbegin(), m_entries.cend(), std::back_inserter(losses),
-                     [kind](const Loss &loss) { return loss.kind == kind; });
+        const LossList losses = m_entries.filtered([kind](const Loss &loss) { return loss.kind == kind; });
         if (!losses.isEmpty()) {
             lines.append(lossLine(kind, losses.size(), listedOf(kind, losses), m_format));
         }
@@ -385,7 +273,7 @@ QJsonObject LossReport::toJson() const
         }
         counts.insert(kind.key(), names);
     }
-    return {{QStringLiteral("losses"), m_lossCount},
+    return {{QStringLiteral("losses"), lossCount()},
             {QStringLiteral("kinds"), counts},
             {QStringLiteral("summary"),
              QJsonArray::fromStringList(summary().english().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},

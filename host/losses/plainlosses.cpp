@@ -9,7 +9,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <iterator>
 #include <set>
 
 namespace lessonhost {
@@ -210,7 +209,7 @@ Sentence fileLine(const Loss &loss)
 }
 
 // "identifier (3), date (1)".
-Sentence countedValues(const QVector<Loss> &losses)
+Sentence countedValues(const LossList &losses)
 {
     QMap<QString, QPair<int, Sentence>> counts;
     for (const Loss &loss : losses) {
@@ -243,7 +242,7 @@ public:
         Sentences lines;
         for (const bool elsewhere : {false, true}) {
             for (const auto group : {Loss::Missing, Loss::Different, Loss::Internal}) {
-                const QVector<Loss> losses = entries(group, elsewhere);
+                const LossList losses = entries(group, elsewhere);
                 const Sentence line = group == Loss::Internal ? internal(losses, elsewhere) : Sentence();
                 if (!line.isEmpty()) {
                     lines.append(line);
@@ -253,7 +252,7 @@ public:
             }
         }
         const auto &all = m_report.entries();
-        if (std::any_of(all.cbegin(), all.cend(), [](const Loss &loss) { return isElsewhere(loss.kind); })) {
+        if (std::any_of(all.begin(), all.end(), [](const Loss &loss) { return isElsewhere(loss.kind); })) {
             lines.append(say("The lesson itself travels along in the file, so that lessonconv brings all of it back."));
         }
         const bool isWorthAReport = !lines.isEmpty() && !m_hasReport;
@@ -265,17 +264,13 @@ public:
     }
 
 private:
-    QVector<Loss> entries(Loss::Group group, bool elsewhere) const
+    LossList entries(Loss::Group group, bool elsewhere) const
     {
-        QVector<Loss> losses;
-        std::copy_if(m_report.entries().cbegin(), m_report.entries().cend(), std::back_inserter(losses),
-                     [&](const Loss &loss) {
-                         return groupOf(loss) == group && isElsewhere(loss.kind) == elsewhere;
-                     });
-        return losses;
+        return m_report.entries().filtered(
+            [=](const Loss &loss) { return groupOf(loss) == group && isElsewhere(loss.kind) == elsewhere; });
     }
 
-    static Sentences section(const QVector<Loss> &losses, Loss::Group group, bool elsewhere)
+    static Sentences section(const LossList &losses, Loss::Group group, bool elsewhere)
     {
         Sentences slides;
         Sentences files;
@@ -304,7 +299,7 @@ private:
         return Sentences{say("%1:").arg(groupTitle(group, elsewhere))} + indented(lines);
     }
 
-    static Sentence internal(const QVector<Loss> &losses, bool elsewhere)
+    static Sentence internal(const LossList &losses, bool elsewhere)
     {
         const Sentence values = countedValues(losses);
         return values.isEmpty() ? Sentence() : say("%1: %2.").arg(groupTitle(Loss::Internal, elsewhere), values);

@@ -98,7 +98,7 @@ void SlideLosses::note(const LossOwner &owner, const Sentence &detail, const QSt
 bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) const
 {
     return m_report
-        && std::any_of(m_report->entries().cbegin() + m_first, m_report->entries().cend(), [&](const Loss &loss) {
+        && std::any_of(m_report->entries().begin() + m_first, m_report->entries().end(), [&](const Loss &loss) {
                return (loss.kind == Loss::File || loss.kind == Loss::Otherwise) && loss.slide == m_slide
                    && loss.itemType == owner.type && loss.key == reference
                    && (owner.id.isEmpty() || loss.itemId.isEmpty() || loss.itemId == owner.id);
@@ -108,7 +108,7 @@ bool SlideLosses::hasFile(const LossOwner &owner, const QString &reference) cons
 bool SlideLosses::hasItem() const
 {
     return m_report
-        && std::any_of(m_report->entries().cbegin() + m_first, m_report->entries().cend(), [this](const Loss &loss) {
+        && std::any_of(m_report->entries().begin() + m_first, m_report->entries().end(), [this](const Loss &loss) {
                const bool isElement = loss.kind == Loss::Value && loss.key.isEmpty();
                return (loss.kind == Loss::Item || isElement) && loss.slide == m_slide;
            });
