@@ -27,6 +27,7 @@
 #include <QImage>
 #include <QJsonDocument>
 #include <QRandomGenerator>
+#include <QThread>
 #include <QtTest>
 
 #include <atomic>
@@ -127,6 +128,21 @@ private slots:
             };
             QVERIFY_EXCEPTION_THROWN(failing(), LessonError);
             QVERIFY2(done >= 1011 && done < 1020, qPrintable(QString::number(done)));
+            WorkBehind unequal(isBehind);
+            const auto failIn = [&](int milliseconds, const char *name) {
+                unequal.give(bytes, [milliseconds, name] {
+                    QThread::msleep(milliseconds);
+                    throw LessonError(Sentence(name));
+                });
+            };
+            try {
+                failIn(100, "slow");
+                failIn(0, "quick");
+                unequal.finish();
+                QFAIL("no failure");
+            } catch (const LessonError &error) {
+                QCOMPARE(error.problem().english(), QString("slow")); // it was given first
+            }
         }
     }
 

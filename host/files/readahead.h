@@ -2,6 +2,8 @@
 #ifndef READAHEAD_H
 #define READAHEAD_H
 
+#include "files/startedthread.h"
+
 #include <condition_variable>
 #include <functional>
 #include <future>
@@ -44,7 +46,7 @@ public:
         wait();
         Part part = isMade ? m_made.get() : m_make(index);
         const int next = index + 1;
-        if (m_isAhead && index == m_expected && next < count) {
+        if (m_isAhead && index == m_expected && next < count && hasThread()) {
             std::packaged_task<Part()> task([this, next] { return m_make(next); });
             m_made = task.get_future();
             m_madeIndex = next;
@@ -65,12 +67,19 @@ private:
         }
     }
 
+    // Where there can't be one, it isn't tried again.
+    bool hasThread()
+    {
+        if (!m_thread.joinable()) {
+            m_thread = startedThread([this] { work(); });
+            m_isAhead = m_thread.joinable();
+        }
+        return m_isAhead;
+    }
+
     // To the second thread, which holds the mutex while it works. An empty task ends it.
     void give(std::packaged_task<Part()> task)
     {
-        if (!m_thread.joinable()) {
-            m_thread = std::thread([this] { work(); });
-        }
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_task = std::move(task);
         m_isGiven = true;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "files/workbehind.h"
 
+#include "files/startedthread.h"
+
 #include <utility>
 
 namespace lessonhost {
@@ -14,6 +16,7 @@ constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
 WorkBehind::WorkBehind(bool isBehind)
     : m_mostThreads(isBehind ? int(std::thread::hardware_concurrency()) - 1 : 0)
 {
+    m_threads.reserve(std::size_t(qMax(0, m_mostThreads))); // so that a thread that is made can be kept
 }
 
 WorkBehind::~WorkBehind()
@@ -31,19 +34,31 @@ WorkBehind::~WorkBehind()
 
 void WorkBehind::give(qint64 bytes, const std::function<void()> &work)
 {
-    if (m_mostThreads <= 0) {
+    Lock lock(m_mutex);
+    helpUntil(lock, [this, bytes] { return m_open == 0 || m_bytes + bytes <= mostBytes; });
+    if (m_idle <= int(m_waiting.size()) && int(m_threads.size()) < m_mostThreads) {
+        addThread();
+    }
+    if (m_threads.empty()) {
+        lock.unlock();
         work();
         return;
     }
-    Lock lock(m_mutex);
-    helpUntil(lock, [this, bytes] { return m_open == 0 || m_bytes + bytes <= mostBytes; });
     m_waiting.push_back({bytes, work});
     ++m_open;
     m_bytes += bytes;
-    if (m_idle < int(m_waiting.size()) && int(m_threads.size()) < m_mostThreads) {
-        m_threads.emplace_back([this] { run(); });
-    }
     m_given.notify_one();
+}
+
+// Where there can't be more of them, it isn't tried again.
+void WorkBehind::addThread()
+{
+    std::thread thread = startedThread([this] { run(); });
+    if (thread.joinable()) {
+        m_threads.push_back(std::move(thread));
+    } else {
+        m_mostThreads = int(m_threads.size());
+    }
 }
 
 void WorkBehind::finish()
@@ -61,6 +76,8 @@ void WorkBehind::helpUntil(Lock &lock, const std::function<bool()> &isEnough)
             doNext(lock);
         }
     }
+    // What was begun before may fail yet.
+    m_done.wait(lock, [this] { return !m_failure || m_running == 0; });
     if (m_failure) {
         std::rethrow_exception(m_failure);
     }
@@ -85,6 +102,8 @@ void WorkBehind::doNext(Lock &lock)
 {
     Piece piece = std::move(m_waiting.front());
     m_waiting.pop_front();
+    const qint64 number = m_begun++;
+    ++m_running;
     lock.unlock();
     std::exception_ptr failure;
     try {
@@ -94,10 +113,12 @@ void WorkBehind::doNext(Lock &lock)
     }
     piece.work = {}; // with what it holds
     lock.lock();
+    --m_running;
     --m_open;
     m_bytes -= piece.bytes;
-    if (failure && !m_failure) {
+    if (failure && (!m_failure || number < m_failed)) {
         m_failure = failure;
+        m_failed = number;
         m_waiting.clear();
     }
     m_done.notify_all();

@@ -28,9 +28,9 @@ public:
     //! What isn't begun is left undone.
     ~WorkBehind();
 
-    //! bytes: the memory that the work holds until it is done. Throws what any of the work before has thrown.
+    //! bytes: the memory that the work holds until it is done. Throws what work before has thrown, the first of it.
     void give(qint64 bytes, const std::function<void()> &work);
-    //! Until all of it is done. Throws what any of it has thrown.
+    //! Until all of it is done. Throws likewise.
     void finish();
 
 private:
@@ -42,6 +42,7 @@ private:
     using Lock = std::unique_lock<std::mutex>;
 
     void run();
+    void addThread();
     void doNext(Lock &lock);
     void helpUntil(Lock &lock, const std::function<bool()> &isEnough);
 
@@ -51,8 +52,11 @@ private:
     int m_open = 0; // pieces that wait or are being done
     qint64 m_bytes = 0; // of these
     int m_idle = 0; // threads that wait for work
+    int m_running = 0; // pieces that are being done
+    qint64 m_begun = 0; // pieces so far
     bool m_isEnding = false;
-    std::exception_ptr m_failure; // the first one
+    std::exception_ptr m_failure; // of the piece that was given first
+    qint64 m_failed = 0; // which that is
     std::condition_variable m_given;
     std::condition_variable m_done;
     std::vector<std::thread> m_threads;

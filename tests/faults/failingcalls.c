@@ -7,11 +7,13 @@
 //   FAULT_AT       the number of the call that fails, counted from 1; 0 for none
 //   FAULT_ERROR    the error that it fails with, as a number
 //   FAULT_STAYS    if set, all calls from there on fail, but those that remove something
+//   FAULT_THREADS  no more threads than this many can be made, if it is set; this needs nothing of the above
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
+#include <pthread.h>
 #include <stdarg.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -206,3 +208,16 @@ ON_PATH(chmod, Writes, AT_FDCWD, path, (const char *path, mode_t mode), (path, m
 ON_PATH(unlink, Removes, AT_FDCWD, path, (const char *path), (path))
 ON_PATH(rmdir, Removes, AT_FDCWD, path, (const char *path), (path))
 ON_PATH(unlinkat, Removes, parent, path, (int parent, const char *path, int flags), (parent, path, flags))
+
+int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*work)(void *), void *argument)
+{
+    static int (*real)(pthread_t *, const pthread_attr_t *, void *(*)(void *), void *);
+    static int made;
+    if (!real) {
+        *(void **)&real = dlsym(RTLD_NEXT, "pthread_create");
+    }
+    const char *most = getenv("FAULT_THREADS");
+    return most && __atomic_add_fetch(&made, 1, __ATOMIC_SEQ_CST) > atoi(most)
+        ? EAGAIN
+        : real(thread, attributes, work, argument);
+}
