@@ -10,6 +10,8 @@
 #include <QGuiApplication>
 #include <QHash>
 
+#include <mutex>
+
 namespace lessonhost {
 
 namespace {
@@ -41,6 +43,8 @@ bool hasFamily(const QString &family)
     if (!hasFonts() || isGeneric(family)) {
         return true;
     }
+    static std::mutex mutex; // for threads that read and write a lesson
+    const std::lock_guard<std::mutex> lock(mutex);
     static QHash<QString, bool> known;
     const auto found = known.constFind(family);
     if (found != known.cend()) {
@@ -84,13 +88,15 @@ bool hasGlyph(uint letter)
     if (!hasFonts()) {
         return true;
     }
+    static std::mutex mutex; // as above
+    const std::lock_guard<std::mutex> lock(mutex);
     static QHash<uint, bool> known;
     const auto found = known.constFind(letter);
     if (found != known.cend()) {
         return *found;
     }
-    static const QFontMetrics metrics(QFont(QStringLiteral("sans-serif")));
-    const bool isHere = metrics.inFontUcs4(letter);
+    // Each thread has fonts of its own.
+    const bool isHere = QFontMetrics(QFont(QStringLiteral("sans-serif"))).inFontUcs4(letter);
     known.insert(letter, isHere);
     return isHere;
 }
