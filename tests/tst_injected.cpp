@@ -416,6 +416,35 @@ private slots:
         run.targets.contains(printed) ? void() : run.arguments.append("--quiet");
         failEach(run, Reading);
     }
+
+    // One thread does it all, and a page of text, whose library needs more, is refused.
+    void withoutThreads()
+    {
+        const QVector<QStringList> lines{
+            {"convert", "in/new", "out/t.json"},      {"convert", "in/new.json", "out/t.zqtx"},
+            {"convert", "in/new.iwb", "out/t.zqtx"},  {"convert", "in/new", "out/t.iwb"},
+            {"check", "in/new", "--report", "out/r"}, {"render", "in/said.json", "out/p.pdf"},
+        };
+        putFile(path("in/said.json"), R"({"Slides":[{"Items":[{"Type":"ZQMath2DRectangle","ItemText":"<p>a</p>"}]}]})");
+        for (const QStringList &line : lines) {
+            const bool isRefused = line.last().endsWith("pdf");
+            for (const QByteArray &most : isRefused ? QVector<QByteArray>{"0"} : QVector<QByteArray>{"0", "1", "2"}) {
+                restore();
+                QCOMPARE(runCommand(line + QStringList{"--quiet"}, m_folder.path()).exitCode, 0);
+                const Contents made = timelessContentOf(path(line.last()));
+                restore();
+                const CommandProcess::Outcome outcome =
+                    runCommand(line + QStringList{"--quiet"}, m_folder.path(), [most] {
+                        ::setenv("FAULT_THREADS", most.constData(), 1);
+                        ::setenv("LD_PRELOAD", FAILING_CALLS, 1);
+                    });
+                QCOMPARE(outcome.exitCode, isRefused ? 2 : 0);
+                QVERIFY(!isRefused || outcome.errors.contains("no more threads"));
+                QCOMPARE(timelessContentOf(path(line.last())) == made, !isRefused);
+                QCOMPARE(leftovers(), QStringList());
+            }
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(TestInjected)

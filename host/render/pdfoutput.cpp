@@ -3,6 +3,7 @@
 
 #include "canvas/picturestore.h"
 #include "files/lessonerror.h"
+#include "files/startedthread.h"
 #include "render/pdflibrary.h"
 #include "render/slidelayers.h"
 #include "render/slidepictures.h"
@@ -52,7 +53,21 @@ void PdfOutput::work(const std::function<void()> &step)
 void PdfOutput::add(const SlidePicture &picture)
 {
     m_language.add(picture.language);
+    checkThreads();
     work([&] { draw(picture); });
+}
+
+// What looks for fonts there starts a thread each time, and ends the process where it gets none.
+void PdfOutput::checkThreads() const
+{
+    std::thread thread = startedThread([] {});
+    if (!thread.joinable()) {
+        throw LessonError(say("The pages can't be drawn: %1").arg(say("the system allows no more threads")),
+                          say("Try again when less is running, or raise the limit"))
+            .in(m_target.target())
+            .ofMachine();
+    }
+    thread.join();
 }
 
 void PdfOutput::draw(const SlidePicture &picture)

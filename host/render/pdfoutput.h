@@ -30,6 +30,7 @@ public:
 
 private:
     void work(const std::function<void()> &step);
+    void checkThreads() const;
     void draw(const SlidePicture &picture);
     void draw(const PlacedPicture &picture, const QTransform &toPage);
     void drawLines(const QByteArray &svg, const QRectF &box, const QTransform &toPage, double opacity);

@@ -6548,5 +6548,13 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <source>as outlines</source>
         <translation>als Umrisse</translation>
     </message>
+    <message>
+        <source>the system allows no more threads</source>
+        <translation>das System lässt keine weiteren Threads zu</translation>
+    </message>
+    <message>
+        <source>Try again when less is running, or raise the limit</source>
+        <translation>Versuchen Sie es noch einmal, wenn weniger läuft, oder heben Sie die Grenze an</translation>
+    </message>
 </context>
 </TS>

@@ -6229,5 +6229,13 @@ or something is wrong that check looks for, 2 not done.</source>
         <source>as outlines</source>
         <translation>显示为轮廓</translation>
     </message>
+    <message>
+        <source>the system allows no more threads</source>
+        <translation>系统不允许更多线程</translation>
+    </message>
+    <message>
+        <source>Try again when less is running, or raise the limit</source>
+        <translation>请在运行的程序较少时重试，或提高限制</translation>
+    </message>
 </context>
 </TS>
