@@ -9,7 +9,9 @@
 #include <QLoggingCategory>
 
 #include <clocale>
+#include <cstdlib>
 #include <memory>
+#include <new>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -92,6 +94,22 @@ Application applicationFor(const Command &command, int &argc, char **argv)
 }
 
 } // namespace
+
+#ifdef WITH_MIMALLOC
+// Where no memory is left, the allocator's own would end the process.
+void *operator new(std::size_t size)
+{
+    if (void *const memory = std::malloc(size)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+
+void *operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+#endif
 
 int main(int argc, char **argv)
 {

@@ -389,6 +389,27 @@ private slots:
         QVERIFY(!QFile::exists(path("out.iwb")));
     }
 
+    // Of a slide that takes more than there is, it is said.
+    void tellsThatMemoryIsShort()
+    {
+#ifdef WITH_SANITIZERS
+        QSKIP("Sanitizers take memory of their own.");
+#endif
+        const QByteArray item = "<group><transform><rotate angle='0'/></transform></group>";
+        putFile(path("many/index.xml"), "<main><slides><file href='slides/1.xml'/></slides></main>");
+        putFile(path("many/slides/1.xml"), "<slide id='1'><items>" + item.repeated(90000) + "</items></slide>");
+        for (const rlim_t megabytes : {56, 64, 80}) {
+            const auto outcome = runCommand({"convert", "many", "out.json"}, m_folder->path(), [megabytes] {
+                const rlimit limit{megabytes << 20, megabytes << 20};
+                ::setrlimit(RLIMIT_DATA, &limit);
+            });
+            QVERIFY2(outcome.exitCode == 2 && outcome.errors.contains("Cannot allocate memory"),
+                     qPrintable(outcome.errors));
+        }
+        QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
+        QVERIFY(!QFile::exists(path("out.json")));
+    }
+
     void holdsAPageAtATime_data()
     {
         const Table<QString, QByteArray, QByteArray, QByteArray> row("file", "page", "item", "record");

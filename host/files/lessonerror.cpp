@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "files/lessonerror.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <new>
 
 namespace lessonhost {
 
@@ -125,7 +127,9 @@ const char *LessonError::what() const noexcept
 
 LessonError unexpected(const std::exception &error)
 {
-    return LessonError(say("Something unexpected happened: %1").arg(QString::fromLocal8Bit(error.what())));
+    const bool isMemory = dynamic_cast<const std::bad_alloc *>(&error) != nullptr;
+    return LessonError(say("Something unexpected happened: %1")
+                           .arg(isMemory ? systemReason(ENOMEM) : Sentence(QString::fromLocal8Bit(error.what()))));
 }
 
 Sentence systemReason(int error)
