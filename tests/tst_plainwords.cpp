@@ -7,6 +7,7 @@
 #include "losses/plainlosses.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -194,6 +195,24 @@ private slots:
         QCOMPARE(inEnglish(plainSummary(reportOf(losses), true)).join('\n'), words);
         const QStringList hinted = inEnglish(plainSummary(reportOf(losses), false));
         QCOMPARE(hinted.last() == "--report FILE names each.", !words.startsWith("Note"));
+    }
+
+    // A report that is written in pieces is the one that is made at once.
+    void writesReportsInPieces()
+    {
+        LossReport report;
+        for (const int count : {0, 1, 499, 500, 1001}) {
+            for (int i = report.entries().size(); i < count; ++i) {
+                const QString id = QString::number(i / 3);
+                report.add({Loss::Kind(i % 12), i / 9, "ZQGroupItem", id, "\n    ]" + id, Sentence("\"[" + id)});
+            }
+            QByteArray text;
+            report.writeJson([&text](const QByteArray &piece) { text += piece; }, {{"format", "iwb"}});
+            QJsonObject whole = report.toJson();
+            whole.insert("format", "iwb");
+            QCOMPARE(text, QJsonDocument(whole).toJson());
+            QCOMPARE(whole.value("entries").toArray().size(), count);
+        }
     }
 
     void knowsRanges_data()

@@ -15,6 +15,7 @@
 #include "losses/plainlosses.h"
 #include "render/rendersettings.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 
 namespace lessonhost {
@@ -86,15 +87,16 @@ int convertOne(const Call &call, const QStringList &files)
     convertLesson(from, call.inputFile(input), to, call.streams().output(output, to.extensions.first()),
                   call.conversionContext(host, &losses), [&bar](int done, int total) { bar.show(done, total); });
     bar.clear();
-    // Which takes a while where there are many.
-    QJsonObject result = call.isSet("report") || call.isSet("json") ? losses.toJson() : QJsonObject();
-    report.write(result);
+    if (call.isSet("report")) {
+        losses.writeJson([&report](const QByteArray &piece) { report.put(piece); });
+        report.commit();
+    }
     if (call.isSet("json")) {
-        result.insert(QStringLiteral("input"), input);
-        result.insert(QStringLiteral("output"), output);
-        result.insert(QStringLiteral("from"), from.name);
-        result.insert(QStringLiteral("to"), to.name);
-        printJson(result);
+        losses.writeJson([](const QByteArray &piece) { print(QString::fromUtf8(piece)); },
+                         {{QStringLiteral("input"), input},
+                          {QStringLiteral("output"), output},
+                          {QStringLiteral("from"), from.name},
+                          {QStringLiteral("to"), to.name}});
     } else if (!losses.isEmpty() && !call.isSet("quiet")) {
         complain(onLines(plainSummary(losses, call.isSet("report"))));
     }

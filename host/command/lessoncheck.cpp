@@ -102,8 +102,7 @@ QJsonObject countsOf(const LossReport &losses)
 
 QJsonObject lossObject(const LossReport &losses)
 {
-    QJsonObject object = losses.toJson();
-    object.remove(QLatin1String("entries"));
+    QJsonObject object = losses.toHead();
     object.insert(QStringLiteral("groups"), countsOf(losses));
     return object;
 }

@@ -103,8 +103,8 @@ Loss LossList::at(int index) const
 LossList LossList::mid(int index, int count) const
 {
     LossList part = another();
-    const auto first = m_entries.begin() + index;
-    part.m_entries.assign(first, count < 0 ? m_entries.end() : first + count);
+    const int end = count < 0 ? size() : qMin(index + count, size());
+    part.m_entries.assign(m_entries.begin() + index, m_entries.begin() + end);
     return part;
 }
 

@@ -36,7 +36,7 @@ public:
     bool isEmpty() const { return m_entries.empty(); }
     Loss at(int index) const;
     Loss last() const { return at(size() - 1); }
-    //! Those from an index on, count of them or all.
+    //! Those from an index on, at most count of them or all.
     LossList mid(int index, int count = -1) const;
     //! Those of which it is true.
     LossList filtered(const std::function<bool(const Loss &loss)> &isOne) const;

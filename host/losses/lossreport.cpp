@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QMap>
 #include <QRegularExpression>
 #include <QStringList>
@@ -17,6 +18,9 @@ namespace {
 
 // Longer lists are cut in the summary; the JSON has every entry.
 constexpr int maximumNamed = 20;
+
+const QLatin1String entriesKey("entries");
+constexpr int entriesOfPiece = 500;
 
 QLatin1String groupName(Loss::Group group)
 {
@@ -171,6 +175,27 @@ QString nameInTables(const Loss &loss)
     return key.isEmpty() ? loss.itemType : loss.itemType + QLatin1Char('.') + key;
 }
 
+QJsonArray listOf(const LossList &losses)
+{
+    QJsonArray entries;
+    for (const Loss &loss : losses) {
+        QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)},
+                          {QStringLiteral("group"), groupName(groupOf(loss))},
+                          {QStringLiteral("type"), loss.itemType}};
+        if (loss.slide > 0) {
+            entry.insert(QStringLiteral("slide"), loss.slide);
+        }
+        for (const auto &[name, text] :
+             {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail.english()}}) {
+            if (!text.isEmpty()) {
+                entry.insert(QLatin1String(name), text);
+            }
+        }
+        entries.append(entry);
+    }
+    return entries;
+}
+
 } // namespace
 
 Sentence lossNames(const Sentences &names)
@@ -245,25 +270,11 @@ Sentence LossReport::summary() const
     return onLines(lines);
 }
 
-QJsonObject LossReport::toJson() const
+QJsonObject LossReport::toHead() const
 {
-    QJsonArray entries;
     QMap<QString, QMap<QString, int>> kinds;
     for (const Loss &loss : m_entries) {
         ++kinds[lossKindName(loss.kind)][nameInTables(loss)];
-        QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)},
-                          {QStringLiteral("group"), groupName(groupOf(loss))},
-                          {QStringLiteral("type"), loss.itemType}};
-        if (loss.slide > 0) {
-            entry.insert(QStringLiteral("slide"), loss.slide);
-        }
-        for (const auto &[name, text] :
-             {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail.english()}}) {
-            if (!text.isEmpty()) {
-                entry.insert(QLatin1String(name), text);
-            }
-        }
-        entries.append(entry);
     }
     QJsonObject counts;
     for (auto kind = kinds.cbegin(); kind != kinds.cend(); ++kind) {
@@ -276,8 +287,31 @@ QJsonObject LossReport::toJson() const
     return {{QStringLiteral("losses"), lossCount()},
             {QStringLiteral("kinds"), counts},
             {QStringLiteral("summary"),
-             QJsonArray::fromStringList(summary().english().split(QLatin1Char('\n'), Qt::SkipEmptyParts))},
-            {QStringLiteral("entries"), entries}};
+             QJsonArray::fromStringList(summary().english().split(QLatin1Char('\n'), Qt::SkipEmptyParts))}};
+}
+
+QJsonObject LossReport::toJson() const
+{
+    QJsonObject json = toHead();
+    json.insert(entriesKey, listOf(m_entries));
+    return json;
+}
+
+void LossReport::writeJson(const std::function<void(const QByteArray &piece)> &put, const QJsonObject &more) const
+{
+    // They come before all other members, by the order of names.
+    put("{\n    \"entries\": [");
+    for (int begin = 0; begin < m_entries.size(); begin += entriesOfPiece) {
+        const QJsonObject piece{{entriesKey, listOf(m_entries.mid(begin, entriesOfPiece))}};
+        const QByteArray text = QJsonDocument(piece).toJson();
+        const int from = text.indexOf('[') + 1;
+        put((begin > 0 ? "," : "") + text.mid(from, text.lastIndexOf("\n    ]") - from));
+    }
+    QJsonObject rest = toHead();
+    for (auto it = more.constBegin(); it != more.constEnd(); ++it) {
+        rest.insert(it.key(), it.value());
+    }
+    put("\n    ],\n" + QJsonDocument(rest).toJson().mid(2));
 }
 
 } // namespace lessonhost

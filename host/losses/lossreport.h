@@ -5,9 +5,11 @@
 #include "losses/losslist.h"
 #include "sentences/sentence.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 
+#include <functional>
 #include <set>
 
 namespace lessonhost {
@@ -51,6 +53,11 @@ public:
     //! {"losses": number, "summary": lines, "kinds": {"value": {"ZQChalkStroke.Weight": number, ...}, ...},
     //! "entries": [{"kind", "group", "slide", "type", "id", "key", "detail"}, ...]}
     QJsonObject toJson() const;
+    //! The same without the entries.
+    QJsonObject toHead() const;
+    //! What QJsonDocument writes of toJson(), with more members, but piece by piece, since it may be larger than the
+    //! lesson.
+    void writeJson(const std::function<void(const QByteArray &piece)> &put, const QJsonObject &more = {}) const;
 
 private:
     explicit LossReport(const LossList &entries)
