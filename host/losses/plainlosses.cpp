@@ -6,7 +6,8 @@
 
 #include <QHash>
 #include <QMap>
-#include <QSet>
+#include <QPair>
+#include <QVector>
 
 #include <algorithm>
 #include <set>
@@ -38,21 +39,47 @@ bool isItem(const Loss &loss)
     return (loss.slide > 0 && loss.itemType != slideOwner) || isRecord(loss);
 }
 
+// Puts a number among ascending ones, most of which come in their order. False if it is there already.
+bool insertInto(QVector<int> &numbers, int number)
+{
+    const auto place = std::lower_bound(numbers.begin(), numbers.end(), number);
+    if (place != numbers.end() && *place == number) {
+        return false;
+    }
+    numbers.insert(place, number);
+    return true;
+}
+
+/*!
+ * Counts owners of losses through, so that many lines need no more than a number of each.
+ */
+class OwnerNumbers
+{
+public:
+    int of(const Loss &loss)
+    {
+        const QPair<int, QPair<QString, QString>> owner(loss.slide, {loss.itemType, loss.itemId});
+        const auto known = m_numbers.constFind(owner);
+        return known != m_numbers.constEnd() ? *known : *m_numbers.insert(owner, m_numbers.size());
+    }
+
+private:
+    QHash<QPair<int, QPair<QString, QString>>, int> m_numbers;
+};
+
 /*!
  * Whose losses stand in a line: items of some types, slides, the lesson.
  */
 class Owners
 {
 public:
-    void add(const Loss &loss)
+    void add(const Loss &loss, OwnerNumbers &numbers)
     {
-        const QString id = QString::number(loss.slide) + QLatin1Char(' ') + loss.itemId;
         // Items without an identifier are told apart by nothing.
-        if (!loss.itemId.isEmpty() && m_known.contains(loss.itemType + QLatin1Char(' ') + id)) {
+        if (!loss.itemId.isEmpty() && !insertInto(m_known, numbers.of(loss))) {
             return;
         }
-        m_known.insert(loss.itemType + QLatin1Char(' ') + id);
-        m_slides.insert(loss.slide);
+        insertInto(m_slides, loss.slide);
         if (isItem(loss)) {
             // Several types may have one name.
             auto &row = m_items[countedName(loss.itemType, 0).english()];
@@ -60,13 +87,13 @@ public:
             ++row.second;
             ++m_count;
         } else if (loss.slide > 0) {
-            m_ownSlides.insert(loss.slide);
+            insertInto(m_ownSlides, loss.slide);
         } else {
             m_isPresentation = true;
         }
     }
 
-    int count() const { return m_count + int(m_ownSlides.size()) + (m_isPresentation ? 1 : 0); }
+    int count() const { return m_count + m_ownSlides.size() + (m_isPresentation ? 1 : 0); }
 
     //! "the lesson, slide 2, 9 circles and 3 arrows on slides 1 to 4".
     Sentence words() const
@@ -75,11 +102,11 @@ public:
         if (m_isPresentation) {
             parts.append(say("the lesson"));
         }
-        if (!m_ownSlides.empty()) {
+        if (!m_ownSlides.isEmpty()) {
             parts.append(slidesAlone());
         }
         if (m_count > 0) {
-            std::set<int> slides = m_slides;
+            std::set<int> slides(m_slides.begin(), m_slides.end());
             slides.erase(0);
             parts.append(onSlides(items(), slides));
         }
@@ -89,9 +116,9 @@ public:
 private:
     Sentence slidesAlone() const
     {
-        const int first = *m_ownSlides.begin();
-        const int last = *m_ownSlides.rbegin();
-        const int count = int(m_ownSlides.size());
+        const int first = m_ownSlides.first();
+        const int last = m_ownSlides.last();
+        const int count = m_ownSlides.size();
         if (count == 1) {
             return say("slide %1").arg(first);
         }
@@ -119,10 +146,10 @@ private:
         return listedWithAnd(names);
     }
 
-    QSet<QString> m_known;
+    QVector<int> m_known; // numbers
     QMap<QString, QPair<QString, int>> m_items; // a type and how many, by their name
-    std::set<int> m_slides;
-    std::set<int> m_ownSlides; // that lose something themselves
+    QVector<int> m_slides;
+    QVector<int> m_ownSlides; // that lose something themselves
     int m_count = 0; // of items
     bool m_isPresentation = false;
 };
@@ -138,8 +165,9 @@ public:
         ValueFirst //!< "Colour of the fill: 2 circles on slide 1."
     };
 
-    explicit Lines(Form form)
+    Lines(Form form, OwnerNumbers &numbers)
         : m_form(form)
+        , m_numbers(numbers)
     {
     }
 
@@ -150,7 +178,7 @@ public:
             index = m_indexes.insert(what.english(), m_lines.size());
             m_lines.append({what, Owners()});
         }
-        m_lines[*index].owners.add(loss);
+        m_lines[*index].owners.add(loss, m_numbers);
     }
 
     //! The most frequent first. rest: is added the number of what has no line any more.
@@ -180,6 +208,7 @@ private:
     };
 
     Form m_form;
+    OwnerNumbers &m_numbers;
     QVector<Line> m_lines;
     QHash<QString, int> m_indexes;
 };
@@ -201,10 +230,10 @@ Sentence emptySlide(const Loss &loss)
         .arg(loss.slide);
 }
 
-Sentence fileLine(const Loss &loss)
+Sentence fileLine(const Loss &loss, OwnerNumbers &numbers)
 {
     Owners owner;
-    owner.add(loss);
+    owner.add(loss, numbers);
     return say("%1 (%2): %3.").arg(loss.key, owner.words(), loss.detail);
 }
 
@@ -237,7 +266,7 @@ public:
     {
     }
 
-    Sentences words() const
+    Sentences words()
     {
         Sentences lines;
         for (const bool elsewhere : {false, true}) {
@@ -267,15 +296,15 @@ private:
     LossList entries(Loss::Group group, bool elsewhere) const
     {
         return m_report.entries().filtered(
-            [=](const Loss &loss) { return groupOf(loss) == group && isElsewhere(loss.kind) == elsewhere; });
+            [=](const Loss &loss) { return isElsewhere(loss.kind) == elsewhere && groupOf(loss) == group; });
     }
 
-    static Sentences section(const LossList &losses, Loss::Group group, bool elsewhere)
+    Sentences section(const LossList &losses, Loss::Group group, bool elsewhere)
     {
         Sentences slides;
         Sentences files;
-        Lines items(Lines::OwnersFirst);
-        Lines values(Lines::ValueFirst);
+        Lines items(Lines::OwnersFirst, m_numbers);
+        Lines values(Lines::ValueFirst, m_numbers);
         int rest = 0;
         const auto append = [&rest](Sentences &lines, const Sentence &line) {
             lines.size() < mostLines ? lines.append(line) : void(++rest);
@@ -285,7 +314,7 @@ private:
             if (loss.kind == Loss::Emptied || loss.kind == Loss::EmptiedElsewhere) {
                 append(slides, emptySlide(loss));
             } else if (loss.kind == Loss::File || loss.isFile) {
-                append(files, fileLine(loss));
+                append(files, fileLine(loss, m_numbers));
             } else if (isValue && !loss.key.isEmpty()) {
                 values.add(plainPlaceName(loss.key), loss);
             } else {
@@ -305,10 +334,10 @@ private:
         return values.isEmpty() ? Sentence() : say("%1: %2.").arg(groupTitle(Loss::Internal, elsewhere), values);
     }
 
-    Sentences told() const
+    Sentences told()
     {
-        Lines kept(Lines::OwnersFirst);
-        Lines items(Lines::OwnersFirst);
+        Lines kept(Lines::OwnersFirst, m_numbers);
+        Lines items(Lines::OwnersFirst, m_numbers);
         Sentences lines;
         int rest = 0;
         for (const Loss &loss : m_report.entries()) {
@@ -333,6 +362,7 @@ private:
 
     const LossReport &m_report;
     bool m_hasReport;
+    OwnerNumbers m_numbers;
 };
 
 } // namespace
