@@ -30,11 +30,41 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <cstring>
 
 using namespace lessonhost;
+
+namespace {
+
+// Takes so many pieces, and then tells that it doesn't, or throws.
+class FullDevice : public QBuffer
+{
+public:
+    FullDevice(int pieces, bool throws)
+        : m_left(pieces)
+        , m_throws(throws)
+    {
+        open(WriteOnly);
+    }
+
+protected:
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        if (m_left-- == 0 && m_throws) {
+            throw LessonError(Sentence("full"));
+        }
+        return m_left < 0 ? -1 : QBuffer::writeData(data, size);
+    }
+
+private:
+    int m_left;
+    bool m_throws;
+};
+
+} // namespace
 
 /*!
  * Values that the plug-in alone would lose or change on their way into ZQTX and back.
@@ -172,6 +202,17 @@ private slots:
         }
         QBuffer none;
         QVERIFY(none.open(QIODevice::WriteOnly) && !writePaintedPng({}, &none));
+        QImage noise(300, 200, QImage::Format_RGB32);
+        std::generate_n(reinterpret_cast<QRgb *>(noise.bits()), 300 * 200, [&random] { return random.generate(); });
+        int pieces = 0; // that go out one after the other
+        for (bool isWritten = false; !isWritten; ++pieces) {
+            FullDevice full(pieces, false), throwing(pieces, true);
+            isWritten = writePaintedPng(noise, &full);
+            if (!isWritten) {
+                QVERIFY_EXCEPTION_THROWN(writePaintedPng(noise, &throwing), LessonError);
+            }
+        }
+        QVERIFY2(pieces > 20, qPrintable(QString::number(pieces)));
     }
 
     // Texts that are read by expat, and those that are left to Qt's parser: both ways they give the same tree.
