@@ -385,7 +385,9 @@ void PlainSvg::addImage(const QImage &image, const QRectF &box)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     constexpr int quick = 85; // packs little: what is painted has few colours or none that repeat
-    image.save(&buffer, "png", quick);
+    if (!image.save(&buffer, "png", quick)) {
+        throw packingError();
+    }
     m_pixels.take(1, qint64(image.width()) * image.height());
     QDomElement element = appendImage(QLatin1String("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()));
     setBox(element, box);

@@ -3,7 +3,6 @@
 
 #include "files/checksum.h"
 #include "files/inputfile.h"
-#include "files/lessonerror.h"
 #include "files/packagenames.h"
 
 #include <KCompressionDevice>
@@ -348,7 +347,9 @@ ShownPicture Picture::shown(qint64 most, PixelBudget &inner) const
         result.type = m_format == "jpeg" ? "jpeg" : "png";
         QBuffer buffer(&result.bytes);
         buffer.open(QIODevice::WriteOnly);
-        picture.save(&buffer, result.type.constData(), m_format == "jpeg" ? jpegQuality : -1);
+        if (!picture.save(&buffer, result.type.constData(), m_format == "jpeg" ? jpegQuality : -1)) {
+            throw packingError();
+        }
     }
     return result;
 }
@@ -457,6 +458,14 @@ QSize embeddedSize(const QString &address)
 Sentence pictureProblem(const QString &file)
 {
     return Picture(file).problem();
+}
+
+LessonError packingError(const QString &path)
+{
+    return LessonError(path.isEmpty() ? say("A picture can't be packed")
+                                      : say("The picture \"%1\" can't be packed").arg(path),
+                       say("Check that there is enough memory"))
+        .ofMachine();
 }
 
 } // namespace lessonhost

@@ -3,6 +3,7 @@
 #define PICTURES_H
 
 #include "files/closedsvg.h"
+#include "files/lessonerror.h"
 #include "sentences/sentence.h"
 
 #include <QByteArray>
@@ -116,6 +117,9 @@ Sentence pictureProblem(const QString &file);
 
 //! "data:image/...", or nothing for what can't be drawn.
 QString addressOf(const ShownPicture &picture);
+
+//! That a picture can't be packed, be it for want of memory; path: what it is called, if anything.
+LessonError packingError(const QString &path = {});
 
 } // namespace lessonhost
 

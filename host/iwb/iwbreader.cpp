@@ -259,7 +259,9 @@ QString IwbReader::repeated(const QString &picture, const QSizeF &tile)
     painter.fillRect(all.rect(), brush);
     painter.end();
     QBuffer bytes;
-    all.save(&bytes, "png");
+    if (!all.save(&bytes, "png")) {
+        throw packingError(picture).in(m_package.displayName());
+    }
     const QString file = m_package.workFolder() + QStringLiteral("/repeated-%1.png").arg(m_repeated.size() + 1);
     writeFile(file, bytes.data(), m_package.displayName(), OutputFile::Temporary);
     QString path = picture.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/') + QFileInfo(picture).completeBaseName()

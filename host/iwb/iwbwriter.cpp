@@ -4,6 +4,7 @@
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/paintedpng.h"
+#include "files/pictures.h"
 #include "files/xmlloader.h"
 #include "files/xmltext.h"
 #include "iwb/iwbpackage.h"
@@ -255,7 +256,9 @@ void IwbWriter::storePicture(const QString &reference, const QImage &picture, bo
     const auto store = [this, reference, picture, isPainted] {
         QBuffer png;
         png.open(QIODevice::WriteOnly);
-        isPainted ? writePaintedPng(picture, &png) : picture.save(&png, "png");
+        if (!(isPainted ? writePaintedPng(picture, &png) : picture.save(&png, "png"))) {
+            throw packingError(reference).in(m_target.target());
+        }
         m_target.write(reference, png.data());
     };
     m_packing.give(picture.sizeInBytes(), store);

@@ -6556,5 +6556,17 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <source>Try again when less is running, or raise the limit</source>
         <translation>Versuchen Sie es noch einmal, wenn weniger läuft, oder heben Sie die Grenze an</translation>
     </message>
+    <message>
+        <source>A picture can&apos;t be packed</source>
+        <translation>Ein Bild lässt sich nicht packen</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can&apos;t be packed</source>
+        <translation>Das Bild „%1“ lässt sich nicht packen</translation>
+    </message>
+    <message>
+        <source>Check that there is enough memory</source>
+        <translation>Prüfen Sie, ob genug Arbeitsspeicher frei ist</translation>
+    </message>
 </context>
 </TS>

@@ -6237,5 +6237,17 @@ or something is wrong that check looks for, 2 not done.</source>
         <source>Try again when less is running, or raise the limit</source>
         <translation>请在运行的程序较少时重试，或提高限制</translation>
     </message>
+    <message>
+        <source>A picture can&apos;t be packed</source>
+        <translation>图片无法压缩</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can&apos;t be packed</source>
+        <translation>图片“%1”无法压缩</translation>
+    </message>
+    <message>
+        <source>Check that there is enough memory</source>
+        <translation>请检查内存是否足够</translation>
+    </message>
 </context>
 </TS>
