@@ -308,6 +308,44 @@ private slots:
             QCOMPARE(lost.toObject().value("ID").toString(), QString::number(page));
         }
     }
+
+    // The first page goes, and two elements are others: what is read of them has the links of the document already.
+    void linksFollowTheirSlides()
+    {
+        const auto item = [](const QString &id, const QString &link, const QString &children = {}) {
+            const QString to = ",'InteractiveType':'ACTION_GOTOSLIDE','InteractiveValue':'" + link + '\'';
+            return "{'Type':'%1','ID':'%2','BoundingBox':'0,0,90,90','ArtObj_Ln':'6','ReadOfPage':'%2'%3%4}"_s.arg(
+                children.isEmpty() ? "ZQMath2DNormalHexagon" : "ZQGroupItem", id, link.isEmpty() ? QString() : to,
+                children.isEmpty() ? QString() : ",'Children':[" + children + ']');
+        };
+        const QString inner = item("n", "1", item("b", "3") + ',' + item("c", ""));
+        const QString group = item("g", "3", item("a", "2") + ',' + inner);
+        const QString items = item("h", "1") + ',' + item("e", "3") + ',' + group;
+        QString lesson = "{'Width':'800','Height':'600','Slides':[{'ID':'1','Items':[]},{'ID':'2','Items':[" + items
+            + "]},{'ID':'3','Items':[]}]}";
+        putFile(path("in.json"), lesson.replace('\'', '"').toUtf8());
+        QDir(path("there")).removeRecursively();
+        convert("in.json", "there");
+        edit("~(<svg:polygon id=\"[eb]\"[^>]*)stroke-width=\"2\"", "\\1stroke-width=\"5\"");
+        edit("~(?s)<svg:page id=\"page1\">.*?</svg:page>", "");
+        const QString told = convert("there", "back.json");
+        QCOMPARE(told.count("link to \\\"1\\\""), 2);
+        const auto shown = [](const QJsonObject &one, const auto &self) -> QString {
+            QStringList held;
+            for (const QJsonValue &child : one.value("Children").toArray()) {
+                held.append(self(child.toObject(), self));
+            }
+            return one.value("ID").toString() + one.value("InteractiveValue").toString()
+                + (one.value("ReadOfPage") == one.value("ID") ? "" : "!")
+                + (held.isEmpty() ? QString() : '(' + held.join(' ') + ')');
+        };
+        QStringList found;
+        const QJsonObject back = QJsonDocument::fromJson(fileContent(path("back.json"))).object();
+        for (const QJsonValue &one : back.value("Slides").toArray().first().toObject().value("Items").toArray()) {
+            found.append(shown(one.toObject(), shown));
+        }
+        QCOMPARE(found.join(' '), QString("h e2! g2(a1 n(b2! c))"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestIwbNative)

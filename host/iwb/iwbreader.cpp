@@ -57,17 +57,24 @@ void IwbReader::nameSlides()
     const IwbOutline &outline = m_package.outline();
     const QStringList known = m_native.pageIds();
     int last = -1;
+    bool areMoved = false;
     for (int i = 0; i < outline.pageCount(); ++i) {
         const QString id = outline.pageId(i);
         const int number = known.indexOf(id);
         m_isNative.append(number >= 0 && !m_pageNumbers.contains(id));
-        m_arePagesMoved = m_arePagesMoved || (m_isNative.last() && number != i);
+        areMoved = areMoved || (m_isNative.last() && number != i);
         last = m_isNative.last() ? number : last;
         if (!id.isEmpty() && !m_pageNumbers.contains(id)) {
             m_pageNumbers.insert(id, i + 1);
         }
     }
-    m_arePagesMoved = m_arePagesMoved || last + 1 != known.size();
+    if (areMoved || last + 1 != known.size()) {
+        QVector<int> numbers;
+        for (const QString &id : known) {
+            numbers.append(m_pageNumbers.value(id));
+        }
+        m_links = SlideLinks(numbers);
+    }
     QVector<bool> hasName; // from what has come along
     for (int i = 0; i < outline.pageCount(); ++i) {
         hasName.append(m_isNative.at(i) && m_native.hasPage(outline.pageId(i)));
@@ -111,44 +118,6 @@ void IwbReader::tellSlides(const SlideLosses &losses) const
     if (!changedInMeta(m_package.outline().meta(), m_native.presentation()).isEmpty()) {
         losses.changed(presentation, say("changed by another program"));
     }
-}
-
-// Links to slides follow these. One whose slide is gone leads nowhere.
-void IwbReader::moveLinks(QJsonArray &items, const SlideLosses &losses) const
-{
-    for (int i = 0; i < items.size(); ++i) {
-        if (items.at(i).isObject()) {
-            items.replace(i, movedLinks(items.at(i).toObject(), losses));
-        }
-    }
-}
-
-QJsonObject IwbReader::movedLinks(QJsonObject item, const SlideLosses &losses) const
-{
-    if (item.contains(readOfPage)) {
-        item.remove(readOfPage);
-        return item;
-    }
-    if (item.value(HostKeys::children).isArray()) {
-        QJsonArray children = item.value(HostKeys::children).toArray();
-        moveLinks(children, losses);
-        item.insert(HostKeys::children, children);
-    }
-    const QString target = valueText(item.value(ItemKeys::linkValue));
-    const QString page = m_native.pageIds().value(target.toInt() - 1);
-    if (valueText(item.value(ItemKeys::linkType)) != QLatin1String("ACTION_GOTOSLIDE") || page.isEmpty()) {
-        return item;
-    }
-    const int number = m_pageNumbers.value(page);
-    if (number == 0) {
-        losses.value(item, ItemKeys::linkValue,
-                     say("link to \"%1\": %2").arg(target, say("the slide was removed by another program")));
-        item.remove(ItemKeys::linkType);
-        item.remove(ItemKeys::linkValue);
-    } else if (number != target.toInt()) {
-        item.insert(ItemKeys::linkValue, QString::number(number));
-    }
-    return item;
 }
 
 // What others say of the document, and no lesson does.
@@ -313,13 +282,10 @@ LessonSlide IwbReader::slide(int index, const SlideLosses &losses)
     LessonSlide slide;
     if (native) {
         const bool isUntouched = m_native.isUntouched() || m_intactPages.contains(index);
-        PageRestorer restorer(m_content, m_slides, m_package.recordTexts(), isUntouched);
-        slide = restorer.restore(index, *native, losses, m_arePagesMoved);
+        PageRestorer restorer(m_content, m_slides, m_package.recordTexts(), m_links, isUntouched);
+        slide = restorer.restore(index, *native, losses);
         if (restorer.isAsMarked()) {
             m_intactPages.insert(index);
-        }
-        if (m_arePagesMoved) {
-            moveLinks(slide.items, losses);
         }
     } else {
         slide = m_slides.read(m_content.page(index), index + 1, losses).slide;

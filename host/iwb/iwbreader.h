@@ -5,6 +5,7 @@
 #include "iwb/iwbpackage.h"
 #include "iwb/iwbslidereader.h"
 #include "iwb/nativepart.h"
+#include "iwb/slidelinks.h"
 #include "svg/svgnormalizer.h"
 
 namespace lessonhost {
@@ -31,8 +32,6 @@ private:
     LessonSlide slide(int index, const SlideLosses &losses);
     void nameSlides();
     void tellSlides(const SlideLosses &losses) const;
-    void moveLinks(QJsonArray &items, const SlideLosses &losses) const;
-    QJsonObject movedLinks(QJsonObject item, const SlideLosses &losses) const;
     void nameUnreadMeta(const SlideLosses &losses) const;
     QSet<QString> madePicturesInUse();
     void nameResources();
@@ -64,7 +63,7 @@ private:
     QStringList m_slideIds; // of slides that are read from their pages
     QSet<int> m_intactPages; // of which all elements were found to be as they were written
     QVector<bool> m_isNative; // whether a page was made of a slide that has come along
-    bool m_arePagesMoved = false; // since they were written
+    SlideLinks m_links; // of what has come along
 };
 
 } // namespace lessonhost

@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <functional>
 
 namespace lessonhost {
 
@@ -54,7 +55,9 @@ bool isTurned(const NativePage::Entry &entry)
 }
 
 // A tree of groups with others in the place of its leaves, turned or not. Nothing for one of which none is there.
-QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &present, int &leaf, bool staysTurned)
+// linked gives each group in it the link that it has now.
+QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &present, int &leaf, bool staysTurned,
+                    const std::function<QJsonObject(const QJsonObject &)> &linked)
 {
     if (ItemView(item).childObjects().isEmpty()) {
         return present.value(leaf++);
@@ -64,12 +67,12 @@ QJsonObject rebuilt(const QJsonObject &item, const QHash<int, QJsonObject> &pres
     const QJsonArray all = item.value(HostKeys::children).toArray();
     for (const QJsonValue &value : all) {
         const QJsonObject child =
-            value.isObject() ? rebuilt(value.toObject(), present, leaf, staysTurned) : QJsonObject();
+            value.isObject() ? rebuilt(value.toObject(), present, leaf, staysTurned, linked) : QJsonObject();
         if (!value.isObject()) {
             children.append(value);
         } else if (!child.isEmpty()) {
             isThere = true;
-            children.append(child);
+            children.append(ItemView(value.toObject()).childObjects().isEmpty() ? child : linked(child));
         }
     }
     QJsonObject result = item;
@@ -98,18 +101,18 @@ bool holdsOneOf(const QDomElement &group, const QSet<QString> &ids)
 } // namespace
 
 PageRestorer::PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader,
-                           const QHash<QString, RecordText> &records, bool isUntouched)
+                           const QHash<QString, RecordText> &records, const SlideLinks &links, bool isUntouched)
     : m_content(content)
     , m_reader(reader)
     , m_records(records)
+    , m_links(links)
     , m_isUntouched(isUntouched)
 {
 }
 
-LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses, bool tellsRead)
+LessonSlide PageRestorer::restore(int index, const NativePage &native, const SlideLosses &losses)
 {
     m_native = &native;
-    m_tellsRead = tellsRead;
     m_layers = m_content.layers(index);
     lookAtPage();
     LessonSlide slide;
@@ -408,9 +411,6 @@ void PageRestorer::placeRun(int begin, int end, int number, const SlideLosses &l
         m_content.page(m_layers, m_children.mid(begin, end - begin), m_backgrounds), number, losses, ids);
     for (int i = 0; i < found.slide.items.size(); ++i) {
         Placed placed{begin, found.slide.items.at(i).toObject(), found.groups.at(i), {}, false, false};
-        if (m_tellsRead) {
-            placed.item.insert(readOfPage, true);
-        }
         const QString &elementId = found.elementIds.at(i);
         const int lost = m_lostIds.value(itemOfPart(elementId), -1);
         if (lost >= 0 && itemOfPart(elementId) != elementId) {
@@ -494,9 +494,23 @@ QJsonArray PageRestorer::grouped(int number, const SlideLosses &losses)
                 made = {{ItemKeys::box, made.value(ItemKeys::box)}, {ItemKeys::visible, made.value(ItemKeys::visible)}};
             }
             slide.slide.items.replace(i, groupOf(own->origin.entry, members, made));
+        } else if (m_links.areMoved()) {
+            QJsonArray items;
+            for (const Placed &member : members) {
+                items.append(linked(member, member.item));
+            }
+            QJsonObject item = slide.slide.items.at(i).toObject();
+            item.insert(HostKeys::children, items);
+            slide.slide.items.replace(i, members.size() > 1 ? item : items.first().toObject());
         }
     }
     return slide.slide.items;
+}
+
+// An item with its links to slides as they are now. What is read of the page has those of its document already.
+QJsonObject PageRestorer::linked(const Placed &placed, const QJsonObject &item)
+{
+    return placed.isIntact ? m_links.moved(item, m_unlinked) : item;
 }
 
 // A group with what it was beside its members. made: what the document alone tells of it.
@@ -506,29 +520,41 @@ QJsonObject PageRestorer::groupOf(int entry, const QVector<Placed> &members, con
     const bool isVisible = std::any_of(members.cbegin(), members.cend(),
                                        [](const Placed &member) { return ItemView(member.item).isVisible(); });
     const bool isShownNow = isVisible && !ItemView(given).isVisible();
-    QHash<int, QJsonObject> present;
-    QJsonArray others;
     int last = -1;
+    bool hasOthers = false;
     bool isInOrder = leavesOf(entry).size() == m_native->entries.at(entry).parts.size();
     for (const Placed &member : members) {
-        if (member.origin.entry != entry) {
-            others.append(member.item);
-            continue;
-        }
-        isInOrder = isInOrder && member.origin.leaf > last && others.isEmpty();
-        last = member.origin.leaf;
-        present.insert(last, member.isIntact && !isShownNow ? itemAt(member.origin) : member.item);
+        const bool isOwn = member.origin.entry == entry;
+        isInOrder = isInOrder && (!isOwn || (member.origin.leaf > last && !hasOthers));
+        last = isOwn ? member.origin.leaf : last;
+        hasOthers = hasOthers || !isOwn;
     }
-    QJsonObject group = made;
+    QHash<int, QJsonObject> present;
+    QJsonArray children;
+    QJsonArray others;
+    for (const Placed &member : members) {
+        const bool isOwn = member.origin.entry == entry;
+        const bool isAsHeld = isOwn && isInOrder && member.isIntact && !isShownNow;
+        const QJsonObject item = linked(member, isAsHeld ? itemAt(member.origin) : member.item);
+        children.append(item);
+        if (isOwn) {
+            present.insert(member.origin.leaf, item);
+        } else {
+            others.append(item);
+        }
+    }
+    const auto linkedAlone = [this](const QJsonObject &item) { return m_links.movedAlone(item, m_unlinked); };
     if (isInOrder) {
         int leaf = 0;
-        QJsonArray children =
-            rebuilt(given, present, leaf, !isTurned(m_native->entries.at(entry))).value(HostKeys::children).toArray();
+        children = rebuilt(given, present, leaf, !isTurned(m_native->entries.at(entry)), linkedAlone)
+                       .value(HostKeys::children)
+                       .toArray();
         for (const QJsonValue &other : qAsConst(others)) {
             children.append(other);
         }
-        group.insert(HostKeys::children, children);
     }
+    QJsonObject group = made;
+    group.insert(HostKeys::children, children);
     const bool staysPut = others.isEmpty() && !isTurned(m_native->entries.at(entry)) && holdsPlaces(entry, members);
     for (auto it = given.constBegin(); it != given.constEnd(); ++it) {
         const bool isOther = (isPlaceKey(it.key()) && !staysPut) || it.key() == HostKeys::children
@@ -546,7 +572,7 @@ QJsonObject PageRestorer::groupOf(int entry, const QVector<Placed> &members, con
     if (others.isEmpty() && present.size() + m_goneOf.value(entry) == m_native->entries.at(entry).parts.size()) {
         m_opened.remove(entry);
     }
-    return group;
+    return linkedAlone(group);
 }
 
 // Whether all that a group held covers what it covered.
@@ -592,6 +618,12 @@ void PageRestorer::tell(const QString &slideId, const SlideLosses &losses)
     }
     if (m_hasOtherBackground || m_isReordered || !m_lost.isEmpty() || !m_opened.isEmpty() || !m_added.isEmpty()) {
         losses.note(slide, sayNumber("%n items are as they were", m_restored));
+    }
+    for (const QJsonObject &item : qAsConst(m_unlinked)) {
+        losses.value(
+            item, ItemKeys::linkValue,
+            say("link to \"%1\": %2")
+                .arg(valueText(item.value(ItemKeys::linkValue)), say("the slide was removed by another program")));
     }
 }
 

@@ -4,11 +4,10 @@
 
 #include "iwb/iwbslidereader.h"
 #include "iwb/nativepart.h"
+#include "iwb/slidelinks.h"
 #include "svg/svgnormalizer.h"
 
 namespace lessonhost {
-
-const QLatin1String readOfPage("ReadOfPage");
 
 /*!
  * Makes a slide of a page that another program may have worked on since it was written: items whose elements are still
@@ -19,11 +18,10 @@ class PageRestorer
 public:
     //! All of them have to live as long. isUntouched: the document is known to be the one that was written.
     PageRestorer(const SvgNormalizer &content, IwbSlideReader &reader, const QHash<QString, RecordText> &records,
-                 bool isUntouched);
+                 const SlideLinks &links, bool isUntouched);
 
-    //! ID is that of the slide as it was. index: of the page, from 0. tellsRead: items that are read of the page have a
-    //! key readOfPage, since their links to slides are those of its document already.
-    LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses, bool tellsRead);
+    //! ID is that of the slide as it was. index: of the page, from 0.
+    LessonSlide restore(int index, const NativePage &native, const SlideLosses &losses);
     //! Whether each element that was asked for has the mark that it was written with.
     bool isAsMarked() const { return m_isAsMarked; }
 
@@ -73,6 +71,7 @@ private:
     void placeOthers(int number, const SlideLosses &losses);
     void placeRun(int begin, int end, int number, const SlideLosses &losses, UniqueIds &ids);
     QJsonArray grouped(int number, const SlideLosses &losses);
+    QJsonObject linked(const Placed &placed, const QJsonObject &item);
     QJsonObject groupOf(int entry, const QVector<Placed> &members, const QJsonObject &made);
     bool holdsPlaces(int entry, const QVector<Placed> &members);
     const QVector<QJsonObject> &leavesOf(int entry);
@@ -82,10 +81,10 @@ private:
     const SvgNormalizer &m_content;
     IwbSlideReader &m_reader;
     const QHash<QString, RecordText> &m_records;
+    const SlideLinks &m_links;
     const bool m_isUntouched;
 
     const NativePage *m_native = nullptr;
-    bool m_tellsRead = false;
     QVector<XmlPart> m_layers; // of the page
     QVector<QDomElement> m_children; // of these
     QHash<QString, QVector<int>> m_byId; // the children that stand for an identifier
@@ -100,6 +99,7 @@ private:
     QSet<int> m_lonely; // those of which the document shows one part at most
     QSet<int> m_opened; // entries that hold several items and aren't there as they were
     QVector<LossOwner> m_added;
+    QVector<QJsonObject> m_unlinked; // items that led to a slide that is gone
     bool m_isAsMarked = true;
     bool m_hasOtherBackground = false;
     bool m_isReordered = false;
