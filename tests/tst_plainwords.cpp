@@ -204,7 +204,7 @@ private slots:
         for (const int count : {0, 1, 499, 500, 1001}) {
             for (int i = report.entries().size(); i < count; ++i) {
                 const QString id = QString::number(i / 3);
-                report.add({Loss::Kind(i % 12), i / 9, "ZQGroupItem", id, "\n    ]" + id, Sentence("\"[" + id)});
+                report.add({Loss::Kind(i % 12), i / 9, "ZQGroupItem", id, "\n    ]\u00e4" + id, Sentence("\"[" + id)});
             }
             QByteArray text;
             report.writeJson([&text](const QByteArray &piece) { text += piece; }, {{"format", "iwb"}});

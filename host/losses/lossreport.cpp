@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "losses/lossreport.h"
 
+#include "files/compactjson.h"
+
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMap>
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
 #include <set>
-#include <utility>
 
 namespace lessonhost {
 
@@ -19,8 +19,7 @@ namespace {
 // Longer lists are cut in the summary; the JSON has every entry.
 constexpr int maximumNamed = 20;
 
-const QLatin1String entriesKey("entries");
-constexpr int entriesOfPiece = 500;
+constexpr int pieceSize = 64 * 1024;
 
 QLatin1String groupName(Loss::Group group)
 {
@@ -89,6 +88,9 @@ Sentence countedByKey(const LossList &losses)
 {
     QMap<QString, int> counts;
     for (const Loss &loss : losses) {
+        if (!isOfItem(loss)) {
+            continue;
+        }
         const QString key = loss.key.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('['), 0, 0);
         ++counts[key.isEmpty() ? loss.itemType : key];
     }
@@ -101,7 +103,7 @@ Sentence listedLosses(const LossList &losses, Details details = Details::Hidden)
 Sentence listedByKey(const LossList &losses)
 {
     const LossList others = losses.filtered([](const Loss &loss) { return !isOfItem(loss); });
-    const Sentence ofItems = say("of items %1").arg(countedByKey(losses.filtered(isOfItem)));
+    const Sentence ofItems = say("of items %1").arg(countedByKey(losses));
     return others.isEmpty() ? ofItems : say("%1, %2").arg(listedLosses(others), ofItems);
 }
 
@@ -170,30 +172,29 @@ Sentence listedOf(Loss::Kind kind, const LossList &losses)
 // Under what a loss is counted in tables over many lessons: keys that tell a place in the lesson are cut.
 QString nameInTables(const Loss &loss)
 {
-    static const QRegularExpression place(QStringLiteral("[./[].*"), QRegularExpression::DotMatchesEverythingOption);
-    const QString key = loss.kind == Loss::File ? QString() : QString(loss.key).remove(place);
+    const auto isCut = [](QChar c) { return c == QLatin1Char('.') || c == QLatin1Char('/') || c == QLatin1Char('['); };
+    const auto end = std::find_if(loss.key.cbegin(), loss.key.cend(), isCut);
+    const QString key = loss.kind == Loss::File ? QString() : loss.key.left(int(end - loss.key.cbegin()));
     return key.isEmpty() ? loss.itemType : loss.itemType + QLatin1Char('.') + key;
 }
 
-QJsonArray listOf(const LossList &losses)
+// The members of an entry in the order of their names.
+void eachMember(const Loss &loss, const std::function<void(const char *name, const QJsonValue &value)> &take)
 {
-    QJsonArray entries;
-    for (const Loss &loss : losses) {
-        QJsonObject entry{{QStringLiteral("kind"), lossKindName(loss.kind)},
-                          {QStringLiteral("group"), groupName(groupOf(loss))},
-                          {QStringLiteral("type"), loss.itemType}};
-        if (loss.slide > 0) {
-            entry.insert(QStringLiteral("slide"), loss.slide);
+    const auto takeText = [&take](const char *name, const QString &text) {
+        if (!text.isEmpty()) {
+            take(name, text);
         }
-        for (const auto &[name, text] :
-             {std::pair("id", loss.itemId), {"key", loss.key}, {"detail", loss.detail.english()}}) {
-            if (!text.isEmpty()) {
-                entry.insert(QLatin1String(name), text);
-            }
-        }
-        entries.append(entry);
+    };
+    takeText("detail", loss.detail.english());
+    take("group", groupName(groupOf(loss)));
+    takeText("id", loss.itemId);
+    takeText("key", loss.key);
+    take("kind", lossKindName(loss.kind));
+    if (loss.slide > 0) {
+        take("slide", loss.slide);
     }
-    return entries;
+    take("type", loss.itemType);
 }
 
 } // namespace
@@ -292,26 +293,45 @@ QJsonObject LossReport::toHead() const
 
 QJsonObject LossReport::toJson() const
 {
+    QJsonArray entries;
+    for (const Loss &loss : m_entries) {
+        QJsonObject entry;
+        eachMember(loss, [&entry](const char *name, const QJsonValue &value) {
+            entry.insert(QLatin1String(name), value);
+        });
+        entries.append(entry);
+    }
     QJsonObject json = toHead();
-    json.insert(entriesKey, listOf(m_entries));
+    json.insert(QStringLiteral("entries"), entries);
     return json;
 }
 
 void LossReport::writeJson(const std::function<void(const QByteArray &piece)> &put, const QJsonObject &more) const
 {
     // They come before all other members, by the order of names.
-    put("{\n    \"entries\": [");
-    for (int begin = 0; begin < m_entries.size(); begin += entriesOfPiece) {
-        const QJsonObject piece{{entriesKey, listOf(m_entries.mid(begin, entriesOfPiece))}};
-        const QByteArray text = QJsonDocument(piece).toJson();
-        const int from = text.indexOf('[') + 1;
-        put((begin > 0 ? "," : "") + text.mid(from, text.lastIndexOf("\n    ]") - from));
+    QByteArray text = "{\n    \"entries\": [";
+    const char *beforeEntry = "";
+    for (const Loss &loss : m_entries) {
+        text += beforeEntry;
+        beforeEntry = ",";
+        text += "\n        {";
+        const char *beforeMember = "";
+        eachMember(loss, [&](const char *name, const QJsonValue &value) {
+            text += beforeMember;
+            beforeMember = ",";
+            text += QByteArray("\n            \"") + name + "\": " + compactJson(value);
+        });
+        text += "\n        }";
+        if (text.size() > pieceSize) {
+            put(text);
+            text.clear();
+        }
     }
     QJsonObject rest = toHead();
     for (auto it = more.constBegin(); it != more.constEnd(); ++it) {
         rest.insert(it.key(), it.value());
     }
-    put("\n    ],\n" + QJsonDocument(rest).toJson().mid(2));
+    put(text + "\n    ],\n" + QJsonDocument(rest).toJson().mid(2));
 }
 
 } // namespace lessonhost
