@@ -158,6 +158,21 @@ private slots:
             };
             QVERIFY_EXCEPTION_THROWN(failing(), LessonError);
             QVERIFY2(done >= 1011 && done < 1020, qPrintable(QString::number(done)));
+            QVector<int> order;
+            WorkBehind ordered(isBehind, WorkBehind::Order::AsGiven);
+            const auto failAt = [&](int last) {
+                for (int i = 0; i < 1000; ++i) {
+                    ordered.give(1, [&order, i, last] {
+                        order.append(i); // of one thread at a time
+                        if (i == last) {
+                            throw LessonError(Sentence("full"));
+                        }
+                    });
+                }
+                ordered.finish();
+            };
+            QVERIFY_EXCEPTION_THROWN(failAt(500), LessonError);
+            QVERIFY(order.size() == 501 && std::is_sorted(order.cbegin(), order.cend()));
             WorkBehind unequal(isBehind);
             const auto failIn = [&](int milliseconds, const char *name) {
                 unequal.give(bytes, [milliseconds, name] {

@@ -11,10 +11,17 @@ namespace {
 
 constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
 
+int mostThreads(WorkBehind::Order order)
+{
+    const int beside = int(std::thread::hardware_concurrency()) - 1;
+    return order == WorkBehind::Order::AsGiven ? qMin(1, beside) : beside;
+}
+
 } // namespace
 
-WorkBehind::WorkBehind(bool isBehind)
-    : m_mostThreads(isBehind ? int(std::thread::hardware_concurrency()) - 1 : 0)
+WorkBehind::WorkBehind(bool isBehind, Order order)
+    : m_order(order)
+    , m_mostThreads(isBehind ? mostThreads(order) : 0)
 {
     m_threads.reserve(std::size_t(qMax(0, m_mostThreads))); // so that a thread that is made can be kept
 }
@@ -32,7 +39,7 @@ WorkBehind::~WorkBehind()
     }
 }
 
-void WorkBehind::give(qint64 bytes, const std::function<void()> &work)
+void WorkBehind::give(qint64 bytes, std::function<void()> work)
 {
     Lock lock(m_mutex);
     helpUntil(lock, [this, bytes] { return m_open == 0 || m_bytes + bytes <= mostBytes; });
@@ -44,7 +51,7 @@ void WorkBehind::give(qint64 bytes, const std::function<void()> &work)
         work();
         return;
     }
-    m_waiting.push_back({bytes, work});
+    m_waiting.push_back({bytes, std::move(work)});
     ++m_open;
     m_bytes += bytes;
     m_given.notify_one();
@@ -70,10 +77,10 @@ void WorkBehind::finish()
 void WorkBehind::helpUntil(Lock &lock, const std::function<bool()> &isEnough)
 {
     while (!m_failure && !isEnough()) {
-        if (m_waiting.empty()) {
-            m_done.wait(lock);
-        } else {
+        if (canBegin()) {
             doNext(lock);
+        } else {
+            m_done.wait(lock);
         }
     }
     // What was begun before may fail yet.
@@ -83,12 +90,17 @@ void WorkBehind::helpUntil(Lock &lock, const std::function<bool()> &isEnough)
     }
 }
 
+bool WorkBehind::canBegin() const
+{
+    return !m_waiting.empty() && (m_order == Order::Any || m_running == 0);
+}
+
 void WorkBehind::run()
 {
     Lock lock(m_mutex);
     while (true) {
         ++m_idle;
-        m_given.wait(lock, [this] { return m_isEnding || !m_waiting.empty(); });
+        m_given.wait(lock, [this] { return m_isEnding || canBegin(); });
         --m_idle;
         if (m_isEnding) {
             return;
@@ -122,6 +134,9 @@ void WorkBehind::doNext(Lock &lock)
         m_waiting.clear();
     }
     m_done.notify_all();
+    if (canBegin()) {
+        m_given.notify_one();
+    }
 }
 
 } // namespace lessonhost

@@ -16,20 +16,26 @@ namespace lessonhost {
 
 /*!
  * Work whose results nobody waits for, such as packing pictures: threads do it while who gives it goes on. There are as
- * many as the machine has beside that one. Who gives more than they get done does some of it, so that little waits.
+ * many as the machine has beside that one, or one where the order counts. Who gives more than they get done does some
+ * of it, so that little waits.
  */
 class WorkBehind
 {
 public:
+    enum class Order {
+        Any,
+        AsGiven //!< one piece after the other
+    };
+
     //! isBehind: false if all is to be done by who gives it, at once.
-    explicit WorkBehind(bool isBehind);
+    explicit WorkBehind(bool isBehind, Order order = Order::Any);
     WorkBehind(const WorkBehind &) = delete;
     WorkBehind &operator=(const WorkBehind &) = delete;
     //! What isn't begun is left undone.
     ~WorkBehind();
 
     //! bytes: the memory that the work holds until it is done. Throws what work before has thrown, the first of it.
-    void give(qint64 bytes, const std::function<void()> &work);
+    void give(qint64 bytes, std::function<void()> work);
     //! Until all of it is done. Throws likewise.
     void finish();
 
@@ -41,11 +47,13 @@ private:
     };
     using Lock = std::unique_lock<std::mutex>;
 
+    bool canBegin() const;
     void run();
     void addThread();
     void doNext(Lock &lock);
     void helpUntil(Lock &lock, const std::function<bool()> &isEnough);
 
+    Order m_order;
     int m_mostThreads;
     std::mutex m_mutex; // of all below but for the threads
     std::deque<Piece> m_waiting;
