@@ -91,13 +91,15 @@ private slots:
         QStringList asked[2];
         for (const bool isAhead : {false, true}) {
             context.readsAhead = isAhead;
-            for (const char *name : {"whole.json", "same.json", "broken.json", "raw.xml"}) {
+            for (int i = 0; i < 8; ++i) {
+                const char *const to = i < 4 ? "zqtx" : "iwb";
+                const QString name = QStringList{"whole.json", "same.json", "broken.json", "raw.xml"}.at(i % 4);
                 const QString input = folder.filePath(name);
-                const QString output = folder.filePath(QString("%1%2").arg(name).arg(isAhead));
+                const QString output = folder.filePath(QString("%1%2%3").arg(name, to).arg(isAhead));
                 LossReport losses;
                 context.losses = &losses;
                 try {
-                    convertLesson(lessonFormatOfInput(input), input, lessonFormatByName("zqtx"), output, context,
+                    convertLesson(lessonFormatOfInput(input), input, lessonFormatByName(to), output, context,
                                   [](int, int) {});
                     const QMap<QString, QByteArray> files = filesBelow(output);
                     for (auto it = files.cbegin(); it != files.cend(); ++it) {
@@ -127,6 +129,44 @@ private slots:
         QCOMPARE(asked[1], asked[0]);
         QCOMPARE(asked[1].join(""), QString("1(1)2(2)1(2)6(6)7(7)3(3)2(3)"));
         QCOMPARE(told[1].mid(told[1].indexOf("1 ID"), 5).join(','), QString("1 ID,1 lost,2 ID,2 lost,3 ID"));
+    }
+
+    // A page that fails while others are made already fails before them, and all is told until then.
+    void pagesFailInOrder()
+    {
+        QTemporaryDir folder;
+        GuardedPlugin guarded(plugin());
+        QStringList told[2];
+        for (const bool isBehind : {false, true}) {
+            LossReport losses;
+            LessonContext context;
+            context.plugin = &guarded;
+            context.losses = &losses;
+            context.readsAhead = isBehind;
+            const auto writer = lessonFormatByName("iwb").create(folder.filePath("out.iwb"), context);
+            writer->begin({{"Width", "800"}, {"Height", "600"}});
+            try {
+                for (int i = 1; i < 9; ++i) {
+                    const QString points = i == 5 ? QString("1,1,").repeated(1100000) : QString("0,0,29,38");
+                    const QString id = i == 4 ? QString(7000000, '&') : QString("item%1").arg(i);
+                    const QJsonObject item{{"Type", "ZQMath2DEllipse"},
+                                           {"ID", id},
+                                           {"BoundingBox", "1,2,30,40"},
+                                           {"Control", points},
+                                           {"lost", "1"}};
+                    writer->writeSlide({{{"ID", QString::number(i)}}, {item}});
+                }
+                writer->finish();
+            } catch (const LessonError &error) {
+                told[isBehind].append(error.problem().english());
+            }
+            for (const Loss &loss : losses.entries()) {
+                told[isBehind].append(QString("%1 %2").arg(loss.slide).arg(loss.key));
+            }
+        }
+        QCOMPARE(told[1], told[0]);
+        QCOMPARE(told[1].join(", "),
+                 QString("Slide 4 takes 34 MiB, and no slide may take more than 32, 1 lost, 2 lost, 3 lost, 4 lost"));
     }
 
     // Each level of a mind map is two of XML and of JSON, deeper than Qt's own JSON parser goes.

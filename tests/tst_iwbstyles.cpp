@@ -499,7 +499,7 @@ private slots:
             owner.setAttribute(attribute, owner.attribute(attribute).replace(part, to));
         }
         LossReport losses;
-        IwbPageCheck(plugin(), media).compare(pages.document(), slide, items, 1, SlideLosses(&losses, 1));
+        IwbPageCheck(plugin()).compare(pages.document(), slide, items, 1, SlideLosses(&losses, 1));
         QStringList keys;
         for (const Loss &loss : losses.entries()) {
             keys.append(loss.key.isEmpty() ? "item"_s : loss.key);

@@ -49,6 +49,13 @@ public:
     //! How many points were left out so since the last call.
     int takePointsLeftOut() { return std::exchange(m_pointsLeftOut, 0); }
 
+    //! Holds no longer what was written, nor whom it was told to.
+    void letGo()
+    {
+        m_document.clear();
+        m_losses = {};
+    }
+
     //! A picture that stands for an item: hidden, locked and linked like it. reference: of the picture's file.
     QDomElement writePicture(QDomDocument &document, const QJsonObject &item, const QString &id,
                              const QString &reference, const QRectF &box);

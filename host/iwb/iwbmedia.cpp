@@ -3,12 +3,18 @@
 
 namespace lessonhost {
 
+void IwbMedia::add(const QString &relativePath, const QString &sourceFile)
+{
+    m_files.add(relativePath, sourceFile);
+    m_newFiles.append({relativePath, sourceFile});
+}
+
 QString IwbMedia::place(const QString &folder, const File &file, const QString &wantedName)
 {
     const QString reference = folder + QLatin1Char('/') + m_files.nameIn(folder, file.source, wantedName);
     if (!m_placed.contains(reference)) {
         m_placed.insert(reference, file);
-        m_new.append(reference);
+        m_newReferences.append(reference);
         if (!file.isConverted) {
             m_unchanged[file.source].append(reference);
         }
@@ -16,15 +22,16 @@ QString IwbMedia::place(const QString &folder, const File &file, const QString &
     return reference;
 }
 
-void IwbMedia::storeNew(const std::function<void(const QString &, const File &)> &store)
+IwbMedia::Additions IwbMedia::takeAdditions()
 {
-    QStringList references;
-    references.swap(m_new);
-    for (const QString &reference : qAsConst(references)) {
+    Additions additions{std::exchange(m_newFiles, {}), {}};
+    const QStringList references = std::exchange(m_newReferences, {});
+    for (const QString &reference : references) {
         File &file = m_placed[reference];
-        store(reference, file);
+        additions.placed.append({reference, file});
         file.picture = {};
     }
+    return additions;
 }
 
 QStringList IwbMedia::unchanged(const QString &relativePath) const

@@ -5,8 +5,9 @@
 #include "files/lessonfiles.h"
 
 #include <QImage>
+#include <QVector>
 
-#include <functional>
+#include <utility>
 
 namespace lessonhost {
 
@@ -25,7 +26,14 @@ public:
         bool isMade = false; //!< no file of the lesson, but a picture of an item
     };
 
-    void add(const QString &relativePath, const QString &sourceFile) { m_files.add(relativePath, sourceFile); }
+    //! What came up in a while.
+    struct Additions
+    {
+        QVector<std::pair<QString, QString>> files; //!< of the lesson: paths in it and on disk
+        QVector<std::pair<QString, File>> placed; //!< by their references
+    };
+
+    void add(const QString &relativePath, const QString &sourceFile);
 
     //! The file on disk that an item's reference means, or nothing.
     QString find(const QString &reference) { return m_files.find(reference); }
@@ -40,8 +48,8 @@ public:
     //! The file that a reference of a page stands for; without a source where there is none.
     File file(const QString &reference) const { return m_placed.value(reference); }
 
-    //! Calls store for each reference that came up since the last call, and lets go of its picture.
-    void storeNew(const std::function<void(const QString &reference, const File &file)> &store);
+    //! What came up since the last call. Its pictures are no longer held here.
+    Additions takeAdditions();
 
     //! Of all files, ascending.
     QStringList paths() const { return m_files.paths(); }
@@ -58,7 +66,8 @@ private:
     LessonFiles m_files;
     QHash<QString, File> m_placed; // by reference
     QHash<QString, QStringList> m_unchanged; // references of files that go as they are, by their sources
-    QStringList m_new;
+    QVector<std::pair<QString, QString>> m_newFiles;
+    QStringList m_newReferences;
 };
 
 } // namespace lessonhost

@@ -171,17 +171,26 @@ QSet<QString> toldItems(const LessonSlide &slide, const QVector<IwbPageWriter::W
 
 } // namespace
 
-IwbPageCheck::IwbPageCheck(IZQTransformation *plugin, const IwbMedia &media)
+IwbPageCheck::IwbPageCheck(IZQTransformation *plugin)
     : m_plugin(plugin)
-    , m_media(media)
     , m_reader(plugin, this)
     , m_outlines(pluginOutlines(plugin))
 {
 }
 
+void IwbPageCheck::add(const IwbMedia::Additions &media)
+{
+    for (const auto &[path, source] : media.files) {
+        m_files.insert(path, source);
+    }
+    for (const auto &[reference, file] : media.placed) {
+        m_placed.insert(reference, file);
+    }
+}
+
 QString IwbPageCheck::resolve(const QString &reference, Sentence *problem)
 {
-    if (!m_media.file(reference).source.isEmpty()) {
+    if (!file(reference).isEmpty()) {
         return reference;
     }
     *problem = say("the package has no such file");
@@ -353,15 +362,15 @@ bool IwbPageCheck::isSameFile(const LossOwner &owner, const QJsonValue &given, c
     if (isNothing(found)) {
         return given.isString() && losses.hasFile(owner, reference);
     }
-    const IwbMedia::File file = m_media.file(found.toString());
-    return !file.isConverted && !file.source.isEmpty() && file.source == m_media.source(reference);
+    const IwbMedia::File file = m_placed.value(found.toString());
+    return !file.isConverted && !file.source.isEmpty() && file.source == m_files.value(reference);
 }
 
-void IwbPageCheck::finish(int pageCount) const
+void IwbPageCheck::finish(int pageCount, LossReport *report) const
 {
     for (const PageLink &link : m_pageLinks) {
         if (link.page > pageCount) {
-            link.losses.value(link.owner, link.key, Sentence(link.value));
+            link.losses.in(report).value(link.owner, link.key, Sentence(link.value));
         }
     }
 }

@@ -8,6 +8,7 @@
 #include "iwb/slidenames.h"
 #include "lesson/shapegeometry.h"
 
+#include <QHash>
 #include <QVector>
 
 namespace lessonhost {
@@ -18,7 +19,10 @@ namespace lessonhost {
 class IwbPageCheck : private IwbReferences
 {
 public:
-    IwbPageCheck(IZQTransformation *plugin, const IwbMedia &media);
+    explicit IwbPageCheck(IZQTransformation *plugin);
+
+    //! What pages from now on may refer to beside what is known.
+    void add(const IwbMedia::Additions &media);
 
     //! Compares the one page of a document with the slide that it was made from; number counts from 1.
     void compare(const QDomDocument &document, const LessonSlide &slide,
@@ -28,8 +32,8 @@ public:
     void comparePresentation(const QDomDocument &document, const QJsonObject &presentation,
                              const SlideLosses &losses) const;
 
-    //! Tells of links to pages that never came.
-    void finish(int pageCount) const;
+    //! Tells of links to pages that never came. report: where, for what belongs to no page; null for nobody.
+    void finish(int pageCount, LossReport *report) const;
 
 private:
     // A value of a link to a page behind those that are written so far.
@@ -43,7 +47,7 @@ private:
     };
 
     QString resolve(const QString &reference, Sentence *problem) override;
-    QString file(const QString &path) override { return m_media.file(path).source; }
+    QString file(const QString &path) override { return m_placed.value(path).source; }
     int pageNumber(const QString &id) override;
 
     void compareSlide(const QJsonObject &given, const QJsonObject &found, const SlideLosses &losses) const;
@@ -55,7 +59,8 @@ private:
                     const SlideLosses &losses) const;
 
     IZQTransformation *m_plugin;
-    const IwbMedia &m_media;
+    QHash<QString, QString> m_files; // of the lesson, by path
+    QHash<QString, IwbMedia::File> m_placed; // by reference
     IwbSlideReader m_reader;
     OutlineSource m_outlines;
     SlideNames m_names;

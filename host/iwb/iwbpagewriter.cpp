@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lessonhost {
 
@@ -206,9 +207,16 @@ void IwbPageWriter::start(const QJsonObject &presentation, const QJsonObject &fi
                      QStringLiteral("0 0 %1 %2").arg(exactText(m_pageSize.width()), exactText(m_pageSize.height())));
 }
 
-QDomElement IwbPageWriter::pageSet() const
+QDomDocument IwbPageWriter::takeDocument()
 {
-    return m_document.documentElement().firstChildElement(svgTag).firstChildElement(QStringLiteral("svg:pageset"));
+    m_behind.clear();
+    m_items.letGo();
+    return std::exchange(m_document, {});
+}
+
+QDomElement IwbPageWriter::pageSet(const QDomDocument &document)
+{
+    return document.documentElement().firstChildElement(svgTag).firstChildElement(QStringLiteral("svg:pageset"));
 }
 
 QDomElement IwbPageWriter::addPage(const QJsonObject &slide, int number, const SlideLosses &losses)
@@ -239,7 +247,7 @@ QDomElement IwbPageWriter::addPage(const QJsonObject &slide, int number, const S
                                                        {QStringLiteral("AttachFile"), picture},
                                                    });
     if (!page.isNull()) {
-        pageSet().appendChild(page);
+        pageSet(m_document).appendChild(page);
         fillPage(page, picture);
     }
     return page;

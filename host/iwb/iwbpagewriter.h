@@ -42,7 +42,12 @@ public:
 
     //! Null before start(), or where the plug-in makes none.
     QDomDocument document() const { return m_document; }
-    QDomElement pageSet() const;
+    //! Hands it over with all that is in it; nothing of it is held here. Another takes its place before a page comes.
+    QDomDocument takeDocument();
+    //! document: a copy of the one that start() has made.
+    void setDocument(const QDomDocument &document) { m_document = document; }
+    //! Where the pages of a document stand. Null in one that has no such place.
+    static QDomElement pageSet(const QDomDocument &document);
     QSizeF pageSize() const { return m_pageSize; }
 
     //! Puts a page into the document that shows the slide's colour and picture. number counts from 1. Null where the

@@ -18,6 +18,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <memory>
 
 namespace lessonhost {
 
@@ -29,6 +30,13 @@ constexpr int thumbnailWidth = 320;
 // How many elements stand around a page and around a record about an item.
 constexpr int pageDepth = 3;
 constexpr int recordDepth = 1;
+// Such that one is written while the next is made, and none waits.
+constexpr qint64 bytesOfPage = qint64(16) * 1024 * 1024;
+
+LossOwner ownerOf(const LessonSlide &slide)
+{
+    return {QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()};
+}
 
 IwbItemWriter::Setting itemSetting(const LessonContext &context, IwbMedia *media)
 {
@@ -95,15 +103,17 @@ IwbWriter::IwbWriter(const QString &path, const LessonContext &context)
     , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isIwbFolder)
     , m_packing(context.readsAhead)
     , m_pages(itemSetting(context, &m_media))
-    , m_dress(!context.options.contains(QStringLiteral("plain")))
     , m_travels(!context.options.contains(QStringLiteral("plain")))
     , m_makesPictures(context.options.value(QStringLiteral("items")) != QLatin1String("drop"))
+    , m_places(context.losses)
+    , m_dress(m_travels)
+    , m_writing(context.readsAhead, WorkBehind::Order::AsGiven)
 {
     m_losses.setFormat(QStringLiteral("IWB"));
     m_target.setKept(context.isKept);
     m_pages.setPainter(context.painter, m_makesPictures);
     if (context.verify && m_losses.presentation().isHeard()) {
-        m_check = std::make_unique<IwbPageCheck>(context.plugin, m_media);
+        m_check = std::make_unique<IwbPageCheck>(context.plugin);
     }
     m_pages.setUniqueInDocument();
     if (m_travels && !context.isTrial) {
@@ -132,34 +142,82 @@ void IwbWriter::addResource(const QString &relativePath, const QString &sourceFi
 
 void IwbWriter::writeSlide(const LessonSlide &slide)
 {
-    if (m_pages.document().isNull()) {
+    try {
+        const auto made = std::make_shared<const MadePage>(makePage(slide));
+        m_writing.give(bytesOfPage, [this, made] { writePage(*made); });
+    } catch (const LessonError &) {
+        finishPages(); // which fails with that of a page before
+        throw;
+    }
+}
+
+IwbWriter::MadePage IwbWriter::makePage(const LessonSlide &slide)
+{
+    if (m_empty.isNull()) {
         start(slide.properties);
         startPages();
     }
-    ++m_slides;
-    checkPagePoints(slide.items, m_slides, m_target.target());
-    const SlideLosses told = m_losses.slide(m_slides);
-    const SlideLosses losses = m_travels ? told.elsewhere() : told;
-    QDomElement page = m_pages.addPage(slide.properties, m_slides, losses);
+    MadePage made;
+    made.slide = slide;
+    made.number = ++m_slides;
+    made.losses = SlideLosses(m_places.next(), made.number);
+    checkPagePoints(slide.items, made.number, m_target.target());
+    const SlideLosses losses = m_travels ? made.losses.elsewhere() : made.losses;
+    m_pages.setDocument(m_empty.cloneNode().toDocument());
+    QDomElement page = m_pages.addPage(slide.properties, made.number, losses);
     if (page.isNull()) {
         failWithoutPages();
     }
-    const QVector<IwbPageWriter::WrittenItem> items = m_pages.addItems(page, slide, losses);
+    made.items = m_pages.addItems(page, slide, losses);
     const auto isLeftOut = [](const IwbPageWriter::WrittenItem &item) { return item.id.isEmpty(); };
-    if (!items.isEmpty() && std::all_of(items.cbegin(), items.cend(), isLeftOut)) {
-        losses.emptied({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()});
-    }
-    m_dress.dress(page, itemsFor(items));
-    if (m_check) {
-        m_check->compare(m_pages.document(), slide, items, m_slides, losses);
+    if (!made.items.isEmpty() && std::all_of(made.items.cbegin(), made.items.cend(), isLeftOut)) {
+        losses.emptied(ownerOf(slide));
     }
     lookAtTexts(page);
-    storeMedia();
-    if (m_native && !m_native->writePage(m_slides, slide, items, page)) {
-        told.note({QStringLiteral("slide"), slide.properties.value(SlideKeys::id).toString()},
-                  say("it is too deep to travel along, so that what other boards don't show is lost"));
+    constexpr int lettersOfPoint = 16;
+    made.leftOut = qint64(m_pages.items().takePointsLeftOut()) * lettersOfPoint;
+    made.media = m_media.takeAdditions();
+    storeMedia(made.media);
+    made.document = m_pages.takeDocument();
+    return made;
+}
+
+// Any thread may do it, one page after the other.
+void IwbWriter::writePage(const MadePage &made)
+{
+    const QDomElement page = IwbPageWriter::pageSet(made.document).firstChildElement();
+    m_dress.dress(page, itemsFor(made.items));
+    if (m_check) {
+        m_check->add(made.media);
+        m_check->compare(made.document, made.slide, made.items, made.number,
+                         m_travels ? made.losses.elsewhere() : made.losses);
     }
-    writePage(page);
+    if (m_native && !m_native->writePage(made.number, made.slide, made.items, page)) {
+        made.losses.note(ownerOf(made.slide),
+                         say("it is too deep to travel along, so that what other boards don't show is lost"));
+    }
+    const QByteArray text = xmlLines(page, pageDepth);
+    checkSlideSize(text.size() + made.leftOut, made.number, m_target.target());
+    m_contentSize += made.leftOut;
+    append(text);
+    const QDomElement svg = made.document.documentElement().firstChildElement(svgPartTag);
+    for (QDomElement record = svg.nextSiblingElement(); !record.isNull(); record = record.nextSiblingElement()) {
+        m_records += xmlLines(record, recordDepth);
+    }
+    ++m_writtenPages;
+}
+
+// So that all is told of the pages that are written, and of the one that fails, and nothing of those behind it.
+void IwbWriter::finishPages()
+{
+    const auto tell = [this] { m_places.finish(m_writtenPages + 1); };
+    try {
+        m_writing.finish();
+    } catch (const LessonError &) {
+        tell();
+        throw;
+    }
+    tell();
 }
 
 void IwbWriter::lookAtTexts(const QDomElement &page)
@@ -174,22 +232,23 @@ void IwbWriter::lookAtTexts(const QDomElement &page)
 void IwbWriter::start(const QJsonObject &firstSlide)
 {
     m_pages.start(m_presentation, firstSlide);
-    BoardDress::startDocument(m_pages.document(), m_presentation);
+    m_empty = m_pages.takeDocument();
+    BoardDress::startDocument(m_empty, m_presentation);
     if (m_check) {
         const SlideLosses losses = m_losses.presentation();
-        m_check->comparePresentation(m_pages.document(), m_presentation, m_travels ? losses.elsewhere() : losses);
+        m_check->comparePresentation(m_empty, m_presentation, m_travels ? losses.elsewhere() : losses);
     }
 }
 
 // Writes what stands before the pages and keeps what stands behind them.
 void IwbWriter::startPages()
 {
-    QDomElement pages = m_pages.pageSet();
+    QDomElement pages = IwbPageWriter::pageSet(m_empty);
     if (pages.isNull()) {
         failWithoutPages();
     }
-    const QDomNode mark = pages.appendChild(m_pages.document().createElement(QStringLiteral("pages")));
-    const QByteArray text = xmlDocumentText(m_pages.document().documentElement());
+    const QDomNode mark = pages.appendChild(m_empty.createElement(QStringLiteral("pages")));
+    const QByteArray text = xmlDocumentText(m_empty.documentElement());
     const QByteArray marked = xmlLines(mark.toElement(), pageDepth);
     pages.removeChild(mark);
     const int place = text.indexOf(marked);
@@ -201,25 +260,7 @@ void IwbWriter::startPages()
     m_afterPages = text.mid(place + marked.size());
 }
 
-// The page goes into the file and out of the document, and so do the records about its items.
-void IwbWriter::writePage(const QDomElement &page)
-{
-    const QByteArray text = xmlLines(page, pageDepth);
-    constexpr int lettersOfPoint = 16;
-    const qint64 leftOut = qint64(m_pages.items().takePointsLeftOut()) * lettersOfPoint;
-    checkSlideSize(text.size() + leftOut, m_slides, m_target.target());
-    m_contentSize += leftOut;
-    append(text);
-    m_pages.pageSet().removeChild(page);
-    QDomElement root = m_pages.document().documentElement();
-    const QDomElement svg = root.firstChildElement(svgPartTag);
-    for (QDomElement record = svg.nextSiblingElement(); !record.isNull(); record = svg.nextSiblingElement()) {
-        m_records += xmlLines(record, recordDepth);
-        root.removeChild(record);
-    }
-}
-
-void IwbWriter::finishPages()
+void IwbWriter::finishDocument()
 {
     const int end = m_afterPages.lastIndexOf("\n</");
     append(m_afterPages.left(end) + m_records + m_afterPages.mid(end));
@@ -236,18 +277,18 @@ void IwbWriter::append(const QByteArray &text)
     m_target.append(contentFile, text);
 }
 
-void IwbWriter::storeMedia()
+void IwbWriter::storeMedia(IwbMedia::Additions &media)
 {
-    m_media.storeNew([this](const QString &reference, const IwbMedia::File &file) {
+    for (auto &[reference, file] : media.placed) {
         if (m_context.isTrial) {
-            return;
-        }
-        if (!file.isConverted) {
+            // It is only asked for its name.
+        } else if (!file.isConverted) {
             m_target.copy(reference, file.source, reference);
-            return;
+        } else {
+            storePicture(reference, file.picture, file.isMade);
         }
-        storePicture(reference, file.picture, file.isMade);
-    });
+        file.picture = {};
+    }
 }
 
 // To pack a picture takes longer than all else that is done for an item.
@@ -272,17 +313,18 @@ void IwbWriter::failWithoutPages() const
 
 void IwbWriter::finish()
 {
-    if (m_pages.document().isNull()) {
+    finishPages();
+    if (m_empty.isNull()) {
         start({});
-        const QByteArray text = xmlDocumentText(m_pages.document().documentElement());
+        const QByteArray text = xmlDocumentText(m_empty.documentElement());
         m_contentHash.addData(text);
         m_target.write(contentFile, text);
     } else {
-        finishPages();
+        finishDocument();
     }
     const SlideLosses losses = m_losses.presentation();
     if (m_check) {
-        m_check->finish(m_slides);
+        m_check->finish(m_slides, m_context.losses);
     }
     const int strokes = m_pages.items().strokesAsPolylines();
     if (strokes > 0) {

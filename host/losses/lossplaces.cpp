@@ -15,10 +15,11 @@ LossReport *LossPlaces::next()
     return m_places.back().told.get();
 }
 
-void LossPlaces::finish()
+void LossPlaces::finish(int count)
 {
-    const std::vector<Place> places = std::move(m_places);
+    std::vector<Place> places = std::move(m_places);
     m_places.clear();
+    places.resize(std::min(places.size(), std::size_t(count)));
     const auto isEmpty = [](const Place &place) { return place.told->isEmpty(); };
     if (std::all_of(places.begin(), places.end(), isEmpty)) {
         return;

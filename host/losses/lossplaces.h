@@ -25,7 +25,9 @@ public:
     //! Whom to tell what belongs behind the entries that are there now. Null for nobody who listens.
     LossReport *next();
     //! When nobody tells anything more.
-    void finish();
+    void finish() { finish(int(m_places.size())); }
+    //! The same, where what is told in all but the first so many places is dropped.
+    void finish(int count);
 
 private:
     struct Place

@@ -29,6 +29,13 @@ SlideLosses SlideLosses::elsewhere() const
     return losses;
 }
 
+SlideLosses SlideLosses::in(LossReport *report) const
+{
+    SlideLosses losses(report, m_slide);
+    losses.m_isElsewhere = m_isElsewhere;
+    return losses;
+}
+
 void SlideLosses::value(const LossOwner &owner, const QString &key, const Sentence &detail) const
 {
     add(m_isElsewhere ? Loss::Otherwise : Loss::Value, owner, key, detail);

@@ -47,6 +47,8 @@ public:
     bool isElsewhere() const { return m_isElsewhere; }
     //! The same slide, where everything is only told of what other boards show.
     SlideLosses elsewhere() const;
+    //! The same slide, told to another report; null for nobody who listens.
+    SlideLosses in(LossReport *report) const;
 
     //! A value that did not survive.
     void value(const LossOwner &owner, const QString &key, const Sentence &detail = {}) const;

@@ -167,7 +167,7 @@ SlideItemPainter::painted(const std::function<bool(PlainSvg &plain, Drawings &dr
     }
     Drawings drawings(plain, m_pages, m_media);
     const bool isItself = draw(plain, drawings);
-    m_media.storeNew([](const QString &, const IwbMedia::File &) {});
+    m_media.takeAdditions(); // nobody stores them
     // A box with the name of an item isn't the item.
     const bool mayBeElements = form != Picture && isItself;
     if (form == Elements && (!mayBeElements || plain.isInVain())) {
