@@ -209,38 +209,54 @@ std::unique_ptr<OutputFile> PackageTarget::newFile(const QString &relativePath)
 
 void PackageTarget::write(const QString &relativePath, const QByteArray &content)
 {
-    const std::scoped_lock lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     count(content.size());
-    if (m_kind == Archive) {
-        addPath(relativePath);
-        spool(relativePath, content);
-    } else {
+    if (m_kind != Archive) {
         writeFile(makePlace(relativePath), content, m_shownTarget);
+        return;
     }
+    addPath(relativePath);
+    ArchivedFile &file = m_archived[relativePath];
+    lock.unlock(); // packing takes longer than all else
+    Packer packer;
+    QByteArray packed = packer.put(content);
+    packed += packer.finish();
+    lock.lock();
+    file.packed = packer.file();
+    spool(file, packed);
 }
 
 void PackageTarget::append(const QString &relativePath, const QByteArray &content)
 {
-    const std::scoped_lock lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     count(content.size());
-    if (m_kind == Archive) {
-        spool(relativePath, content);
+    const bool isNew = !m_paths.contains(relativePath);
+    if (m_kind != Archive) {
+        OutputFile file(isNew ? makePlace(relativePath) : directory() + QLatin1Char('/') + relativePath, m_shownTarget,
+                        OutputFile::Result, isNew ? OutputFile::New : OutputFile::Behind);
+        file.put(content);
+        file.finish();
         return;
     }
-    OutputFile file(directory() + QLatin1Char('/') + relativePath, m_shownTarget, OutputFile::Result,
-                    OutputFile::Behind);
-    file.put(content);
-    file.finish();
+    if (isNew) {
+        addPath(relativePath);
+    }
+    ArchivedFile &file = m_archived[relativePath];
+    lock.unlock();
+    if (!file.packer) {
+        file.packer = std::make_unique<Packer>();
+    }
+    const QByteArray packed = file.packer->put(content);
+    lock.lock();
+    spool(file, packed);
 }
 
-void PackageTarget::spool(const QString &relativePath, const QByteArray &content)
+void PackageTarget::spool(ArchivedFile &file, const QByteArray &packed)
 {
     if (!m_spool) {
         m_spool = std::make_unique<Spool>(m_staging->path() + piecesPart, m_shownTarget);
     }
-    ArchivedFile &file = m_archived[relativePath];
-    m_spool->put(file.pieces, content);
-    file.size += content.size();
+    m_spool->put(file.pieces, packed);
 }
 
 void PackageTarget::copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName)
@@ -249,7 +265,10 @@ void PackageTarget::copy(const QString &relativePath, const QString &sourceFile,
     count(QFileInfo(sourceFile).size());
     if (m_kind == Archive) {
         addPath(relativePath);
-        m_archived.insert(relativePath, {{}, sourceFile, sourceName, InputFile(sourceFile, sourceName).size()});
+        ArchivedFile &file = m_archived[relativePath];
+        file.source = sourceFile;
+        file.sourceName = sourceName;
+        file.size = InputFile(sourceFile, sourceName).size();
     } else {
         copyFile(sourceFile, sourceName, makePlace(relativePath), m_shownTarget);
     }
@@ -394,14 +413,22 @@ void PackageTarget::commitDirectory()
 
 void PackageTarget::commitArchive()
 {
+    for (auto &[path, archived] : m_archived) {
+        if (archived.packer) {
+            spool(archived, archived.packer->finish());
+            archived.packed = archived.packer->file();
+            archived.packer.reset();
+        }
+    }
     ZipWriter zip(file(), m_shownTarget);
-    for (auto it = m_archived.constBegin(); it != m_archived.constEnd(); ++it) {
-        if (it->source.isEmpty()) {
-            zip.add(it.key(), it->size,
-                    [&](qint64 begin, qint64 size) { return m_spool->bytes(it->pieces, begin, size); });
+    for (const auto &[path, archived] : m_archived) {
+        if (archived.source.isEmpty()) {
+            const Spool::Pieces &pieces = archived.pieces;
+            zip.addPacked(path, archived.packed,
+                          [this, &pieces](qint64 begin, qint64 size) { return m_spool->bytes(pieces, begin, size); });
         } else {
-            InputFile source(it->source, it->sourceName);
-            zip.add(it.key(), it->size, [&](qint64 begin, qint64 size) { return source.bytes(begin, size); });
+            InputFile source(archived.source, archived.sourceName);
+            zip.add(path, archived.size, [&source](qint64 begin, qint64 size) { return source.bytes(begin, size); });
         }
     }
     zip.finish();

@@ -3,14 +3,15 @@
 #define PACKAGETARGET_H
 
 #include "files/outputfile.h"
+#include "files/packer.h"
 #include "files/spool.h"
 #include "files/staging.h"
 
-#include <QMap>
 #include <QSet>
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 
@@ -59,7 +60,7 @@ public:
     std::unique_ptr<OutputFile> newFile(const QString &relativePath);
     //! It may be called in any thread, as append() and copy() may.
     void write(const QString &relativePath, const QByteArray &content);
-    //! Writes behind what write() has written.
+    //! Puts bytes behind what append() has put into the file before. One thread at a time does so.
     void append(const QString &relativePath, const QByteArray &content);
     //! sourceName stands for the source in messages. What goes into an archive stays where it is until commit().
     void copy(const QString &relativePath, const QString &sourceFile, const QString &sourceName);
@@ -69,10 +70,12 @@ public:
 
 private:
     /*!
-     * A file of an archive: what was written of it, or where it is copied from.
+     * A file of an archive: what was packed of it, or where it is copied from.
      */
     struct ArchivedFile
     {
+        std::unique_ptr<Packer> packer; // while more may come
+        PackedFile packed;
         Spool::Pieces pieces;
         QString source;
         QString sourceName;
@@ -83,7 +86,7 @@ private:
     QString directory() const;
     void addPath(const QString &relativePath);
     QString makePlace(const QString &relativePath);
-    void spool(const QString &relativePath, const QByteArray &content);
+    void spool(ArchivedFile &file, const QByteArray &packed);
     void count(qint64 bytes);
     QString shownPlace(const QString &relativePath) const;
     void checkPlace(const QString &path, const QString &shownName) const;
@@ -105,7 +108,7 @@ private:
     QSet<QString> m_paths;
     std::mutex m_mutex; // of what is put into it
     std::unique_ptr<Spool> m_spool; // of an archive
-    QMap<QString, ArchivedFile> m_archived;
+    std::map<QString, ArchivedFile> m_archived;
     qint64 m_bytes = 0; // of all files
     bool m_isKept = true;
 };

@@ -9,9 +9,7 @@
 #include "files/packagenames.h"
 
 #include <KCompressionDevice>
-#include <KZip>
 
-#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -19,8 +17,10 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <memory>
+#include <cstdio>
 #include <optional>
+
+#include <minizip/zip.h>
 
 namespace lessonhost {
 
@@ -367,6 +367,38 @@ void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry,
     }
 }
 
+uLong writeToDevice(void *, void *device, const void *bytes, uLong size)
+{
+    return uLong(static_cast<QIODevice *>(device)->write(static_cast<const char *>(bytes), qint64(size)));
+}
+
+ZPOS64_T placeInDevice(void *, void *device)
+{
+    return ZPOS64_T(static_cast<QIODevice *>(device)->pos());
+}
+
+long seekInDevice(void *, void *device, ZPOS64_T offset, int origin)
+{
+    auto *file = static_cast<QIODevice *>(device);
+    const qint64 begin = origin == SEEK_SET ? 0 : origin == SEEK_CUR ? file->pos() : file->size();
+    return file->seek(begin + qint64(offset)) ? 0 : -1;
+}
+
+// Null where there is no memory.
+zipFile zipOn(QIODevice &device)
+{
+    zlib_filefunc64_def calls = {};
+    calls.opaque = &device;
+    calls.zopen64_file = [](void *opaque, const void *, int) { return opaque; };
+    calls.zread_file = [](void *, void *, void *, uLong) { return uLong(0); };
+    calls.zwrite_file = writeToDevice;
+    calls.ztell64_file = placeInDevice;
+    calls.zseek64_file = seekInDevice;
+    calls.zclose_file = [](void *, void *) { return 0; }; // who made it closes it
+    calls.zerror_file = [](void *, void *) { return 0; };
+    return zipOpen2_64(nullptr, APPEND_STATUS_CREATE, nullptr, &calls);
+}
+
 } // namespace
 
 bool isPackedTooTightly(qint64 size, qint64 packedSize)
@@ -406,34 +438,61 @@ QStringList namesInZip(const QString &archive)
 ZipWriter::ZipWriter(OutputFile &archive, const QString &shownName)
     : m_archive(archive)
     , m_shownName(shownName)
-    , m_zip(std::make_unique<KZip>(&archive))
-    , m_isGood(m_zip->open(QIODevice::WriteOnly))
+    , m_zip(zipOn(archive))
+    , m_isGood(m_zip)
 {
 }
 
-ZipWriter::~ZipWriter() = default;
-
-void ZipWriter::add(const QString &name, qint64 size, const std::function<QByteArray(qint64 begin, qint64 size)> &bytes)
+ZipWriter::~ZipWriter()
 {
-    // The first one that archives know, in no zone: the same files give the same archive.
-    static const QDateTime noTime(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
-    m_isGood = m_isGood && m_zip->prepareWriting(name, {}, {}, size, 0100644, noTime, noTime, noTime);
+    if (m_zip) {
+        zipClose(m_zip, nullptr);
+    }
+}
+
+void ZipWriter::begin(const QString &name, bool isPacked)
+{
+    zip_fileinfo info = {};
+    info.dosDate = 1U << 21 | 1U << 16; // the first that archives know: the same files give the same archive
+    info.external_fa = 0100644U << 16;
+    constexpr uLong madeOnUnix = 3U << 8 | 20;
+    constexpr uLong isUtf8 = 1U << 11;
+    m_isGood = m_isGood
+        && zipOpenNewFileInZip4_64(m_zip, name.toUtf8().constData(), &info, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
+                                   Z_DEFAULT_COMPRESSION, isPacked ? 1 : 0, -MAX_WBITS, MAX_MEM_LEVEL,
+                                   Z_DEFAULT_STRATEGY, nullptr, 0, madeOnUnix, isUtf8, 0)
+            == ZIP_OK;
+}
+
+void ZipWriter::put(qint64 size, const Bytes &bytes)
+{
     for (qint64 at = 0; m_isGood && at < size; at += chunkSize) {
         const QByteArray chunk = bytes(at, qMin(chunkSize, size - at));
-        m_isGood = m_zip->writeData(chunk.constData(), chunk.size());
+        m_isGood = zipWriteInFileInZip(m_zip, chunk.constData(), uint(chunk.size())) == ZIP_OK;
     }
-    m_isGood = m_isGood && m_zip->finishWriting(size);
+}
+
+void ZipWriter::add(const QString &name, qint64 size, const Bytes &bytes)
+{
+    begin(name, false);
+    put(size, bytes);
+    m_isGood = m_isGood && zipCloseFileInZip(m_zip) == ZIP_OK;
+}
+
+void ZipWriter::addPacked(const QString &name, const PackedFile &file, const Bytes &bytes)
+{
+    begin(name, true);
+    put(file.packedSize, bytes);
+    m_isGood = m_isGood && zipCloseFileInZipRaw64(m_zip, ZPOS64_T(file.size), file.crc) == ZIP_OK;
 }
 
 void ZipWriter::finish()
 {
-    m_isGood = m_zip->close() && m_isGood;
-    // The archive's file knows more exactly why.
-    m_archive.check();
+    m_isGood = m_zip && zipClose(m_zip, nullptr) == ZIP_OK && m_isGood;
+    m_zip = nullptr;
+    m_archive.check(); // which knows why
     if (!m_isGood) {
-        throw LessonError(say("The archive can't be written: %1").arg(m_zip->errorString()),
-                          say("Check that there is room"))
-            .in(m_shownName);
+        throw LessonError(say("The archive can't be written"), say("Check that there is room")).in(m_shownName);
     }
 }
 

@@ -2,6 +2,7 @@
 #ifndef ZIPARCHIVE_H
 #define ZIPARCHIVE_H
 
+#include "files/packer.h"
 #include "sentences/sentence.h"
 
 #include <QByteArray>
@@ -9,9 +10,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <memory>
-
-class KZip;
 
 namespace lessonhost {
 
@@ -47,15 +45,23 @@ public:
     ZipWriter(const ZipWriter &) = delete;
     ZipWriter &operator=(const ZipWriter &) = delete;
 
-    //! bytes: a part of the file, and throws LessonError where there is none.
-    void add(const QString &name, qint64 size, const std::function<QByteArray(qint64 begin, qint64 size)> &bytes);
+    //! Where bytes of a file come from. Throws LessonError where there are none.
+    using Bytes = std::function<QByteArray(qint64 begin, qint64 size)>;
+
+    //! bytes: of the file.
+    void add(const QString &name, qint64 size, const Bytes &bytes);
+    //! bytes: of the file as it is packed.
+    void addPacked(const QString &name, const PackedFile &file, const Bytes &bytes);
     //! Throws LessonError if any of it could not be written.
     void finish();
 
 private:
+    void begin(const QString &name, bool isPacked);
+    void put(qint64 size, const Bytes &bytes);
+
     OutputFile &m_archive;
     QString m_shownName;
-    std::unique_ptr<KZip> m_zip;
+    void *m_zip; // null from when it is closed
     bool m_isGood;
 };
 

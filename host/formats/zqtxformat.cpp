@@ -321,7 +321,7 @@ public:
         , m_losses(context.losses)
         , m_target(path, isArchiveName(path) ? PackageTarget::Archive : PackageTarget::Directory, isZqtxFolder)
         , m_places(context.losses)
-        , m_checks(context.readsAhead)
+        , m_behind(context.readsAhead)
     {
     }
 
@@ -345,14 +345,14 @@ public:
         try {
             write(slide);
         } catch (const LessonError &) {
-            finishChecks();
+            finishBehind();
             throw;
         }
     }
 
     void finish() override
     {
-        finishChecks();
+        finishBehind();
         const QByteArray text = xmlDocumentText(writeIndex(m_context.plugin, m_presentation, m_ids).documentElement());
         if (!m_context.isTrial) {
             m_target.write(indexFile, text);
@@ -371,7 +371,7 @@ public:
 
 private:
     // Such that few slides wait for it.
-    static constexpr qint64 bytesOfCheck = qint64(16) * 1024 * 1024;
+    static constexpr qint64 bytesOfSlide = qint64(16) * 1024 * 1024;
 
     void write(const LessonSlide &slide)
     {
@@ -386,23 +386,23 @@ private:
         QDomDocument tree;
         const QByteArray text = m_slides->write(written, number, name, isVerified ? &tree : nullptr);
         checkSlideSize(text.size(), number, name);
-        if (!m_context.isTrial) {
-            m_target.write(slideFile(id), text);
-        }
         m_ids.append(id);
         m_usedIds.insert(id);
-        if (isVerified) {
-            const SlideLosses losses(m_places.next(), number);
-            m_checks.give(bytesOfCheck, [this, slide, written, tree, text, name, losses] {
+        const SlideLosses losses(isVerified ? m_places.next() : nullptr, number);
+        m_behind.give(bytesOfSlide, [this, slide, written, tree, text, name, isVerified, losses] {
+            if (!m_context.isTrial) {
+                m_target.write(slideFile(written.properties.value(SlideKeys::id).toString()), text);
+            }
+            if (isVerified) {
                 check(slide, written, tree, text, name, losses);
-            });
-        }
+            }
+        });
     }
 
     // So that all is told of the slides that are written.
-    void finishChecks()
+    void finishBehind()
     {
-        m_checks.finish();
+        m_behind.finish();
         m_places.finish();
     }
 
@@ -474,7 +474,7 @@ private:
     int m_placedItems = 0;
     std::unique_ptr<ZqtxSlides> m_slides;
     LossPlaces m_places;
-    WorkBehind m_checks; // ends before what it uses
+    WorkBehind m_behind; // packs and checks slides; ends before what it uses
 };
 
 } // namespace

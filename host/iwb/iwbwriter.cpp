@@ -255,7 +255,7 @@ void IwbWriter::startPages()
     m_contentSize = text.size();
     m_contentHash.addData(text.left(place));
     if (!m_context.isTrial) {
-        m_target.write(contentFile, text.left(place));
+        m_target.append(contentFile, text.left(place));
     }
     m_afterPages = text.mid(place + marked.size());
 }

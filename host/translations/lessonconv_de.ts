@@ -1235,10 +1235,6 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <translation>umgekehrte Schrägstriche in den Namen des Archivs wurden als Schrägstriche gelesen</translation>
     </message>
     <message>
-        <source>The archive can&apos;t be written: %1</source>
-        <translation>Das Archiv kann nicht geschrieben werden: %1</translation>
-    </message>
-    <message>
         <source>The format &quot;%1&quot; can&apos;t be written</source>
         <translation>Das Format „%1“ kann nicht geschrieben werden</translation>
     </message>
@@ -6567,6 +6563,10 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
     <message>
         <source>Check that there is enough memory</source>
         <translation>Prüfen Sie, ob genug Arbeitsspeicher frei ist</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be written</source>
+        <translation>Das Archiv kann nicht geschrieben werden</translation>
     </message>
 </context>
 </TS>

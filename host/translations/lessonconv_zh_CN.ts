@@ -1222,10 +1222,6 @@ or something is wrong that check looks for, 2 not done.</source>
         <translation>压缩包名称中的反斜杠已按斜杠处理</translation>
     </message>
     <message>
-        <source>The archive can&apos;t be written: %1</source>
-        <translation>无法写入压缩包：%1</translation>
-    </message>
-    <message>
         <source>The format &quot;%1&quot; can&apos;t be written</source>
         <translation>无法写入格式“%1”</translation>
     </message>
@@ -6248,6 +6244,10 @@ or something is wrong that check looks for, 2 not done.</source>
     <message>
         <source>Check that there is enough memory</source>
         <translation>请检查内存是否足够</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be written</source>
+        <translation>无法写入压缩包</translation>
     </message>
 </context>
 </TS>
