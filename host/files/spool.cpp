@@ -10,16 +10,17 @@ constexpr qint64 mostHeld = qint64(512) * 1024;
 
 } // namespace
 
-Spool::Spool(const QString &file, const QString &shownName)
+Spool::Spool(const QString &file, const QString &shownName, OutputFile::Use use)
     : m_path(file)
     , m_shownName(shownName)
+    , m_use(use)
 {
 }
 
 void Spool::put(Pieces &pieces, const QByteArray &bytes)
 {
     if (!m_file && m_held.size() + bytes.size() > mostHeld) {
-        m_file = std::make_unique<OutputFile>(m_path, m_shownName);
+        m_file = std::make_unique<OutputFile>(m_path, m_shownName, m_use);
         m_file->put(m_held);
         m_held = {};
     }

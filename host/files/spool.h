@@ -28,7 +28,7 @@ public:
     using Pieces = QVector<Piece>;
 
     //! file: made where it takes one. shownName is what a failure is about.
-    Spool(const QString &file, const QString &shownName);
+    Spool(const QString &file, const QString &shownName, OutputFile::Use use = OutputFile::Result);
 
     //! Puts bytes behind what pieces hold. Throws LessonError.
     void put(Pieces &pieces, const QByteArray &bytes);
@@ -40,6 +40,7 @@ private:
 
     QString m_path;
     QString m_shownName;
+    OutputFile::Use m_use;
     QByteArray m_held; // empty from when there is a file
     std::unique_ptr<OutputFile> m_file;
     std::unique_ptr<InputFile> m_read;

@@ -270,6 +270,7 @@ void checkEntries(const QString &archive, qint64 archiveSize, const QVector<ZipE
         refuse(archive, say("The archive has more than %1 entries").arg(maximumEntries));
     }
     QSet<QString> names;
+    QSet<QString> folders;
     qint64 total = 0;
     for (const ZipEntry &entry : entries) {
         const QString name = entry.isDirectory ? entry.name.chopped(1) : entry.name;
@@ -278,8 +279,16 @@ void checkEntries(const QString &archive, qint64 archiveSize, const QVector<ZipE
             refuse(archive, say("The archive names \"%1\" twice").arg(entry.name));
         }
         names.insert(name);
+        for (int slash = name.indexOf(QLatin1Char('/')); slash >= 0; slash = name.indexOf(QLatin1Char('/'), slash + 1)) {
+            folders.insert(name.left(slash));
+        }
         if (entry.size > mostBytesInArchive || (total += entry.size) > mostBytesInArchive) {
             refuse(archive, say("The archive unpacks to more than 2 GiB"));
+        }
+    }
+    for (const ZipEntry &entry : entries) {
+        if (folders.contains(entry.name)) { // which is a file as well
+            refuse(archive, say("The archive names \"%1\" twice").arg(entry.name));
         }
     }
     if (isPackedTooTightly(total, archiveSize)) {
@@ -334,8 +343,8 @@ qint64 contentOf(InputFile &file, const QString &archive, const ZipEntry &entry)
     return begin;
 }
 
-// No more than the size that was announced and checked is ever written.
-void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry, const QString &target)
+// No more than the size that was announced and checked is ever unpacked.
+void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry, const ZipReceiver &receiver)
 {
     PackedEntry packed(file, contentOf(file, archive, entry), entry.packedSize);
     KCompressionDevice unpacked(&packed, false, KCompressionDevice::GZip);
@@ -345,26 +354,22 @@ void unpackEntry(InputFile &file, const QString &archive, const ZipEntry &entry,
         unpacked.open(QIODevice::ReadOnly);
         source = &unpacked;
     }
-    makeFolders(QFileInfo(target).path(), archive, OutputFile::Temporary);
-    // Two names may be one where capitals don't count.
-    OutputFile output(target, archive, OutputFile::Temporary);
     qint64 size = 0;
     quint32 crc = 0;
-    while (size < entry.size) {
-        const QByteArray chunk = source->read(qMin(chunkSize, entry.size - size));
-        if (chunk.isEmpty()) {
-            break;
+    receiver(entry.name, entry.size, [&] {
+        const QByteArray piece = source->read(qMin(chunkSize, entry.size - size));
+        size += piece.size();
+        crc = updatedCrc(crc, piece);
+        if (piece.isEmpty()) {
+            file.check();
+            if (size != entry.size || crc != entry.crc) {
+                throw LessonError(say("The entry \"%1\" is damaged").arg(entry.name),
+                                  say("Copy or download the file again"))
+                    .in(archive);
+            }
         }
-        size += chunk.size();
-        crc = updatedCrc(crc, chunk);
-        output.put(chunk);
-    }
-    output.finish();
-    file.check();
-    if (size != entry.size || crc != entry.crc) {
-        throw LessonError(say("The entry \"%1\" is damaged").arg(entry.name), say("Copy or download the file again"))
-            .in(archive);
-    }
+        return piece;
+    });
 }
 
 uLong writeToDevice(void *, void *device, const void *bytes, uLong size)
@@ -406,20 +411,38 @@ bool isPackedTooTightly(qint64 size, qint64 packedSize)
     return size > harmlessSize && size / maximumRatio > packedSize;
 }
 
-Sentences unpackZip(const QString &archive, const QString &directory)
+Sentences unpackZip(const QString &archive, const ZipReceiver &receiver)
 {
     InputFile file(archive);
     const CentralDirectory list(file, archive);
     checkEntries(archive, file.size(), list.entries());
     for (const ZipEntry &entry : list.entries()) {
         if (!entry.isDirectory) {
-            unpackEntry(file, archive, entry, directory + QLatin1Char('/') + entry.name);
+            unpackEntry(file, archive, entry, receiver);
         }
     }
     const auto &entries = list.entries();
     const bool hasBackslash =
         std::any_of(entries.cbegin(), entries.cend(), [](const ZipEntry &entry) { return entry.hasBackslash; });
     return hasBackslash ? Sentences{say("the backslashes in the archive's names were taken for slashes")} : Sentences();
+}
+
+Sentences unpackZip(const QString &archive, const QString &directory)
+{
+    return unpackZip(archive, [&](const QString &name, qint64, const ZipPieces &next) {
+        unpackToFile(directory + QLatin1Char('/') + name, archive, next);
+    });
+}
+
+void unpackToFile(const QString &file, const QString &archive, const ZipPieces &next)
+{
+    makeFolders(QFileInfo(file).path(), archive, OutputFile::Temporary);
+    // Two names may be one where capitals don't count.
+    OutputFile output(file, archive, OutputFile::Temporary);
+    for (QByteArray piece = next(); !piece.isEmpty(); piece = next()) {
+        output.put(piece);
+    }
+    output.finish();
 }
 
 QStringList namesInZip(const QString &archive)

@@ -24,11 +24,22 @@ constexpr qint64 mostBytesInArchive = qint64(2) * 1024 * 1024 * 1024;
 //! there isn't so much of them in a lesson.
 bool isPackedTooTightly(qint64 size, qint64 packedSize);
 
-//! Unpacks a zip archive into an empty directory, after checking every entry: relative path inside, no link, no device,
-//! no name twice, no encryption, at most 100,000 entries, at most mostBytesInArchive, not packed too tightly. Archives
-//! with something before their beginning and those with 64-bit sizes are read as well. Backslashes between the parts of
-//! names count as slashes, which is returned as a sentence without a full stop. Throws LessonError.
+//! The next bytes of a file that is unpacked; none at its end. Throws LessonError where it is damaged.
+using ZipPieces = std::function<QByteArray()>;
+//! Takes the files of an archive one after the other, with their sizes; it asks for all pieces of each.
+using ZipReceiver = std::function<void(const QString &name, qint64 size, const ZipPieces &next)>;
+
+//! Unpacks a zip archive, after checking every entry: relative path inside, no link, no device, no name twice, no
+//! encryption, at most 100,000 entries, at most mostBytesInArchive, not packed too tightly. Archives with something
+//! before their beginning and those with 64-bit sizes are read as well. Backslashes between the parts of names count as
+//! slashes, which is returned as a sentence without a full stop. Throws LessonError.
+Sentences unpackZip(const QString &archive, const ZipReceiver &receiver);
+
+//! The same into an empty directory.
 Sentences unpackZip(const QString &archive, const QString &directory);
+
+//! Makes a file, and the folders on the way to it, of the pieces. Throws LessonError about the archive.
+void unpackToFile(const QString &file, const QString &archive, const ZipPieces &next);
 
 //! The names of the files in an archive, as they stand there and unchecked. Throws LessonError.
 QStringList namesInZip(const QString &archive);

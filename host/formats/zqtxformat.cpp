@@ -183,7 +183,7 @@ public:
         , m_source(path)
         , m_losses(context.losses)
     {
-        const QDomDocument document = loadXmlFile(m_source.file(indexFile), m_source.displayName(indexFile));
+        const QDomDocument document = m_source.xml(indexFile);
         const QDomElement root = rootOf(document, indexTag, m_source.displayName(indexFile));
         readSlideList(root);
         m_presentation = readIndex(context.plugin, root, location());
@@ -231,10 +231,9 @@ public:
 private:
     QDomDocument document(int index) const
     {
-        const QString file = m_source.file(m_files.at(index));
-        const QString name = m_source.displayName(m_files.at(index));
-        checkSlideSize(QFileInfo(file).size(), index + 1, name);
-        return loadXmlFile(file, name);
+        const QString &file = m_files.at(index);
+        checkSlideSize(m_source.size(file), index + 1, m_source.displayName(file));
+        return m_source.xml(file);
     }
 
     QString location() const { return m_source.directory() + QLatin1Char('/') + indexFile; }

@@ -208,8 +208,7 @@ QString IwbPackage::resolve(const QString &reference, Sentence *problem) const
     } else {
         *problem = problemWithPackagePath(decoded);
         if (problem->isEmpty()) {
-            const bool isFolder = QFileInfo(m_source.directory() + QLatin1Char('/') + decoded).isDir();
-            *problem = isFolder ? say("it is a folder") : say("the package has no such file");
+            *problem = m_source.containsFolder(decoded) ? say("it is a folder") : say("the package has no such file");
         }
     }
     return {};

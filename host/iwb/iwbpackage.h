@@ -43,6 +43,9 @@ public:
     bool contains(const QString &path) const { return m_source.contains(path); }
     //! Where a resource lies on disk. Throws LessonError.
     QString file(const QString &resource) const;
+    //! Of a file in the package, in bytes, and what is in it. Both throw LessonError.
+    qint64 size(const QString &path) const { return m_source.size(path); }
+    QByteArray content(const QString &path) const { return m_source.content(path); }
 
     //! The resource that a reference of the document means, or nothing and the reason as a clause.
     QString resolve(const QString &reference, Sentence *problem) const;

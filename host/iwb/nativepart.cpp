@@ -92,11 +92,11 @@ NativePage::Part readPart(const QJsonObject &json)
             json.value(Keys::item).toObject()};
 }
 
-QJsonObject objectIn(const QString &file, const QString &shownName)
+QJsonObject objectIn(const IwbPackage &package, const QString &file)
 {
-    InputFile input(file, shownName);
     // A page has its items twice where they are in groups.
-    return input.size() > 3 * maximumSlideSize ? QJsonObject() : QJsonDocument::fromJson(input.all()).object();
+    return package.size(file) > 3 * maximumSlideSize ? QJsonObject()
+                                                     : QJsonDocument::fromJson(package.content(file)).object();
 }
 
 // Whether a text says all of what it was written of. Where a value is read as another that is written alike, the text
@@ -204,7 +204,7 @@ NativePart::NativePart(const IwbPackage &package)
     if (!package.contains(lessonFile)) {
         return;
     }
-    const QJsonObject lesson = objectIn(package.file(lessonFile), lessonFile);
+    const QJsonObject lesson = objectIn(package, lessonFile);
     m_isThere = lesson.value(Keys::form).toInt() == form;
     if (!m_isThere) {
         return;
@@ -276,7 +276,7 @@ std::optional<NativePage> NativePart::page(const QString &pageId) const
         return {};
     }
     const QString file = pageFile(pageId);
-    const QJsonObject json = objectIn(m_package.file(file), file);
+    const QJsonObject json = objectIn(m_package, file);
     if (json.isEmpty()) {
         return {};
     }
