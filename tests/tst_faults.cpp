@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 #include <map>
 #include <random>
@@ -269,20 +270,26 @@ private slots:
     void packsWhatComesInPieces()
     {
         QFETCH(int, size);
-        const auto bytes = [size](char letter) { return QByteArray(size, letter); };
-        putFile(path("source"), bytes('s'));
+        const auto bytes = [size](quint32 seed) { // which can't be packed
+            QByteArray random(size, Qt::Uninitialized);
+            std::mt19937 generator(seed);
+            std::generate(random.begin(), random.end(), [&generator] { return char(generator()); });
+            return random;
+        };
+        putFile(path("source"), bytes(0));
         {
             PackageTarget target(path("a.zqtx"), PackageTarget::Archive);
-            target.write("b", bytes('1'));
-            target.write("a/c", bytes('2'));
+            target.append("b", bytes(1));
+            target.write("a/c", bytes(2));
             target.copy("d", path("source"), "source");
-            target.append("b", bytes('3'));
-            target.append("b", bytes('4'));
-            target.append("a/c", {});
+            target.append("b", bytes(3));
+            QVERIFY_EXCEPTION_THROWN(target.append("a/c", bytes(3)), LessonError);
+            target.append("b", bytes(4));
+            target.append("b", {});
             target.commit();
         }
         const std::map<QString, QByteArray> expected{
-            {"a/c", bytes('2')}, {"b", QByteArray(bytes('1') + bytes('3') + bytes('4'))}, {"d", bytes('s')}};
+            {"a/c", bytes(2)}, {"b", QByteArray(bytes(1) + bytes(3) + bytes(4))}, {"d", bytes(0)}};
         QVERIFY(contentOfTarget(path("a.zqtx")).toStdMap() == expected);
         QCOMPARE(hiddenEntries(m_folder->path()), QStringList());
     }

@@ -122,7 +122,7 @@ private slots:
         row("name of 300 letters", {{QByteArray(300, 'a'), "x"}}, "too long");
         row("path of 5000 letters", {{QByteArray("ab/").repeated(1600) + "c", "x"}}, "too long");
         row("folder twice", {{"images/", ""}, {"images/", ""}}, "twice");
-        row("file and folder of one name", {{"a", "x"}, {"a/b", "x"}}, "");
+        row("file and folder of one name", {{"a/b", "x"}, {"a", "x"}}, "twice");
         row("pipe", {{"a.png", "", true, 0010644U << 16}}, "link or a device");
         row("link to a folder", {{"slides", "/etc", false, 0120777U << 16}}, "link or a device");
         row("another name before the content", {{"a.png", "x", true, 0, "../a.png"}}, "");

@@ -238,14 +238,12 @@ void PackageTarget::append(const QString &relativePath, const QByteArray &conten
         file.finish();
         return;
     }
-    if (isNew) {
+    if (isNew || !m_archived[relativePath].packer) { // which write() has finished
         addPath(relativePath);
+        m_archived[relativePath].packer = std::make_unique<Packer>();
     }
     ArchivedFile &file = m_archived[relativePath];
     lock.unlock();
-    if (!file.packer) {
-        file.packer = std::make_unique<Packer>();
-    }
     const QByteArray packed = file.packer->put(content);
     lock.lock();
     spool(file, packed);

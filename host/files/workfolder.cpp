@@ -52,7 +52,16 @@ void sweep()
 
 } // namespace
 
-WorkFolder::WorkFolder()
+QString WorkFolder::path() const
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_path.isEmpty()) {
+        make();
+    }
+    return m_path;
+}
+
+void WorkFolder::make() const
 {
     static std::once_flag swept;
     std::call_once(swept, sweep);
@@ -80,6 +89,9 @@ WorkFolder::WorkFolder()
 
 WorkFolder::~WorkFolder()
 {
+    if (m_path.isEmpty()) {
+        return;
+    }
     removeFolder(m_path);
     if (m_lock >= 0) {
         ::close(m_lock);
