@@ -16,7 +16,7 @@ namespace lessonhost {
 namespace {
 
 // With anything else on an element, it may be hidden, cut off or painted with what isn't there.
-const QSet<QString> &shapeAttributes()
+const QSet<QString> &harmlessOnShapes()
 {
     static const QSet<QString> names = attributeSetOfShape({
         "fill",
@@ -34,14 +34,14 @@ const QSet<QString> &shapeAttributes()
     return names;
 }
 
-const QSet<QString> &groupAttributes()
+const QSet<QString> &harmlessOnGroups()
 {
     static const QSet<QString> names = attributeSet(
         {"transform", "text-anchor", "text-rendering", "font-family", "font-size", "fill", "style", "xml:lang"});
     return names;
 }
 
-const QSet<QString> &textAttributes()
+const QSet<QString> &harmlessOnTexts()
 {
     static const QSet<QString> names = attributeSet({"x", "y", "fill", "font-family", "font-size", "font-style",
                                                      "font-weight", "style", "text-anchor", "xml:lang", "xml:space"});
@@ -74,7 +74,7 @@ bool isPainted(const QDomElement &shape, const char *name, const char *opacity)
         && numberOf(shape, "opacity", 1) * numberOf(shape, opacity, 1) >= smallestOpacity;
 }
 
-double smallestScale(const QTransform &transform)
+double leastScale(const QTransform &transform)
 {
     const double across = std::hypot(transform.m11(), transform.m12());
     const double down = std::hypot(transform.m21(), transform.m22());
@@ -104,8 +104,8 @@ bool isSure(const QDomElement &shape, const QTransform &toPage, const QRectF &ar
     const bool isFilled = isPainted(shape, "fill", "fill-opacity");
     const bool isLined = isPainted(shape, "stroke", "stroke-opacity")
         && !shape.hasAttribute(QStringLiteral("stroke-dasharray"))
-        && numberOf(shape, "stroke-width", 1) * smallestScale(toPage) >= smallestWidth;
-    if ((!isFilled && !isLined) || !hasOnly(shape, shapeAttributes())) {
+        && numberOf(shape, "stroke-width", 1) * leastScale(toPage) >= smallestWidth;
+    if ((!isFilled && !isLined) || !hasOnly(shape, harmlessOnShapes())) {
         return false;
     }
     const auto outline = svgOutline(shape);
@@ -165,8 +165,8 @@ bool isSureText(const QDomElement &text, const QTransform &toPage, const QRectF 
     bool isNumber = false;
     const double size = inherited(text, "font-size").toDouble(&isNumber);
     const QString color = inherited(text, "fill");
-    if (letters.size() <= mostBetween || !isNumber || !(size * smallestScale(toPage) >= smallestLetters)
-        || !isWholeColor(color) || !hasOnly(text, textAttributes()) || !namesFontOnly(text)
+    if (letters.size() <= mostBetween || !isNumber || !(size * leastScale(toPage) >= smallestLetters)
+        || !isWholeColor(color) || !hasOnly(text, harmlessOnTexts()) || !namesFontOnly(text)
         || !text.firstChildElement().isNull()) {
         return false;
     }
@@ -187,7 +187,7 @@ bool isSurelySeenIn(const QDomElement &parent, const QTransform &toPage, const Q
         const QTransform placed = *own * toPage;
         const QString tag = e.tagName();
         const bool isSeen = tag == QLatin1String("g")
-            ? hasOnly(e, groupAttributes()) && namesFontOnly(e) && isSurelySeenIn(e, placed, area)
+            ? hasOnly(e, harmlessOnGroups()) && namesFontOnly(e) && isSurelySeenIn(e, placed, area)
             : tag == QLatin1String("text") ? isSureText(e, placed, area)
                                            : isSure(e, placed, area);
         if (isSeen) {

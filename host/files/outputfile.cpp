@@ -18,7 +18,7 @@ namespace lessonhost {
 
 namespace {
 
-constexpr int pieceSize = 64 * 1024;
+constexpr int mostWaiting = 64 * 1024;
 constexpr qint64 copiedPiece = qint64(256) * 1024;
 
 } // namespace
@@ -89,16 +89,16 @@ bool OutputFile::seek(qint64 position)
 qint64 OutputFile::writeData(const char *data, qint64 size)
 {
     const qint64 failed = m_tellsLater ? size : -1;
-    if (m_error || (m_waiting.size() + size > pieceSize && !flush())) {
+    if (m_error || (m_waiting.size() + size > mostWaiting && !flush())) {
         return failed;
     }
-    if (size < pieceSize) {
+    if (size < mostWaiting) {
         m_waiting.append(data, int(size));
         m_end = qMax(m_end, m_position + m_waiting.size());
         return size;
     }
     for (qint64 done = 0; done < size;) {
-        const qint64 count = qMin(size - done, qint64(pieceSize) * 16);
+        const qint64 count = qMin(size - done, qint64(mostWaiting) * 16);
         m_waiting = QByteArray::fromRawData(data + done, int(count));
         if (!flush()) {
             return failed;
