@@ -41,6 +41,8 @@ public:
 
     bool isOpen() const { return m_descriptor >= 0; }
     int descriptor() const { return m_descriptor; }
+    //! Why it isn't open, an errno.
+    int error() const { return m_error; }
     //! Whether it belongs to the user who runs this.
     bool isOwn() const;
 
@@ -57,7 +59,7 @@ public:
 
 private:
     int m_descriptor;
-    int m_error; // why it isn't open
+    int m_error;
 };
 
 //! Removes a folder with everything in it; its own path may be anything but a link.

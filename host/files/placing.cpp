@@ -71,8 +71,12 @@ PlacingBeside::~PlacingBeside()
 
 bool PlacingBeside::place(const QByteArray &name)
 {
-    if (m_error || m_asideError || !m_to.isOpen()) {
-        errno = m_error ? m_error : m_asideError ? m_asideError : ENOTDIR;
+    int error = m_error ? m_error : m_asideError;
+    for (const Folder *folder : {&m_from, &m_to, &m_aside}) {
+        error = error || folder->isOpen() ? error : folder->error();
+    }
+    if (error) {
+        errno = error;
         return false;
     }
     return m_placing->place(name);
