@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -16,6 +17,7 @@
 #include <cstring>
 
 #include <fcntl.h>
+#include <sched.h>
 #include <unistd.h>
 
 using namespace lessonhost;
@@ -444,6 +446,39 @@ private slots:
                 QCOMPARE(leftovers(), QStringList());
             }
         }
+    }
+
+    // Threads or none, of a picture that can't be written and a slide behind it that can't be read the picture is told.
+    void tellsTheFirstFailure()
+    {
+        QImage noise(400, 400, QImage::Format_RGB32);
+        QRandomGenerator random(1);
+        random.fillRange(reinterpret_cast<quint32 *>(noise.bits()), 400 * 400);
+        QVERIFY(noise.save(path("in/noise.tif")));
+        putFile(
+            path("in/bad.json"),
+            R"({"Slides":[{"Items":[{"Type":"ZQImagePic","resource":"a.tif","BoundingBox":"1,1,9,9"}]},{"Items":5}],)"
+            "\"Resources\":{\"a.tif\":\""
+                + fileContent(path("in/noise.tif")).toBase64() + "\"}}");
+        const auto told = [this](bool isAlone, int call) {
+            cpu_set_t all, one;
+            ::sched_getaffinity(0, sizeof all, &all);
+            CPU_ZERO(&one);
+            CPU_SET(::sched_getcpu(), &one);
+            restore();
+            ::sched_setaffinity(0, sizeof one, isAlone ? &one : &all); // which the command inherits
+            const QString errors = run({{"convert", "in/bad.json", "out/f", "--to", "iwb"}, {}}, Once, call).errors;
+            ::sched_setaffinity(0, sizeof all, &all);
+            return errors;
+        };
+        QVERIFY(told(false, 0).contains("Slide 2"));
+        const int last = callsOfLastRun();
+        QStringList failures;
+        for (int call = last / 2; call <= last; ++call) {
+            failures.append(told(true, call));
+            QCOMPARE(told(false, call), failures.last());
+        }
+        QVERIFY(!failures.filter("out/f: It can't be written").isEmpty() && !failures.filter("Slide 2").isEmpty());
     }
 };
 

@@ -64,9 +64,9 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
         added.insert(resource);
     }
     const int count = reader->slideCount();
-    for (int i = 0; i < count; ++i) {
-        const LessonSlide slide = reader->slide(i);
-        reportKeptItems(slide.items, SlideLosses(context.losses, i + 1));
+    const auto pass = [&](int index) {
+        const LessonSlide slide = reader->slide(index);
+        reportKeptItems(slide.items, SlideLosses(context.losses, index + 1));
         const QMap<QString, QString> pictures = picturesInData(slide.properties);
         for (auto it = pictures.constBegin(); it != pictures.constEnd(); ++it) {
             if (!added.contains(it.key())) {
@@ -75,6 +75,14 @@ void convertLesson(const LessonFormat &from, const QString &input, const LessonF
             }
         }
         writer->writeSlide(slide);
+    };
+    for (int i = 0; i < count; ++i) {
+        try {
+            pass(i);
+        } catch (const LessonError &) {
+            writer->settle();
+            throw;
+        }
         progress(i + 1, count);
     }
     writer->finish();

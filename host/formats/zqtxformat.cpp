@@ -344,14 +344,21 @@ public:
         try {
             write(slide);
         } catch (const LessonError &) {
-            finishBehind();
+            settle();
             throw;
         }
     }
 
+    // So that all is told of the slides that are written.
+    void settle() override
+    {
+        m_behind.finish();
+        m_places.finish();
+    }
+
     void finish() override
     {
-        finishBehind();
+        settle();
         const QByteArray text = xmlDocumentText(writeIndex(m_context.plugin, m_presentation, m_ids).documentElement());
         if (!m_context.isTrial) {
             m_target.write(indexFile, text);
@@ -396,13 +403,6 @@ private:
                 check(slide, written, tree, text, name, losses);
             }
         });
-    }
-
-    // So that all is told of the slides that are written.
-    void finishBehind()
-    {
-        m_behind.finish();
-        m_places.finish();
     }
 
     // Reads back what was written. Any thread may do it. tree: what the text was written from.

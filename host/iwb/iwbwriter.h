@@ -33,6 +33,11 @@ public:
     void begin(const QJsonObject &presentation) override;
     void addResource(const QString &relativePath, const QString &sourceFile) override;
     void writeSlide(const LessonSlide &slide) override;
+    void settle() override
+    {
+        finishPages();
+        m_packing.finish();
+    }
     void finish() override;
 
 private:

@@ -76,6 +76,9 @@ public:
     //! Where resources are needed while slides are written, they are added before the slides.
     virtual void addResource(const QString &relativePath, const QString &sourceFile) = 0;
     virtual void writeSlide(const LessonSlide &slide) = 0;
+    //! When there can't be another slide: waits for what other threads do about those that are written. A failure of
+    //! theirs comes first.
+    virtual void settle() { }
     //! Last: puts what was written in the place of whatever was at the target.
     virtual void finish() = 0;
 };
