@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "command/pluginhost.h"
+#include "files/cores.h"
 #include "files/lessonerror.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
@@ -8,7 +9,6 @@
 #include <QLoggingCategory>
 
 #include <cstdio>
-#include <thread>
 
 #ifdef WITH_MIMALLOC
 #include <mimalloc.h>
@@ -42,7 +42,7 @@ int main(int argc, char **argv)
         LessonContext context;
         context.plugin = host.plugin();
         context.losses = &losses;
-        context.readsAhead = std::thread::hardware_concurrency() > 1;
+        context.readsAhead = usableCores() > 1;
         convertLesson(lessonFormatOfInput(words.at(1)), words.at(1), lessonFormatByName(QStringLiteral("iwb")),
                       words.at(2), context, [](int, int) {});
         return 0;

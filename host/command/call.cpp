@@ -3,14 +3,13 @@
 
 #include "command/pluginhost.h"
 #include "command/terminal.h"
+#include "files/cores.h"
 #include "files/inputguard.h"
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
 #include "formats/lessonformats.h"
 #include "lesson/isoneof.h"
 #include "render/slideitempainter.h"
-
-#include <thread>
 
 namespace lessonhost {
 
@@ -79,7 +78,7 @@ void Call::tellName(const QString &input, const LessonFormat &format) const
 // The workers of a batch have a core each.
 bool Call::hasIdleCores() const
 {
-    return !isOneOf(serveWords, m_line.words().first()) && std::thread::hardware_concurrency() > 1;
+    return !isOneOf(serveWords, m_line.words().first()) && usableCores() > 1;
 }
 
 LessonContext Call::readingContext(const PluginHost &host) const

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "command/commandline.h"
 
+#include "files/cores.h"
 #include "files/lessonerror.h"
 #include "lesson/isoneof.h"
 #include "sentences/language.h"
 
 #include <QCoreApplication>
-#include <QThread>
 #include <QTranslator>
 
 #include <algorithm>
@@ -193,7 +193,7 @@ QStringList CommandLine::givenFormatOptions() const
 
 int CommandLine::jobs() const
 {
-    const int number = isSet("jobs") ? value("jobs").toInt() : QThread::idealThreadCount();
+    const int number = isSet("jobs") ? value("jobs").toInt() : usableCores();
     if (isSet("jobs") && (number < 1 || number > mostJobs)) {
         throw LessonError(say("\"%1\" is no number of jobs").arg(value("jobs")),
                           say("Give a number from 1 to %1, such as --jobs 4").arg(mostJobs));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "files/workbehind.h"
 
+#include "files/cores.h"
 #include "files/startedthread.h"
 
 #include <utility>
@@ -13,7 +14,7 @@ constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
 
 int mostThreads(WorkBehind::Order order)
 {
-    const int beside = int(std::thread::hardware_concurrency()) - 1;
+    const int beside = usableCores() - 1;
     return order == WorkBehind::Order::AsGiven ? qMin(1, beside) : beside;
 }
 
@@ -23,7 +24,7 @@ WorkBehind::WorkBehind(bool isBehind, Order order)
     : m_order(order)
     , m_mostThreads(isBehind ? mostThreads(order) : 0)
 {
-    m_threads.reserve(std::size_t(qMax(0, m_mostThreads))); // so that a thread that is made can be kept
+    m_threads.reserve(std::size_t(m_mostThreads)); // so that a thread that is made can be kept
 }
 
 WorkBehind::~WorkBehind()
