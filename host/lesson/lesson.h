@@ -149,7 +149,7 @@ struct LessonContext
     LossReport *losses = nullptr;
     bool verify = true; //!< read back what was written and report what did not survive
     bool isKept = true; //!< the output is for the user, and not only for what is made of it
-    bool readsAhead = false; //!< other threads may read what will be asked for, and pack what is written
+    bool readsAhead = false; //!< other threads may read what will be asked for, and check and write what was given
     bool isTrial = false; //!< nothing is to be written: it is only asked what would be lost
     QHash<QString, QString> options; //!< of single formats, by the name of the command's option
     //! Makes a painter for the lesson of a reader; may be empty. isTrial: its pictures need no pixels, and their boxes
