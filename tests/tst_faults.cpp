@@ -331,8 +331,9 @@ private slots:
         QCOMPARE(convert("in.zqtx", "out.json", diePastSmallFiles).exitCode, -1);
         QCOMPARE(workFolders().size(), 1);
         const WorkFolder living;
+        const QStringList inUse(QFileInfo(living.path()).fileName());
         QCOMPARE(convert("in.zqtx", "out.json").exitCode, 0);
-        QCOMPARE(workFolders(), QStringList(QFileInfo(living.path()).fileName()));
+        QCOMPARE(workFolders(), inUse);
     }
 };
 
