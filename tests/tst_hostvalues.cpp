@@ -217,17 +217,25 @@ private slots:
         }
         QBuffer none;
         QVERIFY(none.open(QIODevice::WriteOnly) && !writePaintedPng({}, &none));
-        QImage noise(300, 200, QImage::Format_RGB32);
-        std::generate_n(reinterpret_cast<QRgb *>(noise.bits()), 300 * 200, [&random] { return random.generate(); });
-        int pieces = 0; // that go out one after the other
-        for (bool isWritten = false; !isWritten; ++pieces) {
-            FullDevice full(pieces, false), throwing(pieces, true);
-            isWritten = writePaintedPng(noise, &full);
-            if (!isWritten) {
-                QVERIFY_EXCEPTION_THROWN(writePaintedPng(noise, &throwing), LessonError);
+        // Packed as a whole and by lines: a failure at any of the pieces that go out.
+        for (const QSize size : {QSize(300, 200), QSize(2100, 2100)}) {
+            QImage noise(size, QImage::Format_RGB32);
+            noise.fill(Qt::black);
+            std::generate_n(reinterpret_cast<QRgb *>(noise.bits()), 300 * 200, [&random] { return random.generate(); });
+            int pieces = 0;
+            QByteArray written;
+            while (written.isEmpty()) {
+                FullDevice full(pieces, false), throwing(pieces, true);
+                if (writePaintedPng(noise, &full)) {
+                    written = full.data();
+                } else {
+                    QVERIFY_EXCEPTION_THROWN(writePaintedPng(noise, &throwing), LessonError);
+                    pieces += noise.width() > 1000 ? 10 : 1;
+                }
             }
+            QVERIFY2(pieces > 10, qPrintable(QString::number(pieces)));
+            QCOMPARE(QImage::fromData(written, "png").convertToFormat(noise.format()), noise);
         }
-        QVERIFY2(pieces > 20, qPrintable(QString::number(pieces)));
     }
 
     // Texts that are read by expat, and those that are left to Qt's parser: both ways they give the same tree.
