@@ -493,7 +493,7 @@ bool IwbEdits::dissolve(int slide)
             m_free[slide].removeAll(id);
         }
         m_done.append("dissolved " + item.value("ID").toString());
-        tell(slide, item.value("ID").toVariant().toString(), "its items");
+        tell(slide, valueText(item.value("ID")), "its items");
     }
     setItems(slide, loose);
     return isDone;
