@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "command/pluginhost.h"
-#include "files/cores.h"
 #include "files/lessonerror.h"
 #include "formats/conversion.h"
 #include "losses/lossreport.h"
+#include "threads/cores.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>

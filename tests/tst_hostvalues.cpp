@@ -2,8 +2,6 @@
 #include "files/compactjson.h"
 #include "files/lessonerror.h"
 #include "files/paintedpng.h"
-#include "files/readahead.h"
-#include "files/workbehind.h"
 #include "files/xmlbuilder.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
@@ -22,6 +20,8 @@
 #include "pluginfixture.h"
 #include "svg/pluginoutlines.h"
 #include "svg/svgvalues.h"
+#include "threads/readahead.h"
+#include "threads/workbehind.h"
 
 #include <QBuffer>
 #include <QImage>

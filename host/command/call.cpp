@@ -3,13 +3,13 @@
 
 #include "command/pluginhost.h"
 #include "command/terminal.h"
-#include "files/cores.h"
 #include "files/inputguard.h"
 #include "files/lessonerror.h"
 #include "files/outputfile.h"
 #include "formats/lessonformats.h"
 #include "lesson/isoneof.h"
 #include "render/slideitempainter.h"
+#include "threads/cores.h"
 
 namespace lessonhost {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "command/commandline.h"
 
-#include "files/cores.h"
 #include "files/lessonerror.h"
 #include "lesson/isoneof.h"
 #include "sentences/language.h"
+#include "threads/cores.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -55,7 +55,7 @@ const std::vector<CommandOption> &commandOptions()
         {"out-dir", "folder", Option::OnTheRun, "convert:out-dir render:out-dir check:out-dir",
          TO_SAY("Many: the folder for the results.")},
         {"jobs", "number", Option::OnTheRun, "convert:out-dir render:out-dir check:out-dir",
-         TO_SAY("Many: this many at the same time; as many as the machine has cores otherwise.")},
+         TO_SAY("Many: this many at the same time; otherwise one for each core that may be used.")},
         {"lesson-timeout", "seconds", Option::OnTheRun, "convert:out-dir render:out-dir check:out-dir",
          TO_SAY("Many: give up a lesson that takes longer.")},
         {"resume", nullptr, Option::OnTheRun, "convert:out-dir render:out-dir check:out-dir",

@@ -5,7 +5,6 @@
 #include "files/inputfile.h"
 #include "files/lessonerror.h"
 #include "files/packagesource.h"
-#include "files/readahead.h"
 #include "files/xmlparts.h"
 #include "formats/keptitem.h"
 #include "formats/rawattributes.h"
@@ -19,6 +18,7 @@
 #include "lesson/slidelimits.h"
 #include "losses/carriedcheck.h"
 #include "losses/slidelosses.h"
+#include "threads/readahead.h"
 
 #include <QDir>
 #include <QFileInfo>

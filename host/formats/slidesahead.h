@@ -2,9 +2,9 @@
 #ifndef SLIDESAHEAD_H
 #define SLIDESAHEAD_H
 
-#include "files/readahead.h"
 #include "formats/lessonformats.h"
 #include "losses/lossreport.h"
+#include "threads/readahead.h"
 
 #include <QHash>
 

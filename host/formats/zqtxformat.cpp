@@ -7,8 +7,6 @@
 #include "files/packagenames.h"
 #include "files/packagesource.h"
 #include "files/packagetarget.h"
-#include "files/readahead.h"
-#include "files/workbehind.h"
 #include "files/xmlloader.h"
 #include "files/xmlreadback.h"
 #include "files/xmltext.h"
@@ -25,6 +23,8 @@
 #include "losses/lossplaces.h"
 #include "losses/slidelosses.h"
 #include "svg/pluginoutlines.h"
+#include "threads/readahead.h"
+#include "threads/workbehind.h"
 
 #include <QFileInfo>
 #include <QSet>

@@ -3,7 +3,6 @@
 #define IWBWRITER_H
 
 #include "files/packagetarget.h"
-#include "files/workbehind.h"
 #include "iwb/boarddress.h"
 #include "iwb/iwbmedia.h"
 #include "iwb/iwbpagecheck.h"
@@ -13,6 +12,7 @@
 #include "lesson/missingfonts.h"
 #include "losses/lossplaces.h"
 #include "losses/slidelosses.h"
+#include "threads/workbehind.h"
 
 #include <QCryptographicHash>
 #include <QDomDocument>

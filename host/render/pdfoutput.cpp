@@ -3,10 +3,10 @@
 
 #include "canvas/picturestore.h"
 #include "files/lessonerror.h"
-#include "files/startedthread.h"
 #include "render/pdflibrary.h"
 #include "render/slidelayers.h"
 #include "render/slidepictures.h"
+#include "threads/startedthread.h"
 
 #include <QFile>
 #include <QPainter>

@@ -4,7 +4,7 @@
 #   cmake -DHOST=folder -P check.cmake
 
 # From above to below; the rooms of one floor don't know one another.
-set(floors "command" "batch" "formats|render" "drawings" "canvas" "iwb" "losses|svg" "lesson" "files" "sentences")
+set(floors "command" "batch" "formats|render" "drawings" "canvas" "iwb" "losses|svg" "lesson" "files" "sentences|threads")
 
 set(closed "")
 foreach(floor IN LISTS floors)

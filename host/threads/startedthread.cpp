@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "files/startedthread.h"
+#include "threads/startedthread.h"
 
 #include <system_error>
 

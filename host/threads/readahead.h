@@ -2,7 +2,7 @@
 #ifndef READAHEAD_H
 #define READAHEAD_H
 
-#include "files/startedthread.h"
+#include "threads/startedthread.h"
 
 #include <condition_variable>
 #include <functional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "files/workbehind.h"
+#include "threads/workbehind.h"
 
-#include "files/cores.h"
-#include "files/startedthread.h"
+#include "threads/cores.h"
+#include "threads/startedthread.h"
 
 #include <utility>
 

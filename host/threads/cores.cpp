@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "files/cores.h"
+#include "threads/cores.h"
 
 #include <algorithm>
 #include <thread>
