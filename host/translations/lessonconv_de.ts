@@ -431,8 +431,8 @@ mit Verlusten und --strict oder check fand etwas, 2 nicht erledigt.</translation
         <translation>Viele: der Ordner für die Ergebnisse.</translation>
     </message>
     <message>
-        <source>Many: this many at the same time; as many as the machine has cores otherwise.</source>
-        <translation>Viele: so viele zur gleichen Zeit; sonst so viele, wie der Rechner Kerne hat.</translation>
+        <source>Many: this many at the same time; otherwise one for each core that may be used.</source>
+        <translation>Viele: so viele zur gleichen Zeit; sonst eine für jeden Kern, der benutzt werden darf.</translation>
     </message>
     <message>
         <source>Many: give up a lesson that takes longer.</source>

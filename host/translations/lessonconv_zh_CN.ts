@@ -418,8 +418,8 @@ or something is wrong that check looks for, 2 not done.</source>
         <translation>多个课件：存放结果的文件夹。</translation>
     </message>
     <message>
-        <source>Many: this many at the same time; as many as the machine has cores otherwise.</source>
-        <translation>多个课件：同时处理的数量；默认与处理器核心数相同。</translation>
+        <source>Many: this many at the same time; otherwise one for each core that may be used.</source>
+        <translation>多个课件：同时处理的数量；默认每个可用的处理器核心一个。</translation>
     </message>
     <message>
         <source>Many: give up a lesson that takes longer.</source>
